@@ -1,0 +1,41 @@
+# How every target of this project is compiled: language level, release by default, warnings, sanitizers.
+include_guard(GLOBAL)
+
+if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+  set(CMAKE_BUILD_TYPE Release CACHE STRING "Build type" FORCE)
+endif()
+
+find_package(Threads REQUIRED)
+
+# Compile options of our own targets, never handed to a consumer.
+function(ravo_own_target target)
+  target_compile_features(${target} PUBLIC cxx_std_20)
+  set_target_properties(${target} PROPERTIES CXX_EXTENSIONS OFF C_STANDARD 11 C_EXTENSIONS OFF
+    C_VISIBILITY_PRESET hidden CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON
+    POSITION_INDEPENDENT_CODE ON)
+  target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wundef
+    $<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor -Woverloaded-virtual>
+    # GCC 12 sees overlapping copies in std::basic_string's operator+ where there are none (GCC bug 105651).
+    $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
+  if(RAVO_WARNINGS_AS_ERRORS)
+    target_compile_options(${target} PRIVATE -Werror)
+  endif()
+  if(RAVO_SANITIZE)
+    target_compile_options(${target} PRIVATE -fsanitize=${RAVO_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(${target} PRIVATE -fsanitize=${RAVO_SANITIZE})
+  endif()
+endfunction()
+
+# Headers of a header-only package of the distribution, reachable for cross compilers too: /usr/include as a
+# whole would give them the wrong C library.
+function(ravo_packaged_headers target folder)
+  if(NOT EXISTS /usr/include/${folder})
+    message(FATAL_ERROR "/usr/include/${folder} is missing: scripts/setup run installs what the build needs")
+  endif()
+  set(place ${PROJECT_BINARY_DIR}/packaged-headers)
+  file(MAKE_DIRECTORY ${place})
+  if(NOT EXISTS ${place}/${folder})
+    file(CREATE_LINK /usr/include/${folder} ${place}/${folder} SYMBOLIC)
+  endif()
+  target_include_directories(${target} SYSTEM PRIVATE ${place})
+endfunction()

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <ravo/platform/machine.h>
+
+/// What the operating system's entry points call when it maps and unmaps the shared library. The room that
+/// keeps the module record defines both.
+namespace ravo::platform {
+
+void LibraryAttached(ModuleHandle library) noexcept;
+void LibraryDetached() noexcept;
+
+/// The module that this code was linked into: the shared library, or the program of a static build.
+[[nodiscard]] ModuleHandle ThisModule() noexcept;
+
+}  // namespace ravo::platform

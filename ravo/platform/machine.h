@@ -1,0 +1,211 @@
+#pragma once
+
+#include <ravo/runtime/byte_stream.h>
+#include <ravo/runtime/date_time.h>
+#include <ravo/runtime/export.h>
+#include <ravo/runtime/format_settings.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// The one door to the operating system: what the library asks of the machine, in its own terms. Each
+/// question says 'none' (no value, an empty text) where the machine has no answer; none of them raises unless
+/// it says so.
+namespace ravo::platform {
+
+/// The family of operating systems that a version record speaks of. The first three have the numbers that
+/// Windows gives them.
+enum class SystemFamily : std::uint32_t { Win32s = 0, Windows9x = 1, WindowsNt = 2, Other = 3 };
+
+/// What kind of Windows product it is, with the numbers of the version record.
+enum class ProductType : std::uint8_t { Unknown = 0, Workstation = 1, DomainController = 2, Server = 3 };
+
+/// The extended version record.
+struct SystemVersion {
+  SystemFamily family = SystemFamily::Other;
+  std::uint32_t major = 0;
+  std::uint32_t minor = 0;
+  std::uint32_t build = 0;
+  /// At most 127 units.
+  std::u16string service_pack;
+  std::uint16_t suite_mask = 0;
+  ProductType product_type = ProductType::Unknown;
+};
+
+/// Processor architectures with the numbers that Windows gives them; only one of them decides anything.
+inline constexpr std::uint16_t kArchitectureIntel = 0;
+inline constexpr std::uint16_t kArchitectureAmd64 = 9;
+
+enum class SystemFolder : std::uint8_t { System, Windows, Temporary, CommonDocuments };
+
+/// Byte counts as 32-bit numbers; larger ones read as the largest.
+struct MemoryFigures {
+  std::uint32_t total_physical = 0;
+  std::uint32_t available_physical = 0;
+  std::uint32_t total_virtual = 0;
+  std::uint32_t available_virtual = 0;
+  std::uint32_t total_page_file = 0;
+  std::uint32_t available_page_file = 0;
+};
+
+/// What a drive is, with the numbers that Windows gives.
+enum class DriveKind : std::uint32_t {
+  Unknown = 0,
+  NoRoot = 1,
+  Removable = 2,
+  Fixed = 3,
+  Remote = 4,
+  CdRom = 5,
+  RamDisk = 6
+};
+
+struct DiskSpace {
+  std::int64_t total = 0;
+  /// What the caller may still use.
+  std::int64_t available = 0;
+};
+
+/// What a directory search tells of a file.
+struct FileFacts {
+  std::int64_t size = 0;
+  /// Last write, in local time.
+  DateTime written = 0;
+  /// Attribute bits with the numbers that Windows gives them.
+  std::uint32_t attributes = 0;
+};
+
+enum class RegistryRoot : std::uint8_t { ClassesRoot, CurrentUser, LocalMachine, Users };
+
+/// A registry key opened for reading. It is closed when it goes.
+class RAVO_API RegistryKey {
+ public:
+  RegistryKey() = default;
+  RegistryKey(const RegistryKey&) = delete;
+  RegistryKey& operator=(const RegistryKey&) = delete;
+  virtual ~RegistryKey();
+
+  /// A value read as text, environment references not expanded; the unnamed value has an empty name. No value
+  /// where it is missing or is no text.
+  [[nodiscard]] virtual std::optional<std::u16string> Text(std::u16string_view name) const = 0;
+
+  /// A value read as a 32-bit integer; no value where it is missing or is no such integer.
+  [[nodiscard]] virtual std::optional<std::int32_t> Integer(std::u16string_view name) const = 0;
+
+  /// At most the first `most` bytes of a value as they are stored, of any kind; no value where it is missing.
+  /// Raises `Error` where the value is there but cannot be read.
+  [[nodiscard]] virtual std::optional<std::vector<std::byte>> Bytes(std::u16string_view name,
+                                                                    std::size_t most) const = 0;
+};
+
+/// The version resource of a file.
+class RAVO_API VersionResource {
+ public:
+  VersionResource() = default;
+  VersionResource(const VersionResource&) = delete;
+  VersionResource& operator=(const VersionResource&) = delete;
+  virtual ~VersionResource();
+
+  /// The first entry of the translation list: the language in the low 16 bits, the code page in the high
+  /// ones.
+  [[nodiscard]] virtual std::optional<std::uint32_t> FirstTranslation() const = 0;
+
+  /// The text of a string table's key up to its terminating zero; `table` is the table's name of eight
+  /// hexadecimal digits, compared without regard to case, as the key is.
+  [[nodiscard]] virtual std::optional<std::u16string> String(std::u16string_view table,
+                                                             std::u16string_view key) const = 0;
+};
+
+/// A loaded module of code or resources, as the operating system names it: an instance handle on Windows,
+/// what the dynamic loader gives elsewhere.
+using ModuleHandle = void*;
+
+/// The questions. Tests put another machine in the place of the real one.
+class RAVO_API Machine {
+ public:
+  Machine() = default;
+  Machine(const Machine&) = delete;
+  Machine& operator=(const Machine&) = delete;
+  virtual ~Machine();
+
+  // System.
+  [[nodiscard]] virtual SystemVersion Version() const = 0;
+  /// Whether the system calls itself the second release of its server edition.
+  [[nodiscard]] virtual bool IsServerR2() const = 0;
+  [[nodiscard]] virtual std::uint16_t ProcessorArchitecture() const = 0;
+  /// A folder of at most 259 units, with the trailing delimiter where the system itself gives one (the
+  /// temporary folder always ends in one); empty where there is none.
+  [[nodiscard]] virtual std::u16string Folder(SystemFolder folder) const = 0;
+  [[nodiscard]] virtual std::u16string ComputerName() const = 0;
+  [[nodiscard]] virtual std::u16string UserName() const = 0;
+  [[nodiscard]] virtual MemoryFigures Memory() const = 0;
+
+  // Drives, named by a letter and a colon.
+  /// Bit 0 for "A:" and so on.
+  [[nodiscard]] virtual std::uint32_t LogicalDrives() const = 0;
+  [[nodiscard]] virtual DriveKind KindOfDrive(std::u16string_view drive) const = 0;
+  [[nodiscard]] virtual std::optional<DiskSpace> SpaceOfDrive(std::u16string_view drive) const = 0;
+
+  // Registry. Paths are written with "\"; one in front is allowed.
+  /// Null where the key cannot be opened.
+  [[nodiscard]] virtual std::unique_ptr<RegistryKey> OpenKey(RegistryRoot root,
+                                                             std::u16string_view path) const = 0;
+
+  // Files.
+  /// "\" on Windows, "/" elsewhere. Both are taken in names everywhere.
+  [[nodiscard]] virtual char16_t PathDelimiter() const = 0;
+  /// A name expanded against the process's current folder.
+  [[nodiscard]] virtual std::u16string FullPath(std::u16string_view name) const = 0;
+  /// What a directory search finds under that name, files and folders alike.
+  [[nodiscard]] virtual std::optional<FileFacts> FindFile(std::u16string_view name) const = 0;
+  /// Null where the file has no version resource.
+  [[nodiscard]] virtual std::unique_ptr<VersionResource> OpenVersionResource(
+      std::u16string_view name) const = 0;
+
+  // Locale and clock.
+  [[nodiscard]] virtual FormatSettings Locale() const = 0;
+  /// Local time.
+  [[nodiscard]] virtual DateTime Now() const = 0;
+
+  // The 8-bit code page of the system's data: Windows-1250 on the suite's systems.
+  [[nodiscard]] virtual std::uint32_t CodePage() const = 0;
+  [[nodiscard]] virtual std::u16string FromCodePage(std::string_view bytes) const = 0;
+  /// A character that the code page lacks becomes what the system puts in its place, "?" at the latest.
+  [[nodiscard]] virtual std::string ToCodePage(std::u16string_view text) const = 0;
+
+  /// Sends a text to an attached debugger, where the system has such a channel.
+  virtual void DebugOutput(std::u16string_view text) const = 0;
+
+  // Resource texts.
+  /// A string of the module's string table, of the module itself (not of what it links to); no value where it
+  /// has none under that number. The view lives as long as the module stays loaded.
+  [[nodiscard]] virtual std::optional<std::u16string_view> ResourceText(ModuleHandle module,
+                                                                        std::uint16_t id) const = 0;
+  /// Loads a module of resources; null where that fails.
+  [[nodiscard]] virtual ModuleHandle LoadResources(std::u16string_view file) const = 0;
+  virtual void UnloadResources(ModuleHandle module) const = 0;
+};
+
+/// The machine in force: the real one unless a test put another in its place.
+[[nodiscard]] RAVO_API const Machine& CurrentMachine() noexcept;
+
+/// The real one. Implemented by `win32/` and `posix/`.
+[[nodiscard]] const Machine& RealMachine() noexcept;
+
+/// Puts a machine in force for as long as this object lives. For tests; not for several threads at once.
+class RAVO_API ScopedMachine {
+ public:
+  explicit ScopedMachine(const Machine& machine) noexcept;
+  ScopedMachine(const ScopedMachine&) = delete;
+  ScopedMachine& operator=(const ScopedMachine&) = delete;
+  ~ScopedMachine();
+
+ private:
+  const Machine* previous_;
+};
+
+}  // namespace ravo::platform

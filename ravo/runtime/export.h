@@ -1,0 +1,16 @@
+#pragma once
+
+/// RAVO_API marks what leaves the shared library; everything else stays inside. It follows the operating
+/// system, not the compiler: a cross compiler for Windows needs the Windows form. RAVO_STATIC is set for
+/// consumers of the static library by its CMake target and its pkg-config file.
+#if defined(RAVO_STATIC)
+#define RAVO_API
+#elif defined(_WIN32)
+#if defined(RAVO_BUILDING)
+#define RAVO_API __declspec(dllexport)
+#else
+#define RAVO_API __declspec(dllimport)
+#endif
+#else
+#define RAVO_API __attribute__((visibility("default")))
+#endif

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <ravo/runtime/decimal.h>
+#include <ravo/runtime/export.h>
+
+#include <string>
+#include <string_view>
+
+namespace ravo {
+
+/// The general float format: at most 15 significant digits without trailing zeros; plain notation while the
+/// decimal point stands from four zeros behind it up to the last of 15 places, scientific ("1E20", "1.5E-7")
+/// otherwise. "-" for negative values, "0" for both zeros.
+[[nodiscard]] RAVO_API std::u16string GeneralText(const DecimalNumber& number, char16_t decimal_separator);
+/// The same of a float; an infinity reads "INF" or "-INF", what is no number "NAN".
+[[nodiscard]] RAVO_API std::u16string GeneralText(Extended value, char16_t decimal_separator);
+
+/// The fixed format: exactly `decimals` digits behind the decimal point, at most 15 significant digits (zeros
+/// stand for those beyond), no thousands separators. A value that rounds to zero has no sign.
+[[nodiscard]] RAVO_API std::u16string FixedText(const DecimalNumber& number, int decimals,
+                                                char16_t decimal_separator);
+
+/// The number format: the fixed format with `thousands_separator` between groups of three digits.
+[[nodiscard]] RAVO_API std::u16string NumberText(const DecimalNumber& number, int decimals,
+                                                 char16_t decimal_separator,
+                                                 std::u16string_view thousands_separator);
+
+}  // namespace ravo

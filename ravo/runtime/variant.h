@@ -1,0 +1,75 @@
+#pragma once
+
+#include <ravo/runtime/currency.h>
+#include <ravo/runtime/date_time.h>
+#include <ravo/runtime/export.h>
+#include <ravo/runtime/format_settings.h>
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+namespace ravo {
+
+using ByteArray = std::vector<std::uint8_t>;
+
+/// No value was ever assigned.
+struct EmptyValue {
+  friend bool operator==(EmptyValue, EmptyValue) = default;
+};
+
+/// There is deliberately no value: SQL's null.
+struct NullValue {
+  friend bool operator==(NullValue, NullValue) = default;
+};
+
+/// A date-time inside a variant, so that it is told apart from a plain float.
+struct DateValue {
+  DateTime value = 0;
+  friend bool operator==(const DateValue&, const DateValue&) = default;
+};
+
+/// A tagged value: empty, null, integer, float, currency, date, text, boolean or bytes.
+class RAVO_API Variant {
+ public:
+  using Value = std::variant<EmptyValue, NullValue, std::int32_t, std::int64_t, double, Currency, DateValue,
+                             std::u16string, bool, ByteArray>;
+
+  Variant() noexcept = default;
+  Variant(NullValue) noexcept : value_(NullValue{}) {}
+  Variant(std::int32_t value) noexcept : value_(value) {}
+  Variant(std::int64_t value) noexcept : value_(value) {}
+  Variant(double value) noexcept : value_(value) {}
+  Variant(Currency value) noexcept : value_(value) {}
+  Variant(DateValue value) noexcept : value_(value) {}
+  Variant(bool value) noexcept : value_(value) {}
+  Variant(std::u16string value) noexcept : value_(std::move(value)) {}
+  Variant(std::u16string_view value) : value_(std::u16string(value)) {}
+  Variant(const char16_t* value) : value_(std::u16string(value)) {}
+  Variant(ByteArray value) noexcept : value_(std::move(value)) {}
+
+  [[nodiscard]] const Value& Get() const noexcept { return value_; }
+  [[nodiscard]] bool IsEmpty() const noexcept { return std::holds_alternative<EmptyValue>(value_); }
+  [[nodiscard]] bool IsNull() const noexcept { return std::holds_alternative<NullValue>(value_); }
+  [[nodiscard]] bool IsEmptyOrNull() const noexcept { return IsEmpty() || IsNull(); }
+
+  friend bool operator==(const Variant&, const Variant&) = default;
+
+ private:
+  Value value_;
+};
+
+/// The text of a value: nothing for empty and null, digits for integers, the general float format for floats
+/// and amounts, the locale's date and time for dates, "True" or "False". Bytes have no text: `VariantError`.
+[[nodiscard]] RAVO_API std::u16string VariantToText(const Variant& value, const FormatSettings& settings);
+
+/// The sum of two values. Null with anything is null. Empty counts as nothing. Two texts are joined. A text
+/// beside any other kind must read as a number in the locale, else `VariantError`. Integers add as the wider
+/// of both and raise `OverflowError`; a boolean counts -1 or 0; a date makes the sum a date, else an amount
+/// makes it an amount, else a float makes it a float. Bytes have no sum: `VariantError`.
+[[nodiscard]] RAVO_API Variant VariantSum(const Variant& left, const Variant& right,
+                                          const FormatSettings& settings);
+
+}  // namespace ravo

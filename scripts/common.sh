@@ -1,0 +1,15 @@
+# Shared by the scripts of this folder: words to the user, rights, places.
+
+say() { printf '%s\n' "ravo: $*"; }
+die() { printf '%s\n' "ravo: $*" >&2; exit 2; }
+
+# Runs a command with the rights to install: as it is for root, through sudo otherwise.
+as_root() {
+  if [ "$(id -u)" = 0 ]; then "$@"
+  elif command -v sudo >/dev/null; then sudo "$@"
+  else die "needs root or sudo: $*"
+  fi
+}
+
+ravo_cache="${RAVO_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/ravo}"
+wine32_root="$ravo_cache/wine32-bookworm"
