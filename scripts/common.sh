@@ -13,3 +13,10 @@ as_root() {
 
 ravo_cache="${RAVO_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/ravo}"
 wine32_root="$ravo_cache/wine32-bookworm"
+
+# The package mirror that this machine already uses.
+apt-mirror-of-this-machine() {
+  local sources
+  sources=$(cat /etc/apt/sources.list /etc/apt/sources.list.d/*.list /etc/apt/sources.list.d/*.sources 2>/dev/null || true)
+  sed -nE 's/^(deb (\[[^]]*\] )?|URIs: )([^ ]+).*/\3/p' <<<"$sources" | head -n 1
+}

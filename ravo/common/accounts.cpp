@@ -5,12 +5,19 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <limits>
 
 namespace ravo::RavoInterfaceCommon {
 namespace {
 
 constexpr bool IsDigit(char16_t unit) { return unit >= u'0' && unit <= u'9'; }
 constexpr std::int32_t ValueOf(char16_t digit) { return digit - u'0'; }
+
+// A sum of digits as the checked 32-bit sum that it stands for.
+std::int32_t CheckedSum(std::uint64_t sum) {
+  if (sum > std::numeric_limits<std::int32_t>::max()) throw OverflowError(u"Integer overflow");
+  return static_cast<std::int32_t>(sum);
+}
 
 }  // namespace
 
@@ -38,16 +45,22 @@ void UcetNaSUAU(std::u16string_view Ucet, std::u16string& SU, std::u16string& AU
 }
 
 bool ValidVS(std::u16string_view text) {
-  // The digit sum of a doubled digit.
-  constexpr std::array<std::int32_t, 10> kDoubled{0, 2, 4, 6, 8, 1, 3, 5, 7, 9};
-  if (!IsNumbers(text)) return false;
-  std::int32_t sum = 0;
-  bool doubled = false;
-  for (auto digit = text.rbegin(); digit != text.rend(); ++digit, doubled = !doubled) {
-    const std::int32_t value = ValueOf(*digit);
-    sum = CheckedAdd(sum, doubled ? kDoubled[static_cast<std::size_t>(value)] : value);
+  // One pass from the right, two digits a step; 64 bits hold the sum of any text that fits into memory.
+  constexpr auto kDoubled = [](unsigned digit) { return 2 * digit - (digit > 4 ? 9 : 0); };
+  std::uint64_t sum = 0;
+  bool digits_alone = !text.empty();
+  std::size_t left = text.size();
+  for (; left >= 2; left -= 2) {
+    const unsigned single = unsigned{text[left - 1]} - u'0';
+    const unsigned doubled = unsigned{text[left - 2]} - u'0';
+    digits_alone &= single <= 9 && doubled <= 9;
+    sum += single + kDoubled(doubled);
   }
-  return sum % 10 == 0;
+  if (left == 1) {
+    digits_alone &= IsDigit(text.front());
+    sum += unsigned{text.front()} - u'0';
+  }
+  return digits_alone && CheckedSum(sum) % 10 == 0;
 }
 
 bool UcetMod11(std::u16string_view text) {

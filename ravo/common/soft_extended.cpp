@@ -1,5 +1,6 @@
 #include <ravo/common/soft_extended.h>
 #include <ravo/runtime/error.h>
+#include <ravo/runtime/wide_multiply.h>
 
 #include <algorithm>
 #include <bit>
@@ -96,21 +97,6 @@ double SoftExtended::ToDouble() const noexcept {
     if (exponent >= 0x7FF || bits >= std::uint64_t{0x7FF} << 52) bits = std::uint64_t{0x7FF} << 52;
   }
   return std::bit_cast<double>(bits | (negative_ ? kTopBit : 0));
-}
-
-SoftExtended::Wide SoftExtended::Product(std::uint64_t left, std::uint64_t right) noexcept {
-#ifdef __SIZEOF_INT128__
-  __extension__ using Uint128 = unsigned __int128;
-  const Uint128 product = Uint128{left} * right;
-  return {static_cast<std::uint64_t>(product >> 64), static_cast<std::uint64_t>(product), false};
-#else
-  constexpr std::uint64_t kHalf = 0xFFFFFFFF;
-  const std::uint64_t low = (left & kHalf) * (right & kHalf);
-  const std::uint64_t cross = (left >> 32) * (right & kHalf) + (low >> 32);
-  const std::uint64_t middle = (left & kHalf) * (right >> 32) + (cross & kHalf);
-  return {(left >> 32) * (right >> 32) + (cross >> 32) + (middle >> 32), (middle << 32) | (low & kHalf),
-          false};
-#endif
 }
 
 // dividend * 2^65 / divisor: at least 65 bits, so that rounding to 64 sees the next one.
@@ -212,8 +198,8 @@ SoftExtended operator-(const SoftExtended& left, const SoftExtended& right) noex
 }
 
 SoftExtended operator*(const SoftExtended& left, const SoftExtended& right) noexcept {
-  return SoftExtended::Rounded(left.negative_ != right.negative_,
-                               SoftExtended::Product(left.mantissa_, right.mantissa_),
+  const Wide128 product = MultiplyWide(left.mantissa_, right.mantissa_);
+  return SoftExtended::Rounded(left.negative_ != right.negative_, {product.high, product.low, false},
                                left.exponent_ + right.exponent_);
 }
 

@@ -56,7 +56,6 @@ class SoftExtended {
     bool sticky = false;
   };
 
-  static Wide Product(std::uint64_t left, std::uint64_t right) noexcept;
   static Wide Quotient(std::uint64_t dividend, std::uint64_t divisor) noexcept;
   static Wide ShiftedRight(std::uint64_t mantissa, int bits) noexcept;
   static SoftExtended Rounded(bool negative, Wide value, int exponent) noexcept;

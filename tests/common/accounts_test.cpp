@@ -1,5 +1,4 @@
 #include <ravo/common/accounts.h>
-
 #include <ravo/runtime/error.h>
 
 #include <random>
@@ -11,7 +10,8 @@ namespace {
 
 TEST(IsNumbers, TakesAsciiDigitsAlone) {
   EXPECT_TRUE(IsNumbers(u"0123456789"));
-  for (const std::u16string_view text : {u"", u" 1", u"1 ", u"-1", u"+1", u"1.0", u"1a", u"１", u"٣", u"/", u":"}) {
+  for (const std::u16string_view text :
+       {u"", u" 1", u"1 ", u"-1", u"+1", u"1.0", u"1a", u"１", u"٣", u"/", u":"}) {
     EXPECT_FALSE(IsNumbers(text));
   }
   EXPECT_FALSE(IsNumbers(std::u16string_view(u"1\0", 2)));
@@ -36,7 +36,8 @@ TEST(ValidAU, IsUpToThreeDigitsAndMayBeEmpty) {
 
 TEST(ValidUcet, IsThreeToSixDigits) {
   for (const std::u16string_view text : {u"123", u"1234", u"12345", u"123456"}) EXPECT_TRUE(ValidUcet(text));
-  for (const std::u16string_view text : {u"", u"12", u"1234567", u"12a", u"123 "}) EXPECT_FALSE(ValidUcet(text));
+  for (const std::u16string_view text : {u"", u"12", u"1234567", u"12a", u"123 "})
+    EXPECT_FALSE(ValidUcet(text));
 }
 
 TEST(UcetNaSUAU, SplitsWithoutChecking) {
@@ -44,9 +45,10 @@ TEST(UcetNaSUAU, SplitsWithoutChecking) {
     std::u16string_view ucet, su, au;
   };
   constexpr Row rows[] = {
-      {u"604100", u"604", u"100"}, {u"604 1 ", u"604", u"1"}, {u"60", u"60", u""},    {u"", u"", u""},
-      {u"604", u"604", u""},       {u" 60 4", u" 60", u"4"},  {u"abcdefgh", u"abc", u"def"},
-      {u"604\t\x01 9", u"604", u""},
+      {u"604100", u"604", u"100"},   {u"604 1 ", u"604", u"1"},
+      {u"60", u"60", u""},           {u"", u"", u""},
+      {u"604", u"604", u""},         {u" 60 4", u" 60", u"4"},
+      {u"abcdefgh", u"abc", u"def"}, {u"604\t\x01 9", u"604", u""},
   };
   for (const Row& row : rows) {
     std::u16string su = u"old", au = u"old";
@@ -102,8 +104,8 @@ TEST(ValidVS, RaisesWhenTheSumLeaves32Bits) {
 
 TEST(UcetMod11, ChecksBankAccounts) {
   for (const std::u16string_view text :
-       {u"19-2000145399/0800", u"19-2000145399", u"192000145399", u"192000145399/0800", u" 19-2000145399/0800\t",
-        u"19 2000 145399/0800/1", u"0", u"a0"}) {
+       {u"19-2000145399/0800", u"19-2000145399", u"192000145399", u"192000145399/0800",
+        u" 19-2000145399/0800\t", u"19 2000 145399/0800/1", u"0", u"a0"}) {
     EXPECT_TRUE(UcetMod11(text));
   }
   for (const std::u16string_view text : {u"", u" ", u"abc", u"/0800", u"19-2000145398/0800", u"1"}) {

@@ -1,6 +1,5 @@
-#include <ravo/common/backup_name.h>
-
 #include "support/fake_machine.h"
+#include <ravo/common/backup_name.h>
 
 #include <gtest/gtest.h>
 
@@ -37,7 +36,8 @@ TEST_F(ParseZalohaFileTest, FillsThePlaceholders) {
 }
 
 TEST_F(ParseZalohaFileTest, ReadsTheClockTwiceAcrossMidnight) {
-  machine_.clock = {EncodeDateTime({{2011, 12, 31}, {23, 59, 59, 0}}), EncodeDateTime({{2012, 1, 1}, {0, 0, 0, 0}})};
+  machine_.clock = {EncodeDateTime({{2011, 12, 31}, {23, 59, 59, 0}}),
+                    EncodeDateTime({{2012, 1, 1}, {0, 0, 0, 0}})};
   EXPECT_EQ(ParseZalohaFile(u"%CAS% %DATUM%", u""), u"000000 111231");
 }
 

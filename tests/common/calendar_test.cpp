@@ -1,5 +1,4 @@
 #include <ravo/common/calendar.h>
-
 #include <ravo/runtime/error.h>
 
 #include <chrono>

@@ -1,5 +1,4 @@
 #include <ravo/common/stream_records.h>
-
 #include <ravo/runtime/error.h>
 
 #include <array>
@@ -15,11 +14,15 @@ std::vector<std::byte> Bytes(std::initializer_list<int> values) {
   return bytes;
 }
 
-std::vector<std::byte> Content(const MemoryStream& stream) { return {stream.Bytes().begin(), stream.Bytes().end()}; }
+std::vector<std::byte> Content(const MemoryStream& stream) {
+  return {stream.Bytes().begin(), stream.Bytes().end()};
+}
 
 TEST(StringToStream, WritesLengthBytesAndTerminator) {
   MemoryStream stream;
-  StringToStream(&stream, "\xC8" "ech");
+  StringToStream(&stream,
+                 "\xC8"
+                 "ech");
   EXPECT_EQ(Content(stream), Bytes({4, 0, 0, 0, 0xC8, 'e', 'c', 'h', 0}));
 }
 
@@ -68,7 +71,7 @@ TEST(StringFromStream, RecordThatPromisesTooMuchIsFilledWithZeros) {
 TEST(StringFromStream, EveryCutOfARecord) {
   const auto whole = Bytes({3, 0, 0, 0, 'a', 'b', 'c', 0});
   for (std::size_t cut = 0; cut <= whole.size(); ++cut) {
-    MemoryStream stream(std::span(whole).first(cut));
+    MemoryStream stream{std::span(whole).first(cut)};
     if (cut < 4) {
       EXPECT_THROW(static_cast<void>(StringFromStream(&stream)), StreamError);
       continue;
@@ -84,7 +87,8 @@ class ZeroStream final : public ByteStream {
  public:
   ZeroStream(std::int64_t size, std::size_t most) : size_(size), most_(most) {}
   std::size_t Read(std::span<std::byte> to) override {
-    const auto count = std::min({to.size(), most_, static_cast<std::size_t>(std::max<std::int64_t>(0, size_ - position_))});
+    const auto count =
+        std::min({to.size(), most_, static_cast<std::size_t>(std::max<std::int64_t>(0, size_ - position_))});
     std::fill_n(to.begin(), count, std::byte{0});
     position_ += static_cast<std::int64_t>(count);
     return count;

@@ -7,8 +7,9 @@
 #include <cmath>
 #include <cstdlib>
 
-/// Rounding as it is written down, in the processor's own 80-bit arithmetic: the witness of the tests and a rival of
-/// the benchmarks. Right only where `long double` has a 64-bit mantissa and the processor is in its default state.
+/// Rounding as it is written down, in the processor's own 80-bit arithmetic: the witness of the tests and a
+/// rival of the benchmarks. Right only where `long double` has a 64-bit mantissa and the processor is in its
+/// default state.
 namespace ravo::test::plain {
 
 inline constexpr bool kHasExtended = LDBL_MANT_DIG == 64;
@@ -62,7 +63,8 @@ inline double RoundValueFloat(double value, RavoInterfaceCommon::TRoundType type
   if (type > rtMath) return value;
   const long double power = static_cast<double>(PowerOfTen(decimals));
   const long double scaled = static_cast<long double>(value) * power;
-  if (type == rtUp) return static_cast<double>(Ceil32(static_cast<double>(scaled)) / power * (value >= 0 ? 1 : -1));
+  if (type == rtUp)
+    return static_cast<double>(Ceil32(static_cast<double>(scaled)) / power * (value >= 0 ? 1 : -1));
   if (type == rtDown) return static_cast<double>(static_cast<long double>(Round(scaled - 0.5L)) / power);
   const auto fraction = static_cast<double>(Frac(scaled));
   const int step = fraction >= 0.5 ? 1 : fraction <= -0.5 ? -1 : 0;
@@ -72,12 +74,18 @@ inline double RoundValueFloat(double value, RavoInterfaceCommon::TRoundType type
 inline Currency RoundDPH(Currency value, char16_t kind) {
   using namespace RavoInterfaceCommon;
   switch (kind) {
-    case u'H': return RoundValue(value, rtMath, 2);
-    case u'D': return RoundValue(value, rtMath, 1);
-    case u'N': return RoundValue(value, rtUp, 1);
-    case u'M': return RoundValue(value, rtMath, 0);
-    case u'P': break;
-    default: return value;
+    case u'H':
+      return RoundValue(value, rtMath, 2);
+    case u'D':
+      return RoundValue(value, rtMath, 1);
+    case u'N':
+      return RoundValue(value, rtUp, 1);
+    case u'M':
+      return RoundValue(value, rtMath, 0);
+    case u'P':
+      break;
+    default:
+      return value;
   }
   const long double amount = static_cast<long double>(value.raw) / 10000;
   const std::int64_t fraction = Round(std::fabs(Frac(amount)) * 10000);
