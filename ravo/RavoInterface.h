@@ -1,0 +1,7 @@
+#pragma once
+
+/// The main module: what is common to all modules of the library. Texts and errors, resource strings, and the
+/// listings of tables and captions.
+#include <ravo/frame/resource_string.h>
+#include <ravo/runtime/error.h>
+#include <ravo/runtime/text.h>
