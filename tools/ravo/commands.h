@@ -4,7 +4,8 @@
 
 #include <CLI/CLI.hpp>
 
-/// The sub-commands. Each function adds one to the program; when the command line names it, it fills the outcome.
+/// The sub-commands. Each function adds one to the program; when the command line names it, it fills the
+/// outcome.
 namespace tool {
 
 void AddReportCommand(CLI::App& program, Outcome& outcome);

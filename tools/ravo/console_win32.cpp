@@ -3,9 +3,8 @@
 #include <algorithm>
 #include <cwchar>
 
-#include <windows.h>
-
 #include <shellapi.h>
+#include <windows.h>
 
 namespace tool {
 namespace {

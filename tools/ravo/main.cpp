@@ -26,7 +26,8 @@ void Describe(CLI::App& program, Outcome& outcome) {
   AddCaptionsCommand(program, outcome);
 }
 
-// Help and version are answers; every other end of parsing is wrong usage, whatever number the parser gives it.
+// Help and version are answers; every other end of parsing is wrong usage, whatever number the parser gives
+// it.
 Outcome Ended(const CLI::App& program, const CLI::ParseError& end) {
   std::ostringstream out;
   std::ostringstream err;

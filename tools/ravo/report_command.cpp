@@ -2,7 +2,6 @@
 #include "json_text.h"
 #include "report_tree.h"
 #include "text_file.h"
-
 #include <ravo/RavoInterface.h>
 #include <ravo/RavoInterfaceInfo.h>
 
@@ -35,7 +34,8 @@ void Run(const ReportOptions& options, Outcome& outcome) {
     outcome.out = options.json ? JsonText(ReportTree(report)) : WithoutReturns(report);
     return;
   }
-  const std::string failure = WriteTextFile(options.file, options.json ? JsonText(ReportTree(report)) : report);
+  const std::string failure =
+      WriteTextFile(options.file, options.json ? JsonText(ReportTree(report)) : report);
   if (failure.empty()) return;
   outcome.err = "ravo: " + options.file + ": " + failure + "\n";
   outcome.answer = Answer::WrongUsage;

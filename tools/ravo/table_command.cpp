@@ -1,6 +1,5 @@
 #include "commands.h"
 #include "json_text.h"
-
 #include <ravo/RavoInterface.h>
 
 #include <algorithm>
@@ -83,7 +82,8 @@ std::u16string_view Description(const std::optional<ravo::TableModule>& module, 
 
 void LookUp(const TableOptions& options, Outcome& outcome) {
   const auto module = ModuleNamed(options.module);
-  const std::string asked = module ? std::string("module ") + std::string(ravo::TableModuleKey(*module)) : "module";
+  const std::string asked =
+      module ? std::string("module ") + std::string(ravo::TableModuleKey(*module)) : "module";
   Json answers = Json::array();
   for (const std::string& text : options.ids) {
     const std::int32_t id = Identifier(text).value_or(0);

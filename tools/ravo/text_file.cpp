@@ -50,18 +50,24 @@ class Draft {
 
   [[nodiscard]] bool Write(std::string_view bytes) const { return WriteBytes(path_, bytes); }
 
-  [[nodiscard]] std::error_code Publish() const {
+  [[nodiscard]] bool Publish() const {
     std::error_code error;
     const fs::file_status before = fs::status(target_, error);
     if (fs::exists(before)) fs::permissions(path_, before.permissions(), error);
     fs::rename(path_, target_, error);
-    return error;
+    return !error;
   }
 
  private:
   fs::path path_;
   fs::path target_;
 };
+
+bool Put(const fs::path& path, const fs::file_status& status, std::string_view bytes) {
+  if (fs::is_other(status)) return WriteBytes(path, bytes);
+  const Draft draft(path);
+  return draft.Write(bytes) && draft.Publish();
+}
 
 }  // namespace
 
@@ -70,11 +76,7 @@ std::string WriteTextFile(const std::string& name, std::string_view bytes) {
   std::error_code error;
   const fs::file_status status = fs::status(path, error);
   if (fs::is_directory(status)) return "is a folder";
-  if (fs::is_other(status)) return WriteBytes(path, bytes) ? "" : "cannot be written";
-  const Draft draft(path);
-  if (!draft.Write(bytes)) return "cannot be written";
-  error = draft.Publish();
-  return error ? error.message() : "";
+  return Put(path, status, bytes) ? "" : "cannot be written";
 }
 
 }  // namespace tool
