@@ -16,7 +16,8 @@ constinit bool inside_library = false;
 
 using Guard = std::scoped_lock<std::mutex>;
 
-// The link that leads to the first record for which `is_it` holds, or the last link. The caller holds the lock.
+// The link that leads to the first record for which `is_it` holds, or the last link. The caller holds the
+// lock.
 template <typename Predicate>
 RavoModule** LinkTo(Predicate is_it) {
   RavoModule** link = &first_module;
