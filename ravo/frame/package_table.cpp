@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <array>
-#include <ranges>
 
 namespace ravo::frame {
 namespace {
@@ -51,9 +50,10 @@ constexpr auto kContained = [] {
 
 constexpr auto kUnitNames = [] {
   std::array<const char*, kModules.size() - 1> names{};
-  const auto is_other = [](const ModuleRow& row) { return (row.flags & RAVO_MODULE_MAIN) == 0; };
-  std::ranges::copy(kModules | std::views::filter(is_other) | std::views::transform(&ModuleRow::name),
-                    names.begin());
+  auto name = names.begin();
+  for (const ModuleRow& row : kModules) {
+    if ((row.flags & RAVO_MODULE_MAIN) == 0) *name++ = row.name;
+  }
   return names;
 }();
 
@@ -103,7 +103,8 @@ void Initialize() {
 }
 
 void Finalize() {
-  for (const RavoPackageUnit& unit : ravo::frame::kUnits | std::views::reverse) {
-    if (unit.Finalize) unit.Finalize();
+  const auto& units = ravo::frame::kUnits;
+  for (auto unit = units.rbegin(); unit != units.rend(); ++unit) {
+    if (unit->Finalize) unit->Finalize();
   }
 }
