@@ -22,6 +22,11 @@ constexpr std::string_view kModuleNames[] = {
 #include <ravo/catalogue/table_modules.inc>
 };
 
+constexpr std::string_view kModuleKeys[] = {
+#define RAVO_TABLE_MODULE(module, name) #module,
+#include <ravo/catalogue/table_modules.inc>
+};
+
 // For the compiler's eyes: in the library the texts stand once, in the pool.
 constexpr auto kWrittenRows = std::to_array<TableRow>({
 #define RAVO_TABLE(module, id, text) {TableModule::module, id, id, u##text},
@@ -102,6 +107,10 @@ std::span<const TableModule> TableModules() noexcept { return kModules; }
 
 std::string_view TableModuleName(TableModule module) noexcept {
   return kModuleNames[static_cast<std::size_t>(module)];
+}
+
+std::string_view TableModuleKey(TableModule module) noexcept {
+  return kModuleKeys[static_cast<std::size_t>(module)];
 }
 
 // The modules are not asked one after another: no identifier belongs to two of them, so that the first answer

@@ -34,6 +34,9 @@ struct TableRow {
 /// The name of a module in the library: "RavoMzdaConstants" for `TableModule::Mzda`.
 [[nodiscard]] RAVO_API std::string_view TableModuleName(TableModule module) noexcept;
 
+/// The short name of a module, as the names of its look-ups have it: "Mzda" for `TableModule::Mzda`.
+[[nodiscard]] RAVO_API std::string_view TableModuleKey(TableModule module) noexcept;
+
 /// The description of table `id` where that table belongs to `module`; empty for every other identifier. The
 /// text lives as long as the library.
 [[nodiscard]] inline std::u16string_view TableDescription(TableModule module, std::int32_t id) noexcept {
