@@ -68,7 +68,7 @@ BigNatural::BigNatural(std::string_view digits) {
 
 int BigNatural::BitLength() const noexcept {
   if (limbs_.empty()) return 0;
-  return static_cast<int>(32 * (limbs_.size() - 1)) + std::bit_width(limbs_.back());
+  return static_cast<int>(32 * limbs_.size()) - std::countl_zero(limbs_.back());
 }
 
 void BigNatural::MultiplyByPowerOf5(int power) { MultiplyByPower<kBinaryBase>(limbs_, kFives, power); }
