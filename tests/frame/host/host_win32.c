@@ -47,7 +47,29 @@ static int TextIs(void* module, UINT id, const wchar_t* expected) {
   return LoadStringW(module, id, text, 200) > 0 && wcscmp(text, expected) == 0;
 }
 
+struct Text {
+  UINT id;
+  const wchar_t* text;
+};
+
+/* The rows of every list that the string table is made from. */
+static const struct Text kTexts[] = {
+#define RAVO_CAPTION_GROUP(title)
+#define RAVO_STRING(name, id, text) {id, L##text},
+#include <ravo/catalogue/captions.inc>
+#undef RAVO_STRING
+#define RAVO_STRING(name, id, text) {id, L##text},
+#include <ravo/sysinfo/captions.inc>
+#include <ravo/unicode/messages.inc>
+#include <ravo/utils/messages.inc>
+#undef RAVO_STRING
+};
+
 void HostCheckTexts(void* library, void* language) {
+  size_t i;
+  for (i = 0; i < sizeof kTexts / sizeof kTexts[0]; ++i) {
+    Expect(TextIs(library, kTexts[i].id, kTexts[i].text), "every text stands in the library's string table");
+  }
   Expect(TextIs(library, 65485, L"&Faktura"), "the caption of an invoice in the library's string table");
   Expect(TextIs(library, 65439, L"Stream is nil"), "a message in the library's string table");
   Expect(TextIs(language, 65485, L"&Invoice"), "the English caption of an invoice");
