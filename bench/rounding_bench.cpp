@@ -2,6 +2,7 @@
 // libmpdec's quantize (halves away from zero). The amounts are those of documents: up to ten million crowns,
 // four decimals.
 
+#include "ratio.h"
 #include "support/plain_rounding.h"
 #include <ravo/common/accounts.h>
 #include <ravo/common/rounding.h>
@@ -40,7 +41,7 @@ void OverAmounts(benchmark::State& state, Routine routine) {
     for (const Currency amount : amounts) sum += routine(amount).raw;
     benchmark::DoNotOptimize(sum);
   }
-  state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(amounts.size()));
+  state.counters["items"] = static_cast<double>(amounts.size());
 }
 
 // The mode and the decimals are not known when compiled, as in the modules that call.
@@ -52,29 +53,29 @@ void RoundValueOurs(benchmark::State& state) {
   benchmark::DoNotOptimize(decimals);
   OverAmounts(state, [](Currency value) { return RoundValue(value, mode, decimals); });
 }
-BENCHMARK(RoundValueOurs);
+BENCHMARK(RoundValueOurs)->Name("RoundValue/ravo");
 
 void RoundValueLongDouble(benchmark::State& state) {
   benchmark::DoNotOptimize(mode);
   benchmark::DoNotOptimize(decimals);
   OverAmounts(state, [](Currency value) { return test::plain::RoundValue(value, mode, decimals); });
 }
-BENCHMARK(RoundValueLongDouble);
+BENCHMARK(RoundValueLongDouble)->Name("RoundValue/long_double");
 
 // One rule for all amounts, as a firm's settings choose it.
-void RoundDphOurs(benchmark::State& state) {
-  auto kind = static_cast<char16_t>(state.range(0));
+void RoundDphOurs(benchmark::State& state, char16_t kind) {
   benchmark::DoNotOptimize(kind);
   OverAmounts(state, [&](Currency value) { return RoundDPH(value, kind); });
 }
-BENCHMARK(RoundDphOurs)->Arg('H')->Arg('P')->Arg('M');
+BENCHMARK_CAPTURE(RoundDphOurs, H, u'H')->Name("RoundDPH H/ravo");
+BENCHMARK_CAPTURE(RoundDphOurs, P, u'P')->Name("RoundDPH P/ravo");
 
-void RoundDphLongDouble(benchmark::State& state) {
-  auto kind = static_cast<char16_t>(state.range(0));
+void RoundDphLongDouble(benchmark::State& state, char16_t kind) {
   benchmark::DoNotOptimize(kind);
   OverAmounts(state, [&](Currency value) { return test::plain::RoundDPH(value, kind); });
 }
-BENCHMARK(RoundDphLongDouble)->Arg('H')->Arg('P')->Arg('M');
+BENCHMARK_CAPTURE(RoundDphLongDouble, H, u'H')->Name("RoundDPH H/long_double");
+BENCHMARK_CAPTURE(RoundDphLongDouble, P, u'P')->Name("RoundDPH P/long_double");
 
 #ifdef RAVO_HAS_LIBMPDEC
 // Each amount stands ready as a decimal, so that only the rounding itself is measured.
@@ -97,12 +98,13 @@ void QuantizeLibmpdec(benchmark::State& state) {
     for (const mpd_t* value : values) mpd_qquantize(result, value, hundredths, &context, &status);
     benchmark::DoNotOptimize(result->data[0]);
   }
-  state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(values.size()));
+  state.counters["items"] = static_cast<double>(values.size());
   for (mpd_t* value : values) mpd_del(value);
   mpd_del(hundredths);
   mpd_del(result);
 }
-BENCHMARK(QuantizeLibmpdec);
+BENCHMARK(QuantizeLibmpdec)->Name("RoundValue/libmpdec");
+BENCHMARK(QuantizeLibmpdec)->Name("RoundDPH H/libmpdec");
 #endif
 
 template <class Routine>
@@ -112,7 +114,7 @@ void OverTexts(benchmark::State& state, const std::vector<std::u16string>& texts
     for (const std::u16string& text : texts) valid += routine(text) ? 1 : 0;
     benchmark::DoNotOptimize(valid);
   }
-  state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(texts.size()));
+  state.counters["items"] = static_cast<double>(texts.size());
 }
 
 std::vector<std::u16string> RandomDigits(std::size_t least, std::size_t most) {
@@ -150,24 +152,24 @@ bool PlainMod11(const std::u16string& digits) {
 void ValidVsOurs(benchmark::State& state) {
   OverTexts(state, RandomDigits(8, 10), [](const std::u16string& text) { return ValidVS(text); });
 }
-BENCHMARK(ValidVsOurs);
+BENCHMARK(ValidVsOurs)->Name("ValidVS/ravo");
 
 void ValidVsPlainLoop(benchmark::State& state) { OverTexts(state, RandomDigits(8, 10), PlainLuhn); }
-BENCHMARK(ValidVsPlainLoop);
+BENCHMARK(ValidVsPlainLoop)->Name("ValidVS/plain_loop");
 
 void UcetMod11Ours(benchmark::State& state) {
   OverTexts(state, RandomDigits(10, 16), [](const std::u16string& text) { return UcetMod11(text); });
 }
-BENCHMARK(UcetMod11Ours);
+BENCHMARK(UcetMod11Ours)->Name("UcetMod11/ravo");
 
 void UcetMod11PlainLoop(benchmark::State& state) { OverTexts(state, RandomDigits(10, 16), PlainMod11); }
-BENCHMARK(UcetMod11PlainLoop);
+BENCHMARK(UcetMod11PlainLoop)->Name("UcetMod11/plain_loop");
 
 void ValidUcetOurs(benchmark::State& state) {
   OverTexts(state, RandomDigits(2, 7), [](const std::u16string& text) { return ValidUcet(text); });
 }
-BENCHMARK(ValidUcetOurs);
+BENCHMARK(ValidUcetOurs)->Name("ValidUcet/ravo");
 
 }  // namespace
 
-BENCHMARK_MAIN();
+int main(int argc, char** argv) { return ravo::bench::RunWithRatios(argc, argv); }

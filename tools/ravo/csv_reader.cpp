@@ -23,12 +23,12 @@ CsvError::CsvError(std::size_t line, const std::string& what)
 CsvReader::CsvReader(Source source, char delimiter)
     : source_(std::move(source)), delimiter_(delimiter), buffer_(kFirstBuffer) {}
 
-// Keeps the bytes that belong to no row yet and reads behind them; a row that fills the whole buffer doubles it, so a
-// row is scanned again only as often as its length doubles.
+// Keeps the bytes that belong to no row yet and reads behind them; a row that fills the whole buffer doubles
+// it, so a row is scanned again only as often as its length doubles.
 bool CsvReader::Fill() {
   if (at_end_) return false;
-  std::copy(buffer_.begin() + static_cast<std::ptrdiff_t>(begin_), buffer_.begin() + static_cast<std::ptrdiff_t>(end_),
-            buffer_.begin());
+  std::copy(buffer_.begin() + static_cast<std::ptrdiff_t>(begin_),
+            buffer_.begin() + static_cast<std::ptrdiff_t>(end_), buffer_.begin());
   end_ -= begin_;
   begin_ = 0;
   if (end_ > buffer_.size() / 2) buffer_.resize(buffer_.size() * 2);

@@ -21,10 +21,10 @@ class CsvError : public std::runtime_error {
   std::size_t line_;
 };
 
-/// Reads rows of fields (RFC 4180, with any one-byte delimiter): lines end in LF or CR LF, a field in double quotes may
-/// hold delimiters, line ends and doubled quotes. A byte-order mark of UTF-8 in front is skipped, and so are empty
-/// lines. Bytes are handed on as they stand, whatever their encoding. Time and memory are linear in the file and in its
-/// longest row.
+/// Reads rows of fields (RFC 4180, with any one-byte delimiter): lines end in LF or CR LF, a field in double
+/// quotes may hold delimiters, line ends and doubled quotes. A byte-order mark of UTF-8 in front is skipped,
+/// and so are empty lines. Bytes are handed on as they stand, whatever their encoding. Time and memory are
+/// linear in the file and in its longest row.
 class CsvReader {
  public:
   /// Fills the span with the next bytes and answers how many; 0 at the end.
@@ -33,8 +33,8 @@ class CsvReader {
   /// A delimiter of 0 takes ";" or ",", whichever the first line has more of.
   CsvReader(Source source, char delimiter);
 
-  /// The next row's fields, which live until the next call; false at the end. Raises `CsvError` for a quote that is
-  /// never closed and for text behind a closing quote.
+  /// The next row's fields, which live until the next call; false at the end. Raises `CsvError` for a quote
+  /// that is never closed and for text behind a closing quote.
   [[nodiscard]] bool Next(std::vector<std::string_view>& fields);
 
   /// The line, from 1, on which the row that was read last begins.
@@ -56,9 +56,9 @@ class CsvReader {
   Source source_;
   char delimiter_;
   std::vector<char> buffer_;
-  std::size_t begin_ = 0;      // the first byte that belongs to no row yet
-  std::size_t end_ = 0;        // behind the last byte read
-  bool at_end_ = false;        // the source has no more
+  std::size_t begin_ = 0;  // the first byte that belongs to no row yet
+  std::size_t end_ = 0;    // behind the last byte read
+  bool at_end_ = false;    // the source has no more
   bool begun_ = false;
   std::size_t line_ = 0;       // of the row read last
   std::size_t next_line_ = 1;  // of the byte at begin_
