@@ -35,17 +35,20 @@ struct DateTimeParts {
 
 /// Splits into calendar and clock. The time of day is rounded to the millisecond first (to nearest, ties to
 /// even), and a day that fills up carries into the next one, so date and time always belong together. Raises
-/// `ConvertError` outside 1 January 1 to 31 December 9999 and for values that are no number.
+/// `ConvertError` where the result lies outside 1 January 1 to 31 December 9999, and for infinities and what
+/// is no number.
 [[nodiscard]] RAVO_API DateTimeParts SplitDateTime(DateTime value);
 
 /// The day number of a date. Raises `ConvertError` for a year outside 1 to 9999, a month outside 1 to 12, or
 /// a day that the month has not.
 [[nodiscard]] RAVO_API DateTime EncodeDate(int year, int month, int day);
 
-/// The fraction of a day, 0 up to but not 1. Raises `ConvertError` for parts outside 23:59:59.999.
+/// The fraction of a day, 0 up to but not 1, as the nearest double. Raises `ConvertError` for parts outside
+/// 00:00:00.000 to 23:59:59.999.
 [[nodiscard]] RAVO_API DateTime EncodeTime(int hour, int minute, int second, int millisecond);
 
-/// Date and time of day together, also before 30 December 1899.
+/// Date and time of day together, also before 30 December 1899, as the nearest double. Raises `ConvertError`
+/// as `EncodeDate` and `EncodeTime` do.
 [[nodiscard]] RAVO_API DateTime EncodeDateTime(const DateTimeParts& parts);
 
 /// 1 for Sunday to 7 for Saturday, of the date that `SplitDateTime` gives.

@@ -8,8 +8,8 @@
 
 namespace ravo {
 
-/// A decimal number: 0.d1d2d3... times ten to `point`, d1 not zero; no digits for zero. Exact, so what is
-/// made of it is the same on every target.
+/// A decimal number: 0.d1d2d3... times ten to `point`, neither the first nor the last digit a zero; no digits
+/// and point 0 for zero, which keeps its sign. Exact, so what is made of it is the same on every target.
 struct DecimalNumber {
   bool negative = false;
   std::string digits;
@@ -23,14 +23,16 @@ struct DecimalNumber {
 /// `value` / 10^`decimals`, exactly.
 [[nodiscard]] RAVO_API DecimalNumber ToDecimal(std::int64_t value, int decimals);
 
-/// `number` rounded, halves away from zero, to at most `digits` significant digits.
+/// `number` rounded, halves away from zero, to at most `digits` significant digits; zero where `digits` is
+/// not positive.
 [[nodiscard]] RAVO_API DecimalNumber RoundedToDigits(DecimalNumber number, int digits);
 
-/// `number` rounded, halves away from zero, to at most `places` digits behind the decimal point.
+/// `number` rounded, halves away from zero, to at most `places` digits behind the decimal point; a negative
+/// `places` rounds to tens, hundreds and so on.
 [[nodiscard]] RAVO_API DecimalNumber RoundedToPlaces(DecimalNumber number, int places);
 
 /// The extended float nearest to `number`, ties to even. Raises `ConvertError` beyond the largest finite
-/// value; too small ones become denormal or zero.
+/// value; too small ones become denormal or zero, with the sign of `number`.
 [[nodiscard]] RAVO_API Extended ToExtended(const DecimalNumber& number);
 
 }  // namespace ravo

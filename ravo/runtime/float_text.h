@@ -8,15 +8,16 @@
 
 namespace ravo {
 
-/// The general float format: at most 15 significant digits without trailing zeros; plain notation while the
-/// decimal point stands from four zeros behind it up to the last of 15 places, scientific ("1E20", "1.5E-7")
-/// otherwise. "-" for negative values, "0" for both zeros.
+/// The general float format: at most 15 significant digits, halves rounded away from zero, without trailing
+/// zeros. Plain notation from "0.00001" (four zeros behind the decimal point) up to 15 digits in front of it,
+/// scientific ("1E15", "1.5E-6") otherwise. "-" for negative values, "0" for both zeros.
 [[nodiscard]] RAVO_API std::u16string GeneralText(const DecimalNumber& number, char16_t decimal_separator);
 /// The same of a float; an infinity reads "INF" or "-INF", what is no number "NAN".
 [[nodiscard]] RAVO_API std::u16string GeneralText(Extended value, char16_t decimal_separator);
 
-/// The fixed format: exactly `decimals` digits behind the decimal point, at most 15 significant digits (zeros
-/// stand for those beyond), no thousands separators. A value that rounds to zero has no sign.
+/// The fixed format: exactly `decimals` digits behind the decimal point (none for negative `decimals`), at
+/// most 15 significant digits (zeros stand for those beyond), halves rounded away from zero, no thousands
+/// separators. A value that rounds to zero has no sign.
 [[nodiscard]] RAVO_API std::u16string FixedText(const DecimalNumber& number, int decimals,
                                                 char16_t decimal_separator);
 
