@@ -40,6 +40,15 @@ function(ravo_packaged_headers target folder)
   target_include_directories(${target} SYSTEM PRIVATE ${place})
 endfunction()
 
+# The Python of this machine (not of the target): the distribution's own before whatever shim the path has.
+function(ravo_find_python variable)
+  find_program(RAVO_PYTHON NAMES python3 HINTS /usr/bin NO_CMAKE_FIND_ROOT_PATH)
+  if(NOT RAVO_PYTHON)
+    message(FATAL_ERROR "python3 is missing: scripts/setup check installs what the tests need")
+  endif()
+  set(${variable} ${RAVO_PYTHON} PARENT_SCOPE)
+endfunction()
+
 # The shared run-time libraries of the compiler, beside our programs for Windows: errors cross the border of
 # the library, so it and its users share one of them.
 function(ravo_copy_runtime folder)

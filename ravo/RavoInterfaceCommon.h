@@ -1,6 +1,7 @@
 #pragma once
 
 /// The accounting helpers that every module must apply alike.
+#include <ravo/catalogue/table_catalogue.h>
 #include <ravo/common/byte_size.h>
 #include <ravo/common/char_position.h>
 #include <ravo/common/debug_text.h>

@@ -1,8 +1,8 @@
 #pragma once
 
 /* The package frame of RavoInterface for a host in C or C++: the module table, the module record and the
- * procedures that start and stop the library's modules. Everything is plain C: undecorated names, the C calling
- * convention.
+ * procedures that start and stop the library's modules. Everything is plain C: undecorated names, the C
+ * calling convention.
  *
  * On Windows the package description is also a resource of the library, so that a host can read it before the
  * library is loaded: RCDATA `PACKAGEINFO`, little-endian and without padding,
@@ -11,10 +11,12 @@
  *   uint16  number of required run-time libraries
  *   uint16  number of contained modules
  *   then for each required library: its name, ASCII, ended by a zero byte
- *   then for each contained module: one byte of flags (RAVO_MODULE_...), its name, ASCII, ended by a zero byte
+ *   then for each contained module: one byte of flags (RAVO_MODULE_...), its name, ASCII, ended by a zero
+ * byte
  *
- * beside RCDATA `DESCRIPTION` (UTF-16 text ended by a zero), the version record, the string table and an empty
- * type library (`TYPELIB`). On other systems the same facts stand in `RavoPackageInfoTable.Description`. */
+ * beside RCDATA `DESCRIPTION` (UTF-16 text ended by a zero), the version record, the string table and an
+ * empty type library (`TYPELIB`). On other systems the same facts stand in
+ * `RavoPackageInfoTable.Description`. */
 
 /* The package is for run time only, not for a designer. */
 #define RAVO_PACKAGE_RUN_ONLY 0x1
@@ -92,8 +94,9 @@ typedef struct RavoModule {
   void* ResInstance;
 } RavoModule;
 
-/* The module table. The slots stand in dependency order: a module's slot comes after the slots of every module
- * that it uses. The first ones belong to the required run-time libraries and are empty in this build. */
+/* The module table. The slots stand in dependency order: a module's slot comes after the slots of every
+ * module that it uses. The first ones belong to the required run-time libraries and are empty in this build.
+ */
 typedef struct RavoPackageInfoTable {
   int32_t UnitCount;
   const RavoPackageUnit* UnitInfo;
@@ -120,11 +123,12 @@ RAVO_API const RavoPackageInfoTable* GetPackageInfoTable(void);
  * nested ones does work. The counters are not locked: a host starts and stops from one thread at a time. */
 RAVO_API void Initialize(void);
 
-/* Stops all modules, from the last slot to the first; only the stop that answers the first start does work. */
+/* Stops all modules, from the last slot to the first; only the stop that answers the first start does work.
+ */
 RAVO_API void Finalize(void);
 
 /* `<Module>_Initialize` and `<Module>_Finalize` start and stop one module, counted in the same way. */
-#define RAVO_MODULE(name, flags, uses)     \
+#define RAVO_MODULE(name, flags, uses)   \
   RAVO_API void name##_Initialize(void); \
   RAVO_API void name##_Finalize(void);
 #include <ravo/frame/modules.inc>

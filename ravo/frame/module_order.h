@@ -51,8 +51,8 @@ using PlacedModules = std::array<bool, kMostModules>;
   return index;
 }
 
-/// Fills `order` with the numbers of all rows so that each comes after the ones that it uses, and otherwise in
-/// the order of the rows. False where that is impossible: a circle, a name that no row has, too many rows.
+/// Fills `order` with the numbers of all rows so that each comes after the ones that it uses, and otherwise
+/// in the order of the rows. False where that is impossible: a circle, a name that no row has, too many rows.
 [[nodiscard]] constexpr bool OrderModules(std::span<const ModuleRow> rows, std::span<std::size_t> order) {
   if (rows.size() > kMostModules || order.size() != rows.size()) return false;
   PlacedModules placed{};

@@ -1,22 +1,30 @@
 #include <ravo/frame/module_record.h>
 #include <ravo/platform/library_entry.h>
 
+#include <cstddef>
 #include <mutex>
+#include <new>
 #include <utility>
 
 namespace ravo {
 namespace {
 
-// All of this is initialised as constants: the entry point runs before or after other initialisers as it
-// pleases.
-constinit std::mutex list_lock;
+// Initialised as constants, and the lock at its first use: the entry point runs before or after other
+// initialisers as it pleases. The lock is never destroyed, since the entry point may come last too.
 constinit RavoModule* first_module = nullptr;
 constinit RavoModule library_module{};
 constinit bool inside_library = false;
 
+std::mutex& ListLock() noexcept {
+  alignas(std::mutex) static std::byte place[sizeof(std::mutex)];
+  static std::mutex& lock = *new (place) std::mutex;
+  return lock;
+}
+
 using Guard = std::scoped_lock<std::mutex>;
 
-// The link that leads to the first record for which `is_it` holds, or the last link. The caller holds the lock.
+// The link that leads to the first record for which `is_it` holds, or the last link. The caller holds the
+// lock.
 template <typename Predicate>
 RavoModule** LinkTo(Predicate is_it) {
   RavoModule** link = &first_module;
@@ -55,7 +63,7 @@ RavoModule& Registered() {
 
 // Puts `resources` (null for the library itself) in force; gives the separate module that was, or null.
 platform::ModuleHandle ExchangeResources(platform::ModuleHandle resources) {
-  const Guard guard(list_lock);
+  const Guard guard(ListLock());
   RavoModule& module = Registered();
   const platform::ModuleHandle former =
       std::exchange(module.ResInstance, resources ? resources : module.Instance);
@@ -69,17 +77,17 @@ void Unload(platform::ModuleHandle resources) noexcept {
 }  // namespace
 
 void RegisterModule(RavoModule& module) noexcept {
-  const Guard guard(list_lock);
+  const Guard guard(ListLock());
   Link(module);
 }
 
 void UnregisterModule(RavoModule& module) noexcept {
-  const Guard guard(list_lock);
+  const Guard guard(ListLock());
   Unlink(module);
 }
 
 RavoModule* FindModule(const void* instance) noexcept {
-  const Guard guard(list_lock);
+  const Guard guard(ListLock());
   return *LinkToInstance(instance);
 }
 
@@ -97,12 +105,12 @@ void DetachResourceModule() noexcept { Unload(ExchangeResources(nullptr)); }
 namespace ravo::frame {
 
 RavoModule& LibraryModule() noexcept {
-  const Guard guard(list_lock);
+  const Guard guard(ListLock());
   return Registered();
 }
 
 ResourcePlaces CurrentResourcePlaces() noexcept {
-  const Guard guard(list_lock);
+  const Guard guard(ListLock());
   const platform::ModuleHandle own = Registered().Instance;
   const RavoModule* listed = *LinkToInstance(own);
   return {own, listed ? listed->ResInstance : nullptr};
@@ -115,7 +123,7 @@ bool InsideLibrary() noexcept { return inside_library; }
 namespace ravo::platform {
 
 void LibraryAttached(ModuleHandle library) noexcept {
-  const Guard guard(list_lock);
+  const Guard guard(ListLock());
   inside_library = true;
   Attach(library);
 }

@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <array>
-#include <ranges>
 
 namespace ravo::frame {
 namespace {
@@ -51,8 +50,10 @@ constexpr auto kContained = [] {
 
 constexpr auto kUnitNames = [] {
   std::array<const char*, kModules.size() - 1> names{};
-  const auto is_other = [](const ModuleRow& row) { return (row.flags & RAVO_MODULE_MAIN) == 0; };
-  std::ranges::copy(kModules | std::views::filter(is_other) | std::views::transform(&ModuleRow::name), names.begin());
+  auto name = names.begin();
+  for (const ModuleRow& row : kModules) {
+    if ((row.flags & RAVO_MODULE_MAIN) == 0) *name++ = row.name;
+  }
   return names;
 }();
 
@@ -71,15 +72,15 @@ constexpr auto kOrder = [] {
 
 constexpr auto kUnits = [] {
   std::array<RavoPackageUnit, kSlotCount> units{};
-  std::ranges::transform(kOrder, units.begin() + kRuntimeSlots, [](std::size_t row) { return kProcedures[row]; });
+  std::ranges::transform(kOrder, units.begin() + kRuntimeSlots,
+                         [](std::size_t row) { return kProcedures[row]; });
   return units;
 }();
 
 constexpr RavoPackageDescription kDescription = {
-    RAVO_PACKAGE_FLAGS,      kRequired.size(),         kRequired.data(),
-    kContained.size(),       kContained.data(),        kText.data(),
-    kTypeLibraryName.data(), kTypeLibraryHelp.data(),  RAVO_TYPE_LIBRARY_LOCALE,
-    kVersionStrings.size(),  kVersionStrings.data(),
+    RAVO_PACKAGE_FLAGS,       kRequired.size(),       kRequired.data(),        kContained.size(),
+    kContained.data(),        kText.data(),           kTypeLibraryName.data(), kTypeLibraryHelp.data(),
+    RAVO_TYPE_LIBRARY_LOCALE, kVersionStrings.size(), kVersionStrings.data(),
 };
 
 }  // namespace
@@ -87,9 +88,11 @@ constexpr RavoPackageDescription kDescription = {
 
 const RavoPackageInfoTable* GetPackageInfoTable() {
   using namespace ravo::frame;
-  static const RavoPackageInfoTable table = {
-      kUnits.size(), kUnits.data(), {0, nullptr, kUnitNames.size(), kUnitNames.data()}, &kDescription,
-      &LibraryModule()};
+  static const RavoPackageInfoTable table = {kUnits.size(),
+                                             kUnits.data(),
+                                             {0, nullptr, kUnitNames.size(), kUnitNames.data()},
+                                             &kDescription,
+                                             &LibraryModule()};
   return &table;
 }
 
@@ -100,7 +103,8 @@ void Initialize() {
 }
 
 void Finalize() {
-  for (const RavoPackageUnit& unit : ravo::frame::kUnits | std::views::reverse) {
-    if (unit.Finalize) unit.Finalize();
+  const auto& units = ravo::frame::kUnits;
+  for (auto unit = units.rbegin(); unit != units.rend(); ++unit) {
+    if (unit->Finalize) unit->Finalize();
   }
 }

@@ -1,6 +1,5 @@
 # The resources of the shared library on Windows: the package description, the type library, the string table
 # and the version record.
-enable_language(RC)
 set(ravo_package_folder ${CMAKE_CURRENT_SOURCE_DIR}/frame/package)
 set(ravo_type_library ${ravo_generated}/RavoInterface.tlb)
 

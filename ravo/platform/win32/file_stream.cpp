@@ -50,7 +50,7 @@ std::size_t FileStream::Write(std::span<const std::byte> from) {
 }
 
 void FileStream::SetPosition(std::int64_t position) {
-  if (position < 0) throw RangeError(u"Stream position out of range");
+  if (position < 0) throw RangeError(u"Range check error");
   LARGE_INTEGER target{};
   target.QuadPart = position;
   if (!SetFilePointerEx(HandleOf(handle_), target, nullptr, FILE_BEGIN)) ThrowLastError();

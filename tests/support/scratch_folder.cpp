@@ -1,0 +1,21 @@
+#include "support/scratch_folder.h"
+
+#include <random>
+
+namespace ravo::test {
+
+ScratchFolder::ScratchFolder() {
+  std::random_device random;
+  do {
+    path_ = std::filesystem::temp_directory_path() / ("ravo-" + std::to_string(random()));
+  } while (!std::filesystem::create_directory(path_));
+}
+
+ScratchFolder::~ScratchFolder() {
+  std::error_code ignored;
+  std::filesystem::remove_all(path_, ignored);
+}
+
+std::u16string ScratchFolder::File(std::u16string_view name) const { return (path_ / name).u16string(); }
+
+}  // namespace ravo::test
