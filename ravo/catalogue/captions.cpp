@@ -12,6 +12,7 @@ constexpr auto kLines = std::to_array<CaptionRow>({
 #define RAVO_CAPTION_GROUP(title) {title, {}, {}},
 #define RAVO_STRING(name, id, text) {{}, #name, RavoInterfaceResources::name},
 #include <ravo/catalogue/captions.inc>
+#undef RAVO_STRING
 });
 
 constexpr bool IsCaption(const CaptionRow& line) { return !line.name.empty(); }

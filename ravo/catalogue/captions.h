@@ -13,9 +13,9 @@ namespace ravo {
 /// `PlainCaption` removes it.
 namespace RavoInterfaceResources {
 
-#define RAVO_CAPTION_GROUP(title)
 #define RAVO_STRING(name, id, text) inline constexpr ResourceString name{id, u##text};
 #include <ravo/catalogue/captions.inc>
+#undef RAVO_STRING
 
 }  // namespace RavoInterfaceResources
 

@@ -15,11 +15,13 @@ using table_index::Place;
 constexpr TableModule kModules[] = {
 #define RAVO_TABLE_MODULE(module, name) TableModule::module,
 #include <ravo/catalogue/table_modules.inc>
+#undef RAVO_TABLE_MODULE
 };
 
 constexpr std::string_view kModuleNames[] = {
 #define RAVO_TABLE_MODULE(module, name) name,
 #include <ravo/catalogue/table_modules.inc>
+#undef RAVO_TABLE_MODULE
 };
 
 constexpr std::string_view kModuleKeys[] = {
@@ -32,6 +34,8 @@ constexpr auto kWrittenRows = std::to_array<TableRow>({
 #define RAVO_TABLE(module, id, text) {TableModule::module, id, id, u##text},
 #define RAVO_TABLE_RANGE(module, first, last, text) {TableModule::module, first, last, u##text},
 #include <ravo/catalogue/tables.inc>
+#undef RAVO_TABLE
+#undef RAVO_TABLE_RANGE
 });
 
 consteval std::size_t PoolSize() {

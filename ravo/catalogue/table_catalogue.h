@@ -15,6 +15,7 @@ namespace ravo {
 enum class TableModule : std::uint8_t {
 #define RAVO_TABLE_MODULE(module, name) module,
 #include <ravo/catalogue/table_modules.inc>
+#undef RAVO_TABLE_MODULE
 };
 
 /// One row of the catalogue: the identifiers `first` to `last`, both included, and their description.
