@@ -3,8 +3,11 @@
 #include <algorithm>
 #include <cwchar>
 
-#include <shellapi.h>
+// The second header needs the first.
+// clang-format off
 #include <windows.h>
+#include <shellapi.h>
+// clang-format on
 
 namespace tool {
 namespace {
