@@ -10,6 +10,7 @@ namespace ravo {
 /// An amount with four decimal places: `raw` is the amount times 10000. A strong type: there is no silent way
 /// from or to a floating-point number.
 struct Currency {
+  static constexpr int kPlaces = 4;
   static constexpr std::int64_t kScale = 10000;
 
   std::int64_t raw = 0;
