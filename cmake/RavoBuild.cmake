@@ -39,3 +39,28 @@ function(ravo_packaged_headers target folder)
   endif()
   target_include_directories(${target} SYSTEM PRIVATE ${place})
 endfunction()
+
+# The Python of this machine (not of the target): the distribution's own before whatever shim the path has.
+function(ravo_find_python variable)
+  find_program(RAVO_PYTHON NAMES python3 HINTS /usr/bin NO_CMAKE_FIND_ROOT_PATH)
+  if(NOT RAVO_PYTHON)
+    message(FATAL_ERROR "python3 is missing: scripts/setup check installs what the tests need")
+  endif()
+  set(${variable} ${RAVO_PYTHON} PARENT_SCOPE)
+endfunction()
+
+# The shared run-time libraries of the compiler, beside our programs for Windows: errors cross the border of
+# the library, so it and its users share one of them.
+function(ravo_copy_runtime folder)
+  if(NOT MINGW)
+    return()
+  endif()
+  foreach(name libstdc++-6 libgcc_s_dw2-1 libgcc_s_seh-1 libwinpthread-1)
+    execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${name}.dll OUTPUT_VARIABLE file
+      OUTPUT_STRIP_TRAILING_WHITESPACE)
+    # The compiler answers the bare name for what it has not: the other width's way of unwinding.
+    if(IS_ABSOLUTE "${file}")
+      configure_file(${file} ${folder}/${name}.dll COPYONLY)
+    endif()
+  endforeach()
+endfunction()

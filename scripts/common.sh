@@ -7,9 +7,16 @@ die() { printf '%s\n' "ravo: $*" >&2; exit 2; }
 as_root() {
   if [ "$(id -u)" = 0 ]; then "$@"
   elif command -v sudo >/dev/null; then sudo "$@"
-  else die "needs root or sudo: $*"
+  else die "this needs root or sudo: $*"
   fi
 }
 
+# A cron job or a container may have no HOME; the account's own folder is meant then.
+if [ -z "${HOME:-}" ]; then
+  HOME=$(getent passwd "$(id -u)" | cut -d: -f6)
+  export HOME="${HOME:-/tmp}"
+fi
+
 ravo_cache="${RAVO_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/ravo}"
 wine32_root="$ravo_cache/wine32-bookworm"
+jobs=$(nproc 2>/dev/null || echo 2)

@@ -18,6 +18,25 @@ namespace detail {
 inline constexpr std::array<std::size_t, 16> kGuidDigitPlaces{6,  4,  2,  0,  11, 9,  16, 14,
                                                               19, 21, 24, 26, 28, 30, 32, 34};
 
+/// The bytes of an identifier in text form, in memory order; no value where the text is malformed.
+template <class Char>
+constexpr std::optional<std::array<std::uint8_t, 16>> GuidBytes(std::basic_string_view<Char> text) noexcept {
+  if (text.size() == 38 && text.front() == Char{'{'} && text.back() == Char{'}'}) text = text.substr(1, 36);
+  if (text.size() != 36) return std::nullopt;
+  for (const std::size_t dash : {8U, 13U, 18U, 23U}) {
+    if (text[dash] != Char{'-'}) return std::nullopt;
+  }
+  std::array<std::uint8_t, 16> bytes{};
+  for (std::size_t i = 0; i < bytes.size(); ++i) {
+    const std::size_t place = kGuidDigitPlaces[i];
+    const int high = HexDigitValue(static_cast<char16_t>(text[place]));
+    const int low = HexDigitValue(static_cast<char16_t>(text[place + 1]));
+    if (high < 0 || low < 0) return std::nullopt;
+    bytes[i] = static_cast<std::uint8_t>(high * 16 + low);
+  }
+  return bytes;
+}
+
 }  // namespace detail
 
 /// A 128-bit identifier, 16 bytes in memory order: the first group and the two after it are little-endian
@@ -27,25 +46,6 @@ struct RAVO_API Guid {
 
   Guid() = default;
 
-  /// Reads 8-4-4-4-12 hexadecimal digits of either case, with or without braces; no value otherwise.
-  template <class Char>
-  [[nodiscard]] static constexpr std::optional<Guid> FromText(std::basic_string_view<Char> text) noexcept {
-    if (text.size() == 38 && text.front() == Char{'{'} && text.back() == Char{'}'}) text = text.substr(1, 36);
-    if (text.size() != 36) return std::nullopt;
-    for (const std::size_t dash : {8U, 13U, 18U, 23U}) {
-      if (text[dash] != Char{'-'}) return std::nullopt;
-    }
-    Guid guid;
-    for (std::size_t i = 0; i < guid.bytes.size(); ++i) {
-      const std::size_t place = detail::kGuidDigitPlaces[i];
-      const int high = HexDigitValue(static_cast<char16_t>(text[place]));
-      const int low = HexDigitValue(static_cast<char16_t>(text[place + 1]));
-      if (high < 0 || low < 0) return std::nullopt;
-      guid.bytes[i] = static_cast<std::uint8_t>(high * 16 + low);
-    }
-    return guid;
-  }
-
   /// From the braced text form, checked when compiled: a malformed literal does not compile.
   consteval Guid(const char (&text)[39]) {  // NOLINT(google-explicit-constructor)
     const auto parsed = FromText(std::string_view(text, 38));
@@ -53,11 +53,28 @@ struct RAVO_API Guid {
     bytes = parsed->bytes;
   }
 
+  /// Reads 8-4-4-4-12 hexadecimal digits of either case, with or without braces; no value otherwise.
+  [[nodiscard]] static constexpr std::optional<Guid> FromText(std::string_view text) noexcept {
+    return FromBytes(detail::GuidBytes(text));
+  }
+  [[nodiscard]] static constexpr std::optional<Guid> FromText(std::u16string_view text) noexcept {
+    return FromBytes(detail::GuidBytes(text));
+  }
+
   /// Braces around 8-4-4-4-12 upper-case hexadecimal digits.
   [[nodiscard]] std::u16string ToText() const;
 
   friend constexpr bool operator==(const Guid&, const Guid&) = default;
   friend constexpr auto operator<=>(const Guid&, const Guid&) = default;
+
+ private:
+  static constexpr std::optional<Guid> FromBytes(
+      const std::optional<std::array<std::uint8_t, 16>>& bytes) noexcept {
+    if (!bytes) return std::nullopt;
+    Guid guid;
+    guid.bytes = *bytes;
+    return guid;
+  }
 };
 
 static_assert(sizeof(Guid) == 16);

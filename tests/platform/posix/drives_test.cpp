@@ -1,4 +1,4 @@
-#include "support/temporary_folder.h"
+#include "support/scratch_folder.h"
 #include <ravo/platform/posix/drives.h>
 #include <ravo/platform/posix/posix_machine.h>
 
@@ -80,7 +80,7 @@ TEST(DriveLetterOf, IsALetterBeforeAColon) {
 }
 
 TEST(PosixMachineDrives, ReadsBelowItsRoot) {
-  const test::TemporaryFolder folder;
+  const test::ScratchFolder folder;
   folder.Write(
       "proc/self/mounts",
       "/dev/sda1 / ext4 rw 0 0\n/dev/sdb1 /nowhere-at-all ext4 rw 0 0\n/dev/sdc /proc ext4 rw 0 0\n");

@@ -1,5 +1,5 @@
 #include "support/scoped_environment.h"
-#include "support/temporary_folder.h"
+#include "support/scratch_folder.h"
 #include <ravo/platform/posix/folders.h>
 #include <ravo/platform/posix/posix_machine.h>
 #include <ravo/platform/posix/shell_text.h>
@@ -52,7 +52,7 @@ TEST(PosixMachineFolder, SystemFoldersAreFixed) {
   EXPECT_EQ(machine.Folder(SystemFolder::Windows), u"/usr");
 }
 
-TEST(PosixMachineFolder, TheTemporaryFolderEndsInADelimiter) {
+TEST(PosixMachineFolder, TheScratchFolderEndsInADelimiter) {
   const PosixMachine machine;
   {
     const ScopedEnvironment variable("TMPDIR", "/var/tmp");
@@ -81,13 +81,13 @@ TEST(PosixMachineFolder, MoreThan259UnitsAreNone) {
 
 TEST(PosixMachineFolder, DocumentsForEveryone) {
   const PosixMachine machine;
-  const test::TemporaryFolder folder;
+  const test::ScratchFolder folder;
   const ScopedEnvironment home("HOME", folder.Path().c_str());
   const ScopedEnvironment no_configuration("XDG_CONFIG_HOME", nullptr);
   const ScopedEnvironment no_public("XDG_PUBLICSHARE_DIR", nullptr);
   EXPECT_EQ(machine.Folder(SystemFolder::CommonDocuments), u"");
   folder.Write(".config/user-dirs.dirs", "XDG_PUBLICSHARE_DIR=\"$HOME/Public\"\n");
-  EXPECT_EQ(machine.Folder(SystemFolder::CommonDocuments), folder.Name(u"Public"));
+  EXPECT_EQ(machine.Folder(SystemFolder::CommonDocuments), folder.File(u"Public"));
   folder.Write("conf/user-dirs.dirs", "XDG_PUBLICSHARE_DIR=\"/srv/other\"\n");
   const ScopedEnvironment configuration("XDG_CONFIG_HOME", (folder.Path() / "conf").c_str());
   EXPECT_EQ(machine.Folder(SystemFolder::CommonDocuments), u"/srv/other");

@@ -1,4 +1,4 @@
-#include "support/temporary_folder.h"
+#include "support/scratch_folder.h"
 #include <ravo/platform/posix/memory.h>
 #include <ravo/platform/posix/posix_machine.h>
 
@@ -48,7 +48,7 @@ TEST(MemoryFrom, MissingAndBrokenFieldsCountAsNothing) {
 }
 
 TEST(PosixMachineMemory, ReadsBelowItsRoot) {
-  const test::TemporaryFolder folder;
+  const test::ScratchFolder folder;
   folder.Write("proc/meminfo", kInfo);
   folder.Write("proc/self/status", kStatus);
   const MemoryFigures figures = PosixMachine(folder.Path().string()).Memory();

@@ -1,4 +1,4 @@
-#include "support/temporary_folder.h"
+#include "support/scratch_folder.h"
 #include <ravo/platform/posix/posix_machine.h>
 #include <ravo/platform/posix/registry.h>
 
@@ -16,7 +16,7 @@ std::string TextOf(const std::optional<std::vector<std::byte>>& bytes) {
 }
 
 TEST(PosixMachineRegistry, TheFirmwareDescribesTheComputer) {
-  const test::TemporaryFolder folder;
+  const test::ScratchFolder folder;
   folder.Write("sys/class/dmi/id/sys_vendor", "Dell Inc.\n");
   folder.Write("sys/class/dmi/id/product_name", "OptiPlex 7000 \n");
   folder.Write("sys/class/dmi/id/bios_vendor", "AB\n");
@@ -37,7 +37,7 @@ TEST(PosixMachineRegistry, TheFirmwareDescribesTheComputer) {
 }
 
 TEST(PosixMachineRegistry, WhatTheFirmwareDoesNotSayIsMissing) {
-  const test::TemporaryFolder folder;
+  const test::ScratchFolder folder;
   folder.Write("sys/class/dmi/id/product_name", "Box\n");
   folder.Write("sys/class/dmi/id/bios_version", " \n");
   const auto key = MakeKey(HardwareValues(folder.Path().string(), "x86_64"));
@@ -55,7 +55,7 @@ TEST(PosixMachineRegistry, WithoutFirmwareTheMachineNameIsLeft) {
 }
 
 TEST(PosixMachineRegistry, TheSystemNamesItself) {
-  const test::TemporaryFolder folder;
+  const test::ScratchFolder folder;
   const PosixMachine machine(folder.Path().string());
   folder.Write("usr/lib/os-release", "NAME=x\nPRETTY_NAME=\"Debian GNU/Linux 12\"\n");
   EXPECT_EQ(machine.OpenKey(RegistryRoot::LocalMachine, kSystem)->Text(u"Version"), u"Debian GNU/Linux 12");

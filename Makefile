@@ -1,0 +1,17 @@
+# The two commands of the README, and what helps while working. Everything else is CMake's: see CMakePresets.json.
+.PHONY: run check bench format clean
+
+run:            ## Build for this machine and show the library at its work
+	@scripts/run
+
+check:          ## Every target, every test, every gate
+	@scripts/check
+
+bench:          ## Build and run the benchmarks
+	@scripts/bench
+
+format:         ## Format all C and C++ sources
+	@scripts/format -i
+
+clean:          ## Remove everything that was built
+	rm -rf build

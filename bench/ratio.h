@@ -1,0 +1,76 @@
+#pragma once
+
+#include <cstdio>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <benchmark/benchmark.h>
+
+/// Benchmarks that compare: each job runs on our routine and on its rivals in one run, and the run ends with
+/// a table of the medians and their ratios. Register with names of the form "job/ravo" and "job/rival" and
+/// let `RunWithRatios` be the whole of `main`.
+namespace ravo::bench {
+
+inline constexpr std::string_view kOurs = "ravo";
+
+/// Keeps the median of every benchmark while the console shows the run.
+class RatioReporter : public benchmark::ConsoleReporter {
+ public:
+  void ReportRuns(const std::vector<Run>& runs) override {
+    ConsoleReporter::ReportRuns(runs);
+    for (const Run& run : runs) {
+      if (run.run_type == Run::RT_Aggregate && run.aggregate_name == "median") Keep(run);
+    }
+  }
+
+  void Finalize() override {
+    ConsoleReporter::Finalize();
+    std::printf("\n%-28s %12s %-16s %12s %8s\n", "job", "ours [ns]", "rival", "rival [ns]", "ratio");
+    for (const auto& [job, times] : jobs_) PrintJob(job, times);
+  }
+
+ private:
+  using Times = std::map<std::string, double, std::less<>>;
+
+  // The library appends a part such as "/repeats:9" to the name that was registered.
+  void Keep(const Run& run) {
+    const std::string& name = run.run_name.function_name;
+    const std::size_t slash = name.find('/');
+    if (slash == std::string::npos) return;
+    const double items = run.counters.contains("items") ? run.counters.at("items").value : 1;
+    jobs_[name.substr(0, slash)][name.substr(slash + 1)] = run.GetAdjustedCPUTime() / items;
+  }
+
+  static void PrintJob(const std::string& job, const Times& times) {
+    const auto ours = times.find(kOurs);
+    if (ours == times.end()) return;
+    for (const auto& [rival, time] : times) {
+      if (rival == kOurs) continue;
+      std::printf("%-28s %12.3f %-16s %12.3f %7.2fx\n", job.c_str(), ours->second, rival.c_str(), time,
+                  time / ours->second);
+    }
+  }
+
+  std::map<std::string, Times> jobs_;
+};
+
+/// Runs every registered benchmark several times in random order, so that a busy moment of the machine meets
+/// all alike, and prints the ratios. Options of the command line come after ours and win.
+inline int RunWithRatios(int argc, char** argv) {
+  std::vector<std::string> defaults = {"--benchmark_repetitions=9", "--benchmark_min_time=0.1",
+                                       "--benchmark_enable_random_interleaving=true",
+                                       "--benchmark_display_aggregates_only=true"};
+  std::vector<char*> arguments(argv, argv + 1);
+  for (std::string& option : defaults) arguments.push_back(option.data());
+  arguments.insert(arguments.end(), argv + 1, argv + argc);
+  int count = static_cast<int>(arguments.size());
+  benchmark::Initialize(&count, arguments.data());
+  if (benchmark::ReportUnrecognizedArguments(count, arguments.data())) return 2;
+  RatioReporter reporter;
+  benchmark::RunSpecifiedBenchmarks(&reporter);
+  return 0;
+}
+
+}  // namespace ravo::bench

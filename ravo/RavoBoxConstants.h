@@ -1,0 +1,3 @@
+#pragma once
+
+#include <ravo/catalogue/modules/box_constants.h>

@@ -1,0 +1,9 @@
+#pragma once
+
+/// The main module: what is common to all modules of the library. Texts and errors, resource strings, and the
+/// listings of tables and captions.
+#include <ravo/catalogue/captions.h>
+#include <ravo/catalogue/table_catalogue.h>
+#include <ravo/frame/resource_string.h>
+#include <ravo/runtime/error.h>
+#include <ravo/runtime/text.h>

@@ -1,0 +1,40 @@
+#include <ravo/catalogue/captions.h>
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+
+namespace ravo {
+namespace {
+
+// The rows as they stand in the file: a title has no name, a caption has no group yet.
+constexpr auto kLines = std::to_array<CaptionRow>({
+#define RAVO_CAPTION_GROUP(title) {title, {}, {}},
+#define RAVO_STRING(name, id, text) {{}, #name, RavoInterfaceResources::name},
+#include <ravo/catalogue/captions.inc>
+#undef RAVO_STRING
+});
+
+constexpr bool IsCaption(const CaptionRow& line) { return !line.name.empty(); }
+
+consteval auto MakeRows() {
+  std::array<CaptionRow, std::ranges::count_if(kLines, IsCaption)> rows{};
+  auto row = rows.begin();
+  std::string_view group;
+  for (const CaptionRow& line : kLines) {
+    if (IsCaption(line)) {
+      *row++ = {group, line.name, line.text};
+    } else {
+      group = line.group;
+    }
+  }
+  return rows;
+}
+
+constexpr auto kRows = MakeRows();
+
+}  // namespace
+
+std::span<const CaptionRow> CaptionRows() noexcept { return kRows; }
+
+}  // namespace ravo

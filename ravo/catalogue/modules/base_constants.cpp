@@ -1,0 +1,45 @@
+#include <ravo/catalogue/modules/base_constants.h>
+#include <ravo/catalogue/table_catalogue.h>
+
+#include <algorithm>
+#include <iterator>
+
+namespace ravo::RavoBaseConstants {
+namespace {
+
+struct CachedFields {
+  std::u16string_view table;
+  std::u16string_view fields;
+};
+
+// The first row of a name counts.
+constexpr CachedFields kCachedFields[] = {
+    {u"Mena", u"STAT_UID"},
+    // Kept: the second row of "Mena", because the suite's list has it; the first one hides it from every
+    // look-up.
+    {u"Mena", u"ZADAT_FIRMU,SKUPINA_DPH_UID"},
+    {u"Doklad", u"PZ,ZADAT_PAR_ZNAK,ZADAT_DOKLAD2,DOKLAD_POSTFIX,MENA_UID"},
+    {u"SkupinaDPH", u"UCET_DPH_Z,UCET_DPH_S,JED_DAN_DOKLAD"},
+    {u"SkupinaMimoDPH", u"UCET_MD,UCET_D"},
+};
+
+}  // namespace
+
+std::u16string GetBaseTableDescription(std::int32_t id) {
+  return std::u16string(TableDescription(TableModule::Base, id));
+}
+
+std::u16string GetBaseTableCachedFields(std::u16string_view table) {
+  std::u16string result;
+  GetBaseTableCachedFields(table, result);
+  return result;
+}
+
+// Kept: cached fields of an unknown table leave the output as it is, because callers preset it with their own
+// default.
+void GetBaseTableCachedFields(std::u16string_view table, std::u16string& result) {
+  const auto* row = std::ranges::find(kCachedFields, table, &CachedFields::table);
+  if (row != std::end(kCachedFields)) result = row->fields;
+}
+
+}  // namespace ravo::RavoBaseConstants

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <ravo/runtime/export.h>
+
+#include <string_view>
+
+namespace ravo::RavoInterfaceCommon {
+
+/// Sends a text to an attached debugger; nothing happens without one.
+RAVO_API void DebugStr(std::u16string_view text);
+
+}  // namespace ravo::RavoInterfaceCommon

@@ -1,0 +1,52 @@
+#include <ravo/common/qualified_names.h>
+
+#include <vector>
+
+namespace ravo::RavoInterfaceCommon {
+namespace {
+
+// Follows how much of the front of a pattern stands at the end of what has been read, by the method of Knuth,
+// Morris and Pratt.
+class PrefixMatcher {
+ public:
+  explicit PrefixMatcher(std::u16string_view pattern) : pattern_(pattern), shorter_(pattern.size(), 0) {
+    for (std::size_t i = 1; i < pattern.size(); ++i) shorter_[i] = After(shorter_[i - 1], pattern[i]);
+  }
+
+  // The matched length when `unit` follows a matched length that is not the whole pattern.
+  [[nodiscard]] std::size_t After(std::size_t matched, char16_t unit) const {
+    while (matched > 0 && pattern_[matched] != unit) matched = shorter_[matched - 1];
+    return pattern_[matched] == unit ? matched + 1 : 0;
+  }
+
+ private:
+  std::u16string_view pattern_;
+  // For each front of the pattern, the next shorter front that ends it.
+  std::vector<std::size_t> shorter_;
+};
+
+}  // namespace
+
+std::u16string ExtractTableFromProperty(std::u16string_view name) {
+  return std::u16string(name.substr(0, name.find(u'.')));
+}
+
+// Reads once and drops the prefix whenever the result ends in it. All occurrences being of one length, the
+// first of them is the one that ends first, and nothing before its end holds another: so this deletes the
+// very occurrences, in the very order, that searching anew from the start would.
+std::u16string RemoveTableFromProperties(std::u16string_view table, std::u16string_view properties) {
+  const std::u16string prefix = std::u16string(table) + u'.';
+  const PrefixMatcher matcher(prefix);
+  std::u16string result;
+  std::vector<std::size_t> matched{0};
+  for (const char16_t unit : properties) {
+    result.push_back(unit);
+    matched.push_back(matcher.After(matched.back(), unit));
+    if (matched.back() < prefix.size()) continue;
+    result.resize(result.size() - prefix.size());
+    matched.resize(matched.size() - prefix.size());
+  }
+  return result;
+}
+
+}  // namespace ravo::RavoInterfaceCommon

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <ravo/frame/module_order.h>
+#include <ravo/package.h>
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+
+/// The modules that the library contains, as C++ sees the rows of `modules.inc`.
+namespace ravo::frame {
+
+enum class Module : std::uint8_t {
+#define RAVO_MODULE(name, flags, uses) name,
+#include <ravo/frame/modules.inc>
+#undef RAVO_MODULE
+};
+
+inline constexpr auto kModules = std::to_array<ModuleRow>({
+#define RAVO_MODULE(name, flags, uses) {#name, flags, uses},
+#include <ravo/frame/modules.inc>
+#undef RAVO_MODULE
+});
+
+/// Slots of the module table that belong to the required run-time libraries. In this build those have nothing
+/// to start.
+inline constexpr std::size_t kRuntimeSlots = 77;
+inline constexpr std::size_t kSlotCount = kRuntimeSlots + kModules.size();
+
+}  // namespace ravo::frame

@@ -1,0 +1,110 @@
+#include <ravo/frame/module_record.h>
+#include <ravo/frame/modules.h>
+#include <ravo/frame/package/description.h>
+#include <ravo/frame/project_version.h>
+#include <ravo/package.h>
+
+#include <algorithm>
+#include <array>
+
+namespace ravo::frame {
+namespace {
+
+// Texts of the C structures, whose units are of another type than those of C++ literals.
+template <std::size_t size>
+consteval std::array<std::uint16_t, size> Units(const char16_t (&text)[size]) {
+  std::array<std::uint16_t, size> units{};
+  std::ranges::copy(text, units.begin());
+  return units;
+}
+
+#define RAVO_UTF16(text) u##text
+
+constexpr auto kText = Units(u"" RAVO_DESCRIPTION_TEXT);
+constexpr auto kTypeLibraryName = Units(u"" RAVO_TYPE_LIBRARY_NAME);
+constexpr auto kTypeLibraryHelp = Units(u"" RAVO_TYPE_LIBRARY_HELP);
+
+#define RAVO_VERSION_STRING(key, text) constexpr auto k##key = Units(RAVO_UTF16(text));
+#include <ravo/frame/version.inc>
+#undef RAVO_VERSION_STRING
+
+constexpr auto kVersionStrings = std::to_array<RavoVersionString>({
+#define RAVO_VERSION_STRING(key, text) {#key, k##key.data()},
+#include <ravo/frame/version.inc>
+#undef RAVO_VERSION_STRING
+});
+
+constexpr auto kRequired = std::to_array<const char*>({
+#define RAVO_REQUIRED(name) #name,
+#include <ravo/frame/required.inc>
+#undef RAVO_REQUIRED
+});
+
+constexpr auto kContained = [] {
+  std::array<RavoPackageModule, kModules.size()> contained{};
+  std::ranges::transform(kModules, contained.begin(), [](const ModuleRow& row) {
+    return RavoPackageModule{row.flags, row.name};
+  });
+  return contained;
+}();
+
+constexpr auto kUnitNames = [] {
+  std::array<const char*, kModules.size() - 1> names{};
+  auto name = names.begin();
+  for (const ModuleRow& row : kModules) {
+    if ((row.flags & RAVO_MODULE_MAIN) == 0) *name++ = row.name;
+  }
+  return names;
+}();
+
+constexpr auto kProcedures = std::to_array<RavoPackageUnit>({
+#define RAVO_MODULE(name, flags, uses) {name##_Initialize, name##_Finalize},
+#include <ravo/frame/modules.inc>
+#undef RAVO_MODULE
+});
+
+// A circle in what the modules use does not compile.
+constexpr auto kOrder = [] {
+  std::array<std::size_t, kModules.size()> order{};
+  if (!OrderModules(kModules, order)) throw "the modules use each other in a circle or name an unknown one";
+  return order;
+}();
+
+constexpr auto kUnits = [] {
+  std::array<RavoPackageUnit, kSlotCount> units{};
+  std::ranges::transform(kOrder, units.begin() + kRuntimeSlots,
+                         [](std::size_t row) { return kProcedures[row]; });
+  return units;
+}();
+
+constexpr RavoPackageDescription kDescription = {
+    RAVO_PACKAGE_FLAGS,       kRequired.size(),       kRequired.data(),        kContained.size(),
+    kContained.data(),        kText.data(),           kTypeLibraryName.data(), kTypeLibraryHelp.data(),
+    RAVO_TYPE_LIBRARY_LOCALE, kVersionStrings.size(), kVersionStrings.data(),
+};
+
+}  // namespace
+}  // namespace ravo::frame
+
+const RavoPackageInfoTable* GetPackageInfoTable() {
+  using namespace ravo::frame;
+  static const RavoPackageInfoTable table = {kUnits.size(),
+                                             kUnits.data(),
+                                             {0, nullptr, kUnitNames.size(), kUnitNames.data()},
+                                             &kDescription,
+                                             &LibraryModule()};
+  return &table;
+}
+
+void Initialize() {
+  for (const RavoPackageUnit& unit : ravo::frame::kUnits) {
+    if (unit.Initialize) unit.Initialize();
+  }
+}
+
+void Finalize() {
+  const auto& units = ravo::frame::kUnits;
+  for (auto unit = units.rbegin(); unit != units.rend(); ++unit) {
+    if (unit->Finalize) unit->Finalize();
+  }
+}

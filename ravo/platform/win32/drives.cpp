@@ -1,0 +1,22 @@
+#include <ravo/platform/win32/wide.h>
+#include <ravo/platform/win32/win32_machine.h>
+
+#include <windows.h>
+
+namespace ravo::platform {
+
+std::uint32_t Win32Machine::LogicalDrives() const { return GetLogicalDrives(); }
+
+DriveKind Win32Machine::KindOfDrive(std::u16string_view drive) const {
+  const UINT kind = GetDriveTypeW(ToWide(drive).c_str());
+  return kind <= DRIVE_RAMDISK ? static_cast<DriveKind>(kind) : DriveKind::Unknown;
+}
+
+std::optional<DiskSpace> Win32Machine::SpaceOfDrive(std::u16string_view drive) const {
+  ULARGE_INTEGER available{};
+  ULARGE_INTEGER total{};
+  if (!GetDiskFreeSpaceExW(ToWide(drive).c_str(), &available, &total, nullptr)) return std::nullopt;
+  return DiskSpace{static_cast<std::int64_t>(total.QuadPart), static_cast<std::int64_t>(available.QuadPart)};
+}
+
+}  // namespace ravo::platform

@@ -1,0 +1,41 @@
+#include <ravo/platform/win32/clock.h>
+#include <ravo/platform/win32/wide.h>
+#include <ravo/platform/win32/win32_machine.h>
+
+#include <windows.h>
+
+namespace ravo::platform {
+namespace {
+
+DateTime LocalDateTime(const FILETIME& written) {
+  FILETIME local{};
+  SYSTEMTIME time{};
+  if (!FileTimeToLocalFileTime(&written, &local) || !FileTimeToSystemTime(&local, &time)) return 0;
+  return DateTimeOf(time);
+}
+
+}  // namespace
+
+std::u16string Win32Machine::FullPath(std::u16string_view name) const {
+  const std::wstring wide_name = ToWide(name);
+  std::wstring path(MAX_PATH, L'\0');
+  for (;;) {
+    const auto size = static_cast<DWORD>(path.size());
+    const DWORD length = GetFullPathNameW(wide_name.c_str(), size, path.data(), nullptr);
+    // A buffer too small answers the size that it needs, which another thread's change of folder may outdate.
+    path.resize(length);
+    if (length < size) return FromWide(path);
+  }
+}
+
+std::optional<FileFacts> Win32Machine::FindFile(std::u16string_view name) const {
+  WIN32_FIND_DATAW data{};
+  const HANDLE search = FindFirstFileW(ToWide(name).c_str(), &data);
+  if (search == INVALID_HANDLE_VALUE) return std::nullopt;
+  FindClose(search);
+  const auto size = static_cast<std::uint64_t>(data.nFileSizeHigh) << 32 | data.nFileSizeLow;
+  return FileFacts{static_cast<std::int64_t>(size), LocalDateTime(data.ftLastWriteTime),
+                   data.dwFileAttributes};
+}
+
+}  // namespace ravo::platform

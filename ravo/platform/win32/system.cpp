@@ -1,0 +1,108 @@
+#include <ravo/platform/win32/wide.h>
+#include <ravo/platform/win32/win32_machine.h>
+
+#include <algorithm>
+#include <array>
+#include <limits>
+
+#include <objbase.h>
+#include <shlobj.h>
+#include <windows.h>
+
+namespace ravo::platform {
+namespace {
+
+constexpr DWORD kBufferUnits = 260;
+using Buffer = std::array<wchar_t, kBufferUnits>;
+
+SystemFamily FamilyOf(DWORD platform_id) {
+  return platform_id <= VER_PLATFORM_WIN32_NT ? static_cast<SystemFamily>(platform_id) : SystemFamily::Other;
+}
+
+ProductType ProductOf(BYTE product) {
+  return product <= VER_NT_SERVER ? static_cast<ProductType>(product) : ProductType::Unknown;
+}
+
+// Fills the buffer by a call that answers the length, or with a buffer too small the size that it needs.
+template <typename Call>
+std::u16string Filled(Call call) {
+  Buffer buffer;
+  const DWORD length = call(buffer.data(), kBufferUnits);
+  return length < kBufferUnits ? FromWide({buffer.data(), length}) : std::u16string();
+}
+
+// Fills the buffer by a call that takes its size and answers success.
+template <typename Call>
+std::u16string FilledOnSuccess(Call call) {
+  Buffer buffer;
+  DWORD size = kBufferUnits;
+  if (!call(buffer.data(), &size)) return {};
+  return FromWide(UpToZero(std::wstring_view(buffer.data(), kBufferUnits)));
+}
+
+std::u16string ShellFolder(int folder) {
+  LPITEMIDLIST list = nullptr;
+  if (FAILED(SHGetSpecialFolderLocation(nullptr, folder, &list))) return {};
+  std::u16string path =
+      FilledOnSuccess([&](wchar_t* buffer, DWORD*) { return SHGetPathFromIDListW(list, buffer); });
+  CoTaskMemFree(list);
+  return path;
+}
+
+std::uint32_t Clamped(SIZE_T bytes) {
+  return static_cast<std::uint32_t>(std::min<SIZE_T>(bytes, std::numeric_limits<std::uint32_t>::max()));
+}
+
+}  // namespace
+
+SystemVersion Win32Machine::Version() const {
+  OSVERSIONINFOEXW info{};
+  info.dwOSVersionInfoSize = sizeof info;
+  if (!GetVersionExW(reinterpret_cast<OSVERSIONINFOW*>(&info))) return {};
+  SystemVersion version;
+  version.family = FamilyOf(info.dwPlatformId);
+  version.major = info.dwMajorVersion;
+  version.minor = info.dwMinorVersion;
+  version.build = info.dwBuildNumber;
+  version.service_pack =
+      FromWide(UpToZero(std::wstring_view(info.szCSDVersion, std::size(info.szCSDVersion))));
+  version.suite_mask = info.wSuiteMask;
+  version.product_type = ProductOf(info.wProductType);
+  return version;
+}
+
+bool Win32Machine::IsServerR2() const { return GetSystemMetrics(SM_SERVERR2) != 0; }
+
+std::uint16_t Win32Machine::ProcessorArchitecture() const {
+  SYSTEM_INFO info{};
+  GetSystemInfo(&info);
+  return info.wProcessorArchitecture;
+}
+
+std::u16string Win32Machine::Folder(SystemFolder folder) const {
+  switch (folder) {
+    case SystemFolder::System:
+      return Filled(GetSystemDirectoryW);
+    case SystemFolder::Windows:
+      return Filled(GetWindowsDirectoryW);
+    case SystemFolder::Temporary:
+      return Filled([](wchar_t* buffer, DWORD size) { return GetTempPathW(size, buffer); });
+    case SystemFolder::CommonDocuments:
+      return ShellFolder(CSIDL_COMMON_DOCUMENTS);
+  }
+  return {};
+}
+
+std::u16string Win32Machine::ComputerName() const { return FilledOnSuccess(GetComputerNameW); }
+
+std::u16string Win32Machine::UserName() const { return FilledOnSuccess(GetUserNameW); }
+
+MemoryFigures Win32Machine::Memory() const {
+  MEMORYSTATUS status{};
+  status.dwLength = sizeof status;
+  GlobalMemoryStatus(&status);
+  return {Clamped(status.dwTotalPhys),    Clamped(status.dwAvailPhys),     Clamped(status.dwTotalVirtual),
+          Clamped(status.dwAvailVirtual), Clamped(status.dwTotalPageFile), Clamped(status.dwAvailPageFile)};
+}
+
+}  // namespace ravo::platform

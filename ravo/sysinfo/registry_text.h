@@ -1,0 +1,17 @@
+#pragma once
+
+#include <ravo/platform/machine.h>
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace ravo::RavoInterfaceInfo {
+
+/// A value's text; empty where the key did not open or the value has no text.
+[[nodiscard]] inline std::u16string TextOf(const std::unique_ptr<platform::RegistryKey>& key,
+                                           std::u16string_view name) {
+  return key ? key->Text(name).value_or(std::u16string()) : std::u16string();
+}
+
+}  // namespace ravo::RavoInterfaceInfo

@@ -1,0 +1,246 @@
+#!/usr/bin/env python3
+"""Who may include whom: rooms, circles, the operating system's names, and what public headers pull in."""
+
+import re
+
+from source_tree import code_files, includes, main, read, without_comments
+
+ANYTHING = None
+PUBLIC = "ravo/*.h"
+HOST_HEADER = "ravo/package.h"
+CHARACTERS = "ravo/unicode/characters"
+# Parts of a room that have arrows of their own and no row in the document.
+PARTS = {HOST_HEADER, CHARACTERS}
+
+# The arrows. docs/architecture.md shows the same table to people; check_document holds the two together.
+MAY_USE = {
+    PUBLIC: ANYTHING,
+    HOST_HEADER: {"runtime", "frame"},
+    "ravo/runtime": set(),
+    "ravo/platform": {"runtime"},
+    "ravo/frame": {"runtime", "platform", "package.h"},
+    "ravo/catalogue": {"runtime", "platform", "frame"},
+    "ravo/unicode": {"runtime", "platform", "frame", "unicode/characters"},
+    CHARACTERS: set(),
+    "ravo/utils": {"runtime", "platform", "frame", "unicode/characters"},
+    "ravo/common": {"runtime", "platform", "frame", "catalogue", "utils"},
+    "ravo/sysinfo": {"runtime", "platform", "frame", "common"},
+    "ravo/xml": {"runtime", "platform", "frame"},
+    "ravo/formout": {"runtime", "platform", "frame", "unicode"},
+    "ravo/hostapi": {"runtime", "platform", "frame"},
+    "tools/ravo": {PUBLIC},
+}
+SCANNED = ("ravo", "tools/ravo")
+
+SYSTEM_NAME = re.compile(
+    r"\b(_WIN32|_WIN64|WIN32|__MINGW32__|__MINGW64__|__CYGWIN__|__linux__|__unix__|__APPLE__|_MSC_VER)\b"
+)
+SYSTEM_HEADER = re.compile(r"^(windows|winver|unistd|dlfcn|sys/.*|win(base|nt|user|reg)|ole.*|shlobj)\.h$", re.I)
+# Sources that CMake picks by the target's system say so in their name.
+SYSTEM_SOURCE = re.compile(r"^(ravo/platform/|tests/support/)|^ravo/runtime/export\.h$|_(win32|posix)\.(cpp|c|h)$")
+C_STANDARD = {"stddef.h", "stdint.h"}
+
+
+def room_of(name):
+    """The room of a file, named by its path from the root; None outside every room."""
+    if name == HOST_HEADER:
+        return HOST_HEADER
+    if re.fullmatch(r"ravo/[^/]+\.h", name):
+        return PUBLIC
+    # `characters` is a part of the room `unicode` with arrows of its own, a folder or files of that stem.
+    if re.match(r"ravo/unicode/characters[./_]", name):
+        return CHARACTERS
+    rooms = [room for room in MAY_USE if name.startswith(room + "/")]
+    return max(rooms, key=len) if rooms else None
+
+
+def target_of(root, source, quote, name):
+    """The file of this tree that an #include line names; None for anything else."""
+    places = [root / name] if quote == "<" else [source.parent / name, root / name]
+    for place in places:
+        if place.is_file() and place.resolve().is_relative_to(root.resolve()):
+            return place.resolve().relative_to(root.resolve()).as_posix()
+    return None
+
+
+def allowed(source_room, target_room):
+    if source_room == target_room or MAY_USE[source_room] is ANYTHING:
+        return True
+    short = target_room.removeprefix("ravo/") if target_room != PUBLIC else PUBLIC
+    uses = MAY_USE[source_room]
+    return short in uses or short.split("/")[0] in uses or (target_room == HOST_HEADER and PUBLIC in uses)
+
+
+def include_graph(root):
+    """File -> [(line, file of this tree)], for everything that is scanned."""
+    return {
+        path.relative_to(root).as_posix(): [
+            (line, target)
+            for line, quote, name in includes(path)
+            if (target := target_of(root, path, quote, name))
+        ]
+        for path in code_files(root, *SCANNED)
+    }
+
+
+def check_arrows(graph):
+    for source, edges in graph.items():
+        source_room = room_of(source)
+        if source_room is None:
+            yield f"{source}: stands in no room"
+            continue
+        for line, target in edges:
+            target_room = room_of(target)
+            if target_room is None or not allowed(source_room, target_room):
+                yield f"{source}:{line}: {source_room} may not use {target_room or 'what is in no room'} ({target})"
+
+
+def check_circles(graph):
+    done, path = set(), []
+
+    def walk(name):
+        if name in path:
+            yield "circle: " + " -> ".join(path[path.index(name) :] + [name])
+        elif name not in done:
+            path.append(name)
+            for _, target in graph.get(name, []):
+                yield from walk(target)
+            path.pop()
+            done.add(name)
+
+    for name in graph:
+        yield from walk(name)
+
+
+def check_system_names(root):
+    for path in code_files(root, "ravo", "tools", "tests", "bench", "fuzz"):
+        name = path.relative_to(root).as_posix()
+        if SYSTEM_SOURCE.search(name):
+            continue
+        for number, line in enumerate(without_comments(read(path)).splitlines(), 1):
+            if found := SYSTEM_NAME.search(line):
+                yield f"{name}:{number}: {found.group(1)} belongs to ravo/platform alone"
+        for number, quote, header in includes(path):
+            if quote == "<" and SYSTEM_HEADER.match(header):
+                yield f"{name}:{number}: <{header}> belongs to ravo/platform alone"
+
+
+def check_public_headers(root, graph):
+    """Nothing that a public header reaches may include a system header."""
+    reached, waiting = set(), [name for name in graph if room_of(name) in (PUBLIC, HOST_HEADER)]
+    while waiting:
+        name = waiting.pop()
+        if name not in reached:
+            reached.add(name)
+            waiting += [target for _, target in graph.get(name, [])]
+    for name in sorted(reached):
+        for line, quote, header in includes(root / name):
+            standard = header in C_STANDARD or re.fullmatch(r"[a-z0-9_]+", header)
+            if not target_of(root, root / name, quote, header) and not standard:
+                yield f"{name}:{line}: a public header reaches the system header {header}"
+
+
+def document_table(root):
+    """Room -> the words of its 'may use' cell, from the table of docs/architecture.md."""
+    table = {}
+    for line in read(root / "docs/architecture.md").splitlines():
+        cells = [cell.strip() for cell in line.strip("|").split("|")]
+        if line.startswith("| `") and len(cells) == 3:
+            for name in re.findall(r"`([^`]+)`", cells[0]):
+                table[name.rstrip("/")] = cells[2]
+    return table
+
+
+def arrows_of(cell):
+    """The rooms that a cell names before its first ";", what follows being a remark."""
+    if cell == "everything":
+        return ANYTHING
+    if cell == "the public face":
+        return {PUBLIC}
+    return set(re.findall(r"`([^`]+)`", cell.split(";")[0]))
+
+
+def check_document(root):
+    table = document_table(root)
+    if "its `characters` use nothing" not in table.get("ravo/unicode", ""):
+        yield "docs/architecture.md: does not say that unicode's `characters` use nothing"
+    for room, uses in MAY_USE.items():
+        if room in PARTS:
+            continue
+        if room not in table:
+            yield f"docs/architecture.md: has no row for {room}"
+        elif arrows_of(table[room]) != (uses - {"unicode/characters"} if room == "ravo/unicode" else uses):
+            yield f"docs/architecture.md: the row of {room} says '{table[room]}', the check knows {uses}"
+    for room in table:
+        if room.startswith("ravo/") and room not in MAY_USE:
+            yield f"docs/architecture.md: the check does not know the room {room}"
+
+
+def check(root):
+    graph = include_graph(root)
+    return [
+        *check_arrows(graph),
+        *check_circles(graph),
+        *check_system_names(root),
+        *check_public_headers(root, graph),
+        *check_document(root),
+    ]
+
+
+def _document(changed=None):
+    """A table that agrees with the arrows, one row replaced."""
+
+    def cell(room, uses):
+        if uses is ANYTHING:
+            return "everything"
+        if uses == {PUBLIC}:
+            return "the public face"
+        words = ", ".join(f"`{use}`" for use in sorted(uses - {"unicode/characters"} if room == "ravo/unicode" else uses))
+        return (words or "nothing of ours") + ("; its `characters` use nothing" if room == "ravo/unicode" else "")
+
+    rows = {room: cell(room, uses) for room, uses in MAY_USE.items() if room not in PARTS}
+    rows.update(changed or {})
+    return "".join(f"| `{room}` | x | {uses} |\n" for room, uses in rows.items() if uses is not None)
+
+
+def _tree(files, changed=None):
+    base = {"docs/architecture.md": _document(changed), "ravo/runtime/a.h": "", "ravo/common/b.h": ""}
+    return {**base, **files}
+
+
+PLANTINGS = [
+    ("a good tree", _tree({"ravo/common/c.cpp": "#include <ravo/runtime/a.h>\n#include <vector>\n"}), None),
+    ("an upward arrow", _tree({"ravo/runtime/c.h": "\n#include <ravo/common/b.h>\n"}), "runtime/c.h:2: ravo/runtime may not"),
+    ("a quoted upward arrow", _tree({"ravo/runtime/c.h": '#include "../common/b.h"\n'}), "ravo/runtime may not"),
+    ("an arrow in a comment", _tree({"ravo/runtime/c.h": "/*\n#include <ravo/common/b.h>\n*/\n"}), None),
+    ("the tool reaches inside", _tree({"tools/ravo/m.cpp": "#include <ravo/runtime/a.h>\n"}), "tools/ravo may not"),
+    ("the tool at the face", _tree({"ravo/P.h": "", "tools/ravo/m.cpp": "#include <ravo/P.h>\n"}), None),
+    ("the host's header", _tree({"ravo/package.h": "#include <stdint.h>\n", "ravo/frame/f.h": "#include <ravo/package.h>\n"}), None),
+    ("the host's header elsewhere", _tree({"ravo/package.h": "", "ravo/xml/f.h": "#include <ravo/package.h>\n"}), "ravo/xml may not"),
+    ("the host's header and the system", _tree({"ravo/package.h": "#include <dlfcn.h>\n"}), "reaches the system header"),
+    ("a room unknown", _tree({"ravo/attic/a.h": ""}), "stands in no room"),
+    ("characters from utils", _tree({"ravo/unicode/characters.h": "", "ravo/utils/u.h": "#include <ravo/unicode/characters.h>\n"}), None),
+    ("reader from utils", _tree({"ravo/unicode/reader.h": "", "ravo/utils/u.h": "#include <ravo/unicode/reader.h>\n"}), "ravo/utils may not"),
+    ("characters using runtime", _tree({"ravo/unicode/characters.h": "#include <ravo/runtime/a.h>\n"}), "characters may not"),
+    (
+        "a circle",
+        _tree({"ravo/xml/a.h": "#include <ravo/xml/b.h>\n", "ravo/xml/b.h": "#include <ravo/xml/a.h>\n"}),
+        "circle: ravo/xml/a.h -> ravo/xml/b.h -> ravo/xml/a.h",
+    ),
+    ("a system's macro", _tree({"ravo/xml/a.cpp": "#ifdef _WIN32\n#endif\n"}), "xml/a.cpp:1: _WIN32"),
+    ("a system's macro in words", _tree({"ravo/xml/a.cpp": '// _WIN32\nauto a = "_WIN32";\n'}), None),
+    ("a system's header", _tree({"tests/xml/a.cpp": "#include <windows.h>\n"}), "<windows.h> belongs"),
+    ("the system where it belongs", _tree({"ravo/platform/win32/a.cpp": "#include <windows.h>\n#ifdef _WIN32\n#endif\n"}), None),
+    ("a public header", _tree({"ravo/P.h": "#include <sys/stat.h>\n"}), "reaches the system header sys/stat.h"),
+    (
+        "a public header at second hand",
+        _tree({"ravo/P.h": "#include <ravo/platform/q.h>\n", "ravo/platform/q.h": "#include <windows.h>\n"}),
+        "platform/q.h:1: a public header reaches",
+    ),
+    ("a row that disagrees", _tree({}, {"ravo/xml": "`runtime`, `common`"}), "the row of ravo/xml"),
+    ("a row that is missing", _tree({}, {"ravo/xml": None}), "no row for ravo/xml"),
+    ("a row too many", _tree({}, {"ravo/attic": "`runtime`"}), "does not know the room ravo/attic"),
+]
+
+if __name__ == "__main__":
+    main(check, PLANTINGS)

@@ -1,0 +1,80 @@
+"""What the checks of the source tree share: reading sources, reporting, and the self-test's planted trees.
+
+A check is a function that takes the root of a tree and returns a list of findings, each a line of text. Its
+self-test is a list of plantings: files that are put into an empty tree, and a piece of text that some finding
+must contain then (or None where nothing may be found).
+"""
+
+import argparse
+import pathlib
+import re
+import sys
+import tempfile
+
+CODE = {".h", ".cpp", ".c", ".inc"}
+
+_TOKEN = re.compile(
+    r'//[^\n]*|/\*.*?\*/|R"(?P<mark>[^(\s]*)\(.*?\)(?P=mark)"|"(?:\\.|[^"\\\n])*"|(?<![0-9A-Za-z_])\'(?:\\.|[^\'\\\n])+\'',
+    re.DOTALL,
+)
+_INCLUDE = re.compile(r'^[ \t]*#[ \t]*include[ \t]*([<"])([^>"\n]+)[>"]', re.MULTILINE)
+
+
+def code_files(root, *folders):
+    """The sources below the given folders of a tree, in a fixed order."""
+    for folder in folders:
+        yield from sorted(p for p in (root / folder).rglob("*") if p.suffix in CODE and p.is_file())
+
+
+def read(path):
+    return path.read_text(encoding="utf-8")
+
+
+def without_comments(text, keep_strings=False):
+    """Code with comments, and unless they are kept literals, made blank; lines keep their numbers."""
+
+    def blank(match):
+        token = match.group(0)
+        if token[0] != "/":
+            return token if keep_strings else '""'
+        return "\n" * token.count("\n") or " "
+
+    return _TOKEN.sub(blank, text)
+
+
+def includes(path):
+    """(line number, "<" or the quote, name) of every #include line of a file that is no comment."""
+    text = without_comments(read(path), keep_strings=True)
+    for match in _INCLUDE.finditer(text):
+        yield text.count("\n", 0, match.start()) + 1, match.group(1), match.group(2)
+
+
+def plant(root, files):
+    for name, text in files.items():
+        path = root / name
+        path.parent.mkdir(parents=True, exist_ok=True)
+        path.write_text(text, encoding="utf-8")
+
+
+def _failures_of(check, plantings):
+    for title, files, wanted in plantings:
+        with tempfile.TemporaryDirectory() as folder:
+            root = pathlib.Path(folder)
+            plant(root, files)
+            findings = check(root)
+        if wanted is None and findings:
+            yield f"self-test '{title}': found what is not there: {findings}"
+        if wanted is not None and not any(wanted in finding for finding in findings):
+            yield f"self-test '{title}': missed '{wanted}', found only {findings}"
+
+
+def main(check, plantings):
+    """The command line of every check: the tree's root, or --self-test. Exits 1 on findings."""
+    parser = argparse.ArgumentParser()
+    parser.add_argument("root", nargs="?", type=pathlib.Path, default=pathlib.Path(__file__).parents[2])
+    parser.add_argument("--self-test", action="store_true", help="prove that planted defects are found")
+    arguments = parser.parse_args()
+    findings = list(_failures_of(check, plantings)) if arguments.self_test else check(arguments.root.resolve())
+    for finding in findings:
+        print(finding)
+    sys.exit(1 if findings else 0)

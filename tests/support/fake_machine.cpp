@@ -1,0 +1,158 @@
+#include "support/fake_machine.h"
+
+#include "support/windows_1250.h"
+#include <ravo/runtime/error.h>
+
+
+namespace ravo::test {
+namespace {
+
+template <class Value>
+const Value* Find(const NameMap<Value>& map, std::u16string_view name) {
+  const auto found = map.find(name);
+  return found == map.end() ? nullptr : &found->second;
+}
+
+std::vector<std::byte> StoredBytes(const std::u16string& text) {
+  std::vector<std::byte> bytes;
+  for (const char16_t unit : std::u16string_view(text.data(), text.size() + 1)) {
+    bytes.push_back(static_cast<std::byte>(unit & 0xFF));
+    bytes.push_back(static_cast<std::byte>(unit >> 8));
+  }
+  return bytes;
+}
+
+std::vector<std::byte> StoredBytes(std::int32_t value) {
+  std::vector<std::byte> bytes;
+  for (int shift = 0; shift < 32; shift += 8) {
+    bytes.push_back(static_cast<std::byte>((static_cast<std::uint32_t>(value) >> shift) & 0xFF));
+  }
+  return bytes;
+}
+
+std::vector<std::byte> StoredBytes(const std::vector<std::byte>& bytes) { return bytes; }
+
+std::vector<std::byte> StoredBytes(Unreadable) { throw Error(u"The value cannot be read"); }
+
+class OpenFakeKey final : public platform::RegistryKey {
+ public:
+  explicit OpenFakeKey(const FakeRegistryKey& values) : values_(values) {}
+
+  std::optional<std::u16string> Text(std::u16string_view name) const override {
+    return As<std::u16string>(name);
+  }
+  std::optional<std::int32_t> Integer(std::u16string_view name) const override {
+    return As<std::int32_t>(name);
+  }
+  std::optional<std::vector<std::byte>> Bytes(std::u16string_view name, std::size_t most) const override {
+    const FakeRegistryValue* value = Find(values_, name);
+    if (!value) return std::nullopt;
+    auto bytes = std::visit([](const auto& stored) { return StoredBytes(stored); }, *value);
+    bytes.resize(std::min(bytes.size(), most));
+    return bytes;
+  }
+
+ private:
+  template <class Kind>
+  std::optional<Kind> As(std::u16string_view name) const {
+    const FakeRegistryValue* value = Find(values_, name);
+    const Kind* kind = value ? std::get_if<Kind>(value) : nullptr;
+    return kind ? std::optional(*kind) : std::nullopt;
+  }
+
+  const FakeRegistryKey& values_;
+};
+
+class OpenFakeVersion final : public platform::VersionResource {
+ public:
+  explicit OpenFakeVersion(const FakeVersionResource& version) : version_(version) {}
+
+  std::optional<std::uint32_t> FirstTranslation() const override { return version_.translation; }
+  std::optional<std::u16string> String(std::u16string_view table, std::u16string_view key) const override {
+    const auto* strings = Find(version_.tables, table);
+    const std::u16string* text = strings ? Find(*strings, key) : nullptr;
+    return text ? std::optional(text->substr(0, text->find(u'\0'))) : std::nullopt;
+  }
+
+ private:
+  const FakeVersionResource& version_;
+};
+
+bool IsAbsolute(std::u16string_view name) {
+  return !name.empty() && (name[0] == u'\\' || name[0] == u'/' || (name.size() > 1 && name[1] == u':'));
+}
+
+}  // namespace
+
+FakeRegistryKey& FakeMachine::Key(platform::RegistryRoot root, std::u16string_view path) {
+  return registry[root][std::u16string(path)];
+}
+
+std::u16string FakeMachine::Folder(platform::SystemFolder folder) const {
+  const auto found = folders.find(folder);
+  return found == folders.end() ? std::u16string() : found->second;
+}
+
+std::uint32_t FakeMachine::LogicalDrives() const {
+  std::uint32_t mask = 0;
+  for (const auto& [name, drive] : drives) mask |= std::uint32_t{1} << (name.at(0) - u'A');
+  return mask;
+}
+
+platform::DriveKind FakeMachine::KindOfDrive(std::u16string_view drive) const {
+  const FakeDrive* found = Find(drives, drive);
+  return found ? found->kind : platform::DriveKind::NoRoot;
+}
+
+std::optional<platform::DiskSpace> FakeMachine::SpaceOfDrive(std::u16string_view drive) const {
+  const FakeDrive* found = Find(drives, drive);
+  return found ? found->space : std::nullopt;
+}
+
+std::unique_ptr<platform::RegistryKey> FakeMachine::OpenKey(platform::RegistryRoot root,
+                                                            std::u16string_view path) const {
+  opened_keys.emplace_back(path);
+  if (path.starts_with(u'\\')) path.remove_prefix(1);
+  const auto keys = registry.find(root);
+  const FakeRegistryKey* key = keys == registry.end() ? nullptr : Find(keys->second, path);
+  return key ? std::make_unique<OpenFakeKey>(*key) : nullptr;
+}
+
+std::u16string FakeMachine::FullPath(std::u16string_view name) const {
+  if (IsAbsolute(name)) return std::u16string(name);
+  return (current_folder + path_delimiter).append(name);
+}
+
+std::optional<platform::FileFacts> FakeMachine::FindFile(std::u16string_view name) const {
+  const FakeFile* file = Find(files, name);
+  return file ? std::optional(file->facts) : std::nullopt;
+}
+
+std::unique_ptr<platform::VersionResource> FakeMachine::OpenVersionResource(std::u16string_view name) const {
+  const FakeFile* file = Find(files, name);
+  return file && file->version ? std::make_unique<OpenFakeVersion>(*file->version) : nullptr;
+}
+
+DateTime FakeMachine::Now() const {
+  if (clock.empty()) return 0;
+  return clock[std::min(next_reading_++, clock.size() - 1)];
+}
+
+std::u16string FakeMachine::FromCodePage(std::string_view bytes) const { return FromWindows1250(bytes); }
+
+std::string FakeMachine::ToCodePage(std::u16string_view text) const { return ToWindows1250(text); }
+
+std::optional<std::u16string_view> FakeMachine::ResourceText(platform::ModuleHandle module,
+                                                             std::uint16_t id) const {
+  const auto texts = resource_texts.find(module);
+  if (texts == resource_texts.end()) return std::nullopt;
+  const auto text = texts->second.find(id);
+  return text == texts->second.end() ? std::nullopt : std::optional<std::u16string_view>(text->second);
+}
+
+platform::ModuleHandle FakeMachine::LoadResources(std::u16string_view file) const {
+  const platform::ModuleHandle* module = Find(resource_files, file);
+  return module ? *module : nullptr;
+}
+
+}  // namespace ravo::test

@@ -1,0 +1,268 @@
+#!/usr/bin/env python3
+"""Runs the command-line program by its command line and looks at exit status, standard output and standard error.
+
+usage: tool_test.py [--self-test] -- COMMAND...      (COMMAND: the program, an emulator in front where it needs one)
+
+Exits 77 where the emulator says that this machine cannot run the program.
+"""
+
+import json
+import pathlib
+import re
+import subprocess
+import sys
+import tempfile
+from dataclasses import dataclass
+from typing import Callable, Optional
+
+YES, NO, WRONG_USAGE, SKIPPED = 0, 1, 2, 77
+
+
+@dataclass
+class Row:
+    """A command line and what must come of it. Texts are looked for; `exact` is the whole standard output."""
+
+    arguments: list
+    status: int = YES
+    out: tuple = ()
+    exact: Optional[str] = None
+    err: tuple = ()
+    # Gives a remark about what is wrong, or something false.
+    holds: Optional[Callable[[str], object]] = None
+
+
+@dataclass
+class Result:
+    status: int
+    out: str
+    err: str
+
+
+class Program:
+    def __init__(self, command, folder):
+        self.command, self.folder = command, folder
+
+    def run(self, arguments, **options):
+        options = {"stdout": subprocess.PIPE, **options}
+        done = subprocess.run(
+            self.command + arguments, cwd=self.folder, stderr=subprocess.PIPE, stdin=subprocess.DEVNULL, timeout=300, **options
+        )
+        # Bytes that are no UTF-8 end the test here.
+        return Result(done.returncode, (done.stdout or b"").decode("utf-8"), done.stderr.decode("utf-8"))
+
+    def failures(self, row):
+        result = self.run(row.arguments)
+        wrong = []
+        if result.status != row.status:
+            wrong.append(f"status {result.status}, not {row.status}")
+        wrong += [f"standard output lacks {text!r}" for text in row.out if text not in result.out]
+        wrong += [f"standard error lacks {text!r}" for text in row.err if text not in result.err]
+        if row.exact is not None and result.out != row.exact:
+            wrong.append(f"standard output is not {row.exact!r}")
+        if "\r" in result.out + result.err:
+            wrong.append("a carriage return in the output")
+        if row.status == YES and result.err:
+            wrong.append("something on standard error")
+        if row.status != YES and not result.err:
+            wrong.append("nothing on standard error")
+        if row.holds and (remark := row.holds(result.out)):
+            wrong.append(str(remark))
+        shown = f"\n  standard output: {result.out[:600]!r}\n  standard error: {result.err[:600]!r}"
+        return [f"ravo {' '.join(row.arguments)}: {remark}{shown}" for remark in wrong]
+
+
+def as_json(check):
+    """A `holds` over the parsed standard output."""
+
+    def holds(out):
+        try:
+            value = json.loads(out)
+        except ValueError as error:
+            return f"no JSON: {error}"
+        return check(value)
+
+    return holds
+
+
+def differs(wanted):
+    return as_json(lambda value: value != wanted and f"is not {wanted!r}")
+
+
+def lines(count):
+    return lambda out: out.count("\n") != count and f"{out.count(chr(10))} lines, not {count}"
+
+
+def without(text):
+    return lambda out: text in out and f"contains {text!r}"
+
+
+def table_rows(rows):
+    ranges = [row for row in rows if row["first"] != row["last"]]
+    names = {row["module"] for row in rows}
+    wanted = {"Profil", "RSS", "DCF", "Base", "Ucetnictvi", "Kancelar", "Majetek", "Mzda", "Sklad", "Box"}
+    if len(rows) != 257 or len(ranges) != 2 or names != wanted:
+        return f"{len(rows)} rows, {len(ranges)} ranges, modules {names}"
+
+
+def caption_groups(groups):
+    items = {item["name"]: item for group in groups for item in group["items"]}
+    if items["rMessageAutomatickyPrenosZP"]["text"].count("\r") != 1:
+        return "the message has lost its line break"
+    if items["rPropertyDokladPZPohledavka"] != {"id": 65477, "name": "rPropertyDokladPZPohledavka", "text": "&Pohledávka"}:
+        return "the caption of receivables is another"
+
+
+ROWS = [
+    # The program as a whole.
+    Row(["--version"], holds=lambda out: not re.fullmatch(r"ravo \d+\.\d+\.\d+\n", out)),
+    Row(["--help"], out=("report", "table", "captions", "Examples:")),
+    Row(["report", "--help"], out=("--business", "-o FILE", "Examples:")),
+    Row(["table", "--help"], out=("--module", "--all", "Profil, RSS, DCF", "Examples:")),
+    Row(["captions", "--help"], out=("--plain", "Examples:")),
+    Row([], WRONG_USAGE),
+    Row(["nonsense"], WRONG_USAGE),
+    Row(["--nonsense"], WRONG_USAGE),
+    Row(["report", "stray"], WRONG_USAGE),
+    Row(["captions", "--příklad"], WRONG_USAGE, err=("--příklad",)),
+    # Tables.
+    Row(["table", "10110"], exact="10110\tProfil\n"),
+    Row(["table", "72510", "10210"], exact="72510\tPřevodní príkazy\n10210\tÚčtovaná firma\n"),
+    Row(["table", "110120"], exact="110120\tSložky pro RSS zdroje \n"),
+    Row(["table", "100121"], exact="100121\tOsoby u firmy\n"),
+    Row(["table", "100124"], NO, exact="", err=("100124",)),
+    Row(["table", "10110", "5", "10210"], NO, exact="10110\tProfil\n10210\tÚčtovaná firma\n", err=("table 5",)),
+    Row(["table", "--", "-10110"], NO, err=("-10110",)),
+    Row(["table", "--json", "10110", "5"], NO, err=("table 5",),
+        holds=differs([{"id": 10110, "description": "Profil"}, {"id": 5, "description": None}])),
+    Row(["table", "--module", "Kancelar", "72510"], exact="72510\tPřevodní príkazy\n"),
+    Row(["table", "--module", "Ucetnictvi", "72510"], NO, err=("Ucetnictvi", "72510")),
+    Row(["table", "--module", "dcf"], out=("100120-100123\tOsoby u firmy\n",), holds=lines(6)),
+    Row(["table", "--module", "RSS", "--json"], holds=as_json(lambda rows: len(rows) != 5 and f"{len(rows)} rows")),
+    Row(["table", "--all"], out=("208200\tNastavení pro uživatele Boxu\n",), holds=lines(257)),
+    Row(["table", "--all", "--json"], holds=as_json(table_rows)),
+    Row(["table", "--all", "--module", "MZDA"], out=("51100\tČíselník rodinných stavů\n",), holds=lines(43)),
+    Row(["table"], WRONG_USAGE),
+    Row(["table", "--all", "10110"], WRONG_USAGE),
+    Row(["table", "x"], WRONG_USAGE, err=("'x'",)),
+    Row(["table", "10110x"], WRONG_USAGE, err=("10110x",)),
+    Row(["table", ""], WRONG_USAGE),
+    Row(["table", "2147483648"], WRONG_USAGE, err=("2147483648",)),
+    Row(["table", "--module", "Účetnictví"], WRONG_USAGE,
+        err=("Účetnictví", "Profil, RSS, DCF, Base, Ucetnictvi, Kancelar, Majetek, Mzda, Sklad, Box")),
+    Row(["table", "--module", ""], WRONG_USAGE, err=("Profil, RSS",)),
+    Row(["table", "--module"], WRONG_USAGE),
+    # Captions.
+    Row(["captions"], out=("65477\trPropertyDokladPZPohledavka\t&Pohledávka\n", "ÚD. / Spusťte operaci „Zaúčtovat do ÚD“")),
+    Row(["captions", "--plain"], out=("65477\trPropertyDokladPZPohledavka\tPohledávka\n", "\tDodací list\n"), holds=without("&")),
+    Row(["captions", "--json"], holds=as_json(caption_groups)),
+    Row(["captions", "--plain", "--json"], out=("„Zaúčtovat do ÚD“",), holds=without("&")),
+    # The report.
+    Row(["report"], out=("Informace o klientské vrstvě\n\tČasové informace\n\t\tAktuální datum: ", "\n\tSoubory\n\t\tVCL\n")),
+    Row(["report", "--business"], out=("Informace o aplikační vrstvě\n\tČasové informace\n",)),
+    Row(["report", "-o"], WRONG_USAGE),
+    Row(["report", "-o", "missing/zpráva.txt"], WRONG_USAGE, exact="", err=("missing/zpráva.txt",)),
+    Row(["report", "-o", "."], WRONG_USAGE, exact="", err=(".: is a folder",)),
+]
+
+# What the harness itself must find wrong, each for the named reason.
+MUST_FAIL = [
+    (Row(["table", "10110"], NO), "status 0, not 1"),
+    (Row(["table", "10110"], exact="10110 Profil\n"), "standard output is not"),
+    (Row(["table", "10110"], out=("Účet",)), "standard output lacks"),
+    (Row(["table", "5"], NO, err=("table 6",)), "standard error lacks"),
+    (Row(["table", "10110"], holds=differs([])), "no JSON"),
+    (Row(["table", "10110", "--json"], holds=differs([])), "is not []"),
+    (Row(["table", "5"], YES), "something on standard error"),
+    (Row(["table", "10110"], NO), "nothing on standard error"),
+]
+
+
+def outline(nodes, depth=0):
+    """Depth, caption and whether there is a value, line by line, from the report's JSON."""
+    for node in nodes:
+        yield depth, node["caption"], "value" in node
+        yield from outline(node.get("items", []), depth + 1)
+
+
+def outline_of_text(report):
+    for line in report.splitlines():
+        depth = len(line) - len(line.lstrip("\t"))
+        caption, separator, _ = line[depth:].partition(": ")
+        yield depth, caption, bool(separator)
+
+
+def check_report_json(program):
+    """The JSON of the report has every line of its text: at its depth, in its order."""
+    for layer in ([], ["--business"]):
+        text = list(outline_of_text(program.run(["report", *layer]).out))
+        nested = list(outline(json.loads(program.run(["report", "--json", *layer]).out)))
+        if text != nested:
+            yield f"report {layer}: lines and JSON differ: {set(text) ^ set(nested)}"
+        if len(text) < 40:
+            yield f"report {layer}: only {len(text)} lines"
+
+
+def check_report_file(program):
+    """A report in a file keeps its CR LF, replaces what was there, and leaves nothing beside it."""
+    name = "zpráva o počítači.txt"
+    file = program.folder / name
+    for before in (None, "an older, longer text" * 1000):
+        if before:
+            file.write_text(before, encoding="utf-8")
+        result = program.run(["report", "-o", name])
+        if (result.status, result.out, result.err) != (YES, "", ""):
+            yield f"report -o {name}: {result}"
+        content = file.read_bytes()
+        if not content.startswith("Informace o klientské vrstvě\r\n\tČasové".encode()):
+            yield f"report -o {name}: begins with {content[:60]!r}"
+        if content.count(b"\r\n") != content.count(b"\n") or not content.endswith(b"\r\n"):
+            yield f"report -o {name}: a line does not end in CR LF"
+    program.run(["report", "--json", "-o", name])
+    json.loads(file.read_bytes().decode("utf-8"))
+    if left := [path.name for path in program.folder.iterdir() if path != file]:
+        yield f"report -o {name}: left {left} beside it"
+
+
+def check_full_device(program):
+    """Output that cannot be written is no success."""
+    if len(program.command) > 1 or not pathlib.Path("/dev/full").exists():
+        return
+    with open("/dev/full", "wb") as full:
+        result = program.run(["table", "10110"], stdout=full)
+    if result.status != WRONG_USAGE or not result.err:
+        yield f"table 10110 >/dev/full: {result}"
+    if program.run(["report", "-o", "/dev/full"]).status != WRONG_USAGE:
+        yield "report -o /dev/full: no failure"
+    if not pathlib.Path("/dev/full").is_char_device():
+        yield "report -o /dev/full: the device is gone"
+
+
+def tested(program):
+    for row in ROWS:
+        yield from program.failures(row)
+    for check in (check_report_json, check_report_file, check_full_device):
+        yield from check(program)
+
+
+def self_tested(program):
+    for row, reason in MUST_FAIL:
+        if not any(reason in failure for failure in program.failures(row)):
+            yield f"ravo {' '.join(row.arguments)}: the harness does not see '{reason}'"
+
+
+def main(arguments):
+    self_test = arguments[:1] == ["--self-test"]
+    command = arguments[arguments.index("--") + 1 :]
+    # Below the build tree: a program under an emulator may see nothing else.
+    with tempfile.TemporaryDirectory(dir=".") as folder:
+        program = Program(command, pathlib.Path(folder).resolve())
+        if program.run(["--version"]).status == SKIPPED:
+            sys.exit(SKIPPED)
+        failures = list(self_tested(program) if self_test else tested(program))
+    for failure in failures:
+        print(failure)
+    sys.exit(1 if failures else 0)
+
+
+if __name__ == "__main__":
+    main(sys.argv[1:])

@@ -1,0 +1,82 @@
+#include "commands.h"
+#include "json_text.h"
+#include <ravo/RavoInterface.h>
+#include <ravo/RavoInterfaceInfo.h>
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace tool {
+namespace {
+
+struct CaptionsOptions {
+  bool plain = false;
+  bool json = false;
+};
+
+// Receives the captions one by one and keeps them as lines or as JSON.
+class Listing {
+ public:
+  explicit Listing(const CaptionsOptions& options) : options_(options) {}
+
+  void Add(std::string_view group, std::string_view name, const ravo::ResourceString& string) {
+    if (group != group_) Begin(group);
+    const std::u16string text = options_.plain ? ravo::PlainCaption(string.View()) : string.Text();
+    AddLine(name, string.id, text);
+    groups_.back()["items"].push_back({{"id", string.id}, {"name", name}, {"text", ravo::ToUtf8(text)}});
+  }
+
+  [[nodiscard]] std::string Text() const { return options_.json ? JsonText(groups_) : lines_; }
+
+ private:
+  void Begin(std::string_view group) {
+    if (!lines_.empty()) lines_ += "\n";
+    lines_ += std::string(group) + "\n";
+    groups_.push_back({{"group", group}, {"items", Json::array()}});
+    group_ = group;
+  }
+
+  // A message breaks its lines with a carriage return; a listing has one line for each.
+  void AddLine(std::string_view name, int id, const std::u16string& text) {
+    lines_ += "  " + std::to_string(id) + "\t" + std::string(name) + "\t";
+    lines_ += ravo::ToUtf8(ravo::ReplaceAll(text, u"\r", u" / ")) + "\n";
+  }
+
+  CaptionsOptions options_;
+  std::string lines_;
+  Json groups_ = Json::array();
+  std::string_view group_;
+};
+
+void Run(const CaptionsOptions& options, Outcome& outcome) {
+  Listing listing(options);
+  for (const ravo::CaptionRow& row : ravo::CaptionRows()) listing.Add(row.group, row.name, row.text);
+  for (const auto& [name, caption] : ravo::RavoInterfaceInfo::kReportCaptions) {
+    listing.Add("Support report", name, caption);
+  }
+  outcome.out = listing.Text();
+}
+
+constexpr const char* kFooter =
+    "Each line has the identifier in the string table, the name in the library and the text; \" / \" stands "
+    "for\n"
+    "the line break of a message. \"&\" marks the keyboard accelerator.\n"
+    "\n"
+    "Examples:\n"
+    "  ravo captions                  every caption and message, set by set\n"
+    "  ravo captions --plain          as they read in a list, without accelerators\n"
+    "  ravo captions --json           for a program, line breaks kept\n";
+
+}  // namespace
+
+void AddCaptionsCommand(CLI::App& program, Outcome& outcome) {
+  CLI::App* command = program.add_subcommand("captions", "Lists the captions and messages");
+  const auto options = std::make_shared<CaptionsOptions>();
+  command->add_flag("--plain", options->plain, "Without the marks of accelerators");
+  command->add_flag("--json", options->json, "Write JSON: {group, items: {id, name, text}}");
+  command->footer(kFooter);
+  command->callback([options, &outcome] { Run(*options, outcome); });
+}
+
+}  // namespace tool

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "outcome.h"
+
+#include <CLI/CLI.hpp>
+
+/// The sub-commands. Each function adds one to the program; when the command line names it, it fills the
+/// outcome.
+namespace tool {
+
+void AddReportCommand(CLI::App& program, Outcome& outcome);
+void AddTableCommand(CLI::App& program, Outcome& outcome);
+void AddCaptionsCommand(CLI::App& program, Outcome& outcome);
+
+}  // namespace tool

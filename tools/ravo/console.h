@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// The process's command line and its two output channels, in UTF-8 on every system.
+namespace tool {
+
+/// The arguments without the program's name.
+[[nodiscard]] std::vector<std::string> Arguments(int count, const char* const* values);
+
+enum class Channel { Out, Err };
+
+/// Writes a text as it stands: to a console in whatever the console shows, to a file or pipe as UTF-8 bytes.
+/// False where not all of it could be written.
+[[nodiscard]] bool Write(Channel channel, std::string_view utf8);
+
+}  // namespace tool

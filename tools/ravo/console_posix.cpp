@@ -1,0 +1,16 @@
+#include "console.h"
+
+#include <cstdio>
+
+namespace tool {
+
+std::vector<std::string> Arguments(int count, const char* const* values) {
+  return count > 0 ? std::vector<std::string>(values + 1, values + count) : std::vector<std::string>();
+}
+
+bool Write(Channel channel, std::string_view utf8) {
+  std::FILE* file = channel == Channel::Out ? stdout : stderr;
+  return std::fwrite(utf8.data(), 1, utf8.size(), file) == utf8.size() && std::fflush(file) == 0;
+}
+
+}  // namespace tool

@@ -1,0 +1,72 @@
+#include "console.h"
+
+#include <algorithm>
+#include <cwchar>
+
+// The second header needs the first.
+// clang-format off
+#include <windows.h>
+#include <shellapi.h>
+// clang-format on
+
+namespace tool {
+namespace {
+
+std::string ToUtf8(const wchar_t* text) {
+  const int length = static_cast<int>(std::wcslen(text));
+  const int size = WideCharToMultiByte(CP_UTF8, 0, text, length, nullptr, 0, nullptr, nullptr);
+  std::string utf8(static_cast<std::size_t>(size), '\0');
+  WideCharToMultiByte(CP_UTF8, 0, text, length, utf8.data(), size, nullptr, nullptr);
+  return utf8;
+}
+
+std::wstring ToWide(std::string_view utf8) {
+  const int length = static_cast<int>(utf8.size());
+  const int size = MultiByteToWideChar(CP_UTF8, 0, utf8.data(), length, nullptr, 0);
+  std::wstring text(static_cast<std::size_t>(size), L'\0');
+  MultiByteToWideChar(CP_UTF8, 0, utf8.data(), length, text.data(), size);
+  return text;
+}
+
+// A console takes a limited number of units at once; a file or pipe may take fewer bytes than it was offered.
+constexpr std::size_t kMostUnits = 8192;
+
+bool WriteToConsole(HANDLE console, std::wstring_view text) {
+  while (!text.empty()) {
+    DWORD written = 0;
+    const auto count = static_cast<DWORD>(std::min(text.size(), kMostUnits));
+    if (!WriteConsoleW(console, text.data(), count, &written, nullptr) || written == 0) return false;
+    text.remove_prefix(written);
+  }
+  return true;
+}
+
+bool WriteBytes(HANDLE file, std::string_view bytes) {
+  while (!bytes.empty()) {
+    DWORD written = 0;
+    const auto count = static_cast<DWORD>(std::min<std::size_t>(bytes.size(), 1 << 20));
+    if (!WriteFile(file, bytes.data(), count, &written, nullptr) || written == 0) return false;
+    bytes.remove_prefix(written);
+  }
+  return true;
+}
+
+}  // namespace
+
+// What `main` is given went through the 8-bit code page; the wide command line has lost nothing.
+std::vector<std::string> Arguments(int, const char* const*) {
+  std::vector<std::string> arguments;
+  int count = 0;
+  LPWSTR* values = CommandLineToArgvW(GetCommandLineW(), &count);
+  for (int i = 1; values != nullptr && i < count; ++i) arguments.push_back(ToUtf8(values[i]));
+  LocalFree(static_cast<HLOCAL>(values));
+  return arguments;
+}
+
+bool Write(Channel channel, std::string_view utf8) {
+  const HANDLE handle = GetStdHandle(channel == Channel::Out ? STD_OUTPUT_HANDLE : STD_ERROR_HANDLE);
+  DWORD mode = 0;
+  return GetConsoleMode(handle, &mode) ? WriteToConsole(handle, ToWide(utf8)) : WriteBytes(handle, utf8);
+}
+
+}  // namespace tool
