@@ -1,5 +1,7 @@
 #pragma once
 
+#include <ravo/runtime/export.h>
+
 #include <compare>
 #include <cstdint>
 
@@ -8,20 +10,21 @@ namespace ravo {
 /// An amount with four decimal places: `raw` is the amount times 10000. A strong type: there is no silent way
 /// from or to a floating-point number.
 struct Currency {
+  static constexpr int kPlaces = 4;
   static constexpr std::int64_t kScale = 10000;
 
   std::int64_t raw = 0;
 
   /// The whole `units`, or `OverflowError`.
-  [[nodiscard]] static Currency FromUnits(std::int64_t units);
+  [[nodiscard]] RAVO_API static Currency FromUnits(std::int64_t units);
 
   friend constexpr auto operator<=>(const Currency&, const Currency&) = default;
 };
 
 /// Sums, differences and negation raise `OverflowError` when the result leaves 64 bits.
-[[nodiscard]] Currency operator+(Currency left, Currency right);
-[[nodiscard]] Currency operator-(Currency left, Currency right);
-[[nodiscard]] Currency operator-(Currency value);
+[[nodiscard]] RAVO_API Currency operator+(Currency left, Currency right);
+[[nodiscard]] RAVO_API Currency operator-(Currency left, Currency right);
+[[nodiscard]] RAVO_API Currency operator-(Currency value);
 
 static_assert(sizeof(Currency) == 8);
 

@@ -97,6 +97,14 @@ std::optional<BinaryFloat> NearestBinary(const DecimalNumber& number, const Bina
   return value;
 }
 
+std::optional<std::int64_t> NearestInteger(const DecimalNumber& number) {
+  constexpr BinaryFormat kIntegers{64, 0, 0};
+  const std::optional<BinaryFloat> parts = NearestBinary(number, kIntegers);
+  const std::uint64_t most = (std::uint64_t{1} << 63) - (number.negative ? 0 : 1);
+  if (!parts || parts->mantissa > most) return std::nullopt;
+  return static_cast<std::int64_t>(number.negative ? 0 - parts->mantissa : parts->mantissa);
+}
+
 double NearestQuotient(std::uint64_t numerator, std::uint32_t denominator) {
   using Bits = FloatBits<double>;
   return Bits::Join(*NearestBinary(BigNatural(numerator), BigNatural(denominator), 0, Bits::kFormat));

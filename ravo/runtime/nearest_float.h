@@ -25,6 +25,9 @@ template <class Float>
   return parts ? std::optional(FloatBits<Float>::Join(*parts)) : std::nullopt;
 }
 
+/// The signed 64-bit integer nearest to `number`; no value beyond its range.
+[[nodiscard]] std::optional<std::int64_t> NearestInteger(const DecimalNumber& number);
+
 /// The double nearest to `numerator` / `denominator`, which is not zero.
 [[nodiscard]] double NearestQuotient(std::uint64_t numerator, std::uint32_t denominator);
 

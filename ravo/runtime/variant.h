@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -62,13 +63,17 @@ class RAVO_API Variant {
 };
 
 /// The text of a value: nothing for empty and null, digits for integers, the general float format for floats
-/// and amounts, the locale's date and time for dates, "True" or "False". Bytes have no text: `VariantError`.
+/// and amounts with the locale's decimal separator, the locale's date and time for dates (`ConvertError` for
+/// what is no date), "True" or "False". Bytes have no text: `VariantError`.
 [[nodiscard]] RAVO_API std::u16string VariantToText(const Variant& value, const FormatSettings& settings);
 
-/// The sum of two values. Null with anything is null. Empty counts as nothing. Two texts are joined. A text
-/// beside any other kind must read as a number in the locale, else `VariantError`. Integers add as the wider
-/// of both and raise `OverflowError`; a boolean counts -1 or 0; a date makes the sum a date, else an amount
-/// makes it an amount, else a float makes it a float. Bytes have no sum: `VariantError`.
+/// The sum of two values. Null with anything is null. Bytes have no sum: `VariantError`. Empty counts as
+/// nothing: the sum is the other value as it is. Two texts are joined. A text beside any other kind must read
+/// as a number in the locale, else `VariantError`, and counts as a float. Integers add as the wider of both
+/// and raise `OverflowError`; a boolean counts as the 32-bit integer -1 or 0; a date makes the sum a date,
+/// else an amount makes it an amount, else a float makes it a float. Floats are rounded to the nearest, ties
+/// to even, to the four places of an amount, which raises `OverflowError`; a float sum that is not finite
+/// raises `FloatError`.
 [[nodiscard]] RAVO_API Variant VariantSum(const Variant& left, const Variant& right,
                                           const FormatSettings& settings);
 

@@ -1,3 +1,4 @@
+#include "support/decimal_parts.h"
 #include "support/float_environment.h"
 #include <ravo/runtime/nearest_float.h>
 
@@ -75,6 +76,42 @@ TEST(NearestFloat, SumsAtTheEnds) {
   EXPECT_EQ(Bits(NearestSum(-0.0, -0.0).value()), Bits(-0.0));
   EXPECT_EQ(Bits(NearestSum(-0.0, 0.0).value()), Bits(0.0));
   EXPECT_EQ(Bits(NearestSum(1.0, -1.0).value()), Bits(0.0));
+}
+
+TEST(NearestFloat, IntegersRoundTiesToEven) {
+  struct Row {
+    test::Decimal number;
+    std::int64_t value;
+  };
+  constexpr Row rows[] = {
+      {{false, "", 0}, 0},
+      {{false, "5", 0}, 0},
+      {{false, "15", 1}, 2},
+      {{true, "25", 1}, -2},
+      {{false, "2500000000000000000000000000000001", 1}, 3},
+      {{true, "35", 1}, -4},
+      {{false, "4", 0}, 0},
+      {{false, "1", -5000}, 0},
+      {{false, "9223372036854775807", 19}, std::numeric_limits<std::int64_t>::max()},
+      {{false, "92233720368547758074", 19}, std::numeric_limits<std::int64_t>::max()},
+      {{true, "9223372036854775808", 19}, std::numeric_limits<std::int64_t>::min()},
+      {{true, "92233720368547758085", 19}, std::numeric_limits<std::int64_t>::min()},
+  };
+  for (const Row& row : rows) EXPECT_EQ(NearestInteger(row.number.Number()), row.value) << row.number;
+}
+
+TEST(NearestFloat, IntegersBeyond64BitsHaveNoValue) {
+  constexpr test::Decimal numbers[] = {
+      {false, "9223372036854775808", 19},
+      {false, "92233720368547758075", 19},
+      {true, "9223372036854775809", 19},
+      {false, "18446744073709551615", 20},
+      {false, "18446744073709551616", 20},
+      {true, "1", 4000},
+      {false, "1", 9999},
+  };
+  for (const test::Decimal& number : numbers)
+    EXPECT_EQ(NearestInteger(number.Number()), std::nullopt) << number;
 }
 
 TEST(NearestFloat, QuotientIsThatOfTheProcessorInItsDefaultState) {
