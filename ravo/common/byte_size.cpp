@@ -50,7 +50,7 @@ std::u16string InKilobytes(std::int64_t size) {
 }  // namespace
 
 std::u16string BytesToStr(std::int64_t size, bool withBytes) {
-  const std::u16string bytes = ToText(size) + u" B";
+  std::u16string bytes = ToText(size) + u" B";
   if (size <= kKilobyte) return bytes;
   const std::u16string text = size > kMegabyte ? InMegabytes(size) : InKilobytes(size);
   return withBytes ? text + u" (" + bytes + u")" : text;

@@ -43,7 +43,7 @@ TEST(TimestampToBytes, EightBytesInTheWrittenOrder) {
   const ByteArray expected{0, 0, 0, 0, 0, 0, 0x07, 0xD1};
   EXPECT_EQ(TimestampToBytes(u"0x00000000000007D1"), expected);
   EXPECT_EQ(TimestampToBytes(u"00000000000007d1"), expected);
-  EXPECT_EQ(TimestampToBytes(u"0x000x00000x000000000007D1"), expected);
+  EXPECT_EQ(TimestampToBytes(u"0x000x00000x00000007D1"), expected);
   EXPECT_EQ(TimestampToBytes(u"0x00000000000007D1FF, no digits"), expected);
   EXPECT_EQ(TimestampToBytes(u"0x0123456789ABCDEF"),
             (ByteArray{0x01, 0x23, 0x45, 0x67, 0x89, 0xAB, 0xCD, 0xEF}));

@@ -149,5 +149,19 @@ TEST(FileStream, PositionsHave64Bits) {
   EXPECT_EQ(buffer, (std::array<std::byte, 3>{}));
 }
 
+TEST(FileStream, WritingBeyondTheEndFillsWithZeros) {
+  const ScratchFolder folder;
+  FileStream stream(folder.File(u"a"), FileMode::Create);
+  stream.SetPosition(3);
+  stream.WriteChecked(BytesOf("z"));
+  EXPECT_EQ(ReadAll(stream), std::string("\0\0\0z", 4));
+}
+
+TEST(FileStream, NameWithAZeroIsNotCutShort) {
+  const ScratchFolder folder;
+  WriteFile(folder.File(u"a"), "text");
+  EXPECT_THROW(FileStream(folder.File(u"a") + std::u16string(u"\0.txt", 5), FileMode::Read), StreamError);
+}
+
 }  // namespace
 }  // namespace ravo

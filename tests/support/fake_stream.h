@@ -32,6 +32,33 @@ class StingyStream final : public ByteStream {
   std::size_t calls_ = 0;
 };
 
+/// A stream over bytes that stay where they are, which counts what is read.
+class SpanStream final : public ByteStream {
+ public:
+  explicit SpanStream(std::span<const std::byte> bytes) noexcept : bytes_(bytes) {}
+
+  [[nodiscard]] std::size_t Read(std::span<std::byte> to) override {
+    if (position_ >= Size()) return 0;
+    const auto rest = bytes_.subspan(static_cast<std::size_t>(position_));
+    const std::size_t count = std::min(rest.size(), to.size());
+    std::ranges::copy(rest.first(count), to.begin());
+    position_ += static_cast<std::int64_t>(count);
+    bytes_read_ += count;
+    return count;
+  }
+  [[nodiscard]] std::size_t Write(std::span<const std::byte>) override { return 0; }
+  [[nodiscard]] std::int64_t Position() const override { return position_; }
+  void SetPosition(std::int64_t position) override { position_ = position; }
+  [[nodiscard]] std::int64_t Size() const override { return std::ssize(bytes_); }
+
+  [[nodiscard]] std::size_t BytesRead() const noexcept { return bytes_read_; }
+
+ private:
+  std::span<const std::byte> bytes_;
+  std::int64_t position_ = 0;
+  std::size_t bytes_read_ = 0;
+};
+
 /// A stream of any size that holds nothing but its size: each byte reads as the low byte of its position, and
 /// what is written is only counted.
 class VastStream final : public ByteStream {

@@ -15,7 +15,9 @@ namespace {
 constexpr std::size_t kPage = 4096;
 
 #ifdef _WIN32
-void* Reserve(std::size_t bytes) { return VirtualAlloc(nullptr, bytes, MEM_RESERVE | MEM_COMMIT, PAGE_READWRITE); }
+void* Reserve(std::size_t bytes) {
+  return VirtualAlloc(nullptr, bytes, MEM_RESERVE | MEM_COMMIT, PAGE_READWRITE);
+}
 void Forbid(void* page) {
   DWORD before = 0;
   VirtualProtect(page, kPage, PAGE_NOACCESS, &before);

@@ -1,5 +1,6 @@
 #include "support/scratch_folder.h"
 
+#include <fstream>
 #include <random>
 
 namespace ravo::test {
@@ -17,5 +18,10 @@ ScratchFolder::~ScratchFolder() {
 }
 
 std::u16string ScratchFolder::File(std::u16string_view name) const { return (path_ / name).u16string(); }
+
+void ScratchFolder::Write(const std::filesystem::path& file, std::string_view bytes) const {
+  std::filesystem::create_directories((path_ / file).parent_path());
+  std::ofstream(path_ / file, std::ios::binary) << bytes;
+}
 
 }  // namespace ravo::test

@@ -19,6 +19,9 @@ class ScratchFolder {
   /// The full name of a file of that name in the folder.
   [[nodiscard]] std::u16string File(std::u16string_view name) const;
 
+  /// Writes a file, and the folders on the way to it.
+  void Write(const std::filesystem::path& file, std::string_view bytes) const;
+
  private:
   std::filesystem::path path_;
 };

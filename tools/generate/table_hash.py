@@ -2,6 +2,7 @@
 """Finds the multiplier of the table catalogue's index.
 
 usage: python3 tools/generate/table_hash.py > ravo/catalogue/generated/table_hash.h
+       python3 tools/generate/table_hash.py --check      1 where the checked-in header differs
 
 The index has 2^BITS slots; an identifier stands at the upper BITS bits of its product with the multiplier. The
 multiplier is the first odd one, counted upwards from 2^32 divided by the golden ratio, that gives every identifier
@@ -49,14 +50,23 @@ def is_perfect(ids, multiplier):
     return True
 
 
-def main():
+def header():
     ids = list(identifiers((ROOM / "tables.inc").read_text(encoding="utf-8")))
     if len(set(ids)) != len(ids):
         sys.exit("an identifier stands twice in tables.inc")
     candidates = (number & 0xFFFFFFFF for number in itertools.count(FIRST, 2))
     multiplier = next(number for number in candidates if is_perfect(ids, number))
-    print(HEADER.format(count=len(ids), multiplier=multiplier), end="")
+    return HEADER.format(count=len(ids), multiplier=multiplier)
+
+
+def main(arguments):
+    if arguments == ["--check"]:
+        found = (ROOM / "generated" / "table_hash.h").read_text(encoding="utf-8")
+        sys.exit(None if found == header() else "table_hash.h is not what table_hash.py writes")
+    if arguments:
+        sys.exit(__doc__)
+    print(header(), end="")
 
 
 if __name__ == "__main__":
-    main()
+    main(sys.argv[1:])

@@ -13,6 +13,8 @@ namespace {
 HANDLE HandleOf(std::intptr_t handle) { return reinterpret_cast<HANDLE>(handle); }
 
 std::intptr_t Open(std::u16string_view name, FileMode mode) {
+  // The system would open what stands before the zero.
+  if (name.find(u'\0') != std::u16string_view::npos) throw StreamError(StreamOperation::Open, name);
   const bool reads_only = mode == FileMode::Read;
   const HANDLE file =
       CreateFileW(platform::ToWide(name).c_str(), reads_only ? GENERIC_READ : GENERIC_READ | GENERIC_WRITE,

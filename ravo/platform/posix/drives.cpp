@@ -1,0 +1,81 @@
+#include <ravo/platform/posix/drives.h>
+#include <ravo/platform/posix/host_file.h>
+#include <ravo/platform/posix/posix_machine.h>
+#include <ravo/runtime/text.h>
+
+#include <algorithm>
+#include <limits>
+
+#include <sys/statvfs.h>
+
+namespace ravo::platform::posix {
+namespace {
+
+// A partition has no such mark of its own: its disk, the folder above it, has.
+bool IsMarkedRemovable(const std::string& root, std::string_view device) {
+  const std::string folder = root + "/sys/class/block/" + std::string(device);
+  for (const char* place : {"/removable", "/../removable"}) {
+    const auto mark = ReadHostFile(folder + place);
+    if (mark) return TrimmedBytes(*mark) == "1";
+  }
+  return false;
+}
+
+std::int64_t SizeOfBlocks(std::uint64_t count, std::uint64_t size) {
+  constexpr auto most = static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max());
+  return static_cast<std::int64_t>(size != 0 && count > most / size ? most : count * size);
+}
+
+// The drive that a question names; null where there is none.
+const Drive* NamedDrive(std::span<const Drive> drives, std::u16string_view name) {
+  const auto letter = DriveLetterOf(name);
+  const std::u16string_view rest = name.substr(std::min<std::size_t>(name.size(), 2));
+  const bool is_drive = letter && (rest.empty() || rest == u"\\" || rest == u"/");
+  return is_drive ? FindDrive(drives, *letter) : nullptr;
+}
+
+}  // namespace
+
+std::vector<Drive> CurrentDrives(const std::string& root) {
+  const auto mounts = ParseMounts(ReadHostFile(root + "/proc/self/mounts").value_or(""));
+  return DrivesOf(mounts, [&](std::string_view device) { return IsMarkedRemovable(root, device); });
+}
+
+std::optional<char16_t> DriveLetterOf(std::u16string_view text) {
+  if (text.size() < 2 || text[1] != u':') return std::nullopt;
+  const char16_t lower = AsciiLower(text[0]);
+  if (lower < u'a' || lower > u'z') return std::nullopt;
+  return static_cast<char16_t>(lower - u'a' + u'A');
+}
+
+const Drive* FindDrive(std::span<const Drive> drives, char16_t letter) {
+  const auto at = std::ranges::find(drives, letter, &Drive::letter);
+  return at == drives.end() ? nullptr : &*at;
+}
+
+std::optional<DiskSpace> SpaceOfFolder(const std::string& folder) {
+  struct statvfs facts {};
+  if (statvfs(folder.c_str(), &facts) != 0) return std::nullopt;
+  return DiskSpace{SizeOfBlocks(facts.f_blocks, facts.f_frsize),
+                   SizeOfBlocks(facts.f_bavail, facts.f_frsize)};
+}
+
+std::uint32_t PosixMachine::LogicalDrives() const {
+  std::uint32_t mask = 0;
+  for (const Drive& drive : CurrentDrives(root_)) mask |= std::uint32_t{1} << (drive.letter - u'A');
+  return mask;
+}
+
+DriveKind PosixMachine::KindOfDrive(std::u16string_view drive) const {
+  const auto drives = CurrentDrives(root_);
+  const Drive* found = NamedDrive(drives, drive);
+  return found ? found->kind : DriveKind::NoRoot;
+}
+
+std::optional<DiskSpace> PosixMachine::SpaceOfDrive(std::u16string_view drive) const {
+  const auto drives = CurrentDrives(root_);
+  const Drive* found = NamedDrive(drives, drive);
+  return found ? SpaceOfFolder(found->folder) : std::nullopt;
+}
+
+}  // namespace ravo::platform::posix

@@ -1,0 +1,99 @@
+#include <ravo/platform/posix/drives.h>
+#include <ravo/platform/posix/host_file.h>
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <set>
+
+namespace ravo::platform::posix {
+namespace {
+
+constexpr std::string_view kDevices = "/dev/";
+
+bool IsOctal(char ch) { return ch >= '0' && ch <= '7'; }
+
+// A backslash and three octal digits stand for a byte: blanks, tabs, line feeds and backslashes are so
+// written.
+std::string WithoutEscapes(std::string_view field) {
+  std::string text;
+  for (std::size_t i = 0; i < field.size(); ++i) {
+    const std::string_view digits = field.substr(i + 1, 3);
+    const bool is_escape = field[i] == '\\' && digits.size() == 3 && std::ranges::all_of(digits, IsOctal);
+    text.push_back(is_escape ? static_cast<char>(std::stoi(std::string(digits), nullptr, 8)) : field[i]);
+    if (is_escape) i += 3;
+  }
+  return text;
+}
+
+std::string_view TakeField(std::string_view& line) {
+  const std::size_t end = line.find(' ');
+  const std::string_view field = line.substr(0, end);
+  line.remove_prefix(end == std::string_view::npos ? line.size() : end + 1);
+  return field;
+}
+
+bool IsRemote(const Mount& mount) {
+  constexpr std::string_view types[] = {"nfs", "nfs4", "cifs", "smb3"};
+  return std::ranges::find(types, mount.type) != std::end(types);
+}
+
+// A device that holds a file system itself, rather than standing for a file or for memory.
+bool IsDisk(const Mount& mount) {
+  if (!mount.device.starts_with(kDevices) || mount.type == "squashfs" || mount.type == "fuse") return false;
+  const std::string_view name = std::string_view(mount.device).substr(kDevices.size());
+  const auto is_numbered = [&](std::string_view stem) {
+    return name.starts_with(stem) && std::ranges::all_of(name.substr(stem.size()), [](unsigned char ch) {
+             return std::isdigit(ch) != 0;
+           });
+  };
+  return !is_numbered("loop") && !is_numbered("ram") && !is_numbered("zram");
+}
+
+DriveKind KindOf(const Mount& mount, const IsRemovable& is_removable) {
+  return is_removable(std::string_view(mount.device).substr(kDevices.size())) ? DriveKind::Removable
+                                                                              : DriveKind::Fixed;
+}
+
+// The last mount on "/" covers those before it.
+Mount RootOf(std::span<const Mount> mounts) {
+  const auto at =
+      std::find_if(mounts.rbegin(), mounts.rend(), [](const Mount& m) { return m.folder == "/"; });
+  return at == mounts.rend() ? Mount{"", "/", ""} : *at;
+}
+
+}  // namespace
+
+std::vector<Mount> ParseMounts(std::string_view table) {
+  std::vector<Mount> mounts;
+  while (!table.empty()) {
+    std::string_view line = TakeLine(table);
+    Mount mount;
+    for (std::string* field : {&mount.device, &mount.folder, &mount.type}) {
+      *field = WithoutEscapes(TakeField(line));
+    }
+    if (!mount.type.empty()) mounts.push_back(std::move(mount));
+  }
+  return mounts;
+}
+
+std::vector<Drive> DrivesOf(std::span<const Mount> mounts, const IsRemovable& is_removable) {
+  std::vector<Drive> drives;
+  std::set<std::string_view> seen;
+  const auto add = [&](const Mount& mount, DriveKind kind) {
+    if (seen.insert(mount.device).second && drives.size() < 'Z' - 'C' + 1) {
+      drives.push_back({static_cast<char16_t>(u'C' + drives.size()), kind, mount.folder});
+    }
+  };
+  const Mount root = RootOf(mounts);
+  add(root, IsDisk(root) ? KindOf(root, is_removable) : DriveKind::Fixed);
+  for (const Mount& mount : mounts) {
+    if (mount.folder != "/" && IsDisk(mount)) add(mount, KindOf(mount, is_removable));
+  }
+  for (const Mount& mount : mounts) {
+    if (mount.folder != "/" && IsRemote(mount)) add(mount, DriveKind::Remote);
+  }
+  return drives;
+}
+
+}  // namespace ravo::platform::posix

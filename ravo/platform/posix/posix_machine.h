@@ -1,0 +1,55 @@
+#pragma once
+
+#include <ravo/platform/machine.h>
+
+namespace ravo::platform::posix {
+
+/// The real machine of Linux. What the system says of itself in files is read below a root folder, the real
+/// one unless a test gives another; each question reads anew.
+class PosixMachine final : public Machine {
+ public:
+  /// `root` has no "/" at its end; empty is the real one.
+  explicit PosixMachine(std::string root = {}) : root_(std::move(root)) {}
+  ~PosixMachine() override;
+
+  [[nodiscard]] SystemVersion Version() const override;
+  [[nodiscard]] bool IsServerR2() const override { return false; }
+  [[nodiscard]] std::uint16_t ProcessorArchitecture() const override;
+  [[nodiscard]] std::u16string Folder(SystemFolder folder) const override;
+  [[nodiscard]] std::u16string ComputerName() const override;
+  [[nodiscard]] std::u16string UserName() const override;
+  [[nodiscard]] MemoryFigures Memory() const override;
+
+  [[nodiscard]] std::uint32_t LogicalDrives() const override;
+  [[nodiscard]] DriveKind KindOfDrive(std::u16string_view drive) const override;
+  [[nodiscard]] std::optional<DiskSpace> SpaceOfDrive(std::u16string_view drive) const override;
+
+  [[nodiscard]] std::unique_ptr<RegistryKey> OpenKey(RegistryRoot root,
+                                                     std::u16string_view path) const override;
+
+  [[nodiscard]] char16_t PathDelimiter() const override { return u'/'; }
+  [[nodiscard]] std::u16string FullPath(std::u16string_view name) const override;
+  [[nodiscard]] std::optional<FileFacts> FindFile(std::u16string_view name) const override;
+  [[nodiscard]] std::unique_ptr<VersionResource> OpenVersionResource(std::u16string_view name) const override;
+
+  [[nodiscard]] FormatSettings Locale() const override;
+  [[nodiscard]] DateTime Now() const override;
+
+  [[nodiscard]] std::uint32_t CodePage() const override;
+  [[nodiscard]] std::u16string FromCodePage(std::string_view bytes) const override;
+  /// Each code unit that the code page lacks becomes "?".
+  [[nodiscard]] std::string ToCodePage(std::u16string_view text) const override;
+
+  /// Linux has no channel to a debugger: nothing happens.
+  void DebugOutput(std::u16string_view) const override {}
+
+  [[nodiscard]] std::optional<std::u16string_view> ResourceText(ModuleHandle module,
+                                                                std::uint16_t id) const override;
+  [[nodiscard]] ModuleHandle LoadResources(std::u16string_view file) const override;
+  void UnloadResources(ModuleHandle module) const override;
+
+ private:
+  std::string root_;
+};
+
+}  // namespace ravo::platform::posix

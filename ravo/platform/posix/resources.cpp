@@ -1,0 +1,56 @@
+#include <ravo/platform/library_entry.h>
+#include <ravo/platform/posix/paths.h>
+#include <ravo/platform/posix/posix_machine.h>
+
+#include <dlfcn.h>
+#include <link.h>
+
+namespace ravo::platform {
+namespace posix {
+namespace {
+
+// The rows behind the exported C symbol "RavoResourceTexts" of a module of resources, up to one without text.
+struct ResourceRow {
+  std::uint16_t id;
+  const char16_t* text;
+};
+
+// The module's own table: a look-up by handle also answers for what the module links to.
+const ResourceRow* TableOf(ModuleHandle module) {
+  void* table = dlsym(module, "RavoResourceTexts");
+  link_map* owner = nullptr;
+  link_map* asked = nullptr;
+  Dl_info facts{};
+  const bool is_known = table && dlinfo(module, RTLD_DI_LINKMAP, &asked) == 0 &&
+                        dladdr1(table, &facts, reinterpret_cast<void**>(&owner), RTLD_DL_LINKMAP) != 0;
+  return is_known && owner == asked ? static_cast<const ResourceRow*>(table) : nullptr;
+}
+
+}  // namespace
+
+std::optional<std::u16string_view> PosixMachine::ResourceText(ModuleHandle module, std::uint16_t id) const {
+  // Our own module carries no table, and its address is no handle that the loader could be asked about.
+  if (!module || module == ThisModule()) return std::nullopt;
+  for (const ResourceRow* row = TableOf(module); row && row->text; ++row) {
+    if (row->id == id) return row->text;
+  }
+  return std::nullopt;
+}
+
+ModuleHandle PosixMachine::LoadResources(std::u16string_view file) const {
+  const auto path = HostPath(file, root_);
+  return path && !path->empty() ? dlopen(path->c_str(), RTLD_NOW | RTLD_LOCAL) : nullptr;
+}
+
+void PosixMachine::UnloadResources(ModuleHandle module) const {
+  if (module && module != ThisModule()) dlclose(module);
+}
+
+}  // namespace posix
+
+ModuleHandle ThisModule() noexcept {
+  Dl_info facts{};
+  return dladdr(reinterpret_cast<void*>(&ThisModule), &facts) != 0 ? facts.dli_fbase : nullptr;
+}
+
+}  // namespace ravo::platform

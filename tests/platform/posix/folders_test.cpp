@@ -1,0 +1,99 @@
+#include "support/scoped_environment.h"
+#include "support/scratch_folder.h"
+#include <ravo/platform/posix/folders.h>
+#include <ravo/platform/posix/posix_machine.h>
+#include <ravo/platform/posix/shell_text.h>
+
+#include <gtest/gtest.h>
+
+namespace ravo::platform::posix {
+namespace {
+
+using test::ScopedEnvironment;
+
+TEST(ShellAssignment, TakesQuotesAndBackslashesOff) {
+  struct Row {
+    std::string_view text;
+    std::optional<std::string> value;
+  };
+  const Row rows[] = {
+      {"NAME=bare", "bare"},
+      {"NAME=\"two words\"\n", "two words"},
+      {"NAME='single \\ quotes'", "single \\ quotes"},
+      {"NAME=\"a \\\"b\\\" \\$c \\\\\"", "a \"b\" $c \\"},
+      {"NAME=\"not closed", "not closed"},
+      {"NAME=\"text\" # comment", "text"},
+      {"NAME=", ""},
+      {"NAME=\"\"", ""},
+      {"NAME=one\nNAME=two", "two"},
+      {"  NAME=indented  \r\n", "indented"},
+      {"NAME=a\\", "a\\"},
+      {"#NAME=comment\nNAMES=other\nNAM=other\nNAME", std::nullopt},
+      {"", std::nullopt},
+  };
+  for (const Row& row : rows) EXPECT_EQ(ShellAssignment(row.text, "NAME"), row.value) << row.text;
+}
+
+TEST(PublicFolderFrom, ExpandsTheHomeFolder) {
+  EXPECT_EQ(PublicFolderFrom("XDG_PUBLICSHARE_DIR=\"$HOME/Veřejné\"\n", "/home/jan"), "/home/jan/Veřejné");
+  EXPECT_EQ(PublicFolderFrom("XDG_PUBLICSHARE_DIR=\"/srv/public\"\n", "/home/jan"), "/srv/public");
+  EXPECT_EQ(PublicFolderFrom("# nothing\n", "/home/jan"), "");
+  EXPECT_EQ(PublicFolderFrom("XDG_PUBLICSHARE_DIR=\"Public\"\n", "/home/jan"), "");
+}
+
+TEST(PublicFolderFrom, TheHomeFolderItselfMeansNone) {
+  EXPECT_EQ(PublicFolderFrom("XDG_PUBLICSHARE_DIR=\"$HOME/\"\n", "/home/jan"), "");
+  EXPECT_EQ(PublicFolderFrom("XDG_PUBLICSHARE_DIR=\"$HOME\"\n", "/home/jan"), "");
+}
+
+TEST(PosixMachineFolder, SystemFoldersAreFixed) {
+  const PosixMachine machine;
+  EXPECT_EQ(machine.Folder(SystemFolder::System), u"/usr/lib");
+  EXPECT_EQ(machine.Folder(SystemFolder::Windows), u"/usr");
+}
+
+TEST(PosixMachineFolder, TheScratchFolderEndsInADelimiter) {
+  const PosixMachine machine;
+  {
+    const ScopedEnvironment variable("TMPDIR", "/var/tmp");
+    EXPECT_EQ(machine.Folder(SystemFolder::Temporary), u"/var/tmp/");
+  }
+  {
+    const ScopedEnvironment variable("TMPDIR", "/var/tmp/");
+    EXPECT_EQ(machine.Folder(SystemFolder::Temporary), u"/var/tmp/");
+  }
+  for (const char* none : {static_cast<const char*>(nullptr), ""}) {
+    const ScopedEnvironment variable("TMPDIR", none);
+    EXPECT_EQ(machine.Folder(SystemFolder::Temporary), u"/tmp/");
+  }
+}
+
+TEST(PosixMachineFolder, MoreThan259UnitsAreNone) {
+  const PosixMachine machine;
+  const std::string longest = "/" + std::string(257, 'x');
+  {
+    const ScopedEnvironment variable("TMPDIR", longest.c_str());
+    EXPECT_EQ(machine.Folder(SystemFolder::Temporary).size(), 259u);
+  }
+  const ScopedEnvironment variable("TMPDIR", (longest + "x").c_str());
+  EXPECT_EQ(machine.Folder(SystemFolder::Temporary), u"");
+}
+
+TEST(PosixMachineFolder, DocumentsForEveryone) {
+  const PosixMachine machine;
+  const test::ScratchFolder folder;
+  const ScopedEnvironment home("HOME", folder.Path().c_str());
+  const ScopedEnvironment no_configuration("XDG_CONFIG_HOME", nullptr);
+  const ScopedEnvironment no_public("XDG_PUBLICSHARE_DIR", nullptr);
+  EXPECT_EQ(machine.Folder(SystemFolder::CommonDocuments), u"");
+  folder.Write(".config/user-dirs.dirs", "XDG_PUBLICSHARE_DIR=\"$HOME/Public\"\n");
+  EXPECT_EQ(machine.Folder(SystemFolder::CommonDocuments), folder.File(u"Public"));
+  folder.Write("conf/user-dirs.dirs", "XDG_PUBLICSHARE_DIR=\"/srv/other\"\n");
+  const ScopedEnvironment configuration("XDG_CONFIG_HOME", (folder.Path() / "conf").c_str());
+  EXPECT_EQ(machine.Folder(SystemFolder::CommonDocuments), u"/srv/other");
+  const ScopedEnvironment variable("XDG_PUBLICSHARE_DIR", "/srv/first");
+  EXPECT_EQ(machine.Folder(SystemFolder::CommonDocuments), u"/srv/first");
+}
+
+}  // namespace
+}  // namespace ravo::platform::posix
