@@ -202,7 +202,8 @@ def check_report_json(program):
         nested = list(outline(json.loads(program.run(["report", "--json", *layer]).out)))
         if text != nested:
             yield f"report {layer}: lines and JSON differ: {set(text) ^ set(nested)}"
-        if len(text) < 40:
+        # What every machine has, even one without disks and without a file of the suite.
+        if len(text) < 35:
             yield f"report {layer}: only {len(text)} lines"
 
 
