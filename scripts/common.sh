@@ -1,3 +1,4 @@
+# shellcheck shell=bash disable=SC2034
 # Shared by the scripts of this folder: words to the user, rights, places.
 
 say() { printf '%s\n' "ravo: $*"; }
@@ -19,4 +20,4 @@ fi
 
 ravo_cache="${RAVO_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/ravo}"
 wine32_root="$ravo_cache/wine32-bookworm"
-jobs=$(nproc 2>/dev/null || echo 2)
+jobs=${RAVO_JOBS:-$(nproc 2>/dev/null || echo 2)}
