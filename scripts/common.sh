@@ -1,3 +1,4 @@
+# shellcheck shell=bash disable=SC2034
 # Shared by the scripts of this folder: words to the user, rights, places.
 
 say() { printf '%s\n' "ravo: $*"; }
@@ -19,12 +20,17 @@ fi
 
 ravo_cache="${RAVO_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/ravo}"
 wine32_root="$ravo_cache/wine32-bookworm"
+<<<<<<< HEAD
 
-# The package mirror that this machine already uses.
+# The package mirror that a Debian machine already uses; empty on any other.
 apt-mirror-of-this-machine() {
+  grep -qx 'ID=debian' /etc/os-release || return 0
   local sources
   sources=$(cat /etc/apt/sources.list /etc/apt/sources.list.d/*.list /etc/apt/sources.list.d/*.sources 2>/dev/null || true)
-  sed -nE 's/^(deb (\[[^]]*\] )?|URIs: )([^ ]+).*/\3/p' <<<"$sources" | head -n 1
+  sed -nE 's/^(deb (\[[^]]*\] )?|URIs: )(https?:[^ ]+).*/\3/p' <<<"$sources" | grep -v security | head -n 1 || true
 }
 
 jobs=$(nproc 2>/dev/null || echo 2)
+=======
+jobs=${RAVO_JOBS:-$(nproc 2>/dev/null || echo 2)}
+>>>>>>> main

@@ -27,6 +27,7 @@ bool IsNumbers(std::u16string_view text) noexcept {
 
 bool ValidSU(std::u16string_view text) noexcept { return text.size() == 3 && IsNumbers(text); }
 
+// Kept: the empty analytic account is valid, because an account may have no analytic part
 bool ValidAU(std::u16string_view text) noexcept {
   return text.empty() || (text.size() <= 3 && IsNumbers(text));
 }
@@ -63,6 +64,8 @@ bool ValidVS(std::u16string_view text) {
   return digits_alone && CheckedSum(sum) % 10 == 0;
 }
 
+// Kept: prefix and base number form one weighted sum, because accounts in stored documents were accepted by
+// it
 bool UcetMod11(std::u16string_view text) {
   // 2^1, 2^2, ... modulo 11, from the right; they repeat.
   constexpr std::array<std::int32_t, 10> kWeights{2, 4, 8, 5, 10, 9, 7, 3, 6, 1};
@@ -97,6 +100,7 @@ bool IsEanLength(std::size_t length) { return length == 7 || length == 8 || leng
 
 }  // namespace
 
+// Kept: the two check digits are not compared, because the same call completes codes that have none
 bool CalculateEAN(std::u16string_view code, std::u16string& OldCheck, std::u16string& NewCheck,
                   std::u16string& FullCode) {
   const std::u16string_view trimmed = Trimmed(code);

@@ -28,6 +28,7 @@ void AppendTime(std::u16string& text, const TimeParts& time) {
   AppendPadded(text, time.minute, 2);
   text += u':';
   AppendPadded(text, time.second, 2);
+  // Kept: a colon before the milliseconds, because the database server reads them so
   text += u':';
   AppendPadded(text, time.millisecond, 3);
 }

@@ -77,8 +77,8 @@ std::optional<BinaryFloat> NearestBinary(BigNatural numerator, BigNatural denomi
   const int bits = highest_bit - value.exponent + 1;
   if (bits < 0) return value;  // less than half of the smallest value
   value.mantissa = TakeBits(numerator, denominator, bits);
-  const std::strong_ordering rest = numerator <=> denominator;
-  if (rest > 0 || (rest == 0 && value.mantissa % 2 != 0)) RoundUp(value, format);
+  const bool is_tie = numerator == denominator;
+  if (numerator > denominator || (is_tie && value.mantissa % 2 != 0)) RoundUp(value, format);
   if (value.exponent > format.highest_exponent) return std::nullopt;
   return value;
 }

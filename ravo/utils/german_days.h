@@ -3,9 +3,9 @@
 #include <array>
 #include <string>
 
-/// The short German names of the days, Sunday first. They exist from the moment the library is mapped. The stop
-/// of the module releases them: from then on every name reads as empty, until the module is started again or the
-/// library is mapped anew. Reading them while the module stops or starts is undefined.
+/// The short German names of the days, Sunday first. They exist from the moment the library is mapped. The
+/// stop of the module releases them: from then on every name reads as empty, until the module is started
+/// again or the library is mapped anew. Reading them while the module stops or starts is undefined.
 namespace ravo::DIUtils {
 
 /// In the 8-bit code page.

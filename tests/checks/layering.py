@@ -36,8 +36,8 @@ SYSTEM_NAME = re.compile(
     r"\b(_WIN32|_WIN64|WIN32|__MINGW32__|__MINGW64__|__CYGWIN__|__linux__|__unix__|__APPLE__|_MSC_VER)\b"
 )
 SYSTEM_HEADER = re.compile(r"^(windows|winver|unistd|dlfcn|sys/.*|win(base|nt|user|reg)|ole.*|shlobj)\.h$", re.I)
-# Sources that CMake picks by the target's system say so in their name.
-SYSTEM_SOURCE = re.compile(r"^(ravo/platform/|tests/support/)|^ravo/runtime/export\.h$|_(win32|posix)\.(cpp|c|h)$")
+# Sources that CMake picks by the target's system say so in their name; tests mirror the library.
+SYSTEM_SOURCE = re.compile(r"^(ravo/platform/|tests/platform/|tests/support/)|^ravo/runtime/export\.h$|_(win32|posix)\.(cpp|c|h)$")
 C_STANDARD = {"stddef.h", "stdint.h"}
 
 

@@ -132,6 +132,13 @@ TEST(UcetMod11, EqualsThePlainRuleUpTo62Digits) {
   }
 }
 
+TEST(UcetMod11, PrefixAndBaseNumberFormOneSum) {
+  // Neither part is right by itself; their sum is.
+  EXPECT_FALSE(UcetMod11(u"1"));
+  EXPECT_FALSE(UcetMod11(u"9"));
+  EXPECT_TRUE(UcetMod11(u"1-9"));
+}
+
 TEST(UcetMod11, RaisesBeyond62Digits) {
   EXPECT_TRUE(UcetMod11(std::u16string(62, u'0')));
   EXPECT_THROW(static_cast<void>(UcetMod11(std::u16string(63, u'0'))), FloatError);

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-
 namespace ravo {
 namespace {
 
@@ -30,11 +29,11 @@ TEST(Text, IllFormedUtf8BecomesReplacementCharacters) {
     std::u16string_view utf16;
   };
   constexpr Row rows[] = {
-      {"\x80", u"\uFFFD"},                          // a trail byte alone
-      {"\xC0\xAF", u"\uFFFD\uFFFD"},                // overlong
-      {"\xE2\x82", u"\uFFFD"},                      // cut short
-      {"\xE2\x82z", u"\uFFFDz"},                    // broken off by a letter
-      {"\xED\xA0\x80", u"\uFFFD\uFFFD\uFFFD"},      // a surrogate
+      {"\x80", u"\uFFFD"},                                // a trail byte alone
+      {"\xC0\xAF", u"\uFFFD\uFFFD"},                      // overlong
+      {"\xE2\x82", u"\uFFFD"},                            // cut short
+      {"\xE2\x82z", u"\uFFFDz"},                          // broken off by a letter
+      {"\xED\xA0\x80", u"\uFFFD\uFFFD\uFFFD"},            // a surrogate
       {"\xF4\x90\x80\x80", u"\uFFFD\uFFFD\uFFFD\uFFFD"},  // beyond U+10FFFF
       {"\xFF", u"\uFFFD"},
   };

@@ -3,7 +3,6 @@
 #include "support/windows_1250.h"
 #include <ravo/runtime/error.h>
 
-
 namespace ravo::test {
 namespace {
 

@@ -63,7 +63,9 @@ constexpr std::array kFloatStates{
     FloatState{FE_DOWNWARD, 64},  FloatState{FE_TOWARDZERO, 24}, FloatState{FE_TOWARDZERO, 64},
 };
 
-/// What `compute` answers while the processor is in `state`.
+/// What `compute` answers while the processor is in `state`. Calls of the library stay inside; plain
+/// arithmetic of the test itself does so only by way of volatile variables, since compilers move it past a
+/// change of state.
 template <class Compute>
 auto InFloatState(const FloatState& state, const Compute& compute) {
   const ScopedRounding rounding(state.rounding);

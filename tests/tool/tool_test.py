@@ -42,13 +42,17 @@ class Program:
     def __init__(self, command, folder):
         self.command, self.folder = command, folder
 
-    def run(self, arguments, **options):
-        options = {"stdout": subprocess.PIPE, **options}
-        done = subprocess.run(
-            self.command + arguments, cwd=self.folder, stderr=subprocess.PIPE, stdin=subprocess.DEVNULL, timeout=300, **options
-        )
-        # Bytes that are no UTF-8 end the test here.
-        return Result(done.returncode, (done.stdout or b"").decode("utf-8"), done.stderr.decode("utf-8"))
+    def run(self, arguments, out=None):
+        # Into files: the servers that an emulator leaves behind would hold pipes open for seconds.
+        with tempfile.TemporaryFile() as own_out, tempfile.TemporaryFile() as err:
+            done = subprocess.run(
+                self.command + arguments, cwd=self.folder, stdin=subprocess.DEVNULL, stdout=out or own_out, stderr=err, timeout=300
+            )
+            texts = []
+            for file in (own_out, err):
+                file.seek(0)
+                texts.append(file.read().decode("utf-8"))  # bytes that are no UTF-8 end the test here
+        return Result(done.returncode, *texts)
 
     def failures(self, row):
         result = self.run(row.arguments)
@@ -198,7 +202,8 @@ def check_report_json(program):
         nested = list(outline(json.loads(program.run(["report", "--json", *layer]).out)))
         if text != nested:
             yield f"report {layer}: lines and JSON differ: {set(text) ^ set(nested)}"
-        if len(text) < 40:
+        # What every machine has, even one without disks and without a file of the suite.
+        if len(text) < 35:
             yield f"report {layer}: only {len(text)} lines"
 
 
@@ -228,7 +233,7 @@ def check_full_device(program):
     if len(program.command) > 1 or not pathlib.Path("/dev/full").exists():
         return
     with open("/dev/full", "wb") as full:
-        result = program.run(["table", "10110"], stdout=full)
+        result = program.run(["table", "10110"], out=full)
     if result.status != WRONG_USAGE or not result.err:
         yield f"table 10110 >/dev/full: {result}"
     if program.run(["report", "-o", "/dev/full"]).status != WRONG_USAGE:
