@@ -21,3 +21,6 @@ fi
 ravo_cache="${RAVO_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/ravo}"
 wine32_root="$ravo_cache/wine32-bookworm"
 jobs=${RAVO_JOBS:-$(nproc 2>/dev/null || echo 2)}
+# The distribution's Python before whatever shim the path has.
+python=/usr/bin/python3
+[ -x "$python" ] || python=python3
