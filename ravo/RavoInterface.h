@@ -5,5 +5,6 @@
 #include <ravo/catalogue/captions.h>
 #include <ravo/catalogue/table_catalogue.h>
 #include <ravo/frame/resource_string.h>
+#include <ravo/platform/machine.h>
 #include <ravo/runtime/error.h>
 #include <ravo/runtime/text.h>

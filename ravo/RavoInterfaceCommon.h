@@ -2,11 +2,17 @@
 
 /// The accounting helpers that every module must apply alike.
 #include <ravo/catalogue/table_catalogue.h>
+#include <ravo/common/accounts.h>
+#include <ravo/common/backup_name.h>
 #include <ravo/common/byte_size.h>
+#include <ravo/common/calendar.h>
 #include <ravo/common/char_position.h>
 #include <ravo/common/debug_text.h>
+#include <ravo/common/descriptions.h>
 #include <ravo/common/diacritics.h>
 #include <ravo/common/float_separator.h>
 #include <ravo/common/identifiers.h>
 #include <ravo/common/qualified_names.h>
+#include <ravo/common/rounding.h>
+#include <ravo/common/stream_records.h>
 #include <ravo/common/text_checksum.h>

@@ -11,5 +11,10 @@ namespace tool {
 void AddReportCommand(CLI::App& program, Outcome& outcome);
 void AddTableCommand(CLI::App& program, Outcome& outcome);
 void AddCaptionsCommand(CLI::App& program, Outcome& outcome);
+void AddCheckCommand(CLI::App& program, Outcome& outcome);
+void AddRoundCommand(CLI::App& program, Outcome& outcome);
+void AddDateCommand(CLI::App& program, Outcome& outcome);
+void AddAddressCommand(CLI::App& program, Outcome& outcome);
+void AddBackupNameCommand(CLI::App& program, Outcome& outcome);
 
 }  // namespace tool

@@ -16,4 +16,7 @@ enum class Channel { Out, Err };
 /// False where not all of it could be written.
 [[nodiscard]] bool Write(Channel channel, std::string_view utf8);
 
+/// Whether somebody reads the channel on a terminal.
+[[nodiscard]] bool IsTerminal(Channel channel);
+
 }  // namespace tool

@@ -2,6 +2,8 @@
 
 #include <cstdio>
 
+#include <unistd.h>
+
 namespace tool {
 
 std::vector<std::string> Arguments(int count, const char* const* values) {
@@ -11,6 +13,10 @@ std::vector<std::string> Arguments(int count, const char* const* values) {
 bool Write(Channel channel, std::string_view utf8) {
   std::FILE* file = channel == Channel::Out ? stdout : stderr;
   return std::fwrite(utf8.data(), 1, utf8.size(), file) == utf8.size() && std::fflush(file) == 0;
+}
+
+bool IsTerminal(Channel channel) {
+  return isatty(channel == Channel::Out ? STDOUT_FILENO : STDERR_FILENO) == 1;
 }
 
 }  // namespace tool

@@ -51,6 +51,10 @@ bool WriteBytes(HANDLE file, std::string_view bytes) {
   return true;
 }
 
+HANDLE HandleOf(Channel channel) {
+  return GetStdHandle(channel == Channel::Out ? STD_OUTPUT_HANDLE : STD_ERROR_HANDLE);
+}
+
 }  // namespace
 
 // What `main` is given went through the 8-bit code page; the wide command line has lost nothing.
@@ -64,9 +68,14 @@ std::vector<std::string> Arguments(int, const char* const*) {
 }
 
 bool Write(Channel channel, std::string_view utf8) {
-  const HANDLE handle = GetStdHandle(channel == Channel::Out ? STD_OUTPUT_HANDLE : STD_ERROR_HANDLE);
+  const HANDLE handle = HandleOf(channel);
   DWORD mode = 0;
   return GetConsoleMode(handle, &mode) ? WriteToConsole(handle, ToWide(utf8)) : WriteBytes(handle, utf8);
+}
+
+bool IsTerminal(Channel channel) {
+  DWORD mode = 0;
+  return GetConsoleMode(HandleOf(channel), &mode) != 0;
 }
 
 }  // namespace tool

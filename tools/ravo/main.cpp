@@ -24,6 +24,11 @@ void Describe(CLI::App& program, Outcome& outcome) {
   AddReportCommand(program, outcome);
   AddTableCommand(program, outcome);
   AddCaptionsCommand(program, outcome);
+  AddCheckCommand(program, outcome);
+  AddRoundCommand(program, outcome);
+  AddDateCommand(program, outcome);
+  AddAddressCommand(program, outcome);
+  AddBackupNameCommand(program, outcome);
 }
 
 // Help and version are answers; every other end of parsing is wrong usage, whatever number the parser gives
@@ -36,7 +41,8 @@ Outcome Ended(const CLI::App& program, const CLI::ParseError& end) {
 }
 
 Outcome Run(std::vector<std::string> arguments) {
-  CLI::App program("The shared interface library at the prompt: tables, captions, the support report.");
+  CLI::App program(
+      "The shared interface library at the prompt: tables, captions, accounting rules, the support report.");
   Outcome outcome;
   Describe(program, outcome);
   // The parser takes its arguments from the back.

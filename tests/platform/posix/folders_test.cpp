@@ -35,15 +35,15 @@ TEST(ShellAssignment, TakesQuotesAndBackslashesOff) {
 }
 
 TEST(PublicFolderFrom, ExpandsTheHomeFolder) {
-  EXPECT_EQ(PublicFolderFrom("XDG_PUBLICSHARE_DIR=\"$HOME/Veřejné\"\n", "/home/jan"), "/home/jan/Veřejné");
-  EXPECT_EQ(PublicFolderFrom("XDG_PUBLICSHARE_DIR=\"/srv/public\"\n", "/home/jan"), "/srv/public");
-  EXPECT_EQ(PublicFolderFrom("# nothing\n", "/home/jan"), "");
-  EXPECT_EQ(PublicFolderFrom("XDG_PUBLICSHARE_DIR=\"Public\"\n", "/home/jan"), "");
+  EXPECT_EQ(PublicFolderFrom("XDG_PUBLICSHARE_DIR=\"$HOME/Veřejné\"\n", "/srv/jan"), "/srv/jan/Veřejné");
+  EXPECT_EQ(PublicFolderFrom("XDG_PUBLICSHARE_DIR=\"/srv/public\"\n", "/srv/jan"), "/srv/public");
+  EXPECT_EQ(PublicFolderFrom("# nothing\n", "/srv/jan"), "");
+  EXPECT_EQ(PublicFolderFrom("XDG_PUBLICSHARE_DIR=\"Public\"\n", "/srv/jan"), "");
 }
 
 TEST(PublicFolderFrom, TheHomeFolderItselfMeansNone) {
-  EXPECT_EQ(PublicFolderFrom("XDG_PUBLICSHARE_DIR=\"$HOME/\"\n", "/home/jan"), "");
-  EXPECT_EQ(PublicFolderFrom("XDG_PUBLICSHARE_DIR=\"$HOME\"\n", "/home/jan"), "");
+  EXPECT_EQ(PublicFolderFrom("XDG_PUBLICSHARE_DIR=\"$HOME/\"\n", "/srv/jan"), "");
+  EXPECT_EQ(PublicFolderFrom("XDG_PUBLICSHARE_DIR=\"$HOME\"\n", "/srv/jan"), "");
 }
 
 TEST(PosixMachineFolder, SystemFoldersAreFixed) {

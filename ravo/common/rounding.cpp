@@ -1,0 +1,41 @@
+#include <ravo/common/rounding.h>
+#include <ravo/common/rounding_reference.h>
+
+#include <cstdlib>
+
+namespace ravo::RavoInterfaceCommon::detail {
+namespace {
+
+// To the nearest 0.50, quarters away from zero.
+Currency RoundToHalves(Currency value) {
+  const std::int64_t whole = value.raw / Currency::kScale;
+  const std::int64_t fraction = std::abs(value.raw % Currency::kScale);
+  const std::int64_t halves = fraction >= 7500 ? 2 : fraction >= 2500 ? 1 : 0;
+  const std::int64_t step = halves * (Currency::kScale / 2);
+  return {whole * Currency::kScale + (value.raw > 0 ? step : -step)};
+}
+
+}  // namespace
+
+Currency RoundValueOutOfLine(Currency value, TRoundType type, std::int8_t decimals) {
+  return RoundValueReference(value, type, decimals);
+}
+
+Currency RoundDPHOutOfLine(Currency value, char16_t kind) {
+  switch (kind) {
+    case u'H':
+      return RoundValueReference(value, rtMath, 2);
+    case u'D':
+      return RoundValueReference(value, rtMath, 1);
+    case u'P':
+      return RoundToHalves(value);
+    case u'N':
+      return RoundValueReference(value, rtUp, 1);
+    case u'M':
+      return RoundValueReference(value, rtMath, 0);
+    default:
+      return value;
+  }
+}
+
+}  // namespace ravo::RavoInterfaceCommon::detail

@@ -1,0 +1,37 @@
+#include <ravo/common/rounding_reference.h>
+#include <ravo/common/rounding_steps.h>
+
+namespace ravo::RavoInterfaceCommon {
+namespace {
+
+SoftExtended Scaled(std::int64_t value) { return SoftExtended::FromInteger(value); }
+
+// units / scale * 10^8 as a stored amount: whole units of the kept precision back to ten-thousandths.
+Currency FromUnits(const SoftExtended& units, const SoftExtended& scale) {
+  return {(units / scale * Scaled(100'000'000)).ToIntegerRounded()};
+}
+
+// To whole units, the fraction first rounded to four places.
+std::int64_t HalvesAwayFromZero(const SoftExtended& value) {
+  constexpr std::int64_t kHalf = 5000;
+  const std::int64_t fraction = (value.Fraction() * Scaled(10000)).ToIntegerRounded();
+  if (fraction >= kHalf) return (value + Scaled(1)).ToIntegerTruncated();
+  if (fraction <= -kHalf) return (value - Scaled(1)).ToIntegerTruncated();
+  return value.ToIntegerTruncated();
+}
+
+}  // namespace
+
+Currency RoundValueReference(Currency value, TRoundType type, std::int8_t decimals) {
+  if (type != rtUp && type != rtDown && type != rtMath) return value;
+  const std::int64_t scale = (SoftExtended::PowerOfTen(decimals) * Scaled(10000)).ToIntegerRounded();
+  const SoftExtended product = Scaled(value.raw) * Scaled(scale);
+  if (type == rtMath)
+    return FromUnits(Scaled(HalvesAwayFromZero(product / Scaled(100'000'000))), Scaled(scale));
+  const std::int64_t scaled = (product / Scaled(10000)).ToIntegerRounded();
+  const SoftExtended magnitude = (Scaled(scaled) / Scaled(10000)).Magnitude();
+  const SoftExtended units = Scaled(type == rtUp ? Ceiling32(magnitude) : Floor32(magnitude));
+  return FromUnits(value.raw >= 0 ? units : Scaled(0) - units, Scaled(scale));
+}
+
+}  // namespace ravo::RavoInterfaceCommon

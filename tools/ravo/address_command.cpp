@@ -1,0 +1,48 @@
+#include "commands.h"
+#include "json_text.h"
+#include <ravo/RavoInterface.h>
+#include <ravo/RavoInterfaceCommon.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace tool {
+namespace {
+
+struct AddressOptions {
+  std::vector<std::string> addresses;
+  bool json = false;
+};
+
+void Run(const AddressOptions& options, Outcome& outcome) {
+  Json answers = Json::array();
+  for (const std::string& address : options.addresses) {
+    std::u16string street;
+    std::u16string number;
+    ravo::RavoInterfaceCommon::AdresaExpand(ravo::FromUtf8(address), street, number);
+    outcome.out += ravo::ToUtf8(street) + "\t" + ravo::ToUtf8(number) + "\n";
+    answers.push_back(
+        {{"address", address}, {"street", ravo::ToUtf8(street)}, {"number", ravo::ToUtf8(number)}});
+  }
+  if (options.json) outcome.out = JsonText(answers);
+}
+
+constexpr const char* kFooter =
+    "A line an address: the street, a tab, the house number (empty where the last word is none).\n"
+    "\n"
+    "Examples:\n"
+    "  ravo address \"Nádražní 1234/5\" \"Na Příkopě XIV\"\n";
+
+}  // namespace
+
+void AddAddressCommand(CLI::App& program, Outcome& outcome) {
+  CLI::App* command = program.add_subcommand("address", "Splits addresses into street and house number");
+  const auto options = std::make_shared<AddressOptions>();
+  command->add_option("ADDRESS", options->addresses, "Addresses of one line")->required();
+  command->add_flag("--json", options->json, "Write JSON");
+  command->footer(kFooter);
+  command->callback([options, &outcome] { Run(*options, outcome); });
+}
+
+}  // namespace tool

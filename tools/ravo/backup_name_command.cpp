@@ -1,0 +1,41 @@
+#include "commands.h"
+#include <ravo/RavoInterface.h>
+#include <ravo/RavoInterfaceCommon.h>
+
+#include <memory>
+#include <string>
+
+namespace tool {
+namespace {
+
+struct BackupNameOptions {
+  std::string name_template;
+  std::string company;
+};
+
+void Run(const BackupNameOptions& options, Outcome& outcome) {
+  const std::u16string name = ravo::RavoInterfaceCommon::ParseZalohaFile(
+      ravo::FromUtf8(options.name_template), ravo::FromUtf8(options.company));
+  outcome.out = ravo::ToUtf8(name) + "\n";
+}
+
+constexpr const char* kFooter =
+    "Placeholders, in either case: %FIRMA% the company without the characters that a file name may not "
+    "hold,\n"
+    "%DATUM% today as yymmdd, %CAS% the time as hhmmss. No file is touched.\n"
+    "\n"
+    "Examples:\n"
+    "  ravo backup-name \"%FIRMA%_%DATUM%_%CAS%.zip\" \"A/B: s.r.o.\"\n";
+
+}  // namespace
+
+void AddBackupNameCommand(CLI::App& program, Outcome& outcome) {
+  CLI::App* command = program.add_subcommand("backup-name", "Makes the name of a backup file");
+  const auto options = std::make_shared<BackupNameOptions>();
+  command->add_option("TEMPLATE", options->name_template, "The name with placeholders")->required();
+  command->add_option("COMPANY", options->company, "The company's name");
+  command->footer(kFooter);
+  command->callback([options, &outcome] { Run(*options, outcome); });
+}
+
+}  // namespace tool

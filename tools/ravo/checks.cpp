@@ -1,0 +1,62 @@
+#include "checks.h"
+
+#include <ravo/RavoInterface.h>
+#include <ravo/RavoInterfaceCommon.h>
+
+#include <algorithm>
+
+namespace tool {
+namespace {
+
+namespace common = ravo::RavoInterfaceCommon;
+
+Verdict CheckAccount(std::u16string_view text) { return {common::ValidUcet(text), {}}; }
+Verdict CheckSynthetic(std::u16string_view text) { return {common::ValidSU(text), {}}; }
+Verdict CheckAnalytic(std::u16string_view text) { return {common::ValidAU(text), {}}; }
+
+// An account or a reference of absurd length is no valid one.
+template <bool (*kRule)(std::u16string_view)>
+Verdict CheckByRule(std::u16string_view text) {
+  try {
+    return {kRule(text), {}};
+  } catch (const ravo::Error&) {
+    return {false, "too long"};
+  }
+}
+
+Verdict CheckEan(std::u16string_view text) {
+  thread_local std::u16string old_check, new_check, full;
+  if (!common::CalculateEAN(text, old_check, new_check, full)) return {};
+  if (old_check == new_check) return {true, {}};
+  return {false, (old_check == u" " ? "without check digit, complete: " : "wrong check digit, right: ") +
+                     ravo::ToUtf8(full)};
+}
+
+constexpr CheckKind kKinds[] = {
+    {"ucet", "account of the chart of accounts, 3 to 6 digits", CheckAccount},
+    {"su", "synthetic account, 3 digits", CheckSynthetic},
+    {"au", "analytic account, up to 3 digits", CheckAnalytic},
+    {"banka", "bank account with its weights modulo 11", CheckByRule<common::UcetMod11>},
+    {"vs", "payment reference (variable symbol) with a Luhn digit", CheckByRule<common::ValidVS>},
+    {"ean", "article code EAN-8 or EAN-13", CheckEan},
+};
+
+}  // namespace
+
+std::span<const CheckKind> CheckKinds() { return kKinds; }
+
+const CheckKind* FindCheckKind(std::string_view name) {
+  const auto* found = std::ranges::find(kKinds, name, &CheckKind::name);
+  return found == std::end(kKinds) ? nullptr : found;
+}
+
+std::string CheckKindNames(std::string_view between) {
+  std::string names;
+  for (const CheckKind& kind : kKinds) {
+    if (!names.empty()) names += between;
+    names += kind.name;
+  }
+  return names;
+}
+
+}  // namespace tool

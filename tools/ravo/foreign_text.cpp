@@ -1,0 +1,13 @@
+#include "foreign_text.h"
+
+#include <ravo/RavoInterface.h>
+
+namespace tool {
+
+std::string ForeignText(std::string_view bytes) {
+  std::string utf8 = ravo::ToUtf8(ravo::FromUtf8(bytes));
+  if (utf8 == bytes) return utf8;
+  return ravo::ToUtf8(ravo::platform::CurrentMachine().FromCodePage(bytes));
+}
+
+}  // namespace tool

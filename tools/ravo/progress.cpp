@@ -1,0 +1,43 @@
+#include "progress.h"
+
+#include "console.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tool {
+namespace {
+
+constexpr auto kPatience = std::chrono::seconds(1);
+constexpr auto kPace = std::chrono::milliseconds(100);
+constexpr std::size_t kWidth = 30;
+
+std::string Bar(std::int64_t done, std::int64_t whole) {
+  const double share =
+      whole > 0 ? std::min(1.0, static_cast<double>(done) / static_cast<double>(whole)) : 0.0;
+  const auto filled = static_cast<std::size_t>(share * static_cast<double>(kWidth));
+  return "[" + std::string(filled, '#') + std::string(kWidth - filled, '.') + "] " +
+         std::to_string(static_cast<int>(share * 100)) + " %";
+}
+
+}  // namespace
+
+Progress::Progress(std::string what, std::int64_t whole)
+    : what_(std::move(what)),
+      whole_(whole),
+      on_terminal_(IsTerminal(Channel::Err)),
+      next_(Clock::now() + kPatience) {}
+
+Progress::~Progress() {
+  if (shown_)
+    static_cast<void>(Write(Channel::Err, "\r" + std::string(what_.size() + kWidth + 10, ' ') + "\r"));
+}
+
+void Progress::Show(std::int64_t done) {
+  if (!on_terminal_ || Clock::now() < next_) return;
+  next_ = Clock::now() + kPace;
+  shown_ = true;
+  static_cast<void>(Write(Channel::Err, "\r" + what_ + " " + Bar(done, whole_)));
+}
+
+}  // namespace tool
