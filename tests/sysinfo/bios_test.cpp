@@ -44,8 +44,14 @@ TEST_F(Bios, SeveralTextsAreJoinedOnXpOnly) {
   EXPECT_EQ(Copyright(), u"AWARD 6.0");
   SetVersion(2, 5, 1);
   EXPECT_EQ(Copyright(), u"AWARD 6.0PCI 2.1");
-  SetVersion(2, 5, 0);
-  EXPECT_EQ(Copyright(), u"AWARD 6.0");
+  for (const auto& [major, minor] : {std::pair(5u, 0u), {5u, 2u}, {6u, 0u}, {6u, 1u}}) {
+    SetVersion(2, major, minor);
+    EXPECT_EQ(Copyright(), u"AWARD 6.0") << major << '.' << minor;
+  }
+  SetVersion(2, 5, 2);
+  machine.version.product_type = platform::ProductType::Workstation;
+  machine.architecture = platform::kArchitectureAmd64;
+  EXPECT_EQ(Copyright(), u"AWARD 6.0") << "on its 64-bit sibling";
 }
 
 TEST_F(Bios, TwoZerosEndTheTextsOnXp) {
