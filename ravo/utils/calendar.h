@@ -27,7 +27,7 @@ RAVO_API void JulianDateToYmd(TJulianDate date, std::int32_t& year, std::uint16_
 
 [[nodiscard]] RAVO_API std::uint16_t DayOfJulianDate(TJulianDate date);
 [[nodiscard]] RAVO_API std::uint16_t MonthOfJulianDate(TJulianDate date);
-/// The name is exported with this spelling.
+/// The year of a date.
 [[nodiscard]] RAVO_API std::int32_t YearOfJuilanDate(TJulianDate date);
 
 /// The compact form, year * 10000 + month * 100 + day: 20240331. `RangeError` where that is negative.

@@ -12,7 +12,7 @@ namespace {
 
 // Years begin in March here, so that the leap day is the last: the first of them is March -4800.
 constexpr std::int32_t kFirstMarch = -32044;
-constexpr std::uint32_t kYearsOfEveryday = 1469886;
+constexpr std::uint32_t kYearsOfEveryday = 1469873;
 constexpr std::uint32_t kDaysOfEveryday = 536834387;
 
 // What a month adds: the days before it in the year from March, and the years from March -4800 to March 0,
@@ -107,6 +107,7 @@ std::uint16_t DayOfJulianDate(TJulianDate date) { return utils::PartsOf(date).da
 
 std::uint16_t MonthOfJulianDate(TJulianDate date) { return utils::PartsOf(date).month; }
 
+// Kept: the name YearOfJuilanDate, because modules import it with this spelling
 std::int32_t YearOfJuilanDate(TJulianDate date) { return utils::PartsOf(date).year; }
 
 std::uint32_t YmdToIsoDate(std::int32_t year, std::uint16_t month, std::uint16_t day) {
