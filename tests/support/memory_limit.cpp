@@ -16,7 +16,6 @@ bool LimitMemory(std::size_t bytes) noexcept {
 
 namespace ravo::test {
 
-// A sanitizer reserves more than any limit leaves.
 bool LimitMemory(std::size_t) noexcept { return false; }
 
 }  // namespace ravo::test
