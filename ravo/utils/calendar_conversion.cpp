@@ -37,7 +37,7 @@ constexpr std::array<MonthStart, 13> kMonthStarts = {{{0, 0},
                                                       {275, 4800}}};
 
 // Day and month of a day of the year from March, and 1 where January has passed.
-struct DayOfYear {
+struct alignas(4) DayOfYear {
   std::uint8_t day;
   std::uint8_t month;
   std::uint8_t next_year;
@@ -57,6 +57,16 @@ constexpr std::array<DayOfYear, 366> MakeDaysOfYear() {
 }
 
 constexpr std::array<DayOfYear, 366> kDaysOfYear = MakeDaysOfYear();
+
+// Apart, so that the way of everyday dates saves no registers for it.
+[[gnu::noinline, gnu::cold]] void SplitFarDate(TJulianDate date, std::int32_t& year, std::uint16_t& month,
+                                               std::uint16_t& day) {
+  const utils::JulianParts parts = utils::JulianPartsByFormula(date);
+  const auto checked_month = CheckedCast<std::uint16_t>(parts.month);
+  day = CheckedCast<std::uint16_t>(parts.day);
+  month = checked_month;
+  year = parts.year;
+}
 
 // Digits of the compact form: a year of 214748 at most, and four more.
 template <class Text>
@@ -85,19 +95,13 @@ TJulianDate YmdToJulianDate(std::int32_t year, std::uint16_t month, std::uint16_
 
 void JulianDateToYmd(TJulianDate date, std::int32_t& year, std::uint16_t& month, std::uint16_t& day) {
   const std::uint32_t days = static_cast<std::uint32_t>(date) - static_cast<std::uint32_t>(kFirstMarch);
-  if (days >= kDaysOfEveryday) [[unlikely]] {
-    const utils::JulianParts parts = utils::JulianPartsByFormula(date);
-    const auto checked_month = CheckedCast<std::uint16_t>(parts.month);
-    day = CheckedCast<std::uint16_t>(parts.day);
-    month = checked_month;
-    year = parts.year;
-    return;
-  }
+  if (days >= kDaysOfEveryday) [[unlikely]]
+    return SplitFarDate(date, year, month, day);
   const std::uint32_t centuries = (4 * days + 3) / 146097;
   // With the leap days of the full centuries put back, every fourth year has one.
   const std::uint32_t evened = days + centuries - centuries / 4;
   const std::uint32_t years = (4 * evened + 3) / 1461;
-  const DayOfYear entry = kDaysOfYear[evened - 1461 * years / 4];
+  const DayOfYear& entry = kDaysOfYear[evened - 1461 * years / 4];
   year = static_cast<std::int32_t>(years + entry.next_year) - 4800;
   month = entry.month;
   day = entry.day;

@@ -27,4 +27,12 @@ JulianParts JulianPartsByFormula(std::int32_t date) {
   return {100 * (n - 49) + i + l, j + 2 - 12 * l, day};
 }
 
+// Days of 400, 100 and 4 years are taken out in turn.
+std::int32_t IsoWeekByFormula(std::int32_t date) {
+  const std::int32_t monday = CheckedAdd(date, 31741) - Modulo(date, 7);
+  const std::int32_t d4 = Modulo(monday, 146097) % 36524 % 1461;
+  const std::int32_t leap = d4 / 1460;
+  return ((d4 - leap) % 365 + leap) / 7 + 1;
+}
+
 }  // namespace ravo::utils

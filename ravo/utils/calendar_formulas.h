@@ -16,6 +16,9 @@ struct JulianParts {
 [[nodiscard]] std::int32_t JulianDateByFormula(std::int32_t year, std::int32_t month, std::int32_t day);
 [[nodiscard]] JulianParts JulianPartsByFormula(std::int32_t date);
 
+/// The ISO 8601 week.
+[[nodiscard]] std::int32_t IsoWeekByFormula(std::int32_t date);
+
 /// dividend modulo divisor, 0 to divisor - 1 for negative dividends too.
 [[nodiscard]] constexpr std::int32_t Modulo(std::int32_t dividend, std::int32_t divisor) noexcept {
   const std::int32_t remainder = dividend % divisor;

@@ -13,10 +13,9 @@ constexpr std::int32_t kDaysOfWeek = 7;
 constexpr std::int32_t kSaturday = 5;
 constexpr std::int32_t kSunday = 6;
 
-// The days of 400, 100 and 4 years.
-constexpr std::int32_t kDaysOf400Years = 146097;
-constexpr std::int32_t kDaysOf100Years = 36524;
-constexpr std::int32_t kDaysOf4Years = 1461;
+// Days from Monday, 1 January -4799 on: the first of a four-year group, of a century and of 400 years.
+constexpr std::uint32_t kBeforeEveryday = 31738;
+constexpr std::uint32_t kDaysOfEveryday = std::uint32_t{1} << 29;
 
 }  // namespace
 
@@ -41,10 +40,15 @@ void LastDayOfWeekYmd(std::int32_t& year, std::uint16_t& month, std::uint16_t& d
 }
 
 std::int32_t ISOWeekNumber(TJulianDate date) {
-  const std::int32_t monday = CheckedAdd(date, 31741) - DayOfWeek(date);
-  const std::int32_t d4 = Modulo(monday, kDaysOf400Years) % kDaysOf100Years % kDaysOf4Years;
-  const std::int32_t leap = d4 / 1460;
-  return ((d4 - leap) % 365 + leap) / kDaysOfWeek + 1;
+  const std::uint32_t days = static_cast<std::uint32_t>(date) + kBeforeEveryday;
+  if (days >= kDaysOfEveryday) [[unlikely]]
+    return utils::IsoWeekByFormula(date);
+  // The year that the week's Thursday lies in decides, and which day of it that is.
+  const std::uint32_t thursday = days / 7 * 7 + 3;
+  const std::uint32_t centuries = (4 * thursday + 3) / 146097;
+  const std::uint32_t evened = thursday + centuries - centuries / 4;
+  const std::uint32_t years = (4 * evened + 3) / 1461;
+  return static_cast<std::int32_t>((evened - 1461 * years / 4) / 7) + 1;
 }
 
 std::int32_t ISOWeekNumberYmd(std::int32_t year, std::uint16_t month, std::uint16_t day) {

@@ -15,6 +15,13 @@ constexpr std::uint32_t Twisted(std::uint32_t word, std::uint32_t next, std::uin
   return distant ^ (y >> 1) ^ ((0 - (y & 1)) & 0x9908B0DF);
 }
 
+constexpr std::uint32_t Tempered(std::uint32_t word) {
+  word ^= word >> 11;
+  word ^= (word << 7) & 0x9D2C5680;
+  word ^= (word << 15) & 0xEFC60000;
+  return word ^ (word >> 18);
+}
+
 std::uint32_t Scrambled(std::uint32_t word) { return word ^ (word >> 30); }
 
 [[noreturn]] void ThrowNoKeys() { throw RangeError(u"Range check error"); }
@@ -85,6 +92,7 @@ void TMT19937::Regenerate() noexcept {
   for (std::size_t i = kWords - kShift; i < kWords - 1; ++i)
     state[i] = Twisted(state[i], state[i + 1], state[i + kShift - kWords]);
   state[kWords - 1] = Twisted(state[kWords - 1], state[0], state[kShift - 1]);
+  for (std::size_t i = 0; i < kWords; ++i) tempered_[i] = Tempered(state[i]);
   index_ = 0;
 }
 

@@ -34,11 +34,7 @@ class RAVO_API TMT19937 {
   /// The next 32 random bits.
   [[nodiscard]] std::uint32_t genrand_int32() noexcept {
     if (index_ >= kWords) Regenerate();
-    std::uint32_t word = state_[index_++];
-    word ^= word >> 11;
-    word ^= (word << 7) & 0x9D2C5680;
-    word ^= (word << 15) & 0xEFC60000;
-    return word ^ (word >> 18);
+    return tempered_[index_++];
   }
 
   /// 0 to 2^31 - 1.
@@ -68,6 +64,8 @@ class RAVO_API TMT19937 {
 
   std::array<std::uint32_t, kWords> state_;
   std::uint32_t index_;
+  // The draws that the state stands for, made all at once when it is.
+  std::array<std::uint32_t, kWords> tempered_;
 };
 
 /// `count` characters of the alphabet, drawn by a generator that `seed` seeds. `RangeError` for an empty

@@ -116,6 +116,15 @@ TEST(ISOWeekNumber, IsTheWeekOfItsThursdayOnEveryDay) {
   ForEachDay([](TJulianDate date) { ASSERT_EQ(ISOWeekNumber(date), IsoWeek(SysDays(date))) << date; });
 }
 
+TEST(ISOWeekNumber, IsItsFormulaFarAway) {
+  const auto check = [](TJulianDate date) {
+    ASSERT_EQ(ISOWeekNumber(date), utils::IsoWeekByFormula(date)) << date;
+  };
+  for (TJulianDate date = -2'000'000'000; date < 2'140'000'000; date += 4999) check(date);
+  for (TJulianDate date = -200'000; date < 3'000'000; ++date) check(date);
+  for (TJulianDate date = 536'870'000; date < 536'880'000; ++date) check(date);
+}
+
 TEST(ISOWeekToJulianDate, LeadsBackToEveryDay) {
   for (TJulianDate date = kFirstDay + 400; date <= kLastDay; ++date) {
     const std::int32_t iso_year = YearOfJuilanDate(FirstDayOfWeek(date) + 3);
