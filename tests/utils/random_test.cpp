@@ -35,8 +35,8 @@ class PlainTwister {
  public:
   explicit PlainTwister(const Keys& keys, std::size_t steps) {
     Seed(19650218);
-    std::uint64_t i = 1;
-    std::uint64_t j = 0;
+    std::size_t i = 1;
+    std::size_t j = 0;
     for (std::size_t k = 0; k < steps; ++k) {
       mt_[i] = ((mt_[i] ^ (Before(i) * 1664525)) + keys[j] + j) & 0xFFFFFFFF;
       if (++i == 624) mt_[0] = mt_[623], i = 1;
@@ -62,9 +62,9 @@ class PlainTwister {
  private:
   void Seed(std::uint64_t seed) {
     mt_.assign(624, seed);
-    for (std::uint64_t i = 1; i < 624; ++i) mt_[i] = (Before(i) * 1812433253 + i) & 0xFFFFFFFF;
+    for (std::size_t i = 1; i < 624; ++i) mt_[i] = (Before(i) * 1812433253 + i) & 0xFFFFFFFF;
   }
-  [[nodiscard]] std::uint64_t Before(std::uint64_t i) const { return mt_[i - 1] ^ (mt_[i - 1] >> 30); }
+  [[nodiscard]] std::uint64_t Before(std::size_t i) const { return mt_[i - 1] ^ (mt_[i - 1] >> 30); }
 
   std::vector<std::uint64_t> mt_;
 };
