@@ -182,7 +182,8 @@ TEST(TWideStrBuf, RaisesWhereTheCapacityLeaves32Bits) {
   EXPECT_THROW(buffer.GrowBuffer(0xFFFFFFFF - 4099 - 4096 + 1), OverflowError);
   // Nothing is read there; the compiler must not know how short it is.
   const char16_t* volatile somewhere = u"x";
-  EXPECT_THROW(buffer.AddBuf(somewhere, 0xFFFFFFFF), OverflowError);
+  const volatile std::uint32_t most = 0xFFFFFFFF;
+  EXPECT_THROW(buffer.AddBuf(somewhere, most), OverflowError);
   if constexpr (sizeof(std::size_t) > 4) {
     EXPECT_THROW(buffer.GrowBuffer(std::size_t{1} << 32), OverflowError);
     EXPECT_THROW(buffer.AddStr({somewhere, std::size_t{1} << 33}), OverflowError);
