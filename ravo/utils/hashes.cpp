@@ -7,8 +7,7 @@
 namespace ravo::DIUtils {
 
 std::uint32_t HashBuf(const void* bytes, std::size_t count, std::uint32_t initial) noexcept {
-  return utils::Lookup2OfBytes(static_cast<const std::uint8_t*>(bytes), count, initial,
-                               [](std::uint8_t byte) { return byte; });
+  return utils::Lookup2OfBytes(static_cast<const std::uint8_t*>(bytes), count, initial, utils::AsItIs);
 }
 
 std::uint32_t HashBufIA(const void* bytes, std::size_t count, std::uint32_t initial) noexcept {

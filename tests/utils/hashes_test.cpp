@@ -2,6 +2,7 @@
 #include <ravo/runtime/error.h>
 #include <ravo/unicode/characters.h>
 #include <ravo/utils/ansi_upper.h>
+#include <ravo/utils/hash_stream.h>
 #include <ravo/utils/hashes.h>
 
 #include <array>
@@ -76,6 +77,24 @@ TEST(HashBuf, IsLookup2AtEveryLength) {
     const test::GuardedBuffer buffer(std::as_bytes(std::span(bytes)));
     for (const std::uint32_t initial : {0u, 1u, 0xFFFFFFFFu, 0x12345678u})
       ASSERT_EQ(HashBuf(buffer.Bytes().data(), count, initial), PlainHashOfBytes(bytes, initial)) << count;
+  }
+}
+
+TEST(HashStream, PiecesGiveWhatTheWholeGives) {
+  const std::vector<std::uint8_t> bytes = RandomBytes(100);
+  const auto all = std::as_bytes(std::span(bytes));
+  for (std::size_t count = 0; count <= bytes.size(); ++count) {
+    for (std::size_t cut = 0; cut <= count; ++cut) {
+      HashStream exact(77);
+      HashStream upper(78, HashStream::Letters::InUpperCase);
+      for (HashStream* stream : {&exact, &upper}) {
+        stream->Update(all.first(cut));
+        static_cast<void>(stream->Value());
+        stream->Update(all.subspan(cut, count - cut));
+      }
+      ASSERT_EQ(exact.Value(), HashBuf(bytes.data(), count, 77)) << count;
+      ASSERT_EQ(upper.Value(), HashBufIA(bytes.data(), count, 78)) << count;
+    }
   }
 }
 
