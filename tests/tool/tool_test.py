@@ -8,10 +8,12 @@ Exits 77 where the emulator says that this machine cannot run the program.
 
 import json
 import pathlib
+import random
 import re
 import subprocess
 import sys
 import tempfile
+import zlib
 from dataclasses import dataclass
 from typing import Callable, Optional
 
@@ -128,10 +130,33 @@ LEDGER_FAULTS = (
     "300 rows\nÚčet MD (ucet): 299 valid, 1 not\nVS (vs): 268 valid, 2 not\nProtiúčet (banka): 237 valid, 1 not\n"
 )
 
+
+def drawn(seed, alphabet, count):
+    """The text that a Mersenne Twister seeded by the seed's bytes draws, from Python's own one."""
+    words = [19650218]
+    for i in range(1, 624):
+        words.append((1812433253 * (words[-1] ^ words[-1] >> 30) + i) & 0xFFFFFFFF)
+    keys, i, j = seed.encode(), 1, 0
+    for step in range(624 + 623):
+        before = words[i - 1] ^ words[i - 1] >> 30
+        if step < 624:
+            words[i] = ((words[i] ^ before * 1664525) + keys[j] + j) & 0xFFFFFFFF
+            j = (j + 1) % len(keys)
+        else:
+            words[i] = ((words[i] ^ before * 1566083941) - i) & 0xFFFFFFFF
+        i += 1
+        if i == 624:
+            words[0], i = words[623], 1
+    words[0] = 0x80000000
+    generator = random.Random()
+    generator.setstate((3, (*words, 624), None))
+    return "".join(alphabet[generator.getrandbits(32) % len(alphabet)] for _ in range(count)) + "\n"
+
+
 ROWS = [
     # The program as a whole.
     Row(["--version"], holds=lambda out: not re.fullmatch(r"ravo \d+\.\d+\.\d+\n", out)),
-    Row(["--help"], out=("report", "table", "captions", "Examples:")),
+    Row(["--help"], out=("report", "table", "captions", "hash", "random", "Examples:")),
     Row(["report", "--help"], out=("--business", "-o FILE", "Examples:")),
     Row(["table", "--help"], out=("--module", "--all", "Profil, RSS, DCF", "Examples:")),
     Row(["captions", "--help"], out=("--plain", "Examples:")),
@@ -225,6 +250,40 @@ ROWS = [
     Row(["date", "2011-01-31x"], WRONG_USAGE),
     Row(["date", "2011-01-31 13"], WRONG_USAGE),
     Row(["date"], WRONG_USAGE),
+    Row(["date", "2024-03-29"], out=("julian-day\t2460399\n", "weekday\tFriday\n", "iso-week\t2024-W13\n", "easter\t20240331\n", "holiday\ttrue\n")),
+    Row(["date", "2021-01-03"], out=("iso-week\t2020-W53\n", "weekday\tSunday\n")),
+    Row(["date", "2021-01-04"], out=("iso-week\t2021-W01\n", "holiday\tfalse\n")),
+    Row(["date", "0001-01-01"], out=("iso-week\t0001-W01\n", "julian-day\t1721426\n")),
+    Row(["date", "9999-12-31"], out=("iso-week\t9999-W52\n", "julian-day\t5373484\n")),
+    Row(["date", "2024-06-15", "--holidays"], out=(
+        "holidays\t20240101 20240329 20240401 20240501 20240509 20240520 20241003 20241224 20241225 20241226 20241231\n",)),
+    Row(["date", "2024-06-15"], holds=without("holidays")),
+    Row(["date", "2024-03-29", "--json", "--holidays"], holds=as_json(lambda facts: (
+        facts["julian-day"], facts["iso-week"], facts["holiday"], len(facts["holidays"])) != (2460399, "2024-W13", True, 11) and "other facts")),
+    Row(["date", "2024-03-29", "--calendar"], exact=(
+        "March 2024\n    Mo  Tu  We  Th  Fr  Sa  Su\n 9                   1   2   3*\n10   4   5   6   7   8   9  10*\n"
+        "11  11  12  13  14  15  16  17*\n12  18  19  20  21  22  23  24*\n13  25  26  27  28 [29] 30  31*\n")),
+    Row(["date", "2023-12-31", "--month", "1", "--calendar"], out=("January 2024\n", " 1   1*  2 ", " 5  29  30 [31]\n")),
+    Row(["date", "2021-01-31", "--calendar"], out=("January 2021\n", "53                   1*  2   3*\n", " 4  25  26  27  28  29  30 [31]\n")),
+    Row(["date", "2024-03-29", "--calendar", "--json"], WRONG_USAGE),
+    # Random texts: what the generator of Python draws from the same keys.
+    Row(["random", "--seed", "seed", "--count", "20", "--alphabet", "abcdefg"], exact=drawn("seed", "abcdefg", 20)),
+    Row(["random", "--seed", "sůl", "--alphabet", "áčď", "--count", "50"], exact=drawn("sůl", "áčď", 50)),
+    Row(["random", "--seed", "x", "--count", "0"], exact="\n"),
+    Row(["random", "--seed", "x"], holds=lambda out: not re.fullmatch(r"[A-Za-z0-9]{16}\n", out)),
+    Row(["random"], WRONG_USAGE),
+    Row(["random", "--seed", ""], WRONG_USAGE, err=("the seed is empty",)),
+    Row(["random", "--seed", "x", "--alphabet", ""], WRONG_USAGE, err=("the alphabet is empty",)),
+    Row(["random", "--seed", "x", "--alphabet", "a😀"], WRONG_USAGE, err=("beyond U+FFFF",)),
+    Row(["random", "--seed", "x", "--count", "-1"], WRONG_USAGE),
+    # Sums of files; more of them below.
+    Row(["hash", "--help"], out=("crc32, hash, hash-ia", "--check", "--all", "Examples:")),
+    Row(["hash", "crc32"], WRONG_USAGE),
+    Row(["hash"], WRONG_USAGE),
+    Row(["hash", "md5", "x"], WRONG_USAGE, err=("crc32, hash, hash-ia",)),
+    Row(["hash", "crc32", "missing"], WRONG_USAGE, exact="", err=("missing: cannot be read",)),
+    Row(["hash", "crc32", "."], WRONG_USAGE, exact="", err=(".: cannot be read",)),
+    Row(["hash", "crc32", "--check", "missing"], WRONG_USAGE, exact="", err=("missing: cannot be read",)),
     # Addresses and backup names.
     Row(["address", "Nádražní 1234/5", "Dlouhá 12a", "Na Příkopě XIV"],
         exact="Nádražní\t1234/5\nDlouhá 12a\t\nNa Příkopě\tXIV\n"),
@@ -301,6 +360,45 @@ def check_report_file(program):
         yield f"report -o {name}: left {left} beside it"
 
 
+def check_sums(program):
+    """Sums of files of any size are zlib's, and a list of them checks until a file changes."""
+    contents = {"prázdný": b"", "check 1": b"123456789", "large": bytes(range(251)) * 3000}
+    for name, content in contents.items():
+        (program.folder / name).write_bytes(content)
+    result = program.run(["hash", "crc32", *contents])
+    wanted = "".join(f"{zlib.crc32(content):08X}  {name}\n" for name, content in contents.items())
+    if (result.status, result.out, result.err) != (YES, wanted, ""):
+        yield f"hash crc32: {result}"
+    labelled = program.run(["hash", "--all", "check 1"]).out
+    if labelled != "CRC32 (check 1) = CBF43926\nHASH (check 1) = 4BF83526\nHASH-IA (check 1) = 4BF83526\n":
+        yield f"hash --all: {labelled!r}"
+    if json.loads(program.run(["hash", "--all", "--json", "large"]).out)[0]["crc32"] != zlib.crc32(contents["large"]):
+        yield "hash --json: another sum"
+    sums = program.folder / "list.sum"
+    all_right = "".join(f"{name}: OK\n" for name in contents)
+    for text in (wanted, wanted.lower().replace("  ", " *"), "# sums\n\n" + wanted.replace("\n", "\r\n")):
+        sums.write_text(text, encoding="utf-8", newline="")
+        result = program.run(["hash", "crc32", "--check", "list.sum"])
+        if (result.status, result.out, result.err) != (YES, all_right, ""):
+            yield f"hash --check {text!r}: {result}"
+    sums.write_text(labelled + "nonsense\n", encoding="utf-8")
+    result = program.run(["hash", "--check", "list.sum"])
+    if (result.status, result.out) != (NO, "check 1: OK\n" * 3) or "1 lines are no sums" not in result.err:
+        yield f"hash --check with a line too many: {result}"
+    sums.write_text(wanted + "CBF43926  gone\n", encoding="utf-8")
+    (program.folder / "check 1").write_bytes(b"123456788")
+    result = program.run(["hash", "crc32", "--check", "list.sum"])
+    if result.status != NO or result.out != "prázdný: OK\ncheck 1: FAILED\nlarge: OK\ngone: FAILED open or read\n":
+        yield f"hash --check after a change: {result}"
+    if "1 sums do NOT match" not in result.err or "1 listed files could not be read" not in result.err:
+        yield f"hash --check after a change: {result.err!r}"
+    sums.write_text("nonsense\n", encoding="utf-8")
+    if program.run(["hash", "crc32", "--check", "list.sum"]).status != WRONG_USAGE:
+        yield "hash --check without a sum: no failure"
+    for name in (*contents, "list.sum"):
+        (program.folder / name).unlink()
+
+
 def check_full_device(program):
     """Output that cannot be written is no success."""
     if len(program.command) > 1 or not pathlib.Path("/dev/full").exists():
@@ -336,7 +434,7 @@ def check_damaged_files(program):
 def tested(program):
     for row in ROWS:
         yield from program.failures(row)
-    for check in (check_report_json, check_report_file, check_full_device, check_damaged_files):
+    for check in (check_report_json, check_report_file, check_sums, check_full_device, check_damaged_files):
         yield from check(program)
 
 

@@ -27,6 +27,8 @@ void Describe(CLI::App& program, Outcome& outcome) {
   AddCheckCommand(program, outcome);
   AddRoundCommand(program, outcome);
   AddDateCommand(program, outcome);
+  AddHashCommand(program, outcome);
+  AddRandomCommand(program, outcome);
   AddAddressCommand(program, outcome);
   AddBackupNameCommand(program, outcome);
 }
