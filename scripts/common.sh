@@ -20,7 +20,6 @@ fi
 
 ravo_cache="${RAVO_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/ravo}"
 wine32_root="$ravo_cache/wine32-bookworm"
-<<<<<<< HEAD
 
 # The package mirror that a Debian machine already uses; empty on any other.
 apt-mirror-of-this-machine() {
@@ -30,7 +29,4 @@ apt-mirror-of-this-machine() {
   sed -nE 's/^(deb (\[[^]]*\] )?|URIs: )(https?:[^ ]+).*/\3/p' <<<"$sources" | grep -v security | head -n 1 || true
 }
 
-jobs=$(nproc 2>/dev/null || echo 2)
-=======
 jobs=${RAVO_JOBS:-$(nproc 2>/dev/null || echo 2)}
->>>>>>> main
