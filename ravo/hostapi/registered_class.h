@@ -19,7 +19,8 @@ class Machine;
 class RAVO_API RegisteredClass {
  public:
   /// `factory` makes one object for each creation; where it answers null or raises, the creation fails as
-  /// that of a server that does not start. Raises `ComponentError` where the class is offered already.
+  /// that of a server that does not start. Raises `ComponentError` where the platform refuses the offer; a
+  /// class that is offered already is refused everywhere but on Windows, which takes several offers.
   RegisteredClass(const Guid& class_id, ComponentFactory factory);
   RegisteredClass(const RegisteredClass&) = delete;
   RegisteredClass& operator=(const RegisteredClass&) = delete;

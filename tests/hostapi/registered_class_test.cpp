@@ -1,4 +1,6 @@
 #include "counted_object.h"
+#include "servers/served_calls.h"
+#include "servers/served_objects.h"
 #include "support/component_runtime.h"
 #include <ravo/RavoProfileInfo_TLB.h>
 #include <ravo/RavoZip_TLB.h>
@@ -58,6 +60,17 @@ TEST_F(RegisteredClasses, AreCreated) {
     EXPECT_EQ(counts_.objects, 2);
     EXPECT_EQ(counts_.references, 2);
   }
+  EXPECT_EQ(counts_.objects, 0);
+  EXPECT_EQ(counts_.references, 0);
+}
+
+// The same calls as those to servers outside this program.
+TEST_F(RegisteredClasses, AnswerCalls) {
+  const RegisteredClass zipper(CLASS_RavoZipper, [this] { return MakeComponent<test::ZipObject>(counts_); });
+  const RegisteredClass information(RavoProfileInfo_TLB::CLASS_RavoProfileInformation,
+                                    [this] { return MakeComponent<test::ProfileInfoObject>(counts_); });
+  test::ExpectZip(CoRavoZipper::Create());
+  test::ExpectProfileInfo(RavoProfileInfo_TLB::CoRavoProfileInformation::Create());
   EXPECT_EQ(counts_.objects, 0);
   EXPECT_EQ(counts_.references, 0);
 }

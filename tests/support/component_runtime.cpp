@@ -4,7 +4,6 @@
 
 #ifdef _WIN32
 
-#include <objbase.h>
 #include <windows.h>
 
 namespace ravo::test {

@@ -1,3 +1,4 @@
+#include <ravo/platform/component_text.h>
 #include <ravo/platform/posix/component_registry.h>
 #include <ravo/platform/posix/posix_machine.h>
 #include <ravo/runtime/text.h>
@@ -5,26 +6,6 @@
 #include <utility>
 
 namespace ravo::platform::posix {
-namespace {
-
-struct ErrorText {
-  ResultCode code;
-  std::u16string_view text;
-};
-
-constexpr ErrorText kErrorTexts[] = {
-    {result_code::kNotImplemented, u"Not implemented"},
-    {result_code::kNoInterface, u"Interface not supported"},
-    {result_code::kNoAggregation, u"Class does not support aggregation"},
-    {result_code::kClassNotRegistered, u"Class not registered"},
-    {result_code::kAlreadyRegistered, u"Class is already registered"},
-    {result_code::kOutOfMemory, u"Not enough memory"},
-    {result_code::kServerUnavailable, u"The computer cannot be reached"},
-    {result_code::kServerFailed, u"The server of the class failed to start"},
-};
-
-}  // namespace
-
 ComponentAnswer PosixMachine::CreateComponent(const Guid& class_id) const {
   ComponentAnswer answer;
   answer.code = ProcessComponents().Create(class_id, answer.instance);
@@ -49,11 +30,6 @@ void PosixMachine::RevokeComponent(std::uint32_t registration) const {
   ProcessComponents().Revoke(registration);
 }
 
-std::u16string PosixMachine::ComponentErrorText(ResultCode code) const {
-  for (const ErrorText& row : kErrorTexts) {
-    if (row.code == code) return std::u16string(row.text);
-  }
-  return u"Component error " + ToHex(static_cast<std::uint32_t>(code), 8);
-}
+std::u16string PosixMachine::ComponentErrorText(ResultCode code) const { return ComponentText(code); }
 
 }  // namespace ravo::platform::posix

@@ -1,3 +1,4 @@
+#include <ravo/platform/component_text.h>
 #include <ravo/platform/win32/class_object.h>
 #include <ravo/platform/win32/system_error.h>
 #include <ravo/platform/win32/wide.h>
@@ -54,7 +55,8 @@ ResultCode Win32Machine::OfferComponent(const Guid& class_id, ComponentFactory f
 void Win32Machine::RevokeComponent(std::uint32_t registration) const { CoRevokeClassObject(registration); }
 
 std::u16string Win32Machine::ComponentErrorText(ResultCode code) const {
-  return SystemErrorText(static_cast<std::uint32_t>(code));
+  const std::optional<std::u16string> text = KnownSystemErrorText(static_cast<std::uint32_t>(code));
+  return text ? *text : ComponentText(code);
 }
 
 }  // namespace ravo::platform
