@@ -7,3 +7,4 @@
 #include <ravo/runtime/component_object.h>
 #include <ravo/runtime/component_ptr.h>
 #include <ravo/runtime/error.h>
+#include <ravo/runtime/wide_string.h>

@@ -16,5 +16,6 @@ void AddRoundCommand(CLI::App& program, Outcome& outcome);
 void AddDateCommand(CLI::App& program, Outcome& outcome);
 void AddAddressCommand(CLI::App& program, Outcome& outcome);
 void AddBackupNameCommand(CLI::App& program, Outcome& outcome);
+void AddInterfacesCommand(CLI::App& program, Outcome& outcome);
 
 }  // namespace tool
