@@ -6,6 +6,7 @@
 #include <ravo/RavoZip_TLB.h>
 
 #include <atomic>
+#include <latch>
 #include <stdexcept>
 #include <string>
 #include <thread>
@@ -153,21 +154,26 @@ TEST_F(RegisteredClasses, ServeSeveralThreadsAtOnce) {
 
 // Classes come and go while others create them: each creation gives an object or says that there is no class.
 TEST_F(RegisteredClasses, MayGoWhileOthersCreateThem) {
+  constexpr int kThreads = 4;
   std::atomic<bool> is_over{false};
   std::atomic<int> odd_answers{0};
+  std::latch all_run(kThreads + 1);
   std::vector<std::thread> threads;
-  for (int i = 0; i < 4; ++i) {
+  for (int i = 0; i < kThreads; ++i) {
     threads.emplace_back([&] {
       const test::ComponentRuntime runtime;
+      all_run.arrive_and_wait();
       while (!is_over) {
         const ResultCode code = CodeOf(CoRavoZipper::Create);
         if (code != result_code::kOk && code != result_code::kClassNotRegistered) ++odd_answers;
       }
     });
   }
-  for (int round = 0; round < 200; ++round) {
+  all_run.arrive_and_wait();
+  for (int round = 0; round < 100; ++round) {
     const RegisteredClass zipper(CLASS_RavoZipper, Zipper(counts_));
     EXPECT_TRUE(CoRavoZipper::Create());
+    std::this_thread::yield();
   }
   is_over = true;
   for (std::thread& thread : threads) thread.join();
