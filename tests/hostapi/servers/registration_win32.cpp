@@ -8,6 +8,8 @@ namespace ravo::test {
 namespace {
 
 constexpr const wchar_t* kClasses = L"Software\\Classes\\";
+// Stands below what these tests registered.
+constexpr const wchar_t* kMark = L"\\RavoTest";
 
 std::wstring Text(const Guid& guid) {
   const std::u16string text = guid.ToText();
@@ -64,8 +66,13 @@ Registration::~Registration() {
 }
 
 void Registration::AddKey(const std::wstring& key) {
+  // What a test left behind that did not come to its end may go.
+  for (const HKEY root : Roots()) {
+    if (Exists(root, kClasses + key + kMark)) RegDeleteTreeW(root, (kClasses + key).c_str());
+  }
   if (Exists(HKEY_CLASSES_ROOT, key)) throw std::runtime_error("a class of the suite is registered already");
   keys_.push_back(key);
+  SetText(key + kMark, nullptr, L"");
 }
 
 void Registration::AddLibraryServer(const Guid& class_id, const std::wstring& file) {
