@@ -16,6 +16,8 @@
 /// twin is called through `Invoke` alone.
 namespace ravo {
 
+// The base of a class cannot stand in parentheses.
+// NOLINTBEGIN(bugprone-macro-parentheses)
 #define RAVO_TYPE_LIBRARY(library, identifier)          \
   namespace library##_TLB {                             \
     inline constexpr Guid LIBID_##library = identifier; \
@@ -46,5 +48,6 @@ namespace ravo {
   }
 
 #include <ravo/hostapi/interfaces.inc>
+// NOLINTEND(bugprone-macro-parentheses)
 
 }  // namespace ravo
