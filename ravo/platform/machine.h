@@ -148,6 +148,8 @@ class RAVO_API Machine {
   /// temporary folder always ends in one); empty where there is none.
   [[nodiscard]] virtual std::u16string Folder(SystemFolder folder) const = 0;
   [[nodiscard]] virtual std::u16string ComputerName() const = 0;
+  /// The account that the process runs under; `GetUserNameW` on Windows, whose header defines a macro of that
+  /// question.
   [[nodiscard]] virtual std::u16string UserName() const = 0;
   [[nodiscard]] virtual MemoryFigures Memory() const = 0;
 

@@ -1,3 +1,4 @@
+#include <ravo/runtime/little_endian.h>
 #include <ravo/utils/crc32.h>
 
 #include <array>
@@ -29,12 +30,6 @@ constexpr Tables MakeTables() {
 
 constexpr Tables kTables = MakeTables();
 
-std::uint32_t LittleEndian(std::span<const std::byte> four) {
-  std::uint32_t value = 0;
-  for (std::size_t i = 0; i < 4; ++i) value |= std::to_integer<std::uint32_t>(four[i]) << (8 * i);
-  return value;
-}
-
 // Carries a register of four bytes over those bytes and `behind` more.
 std::uint32_t Slice(std::uint32_t four, std::size_t behind) {
   return kTables[behind + 3][four & 0xFF] ^ kTables[behind + 2][(four >> 8) & 0xFF] ^
@@ -45,7 +40,7 @@ std::uint32_t Slice(std::uint32_t four, std::size_t behind) {
 
 std::uint32_t UpdateCrc32(std::uint32_t crc, std::span<const std::byte> bytes) noexcept {
   for (; bytes.size() >= kSlices; bytes = bytes.subspan(kSlices)) {
-    crc = Slice(crc ^ LittleEndian(bytes), 4) ^ Slice(LittleEndian(bytes.subspan(4)), 0);
+    crc = Slice(crc ^ ReadLittle32(bytes, 0), 4) ^ Slice(ReadLittle32(bytes, 4), 0);
   }
   for (const std::byte byte : bytes) {
     crc = (crc >> 8) ^ kTables[0][(crc ^ std::to_integer<std::uint32_t>(byte)) & 0xFF];
