@@ -14,3 +14,10 @@
 #else
 #define RAVO_API __attribute__((visibility("default")))
 #endif
+
+/// RAVO_STDCALL is the calling convention of component interfaces: it makes a difference on 32-bit Windows.
+#if defined(_WIN32)
+#define RAVO_STDCALL __stdcall
+#else
+#define RAVO_STDCALL
+#endif

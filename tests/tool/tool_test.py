@@ -122,6 +122,24 @@ def caption_groups(groups):
         return "the caption of receivables is another"
 
 
+def host_libraries(libraries):
+    counts = [(row["library"], len(row["interfaces"]), len(row["classes"])) for row in libraries]
+    if counts != [("RavoManager_TLB", 47, 0), ("RavoProfileInfo_TLB", 9, 9), ("RavoZip_TLB", 3, 1)]:
+        return f"the libraries are {counts}"
+    operations = sum(row["operations"] for library in libraries for row in library["interfaces"])
+    if operations != 902:
+        return f"{operations} operations"
+
+
+ZIP_LINES = (
+    "RavoZip_TLB\t{A823255B-9316-4AAB-89B7-01D520F12983}\n"
+    "\tIRavoZip\tdual\tIDispatch\t{904F0BB6-AB48-492D-BFF6-09A944EA24C9}\t78\n"
+)
+ZIPPER_LINES = (
+    "RavoZip_TLB\t{A823255B-9316-4AAB-89B7-01D520F12983}\n"
+    "\tCoRavoZipper\tclass\tIRavoZip\t{2FE78C5D-7DB0-46C4-9512-DAACCF23EBCE}\n"
+)
+
 SAMPLES = pathlib.Path(__file__).resolve().parents[2] / "samples"
 SAMPLE, SAMPLE_1250 = str(SAMPLES / "ledger.csv"), str(SAMPLES / "ledger-1250.csv")
 LEDGER = [argument for column in ("Účet MD=ucet", "VS=vs", "Protiúčet=banka") for argument in ("--column", column)]
@@ -197,6 +215,30 @@ ROWS = [
     Row(["captions", "--plain"], out=("65477\trPropertyDokladPZPohledavka\tPohledávka\n", "\tDodací list\n"), holds=without("&")),
     Row(["captions", "--json"], holds=as_json(caption_groups)),
     Row(["captions", "--plain", "--json"], out=("„Zaúčtovat do ÚD“",), holds=without("&")),
+    # Interfaces.
+    Row(["interfaces"], holds=lines(3 + 59 + 10),
+        out=("RavoManager_TLB\t{7CAEF350-8153-11D3-838D-0000E87DD3E0}\n\tIRavoProfile\tcustom\tIUnknown\t", "\tIRavoFirmEvents\tcustom\tIUnknown\t{E823B301-983E-11D3-83AE-0000E87DD3E0}\t0\n")),
+    Row(["interfaces", "--json"], holds=as_json(host_libraries)),
+    Row(["interfaces", "{904F0BB6-AB48-492D-BFF6-09A944EA24C9}"], exact=ZIP_LINES),
+    Row(["interfaces", "904f0bb6-ab48-492d-bff6-09a944ea24c9"], exact=ZIP_LINES),
+    Row(["interfaces", "904F0BB6AB48492DBFF609A944EA24C9"], exact=ZIP_LINES),
+    Row(["interfaces", "zipper"], exact=ZIPPER_LINES),
+    Row(["interfaces", "CORAVOZIPPER"], exact=ZIPPER_LINES),
+    Row(["interfaces", "{2fe78c5d-7db0-46c4-9512-daaccf23ebce}"], exact=ZIPPER_LINES),
+    Row(["interfaces", "{A823255B-9316-4AAB-89B7-01D520F12983}"], out=("\tIRavoZipEvents\t",), holds=lines(5)),
+    Row(["interfaces", "ravozip_tlb"], holds=lines(5)),
+    Row(["interfaces", "profileinfo"], holds=lines(3), out=("\tIRavoProfileInfo\t", "\tCoRavoProfileInformation\t")),
+    Row(["interfaces", "sessions"], holds=lines(2), out=("\tIRavoSessions\tdual\tIDispatch\t",)),
+    Row(["interfaces", "RavoBusinessDenik", "--json"],
+        holds=differs([{"library": "RavoManager_TLB", "identifier": "{7CAEF350-8153-11D3-838D-0000E87DD3E0}",
+                        "interfaces": [{"name": "IRavoBusinessDenik", "kind": "dual", "base": "IDispatch",
+                                        "identifier": "{8A399F91-5ECC-40AB-BD7C-B0F8C374DFFE}", "operations": 7}],
+                        "classes": []}])),
+    Row(["interfaces", "nonsense"], NO, exact="", err=("'nonsense'",)),
+    Row(["interfaces", "{904F0BB6-AB48-492D-BFF6-09A944EA24C8}"], NO, exact="", err=("24C8",)),
+    Row(["interfaces", "účet", "--json"], NO, exact="[]\n", err=("účet",)),
+    Row(["interfaces", "zip", "stray"], WRONG_USAGE),
+    Row(["interfaces", "--help"], out=("--json", "Examples:")),
     # Checks.
     Row(["check", "--help"], out=("--csv FILE", "--column NAME=KIND", "banka", "Examples:")),
     Row(["check", "banka", "19-2000145399/0800"], exact="19-2000145399/0800\tvalid\n"),

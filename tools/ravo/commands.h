@@ -18,5 +18,6 @@ void AddHashCommand(CLI::App& program, Outcome& outcome);
 void AddRandomCommand(CLI::App& program, Outcome& outcome);
 void AddAddressCommand(CLI::App& program, Outcome& outcome);
 void AddBackupNameCommand(CLI::App& program, Outcome& outcome);
+void AddInterfacesCommand(CLI::App& program, Outcome& outcome);
 
 }  // namespace tool

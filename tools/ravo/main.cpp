@@ -31,6 +31,7 @@ void Describe(CLI::App& program, Outcome& outcome) {
   AddRandomCommand(program, outcome);
   AddAddressCommand(program, outcome);
   AddBackupNameCommand(program, outcome);
+  AddInterfacesCommand(program, outcome);
 }
 
 // Help and version are answers; every other end of parsing is wrong usage, whatever number the parser gives
