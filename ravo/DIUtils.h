@@ -4,8 +4,13 @@
 #include <ravo/utils/ansi_upper.h>
 #include <ravo/utils/calendar.h>
 #include <ravo/utils/checksums.h>
+#include <ravo/utils/environment.h>
+#include <ravo/utils/file_names.h>
+#include <ravo/utils/files.h>
+#include <ravo/utils/folders.h>
 #include <ravo/utils/hash_stream.h>
 #include <ravo/utils/hashes.h>
 #include <ravo/utils/integers.h>
 #include <ravo/utils/random.h>
 #include <ravo/utils/wide_str_buf.h>
+#include <ravo/utils/whole_files.h>
