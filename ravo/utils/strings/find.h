@@ -1,0 +1,34 @@
+#pragma once
+
+#include <ravo/utils/strings/text_kind.h>
+
+namespace ravo::strings {
+
+/// The first place from `from` on at which `search` stands in `text`; `kNone` where there is none, and for an
+/// empty `search`.
+template <class Fold, class Char>
+[[nodiscard]] std::size_t Find(View<Char> search, View<Char> text, std::size_t from) noexcept {
+  if (search.empty() || from >= text.size() || search.size() > text.size() - from) return kNone;
+  const Char first = Fold::Of(search.front());
+  const std::size_t end = text.size() - search.size() + 1;
+  for (std::size_t at = from; at < end; ++at) {
+    if (Fold::Of(text[at]) == first &&
+        SameUnits<Fold>(text.data() + at + 1, search.data() + 1, search.size() - 1)) {
+      return at;
+    }
+  }
+  return kNone;
+}
+
+/// The last place up to `from` at which `search` stands in `text`; `kNone` as above.
+template <class Fold, class Char>
+[[nodiscard]] std::size_t FindBack(View<Char> search, View<Char> text, std::size_t from) noexcept {
+  if (search.empty() || search.size() > text.size()) return kNone;
+  const std::size_t last = text.size() - search.size();
+  for (std::size_t at = (from < last ? from : last) + 1; at-- > 0;) {
+    if (SameUnits<Fold>(text.data() + at, search.data(), search.size())) return at;
+  }
+  return kNone;
+}
+
+}  // namespace ravo::strings
