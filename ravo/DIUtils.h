@@ -1,7 +1,13 @@
 #pragma once
 
-/// General utilities: strings and buffers, German day names.
-#include <ravo/utils/german_days.h>
+/// General utilities: strings and buffers, calendar, checksums, hashes, random numbers.
+#include <ravo/utils/ansi_upper.h>
+#include <ravo/utils/calendar.h>
+#include <ravo/utils/checksums.h>
+#include <ravo/utils/hash_stream.h>
+#include <ravo/utils/hashes.h>
+#include <ravo/utils/integers.h>
+#include <ravo/utils/random.h>
 #include <ravo/utils/strings/assemble.h>
 #include <ravo/utils/strings/char_search.h>
 #include <ravo/utils/strings/char_tests.h>
@@ -17,3 +23,4 @@
 #include <ravo/utils/strings/utf8.h>
 #include <ravo/utils/strings/wildcards.h>
 #include <ravo/utils/strings/words.h>
+#include <ravo/utils/wide_str_buf.h>

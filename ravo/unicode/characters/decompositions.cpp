@@ -22,6 +22,7 @@ CharSequence At(const std::uint8_t* pool, unsigned offset) {
 }  // namespace
 
 std::u16string CharSequence::Text() const {
+  if (!bytes_) return {};
   std::u16string text(size(), u'\0');
   for (std::size_t i = 0; i < text.size(); ++i) text[i] = (*this)[i];
   return text;
