@@ -16,7 +16,8 @@ using ViewW = std::u16string_view;
 
 template <class Fold, class Char>
 bool Same(View<Char> left, View<Char> right) {
-  return left.size() == right.size() && strings::SameUnits<Fold>(left.data(), right.data(), left.size());
+  return left.size() == right.size() &&
+         strings::Mismatch<Fold>(left.data(), right.data(), left.size()) == left.size();
 }
 
 template <class Fold, class Char>

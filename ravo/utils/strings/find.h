@@ -4,10 +4,10 @@
 
 namespace ravo::strings {
 
-/// The first place from `from` on at which `search` stands in `text`; `kNone` where there is none, and for an
-/// empty `search`.
+/// The plain search, which the others are compared with: the first place from `from` on at which `search`
+/// stands in `text`; `kNone` where there is none, and for an empty `search`.
 template <class Fold, class Char>
-[[nodiscard]] std::size_t Find(View<Char> search, View<Char> text, std::size_t from) noexcept {
+[[nodiscard]] std::size_t FindPlainly(View<Char> search, View<Char> text, std::size_t from) noexcept {
   if (search.empty() || from >= text.size() || search.size() > text.size() - from) return kNone;
   const Char first = Fold::Of(search.front());
   const std::size_t end = text.size() - search.size() + 1;
@@ -18,6 +18,23 @@ template <class Fold, class Char>
     }
   }
   return kNone;
+}
+
+/// The same by vectors, where the processor this is compiled for has them.
+[[nodiscard]] std::size_t FindExactly(View<char> search, View<char> text, std::size_t from) noexcept;
+[[nodiscard]] std::size_t FindExactly(View<char16_t> search, View<char16_t> text, std::size_t from) noexcept;
+/// The same after case folding, which is done piece by piece in a buffer of fixed size.
+[[nodiscard]] std::size_t FindFolded(View<char16_t> search, View<char16_t> text, std::size_t from) noexcept;
+
+template <class Fold, class Char>
+[[nodiscard]] std::size_t Find(View<Char> search, View<Char> text, std::size_t from) noexcept {
+  if constexpr (Fold::kIsExact) {
+    return FindExactly(search, text, from);
+  } else if constexpr (sizeof(Char) == sizeof(char16_t)) {
+    return FindFolded(search, text, from);
+  } else {
+    return FindPlainly<Fold>(search, text, from);
+  }
 }
 
 /// The last place up to `from` at which `search` stands in `text`; `kNone` as above.
