@@ -96,15 +96,16 @@ char* EncodeByte(char c, char* out) {
   return out;
 }
 
-// Bytes that are treated one by one between two looks for a plain run: escapes come in groups.
-constexpr std::size_t kFew = 16;
+// How many bytes are treated one by one before the next look for a plain run: escapes come in groups, and
+// behind a short run the next one is short as well.
+std::size_t FewBehind(std::size_t plain) { return plain < 8 ? 16 : 1; }
 
 char* Encode(std::string_view text, char* out) {
   while (!text.empty()) {
     const std::size_t plain = EncodePlain(text, out);
     out += plain;
     text.remove_prefix(plain);
-    const std::string_view few = text.substr(0, kFew);
+    const std::string_view few = text.substr(0, FewBehind(plain));
     for (const char c : few) out = EncodeByte(c, out);
     text.remove_prefix(few.size());
   }
@@ -124,7 +125,7 @@ char* Decode(std::string_view rest, char* out) {
     const std::size_t plain = DecodePlain(rest, out);
     out += plain;
     rest.remove_prefix(plain);
-    for (std::size_t count = 0; count < kFew && !rest.empty(); ++count) {
+    for (std::size_t few = FewBehind(plain); few > 0 && !rest.empty(); --few) {
       const char c = rest.front();
       const int escaped = c == '%' ? EscapedByte(rest) : -1;
       *out++ = escaped >= 0 ? static_cast<char>(escaped) : c == '+' ? ' ' : c;
