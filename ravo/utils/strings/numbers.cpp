@@ -1,4 +1,5 @@
 #include <ravo/runtime/integer_parse.h>
+#include <ravo/utils/strings/assemble.h>
 #include <ravo/utils/strings/numbers.h>
 #include <ravo/utils/strings/text_kind.h>
 
@@ -35,6 +36,11 @@ std::int32_t HexValue(View<Char> text, std::int32_t default_value) {
   std::size_t error = 0;
   const auto value = ReadDigits(text, 0, 16, std::uint32_t{0xFFFFFFFF}, error);
   return error == 0 ? static_cast<std::int32_t>(value) : default_value;
+}
+
+// There may be more zeros than the sixteen digits of the largest value.
+std::u16string PaddedHex(std::uint64_t value, int digits) {
+  return PadLeftW(ToHex(value, 1), static_cast<std::size_t>(std::max(digits, 0)), u'0');
 }
 
 // Digits are of ASCII.
@@ -106,12 +112,10 @@ std::string IntToStrA(std::int32_t value) { return Narrowed(IntToStrW(value)); }
 std::string IntToStrA(std::int64_t value) { return Narrowed(IntToStrW(value)); }
 
 std::u16string IntToHexW(std::int32_t value, int digits) {
-  const std::u16string text = ToHex(static_cast<std::uint32_t>(value), 1);
-  return std::u16string(std::max(digits - static_cast<int>(text.size()), 0), u'0') + text;
+  return PaddedHex(static_cast<std::uint32_t>(value), digits);
 }
 std::u16string IntToHexW(std::int64_t value, int digits) {
-  const std::u16string text = ToHex(static_cast<std::uint64_t>(value), 1);
-  return std::u16string(std::max(digits - static_cast<int>(text.size()), 0), u'0') + text;
+  return PaddedHex(static_cast<std::uint64_t>(value), digits);
 }
 std::string IntToHexA(std::int32_t value, int digits) { return Narrowed(IntToHexW(value, digits)); }
 std::string IntToHexA(std::int64_t value, int digits) { return Narrowed(IntToHexW(value, digits)); }
