@@ -144,7 +144,7 @@ std::basic_string<Char> RandomText(std::mt19937& random, std::size_t length, uns
 
 TEST(StrPosW, FindsWhatTheStandardLibraryFinds) {
   std::mt19937 random(7);
-  for (int round = 0; round < 20000; ++round) {
+  for (unsigned round = 0; round < 20000; ++round) {
     const auto text = RandomText<char16_t>(random, random() % 90, 2 + round % 3);
     const auto search = RandomText<char16_t>(random, 1 + random() % 6, 2 + round % 3);
     const std::size_t start = 1 + random() % 40;
