@@ -53,5 +53,11 @@ template <class Char>
   return _mm_or_si128(text, _mm_and_si128(upper, Everywhere(static_cast<Char>('a' - 'A'))));
 }
 
+/// Lanes of ones where a code unit is one of `low` to `high`.
+[[nodiscard]] inline __m128i LanesIn(__m128i units, char16_t low, char16_t high) noexcept {
+  const __m128i moved = _mm_add_epi16(units, Everywhere(static_cast<char16_t>(0x8000 - low)));
+  return _mm_cmpgt_epi16(Everywhere(static_cast<char16_t>(0x8000 + high - low + 1)), moved);
+}
+
 }  // namespace ravo::strings
 #endif
