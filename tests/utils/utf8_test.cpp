@@ -1,4 +1,5 @@
 #include "support/guarded_buffer.h"
+#include <ravo/runtime/error.h>
 #include <ravo/runtime/text.h>
 #include <ravo/utils/strings/utf8.h>
 
@@ -63,6 +64,19 @@ TEST(StrEncodeUtf8, Rows) {
   EXPECT_EQ(StrEncodeUtf8(u"\x7F\u0080\u07FF\u0800\uFFFF"), "\x7F\xC2\x80\xDF\xBF\xE0\xA0\x80\xEF\xBF\xBF");
   EXPECT_EQ(StrEncodeUtf8(u"\xD83D\xDE00"), "\xED\xA0\xBD\xED\xB8\x80");
   EXPECT_EQ(StrEncodeUtf8(u""), "");
+}
+TEST(StrEncodeUtf8, LongerThanOnePiece) {
+  for (const std::size_t size : {1023u, 1024u, 1025u, 5000u}) {
+    const std::u16string text = std::u16string(size, u'€').append(u"č");
+    const std::string bytes = StrEncodeUtf8(text);
+    ASSERT_EQ(bytes.size(), 3 * size + 2) << size;
+    ASSERT_EQ(bytes, ToUtf8(text)) << size;
+  }
+}
+TEST(StrEncodeUtf8, RaisesWhereTheWorstCaseCannotBeCounted) {
+  // The text is not read: there is none.
+  const std::u16string_view text(u"", std::numeric_limits<std::size_t>::max() / 3 + 1);
+  EXPECT_THROW(static_cast<void>(StrEncodeUtf8(text)), OverflowError);
 }
 TEST(BufEncodeUtf8, TakesAPointerAndALength) {
   EXPECT_EQ(BufEncodeUtf8(u"čx", 1), "\xC4\x8D");

@@ -1,4 +1,6 @@
 #include <ravo/utils/strings/find.h>
+#include <ravo/utils/strings/first_letters.h>
+#include <ravo/utils/strings/kernels.h>
 #include <ravo/utils/strings/vector.h>
 
 #include <algorithm>
@@ -9,21 +11,61 @@ namespace {
 
 #ifdef __SSE2__
 
+// Vectors with the characters that one character of a search text may stand for.
+template <class Fold, class Char>
+class Wanted {
+ public:
+  explicit Wanted(Char c) {
+    if constexpr (Fold::kIsExact) {
+      lanes_[0] = Everywhere(c);
+    } else {
+      const Variants<Char> variants = VariantsOf(c);
+      std::transform(variants.begin(), variants.end(), lanes_,
+                     [](Char variant) { return Everywhere(variant); });
+    }
+  }
+
+  __m128i In(const Char* text) const {
+    const __m128i units = LoadVector(text);
+    __m128i found = SameLanes<Char>(units, lanes_[0]);
+    for (std::size_t i = 1; i < kCount; ++i) found = _mm_or_si128(found, SameLanes<Char>(units, lanes_[i]));
+    return found;
+  }
+
+ private:
+  static constexpr std::size_t kCount = Fold::kIsExact ? 1 : std::tuple_size_v<Variants<Char>>;
+  __m128i lanes_[kCount];
+};
+
+template <class Fold>
+std::size_t PassOverByKernel(const char* text, const char* last_text, std::size_t places,
+                             const char (&ends)[2]) {
+  return Fold::kIsExact ? ChosenKernel().pass_over_bytes(text, last_text, places, ends) : 0;
+}
+template <class Fold>
+std::size_t PassOverByKernel(const char16_t* text, const char16_t* last_text, std::size_t places,
+                             const char16_t (&ends)[2]) {
+  return Fold::kIsExact ? ChosenKernel().pass_over_units(text, last_text, places, ends) : 0;
+}
+
 // Looks for the first and the last character of `search` at their distance, a vector of places at a time;
 // only where both stand it looks at what is between.
-template <class Char>
+template <class Fold, class Char>
 class Finder {
  public:
-  explicit Finder(View<Char> search)
-      : search_(search), first_(Everywhere(search.front())), last_(Everywhere(search.back())) {}
+  explicit Finder(View<Char> search) : search_(search), first_(search.front()), last_(search.back()) {}
 
   std::size_t In(View<Char> text, std::size_t from) const {
     const std::size_t places = text.size() - search_.size() + 1;
-    if (places - from < kLanes) return FindPlainly<Exact>(search_, text, from);
+    if (places - from < kLanes) return FindPlainly<Fold>(search_, text, from);
+    unsigned empty = 0;
     for (; places - from >= 2 * kLanes; from += 2 * kLanes) {
       const unsigned low = Candidates(text.data() + from);
       const unsigned high = Candidates(text.data() + from + kLanes);
-      if ((low | high) == 0) continue;
+      if ((low | high) == 0) {
+        if (++empty % kManyEmpty == 0) from += PassedOver(text, from + 2 * kLanes, places);
+        continue;
+      }
       if (const std::size_t at = Among(text, from, low); at != kNone) return at;
       if (const std::size_t at = Among(text, from + kLanes, high); at != kNone) return at;
     }
@@ -37,11 +79,20 @@ class Finder {
 
  private:
   static constexpr std::size_t kLanes = kVectorBytes / sizeof(Char);
+  // Behind so many vectors without a candidate there are likely to be more.
+  static constexpr unsigned kManyEmpty = 4;
+  // Fewer are not worth the call.
+  static constexpr std::size_t kManyPlaces = 16 * kLanes;
+
+  std::size_t PassedOver(View<Char> text, std::size_t from, std::size_t places) const {
+    if (!Fold::kIsExact || places - from < kManyPlaces) return 0;
+    const Char* const place = text.data() + from;
+    const Char ends[2] = {search_.front(), search_.back()};
+    return PassOverByKernel<Fold>(place, place + search_.size() - 1, places - from, ends);
+  }
 
   unsigned Candidates(const Char* place) const {
-    const __m128i first = SameLanes<Char>(LoadVector(place), first_);
-    const __m128i last = SameLanes<Char>(LoadVector(place + search_.size() - 1), last_);
-    return BitsOf(_mm_and_si128(first, last));
+    return BitsOf(_mm_and_si128(first_.In(place), last_.In(place + search_.size() - 1)));
   }
 
   // The first of the candidates, one bit per byte, that is a whole hit.
@@ -50,32 +101,34 @@ class Finder {
     while (candidates != 0) {
       const unsigned bit = LowestBit(candidates);
       const std::size_t at = from + bit / sizeof(Char);
-      if (search_.size() <= 2 || Between(text.data() + at)) return at;
+      if (IsHit(text.data() + at)) return at;
       candidates &= ~(kLane << bit);
     }
     return kNone;
   }
 
-  bool Between(const Char* place) const {
-    return SameUnits<Exact>(place + 1, search_.data() + 1, search_.size() - 2);
+  // Variants may be some too many, but a character that stands for itself alone is right.
+  bool IsHit(const Char* place) const {
+    if (!Fold::kIsExact) return SameUnits<Fold>(place, search_.data(), search_.size());
+    return search_.size() <= 2 || SameUnits<Exact>(place + 1, search_.data() + 1, search_.size() - 2);
   }
 
   View<Char> search_;
-  __m128i first_;
-  __m128i last_;
+  Wanted<Fold, Char> first_;
+  Wanted<Fold, Char> last_;
 };
 
-template <class Char>
+template <class Fold, class Char>
 std::size_t FindByVectors(View<Char> search, View<Char> text, std::size_t from) {
   if (search.empty() || from >= text.size() || search.size() > text.size() - from) return kNone;
-  return Finder<Char>(search).In(text, from);
+  return Finder<Fold, Char>(search).In(text, from);
 }
 
 #else
 
-template <class Char>
+template <class Fold, class Char>
 std::size_t FindByVectors(View<Char> search, View<Char> text, std::size_t from) {
-  return FindPlainly<Exact>(search, text, from);
+  return FindPlainly<Fold>(search, text, from);
 }
 
 #endif
@@ -104,16 +157,8 @@ View<char16_t> FoldedInto(std::array<char16_t, size>& buffer, View<char16_t> tex
   return {buffer.data(), text.size()};
 }
 
-}  // namespace
-
-std::size_t FindExactly(View<char> search, View<char> text, std::size_t from) noexcept {
-  return FindByVectors(search, text, from);
-}
-std::size_t FindExactly(View<char16_t> search, View<char16_t> text, std::size_t from) noexcept {
-  return FindByVectors(search, text, from);
-}
-
-std::size_t FindFolded(View<char16_t> search, View<char16_t> text, std::size_t from) noexcept {
+// For characters whose variants are not known: everything is folded, piece by piece.
+std::size_t FindInFolded(View<char16_t> search, View<char16_t> text, std::size_t from) {
   if (search.empty() || search.size() > kLongestFolded) return FindPlainly<Folded>(search, text, from);
   std::array<char16_t, kLongestFolded> search_buffer;
   std::array<char16_t, kPiece> buffer;
@@ -124,6 +169,27 @@ std::size_t FindFolded(View<char16_t> search, View<char16_t> text, std::size_t f
     if (at != kNone) return from + at;
   }
   return kNone;
+}
+
+template <class Char>
+bool AreEndsKnown(View<Char> search) {
+  return !search.empty() && AreVariantsKnown(search.front()) && AreVariantsKnown(search.back());
+}
+
+}  // namespace
+
+std::size_t FindExactly(View<char> search, View<char> text, std::size_t from) noexcept {
+  return FindByVectors<Exact>(search, text, from);
+}
+std::size_t FindExactly(View<char16_t> search, View<char16_t> text, std::size_t from) noexcept {
+  return FindByVectors<Exact>(search, text, from);
+}
+
+std::size_t FindFolded(View<char> search, View<char> text, std::size_t from) noexcept {
+  return FindByVectors<Folded>(search, text, from);
+}
+std::size_t FindFolded(View<char16_t> search, View<char16_t> text, std::size_t from) noexcept {
+  return AreEndsKnown(search) ? FindByVectors<Folded>(search, text, from) : FindInFolded(search, text, from);
 }
 
 }  // namespace ravo::strings

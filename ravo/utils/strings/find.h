@@ -23,17 +23,16 @@ template <class Fold, class Char>
 /// The same by vectors, where the processor this is compiled for has them.
 [[nodiscard]] std::size_t FindExactly(View<char> search, View<char> text, std::size_t from) noexcept;
 [[nodiscard]] std::size_t FindExactly(View<char16_t> search, View<char16_t> text, std::size_t from) noexcept;
-/// The same after case folding, which is done piece by piece in a buffer of fixed size.
+/// The same after case folding.
+[[nodiscard]] std::size_t FindFolded(View<char> search, View<char> text, std::size_t from) noexcept;
 [[nodiscard]] std::size_t FindFolded(View<char16_t> search, View<char16_t> text, std::size_t from) noexcept;
 
 template <class Fold, class Char>
 [[nodiscard]] std::size_t Find(View<Char> search, View<Char> text, std::size_t from) noexcept {
   if constexpr (Fold::kIsExact) {
     return FindExactly(search, text, from);
-  } else if constexpr (sizeof(Char) == sizeof(char16_t)) {
-    return FindFolded(search, text, from);
   } else {
-    return FindPlainly<Fold>(search, text, from);
+    return FindFolded(search, text, from);
   }
 }
 

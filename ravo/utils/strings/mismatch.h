@@ -28,20 +28,19 @@ template <class Fold, class Char>
   return ~BitsOf(SameLanes<Char>(here, there)) & 0xFFFF;
 }
 
-/// Lanes of ones where `upper` is an upper-case letter of Latin whose lower case is the next code: from U+0100
-/// to U+017E even codes, but odd ones where the pairs begin at one.
+/// Lanes of ones where `upper` is an upper-case letter of Latin whose lower case is the next code: from
+/// U+0100 to U+017E even codes, but odd ones where the pairs begin at one.
 [[nodiscard]] inline __m128i HaveLowerNext(__m128i upper) noexcept {
   const __m128i odd = _mm_srai_epi16(_mm_slli_epi16(upper, 15), 15);
   const __m128i begin_odd = _mm_or_si128(LanesIn(upper, 0x138, 0x148), LanesIn(upper, 0x178, 0x17E));
-  const __m128i letters = _mm_andnot_si128(SameLanes<char16_t>(upper, Everywhere(char16_t{0x130})),
-                                           LanesIn(upper, 0x100, 0x17E));
+  const __m128i letters =
+      _mm_andnot_si128(SameLanes<char16_t>(upper, Everywhere(char16_t{0x130})), LanesIn(upper, 0x100, 0x17E));
   return _mm_and_si128(letters, SameLanes<char16_t>(odd, begin_odd));
 }
 
 /// The same for letters of Latin-1 beyond ASCII, whose lower case is 32 codes behind.
 [[nodiscard]] inline __m128i HaveLowerBehind(__m128i upper) noexcept {
-  return _mm_andnot_si128(SameLanes<char16_t>(upper, Everywhere(char16_t{0xD7})),
-                          LanesIn(upper, 0xC0, 0xDE));
+  return _mm_andnot_si128(SameLanes<char16_t>(upper, Everywhere(char16_t{0xD7})), LanesIn(upper, 0xC0, 0xDE));
 }
 
 /// The same for UTF-16 after case folding: two units that differ fold alike where the lower code is an
@@ -55,8 +54,8 @@ template <>
   const __m128i upper = _mm_min_epi16(here, there);
   const __m128i distance = _mm_sub_epi16(_mm_max_epi16(here, there), upper);
   const __m128i is_far = SameLanes<char16_t>(distance, Everywhere(u' '));
-  const __m128i ascii = _mm_or_si128(SameLanes<char16_t>(here, there),
-                                     _mm_and_si128(is_far, LanesIn(upper, u'A', u'Z')));
+  const __m128i ascii =
+      _mm_or_si128(SameLanes<char16_t>(here, there), _mm_and_si128(is_far, LanesIn(upper, u'A', u'Z')));
   const unsigned different = ~BitsOf(ascii) & 0xFFFF;
   if (different == 0) return 0;
   const __m128i is_next = SameLanes<char16_t>(distance, Everywhere(char16_t{1}));

@@ -1,10 +1,12 @@
 #include <ravo/runtime/text.h>
+#include <ravo/utils/strings/in_pieces.h>
 #include <ravo/utils/strings/text_kind.h>
 #include <ravo/utils/strings/url.h>
 #include <ravo/utils/strings/vector.h>
 
 #include <array>
 #include <cstdint>
+#include <cstring>
 
 namespace ravo::DIUtils {
 namespace {
@@ -14,22 +16,46 @@ using strings::Code;
 constexpr std::string_view kHexDigits = "0123456789ABCDEF";
 constexpr std::string_view kPlain = "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz@*-._";
 
-constexpr std::array<bool, 256> PlainBytes() {
-  std::array<bool, 256> plain{};
-  for (const char c : kPlain) plain[Code(c)] = true;
-  return plain;
+// What a byte becomes, and how many bytes that is. Four bytes, which are written at once.
+struct Escape {
+  char bytes[3];
+  std::uint8_t size;
+};
+static_assert(sizeof(Escape) == 4);
+
+constexpr Escape EscapeOf(unsigned byte) {
+  const auto c = static_cast<char>(byte);
+  if (c == ' ') return {{'+', 0, 0}, 1};
+  if (kPlain.find(c) != std::string_view::npos) return {{c, 0, 0}, 1};
+  return {{'%', kHexDigits[byte >> 4], kHexDigits[byte & 15]}, 3};
 }
 
-constexpr std::array<std::int8_t, 256> HexValues() {
-  std::array<std::int8_t, 256> values{};
+constexpr std::array<Escape, 256> Escapes() {
+  std::array<Escape, 256> escapes{};
+  for (unsigned byte = 0; byte < escapes.size(); ++byte) escapes[byte] = EscapeOf(byte);
+  return escapes;
+}
+
+// Where a byte is no digit; digits leave these bits alone.
+constexpr unsigned kNoDigit = 0x100;
+
+constexpr std::array<std::uint16_t, 256> DigitValues(unsigned weight) {
+  std::array<std::uint16_t, 256> values{};
   for (unsigned byte = 0; byte < values.size(); ++byte) {
-    values[byte] = static_cast<std::int8_t>(HexDigitValue(static_cast<char16_t>(byte)));
+    const int digit = HexDigitValue(static_cast<char16_t>(byte));
+    values[byte] = static_cast<std::uint16_t>(digit < 0 ? kNoDigit : static_cast<unsigned>(digit) * weight);
   }
   return values;
 }
 
-constexpr std::array<bool, 256> kIsPlain = PlainBytes();
-constexpr std::array<std::int8_t, 256> kHexValue = HexValues();
+constexpr std::array<Escape, 256> kEscapes = Escapes();
+constexpr std::array<std::uint16_t, 256> kHighDigit = DigitValues(16);
+constexpr std::array<std::uint16_t, 256> kLowDigit = DigitValues(1);
+
+// Bytes that are looked at together.
+constexpr std::size_t kBlock = 16;
+// And one by one where escapes are close together.
+constexpr std::size_t kMany = 64;
 
 #ifdef __SSE2__
 
@@ -54,22 +80,18 @@ __m128i WithOneForAnother(__m128i text, __m128i lanes, char c) {
   return _mm_or_si128(_mm_andnot_si128(lanes, text), _mm_and_si128(lanes, Everywhere(c)));
 }
 
-// How many bytes from the front are plain or blanks; they are in `out` then, and something else behind them.
-std::size_t EncodePlain(std::string_view text, char* out) {
-  std::size_t at = 0;
-  for (; text.size() - at >= strings::kVectorBytes; at += strings::kVectorBytes) {
-    const __m128i bytes = LoadVector(text.data() + at);
-    const __m128i blanks = AreOne(bytes, ' ');
-    strings::StoreVector(out + at, WithOneForAnother(bytes, blanks, '+'));
-    const unsigned good = strings::BitsOf(_mm_or_si128(ArePlain(bytes), blanks));
-    if (good != 0xFFFF) return at + strings::LowestBit(~good);
-  }
-  return at;
+// Sixteen bytes that are plain or blanks; false where others are among them.
+bool EncodePlain(const char* text, char* out) {
+  const __m128i bytes = LoadVector(text);
+  const __m128i blanks = AreOne(bytes, ' ');
+  strings::StoreVector(out, WithOneForAnother(bytes, blanks, '+'));
+  return strings::BitsOf(_mm_or_si128(ArePlain(bytes), blanks)) == 0xFFFF;
 }
 
+// How many bytes from the front are no escapes, as far as whole blocks go; they are in `out` then.
 std::size_t DecodePlain(std::string_view text, char* out) {
   std::size_t at = 0;
-  for (; text.size() - at >= strings::kVectorBytes; at += strings::kVectorBytes) {
+  for (; text.size() - at >= kBlock; at += kBlock) {
     const __m128i bytes = LoadVector(text.data() + at);
     strings::StoreVector(out + at, WithOneForAnother(bytes, AreOne(bytes, '+'), ' '));
     const unsigned escapes = strings::BitsOf(AreOne(bytes, '%'));
@@ -80,68 +102,55 @@ std::size_t DecodePlain(std::string_view text, char* out) {
 
 #else
 
-std::size_t EncodePlain(std::string_view, char*) { return 0; }
+bool EncodePlain(const char*, char*) { return false; }
 std::size_t DecodePlain(std::string_view, char*) { return 0; }
 
 #endif
 
-char* EncodeByte(char c, char* out) {
-  if (kIsPlain[Code(c)] || c == ' ') {
-    *out++ = c == ' ' ? '+' : c;
-    return out;
+char* EncodeBytes(std::string_view text, char* out) {
+  for (const char c : text) {
+    const Escape& escape = kEscapes[Code(c)];
+    std::memcpy(out, &escape, sizeof escape);
+    out += escape.size;
   }
-  *out++ = '%';
-  *out++ = kHexDigits[Code(c) >> 4];
-  *out++ = kHexDigits[Code(c) & 15];
   return out;
 }
-
-// How many bytes are treated one by one before the next look for a plain run: escapes come in groups, and
-// behind a short run the next one is short as well.
-std::size_t FewBehind(std::size_t plain) { return plain < 8 ? 16 : 1; }
 
 char* Encode(std::string_view text, char* out) {
-  while (!text.empty()) {
-    const std::size_t plain = EncodePlain(text, out);
-    out += plain;
-    text.remove_prefix(plain);
-    const std::string_view few = text.substr(0, FewBehind(plain));
-    for (const char c : few) out = EncodeByte(c, out);
-    text.remove_prefix(few.size());
+  while (text.size() >= kBlock) {
+    out = EncodePlain(text.data(), out) ? out + kBlock : EncodeBytes(text.substr(0, kBlock), out);
+    text.remove_prefix(kBlock);
   }
-  return out;
+  return EncodeBytes(text, out);
 }
 
-// The byte that two digits stand for, negative where they are none.
-int EscapedByte(std::string_view rest) {
-  if (rest.size() < 3) return -1;
-  const int high = kHexValue[Code(rest[1])];
-  const int low = kHexValue[Code(rest[2])];
-  return high < 0 || low < 0 ? -1 : high * 16 + low;
+// What stands at `at`, which moves behind it.
+char DecodeOne(const char*& at, const char* end) {
+  const char c = *at++;
+  if (c != '%') return c == '+' ? ' ' : c;
+  const unsigned byte = end - at >= 2 ? kHighDigit[Code(at[0])] | kLowDigit[Code(at[1])] : kNoDigit;
+  if (byte >= kNoDigit) return c;
+  at += 2;
+  return static_cast<char>(byte);
 }
 
-char* Decode(std::string_view rest, char* out) {
-  while (!rest.empty()) {
-    const std::size_t plain = DecodePlain(rest, out);
+char* Decode(std::string_view text, char* out) {
+  const char* at = text.data();
+  const char* const end = at + text.size();
+  while (at != end) {
+    const std::size_t plain = DecodePlain({at, static_cast<std::size_t>(end - at)}, out);
+    at += plain;
     out += plain;
-    rest.remove_prefix(plain);
-    for (std::size_t few = FewBehind(plain); few > 0 && !rest.empty(); --few) {
-      const char c = rest.front();
-      const int escaped = c == '%' ? EscapedByte(rest) : -1;
-      *out++ = escaped >= 0 ? static_cast<char>(escaped) : c == '+' ? ' ' : c;
-      rest.remove_prefix(escaped >= 0 ? 3 : 1);
-    }
+    // Escapes come in groups: behind a short run the next one is short as well.
+    for (std::size_t few = plain < kBlock / 2 ? kMany : 1; few > 0 && at != end; --few)
+      *out++ = DecodeOne(at, end);
   }
   return out;
 }
 
 }  // namespace
 
-std::string StrEncodeUrlA(std::string_view text) {
-  std::string result(3 * text.size(), '\0');
-  result.resize(static_cast<std::size_t>(Encode(text, result.data()) - result.data()));
-  return result;
-}
+std::string StrEncodeUrlA(std::string_view text) { return strings::EncodedInPieces(text, Encode); }
 
 std::string StrDecodeUrlA(std::string_view text) {
   std::string result(text.size(), '\0');

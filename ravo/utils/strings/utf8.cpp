@@ -1,3 +1,5 @@
+#include <ravo/utils/strings/in_pieces.h>
+#include <ravo/utils/strings/kernels.h>
 #include <ravo/utils/strings/text_kind.h>
 #include <ravo/utils/strings/utf8.h>
 #include <ravo/utils/strings/utf8_kernels.h>
@@ -15,7 +17,8 @@ std::size_t BufCountUtf8Chars(const char* buffer, std::size_t length) noexcept {
 
 std::u16string StrDecodeUtf8(std::string_view bytes) {
   std::u16string text(bytes.size(), u'\0');
-  text.resize(static_cast<std::size_t>(strings::DecodeUtf8(bytes, text.data()) - text.data()));
+  text.resize(
+      static_cast<std::size_t>(strings::ChosenKernel().decode_utf8(bytes, text.data()) - text.data()));
   return text;
 }
 std::u16string BufDecodeUtf8(const char* buffer, std::size_t length) {
@@ -23,9 +26,7 @@ std::u16string BufDecodeUtf8(const char* buffer, std::size_t length) {
 }
 
 std::string StrEncodeUtf8(std::u16string_view text) {
-  std::string bytes(3 * text.size(), '\0');
-  bytes.resize(static_cast<std::size_t>(strings::EncodeUtf8(text, bytes.data()) - bytes.data()));
-  return bytes;
+  return strings::EncodedInPieces(text, strings::ChosenKernel().encode_utf8);
 }
 std::string BufEncodeUtf8(const char16_t* buffer, std::size_t length) {
   return StrEncodeUtf8(strings::Buffer(buffer, length));

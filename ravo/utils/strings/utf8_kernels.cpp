@@ -80,23 +80,6 @@ char* PutUtf8Unit(unsigned unit, char* out) noexcept {
   return out;
 }
 
-// The most frequent forms without detours: ASCII and two bytes that are well formed.
-char16_t* DecodeFew(std::string_view& bytes, char16_t* out) noexcept {
-  for (std::size_t count = 0; count < kFew && !bytes.empty(); ++count) {
-    const unsigned lead = Byte(bytes.front());
-    if (lead < 0x80) {
-      *out++ = static_cast<char16_t>(lead);
-      bytes.remove_prefix(1);
-    } else if (lead >= 0xC2 && lead < 0xE0 && bytes.size() > 1 && IsTrail(bytes[1])) {
-      *out++ = static_cast<char16_t>((lead & 0x1F) << 6 | (Byte(bytes[1]) & 0x3F));
-      bytes.remove_prefix(2);
-    } else {
-      *out++ = TakeUtf8Unit(bytes);
-    }
-  }
-  return out;
-}
-
 }  // namespace
 
 char16_t TakeUtf8Unit(std::string_view& rest) noexcept {
@@ -110,6 +93,23 @@ char16_t TakeUtf8Unit(std::string_view& rest) noexcept {
   if (!TakeTrails(rest, trails, value) || trails > 2) return kReplacement;
   const bool is_over_long = value < (trails == 1 ? 0x80U : 0x800U);
   return is_over_long ? kReplacement : static_cast<char16_t>(value);
+}
+
+// The most frequent forms without detours: ASCII and two bytes that are well formed.
+char16_t* DecodeFewUtf8(std::string_view& bytes, char16_t* out) noexcept {
+  for (std::size_t count = 0; count < kFew && !bytes.empty(); ++count) {
+    const unsigned lead = Byte(bytes.front());
+    if (lead < 0x80) {
+      *out++ = static_cast<char16_t>(lead);
+      bytes.remove_prefix(1);
+    } else if (lead >= 0xC2 && lead < 0xE0 && bytes.size() > 1 && IsTrail(bytes[1])) {
+      *out++ = static_cast<char16_t>((lead & 0x1F) << 6 | (Byte(bytes[1]) & 0x3F));
+      bytes.remove_prefix(2);
+    } else {
+      *out++ = TakeUtf8Unit(bytes);
+    }
+  }
+  return out;
 }
 
 char16_t* DecodeUtf8Plainly(std::string_view bytes, char16_t* out) noexcept {
@@ -127,7 +127,7 @@ char16_t* DecodeUtf8(std::string_view bytes, char16_t* out) noexcept {
     const std::size_t ascii = WidenAscii(bytes, out);
     bytes.remove_prefix(ascii);
     out += ascii;
-    out = DecodeFew(bytes, out);
+    out = DecodeFewUtf8(bytes, out);
   }
   return out;
 }

@@ -12,6 +12,8 @@ namespace ravo::strings {
 /// the plain reference; the second treats runs of ASCII by vectors.
 [[nodiscard]] char16_t* DecodeUtf8Plainly(std::string_view bytes, char16_t* out) noexcept;
 [[nodiscard]] char16_t* DecodeUtf8(std::string_view bytes, char16_t* out) noexcept;
+/// The first characters of `bytes`, sixteen at most, which are taken off.
+[[nodiscard]] char16_t* DecodeFewUtf8(std::string_view& bytes, char16_t* out) noexcept;
 
 /// Encodes into `out`, which has room for three bytes per unit; gives the end of what was written.
 /// Plainly and by vectors as above.
