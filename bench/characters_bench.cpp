@@ -40,6 +40,9 @@ void Register(const std::string& job, std::string_view name, const Units& units,
   });
 }
 
+// What a call costs that does nothing.
+[[gnu::noipa]] unsigned Nothing(char16_t c) { return c; }
+
 // Both ours and the rivals' are called as any program calls them: through the function.
 void RegisterJobs(const std::string& text, const Units& units) {
   using namespace ravo::DIUnicode;
@@ -56,6 +59,7 @@ void RegisterJobs(const std::string& text, const Units& units) {
   Register("class_" + text, "icu", units, [](char16_t c) { return u_getCombiningClass(c); });
   Register("class_" + text, "glib", units, [](char16_t c) { return g_unichar_combining_class(c); });
   Register("letter_" + text, ours, units, [](char16_t c) { return CharIsLetterW(c); });
+  Register("letter_" + text, "empty_call", units, [](char16_t c) { return Nothing(c); });
   Register("letter_" + text, "icu", units, [](char16_t c) { return u_isalpha(c); });
   Register("letter_" + text, "glib", units, [](char16_t c) { return g_unichar_isalpha(c); });
   Register("upper_case_" + text, ours, units, [](char16_t c) { return CharIsLetterUpperCaseW(c); });

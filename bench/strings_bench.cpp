@@ -220,6 +220,9 @@ int main(int argc, char** argv) {
   RegisterMask("file", u"faktura-2024-000123-verze9.pdf", u"*-2024-*verze?.pdf");
   RegisterMask("pieces", Repeated(kAscii, 4000), u"*fox*lazy*0042*dog*quick*");
   RegisterMask("hard", Text(4000, u'a'), u"*" + Text(2000, u'a') + u"b");
+  const Text middle = u"*" + Text(1000, u'a') + u"b" + Text(1000, u'a');
+  RegisterMask("hard_middle", Text(4000, u'a'), middle);
+  RegisterMask("hard_ones", Text(4000, u'a'), middle + u"?a*");
   RegisterReplace("many_hits", Repeated(kAscii, 65536), u"o");
   RegisterReplace("few_hits", Repeated(kAscii, 65536) + u"needle", u"needle");
   RegisterUtf8("ascii", Repeated(kAscii, 65536));

@@ -106,6 +106,7 @@ TEST(StrEncodeUrlA, RaisesWhereTheWorstCaseCannotBeCounted) {
   EXPECT_THROW(static_cast<void>(StrEncodeUrlA(text)), OverflowError);
 }
 
+TEST(StrTimUriFragmentA, KeepsItsName) { EXPECT_EQ(StrTimUriFragmentA("a#b"), "a"); }
 TEST(StrTimUriFragmentA, Rows) {
   EXPECT_EQ(StrTimUriFragmentA("http://x/y#z#w"), "http://x/y");
   EXPECT_EQ(StrTimUriFragmentA("http://x/y"), "http://x/y");

@@ -46,6 +46,10 @@ TEST(StrDecodeUtf8, FourBytesAndMoreGiveOneReplacement) {
   EXPECT_EQ(StrDecodeUtf8("a\xF0\x9F\x98\x80z"), u"a\uFFFDz");
   EXPECT_EQ(StrDecodeUtf8("\xF0\x80\x80\x80"), u"\uFFFD");
 }
+TEST(StrDecodeUtf8, SurrogatesAreTakenAsTheyAre) {
+  EXPECT_EQ(StrDecodeUtf8("\xED\xA0\x80z"), u"\xD800z");
+  EXPECT_EQ(StrDecodeUtf8("\xED\xA0\xBD\xED\xB8\x80"), u"\xD83D\xDE00");
+}
 TEST(BufDecodeUtf8, TakesAPointerAndALength) {
   EXPECT_EQ(BufDecodeUtf8("\xC4\x8Dx", 2), u"č");
   EXPECT_EQ(BufDecodeUtf8("\xC4\x8Dx", 1), u"\uFFFD");

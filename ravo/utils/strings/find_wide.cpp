@@ -1,6 +1,6 @@
 #include <ravo/utils/strings/find_wide.h>
 
-#if defined(__x86_64__) || defined(__i386__)
+#ifdef __SSE2__
 #include <cstdint>
 
 #include <immintrin.h>

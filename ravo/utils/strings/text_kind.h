@@ -3,6 +3,7 @@
 #include <ravo/unicode/characters/mapping_tables.h>
 
 #include <cstddef>
+#include <cstring>
 #include <string>
 #include <string_view>
 
@@ -53,7 +54,8 @@ template <class Fold, class Char>
 /// Whether two texts of one length are the same.
 template <class Fold, class Char>
 [[nodiscard]] bool SameUnits(const Char* left, const Char* right, std::size_t length) noexcept {
-  if constexpr (Fold::kIsExact) return std::char_traits<Char>::compare(left, right, length) == 0;
+  // What is long is worth a call; for UTF-16, the standard library's comparison goes one by one.
+  if (Fold::kIsExact && length > 16) return std::memcmp(left, right, length * sizeof(Char)) == 0;
   for (std::size_t i = 0; i < length; ++i) {
     if (!SameChar<Fold>(left[i], right[i])) return false;
   }

@@ -1,7 +1,7 @@
 #include <ravo/utils/strings/utf8_kernels.h>
 #include <ravo/utils/strings/utf8_shuffled.h>
 
-#if defined(__x86_64__) || defined(__i386__)
+#ifdef __SSE2__
 #include <ravo/utils/strings/vector.h>
 
 #include <array>
