@@ -91,7 +91,7 @@ Json Describe(char16_t c) {
 
 // "U+" and four hexadecimal digits, or the characters of the word itself.
 std::u16string Units(const std::string& word) {
-  const std::u16string text = ravo::FromUtf8(word);
+  std::u16string text = ravo::FromUtf8(word);
   if (!utils::StrSameStartI(text, u"U+") || text.size() < 3) return text;
   const std::int32_t code = utils::HexToIntW(std::u16string_view(text).substr(2));
   if (code < 0 || code > 0xFFFF) throw CLI::ValidationError("'" + word + "' is not from U+0000 to U+FFFF");
