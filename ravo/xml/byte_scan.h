@@ -22,7 +22,8 @@ inline constexpr std::size_t kReadAhead = 16;
   const __m128i twos = _mm_set1_epi8(two);
   for (;; at += 16) {
     const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
-    const int found = _mm_movemask_epi8(_mm_or_si128(_mm_cmpeq_epi8(bytes, ones), _mm_cmpeq_epi8(bytes, twos)));
+    const int found =
+        _mm_movemask_epi8(_mm_or_si128(_mm_cmpeq_epi8(bytes, ones), _mm_cmpeq_epi8(bytes, twos)));
     if (found != 0) return at + __builtin_ctz(static_cast<unsigned>(found));
   }
 #else

@@ -74,7 +74,8 @@ void TXMLTokenizer::CheckTokenSymbol(std::string_view S) const {
   ErrorFmt(kSymbolExpected, symbol);
 }
 
-// Kept: hexadecimal text is skipped and not decoded, because the member only keeps its place in the interface.
+// Kept: hexadecimal text is skipped and not decoded, because the member only keeps its place in the
+// interface.
 void TXMLTokenizer::HexToBinary(ByteStream& /*Stream*/) {
   SkipBlanks();
   NextToken();

@@ -141,6 +141,10 @@ std::u16string FakeMachine::FromCodePage(std::string_view bytes) const { return 
 
 std::string FakeMachine::ToCodePage(std::u16string_view text) const { return ToWindows1250(text); }
 
+bool FakeMachine::SameText(std::u16string_view left, std::u16string_view right) const {
+  return SameAsciiText(left, right);
+}
+
 std::optional<std::u16string_view> FakeMachine::ResourceText(platform::ModuleHandle module,
                                                              std::uint16_t id) const {
   const auto texts = resource_texts.find(module);

@@ -109,6 +109,7 @@ class FakeMachine final : public platform::Machine {
   [[nodiscard]] std::uint32_t CodePage() const override { return code_page; }
   [[nodiscard]] std::u16string FromCodePage(std::string_view bytes) const override;
   [[nodiscard]] std::string ToCodePage(std::u16string_view text) const override;
+  [[nodiscard]] bool SameText(std::u16string_view left, std::u16string_view right) const override;
   void DebugOutput(std::u16string_view text) const override { debug_output.emplace_back(text); }
   [[nodiscard]] std::optional<std::u16string_view> ResourceText(platform::ModuleHandle module,
                                                                 std::uint16_t id) const override;
