@@ -73,6 +73,8 @@ class FakeMachine final : public platform::Machine {
   /// Each `Now` takes the next reading; the last one repeats. The day zero where there is none.
   std::vector<DateTime> clock;
   std::uint32_t code_page = 1250;
+  /// Bytes that are other characters than in Windows-1250.
+  std::map<char, char16_t> other_bytes;
 
   std::map<platform::ModuleHandle, std::map<std::uint16_t, std::u16string>> resource_texts;
   /// What loading a file of resources gives.

@@ -11,8 +11,8 @@
 #include <string_view>
 #include <vector>
 
-/// The rules of the tree over plain values of UTF-16, step by step as they are told: a witness for the tree that
-/// keeps bytes.
+/// The rules of the tree over plain values of UTF-16, step by step as they are told: a witness for the tree
+/// that keeps bytes.
 namespace ravo::test::plain {
 
 inline std::u16string Escaped(std::u16string text) {
