@@ -8,6 +8,10 @@
 
 #include <benchmark/benchmark.h>
 
+#ifndef __OPTIMIZE__
+#error "Benchmarks measure optimised builds only"
+#endif
+
 /// Benchmarks that compare: each job runs on our routine and on its rivals in one run, and the run ends with
 /// a table of the medians and their ratios. Register with names of the form "job/ravo" and "job/rival" and
 /// let `RunWithRatios` be the whole of `main`.

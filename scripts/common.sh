@@ -20,7 +20,11 @@ fi
 
 ravo_cache="${RAVO_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/ravo}"
 wine32_root="$ravo_cache/wine32-bookworm"
-<<<<<<< HEAD
+jobs=${RAVO_JOBS:-$(nproc 2>/dev/null || echo 2)}
+
+# The distribution's Python before whatever shim the path has.
+python=/usr/bin/python3
+[ -x "$python" ] || python=python3
 
 # The package mirror that a Debian machine already uses; empty on any other.
 apt-mirror-of-this-machine() {
@@ -29,8 +33,3 @@ apt-mirror-of-this-machine() {
   sources=$(cat /etc/apt/sources.list /etc/apt/sources.list.d/*.list /etc/apt/sources.list.d/*.sources 2>/dev/null || true)
   sed -nE 's/^(deb (\[[^]]*\] )?|URIs: )(https?:[^ ]+).*/\3/p' <<<"$sources" | grep -v security | head -n 1 || true
 }
-
-jobs=$(nproc 2>/dev/null || echo 2)
-=======
-jobs=${RAVO_JOBS:-$(nproc 2>/dev/null || echo 2)}
->>>>>>> main

@@ -9,8 +9,8 @@ namespace {
 
 // The rows as they stand in the file: a title has no name, a caption has no group yet.
 constexpr auto kLines = std::to_array<CaptionRow>({
-#define RAVO_CAPTION_GROUP(title) {title, {}, {}},
-#define RAVO_STRING(name, id, text) {{}, #name, RavoInterfaceResources::name},
+#define RAVO_CAPTION_GROUP(prefix, title) {title, #prefix, {}, {}},
+#define RAVO_STRING(name, id, text) {{}, {}, #name, RavoInterfaceResources::name},
 #include <ravo/catalogue/captions.inc>
 #undef RAVO_STRING
 });
@@ -20,12 +20,12 @@ constexpr bool IsCaption(const CaptionRow& line) { return !line.name.empty(); }
 consteval auto MakeRows() {
   std::array<CaptionRow, std::ranges::count_if(kLines, IsCaption)> rows{};
   auto row = rows.begin();
-  std::string_view group;
+  CaptionRow group;
   for (const CaptionRow& line : kLines) {
     if (IsCaption(line)) {
-      *row++ = {group, line.name, line.text};
+      *row++ = {group.group, group.prefix, line.name, line.text};
     } else {
-      group = line.group;
+      group = line;
     }
   }
   return rows;

@@ -19,9 +19,11 @@ namespace RavoInterfaceResources {
 
 }  // namespace RavoInterfaceResources
 
-/// One caption or message with its name in the library and the title of the set that it belongs to.
+/// One caption or message with its name in the library, the title of the set that it belongs to, and what all
+/// names of that set begin with, such as `rPropertySazba`.
 struct CaptionRow {
   std::string_view group;
+  std::string_view prefix;
   std::string_view name;
   ResourceString text;
 };

@@ -84,7 +84,7 @@ inline constexpr ravo::detail::RoundingStep kHalves = ravo::detail::MakeRounding
 
 inline Currency RoundValue(Currency Value, TRoundType RoundType, std::int8_t Decimals) {
   const auto type = static_cast<std::size_t>(RoundType);
-  const auto decimals = static_cast<std::size_t>(Decimals);
+  const std::size_t decimals = static_cast<std::uint8_t>(Decimals);
   if (type < 3 && decimals < 4 && ravo::detail::TryRound(Value, detail::kSteps[decimals][type])) return Value;
   return detail::RoundValueOutOfLine(Value, RoundType, Decimals);
 }

@@ -2,6 +2,7 @@
 #include <ravo/frame/modules.h>
 #include <ravo/frame/package/description.h>
 #include <ravo/frame/project_version.h>
+#include <ravo/frame/unit_walk.h>
 #include <ravo/package.h>
 
 #include <algorithm>
@@ -96,15 +97,6 @@ const RavoPackageInfoTable* GetPackageInfoTable() {
   return &table;
 }
 
-void Initialize() {
-  for (const RavoPackageUnit& unit : ravo::frame::kUnits) {
-    if (unit.Initialize) unit.Initialize();
-  }
-}
+void Initialize() { ravo::frame::StartUnits(ravo::frame::kUnits); }
 
-void Finalize() {
-  const auto& units = ravo::frame::kUnits;
-  for (auto unit = units.rbegin(); unit != units.rend(); ++unit) {
-    if (unit->Finalize) unit->Finalize();
-  }
-}
+void Finalize() { ravo::frame::StopUnits(ravo::frame::kUnits); }

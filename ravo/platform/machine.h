@@ -1,6 +1,7 @@
 #pragma once
 
 #include <ravo/runtime/byte_stream.h>
+#include <ravo/runtime/component_factory.h>
 #include <ravo/runtime/date_time.h>
 #include <ravo/runtime/export.h>
 #include <ravo/runtime/format_settings.h>
@@ -124,6 +125,12 @@ class RAVO_API VersionResource {
 /// what the dynamic loader gives elsewhere.
 using ModuleHandle = void*;
 
+/// What the component runtime answers to a wish for an object: the object, or the code of a failure.
+struct ComponentAnswer {
+  ResultCode code = result_code::kClassNotRegistered;
+  ComponentPtr<IUnknown> instance;
+};
+
 /// The questions. Tests put another machine in the place of the real one.
 class RAVO_API Machine {
  public:
@@ -141,6 +148,8 @@ class RAVO_API Machine {
   /// temporary folder always ends in one); empty where there is none.
   [[nodiscard]] virtual std::u16string Folder(SystemFolder folder) const = 0;
   [[nodiscard]] virtual std::u16string ComputerName() const = 0;
+  /// The account that the process runs under; `GetUserNameW` on Windows, whose header defines a macro of that
+  /// question.
   [[nodiscard]] virtual std::u16string UserName() const = 0;
   [[nodiscard]] virtual MemoryFigures Memory() const = 0;
 
@@ -191,6 +200,19 @@ class RAVO_API Machine {
   /// Loads a module of resources; null where that fails.
   [[nodiscard]] virtual ModuleHandle LoadResources(std::u16string_view file) const = 0;
   virtual void UnloadResources(ModuleHandle module) const = 0;
+
+  // Components. On Windows the calling thread has initialised the component runtime for itself.
+  [[nodiscard]] virtual ComponentAnswer CreateComponent(const Guid& class_id) const = 0;
+  /// On the computer of that name.
+  [[nodiscard]] virtual ComponentAnswer CreateRemoteComponent(const Guid& class_id,
+                                                              std::u16string_view computer) const = 0;
+  /// Offers a class to this process until it is revoked by the number that `registration` receives. Answers
+  /// the platform's code.
+  [[nodiscard]] virtual ResultCode OfferComponent(const Guid& class_id, ComponentFactory factory,
+                                                  std::uint32_t& registration) const = 0;
+  virtual void RevokeComponent(std::uint32_t registration) const = 0;
+  /// The platform's words for one of its codes.
+  [[nodiscard]] virtual std::u16string ComponentErrorText(ResultCode code) const = 0;
 };
 
 /// The machine in force: the real one unless a test put another in its place.

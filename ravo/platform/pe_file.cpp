@@ -65,7 +65,7 @@ std::uint32_t ResourceAddressOf(const Bytes& optional_header) {
   const std::uint16_t magic = ReadLittle16(optional_header, 0);
   if (magic != 0x10B && magic != 0x20B) return 0;
   const std::size_t directories = magic == 0x20B ? 112 : 96;
-  const std::size_t wanted = directories + 8 * kResourceDirectory;
+  const std::size_t wanted = directories + std::size_t{8} * kResourceDirectory;
   if (optional_header.size() < wanted + 8) return 0;
   const std::uint32_t count = ReadLittle32(optional_header, directories - 4);
   return count > kResourceDirectory ? ReadLittle32(optional_header, wanted) : 0;

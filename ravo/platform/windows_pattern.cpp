@@ -6,8 +6,6 @@
 namespace ravo::platform {
 namespace {
 
-constexpr bool IsAsciiLetter(char16_t ch) { return AsciiLower(ch) >= u'a' && AsciiLower(ch) <= u'z'; }
-
 // There is no escape inside of quotes: a text that holds one kind of quote is written in pieces, each in the
 // other kind.
 void AppendLiteral(std::u16string& out, std::u16string_view text) {

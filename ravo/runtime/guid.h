@@ -65,7 +65,7 @@ struct RAVO_API Guid {
   [[nodiscard]] std::u16string ToText() const;
 
   friend constexpr bool operator==(const Guid&, const Guid&) = default;
-  friend constexpr auto operator<=>(const Guid&, const Guid&) = default;
+  friend constexpr auto operator<=>(const Guid&, const Guid&) = default;  // NOLINT(modernize-use-nullptr)
 
  private:
   static constexpr std::optional<Guid> FromBytes(

@@ -23,6 +23,11 @@ namespace ravo {
   return ch >= u'A' && ch <= u'Z' ? static_cast<char16_t>(ch + (u'a' - u'A')) : ch;
 }
 
+/// Whether `ch` is one of A to Z or a to z.
+[[nodiscard]] constexpr bool IsAsciiLetter(char16_t ch) noexcept {
+  return AsciiLower(ch) >= u'a' && AsciiLower(ch) <= u'z';
+}
+
 /// Whether two texts are equal when A to Z and a to z count as the same.
 [[nodiscard]] RAVO_API bool SameAsciiText(std::u16string_view left, std::u16string_view right) noexcept;
 

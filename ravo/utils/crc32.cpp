@@ -1,56 +1,45 @@
 #include <ravo/utils/crc32.h>
+#include <ravo/utils/crc32_kernels.h>
 
 #include <array>
+#include <atomic>
 
 namespace ravo {
+namespace utils {
 namespace {
 
-constexpr std::uint32_t kPolynomial = 0xEDB88320;
-constexpr std::size_t kSlices = 8;
+using Update = decltype(Crc32Kernel::update);
 
-using Tables = std::array<std::array<std::uint32_t, 256>, kSlices>;
+bool RunsEverywhere() noexcept { return true; }
 
-// Table 0 carries the register over one byte; table k does so for a byte that k more bytes follow.
-constexpr Tables MakeTables() {
-  Tables tables{};
-  for (std::uint32_t byte = 0; byte < 256; ++byte) {
-    std::uint32_t crc = byte;
-    for (int bit = 0; bit < 8; ++bit) crc = (crc >> 1) ^ ((crc & 1) != 0 ? kPolynomial : 0);
-    tables[0][byte] = crc;
-  }
-  for (std::size_t slice = 1; slice < kSlices; ++slice) {
-    for (std::size_t byte = 0; byte < 256; ++byte) {
-      const std::uint32_t before = tables[slice - 1][byte];
-      tables[slice][byte] = (before >> 8) ^ tables[0][before & 0xFF];
-    }
-  }
-  return tables;
-}
+constexpr std::array<Crc32Kernel, 3> kKernels = {{{"bytewise", UpdateCrc32Bytewise, RunsEverywhere},
+                                                  {"sliced", UpdateCrc32Sliced, RunsEverywhere},
+                                                  {"carryless", UpdateCrc32Carryless, CanMultiplyCarryless}}};
 
-constexpr Tables kTables = MakeTables();
+std::uint32_t ChooseAndUpdate(std::uint32_t crc, std::span<const std::byte> bytes) noexcept;
 
-std::uint32_t LittleEndian(std::span<const std::byte> four) {
-  std::uint32_t value = 0;
-  for (std::size_t i = 0; i < 4; ++i) value |= std::to_integer<std::uint32_t>(four[i]) << (8 * i);
-  return value;
-}
+// Two threads that come first together choose the same.
+constinit std::atomic<Update> chosen{ChooseAndUpdate};
 
-// Carries a register of four bytes over those bytes and `behind` more.
-std::uint32_t Slice(std::uint32_t four, std::size_t behind) {
-  return kTables[behind + 3][four & 0xFF] ^ kTables[behind + 2][(four >> 8) & 0xFF] ^
-         kTables[behind + 1][(four >> 16) & 0xFF] ^ kTables[behind][four >> 24];
+std::uint32_t ChooseAndUpdate(std::uint32_t crc, std::span<const std::byte> bytes) noexcept {
+  const Update update = CanMultiplyCarryless() ? UpdateCrc32Carryless : UpdateCrc32Sliced;
+  chosen.store(update, std::memory_order_relaxed);
+  return update(crc, bytes);
 }
 
 }  // namespace
 
+std::span<const Crc32Kernel> Crc32Kernels() noexcept { return kKernels; }
+
+ScopedCrc32Kernel::ScopedCrc32Kernel(const Crc32Kernel& kernel) noexcept
+    : previous_(chosen.exchange(kernel.update, std::memory_order_relaxed)) {}
+
+ScopedCrc32Kernel::~ScopedCrc32Kernel() { chosen.store(previous_, std::memory_order_relaxed); }
+
+}  // namespace utils
+
 std::uint32_t UpdateCrc32(std::uint32_t crc, std::span<const std::byte> bytes) noexcept {
-  for (; bytes.size() >= kSlices; bytes = bytes.subspan(kSlices)) {
-    crc = Slice(crc ^ LittleEndian(bytes), 4) ^ Slice(LittleEndian(bytes.subspan(4)), 0);
-  }
-  for (const std::byte byte : bytes) {
-    crc = (crc >> 8) ^ kTables[0][(crc ^ std::to_integer<std::uint32_t>(byte)) & 0xFF];
-  }
-  return crc;
+  return utils::chosen.load(std::memory_order_relaxed)(crc, bytes);
 }
 
 }  // namespace ravo

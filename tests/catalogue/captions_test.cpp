@@ -72,6 +72,12 @@ std::u16string_view Accelerator(std::u16string_view caption) {
   return mark == std::u16string_view::npos ? std::u16string_view() : caption.substr(mark + 1, 1);
 }
 
+TEST(Captions, BeginWithThePrefixOfTheirSet) {
+  for (const CaptionRow& row : CaptionRows()) {
+    EXPECT_TRUE(row.name.starts_with(row.prefix) && row.name.size() > row.prefix.size()) << row.name;
+  }
+}
+
 TEST(Captions, MarkTheirAccelerators) {
   struct Row {
     ResourceString caption;

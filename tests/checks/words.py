@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Words that have no place in this tree: papers outside it, numbers of a tracker, places of one machine, registries.
+"""Words that have no place in this tree: papers outside it, numbers of a tracker, places of one machine, registries,
+the marks of a merge that is not done.
 
 The patterns are written so that they do not match their own text: no file is exempt.
 """
@@ -15,6 +16,7 @@ PATTERNS = {
     "a number of a tracker": re.compile(r"\bissue[s]? #?\d+|\b(?:fixes|closes|see|resolves) #\d+", re.I),
     "a place of one machine": re.compile(r"(?<![\w$}.\"'-])/(?:wor[k]|far[m])/|(?<![\w$}.])/roo[t]/"),
     "somebody's home": re.compile(r"(?<![\w$}.])/hom[e]/\w+/"),
+    "a merge not done": re.compile(r"^(?:<{7}|>{7}) "),
     "a package registry": re.compile(
         r"\b(?:pypi[.]org|pythonhosted[.]org|npmjs[.](?:org|com)|crates[.]io|rubygems[.]org|deb[.]debian[.]org"
         r"|archive[.]ubuntu[.]com|conan[.]io|proxy[.]golang[.]org|hub[.]docker[.]com)\b", re.I
@@ -68,6 +70,7 @@ PLANTINGS = [
     ("the administrator's home", _planted("cd /roo", "t/x"), "a place"),
     ("a registry", _planted("https://pypi", ".org/simple"), "a package registry"),
     ("a mirror", {"scripts/setup": "deb http://deb.debian" + ".org/debian\n"}, "scripts/setup:1: a package registry"),
+    ("a merge", {"a.sh": "<" * 7 + " HEAD\n"}, "a merge not done"),
     ("a build tree", {"build/a.md": "/wor" + "k/x"}, None),
     ("bytes", {"a.bin": "\u00e9"}, None),
 ]

@@ -15,7 +15,7 @@ struct Row {
 
 // Every list that the library's string table is made from.
 constexpr Row kRows[] = {
-#define RAVO_CAPTION_GROUP(title)
+#define RAVO_CAPTION_GROUP(prefix, title)
 #define RAVO_STRING(name, id, text) {#name, id, u##text},
 #include <ravo/catalogue/captions.inc>
 #undef RAVO_STRING

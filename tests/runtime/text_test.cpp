@@ -79,5 +79,12 @@ TEST(Text, IntegersToDecimalAndHexadecimal) {
   EXPECT_EQ(ToHex(0x123456789, 8), u"123456789");
 }
 
+TEST(Text, AsciiLetters) {
+  for (const char16_t ch : {u'A', u'Z', u'a', u'z'}) EXPECT_TRUE(IsAsciiLetter(ch)) << int{ch};
+  for (const char16_t ch : {u'@', u'[', u'`', u'{', u'0', u' ', u'\0', u'č', u'\uFF21'}) {
+    EXPECT_FALSE(IsAsciiLetter(ch)) << int{ch};
+  }
+}
+
 }  // namespace
 }  // namespace ravo

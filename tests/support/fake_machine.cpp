@@ -174,4 +174,21 @@ platform::ModuleHandle FakeMachine::LoadResources(std::u16string_view file) cons
   return module ? *module : nullptr;
 }
 
+platform::ComponentAnswer FakeMachine::CreateComponent(const Guid& class_id) const {
+  const auto found = components.find(class_id);
+  platform::ComponentAnswer answer{component_code, nullptr};
+  if (found != components.end()) answer.code = MakeInstance(found->second, answer.instance);
+  return answer;
+}
+
+platform::ComponentAnswer FakeMachine::CreateRemoteComponent(const Guid& class_id,
+                                                             std::u16string_view computer) const {
+  return computer == remote_computer ? CreateComponent(class_id)
+                                     : platform::ComponentAnswer{result_code::kServerUnavailable, nullptr};
+}
+
+std::u16string FakeMachine::ComponentErrorText(ResultCode code) const {
+  return u"error " + ToHex(static_cast<std::uint32_t>(code), 8);
+}
+
 }  // namespace ravo::test

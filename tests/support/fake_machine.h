@@ -80,6 +80,12 @@ class FakeMachine final : public platform::Machine {
   /// What loading a file of resources gives.
   NameMap<platform::ModuleHandle> resource_files;
 
+  /// The objects of classes that this machine makes; the code for all other classes.
+  std::map<Guid, ComponentFactory> components;
+  ResultCode component_code = result_code::kClassNotRegistered;
+  /// The one computer that can be reached besides this one.
+  std::u16string remote_computer;
+
   /// What was sent to the debugger, and which resources were unloaded, in order.
   mutable std::vector<std::u16string> debug_output;
   mutable std::vector<platform::ModuleHandle> unloaded;
@@ -117,6 +123,16 @@ class FakeMachine final : public platform::Machine {
                                                                 std::uint16_t id) const override;
   [[nodiscard]] platform::ModuleHandle LoadResources(std::u16string_view file) const override;
   void UnloadResources(platform::ModuleHandle module) const override { unloaded.push_back(module); }
+  [[nodiscard]] platform::ComponentAnswer CreateComponent(const Guid& class_id) const override;
+  [[nodiscard]] platform::ComponentAnswer CreateRemoteComponent(const Guid& class_id,
+                                                                std::u16string_view computer) const override;
+  /// This machine offers what `components` says and nothing else.
+  [[nodiscard]] ResultCode OfferComponent(const Guid&, ComponentFactory, std::uint32_t&) const override {
+    return result_code::kNotImplemented;
+  }
+  void RevokeComponent(std::uint32_t) const override {}
+  /// "error" and the code.
+  [[nodiscard]] std::u16string ComponentErrorText(ResultCode code) const override;
 
  private:
   mutable std::size_t next_reading_ = 0;

@@ -44,8 +44,14 @@ TEST_F(Bios, SeveralTextsAreJoinedOnXpOnly) {
   EXPECT_EQ(Copyright(), u"AWARD 6.0");
   SetVersion(2, 5, 1);
   EXPECT_EQ(Copyright(), u"AWARD 6.0PCI 2.1");
-  SetVersion(2, 5, 0);
-  EXPECT_EQ(Copyright(), u"AWARD 6.0");
+  for (const auto& [major, minor] : {std::pair(5u, 0u), {5u, 2u}, {6u, 0u}, {6u, 1u}}) {
+    SetVersion(2, major, minor);
+    EXPECT_EQ(Copyright(), u"AWARD 6.0") << major << '.' << minor;
+  }
+  SetVersion(2, 5, 2);
+  machine.version.product_type = platform::ProductType::Workstation;
+  machine.architecture = platform::kArchitectureAmd64;
+  EXPECT_EQ(Copyright(), u"AWARD 6.0") << "on its 64-bit sibling";
 }
 
 TEST_F(Bios, TwoZerosEndTheTextsOnXp) {
@@ -74,7 +80,8 @@ TEST_F(Bios, TheFirstZeroEndsTheTextElsewhere) {
 // The 128th unit has only its lower half.
 TEST_F(Bios, ReadsAtMost255Bytes) {
   const std::u16string long_text(300, u'\u0141');
-  const std::u16string shown = std::u16string(127, u'\u0141') + u"A";
+  std::u16string shown(128, u'\u0141');
+  shown.back() = u'A';
   for (const std::uint32_t minor : {0u, 1u}) {
     SetVersion(2, 5, minor);
     SetBiosVersion(Stored(long_text));

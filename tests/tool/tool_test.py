@@ -8,10 +8,12 @@ Exits 77 where the emulator says that this machine cannot run the program.
 
 import json
 import pathlib
+import random
 import re
 import subprocess
 import sys
 import tempfile
+import zlib
 from dataclasses import dataclass
 from typing import Callable, Optional
 
@@ -29,6 +31,8 @@ class Row:
     err: tuple = ()
     # Gives a remark about what is wrong, or something false.
     holds: Optional[Callable[[str], object]] = None
+    # A no that is said on standard output alone.
+    silent: bool = False
 
 
 @dataclass
@@ -67,7 +71,9 @@ class Program:
             wrong.append("a carriage return in the output")
         if row.status == YES and result.err:
             wrong.append("something on standard error")
-        if row.status != YES and not result.err:
+        if row.silent and result.err:
+            wrong.append("something on standard error")
+        if row.status != YES and not row.silent and not result.err:
             wrong.append("nothing on standard error")
         if row.holds and (remark := row.holds(result.out)):
             wrong.append(str(remark))
@@ -116,10 +122,59 @@ def caption_groups(groups):
         return "the caption of receivables is another"
 
 
+def host_libraries(libraries):
+    counts = [(row["library"], len(row["interfaces"]), len(row["classes"])) for row in libraries]
+    if counts != [("RavoManager_TLB", 47, 0), ("RavoProfileInfo_TLB", 9, 9), ("RavoZip_TLB", 3, 1)]:
+        return f"the libraries are {counts}"
+    operations = sum(row["operations"] for library in libraries for row in library["interfaces"])
+    if operations != 902:
+        return f"{operations} operations"
+
+
+ZIP_LINES = (
+    "RavoZip_TLB\t{A823255B-9316-4AAB-89B7-01D520F12983}\n"
+    "\tIRavoZip\tdual\tIDispatch\t{904F0BB6-AB48-492D-BFF6-09A944EA24C9}\t78\n"
+)
+ZIPPER_LINES = (
+    "RavoZip_TLB\t{A823255B-9316-4AAB-89B7-01D520F12983}\n"
+    "\tCoRavoZipper\tclass\tIRavoZip\t{2FE78C5D-7DB0-46C4-9512-DAACCF23EBCE}\n"
+)
+
+SAMPLES = pathlib.Path(__file__).resolve().parents[2] / "samples"
+SAMPLE, SAMPLE_1250 = str(SAMPLES / "ledger.csv"), str(SAMPLES / "ledger-1250.csv")
+LEDGER = [argument for column in ("Účet MD=ucet", "VS=vs", "Protiúčet=banka") for argument in ("--column", column)]
+LEDGER_FAULTS = (
+    "line 18\tÚčet MD\t50\nline 59\tVS\t2026000579\nline 104\tProtiúčet\t19-2000145398/0800\nline 241\tVS\t20260024O7\n"
+    "300 rows\nÚčet MD (ucet): 299 valid, 1 not\nVS (vs): 268 valid, 2 not\nProtiúčet (banka): 237 valid, 1 not\n"
+)
+
+
+def drawn(seed, alphabet, count):
+    """The text that a Mersenne Twister seeded by the seed's bytes draws, from Python's own one."""
+    words = [19650218]
+    for i in range(1, 624):
+        words.append((1812433253 * (words[-1] ^ words[-1] >> 30) + i) & 0xFFFFFFFF)
+    keys, i, j = seed.encode(), 1, 0
+    for step in range(624 + 623):
+        before = words[i - 1] ^ words[i - 1] >> 30
+        if step < 624:
+            words[i] = ((words[i] ^ before * 1664525) + keys[j] + j) & 0xFFFFFFFF
+            j = (j + 1) % len(keys)
+        else:
+            words[i] = ((words[i] ^ before * 1566083941) - i) & 0xFFFFFFFF
+        i += 1
+        if i == 624:
+            words[0], i = words[623], 1
+    words[0] = 0x80000000
+    generator = random.Random()
+    generator.setstate((3, (*words, 624), None))
+    return "".join(alphabet[generator.getrandbits(32) % len(alphabet)] for _ in range(count)) + "\n"
+
+
 ROWS = [
     # The program as a whole.
     Row(["--version"], holds=lambda out: not re.fullmatch(r"ravo \d+\.\d+\.\d+\n", out)),
-    Row(["--help"], out=("report", "table", "captions", "Examples:")),
+    Row(["--help"], out=("report", "table", "captions", "hash", "random", "Examples:")),
     Row(["report", "--help"], out=("--business", "-o FILE", "Examples:")),
     Row(["table", "--help"], out=("--module", "--all", "Profil, RSS, DCF", "Examples:")),
     Row(["captions", "--help"], out=("--plain", "Examples:")),
@@ -160,6 +215,125 @@ ROWS = [
     Row(["captions", "--plain"], out=("65477\trPropertyDokladPZPohledavka\tPohledávka\n", "\tDodací list\n"), holds=without("&")),
     Row(["captions", "--json"], holds=as_json(caption_groups)),
     Row(["captions", "--plain", "--json"], out=("„Zaúčtovat do ÚD“",), holds=without("&")),
+    # Interfaces.
+    Row(["interfaces"], holds=lines(3 + 59 + 10),
+        out=("RavoManager_TLB\t{7CAEF350-8153-11D3-838D-0000E87DD3E0}\n\tIRavoProfile\tcustom\tIUnknown\t", "\tIRavoFirmEvents\tcustom\tIUnknown\t{E823B301-983E-11D3-83AE-0000E87DD3E0}\t0\n")),
+    Row(["interfaces", "--json"], holds=as_json(host_libraries)),
+    Row(["interfaces", "{904F0BB6-AB48-492D-BFF6-09A944EA24C9}"], exact=ZIP_LINES),
+    Row(["interfaces", "904f0bb6-ab48-492d-bff6-09a944ea24c9"], exact=ZIP_LINES),
+    Row(["interfaces", "904F0BB6AB48492DBFF609A944EA24C9"], exact=ZIP_LINES),
+    Row(["interfaces", "zipper"], exact=ZIPPER_LINES),
+    Row(["interfaces", "CORAVOZIPPER"], exact=ZIPPER_LINES),
+    Row(["interfaces", "{2fe78c5d-7db0-46c4-9512-daaccf23ebce}"], exact=ZIPPER_LINES),
+    Row(["interfaces", "{A823255B-9316-4AAB-89B7-01D520F12983}"], out=("\tIRavoZipEvents\t",), holds=lines(5)),
+    Row(["interfaces", "ravozip_tlb"], holds=lines(5)),
+    Row(["interfaces", "profileinfo"], holds=lines(3), out=("\tIRavoProfileInfo\t", "\tCoRavoProfileInformation\t")),
+    Row(["interfaces", "sessions"], holds=lines(2), out=("\tIRavoSessions\tdual\tIDispatch\t",)),
+    Row(["interfaces", "RavoBusinessDenik", "--json"],
+        holds=differs([{"library": "RavoManager_TLB", "identifier": "{7CAEF350-8153-11D3-838D-0000E87DD3E0}",
+                        "interfaces": [{"name": "IRavoBusinessDenik", "kind": "dual", "base": "IDispatch",
+                                        "identifier": "{8A399F91-5ECC-40AB-BD7C-B0F8C374DFFE}", "operations": 7}],
+                        "classes": []}])),
+    Row(["interfaces", "nonsense"], NO, exact="", err=("'nonsense'",)),
+    Row(["interfaces", "{904F0BB6-AB48-492D-BFF6-09A944EA24C8}"], NO, exact="", err=("24C8",)),
+    Row(["interfaces", "účet", "--json"], NO, exact="[]\n", err=("účet",)),
+    Row(["interfaces", "zip", "stray"], WRONG_USAGE),
+    Row(["interfaces", "--help"], out=("--json", "Examples:")),
+    # Checks.
+    Row(["check", "--help"], out=("--csv FILE", "--column NAME=KIND", "banka", "Examples:")),
+    Row(["check", "banka", "19-2000145399/0800"], exact="19-2000145399/0800\tvalid\n"),
+    Row(["check", "banka", "19-2000145399/0800", "1"], NO, silent=True, exact="19-2000145399/0800\tvalid\n1\tnot valid\n"),
+    Row(["check", "banka", "9" * 63], NO, silent=True, out=("not valid: too long",)),
+    Row(["check", "vs", "79927398713"], exact="79927398713\tvalid\n"),
+    Row(["check", "su", "311", "31a"], NO, silent=True, exact="311\tvalid\n31a\tnot valid\n"),
+    Row(["check", "au", ""], exact="\tvalid\n"),
+    Row(["check", "ucet", "311000"], exact="311000\tvalid\n"),
+    Row(["check", "ean", "4006381333931"], exact="4006381333931\tvalid\n"),
+    Row(["check", "ean", "4006381333932"], NO, silent=True, out=("wrong check digit, right: 4006381333931",)),
+    Row(["check", "ean", "400638133393", "--json"], NO, silent=True,
+        holds=differs([{"value": "400638133393", "valid": False, "remark": "without check digit, complete: 4006381333931"}])),
+    Row(["check"], WRONG_USAGE),
+    Row(["check", "banka"], WRONG_USAGE),
+    Row(["check", "konto", "1"], WRONG_USAGE, err=("'konto'", "ucet, su, au, banka, vs, ean")),
+    Row(["check", "--csv", "x"], WRONG_USAGE, err=("--column",)),
+    Row(["check", "--csv", "x", "--column", "VS"], WRONG_USAGE, err=("NAME=KIND",)),
+    Row(["check", "--csv", "chybí.csv", "--column", "VS=vs"], WRONG_USAGE, err=("chybí.csv", "cannot be read")),
+    Row(["check", "--csv", SAMPLE, "--column", "Firma=vs"], WRONG_USAGE, err=("ledger.csv: line 1", "'Firma'")),
+    Row(["check", "--csv", SAMPLE, "--column", "Doklad=vs", "--column", "Účet MD=ucet"], NO, silent=True,
+        out=("line 2\tDoklad\tFP26000001\n", "\n300 rows\n", "Účet MD (ucet): 299 valid, 1 not\n")),
+    Row(["check", "--csv", SAMPLE, *LEDGER, "--allow-empty"], NO, silent=True, exact=LEDGER_FAULTS),
+    Row(["check", "--csv", SAMPLE_1250, *LEDGER, "--allow-empty"], NO, silent=True, exact=LEDGER_FAULTS),
+    Row(["check", "--csv", SAMPLE, "--column", "EAN=ean", "--allow-empty", "--json"], NO, silent=True,
+        holds=as_json(lambda value: (value["rows"], len(value["bad"]), value["bad"][0]["line"]) != (300, 1, 167) and f"{value}")),
+    # Rounding.
+    Row(["round", "--help"], out=("--mode", "--decimals", "--dph", "Examples:")),
+    Row(["round", "1.234", "--mode", "up"], exact="1.234\t1.24\n"),
+    Row(["round", "--mode", "down", "--", "-1.239"], exact="-1.239\t-1.23\n"),
+    Row(["round", "-1.005", "1,005"], exact="-1.005\t-1.01\n1,005\t1.01\n"),
+    Row(["round", "12345.67", "--decimals", "-2"], exact="12345.67\t12300.00\n"),
+    Row(["round", "12,25", "--dph", "P"], exact="12,25\t12.50\n"),
+    Row(["round", "12.5", "--dph", "M", "--json"], holds=differs([{"amount": "12.50", "rounded": "13.00"}])),
+    Row(["round", "922337203685477.5807", "--decimals", "4"], NO, exact="", err=("leaves the range",)),
+    Row(["round", "1.23456"], WRONG_USAGE, err=("1.23456",)),
+    Row(["round", "x"], WRONG_USAGE),
+    Row(["round"], WRONG_USAGE),
+    Row(["round", "1", "--dph", "h"], WRONG_USAGE),
+    Row(["round", "1", "--dph", "H", "--decimals", "1"], WRONG_USAGE),
+    Row(["round", "1", "--decimals", "15"], WRONG_USAGE),
+    # Dates.
+    Row(["date", "--help"], out=("--month", "--year", "Examples:")),
+    Row(["date", "2011-01-31", "--month", "1"], out=("date\t20110228\n", "month-first\t20110201\n", "month-days\t28\n")),
+    Row(["date", "2011-01-31", "--month", "-2"], out=("date\t20101130\n",)),
+    Row(["date", "2012-02-29", "--year", "1"], out=("date\t20130228\n", "leap-year\tfalse\n")),
+    Row(["date", "2010-12-31 13:05:09.007"], out=("date-time\t20101231 13:05:09:007\n",)),
+    Row(["date", "2010-12-31T13:05"], out=("time\t13:05:00:000\n",)),
+    Row(["date", "0001-01-15", "--month", "-1"], NO, exact="", err=("1 to 9999",)),
+    Row(["date", "2011-02-29"], WRONG_USAGE, err=("2011-02-29",)),
+    Row(["date", "2011-01-31x"], WRONG_USAGE),
+    Row(["date", "2011-01-31 13"], WRONG_USAGE),
+    Row(["date"], WRONG_USAGE),
+    Row(["date", "2024-03-29"], out=("julian-day\t2460399\n", "weekday\tFriday\n", "iso-week\t2024-W13\n", "easter\t20240331\n", "holiday\ttrue\n")),
+    Row(["date", "2021-01-03"], out=("iso-week\t2020-W53\n", "weekday\tSunday\n")),
+    Row(["date", "2021-01-04"], out=("iso-week\t2021-W01\n", "holiday\tfalse\n")),
+    Row(["date", "0001-01-01"], out=("iso-week\t0001-W01\n", "julian-day\t1721426\n")),
+    Row(["date", "9999-12-31"], out=("iso-week\t9999-W52\n", "julian-day\t5373484\n")),
+    Row(["date", "2024-06-15", "--holidays"], out=(
+        "holidays\t20240101 20240329 20240401 20240501 20240509 20240520 20241003 20241224 20241225 20241226 20241231\n",)),
+    Row(["date", "2024-06-15"], holds=without("holidays")),
+    Row(["date", "2024-03-29", "--json", "--holidays"], holds=as_json(lambda facts: (
+        facts["julian-day"], facts["iso-week"], facts["holiday"], len(facts["holidays"])) != (2460399, "2024-W13", True, 11) and "other facts")),
+    Row(["date", "2024-03-29", "--calendar"], exact=(
+        "March 2024\n    Mo  Tu  We  Th  Fr  Sa  Su\n 9                   1   2   3*\n10   4   5   6   7   8   9  10*\n"
+        "11  11  12  13  14  15  16  17*\n12  18  19  20  21  22  23  24*\n13  25  26  27  28 [29] 30  31*\n")),
+    Row(["date", "2023-12-31", "--month", "1", "--calendar"], out=("January 2024\n", " 1   1*  2 ", " 5  29  30 [31]\n")),
+    Row(["date", "2021-01-31", "--calendar"], out=("January 2021\n", "53                   1*  2   3*\n", " 4  25  26  27  28  29  30 [31]\n")),
+    Row(["date", "2024-03-29", "--calendar", "--json"], WRONG_USAGE),
+    # Random texts: what the generator of Python draws from the same keys.
+    Row(["random", "--seed", "seed", "--count", "20", "--alphabet", "abcdefg"], exact=drawn("seed", "abcdefg", 20)),
+    Row(["random", "--seed", "sůl", "--alphabet", "áčď", "--count", "50"], exact=drawn("sůl", "áčď", 50)),
+    Row(["random", "--seed", "x", "--count", "0"], exact="\n"),
+    Row(["random", "--seed", "x"], holds=lambda out: not re.fullmatch(r"[A-Za-z0-9]{16}\n", out)),
+    Row(["random"], WRONG_USAGE),
+    Row(["random", "--seed", ""], WRONG_USAGE, err=("the seed is empty",)),
+    Row(["random", "--seed", "x", "--alphabet", ""], WRONG_USAGE, err=("the alphabet is empty",)),
+    Row(["random", "--seed", "x", "--alphabet", "a😀"], WRONG_USAGE, err=("beyond U+FFFF",)),
+    Row(["random", "--seed", "x", "--count", "-1"], WRONG_USAGE),
+    # Sums of files; more of them below.
+    Row(["hash", "--help"], out=("crc32, hash, hash-ia", "--check", "--all", "Examples:")),
+    Row(["hash", "crc32"], WRONG_USAGE),
+    Row(["hash"], WRONG_USAGE),
+    Row(["hash", "md5", "x"], WRONG_USAGE, err=("crc32, hash, hash-ia",)),
+    Row(["hash", "crc32", "missing"], WRONG_USAGE, exact="", err=("missing: cannot be read",)),
+    Row(["hash", "crc32", "."], WRONG_USAGE, exact="", err=(".: cannot be read",)),
+    Row(["hash", "crc32", "--check", "missing"], WRONG_USAGE, exact="", err=("missing: cannot be read",)),
+    # Addresses and backup names.
+    Row(["address", "Nádražní 1234/5", "Dlouhá 12a", "Na Příkopě XIV"],
+        exact="Nádražní\t1234/5\nDlouhá 12a\t\nNa Příkopě\tXIV\n"),
+    Row(["address", "Lipová 7", "--json"], holds=differs([{"address": "Lipová 7", "street": "Lipová", "number": "7"}])),
+    Row(["address"], WRONG_USAGE),
+    Row(["backup-name", "%firma%.zip", "A/B: s.r.o."], exact="AB s.r.o..zip\n"),
+    Row(["backup-name", "%DATUM%_%CAS%"], holds=lambda out: not re.fullmatch(r"\d{6}_\d{6}\n", out)),
+    Row(["backup-name"], WRONG_USAGE),
     # The report.
     Row(["report"], out=("Informace o klientské vrstvě\n\tČasové informace\n\t\tAktuální datum: ", "\n\tSoubory\n\t\tVCL\n")),
     Row(["report", "--business"], out=("Informace o aplikační vrstvě\n\tČasové informace\n",)),
@@ -228,6 +402,45 @@ def check_report_file(program):
         yield f"report -o {name}: left {left} beside it"
 
 
+def check_sums(program):
+    """Sums of files of any size are zlib's, and a list of them checks until a file changes."""
+    contents = {"prázdný": b"", "check 1": b"123456789", "large": bytes(range(251)) * 3000}
+    for name, content in contents.items():
+        (program.folder / name).write_bytes(content)
+    result = program.run(["hash", "crc32", *contents])
+    wanted = "".join(f"{zlib.crc32(content):08X}  {name}\n" for name, content in contents.items())
+    if (result.status, result.out, result.err) != (YES, wanted, ""):
+        yield f"hash crc32: {result}"
+    labelled = program.run(["hash", "--all", "check 1"]).out
+    if labelled != "CRC32 (check 1) = CBF43926\nHASH (check 1) = 4BF83526\nHASH-IA (check 1) = 4BF83526\n":
+        yield f"hash --all: {labelled!r}"
+    if json.loads(program.run(["hash", "--all", "--json", "large"]).out)[0]["crc32"] != zlib.crc32(contents["large"]):
+        yield "hash --json: another sum"
+    sums = program.folder / "list.sum"
+    all_right = "".join(f"{name}: OK\n" for name in contents)
+    for text in (wanted, wanted.lower().replace("  ", " *"), "# sums\n\n" + wanted.replace("\n", "\r\n")):
+        sums.write_text(text, encoding="utf-8", newline="")
+        result = program.run(["hash", "crc32", "--check", "list.sum"])
+        if (result.status, result.out, result.err) != (YES, all_right, ""):
+            yield f"hash --check {text!r}: {result}"
+    sums.write_text(labelled + "nonsense\n", encoding="utf-8")
+    result = program.run(["hash", "--check", "list.sum"])
+    if (result.status, result.out) != (NO, "check 1: OK\n" * 3) or "1 lines are no sums" not in result.err:
+        yield f"hash --check with a line too many: {result}"
+    sums.write_text(wanted + "CBF43926  gone\n", encoding="utf-8")
+    (program.folder / "check 1").write_bytes(b"123456788")
+    result = program.run(["hash", "crc32", "--check", "list.sum"])
+    if result.status != NO or result.out != "prázdný: OK\ncheck 1: FAILED\nlarge: OK\ngone: FAILED open or read\n":
+        yield f"hash --check after a change: {result}"
+    if "1 sums do NOT match" not in result.err or "1 listed files could not be read" not in result.err:
+        yield f"hash --check after a change: {result.err!r}"
+    sums.write_text("nonsense\n", encoding="utf-8")
+    if program.run(["hash", "crc32", "--check", "list.sum"]).status != WRONG_USAGE:
+        yield "hash --check without a sum: no failure"
+    for name in (*contents, "list.sum"):
+        (program.folder / name).unlink()
+
+
 def check_full_device(program):
     """Output that cannot be written is no success."""
     if len(program.command) > 1 or not pathlib.Path("/dev/full").exists():
@@ -242,10 +455,28 @@ def check_full_device(program):
         yield "report -o /dev/full: the device is gone"
 
 
+def check_damaged_files(program):
+    """A file that is no table names the line at which it stops being one."""
+    file = program.folder / "účty.csv"
+    for content, told in (
+        (b'VS\n1\n"2', "line 3: a quote is never closed"),
+        (b'VS;X\n"0"0;1\n', "line 2: text behind a closing quote"),
+        (b"VS;X\n0;1\n0;1;2\n", "line 3: 3 fields, not 2"),
+        (b"", "no first row"),
+    ):
+        file.write_bytes(content)
+        row = Row(["check", "--csv", file.name, "--column", "VS=vs"], WRONG_USAGE, exact="", err=(file.name, told))
+        yield from program.failures(row)
+    file.write_bytes(b"VS,X\r\n0,\"a\r\nb\"\r\n1,c\r\n")
+    yield from program.failures(
+        Row(["check", "--csv", file.name, "--column", "VS=vs"], NO, silent=True, out=("line 4\tVS\t1\n", "2 rows\n")))
+    file.unlink()
+
+
 def tested(program):
     for row in ROWS:
         yield from program.failures(row)
-    for check in (check_report_json, check_report_file, check_full_device):
+    for check in (check_report_json, check_report_file, check_sums, check_full_device, check_damaged_files):
         yield from check(program)
 
 

@@ -1,6 +1,9 @@
 #include "support/guarded_buffer.h"
 #include <ravo/utils/crc32.h>
+#include <ravo/utils/crc32_kernels.h>
 
+#include <random>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -26,7 +29,25 @@ std::vector<std::byte> Pattern(std::size_t count) {
   return bytes;
 }
 
-TEST(Crc32, KnownValues) {
+std::vector<std::byte> RandomBytes(std::size_t count) {
+  std::mt19937 random(20240331);
+  std::vector<std::byte> bytes(count);
+  for (std::byte& byte : bytes) byte = static_cast<std::byte>(random());
+  return bytes;
+}
+
+// Every test on every kernel, through the one function that the library calls.
+class Crc32OfKernel : public ::testing::TestWithParam<utils::Crc32Kernel> {
+ protected:
+  void SetUp() override {
+    if (!GetParam().runs_here()) GTEST_SKIP() << "this processor has no such instructions";
+  }
+
+ private:
+  utils::ScopedCrc32Kernel forced_{GetParam()};
+};
+
+TEST_P(Crc32OfKernel, KnownValues) {
   EXPECT_EQ(Crc32(BytesOf("")), 0u);
   EXPECT_EQ(Crc32(BytesOf("123456789")), 0xCBF43926u);
   EXPECT_EQ(Crc32(BytesOf("The quick brown fox jumps over the lazy dog")), 0x414FA339u);
@@ -34,8 +55,8 @@ TEST(Crc32, KnownValues) {
   EXPECT_EQ(Crc32(Pattern(1000)), 0x721746A6u);
 }
 
-TEST(Crc32, IsTheDefinitionAtEveryLengthAndAlignment) {
-  const test::GuardedBuffer buffer(Pattern(300));
+TEST_P(Crc32OfKernel, IsTheDefinitionAtEveryLengthAndAlignment) {
+  const test::GuardedBuffer buffer(Pattern(600));
   for (std::size_t start = 0; start <= buffer.Bytes().size(); ++start) {
     const auto bytes = buffer.Bytes().subspan(start);
     EXPECT_EQ(UpdateCrc32(kCrc32Start, bytes), PlainUpdate(kCrc32Start, bytes)) << start;
@@ -43,13 +64,68 @@ TEST(Crc32, IsTheDefinitionAtEveryLengthAndAlignment) {
   }
 }
 
-TEST(Crc32, PiecesGiveWhatTheWholeGives) {
-  const std::vector<std::byte> bytes = Pattern(64);
+// Starts that are not aligned, without a byte to spare behind the end.
+TEST_P(Crc32OfKernel, ReadsNoByteTooMany) {
+  const std::vector<std::byte> bytes = RandomBytes(300);
+  for (std::size_t count = 0; count <= bytes.size(); ++count) {
+    const auto front = std::span(bytes).first(count);
+    const test::GuardedBuffer buffer(front);
+    ASSERT_EQ(UpdateCrc32(7, buffer.Bytes()), PlainUpdate(7, front)) << count;
+  }
+}
+
+// Each bit of a long text tells: the checksum is linear, so that this checks all texts of that length.
+TEST_P(Crc32OfKernel, EveryBitOfATextCounts) {
+  constexpr std::size_t kCount = 333;
+  std::vector<std::byte> bytes(kCount);
+  for (std::size_t bit = 0; bit < 8 * kCount; ++bit) {
+    bytes[bit / 8] = static_cast<std::byte>(1u << bit % 8);
+    ASSERT_EQ(UpdateCrc32(0, bytes), PlainUpdate(0, bytes)) << bit;
+    bytes[bit / 8] = std::byte{0};
+  }
+}
+
+TEST_P(Crc32OfKernel, LongTexts) {
+  const std::vector<std::byte> bytes = RandomBytes(1 << 20);
+  for (const std::size_t count : {4095u, 4096u, 4097u, 65535u, 1u << 20})
+    EXPECT_EQ(UpdateCrc32(kCrc32Start, std::span(bytes).last(count)),
+              PlainUpdate(kCrc32Start, std::span(bytes).last(count)))
+        << count;
+}
+
+TEST_P(Crc32OfKernel, PiecesGiveWhatTheWholeGives) {
+  const std::vector<std::byte> bytes = Pattern(300);
   const std::uint32_t whole = UpdateCrc32(kCrc32Start, bytes);
   for (std::size_t at = 0; at <= bytes.size(); ++at) {
     const std::uint32_t front = UpdateCrc32(kCrc32Start, std::span(bytes).first(at));
     EXPECT_EQ(UpdateCrc32(front, std::span(bytes).subspan(at)), whole) << at;
   }
+}
+
+INSTANTIATE_TEST_SUITE_P(Kernels, Crc32OfKernel,
+                         ::testing::ValuesIn(utils::Crc32Kernels().begin(), utils::Crc32Kernels().end()),
+                         [](const auto& kernel) { return std::string(kernel.param.name); });
+
+TEST(Crc32Kernels, BeginWithTheReference) {
+  const auto kernels = utils::Crc32Kernels();
+  ASSERT_EQ(kernels.size(), 3u);
+  EXPECT_EQ(kernels[0].name, "bytewise");
+  EXPECT_EQ(kernels[1].name, "sliced");
+  EXPECT_EQ(kernels[2].name, "carryless");
+  EXPECT_TRUE(kernels[0].runs_here());
+  EXPECT_TRUE(kernels[1].runs_here());
+}
+
+// A kernel that no other could be mistaken for.
+TEST(ScopedCrc32Kernel, ForcesAndReturns) {
+  constexpr utils::Crc32Kernel kOdd = {"odd",
+                                       [](std::uint32_t, std::span<const std::byte>) noexcept { return 42u; },
+                                       []() noexcept { return true; }};
+  {
+    const utils::ScopedCrc32Kernel forced(kOdd);
+    EXPECT_EQ(UpdateCrc32(kCrc32Start, BytesOf("123456789")), 42u);
+  }
+  EXPECT_EQ(~UpdateCrc32(kCrc32Start, BytesOf("123456789")), 0xCBF43926u);
 }
 
 }  // namespace

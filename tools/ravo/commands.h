@@ -14,7 +14,10 @@ void AddCaptionsCommand(CLI::App& program, Outcome& outcome);
 void AddCheckCommand(CLI::App& program, Outcome& outcome);
 void AddRoundCommand(CLI::App& program, Outcome& outcome);
 void AddDateCommand(CLI::App& program, Outcome& outcome);
+void AddHashCommand(CLI::App& program, Outcome& outcome);
+void AddRandomCommand(CLI::App& program, Outcome& outcome);
 void AddAddressCommand(CLI::App& program, Outcome& outcome);
 void AddBackupNameCommand(CLI::App& program, Outcome& outcome);
+void AddInterfacesCommand(CLI::App& program, Outcome& outcome);
 
 }  // namespace tool

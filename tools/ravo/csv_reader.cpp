@@ -7,8 +7,6 @@
 namespace tool {
 namespace {
 
-constexpr std::size_t kFirstBuffer = std::size_t{1} << 20;
-
 // The place of `byte` in text[from, to), or `to`.
 std::size_t Find(const char* text, char byte, std::size_t from, std::size_t to) {
   const void* found = from < to ? std::memchr(text + from, byte, to - from) : nullptr;
@@ -20,8 +18,8 @@ std::size_t Find(const char* text, char byte, std::size_t from, std::size_t to) 
 CsvError::CsvError(std::size_t line, const std::string& what)
     : std::runtime_error("line " + std::to_string(line) + ": " + what), line_(line) {}
 
-CsvReader::CsvReader(Source source, char delimiter)
-    : source_(std::move(source)), delimiter_(delimiter), buffer_(kFirstBuffer) {}
+CsvReader::CsvReader(Source source, char delimiter, std::size_t first_buffer)
+    : source_(std::move(source)), delimiter_(delimiter), buffer_(first_buffer) {}
 
 // Keeps the bytes that belong to no row yet and reads behind them; a row that fills the whole buffer doubles
 // it, so a row is scanned again only as often as its length doubles.
@@ -93,37 +91,60 @@ CsvReader::Scan CsvReader::ScanQuoted(std::size_t& at, std::vector<std::string_v
   return Scan::Row;
 }
 
+// Closes the row that `line_end` ends, with as many line ends inside it as were counted.
+CsvReader::Scan CsvReader::EndRow(std::size_t line_end) {
+  line_ = next_line_;
+  next_line_ += scanned_lines_ + (line_end < end_ ? 1 : 0);
+  begin_ = std::min(line_end + 1, end_);
+  return Scan::Row;
+}
+
+// Where the text of a line ends whose line feed (or whose end of the file) stands at `line_end`.
+std::size_t CsvReader::TextEnd(std::size_t from, std::size_t line_end) const {
+  return line_end > from && buffer_[line_end - 1] == '\r' ? line_end - 1 : line_end;
+}
+
+// A row without quotes, which most are: nothing but delimiters to look for.
+CsvReader::Scan CsvReader::SplitLine(std::size_t line_end, std::vector<std::string_view>& fields) {
+  const char* text = buffer_.data();
+  const std::size_t text_end = TextEnd(begin_, line_end);
+  for (std::size_t at = begin_;; ++at) {
+    const std::size_t field_end = Find(text, delimiter_, at, text_end);
+    fields.emplace_back(text + at, field_end - at);
+    at = field_end;
+    if (at == text_end) return EndRow(line_end);
+  }
+}
+
+// Takes one field and leaves `at` behind its delimiter, or behind the end of its line. `line_end` is the end
+// of the line that was looked at last; a quoted field may lead into another.
+CsvReader::Scan CsvReader::ScanField(std::size_t& at, std::vector<std::string_view>& fields,
+                                     std::size_t& line_end) {
+  const bool quoted = at < end_ && buffer_[at] == '"';
+  const std::size_t first = at;
+  if (quoted && ScanQuoted(at, fields) == Scan::NeedsMore) return Scan::NeedsMore;
+  if (line_end < at) line_end = Find(buffer_.data(), '\n', at, end_);
+  if (line_end == end_ && !at_end_) return Scan::NeedsMore;
+  const std::size_t text_end = TextEnd(at, line_end);
+  const std::size_t field_end = Find(buffer_.data(), delimiter_, at, text_end);
+  if (quoted && field_end != at) throw CsvError(next_line_ + scanned_lines_, "text behind a closing quote");
+  if (!quoted) fields.emplace_back(buffer_.data() + first, field_end - first);
+  at = field_end < text_end ? field_end + 1 : line_end + 1;
+  return Scan::Row;
+}
+
 CsvReader::Scan CsvReader::ScanRow(std::vector<std::string_view>& fields) {
   fields.clear();
-  unescaped_.clear();
+  if (!unescaped_.empty()) unescaped_.clear();
   scanned_lines_ = 0;
-  std::size_t at = begin_;
-  std::size_t line_end = at;  // at or behind `at` once it was looked for
-  for (;;) {
-    if (at < end_ && buffer_[at] == '"') {
-      if (ScanQuoted(at, fields) == Scan::NeedsMore) return Scan::NeedsMore;
-    } else {
-      fields.emplace_back();
-    }
-    if (line_end <= at) line_end = Find(buffer_.data(), '\n', at, end_);
-    if (line_end == end_ && !at_end_) return Scan::NeedsMore;
-    const bool carriage_return = line_end > at && buffer_[line_end - 1] == '\r';
-    const std::size_t text_end = carriage_return ? line_end - 1 : line_end;
-    const std::size_t field_end = Find(buffer_.data(), delimiter_, at, text_end);
-    const bool was_quoted = fields.back().data() != nullptr;
-    if (was_quoted && field_end != at) {
-      throw CsvError(next_line_ + scanned_lines_, "text behind a closing quote");
-    }
-    if (!was_quoted) fields.back() = {buffer_.data() + at, field_end - at};
-    if (field_end < text_end) {
-      at = field_end + 1;
-      continue;
-    }
-    line_ = next_line_;
-    next_line_ += scanned_lines_ + (line_end < end_ ? 1 : 0);
-    begin_ = std::min(line_end + 1, end_);
-    return Scan::Row;
+  std::size_t line_end = Find(buffer_.data(), '\n', begin_, end_);
+  if (line_end == end_ && !at_end_) return Scan::NeedsMore;
+  if (Find(buffer_.data(), '"', begin_, line_end) == line_end) return SplitLine(line_end, fields);
+  // Behind the line end stands the next row; a field may move that end.
+  for (std::size_t at = begin_; at <= line_end;) {
+    if (ScanField(at, fields, line_end) == Scan::NeedsMore) return Scan::NeedsMore;
   }
+  return EndRow(line_end);
 }
 
 bool CsvReader::Next(std::vector<std::string_view>& fields) {

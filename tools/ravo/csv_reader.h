@@ -30,8 +30,11 @@ class CsvReader {
   /// Fills the span with the next bytes and answers how many; 0 at the end.
   using Source = std::function<std::size_t(std::span<char>)>;
 
-  /// A delimiter of 0 takes ";" or ",", whichever the first line has more of.
-  CsvReader(Source source, char delimiter);
+  static constexpr std::size_t kFirstBuffer = std::size_t{1} << 20;
+
+  /// A delimiter of 0 takes ";" or ",", whichever the first line has more of. The buffer begins with
+  /// `first_buffer` bytes, at least 4, and grows with the longest row.
+  CsvReader(Source source, char delimiter, std::size_t first_buffer = kFirstBuffer);
 
   /// The next row's fields, which live until the next call; false at the end. Raises `CsvError` for a quote
   /// that is never closed and for text behind a closing quote.
@@ -50,6 +53,10 @@ class CsvReader {
   void Begin();
   [[nodiscard]] bool SkipEmptyLines();
   [[nodiscard]] Scan ScanRow(std::vector<std::string_view>& fields);
+  [[nodiscard]] Scan SplitLine(std::size_t line_end, std::vector<std::string_view>& fields);
+  [[nodiscard]] Scan ScanField(std::size_t& at, std::vector<std::string_view>& fields, std::size_t& line_end);
+  [[nodiscard]] Scan EndRow(std::size_t line_end);
+  [[nodiscard]] std::size_t TextEnd(std::size_t from, std::size_t line_end) const;
   [[nodiscard]] Scan ScanQuoted(std::size_t& at, std::vector<std::string_view>& fields);
   [[nodiscard]] std::string_view Unescaped(std::string_view quoted);
 

@@ -1,8 +1,12 @@
 #include "commands.h"
 #include "json_text.h"
+#include "month_sheet.h"
+#include <ravo/DIUtils.h>
 #include <ravo/RavoInterface.h>
 #include <ravo/RavoInterfaceCommon.h>
 
+#include <algorithm>
+#include <array>
 #include <cstdio>
 #include <memory>
 #include <optional>
@@ -12,11 +16,17 @@ namespace tool {
 namespace {
 
 namespace common = ravo::RavoInterfaceCommon;
+namespace utils = ravo::DIUtils;
+
+constexpr std::array<const char*, 7> kWeekdays = {"Monday", "Tuesday",  "Wednesday", "Thursday",
+                                                  "Friday", "Saturday", "Sunday"};
 
 struct DateOptions {
   std::string date;
   int month = 0;
   int year = 0;
+  bool calendar = false;
+  bool holidays = false;
   bool json = false;
 };
 
@@ -49,25 +59,70 @@ ravo::DateTime Moved(const DateOptions& options) {
   return date;
 }
 
+utils::TJulianDate JulianDateOf(const ravo::DateParts& parts) {
+  return utils::YmdToJulianDate(parts.year, static_cast<std::uint16_t>(parts.month),
+                                static_cast<std::uint16_t>(parts.day));
+}
+
+// "2024-W13": the year is the one that the week's Thursday lies in.
+std::string WeekText(utils::TJulianDate date) {
+  const std::int32_t year = utils::YearOfJuilanDate(utils::FirstDayOfWeek(date) + 3);
+  const std::string week = std::to_string(utils::ISOWeekNumber(date));
+  const std::string digits = std::to_string(year);
+  return std::string(4 - std::min<std::size_t>(4, digits.size()), '0') + digits + "-W" +
+         (week.size() < 2 ? "0" : "") + week;
+}
+
+// Every holiday of the year that is no Sunday.
+Json Holidays(std::int32_t year) {
+  constexpr std::int32_t kSunday = 6;
+  Json dates = Json::array();
+  const utils::TJulianDate last = utils::YmdToJulianDate(year, 12, 31);
+  for (utils::TJulianDate date = utils::YmdToJulianDate(year, 1, 1); date <= last; ++date) {
+    if (utils::DayOfWeek(date) != kSunday && utils::IsHolidayInGermany(date))
+      dates.push_back(utils::JulianDateToIsoDateA(date));
+  }
+  return dates;
+}
+
 Json Describe(ravo::DateTime date) {
   const ravo::DateParts parts = ravo::SplitDateTime(date).date;
   ravo::DateTime first = 0;
   ravo::DateTime last = 0;
   common::FirstLastDay(parts.year, parts.month, first, last);
+  const utils::TJulianDate day = JulianDateOf(parts);
   return {{"date", ravo::ToUtf8(common::DateToSQLString(date))},
           {"time", ravo::ToUtf8(common::TimeToSQLString(date))},
           {"date-time", ravo::ToUtf8(common::DateTimeToSQLString(date))},
           {"month-first", ravo::ToUtf8(common::DateToSQLString(first))},
           {"month-last", ravo::ToUtf8(common::DateToSQLString(last))},
           {"month-days", common::DaysPerMonth(parts.year, parts.month)},
-          {"leap-year", common::IsLeapYear(parts.year)}};
+          {"leap-year", common::IsLeapYear(parts.year)},
+          {"julian-day", day},
+          {"weekday", kWeekdays[static_cast<std::size_t>(utils::DayOfWeek(day))]},
+          {"iso-week", WeekText(day)},
+          {"easter", utils::JulianDateToIsoDateA(utils::EasterSunday(parts.year))},
+          {"holiday", utils::IsHolidayInGermany(day)}};
 }
 
-std::string Value(const Json& value) { return value.is_string() ? value.get<std::string>() : value.dump(); }
+// Lists are written with blanks between.
+std::string Value(const Json& value) {
+  if (!value.is_array()) return value.is_string() ? value.get<std::string>() : value.dump();
+  std::string text;
+  for (const Json& item : value) text += (text.empty() ? "" : " ") + Value(item);
+  return text;
+}
 
 void Run(const DateOptions& options, Outcome& outcome) {
   try {
-    const Json facts = Describe(Moved(options));
+    const ravo::DateTime date = Moved(options);
+    const ravo::DateParts parts = ravo::SplitDateTime(date).date;
+    if (options.calendar) {
+      outcome.out = MonthSheet(parts);
+      return;
+    }
+    Json facts = Describe(date);
+    if (options.holidays) facts["holidays"] = Holidays(parts.year);
     if (options.json) {
       outcome.out = JsonText(facts);
       return;
@@ -80,14 +135,17 @@ void Run(const DateOptions& options, Outcome& outcome) {
 }
 
 constexpr const char* kFooter =
-    "Dates and times are shown as they are written into SQL statements.\n"
+    "Dates and times are shown as they are written into SQL statements. Holidays are those of the suite's\n"
+    "list, which has German ones; Easter is exact for 1900 to 2099.\n"
     "\n"
     "Exit status: 0, or 1 where a step leaves the years 1 to 9999, 2 wrong usage.\n"
     "\n"
     "Examples:\n"
     "  ravo date 2011-01-31 --month 1                     28 February\n"
     "  ravo date \"2010-12-31 13:05:09.007\"                20101231 13:05:09:007\n"
-    "  ravo date 2012-02-29 --year -1 --json\n";
+    "  ravo date 2012-02-29 --year -1 --json\n"
+    "  ravo date 2024-03-29 --calendar                    March 2024, week by week\n"
+    "  ravo date 2024-01-01 --holidays\n";
 
 }  // namespace
 
@@ -101,7 +159,11 @@ void AddDateCommand(CLI::App& program, Outcome& outcome) {
       ->check(CLI::Range(-120000, 120000));
   command->add_option("--year", options->year, "Years to step on, or back when negative")
       ->check(CLI::Range(-10000, 10000));
-  command->add_flag("--json", options->json, "Write JSON");
+  CLI::Option* calendar = command->add_flag("--calendar", options->calendar,
+                                            "Draw the month instead: the day in brackets, holidays with *");
+  command->add_flag("--holidays", options->holidays, "List the year's holidays that are no Sundays too")
+      ->excludes(calendar);
+  command->add_flag("--json", options->json, "Write JSON")->excludes(calendar);
   command->footer(kFooter);
   command->callback([options, &outcome] { Run(*options, outcome); });
 }

@@ -27,8 +27,11 @@ void Describe(CLI::App& program, Outcome& outcome) {
   AddCheckCommand(program, outcome);
   AddRoundCommand(program, outcome);
   AddDateCommand(program, outcome);
+  AddHashCommand(program, outcome);
+  AddRandomCommand(program, outcome);
   AddAddressCommand(program, outcome);
   AddBackupNameCommand(program, outcome);
+  AddInterfacesCommand(program, outcome);
 }
 
 // Help and version are answers; every other end of parsing is wrong usage, whatever number the parser gives

@@ -40,7 +40,7 @@ void Run(const RoundOptions& options, Outcome& outcome) {
     const ravo::Currency amount = ParseAmount(text).value_or(ravo::Currency{});
     try {
       const std::string rounded = AmountText(Rounded(amount, options));
-      outcome.out += text + "\t" + rounded + "\n";
+      outcome.out.append(text).append("\t").append(rounded).append("\n");
       answers.push_back({{"amount", AmountText(amount)}, {"rounded", rounded}});
     } catch (const ravo::Error&) {
       outcome.err += "ravo: " + text + " leaves the range of amounts\n";

@@ -1,5 +1,9 @@
 # The resources of the shared library on Windows: the package description, the type library, the string table
 # and the version record.
+# Our toolchain files name the type library compiler; another toolchain has it on the path.
+if(NOT RAVO_WIDL)
+  find_program(RAVO_WIDL NAMES ${CMAKE_SYSTEM_PROCESSOR}-w64-mingw32-widl widl NO_CMAKE_FIND_ROOT_PATH REQUIRED)
+endif()
 set(ravo_package_folder ${CMAKE_CURRENT_SOURCE_DIR}/frame/package)
 set(ravo_type_library ${ravo_generated}/RavoInterface.tlb)
 

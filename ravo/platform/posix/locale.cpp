@@ -8,7 +8,7 @@
 #include <utility>
 
 #include <langinfo.h>
-#include <locale.h>
+#include <locale.h>  // NOLINT(modernize-deprecated-headers): newlocale is not in <clocale>
 
 namespace ravo::platform::posix {
 namespace {

@@ -45,8 +45,6 @@ constexpr Conversion kConversions[] = {
 // Flags, a width and the marks of alternative forms stand before the letter.
 constexpr std::u16string_view kModifiers = u"-_0^#+123456789EO";
 
-bool IsAsciiLetter(char16_t ch) { return AsciiLower(ch) >= u'a' && AsciiLower(ch) <= u'z'; }
-
 // One piece of a literal text: what needs no quotes, letters, or the quotes themselves.
 std::u16string_view TakePiece(std::u16string_view& text, std::u16string_view& quote) {
   const auto quote_of = [](char16_t ch) -> std::u16string_view {

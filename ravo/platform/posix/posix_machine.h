@@ -49,6 +49,14 @@ class PosixMachine final : public Machine {
   [[nodiscard]] ModuleHandle LoadResources(std::u16string_view file) const override;
   void UnloadResources(ModuleHandle module) const override;
 
+  [[nodiscard]] ComponentAnswer CreateComponent(const Guid& class_id) const override;
+  [[nodiscard]] ComponentAnswer CreateRemoteComponent(const Guid& class_id,
+                                                      std::u16string_view computer) const override;
+  [[nodiscard]] ResultCode OfferComponent(const Guid& class_id, ComponentFactory factory,
+                                          std::uint32_t& registration) const override;
+  void RevokeComponent(std::uint32_t registration) const override;
+  [[nodiscard]] std::u16string ComponentErrorText(ResultCode code) const override;
+
  private:
   std::string root_;
 };

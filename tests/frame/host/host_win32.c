@@ -54,7 +54,7 @@ struct Text {
 
 /* The rows of every list that the string table is made from. */
 static const struct Text kTexts[] = {
-#define RAVO_CAPTION_GROUP(title)
+#define RAVO_CAPTION_GROUP(prefix, title)
 #define RAVO_STRING(name, id, text) {id, L##text},
 #include <ravo/catalogue/captions.inc>
 #undef RAVO_STRING

@@ -1,0 +1,26 @@
+#pragma once
+
+#ifdef _WIN32
+
+#include <objbase.h>
+#include <windows.h>
+
+/// On Windows each thread initialises the component runtime for itself before it creates an object.
+struct ComponentThread {
+  ComponentThread() { initialised = SUCCEEDED(CoInitializeEx(nullptr, COINIT_MULTITHREADED)); }
+  ComponentThread(const ComponentThread&) = delete;
+  ComponentThread& operator=(const ComponentThread&) = delete;
+  ~ComponentThread() {
+    if (initialised) CoUninitialize();
+  }
+  bool initialised;
+};
+
+#else
+
+/// Elsewhere there is nothing to initialise.
+struct ComponentThread {
+  ComponentThread() {}
+};
+
+#endif

@@ -1,0 +1,15 @@
+// Lines of a list of sums: what is read is written so that it reads again.
+#include "../tools/ravo/file_hash.h"
+
+#include <cstdlib>
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  const auto line = tool::ParseSumLine({reinterpret_cast<const char*>(data), size});
+  if (!line) return 0;
+  std::string text = tool::SumLineText(*line);
+  text.pop_back();
+  const auto again = tool::ParseSumLine(text);
+  if (!again || again->label != line->label || again->sum != line->sum || again->name != line->name)
+    std::abort();
+  return 0;
+}

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <ravo/runtime/export.h>
+#include <ravo/runtime/guid.h>
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+/// The host's object model as a list, for programs that show it or go through it.
+namespace ravo {
+
+/// Dual: below `IDispatch`, called through the operation table or by dispatch identifier. Custom: below
+/// `IUnknown`, called through the operation table alone.
+enum class InterfaceKind : std::uint8_t { Dual, Custom };
+
+struct TypeLibraryRow {
+  /// Without the "_TLB" of its module.
+  std::string_view name;
+  Guid identifier;
+};
+
+struct HostInterfaceRow {
+  std::string_view library;
+  std::string_view name;
+  std::string_view base;
+  InterfaceKind kind;
+  Guid identifier;
+  /// The operations that it adds to its base; readers and writers of properties count.
+  int own_operations;
+};
+
+struct HostClassRow {
+  std::string_view library;
+  /// The factory of class "RavoZipper" is `CoRavoZipper`.
+  std::string_view name;
+  /// The interface that the factory returns.
+  std::string_view returned;
+  Guid identifier;
+};
+
+/// All rows in declaration order, library by library.
+[[nodiscard]] RAVO_API std::span<const TypeLibraryRow> TypeLibraryRows() noexcept;
+[[nodiscard]] RAVO_API std::span<const HostInterfaceRow> HostInterfaceRows() noexcept;
+[[nodiscard]] RAVO_API std::span<const HostClassRow> HostClassRows() noexcept;
+
+/// "dual" or "custom".
+[[nodiscard]] RAVO_API std::string_view InterfaceKindName(InterfaceKind kind) noexcept;
+
+}  // namespace ravo

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <ravo/runtime/component.h>
+#include <ravo/runtime/dispatch.h>
+#include <ravo/runtime/guid.h>
+
+/// The interfaces of the host's object model, each in the namespace of its type library.
+///
+/// The library fixes an interface's identity, its place below `IUnknown` (custom) or `IDispatch` (dual) and
+/// the number of operations that it adds. The operations themselves are the host's: a module that knows them
+/// adds them with `RAVO_OPERATIONS` (`ravo/hostapi/operations.h`) and uses the result in the place of the
+/// declared interface.
+///
+/// For each interface `IRavoX` there is the constant `IID_IRavoX` and a twin `IRavoXDisp`, the view of a
+/// late-binding client. Both have the same identifier, base and number of operations; of a dual interface the
+/// twin is called through `Invoke` alone.
+namespace ravo {
+
+// The base of a class cannot stand in parentheses.
+// NOLINTBEGIN(bugprone-macro-parentheses)
+#define RAVO_TYPE_LIBRARY(library, identifier)          \
+  namespace library##_TLB {                             \
+    inline constexpr Guid LIBID_##library = identifier; \
+  }
+
+#define RAVO_HOST_INTERFACE(library, name, base, identifier, operations) \
+  namespace library##_TLB {                                              \
+    inline constexpr Guid IID_##name = identifier;                       \
+    struct name : base {                                                 \
+      static constexpr Guid kInterfaceId = IID_##name;                   \
+      static constexpr int kOwnOperations = operations;                  \
+                                                                         \
+     protected:                                                          \
+      ~name() = default;                                                 \
+    };                                                                   \
+    struct name##Disp : base {                                           \
+      static constexpr Guid kInterfaceId = IID_##name;                   \
+      static constexpr int kOwnOperations = operations;                  \
+                                                                         \
+     protected:                                                          \
+      ~name##Disp() = default;                                           \
+    };                                                                   \
+  }
+
+#define RAVO_HOST_CLASS(library, name, returned, identifier) \
+  namespace library##_TLB {                                  \
+    inline constexpr Guid CLASS_##name = identifier;         \
+  }
+
+#include <ravo/hostapi/interfaces.inc>
+// NOLINTEND(bugprone-macro-parentheses)
+
+}  // namespace ravo

@@ -1,0 +1,78 @@
+#pragma once
+
+#include <ravo/runtime/component_ptr.h>
+#include <ravo/runtime/dispatch.h>
+
+#include <atomic>
+#include <concepts>
+#include <cstdint>
+#include <utility>
+
+namespace ravo {
+
+/// Identity and reference count of an object that implements `Interface`: it answers to that interface and to
+/// those of the platform below it, and ends with its last reference. Make one with `MakeComponent`.
+template <class Interface>
+class ComponentObject : public Interface {
+ public:
+  ComponentObject() = default;
+  ComponentObject(const ComponentObject&) = delete;
+  ComponentObject& operator=(const ComponentObject&) = delete;
+  virtual ~ComponentObject() = default;
+
+  ResultCode RAVO_STDCALL QueryInterface(const Guid& interface_id, void** object) noexcept override {
+    if (!object) return result_code::kNullPointer;
+    *object = Supports(interface_id) ? static_cast<Interface*>(this) : nullptr;
+    if (!*object) return result_code::kNoInterface;
+    AddRef();
+    return result_code::kOk;
+  }
+
+  std::uint32_t RAVO_STDCALL AddRef() noexcept override { return ++references_; }
+
+  std::uint32_t RAVO_STDCALL Release() noexcept override {
+    const std::uint32_t left = --references_;
+    if (left == 0) delete this;
+    return left;
+  }
+
+ private:
+  // The interfaces form one line, so that one pointer stands for all of them.
+  static constexpr bool Supports(const Guid& interface_id) noexcept {
+    return interface_id == Interface::kInterfaceId || interface_id == IUnknown::kInterfaceId ||
+           (std::derived_from<Interface, IDispatch> && interface_id == IDispatch::kInterfaceId);
+  }
+
+  std::atomic<std::uint32_t> references_{1};
+};
+
+/// An object whose interface is dual: without type information and names, so that what remains to be
+/// implemented of `IDispatch` is `Invoke`.
+template <class Interface>
+class DispatchObject : public ComponentObject<Interface> {
+ public:
+  ResultCode RAVO_STDCALL GetTypeInfoCount(std::uint32_t* count) noexcept override {
+    if (!count) return result_code::kNullPointer;
+    *count = 0;
+    return result_code::kOk;
+  }
+
+  ResultCode RAVO_STDCALL GetTypeInfo(std::uint32_t, std::uint32_t, void** type_info) noexcept override {
+    if (type_info) *type_info = nullptr;
+    return result_code::kBadIndex;
+  }
+
+  ResultCode RAVO_STDCALL GetIDsOfNames(const Guid&, char16_t**, std::uint32_t count, std::uint32_t,
+                                        std::int32_t* ids) noexcept override {
+    for (std::uint32_t i = 0; ids && i < count; ++i) ids[i] = -1;
+    return result_code::kUnknownName;
+  }
+};
+
+/// Makes an object; the result is its first reference.
+template <class Object, class... Arguments>
+[[nodiscard]] ComponentPtr<Object> MakeComponent(Arguments&&... arguments) {
+  return ComponentPtr<Object>::Adopt(new Object(std::forward<Arguments>(arguments)...));
+}
+
+}  // namespace ravo

@@ -1,0 +1,7 @@
+#pragma once
+
+/// The character database: categories, kinds, mappings and decompositions of one code unit of UTF-16.
+#include <ravo/unicode/characters/categories.h>
+#include <ravo/unicode/characters/character_kinds.h>
+#include <ravo/unicode/characters/decompositions.h>
+#include <ravo/unicode/characters/mappings.h>

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <ravo/runtime/export.h>
+#include <ravo/utils/lookup2.h>
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <span>
+
+namespace ravo {
+
+/// `HashBuf` and `HashBufIA` over bytes that come in pieces: the same value for the same bytes.
+class RAVO_API HashStream {
+ public:
+  enum class Letters : std::uint8_t { AsTheyAre, InUpperCase };
+
+  explicit HashStream(std::uint32_t initial = 0, Letters letters = Letters::AsTheyAre) noexcept
+      : state_{.c = initial}, letters_(letters) {}
+
+  void Update(std::span<const std::byte> bytes) noexcept;
+
+  /// The hash of all bytes so far. More may follow.
+  [[nodiscard]] std::uint32_t Value() const noexcept;
+
+ private:
+  utils::Lookup2State state_;
+  Letters letters_;
+  std::array<std::uint8_t, utils::kLookup2Piece> waiting_{};
+  std::size_t waiting_count_ = 0;
+  std::uint32_t count_ = 0;
+};
+
+}  // namespace ravo

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <ravo/runtime/guid.h>
+
+#include <string>
+
+namespace ravo::test {
+
+/// A dual interface as the servers of these tests implement it: operations 1 to `operations`.
+struct ServedType {
+  Guid library;
+  const wchar_t* library_name;
+  Guid identifier;
+  const wchar_t* name;
+  int operations;
+};
+
+/// Writes a type library with that interface, which the component runtime needs to carry its calls from one
+/// process to another. Answers the code of the first call that failed.
+[[nodiscard]] long WriteTypeLibrary(const ServedType& type, const std::wstring& file);
+
+}  // namespace ravo::test
