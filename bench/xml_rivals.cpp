@@ -2,13 +2,13 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <malloc.h>
 #include <stdexcept>
 
 #include <expat.h>
 #include <iconv.h>
 #include <libxml/parser.h>
 #include <libxml/tree.h>
+#include <malloc.h>
 #include <pugixml.hpp>
 
 namespace ravo::bench {
@@ -43,7 +43,8 @@ std::string Converted(const std::string& text, const char* from, const char* to)
   char* at = out.data();
   std::size_t in_left = text.size();
   std::size_t out_left = out.size();
-  if (iconv(converter, &in, &in_left, &at, &out_left) == static_cast<std::size_t>(-1)) throw std::runtime_error("iconv");
+  if (iconv(converter, &in, &in_left, &at, &out_left) == static_cast<std::size_t>(-1))
+    throw std::runtime_error("iconv");
   iconv_close(converter);
   out.resize(out.size() - out_left);
   return out;
@@ -59,7 +60,8 @@ std::size_t PugixmlLoadAndSave(const std::string& text) {
 }
 
 std::size_t Libxml2LoadAndSave(const std::string& text) {
-  xmlDoc* document = xmlReadMemory(text.data(), static_cast<int>(text.size()), nullptr, nullptr, XML_PARSE_HUGE);
+  xmlDoc* document =
+      xmlReadMemory(text.data(), static_cast<int>(text.size()), nullptr, nullptr, XML_PARSE_HUGE);
   if (document == nullptr) std::abort();
   xmlChar* out = nullptr;
   int size = 0;
@@ -90,7 +92,8 @@ std::size_t PugixmlPeak(const std::string& utf8) {
   pugi::set_memory_management_functions(CountedAllocate, CountedFree);
   {
     pugi::xml_document document;
-    if (!document.load_buffer(utf8.data(), utf8.size(), pugi::parse_default, pugi::encoding_utf8)) std::abort();
+    if (!document.load_buffer(utf8.data(), utf8.size(), pugi::parse_default, pugi::encoding_utf8))
+      std::abort();
   }
   pugi::set_memory_management_functions(allocate, free);
   return peak;

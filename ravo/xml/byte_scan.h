@@ -32,6 +32,42 @@ inline constexpr std::size_t kReadAhead = 16;
 #endif
 }
 
+/// The first byte from `at` on, at the latest `end`, that is a control character, an "&", "<", ">" or double
+/// quote, or the second of two blanks; a blank in front of `at` does not count. `kReadAhead` readable bytes
+/// must stand behind `end`.
+[[nodiscard]] inline const char* EndOfOrdinary(const char* at, const char* end) noexcept {
+#ifdef __SSE2__
+  unsigned blank_before = 0;
+  for (; at < end; at += 16) {
+    const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
+    const auto is = [&](char ch) { return _mm_cmpeq_epi8(bytes, _mm_set1_epi8(ch)); };
+    const __m128i control = _mm_cmpeq_epi8(_mm_max_epu8(bytes, _mm_set1_epi8(0x1F)), _mm_set1_epi8(0x1F));
+    // "<" and ">" differ in one bit, and so do the double quote and "&" in another.
+    const __m128i brackets = _mm_cmpeq_epi8(_mm_or_si128(bytes, _mm_set1_epi8(2)), _mm_set1_epi8('>'));
+    const __m128i quotes = _mm_cmpeq_epi8(_mm_or_si128(bytes, _mm_set1_epi8(4)), _mm_set1_epi8('&'));
+    const auto blanks = static_cast<unsigned>(_mm_movemask_epi8(is(' ')));
+    const auto ends =
+        static_cast<unsigned>(_mm_movemask_epi8(_mm_or_si128(control, _mm_or_si128(brackets, quotes)))) |
+        (blanks & (blanks << 1 | blank_before));
+    blank_before = blanks >> 15;
+    if (ends != 0) {
+      const char* const found = at + __builtin_ctz(ends);
+      return found < end ? found : end;
+    }
+  }
+  return end;
+#else
+  for (bool after_blank = false; at != end; ++at) {
+    const char ch = *at;
+    const bool special =
+        static_cast<unsigned char>(ch) < 0x20 || ch == '&' || ch == '<' || ch == '>' || ch == '"';
+    if (special || (ch == ' ' && after_blank)) break;
+    after_blank = ch == ' ';
+  }
+  return at;
+#endif
+}
+
 /// Whether a token's text stands as it is: no line break of two bytes, no two blanks.
 [[nodiscard]] bool IsNormalised(std::string_view bytes) noexcept;
 

@@ -1,3 +1,4 @@
+#include <ravo/xml/byte_scan.h>
 #include <ravo/xml/escape.h>
 
 #include <algorithm>
@@ -99,6 +100,16 @@ std::string Unwritten(std::string_view written) { return Unescape(written, true)
 bool NeedsEscape(std::string_view text) noexcept {
   return std::ranges::any_of(
       text, [](char ch) { return ch == '&' || ch == '<' || ch == '>' || ch == '"' || ch == '\r'; });
+}
+
+const char* EndOfPlainText(const char* at, const char* end) noexcept {
+  for (;;) {
+    at = EndOfOrdinary(at, end);
+    if (at == end || *at != '&') return at;
+    const Entity* entity = EntityAt(std::string_view(at, static_cast<std::size_t>(end - at)));
+    if (entity == nullptr) return at;
+    at += entity->name.size();
+  }
 }
 
 // Each application takes one "amp;" away behind an "&", until what is left names another character.

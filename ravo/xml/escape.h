@@ -31,5 +31,9 @@ namespace xml {
 /// Whether `Escaped` would change a text.
 [[nodiscard]] bool NeedsEscape(std::string_view text) noexcept;
 
+/// Where in `at` to `end` the text stops to be such that it stands escaped already, without control
+/// characters and double blanks. `kReadAhead` bytes behind the end must be readable.
+[[nodiscard]] const char* EndOfPlainText(const char* at, const char* end) noexcept;
+
 }  // namespace xml
 }  // namespace ravo

@@ -154,6 +154,11 @@ void ItemAccess::SetTextBytes(Item& item, std::string_view text, ItemArena& aren
   }
 }
 
+void ItemAccess::SetTextPlain(Item& item, std::string_view written, ItemArena& arena) {
+  if (!arena.Page().IsFaithful(written)) return SetTextBytes(item, Unescaped(written), arena);
+  SetTextWritten(item, written, true, &arena);
+}
+
 void ItemAccess::SetName(Item& item, std::u16string_view name) {
   name = Trimmed(name);
   const std::string attributes(BodyBytes(item).substr(item.name_size_));

@@ -30,6 +30,8 @@ class ItemAccess {
   static void SetTag(Item& item, std::string_view tag, ItemArena& arena);
   /// `text` is text of the code page, not escaped.
   static void SetTextBytes(Item& item, std::string_view text, ItemArena& arena);
+  /// `written` stands escaped already and is more than blanks.
+  static void SetTextPlain(Item& item, std::string_view written, ItemArena& arena);
   static void SetName(Item& item, std::u16string_view name);
   static void SetText(Item& item, std::u16string_view text);
   static void SetParams(Item& item, StringList params);

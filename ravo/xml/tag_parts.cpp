@@ -11,20 +11,17 @@
 namespace ravo::xml {
 namespace {
 
-enum ByteKind : std::uint8_t { kNeither = 0, kInName = 1, kInValue = 2 };
-
-constexpr auto kByteKinds = [] {
-  std::array<std::uint8_t, 256> kinds{};
-  for (std::size_t i = 0; i < kinds.size(); ++i) {
-    const bool special = i == '"' || i == '&' || i == '<' || i == '>';
-    const bool in_name = i > 0x20 && !special && i != '=' && i != '/' && i != '\'';
-    const bool in_value = i >= 0x20 && !special;
-    kinds[i] = static_cast<std::uint8_t>((in_name ? kInName : 0) | (in_value ? kInValue : 0));
-  }
-  return kinds;
+constexpr auto kInName = [] {
+  std::array<bool, 256> in_name{};
+  for (std::size_t i = 0x21; i < in_name.size(); ++i) in_name[i] = true;
+  for (const unsigned char ch : std::string_view("\"&<>=/'")) in_name[ch] = false;
+  return in_name;
 }();
 
-bool Is(char ch, ByteKind kind) { return (kByteKinds[static_cast<unsigned char>(ch)] & kind) != 0; }
+const char* EndOfName(const char* at, const char* end) noexcept {
+  while (at != end && kInName[static_cast<unsigned char>(*at)]) ++at;
+  return at;
+}
 
 // Tells names apart by a little of them: attributes that look alike go the careful way.
 class NameKeys {
@@ -54,13 +51,10 @@ class NameKeys {
 // Steps over `name="value"`; null where it is not just that.
 const char* StepOverAttribute(const char* at, const char* end, NameKeys& names) noexcept {
   const char* const name = at;
-  while (at != end && Is(*at, kInName)) ++at;
+  at = EndOfName(at, end);
   if (at == name || end - at < 4 || at[0] != '=' || at[1] != '"' || !names.Add(name, at)) return nullptr;
-  const char* const value = at += 2;
-  while (at != end && Is(*at, kInValue)) {
-    if (*at == ' ' && at[-1] == ' ') return nullptr;
-    ++at;
-  }
+  const char* const value = at + 2;
+  at = EndOfPlainText(value, end);
   return at != end && at != value && *at == '"' ? at + 1 : nullptr;
 }
 
@@ -181,8 +175,7 @@ bool TakePlainBody(std::string_view tag, TagBody& body) noexcept {
   const char* const begin = tag.data() + 1;
   const char* end = tag.data() + tag.size() - 1;
   if (end != begin && end[-1] == '/') --end;
-  const char* at = begin;
-  while (at != end && Is(*at, kInName)) ++at;
+  const char* at = EndOfName(begin, end);
   if (at == begin) return false;
   body.name_size = static_cast<std::size_t>(at - begin);
   const char* behind = at;

@@ -16,7 +16,7 @@ struct TagBody {
 };
 
 /// Takes the body out of a tag that stands in the document just as it would be written again; false for any
-/// other tag. Nothing is copied.
+/// other tag. Nothing is copied. `kReadAhead` bytes behind the tag must be readable.
 [[nodiscard]] bool TakePlainBody(std::string_view tag, TagBody& body) noexcept;
 
 /// What a tag says, by the rules for tags of any form.

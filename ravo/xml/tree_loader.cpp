@@ -111,14 +111,17 @@ std::string_view TreeLoader::TokenText(std::string& scratch) const {
 
 void TreeLoader::TakeText() {
   Frame& frame = Current();
+  const std::string_view bytes = tokenizer_.TokenBytes();
+  // Most texts stand as they will be written.
+  const bool is_plain =
+      EndOfPlainText(bytes.data(), bytes.data() + bytes.size()) == bytes.data() + bytes.size();
+  if (is_plain && !ItemAccess::HasText(*frame.item)) {
+    return ItemAccess::SetTextPlain(*frame.item, bytes, *arena_);
+  }
   std::string scratch;
   const std::string_view text = TokenText(scratch);
   if (ItemAccess::HasText(*frame.item)) return JoinText(frame, text);
-  if (text.find('&') == std::string_view::npos) {
-    ItemAccess::SetTextBytes(*frame.item, text, *arena_);
-  } else {
-    ItemAccess::SetTextBytes(*frame.item, Unescaped(text), *arena_);
-  }
+  ItemAccess::SetTextBytes(*frame.item, Unescaped(text), *arena_);
 }
 
 // Kept: text that is joined by more text is unescaped once more, because documents hold what was escaped that

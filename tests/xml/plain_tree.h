@@ -52,13 +52,13 @@ inline std::u16string TagName(std::u16string_view tag) {
 }
 
 inline std::u16string AttributeValue(std::u16string_view text) {
-  std::u16string v(Trimmed(text));
+  std::u16string_view v = Trimmed(text);
   const auto is_quote = [](char16_t ch) { return ch == u'"' || ch == u'\''; };
   if (v.size() >= 3) {
-    if (is_quote(v.front())) v.erase(0, 1);
-    if (is_quote(v.back())) v.pop_back();
+    if (is_quote(v.front())) v.remove_prefix(1);
+    if (is_quote(v.back())) v.remove_suffix(1);
   }
-  return Unescaped(v);
+  return Unescaped(std::u16string(v));
 }
 
 // The line, if it is still there, that is at the place that a line of the text had.
@@ -98,9 +98,8 @@ inline void Load(Item& top, ByteStream& stream) {
     std::u16string s = platform::CurrentMachine().FromCodePage(tokenizer.TokenString());
     if (kind == xtText) {
       if (s.starts_with(u"<![CDATA[")) {
-        s = Trimmed(s);
-        s.erase(0, 9);
-        s.erase(s.size() - std::min<std::size_t>(3, s.size()));
+        s = std::u16string(Trimmed(s).substr(9));
+        s.resize(s.size() - std::min<std::size_t>(3, s.size()));
       }
       const bool empty = Trimmed(current->text).empty();
       current->text = Unescaped(empty ? s : current->text + u"\r\n" + s);
@@ -121,8 +120,8 @@ inline void Load(Item& top, ByteStream& stream) {
 inline std::u16string NameAndParams(const Item& item) {
   std::u16string text = item.name;
   for (std::size_t i = 0; i < item.params.Count(); ++i) {
-    text += u" " + std::u16string(item.params.NameAt(i)) + u"=\"" +
-            Escaped(std::u16string(item.params.ValueAt(i))) + u"\"";
+    text.append(u" ").append(item.params.NameAt(i)).append(u"=\"");
+    text.append(Escaped(std::u16string(item.params.ValueAt(i)))).append(u"\"");
   }
   return text;
 }
