@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <memory>
 #include <mutex>
-#include <ranges>
 
 namespace ravo::xml {
 namespace {
@@ -20,7 +19,7 @@ bool IsSingleByte(const platform::Machine& machine, const std::string& bytes, co
   if (units.size() != bytes.size()) return false;
   const std::string backwards(bytes.rbegin(), bytes.rend());
   const std::u16string reversed = machine.FromCodePage(backwards);
-  return std::ranges::equal(reversed, std::views::reverse(units));
+  return std::equal(reversed.begin(), reversed.end(), units.rbegin(), units.rend());
 }
 
 }  // namespace

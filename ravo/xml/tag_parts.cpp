@@ -14,7 +14,7 @@ namespace {
 constexpr auto kInName = [] {
   std::array<bool, 256> in_name{};
   for (std::size_t i = 0x21; i < in_name.size(); ++i) in_name[i] = true;
-  for (const unsigned char ch : std::string_view("\"&<>=/'")) in_name[ch] = false;
+  for (const char ch : std::string_view("\"&<>=/'")) in_name[static_cast<unsigned char>(ch)] = false;
   return in_name;
 }();
 

@@ -153,4 +153,34 @@ class PlainTokenizer {
   std::int32_t line_ = 1;
 };
 
+/// A tokenizer with a buffer of another size.
+class SmallTokenizer final : public ECXMLTokenizer::TXMLTokenizer {
+ public:
+  SmallTokenizer(ByteStream& stream, std::size_t size) : TXMLTokenizer(stream, size) { NextToken(); }
+};
+
+/// What both ways make of a document; a row of its own ends the tokens where an error was raised.
+inline const TokenRow kFailed = {-1, "failed", 0, 0};
+
+inline std::vector<TokenRow> SmallTokens(ByteStream& stream, std::size_t size) {
+  std::vector<TokenRow> rows;
+  try {
+    for (SmallTokenizer tokenizer(stream, size);; tokenizer.NextToken()) {
+      rows.push_back(
+          {tokenizer.Token(), tokenizer.TokenString(), tokenizer.SourcePos(), tokenizer.SourceLine()});
+      if (tokenizer.Token() == ECXMLTokenizer::xtEndOfInput) return rows;
+    }
+  } catch (const EParserError&) {
+    rows.push_back(kFailed);
+  }
+  return rows;
+}
+
+inline std::vector<TokenRow> PlainTokens(std::string_view text, std::size_t size) {
+  PlainTokenizer plain(text, size);
+  auto rows = plain.All();
+  if (plain.failed) rows.push_back(kFailed);
+  return rows;
+}
+
 }  // namespace ravo::test

@@ -1,6 +1,7 @@
 #include "plain_tokens.h"
 #include "support/fake_machine.h"
 #include "support/fake_stream.h"
+#include "support/guarded_buffer.h"
 #include <ravo/ECXMLTokenizer.h>
 
 #include <gmock/gmock.h>
@@ -108,6 +109,26 @@ TEST(TXMLTokenizer, CutsAlikeAtEveryPlaceOfTheEdge) {
         EXPECT_EQ(TokensOf(all), wanted) << row.title << ", " << before << " before the edge";
       }
     }
+  }
+}
+
+TEST(TXMLTokenizer, CutsAlikeWithBuffersOfEverySize) {
+  for (const Row& row : Rows()) {
+    const std::string lines = "<p>\nq\n" + std::string(row.text) + "\n<r/>\n\n";
+    for (std::size_t size = 1; size <= lines.size() + 1; ++size) {
+      for (const std::size_t piece : {std::size_t{1}, std::size_t{3}, SIZE_MAX}) {
+        SplitStream stream(lines, piece);
+        EXPECT_EQ(SmallTokens(stream, size), PlainTokens(lines, size)) << row.title << ", " << size;
+      }
+    }
+  }
+}
+
+TEST(TXMLTokenizer, ReadsNothingBehindTheStream) {
+  for (const Row& row : Rows()) {
+    const GuardedBuffer guarded(BytesOf(row.text));
+    SpanStream stream(guarded.Bytes());
+    EXPECT_EQ(TokensOf(stream), row.tokens) << row.title;
   }
 }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "support/guarded_buffer.h"
 #include <ravo/xml/document.h>
 #include <ravo/xml/tokenizer.h>
 
