@@ -44,35 +44,39 @@ void OverAmounts(benchmark::State& state, Routine routine) {
   state.counters["items"] = static_cast<double>(amounts.size());
 }
 
-// The mode and the decimals are not known when compiled, as in the modules that call.
-TRoundType mode = rtMath;
-std::int8_t decimals = 2;
+// A value that the compiler cannot know, as in the modules that call. (The benchmark library's DoNotOptimize
+// garbles small integers under GCC.)
+template <class Value>
+Value Unknown(Value value) {
+  const volatile Value hidden = value;
+  return hidden;
+}
 
 void RoundValueOurs(benchmark::State& state) {
-  benchmark::DoNotOptimize(mode);
-  benchmark::DoNotOptimize(decimals);
-  OverAmounts(state, [](Currency value) { return RoundValue(value, mode, decimals); });
+  const TRoundType mode = Unknown(rtMath);
+  const std::int8_t decimals = Unknown(std::int8_t{2});
+  OverAmounts(state, [=](Currency value) { return RoundValue(value, mode, decimals); });
 }
 BENCHMARK(RoundValueOurs)->Name("RoundValue/ravo");
 
 void RoundValueLongDouble(benchmark::State& state) {
-  benchmark::DoNotOptimize(mode);
-  benchmark::DoNotOptimize(decimals);
-  OverAmounts(state, [](Currency value) { return test::plain::RoundValue(value, mode, decimals); });
+  const TRoundType mode = Unknown(rtMath);
+  const std::int8_t decimals = Unknown(std::int8_t{2});
+  OverAmounts(state, [=](Currency value) { return test::plain::RoundValue(value, mode, decimals); });
 }
 BENCHMARK(RoundValueLongDouble)->Name("RoundValue/long_double");
 
 // One rule for all amounts, as a firm's settings choose it.
-void RoundDphOurs(benchmark::State& state, char16_t kind) {
-  benchmark::DoNotOptimize(kind);
-  OverAmounts(state, [&](Currency value) { return RoundDPH(value, kind); });
+void RoundDphOurs(benchmark::State& state, char16_t letter) {
+  const char16_t kind = Unknown(letter);
+  OverAmounts(state, [=](Currency value) { return RoundDPH(value, kind); });
 }
 BENCHMARK_CAPTURE(RoundDphOurs, H, u'H')->Name("RoundDPH H/ravo");
 BENCHMARK_CAPTURE(RoundDphOurs, P, u'P')->Name("RoundDPH P/ravo");
 
-void RoundDphLongDouble(benchmark::State& state, char16_t kind) {
-  benchmark::DoNotOptimize(kind);
-  OverAmounts(state, [&](Currency value) { return test::plain::RoundDPH(value, kind); });
+void RoundDphLongDouble(benchmark::State& state, char16_t letter) {
+  const char16_t kind = Unknown(letter);
+  OverAmounts(state, [=](Currency value) { return test::plain::RoundDPH(value, kind); });
 }
 BENCHMARK_CAPTURE(RoundDphLongDouble, H, u'H')->Name("RoundDPH H/long_double");
 BENCHMARK_CAPTURE(RoundDphLongDouble, P, u'P')->Name("RoundDPH P/long_double");
