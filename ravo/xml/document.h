@@ -3,7 +3,7 @@
 #include <ravo/runtime/byte_stream.h>
 #include <ravo/runtime/export.h>
 #include <ravo/runtime/guid.h>
-#include <ravo/xml/component.h>
+#include <ravo/runtime/owned_object.h>
 #include <ravo/xml/item.h>
 
 #include <array>

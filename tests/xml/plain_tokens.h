@@ -89,8 +89,8 @@ class PlainTokenizer {
         if (before == ']' && text_[end] == ']') break;
         before = text_[end];
       }
-      if (end + 1 >= text_.size()) failed = true;
-      Consume(end + 2);
+      failed = end + 1 >= text_.size();
+      if (!failed) Consume(end + 2);
       return 9;
     }
     if (end == std::string_view::npos) {

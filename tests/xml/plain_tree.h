@@ -61,7 +61,6 @@ inline std::u16string AttributeValue(std::u16string_view text) {
   return Unescaped(std::u16string(v));
 }
 
-// The line, if it is still there, that is at the place that a line of the text had.
 inline void SetAttributes(Item& item, std::u16string_view tag) {
   item.params.Clear();
   const std::size_t p = tag.find(u' ');
@@ -80,9 +79,10 @@ inline void SetAttributes(Item& item, std::u16string_view tag) {
   for (std::size_t i = 0; i < item.params.Count();) {
     const std::size_t before = item.params.Count();
     const std::u16string name(item.params.NameAt(i));
+    const std::size_t set = item.params.IndexOfName(name).value_or(before);
     item.params.SetValue(name, AttributeValue(item.params.ValueAt(i)));
-    // A value that is empty deletes a line: this one or one before it.
-    if (item.params.Count() == before) ++i;
+    // A value that is empty deletes a line: this one, one before it or one behind it.
+    if (item.params.Count() == before || set > i) ++i;
   }
 }
 
