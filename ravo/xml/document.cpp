@@ -11,8 +11,14 @@ namespace {
 
 constexpr std::size_t kLookedAt = 1000;
 
+bool BeginsWithMark(std::string_view bytes) {
+  return bytes.starts_with("\xEF\xBB\xBF") || bytes.starts_with("\xFE\xFF") || bytes.starts_with("\xFF\xFE");
+}
+
 // Whether what the stream gives next looks like a document.
 // Kept: a declaration in single quotes is passed over, because only the one form has ever been looked for.
+// Kept: a declaration behind a byte-order mark is passed over, because the mark would become text of the
+// root.
 bool LooksLikeXml(ByteStream& stream) {
   std::string beginning(kLookedAt, '\0');
   std::size_t size = 0;
@@ -22,10 +28,10 @@ bool LooksLikeXml(ByteStream& stream) {
     size += count;
   }
   stream.SetPosition(0);
-  const std::u16string text =
-      platform::CurrentMachine().FromCodePage(std::string_view(beginning).substr(0, size));
-  return text.find(u"<?xml version=\"1.0\"") != std::u16string::npos ||
-         text.find(u"<rss") != std::u16string::npos;
+  beginning.resize(size);
+  const std::u16string text = platform::CurrentMachine().FromCodePage(beginning);
+  const bool declared = text.find(u"<?xml version=\"1.0\"") != std::u16string::npos;
+  return (declared && !BeginsWithMark(beginning)) || text.find(u"<rss") != std::u16string::npos;
 }
 
 std::u16string_view ExtensionOf(std::u16string_view name) {
@@ -83,6 +89,7 @@ void TECXMLParser::SaveToFile(std::u16string_view FileName) {
 
 // Kept: a blank stands before the end of the declaration and none before that of the style sheet, because
 // documents are compared as they were always written.
+// Kept: the encoding is a name alone, because the bytes are those of the 8-bit code page whatever it says.
 void TECXMLParser::SaveToStream(ByteStream& Stream, bool XSL) {
   if (!Allowed(FBeforeSave, *this)) return;
   std::u16string header = u"<?xml version=\"1.0\" encoding=\"" + FEncoding + u"\" ?>\r\n";

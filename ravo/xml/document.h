@@ -68,8 +68,8 @@ class RAVO_API TECXMLParser final : public TComponent, public IECXMLParser {
   /// `StreamError` for a file that cannot be read.
   void LoadFromFile(std::u16string_view FileName) override;
   /// Loads the document from the stream's beginning. A stream whose next 1000 bytes contain neither
-  /// `<?xml version="1.0"` nor `<rss` is passed over in silence. `EParserError` for what cannot be read; what
-  /// was built before it stays.
+  /// `<?xml version="1.0"`, without a byte-order mark at the front, nor `<rss` is passed over in silence.
+  /// `EParserError` for what cannot be read; what was built before it stays.
   void LoadFromStream(ByteStream& Stream) override;
   /// A file whose extension is ".xsl" gets no reference to a style sheet.
   void SaveToFile(std::u16string_view FileName) override;

@@ -123,6 +123,7 @@ std::uint8_t TXMLTokenizer::NextToken() {
   return FToken;
 }
 
+// Kept: line feeds inside a token are not counted, because lines are counted where blanks are skipped.
 void TXMLTokenizer::ScanText() {
   char* end = xml::FindEither(FSourcePtr, '<', '\0');
   while (xml::IsBlankByte(end[-1])) --end;
@@ -152,6 +153,9 @@ void TXMLTokenizer::ScanTag() {
   FToken = KindOfTag();
 }
 
+// Kept: a comment ends at its first greater-than sign, because every tag does; what follows is text and tags.
+// Kept: a close tag with a slash at its end stands alone, because the end of a tag is looked at first.
+// Kept: declarations of document types are open tags, because only comments and headers are known by name.
 std::uint8_t TXMLTokenizer::KindOfTag() const {
   if (FTokenPtr[1] == '?' && TokenStarts("<?xml")) return xtHeader;
   if (FTokenPtr[1] == '!' && TokenStarts("<!--")) return xtComment;
@@ -221,6 +225,7 @@ void TXMLTokenizer::GrowBuffer() {
   room_ = doubled;
 }
 
+// Kept: a document of one line is too long for the large tokenizer, because its buffer comes back full.
 TXMLLargeTokenizer::TXMLLargeTokenizer(ByteStream& Stream)
     : TXMLTokenizer(Stream, CheckedCast<std::size_t>(Stream.Size())) {
   if (Stream.Size() == 0) Error(kEmptyStream);

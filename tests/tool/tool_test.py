@@ -16,6 +16,7 @@ import tempfile
 import zlib
 from dataclasses import dataclass
 from typing import Callable, Optional
+from xml.etree import ElementTree
 
 YES, NO, WRONG_USAGE, SKIPPED = 0, 1, 2, 77
 
@@ -543,6 +544,28 @@ def check_xml_unreadable(program):
     file.unlink()
 
 
+def strict(element):
+    """What a strict reader of XML makes of an element."""
+    texts = [(text or "").strip() for text in (element.text, element.tail)]
+    return [element.tag, dict(element.attrib), texts, [strict(child) for child in element]]
+
+
+def check_xml_samples(program):
+    """Documents of other programs say the same to a strict reader before and after."""
+    saved = program.folder / "saved.xml"
+    samples = sorted((pathlib.Path(__file__).parents[2] / "samples" / "xml").iterdir())
+    if len(samples) < 4:
+        yield "samples/xml: documents are missing"
+    for sample in samples:
+        before = program.folder / sample.name
+        before.write_bytes(sample.read_bytes())
+        yield from program.failures(Row(["xml", "format", sample.name, "-o", saved.name], exact=""))
+        if strict(ElementTree.parse(before).getroot()) != strict(ElementTree.parse(saved).getroot()):
+            yield f"xml format: {sample.name} says something else after it was saved"
+        saved.unlink()
+        before.unlink()
+
+
 def check_full_device(program):
     """Output that cannot be written is no success."""
     if len(program.command) > 1 or not pathlib.Path("/dev/full").exists():
@@ -578,7 +601,7 @@ def check_damaged_files(program):
 def tested(program):
     for row in ROWS:
         yield from program.failures(row)
-    for check in (check_xml, check_xml_encodings, check_xml_unreadable, check_report_json, check_report_file, check_sums, check_full_device, check_damaged_files):
+    for check in (check_xml, check_xml_encodings, check_xml_unreadable, check_xml_samples, check_report_json, check_report_file, check_sums, check_full_device, check_damaged_files):
         yield from check(program)
 
 

@@ -180,6 +180,20 @@ TEST(SaveToStream, BlankBeforeTheEndOfTheDeclarationAlone) {
   EXPECT_EQ(Saved(parser), "<?xml version=\"1.0\" encoding=\"utf-8\" ?>\r\n  </>");
 }
 
+TEST(SaveToStream, WritesTheCodePageWhateverTheEncodingIsCalled) {
+  TECXMLParser parser;
+  Load(parser, "<?xml version=\"1.0\" encoding=\"UTF-16\"?><a>\xF8</a>");
+  EXPECT_EQ(parser.Root()->Text(), u"\u0159");
+  EXPECT_EQ(Saved(parser), "<?xml version=\"1.0\" encoding=\"UTF-16\" ?>\r\n  <a>\r\n    \xF8\r\n  </a>\r\n");
+}
+
+TEST(SaveToStream, WithoutLineBreaksKeepsTwoBlanksBeforeEachTag) {
+  TECXMLParser parser;
+  parser.SetCrLfInAsString(false);
+  Load(parser, std::string(kHead) + "<a>t<b><c/></b></a>");
+  EXPECT_EQ(Saved(parser), std::string(kHead) + "  <a>  t  <b>  <c/>  </b>  </a>");
+}
+
 TEST(SaveToStream, LetsErrorsOfTheStreamPass) {
   class FullStream final : public ByteStream {
    public:
@@ -218,14 +232,16 @@ TEST(LoadFromStream, PassesOverSingleQuotesInSilence) {
   EXPECT_EQ(RootAfter("<?xml version='1.0'?><rss></rss>"), u"rss");
 }
 
-TEST(LoadFromStream, AMarkOfByteOrderIsTextOfTheRoot) {
+TEST(LoadFromStream, PassesOverAMarkOfByteOrderInSilence) {
+  using namespace std::string_view_literals;
+  EXPECT_EQ(RootAfter("\xEF\xBB\xBF<?xml version=\"1.0\"?><a></a>"), u"");
+  EXPECT_EQ(RootAfter("\xFF\xFE<\0?\0x\0m\0l\0 \0v\0e\0r\0s\0i\0o\0n\0=\0\"\0001\0.\0000\0\"\0"sv), u"");
+  EXPECT_EQ(RootAfter("\xFE\xFF<?xml version=\"1.0\"?><a></a>"), u"");
+  EXPECT_EQ(RootAfter("\xEF\xBB<?xml version=\"1.0\"?><a></a>"), u"a");
   TECXMLParser parser;
-  Load(parser, "\xEF\xBB\xBF<?xml version=\"1.0\"?><a></a>");
-  EXPECT_EQ(parser.Root()->Name(), u"a");
+  Load(parser, "\xEF\xBB\xBF<?xml version=\"1.0\"?><rss></rss>");
+  EXPECT_EQ(parser.Root()->Name(), u"rss");
   EXPECT_EQ(parser.Root()->Text(), u"\u010F\u00BB\u017C");
-  TECXMLParser other;
-  Load(other, "\xFF\xFE<\0?\0x\0m\0l\0");
-  EXPECT_EQ(other.Root()->Text(), u"");
 }
 
 TEST(LoadFromStream, GoesBackToTheBeginning) {

@@ -132,6 +132,28 @@ TEST(TXMLTokenizer, ReadsNothingBehindTheStream) {
   }
 }
 
+TEST(TXMLTokenizer, EndsACommentAtItsFirstGreaterThan) {
+  const std::vector<TokenRow> rows = {{6, "<!-- <a>", 0, 1}, {9, "-->", 8, 1}, {0, "", 11, 1}};
+  EXPECT_EQ(TokensOf("<!-- <a>-->"), rows);
+}
+
+TEST(TXMLTokenizer, TakesACloseTagWithASlashAtItsEndAsStandAlone) {
+  EXPECT_EQ(TokensOf("</a/>").front().kind, xtStandAloneTag);
+  EXPECT_EQ(TokensOf("</a />").front().kind, xtStandAloneTag);
+  EXPECT_EQ(TokensOf("</a/ >").front().kind, xtCloseTag);
+}
+
+TEST(TXMLTokenizer, TakesADocumentTypeAsAnOpenTag) {
+  EXPECT_EQ(TokensOf("<!DOCTYPE x>").front().kind, xtOpenTag);
+  EXPECT_EQ(TokensOf("<!DOCTYPE x/>").front().kind, xtStandAloneTag);
+}
+
+TEST(TXMLTokenizer, CountsNoLinesInsideTokens) {
+  const std::vector<TokenRow> rows = {
+      {9, "x\ny", 0, 1}, {10, "<a\n\n>", 4, 2}, {9, "<![CDATA[\n]]>", 9, 2}, {9, "z", 23, 3}, {0, "", 24, 3}};
+  EXPECT_EQ(TokensOf("x\ny\n<a\n\n><![CDATA[\n]]>\nz"), rows);
+}
+
 TEST(TXMLTokenizer, EndsTextAtTheLastLineOfTheBuffer) {
   std::string all = "<a>\n" + std::string(kWindow - 20, 'x') + "\nfirst\nsecond line\n</a>";
   const auto tokens = TokensOf(all);
