@@ -128,7 +128,7 @@ void Register(const std::string& name, bool fresh, const Job& job) {
       }
       benchmark::DoNotOptimize(job());
     }
-  })->Unit(benchmark::kMillisecond);
+  });
 }
 
 void RegisterSize(const Size& size) {

@@ -158,6 +158,8 @@ constexpr const char* kFooter =
 void AddXmlCommand(CLI::App& program, Outcome& outcome) {
   CLI::App* xml = program.add_subcommand("xml", "Shows and edits XML documents");
   xml->require_subcommand(1);
+  // A path may begin with "/" on every system.
+  xml->allow_windows_style_options(false);
   xml->footer(kFooter);
   const auto options = std::make_shared<XmlOptions>();
   const auto add = [&](const char* name, const char* what, Work work) {
