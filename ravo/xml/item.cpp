@@ -7,6 +7,8 @@
 #include <ravo/xml/item_access.h>
 
 #include <algorithm>
+#include <memory>
+#include <vector>
 
 namespace ravo::ECXMLParser {
 
@@ -20,6 +22,10 @@ TXMLItem::~TXMLItem() {
   if (Has(kRare)) arena_->ForgetRare(this);
   if (!Has(kArenaBorn) && arena_ != nullptr) arena_->Release();
 }
+
+void* TXMLItem::operator new(std::size_t size) { return ::operator new(size); }
+
+void TXMLItem::operator delete(void* memory) noexcept { ::operator delete(memory); }
 
 void TXMLItem::operator delete(TXMLItem* item, std::destroying_delete_t) {
   xml::ItemArena* const arena = item->Has(kArenaBorn) ? item->arena_ : nullptr;
@@ -43,10 +49,11 @@ void TXMLItem::Clear() {
 }
 
 TXMLItem* TXMLItem::New() {
-  TXMLItem* const child = ItemAccess::NewBelow(*this, ItemAccess::Arena(*this));
-  ItemAccess::Append(*this, child);
+  std::unique_ptr<TXMLItem> child(ItemAccess::NewBelow(*this, ItemAccess::Arena(*this)));
+  ItemAccess::Append(*this, child.get());
+  TXMLItem* const listed = child.release();
   DoChanged();
-  return child;
+  return listed;
 }
 
 TXMLItem* TXMLItem::SubItems(std::int32_t Index) const {
@@ -142,19 +149,12 @@ void TXMLItem::SetParent(TXMLItem* Value) {
     if (above == this) throw Error(u"An item cannot stand below itself");
     if (children_.Count() == 0 && above == Value) break;
   }
+  if (Value != nullptr) ItemAccess::AppendStranger(*Value, this);
+  // From here on nothing can fail.
   ItemAccess::TellOutside(*this);
-  if (FParent != nullptr && FParent != Value) {
-    ItemAccess::RemoveAll(*FParent, this);
-    SetFlag(kListedTwice, false);
-  }
-  const bool again = FParent == Value && Value != nullptr;
+  if (FParent != nullptr && FParent != Value) ItemAccess::RemoveAll(*FParent, this);
+  SetFlag(kListedTwice, FParent == Value && Value != nullptr);
   FParent = Value;
-  if (Value == nullptr) return;
-  if (again) SetFlag(kListedTwice, true);
-  ItemAccess::TellOutside(*Value);
-  ItemAccess::Append(*Value, this);
-  // A parent without memory of its own yet must not be freed unseen either.
-  ItemAccess::Arena(*Value).CountOutside(1);
 }
 
 void* TXMLItem::Data() const {

@@ -35,6 +35,8 @@ class RAVO_API TXMLItem {
   TXMLItem(const TXMLItem&) = delete;
   TXMLItem& operator=(const TXMLItem&) = delete;
   ~TXMLItem();
+  static void* operator new(std::size_t size);
+  static void operator delete(void* memory) noexcept;
   static void operator delete(TXMLItem* item, std::destroying_delete_t);
 
   /// Frees the children and empties name, attributes and text. Reports nothing.

@@ -33,6 +33,13 @@ void ItemAccess::Append(Item& parent, Item* child) {
   if (parent.Has(Item::kArenaBorn)) TellOutside(parent);
 }
 
+// A parent without memory of its own yet must not be freed unseen either.
+void ItemAccess::AppendStranger(Item& parent, Item* child) {
+  ItemArena& arena = Arena(parent);
+  Append(parent, child);
+  arena.CountOutside(1);
+}
+
 void ItemAccess::AppendAll(Item& parent, std::span<Item* const> children) {
   if (children.empty()) return;
   parent.children_.AppendAll(children, Arena(parent));
@@ -53,39 +60,35 @@ void ItemAccess::Adopt(Item& item, ItemArena& arena) {
     TellOutside(item);
     return;
   }
-  RareParts kept;
-  const bool rare = item.Has(Item::kRare);
-  if (rare) kept = std::move(item.arena_->Rare(&item));
+  if (item.Has(Item::kRare)) arena.Rare(&item) = std::move(item.arena_->Rare(&item));
   if (item.arena_ != nullptr) {
     item.arena_->ForgetRare(&item);
     item.arena_->Release();
   }
   item.arena_ = &arena;
   arena.Hold();
-  if (rare) arena.Rare(&item) = std::move(kept);
 }
 
-const char* ItemAccess::KeepBytes(Item& item, std::string_view bytes, ItemArena* arena, Item::Flag owned) {
-  if (bytes.empty()) return nullptr;
-  if (arena != nullptr && arena == item.arena_) return arena->Keep(bytes);
+ItemAccess::Kept ItemAccess::KeepBytes(Item& item, std::string_view bytes, ItemArena* arena) {
+  if (bytes.empty()) return {nullptr, false};
+  if (arena != nullptr && arena == item.arena_) return {arena->Keep(bytes), false};
   static_cast<void>(Arena(item));
   auto* copy = new char[bytes.size()];
   std::memcpy(copy, bytes.data(), bytes.size());
-  item.SetFlag(owned, true);
   if (item.Has(Item::kArenaBorn)) TellOutside(item);
-  return copy;
+  return {copy, true};
 }
 
-void ItemAccess::FreeBody(Item& item) {
+void ItemAccess::FreeBody(Item& item) noexcept {
   if (item.Has(Item::kBodyOwned)) delete[] item.body_;
   item.SetFlag(Item::kBodyOwned, false);
   item.body_ = nullptr;
   item.body_size_ = item.name_size_ = 0;
 }
 
-void ItemAccess::FreeText(Item& item) {
+void ItemAccess::FreeText(Item& item) noexcept {
   if (item.Has(Item::kTextOwned)) delete[] item.text_;
-  if (item.Has(Item::kWideText)) MakeRare(item).text.clear();
+  if (item.Has(Item::kWideText)) item.arena_->FoundRare(&item).text.clear();
   item.flags_ &= ~std::uint32_t{Item::kTextOwned | Item::kWideText | Item::kHasText};
   item.text_ = nullptr;
   item.text_size_ = 0;
@@ -94,20 +97,20 @@ void ItemAccess::FreeText(Item& item) {
 // `bytes` may be part of what the item has now.
 void ItemAccess::SetBody(Item& item, std::string_view bytes, std::size_t name_size, ItemArena* arena) {
   const auto size = CheckedCast<std::uint32_t>(bytes.size());
-  const std::uint32_t owned_before = item.flags_ & Item::kBodyOwned;
-  const char* const before = item.body_;
-  const char* const kept = KeepBytes(item, bytes, arena, Item::kBodyOwned);
-  if (owned_before != 0) delete[] before;
-  if (kept == nullptr || (arena != nullptr && arena == item.arena_)) item.SetFlag(Item::kBodyOwned, false);
-  item.body_ = kept;
+  const Kept kept = KeepBytes(item, bytes, arena);
+  FreeBody(item);
+  item.SetFlag(Item::kBodyOwned, kept.owned);
+  item.body_ = kept.bytes;
   item.body_size_ = size;
   item.name_size_ = static_cast<std::uint32_t>(name_size);
 }
 
 void ItemAccess::SetTextWritten(Item& item, std::string_view written, bool has_text, ItemArena* arena) {
-  FreeText(item);
   const auto size = CheckedCast<std::uint32_t>(written.size());
-  item.text_ = KeepBytes(item, written, arena, Item::kTextOwned);
+  const Kept kept = KeepBytes(item, written, arena);
+  FreeText(item);
+  item.SetFlag(Item::kTextOwned, kept.owned);
+  item.text_ = kept.bytes;
   item.text_size_ = size;
   item.SetFlag(Item::kHasText, has_text);
 }
@@ -163,13 +166,16 @@ void ItemAccess::SetName(Item& item, std::u16string_view name) {
   name = Trimmed(name);
   const std::string attributes(BodyBytes(item).substr(item.name_size_));
   std::string bytes;
-  const bool narrow = Arena(item).Page().Narrow(name, bytes);
-  if (!narrow) {
-    bytes.clear();
-    MakeRare(item).name = name;
+  if (Arena(item).Page().Narrow(name, bytes)) {
+    SetBody(item, bytes + attributes, bytes.size(), nullptr);
+    item.SetFlag(Item::kWideName, false);
+    return;
   }
-  item.SetFlag(Item::kWideName, !narrow);
-  SetBody(item, bytes + attributes, bytes.size(), nullptr);
+  std::u16string wide(name);
+  RareParts& rare = MakeRare(item);
+  SetBody(item, attributes, 0, nullptr);
+  rare.name = std::move(wide);
+  item.SetFlag(Item::kWideName, true);
 }
 
 void ItemAccess::SetText(Item& item, std::u16string_view text) {
@@ -179,9 +185,10 @@ void ItemAccess::SetText(Item& item, std::u16string_view text) {
     SetTextWritten(item, bytes, has_text, nullptr);
     return;
   }
-  std::u16string copy(text);
+  std::u16string wide(text);
+  RareParts& rare = MakeRare(item);
   FreeText(item);
-  MakeRare(item).text = std::move(copy);
+  rare.text = std::move(wide);
   item.flags_ |= Item::kWideText | (has_text ? Item::kHasText : 0U);
 }
 
@@ -204,18 +211,22 @@ StringList ItemAccess::Params(const Item& item) {
   return params;
 }
 
-void ItemAccess::ClearParts(Item& item) {
+void ItemAccess::ClearParts(Item& item) noexcept {
   FreeBody(item);
   FreeText(item);
   item.flags_ &= ~std::uint32_t{Item::kWideName | Item::kParamList};
-  if (item.Has(Item::kRare)) {
-    RareParts& rare = MakeRare(item);
+  if (!item.Has(Item::kRare)) return;
+  RareParts& rare = item.arena_->FoundRare(&item);
+  if (rare.data != nullptr) {
     rare = RareParts{.data = rare.data, .name = {}, .text = {}, .params = nullptr};
+    return;
   }
+  item.arena_->ForgetRare(&item);
+  item.SetFlag(Item::kRare, false);
 }
 
 // Walks down to the last leaf and up again, so that depth costs no stack.
-void ItemAccess::FreeChildren(Item& top) {
+void ItemAccess::FreeChildren(Item& top) noexcept {
   if (!top.Has(Item::kArenaBorn) && top.arena_ != nullptr && top.arena_->IsClosed()) {
     ClearParts(top);
     top.children_.Free();

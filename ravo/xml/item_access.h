@@ -20,6 +20,8 @@ class ItemAccess {
   /// A child-to-be, not yet listed.
   [[nodiscard]] static Item* NewBelow(Item& parent, ItemArena& arena);
   static void Append(Item& parent, Item* child);
+  /// The same for an item that was not born below this one.
+  static void AppendStranger(Item& parent, Item* child);
   static void AppendAll(Item& parent, std::span<Item* const> children);
   static void RemoveAll(Item& parent, const Item* child);
   static void ForgetParent(Item& item) noexcept { item.FParent = nullptr; }
@@ -70,16 +72,22 @@ class ItemAccess {
   static RareParts& MakeRare(Item& item);
   static void TellOutside(Item& item);
   static void SetSilent(Item& item, bool silent) noexcept { item.SetFlag(Item::kSilent, silent); }
-  static void FreeChildren(Item& item);
-  static void ClearParts(Item& item);
+  static void FreeChildren(Item& item) noexcept;
+  static void ClearParts(Item& item) noexcept;
 
  private:
   static void SetBody(Item& item, std::string_view bytes, std::size_t name_size, ItemArena* arena);
   static void SetTextWritten(Item& item, std::string_view written, bool has_text, ItemArena* arena);
   static void SetParts(Item& item, const TagParts& parts, ItemArena& arena);
-  static void FreeBody(Item& item);
-  static void FreeText(Item& item);
-  static const char* KeepBytes(Item& item, std::string_view bytes, ItemArena* arena, Item::Flag owned);
+  static void FreeBody(Item& item) noexcept;
+  static void FreeText(Item& item) noexcept;
+
+  // Bytes in the arena, or the item's own.
+  struct Kept {
+    const char* bytes;
+    bool owned;
+  };
+  static Kept KeepBytes(Item& item, std::string_view bytes, ItemArena* arena);
 };
 
 }  // namespace ravo::xml

@@ -64,6 +64,10 @@ class ItemArena {
     const auto at = rare_.find(item);
     return at != rare_.end() ? &at->second : nullptr;
   }
+  /// Those of an item that has some.
+  [[nodiscard]] RareParts& FoundRare(const ECXMLParser::TXMLItem* item) noexcept {
+    return rare_.find(item)->second;
+  }
   void ForgetRare(const ECXMLParser::TXMLItem* item) { rare_.erase(item); }
 
  private:

@@ -14,19 +14,17 @@ TreeLoader::TreeLoader(ECXMLParser::TXMLItem& top, TXMLTokenizer& tokenizer)
   open_.push_back({&top, 0, nullptr});
 }
 
-TreeLoader::~TreeLoader() { arena_->Release(); }
-
 void TreeLoader::Run() {
   try {
     while (tokenizer_.Token() != xtEndOfInput) {
       TakeToken();
       tokenizer_.NextToken();
     }
-  } catch (...) {
     while (!open_.empty()) CloseFrame();
+  } catch (...) {
+    while (!open_.empty()) CloseFrameOrDrop();
     throw;
   }
-  while (!open_.empty()) CloseFrame();
 }
 
 void TreeLoader::TakeToken() {
@@ -57,9 +55,15 @@ TreeLoader::Frame& TreeLoader::Current() {
 }
 
 ECXMLParser::TXMLItem* TreeLoader::NewChild(Frame& parent) {
-  Item* const child = ItemAccess::NewBelow(*parent.item, *arena_);
-  children_.push_back(child);
-  return child;
+  // In two steps, so that an item that was made is never lost.
+  children_.push_back(nullptr);
+  try {
+    children_.back() = ItemAccess::NewBelow(*parent.item, *arena_);
+  } catch (...) {
+    children_.pop_back();
+    throw;
+  }
+  return children_.back();
 }
 
 void TreeLoader::TakeOpenTag() {
@@ -86,20 +90,34 @@ void TreeLoader::TakeCloseTag() {
 }
 
 void TreeLoader::CloseFrame() {
-  const Frame frame = std::move(open_.back());
-  open_.pop_back();
-  const auto mine = std::span<Item* const>(children_).subspan(frame.first_child);
-  ItemAccess::AppendAll(*frame.item, mine);
+  const Frame& frame = open_.back();
+  ItemAccess::AppendAll(*frame.item, std::span<Item* const>(children_).subspan(frame.first_child));
   children_.resize(frame.first_child);
-  if (frame.texts == nullptr) return;
-  // Each text that joins makes what is there already be unescaped once more.
+  if (frame.texts != nullptr) ItemAccess::SetTextBytes(*frame.item, Joined(*frame.texts), *arena_);
+  open_.pop_back();
+}
+
+// Where memory ends even for that, what was not listed yet is freed.
+void TreeLoader::CloseFrameOrDrop() noexcept {
+  try {
+    CloseFrame();
+  } catch (const std::exception&) {
+    for (; children_.size() > open_.back().first_child; children_.pop_back()) {
+      ItemAccess::ForgetParent(*children_.back());
+      delete children_.back();
+    }
+    open_.pop_back();
+  }
+}
+
+// Each text that joins makes what is there already be unescaped once more.
+std::string TreeLoader::Joined(const Pieces& pieces) {
   std::string text;
-  const Pieces& pieces = *frame.texts;
   for (std::size_t i = 0; i < pieces.size(); ++i) {
     if (i > 0) text += "\r\n";
     text += Unescaped(pieces[i], pieces.size() - 1 - i);
   }
-  ItemAccess::SetTextBytes(*frame.item, text, *arena_);
+  return text;
 }
 
 std::string_view TreeLoader::TokenText(std::string& scratch) const {

@@ -18,7 +18,6 @@ class TreeLoader {
   TreeLoader(ECXMLParser::TXMLItem& top, ECXMLTokenizer::TXMLTokenizer& tokenizer);
   TreeLoader(const TreeLoader&) = delete;
   TreeLoader& operator=(const TreeLoader&) = delete;
-  ~TreeLoader();
 
   /// Whatever was built stays where an error passes through.
   void Run();
@@ -43,12 +42,17 @@ class TreeLoader {
   Frame& Current();
   Item* NewChild(Frame& parent);
   void CloseFrame();
+  void CloseFrameOrDrop() noexcept;
+  [[nodiscard]] static std::string Joined(const Pieces& pieces);
   void JoinText(Frame& frame, std::string_view text);
   std::string_view TokenText(std::string& scratch) const;
 
   ECXMLTokenizer::TXMLTokenizer& tokenizer_;
   ECXMLParser::TECXMLParser* parser_;
-  ItemArena* arena_;
+  struct ReleaseArena {
+    void operator()(ItemArena* arena) const noexcept { arena->Release(); }
+  };
+  std::unique_ptr<ItemArena, ReleaseArena> arena_;
   std::vector<Frame> open_;
   std::vector<Item*> children_;
 };
