@@ -49,7 +49,7 @@ TEST(FindEither, FindsEachByteAtEveryPlace) {
 
 TEST(EndOfOrdinary, IsEachByteThatIsSpecialAtEveryPlace) {
   for (int byte = 0; byte < 256; ++byte) {
-    for (const std::size_t place : {0, 1, 14, 15, 16, 17, 31, 32, 40}) {
+    for (const std::size_t place : {0U, 1U, 14U, 15U, 16U, 17U, 31U, 32U, 40U}) {
       std::string text(41, 'x');
       text[place] = static_cast<char>(byte);
       const Room room(text);

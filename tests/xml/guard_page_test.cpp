@@ -1,3 +1,5 @@
+#ifndef RAVO_SANITIZED
+
 #include "documents.h"
 #include "plain_tokens.h"
 #include "plain_tree.h"
@@ -13,7 +15,7 @@
 #include <gtest/gtest.h>
 
 /// Buffers of the tokenizer, memory of the tree and texts of items, each before a page that must not be
-/// touched. A sanitizer watches them with its own means.
+/// touched. Where a sanitizer watches them with its own means there is nothing to do.
 namespace {
 
 using namespace ravo;
@@ -48,7 +50,6 @@ void FreeArray(void* array) {
 
 }  // namespace
 
-#ifndef RAVO_SANITIZED
 void* operator new[](std::size_t bytes) {
   if (guarding) return GuardedArray(bytes);
   if (void* array = std::malloc(bytes > 0 ? bytes : 1)) return array;
@@ -56,18 +57,15 @@ void* operator new[](std::size_t bytes) {
 }
 void operator delete[](void* array) noexcept { FreeArray(array); }
 void operator delete[](void* array, std::size_t) noexcept { FreeArray(array); }
-#endif
 
 namespace {
 
-#ifndef RAVO_SANITIZED
 TEST(GuardPages, StandBehindArraysOfTheLibrary) {
   SplitStream stream("<a>");
   const Guarding guard;
   const SmallTokenizer tokenizer(stream, 100);
   EXPECT_EQ(Guarded().size(), 1U);
 }
-#endif
 
 TEST(GuardPages, AreNotTouchedByTheTokenizer) {
   const Guarding guard;
@@ -120,3 +118,5 @@ TEST(GuardPages, AreNotTouchedByTheTree) {
 }
 
 }  // namespace
+
+#endif
