@@ -43,7 +43,6 @@ class ItemAccess {
     return item.name_size_ != 0 || item.Has(Item::kWideName);
   }
   [[nodiscard]] static bool HasText(const Item& item) noexcept { return item.Has(Item::kHasText); }
-  [[nodiscard]] static bool HasWideText(const Item& item) noexcept { return item.Has(Item::kWideText); }
   [[nodiscard]] static std::string_view NameBytes(const Item& item) noexcept {
     return {item.body_, item.name_size_};
   }
@@ -67,11 +66,9 @@ class ItemAccess {
     return item.Has(Item::kParamList) ? Rare(item)->params.get() : nullptr;
   }
   [[nodiscard]] static const ChildList& Children(const Item& item) noexcept { return item.children_; }
-  [[nodiscard]] static ChildList& Children(Item& item) noexcept { return item.children_; }
 
   static RareParts& MakeRare(Item& item);
   static void TellOutside(Item& item);
-  static void SetSilent(Item& item, bool silent) noexcept { item.SetFlag(Item::kSilent, silent); }
   static void FreeChildren(Item& item) noexcept;
   static void ClearParts(Item& item) noexcept;
 

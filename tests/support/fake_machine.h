@@ -49,7 +49,7 @@ struct FakeDrive {
 
 /// A machine whose every answer is a plain member. As it stands it knows nothing at all: an unknown system
 /// without drives, files, registry, names and folders.
-class FakeMachine final : public platform::Machine {
+class FakeMachine : public platform::Machine {
  public:
   platform::SystemVersion version;
   bool is_server_r2 = false;

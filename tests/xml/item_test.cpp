@@ -313,4 +313,75 @@ TEST(TXMLItem, ReadsTheCodePageOfTheTimeItWasLoaded) {
             "<?xml version=\"1.0\" encoding=\"\" ?>\r\n  <a x=\"\xE8\x80\">\r\n    \xE8\x80\r\n  </a>\r\n");
 }
 
+// A code page of Eastern Asia in short: a byte from 81 on and the one behind it are a character.
+class TwoByteMachine final : public FakeMachine {
+ public:
+  TwoByteMachine() { code_page = 932; }
+  [[nodiscard]] std::u16string FromCodePage(std::string_view bytes) const override {
+    std::u16string text;
+    for (std::size_t i = 0; i < bytes.size(); ++i) {
+      const auto byte = static_cast<unsigned char>(bytes[i]);
+      if (byte <= 0x80) {
+        text += char16_t{byte};
+      } else if (i + 1 < bytes.size()) {
+        text += static_cast<char16_t>(byte << 8 | static_cast<unsigned char>(bytes[++i]));
+      } else {
+        text += u'?';
+      }
+    }
+    return text;
+  }
+  [[nodiscard]] std::string ToCodePage(std::u16string_view text) const override {
+    std::string bytes;
+    for (const char16_t unit : text) {
+      if (unit <= 0x80) {
+        bytes += static_cast<char>(unit);
+      } else if (unit >= 0x8100) {
+        bytes += {static_cast<char>(unit >> 8), static_cast<char>(unit & 0xFF)};
+      } else {
+        bytes += '?';
+      }
+    }
+    return bytes;
+  }
+};
+
+TEST(TXMLItem, KeepsTextOfACodePageOfTwoBytes) {
+  const TwoByteMachine machine;
+  const platform::ScopedMachine scope(machine);
+  TECXMLParser parser;
+  const std::string body = "  <\x81\x40 x=\"\x82\x41\">\r\n    \x9F\x42z\r\n  </\x81\x40>\r\n";
+  LoadRoot(parser, body);
+  EXPECT_EQ(parser.Root()->Name(), u"\u8140");
+  EXPECT_EQ(parser.Root()->Params().Value(u"x"), u"\u8241");
+  EXPECT_EQ(parser.Root()->Text(), u"\u9F42z");
+  EXPECT_EQ(Saved(parser), "<?xml version=\"1.0\" encoding=\"\" ?>\r\n" + body);
+  parser.Root()->SetText(u"\u8241\u8230\u0159");
+  EXPECT_EQ(parser.Root()->Text(), u"\u8241\u8230\u0159");
+  EXPECT_EQ(parser.Root()->XMLItemAsString(0),
+            u"<\u8140 x=\"\u8241\">\r\n  \u8241\u8230\u0159\r\n</\u8140>\r\n");
+}
+
+TEST(TXMLItem, KeepsHalvesOfCharactersAsTheyReadAlone) {
+  const TwoByteMachine machine;
+  const platform::ScopedMachine scope(machine);
+  TECXMLParser parser;
+  LoadRoot(parser, "<a>b\x83<c/>d&amp;amp;\x84<c/></a>");
+  EXPECT_EQ(parser.Root()->Text(), u"b?\r\nd&amp;?");
+}
+
+TEST(TXMLItem, WithDataIsLoadedAgain) {
+  TECXMLParser parser;
+  TXMLItem* const root = parser.Root();
+  root->SetData(&parser);
+  LoadRoot(parser, "<a>x</a>");
+  LoadRoot(parser, "<b y='1 2'/>");
+  EXPECT_EQ(root->Data(), &parser);
+  root->Clear();
+  EXPECT_EQ(root->Data(), &parser);
+  root->SetData(nullptr);
+  root->Clear();
+  EXPECT_EQ(root->AsString(), u"</>\r\n");
+}
+
 }  // namespace
