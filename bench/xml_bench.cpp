@@ -189,7 +189,10 @@ int main(int argc, char** argv) {
       {"1 MB", AccountingExport(1'000'000), Converted(AccountingExport(1'000'000), "CP1250", "UTF-8")},
       {"50 MB", AccountingExport(50'000'000), Converted(AccountingExport(50'000'000), "CP1250", "UTF-8")},
   };
-  for (const Size& size : sizes) PrintPeaks(size);
   for (const Size& size : sizes) RegisterSize(size);
-  return RunWithRatios(argc, argv);
+  const int result = RunWithRatios(argc, argv);
+  // Behind the table, which the page of figures takes to its end.
+  std::printf("\n");
+  for (const Size& size : sizes) PrintPeaks(size);
+  return result;
 }
