@@ -99,6 +99,18 @@ TEST(Events, AreSilentForTheRest) {
   EXPECT_EQ(log.Take(), "");
 }
 
+TEST(Events, AreUnassignedAtFirst) {
+  TECXMLParser parser;
+  const auto assigned = [&] {
+    return std::array{bool(parser.XMLItemChanged()), bool(parser.OnLoaded()),   bool(parser.OnSaved()),
+                      bool(parser.OnCleared()),      bool(parser.BeforeLoad()), bool(parser.BeforeSave()),
+                      bool(parser.BeforeClear())};
+  };
+  EXPECT_THAT(assigned(), testing::Each(false));
+  const Log log(parser);
+  EXPECT_THAT(assigned(), testing::Each(true));
+}
+
 TEST(Events, OfLoading) {
   TECXMLParser parser;
   Log log(parser);

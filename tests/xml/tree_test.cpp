@@ -198,6 +198,8 @@ std::string ErrorOf(std::string_view text) {
 
 TEST(LoadFromStream, RaisesContentOutsideOfEveryElement) {
   EXPECT_EQ(ErrorOf("<a></a>\n</a>"), "Close tag without an open tag on line 2");
+  // Nothing is asked of the item that is not there.
+  EXPECT_EQ(ErrorOf("</a>"), "nothing");
   EXPECT_EQ(ErrorOf("</a></a>"), "Close tag without an open tag on line 1");
   EXPECT_EQ(ErrorOf("<a></a>\n\n<b/>"), "Content behind the end of the document on line 3");
   EXPECT_EQ(ErrorOf("<a></a><b>"), "Content behind the end of the document on line 1");
