@@ -189,6 +189,9 @@ class RAVO_API Machine {
   /// Sends a text to an attached debugger, where the system has such a channel.
   virtual void DebugOutput(std::u16string_view text) const = 0;
 
+  /// Whether two texts are equal without regard to case, as the user's language compares them.
+  [[nodiscard]] virtual bool SameText(std::u16string_view left, std::u16string_view right) const = 0;
+
   // Resource texts.
   /// A string of the module's string table, of the module itself (not of what it links to); no value where it
   /// has none under that number. The view lives as long as the module stays loaded.
