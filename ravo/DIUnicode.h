@@ -1,4 +1,7 @@
 #pragma once
 
-/// The Unicode text library: the character database.
+/// The Unicode text library: the character database, reader and writer.
 #include <ravo/unicode/characters.h>
+#include <ravo/unicode/messages.h>
+#include <ravo/unicode/unicode_reader.h>
+#include <ravo/unicode/unicode_writer.h>
