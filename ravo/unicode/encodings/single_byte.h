@@ -2,6 +2,7 @@
 
 #include <ravo/unicode/encodings/byte_spans.h>
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -12,15 +13,15 @@ namespace ravo::DIUnicode {
 
 using ByteTable = std::array<char16_t, 256>;
 
-/// A table from characters to bytes. Page 0 is empty and stands for all pages without characters. Where
-/// several bytes mean one character, the lowest stands for it.
+/// A table from characters to bytes. The first page is empty and stands for all pages without characters.
+/// Where several bytes mean one character, the lowest stands for it.
 struct ReverseTable {
-  const std::uint8_t* page_of;  ///< by the upper byte of the character
-  const std::uint8_t* pages;    ///< 256 bytes each; 0 means none, but for the character 0
+  const std::uint16_t* page_of;  ///< by the upper byte of the character: where its page begins
+  const std::uint8_t* pages;     ///< 256 bytes each; 0 means none, but for the character 0
 
   /// The byte of `ch`; 0 where there is none or the byte is 0, which is the byte of U+0000 in every table.
   [[nodiscard]] constexpr std::uint8_t operator[](char16_t ch) const noexcept {
-    return pages[std::size_t{page_of[ch >> 8]} << 8 | (ch & 0xFF)];
+    return pages[page_of[ch >> 8] + (ch & 0xFFU)];
   }
 };
 
@@ -32,29 +33,24 @@ class Reversed {
  private:
   static constexpr std::size_t CountPages() {
     std::array<bool, 256> used{};
-    std::size_t count = 0;
-    for (const char16_t ch : table) {
-      if (ch == kReplacement || used[ch >> 8]) continue;
-      used[ch >> 8] = true;
-      ++count;
-    }
-    return count;
+    for (const char16_t ch : table) used[ch >> 8] = used[ch >> 8] || ch != kReplacement;
+    return static_cast<std::size_t>(std::count(used.begin(), used.end(), true));
   }
 
   struct Stages {
-    std::array<std::uint8_t, 256> page_of{};
+    std::array<std::uint16_t, 256> page_of{};
     std::array<std::uint8_t, 256 * (CountPages() + 1)> pages{};
   };
 
   static constexpr Stages Make() {
     Stages stages;
-    std::uint8_t last = 0;
+    std::uint16_t last = 0;
     for (std::size_t byte = 0; byte < table.size(); ++byte) {
       const char16_t ch = table[byte];
       if (ch == kReplacement) continue;
-      std::uint8_t& page = stages.page_of[ch >> 8];
-      if (page == 0) page = ++last;
-      std::uint8_t& entry = stages.pages[std::size_t{page} * 256 + (ch & 0xFF)];
+      std::uint16_t& page = stages.page_of[ch >> 8];
+      if (page == 0) page = last = static_cast<std::uint16_t>(last + 256);
+      std::uint8_t& entry = stages.pages[page + (ch & 0xFFU)];
       if (entry == 0) entry = static_cast<std::uint8_t>(byte);
     }
     return stages;
@@ -63,9 +59,18 @@ class Reversed {
   static constexpr Stages kStages = Make();
 };
 
+/// Whether the bytes below 80 are those of ASCII.
+constexpr bool HasAscii(const ByteTable& table) noexcept {
+  for (std::size_t byte = 0; byte < 0x80; ++byte) {
+    if (table[byte] != byte) return false;
+  }
+  return true;
+}
+
 template <const ByteTable& table>
 struct SingleByte {
   static_assert(table[0] == 0, "byte 0 must be U+0000: it tells a byte from none");
+  static constexpr std::size_t kMostBytes = 1;
 
   template <class Source>
   static bool Decode(Source& source, char16_t& ch) {

@@ -9,6 +9,8 @@ namespace ravo::DIUnicode {
 
 /// UTF-8 of units of UTF-16, each by itself.
 struct Utf8 {
+  static constexpr std::size_t kMostBytes = 3;
+
   /// A sequence that is cut short or not the shortest, a byte that begins none, and every sequence of four to
   /// six bytes give U+FFFD. What does not continue a sequence is left for the next character.
   template <class Source>

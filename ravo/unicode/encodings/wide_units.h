@@ -3,6 +3,7 @@
 #include <ravo/unicode/encodings/byte_order.h>
 #include <ravo/unicode/encodings/byte_spans.h>
 
+#include <cstddef>
 #include <utility>
 
 /// The encodings of two and of four bytes. A unit that the end of the data cuts short ends the data.
@@ -10,6 +11,8 @@ namespace ravo::DIUnicode {
 
 template <class Order>
 struct Ucs2 {
+  static constexpr std::size_t kMostBytes = 2;
+
   template <class Source>
   static bool Decode(Source& source, char16_t& ch) {
     return Order::Next(source, ch);
@@ -24,6 +27,8 @@ struct Ucs2 {
 
 template <class Order>
 struct Utf16 {
+  static constexpr std::size_t kMostBytes = 2;
+
   template <class Source>
   static bool Decode(Source& source, char16_t& ch) {
     if (!Order::Next(source, ch)) return false;
@@ -46,6 +51,8 @@ struct Utf16 {
 
 template <class Order>
 struct Ucs4 {
+  static constexpr std::size_t kMostBytes = 4;
+
   template <class Source>
   static bool Decode(Source& source, char16_t& ch) {
     char16_t upper = 0;
@@ -65,6 +72,8 @@ struct Ucs4 {
 
 template <class Order>
 struct Utf32 {
+  static constexpr std::size_t kMostBytes = 4;
+
   template <class Source>
   static bool Decode(Source& source, char16_t& ch) {
     if (!Ucs4<Order>::Decode(source, ch)) return false;
