@@ -1,3 +1,4 @@
+#include <ravo/unicode/encodings.h>
 #include <ravo/unicode/encodings/runs.h>
 #include <ravo/unicode/unicode_reader.h>
 
@@ -7,13 +8,6 @@ namespace ravo::DIUnicode {
 namespace {
 
 bool IsLineBreak(char16_t ch) { return ch == u'\r' || ch == u'\n'; }
-
-bool Iso_8859_1_ReadChar(TDIUnicodeReader& reader, char16_t& ch) {
-  std::uint8_t byte = 0;
-  if (!reader.NextByte(byte)) return false;
-  ch = byte;
-  return true;
-}
 
 }  // namespace
 
@@ -31,7 +25,7 @@ void TDIUnicodeReader::UseReadMethods(const TDIUnicodeReadMethods& methods) {
   FReadMethods = methods;
   if (FReadMethods.ReadChar == nullptr) {
     FReadMethods.Init = nullptr;
-    FReadMethods.ReadChar = Iso_8859_1_ReadChar;
+    FReadMethods.ReadChar = Read_Iso_8859_1_ReadChar;
   }
   FDecodeRun = DecodeRunOf(FReadMethods);
 }

@@ -1,3 +1,4 @@
+#include <ravo/unicode/encodings.h>
 #include <ravo/unicode/encodings/runs.h>
 #include <ravo/unicode/messages.h>
 #include <ravo/unicode/unicode_writer.h>
@@ -5,16 +6,6 @@
 #include <exception>
 
 namespace ravo::DIUnicode {
-namespace {
-
-bool Iso_8859_1_WriteChar(TDIUnicodeWriter& writer, char16_t ch) {
-  if (ch > 0xFF) return false;
-  writer.WriteByte(static_cast<std::uint8_t>(ch));
-  return true;
-}
-
-}  // namespace
-
 TDIUnicodeWriter::TDIUnicodeWriter(TComponent* AOwner) : TDIUnicodeBase(AOwner) { UseWriteMethods({}); }
 
 TDIUnicodeWriter::~TDIUnicodeWriter() {
@@ -37,7 +28,7 @@ void TDIUnicodeWriter::UseWriteMethods(const TDIUnicodeWriteMethods& methods) {
   FWriteMethods = methods;
   if (FWriteMethods.WriteChar == nullptr) {
     FWriteMethods.Init = nullptr;
-    FWriteMethods.WriteChar = Iso_8859_1_WriteChar;
+    FWriteMethods.WriteChar = Write_Iso_8859_1_WriteChar;
   }
   FEncodeRun = EncodeRunOf(FWriteMethods);
 }
