@@ -34,8 +34,7 @@ void WriteCharacter(DIUnicode::TDIUnicodeWriter& writer, char16_t ch) {
 void WriteTextString(ByteStream& stream, std::string_view bytes) {
   DIUnicode::TDIUnicodeReader reader(nullptr);
   reader.SetReadMethods(DIUnicode::Read_Windows_1250);
-  reader.SetSourceBuffer(reinterpret_cast<const std::uint8_t*>(bytes.data()),
-                         CheckedCast<std::uint32_t>(bytes.size()));
+  reader.SetSourceBufferAsStrA(bytes);
   DIUnicode::TDIUnicodeWriter writer(nullptr);
   writer.SetWriteMethods(DIUnicode::Write_UTF_16_BE);
   writer.SetDataStream(&stream);

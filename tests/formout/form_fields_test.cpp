@@ -112,7 +112,7 @@ TEST(FormFields, FollowEachOther) {
   stream.WriteChecked(std::as_bytes(std::span("[....", 5)));
   stream.SetPosition(1);
   FillPDFField(stream, u"a", u"b", false);
-  EXPECT_EQ(stream.Position(), 14);
+  EXPECT_EQ(stream.Position(), 15);
   FillPDFField(stream, u"c", u"d", true);
   FillPDFFieldAsInteger(stream, u"e", 1);
   EXPECT_EQ(stream.Position(), stream.Size());
