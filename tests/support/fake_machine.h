@@ -75,6 +75,8 @@ class FakeMachine : public platform::Machine {
   std::uint32_t code_page = 1250;
   /// Bytes that are other characters than in Windows-1250.
   std::map<char, char16_t> other_bytes;
+  /// The code pages of locales.
+  std::map<std::uint32_t, std::uint32_t> locale_code_pages;
 
   std::map<platform::ModuleHandle, std::map<std::uint16_t, std::u16string>> resource_texts;
   /// What loading a file of resources gives.
@@ -118,6 +120,11 @@ class FakeMachine : public platform::Machine {
   [[nodiscard]] std::u16string FromCodePage(std::string_view bytes) const override;
   [[nodiscard]] std::string ToCodePage(std::u16string_view text) const override;
   [[nodiscard]] bool SameText(std::u16string_view left, std::u16string_view right) const override;
+  [[nodiscard]] std::optional<std::u16string> DecodeCodePage(std::uint32_t code_page,
+                                                             std::string_view bytes) const override;
+  [[nodiscard]] std::optional<std::string> EncodeCodePage(std::uint32_t code_page,
+                                                          std::u16string_view text) const override;
+  [[nodiscard]] std::optional<std::uint32_t> CodePageOfLocale(std::uint32_t locale) const override;
   void DebugOutput(std::u16string_view text) const override { debug_output.emplace_back(text); }
   [[nodiscard]] std::optional<std::u16string_view> ResourceText(platform::ModuleHandle module,
                                                                 std::uint16_t id) const override;

@@ -363,6 +363,10 @@ ROWS = [
     Row(["backup-name", "%firma%.zip", "A/B: s.r.o."], exact="AB s.r.o..zip\n"),
     Row(["backup-name", "%DATUM%_%CAS%"], holds=lambda out: not re.fullmatch(r"\d{6}_\d{6}\n", out)),
     Row(["backup-name"], WRONG_USAGE),
+    # Forms.
+    Row(["form", "--help"], out=("field, value", "number", "Examples:")),
+    Row(["form", "fields.csv"], WRONG_USAGE),
+    Row(["form", "missing.csv", "-o", "form.fdf"], WRONG_USAGE, exact="", err=("missing.csv: cannot be read",)),
     # The report.
     Row(["report"], out=("Informace o klientské vrstvě\n\tČasové informace\n\t\tAktuální datum: ", "\n\tSoubory\n\t\tVCL\n")),
     Row(["report", "--business"], out=("Informace o aplikační vrstvě\n\tČasové informace\n",)),
@@ -594,6 +598,50 @@ def check_xml_samples(program):
         before.unlink()
 
 
+FORM_START = b"%FDF-1.2\n%\xE2\xE3\xCF\xD3\n1 0 obj\n<</FDF<</Fields["
+FORM_END = b"]>>>>\nendobj\ntrailer\n<</Root 1 0 R>>\n%%EOF\n"
+
+
+def check_forms(program):
+    """A table of fields becomes a forms data file, byte for byte; what no form can take names its line."""
+    table, form = program.folder / "pole.csv", program.folder / "formulář.fdf"
+    command = ["form", table.name, "-o", form.name]
+    for text, fields in (
+        ("field,value\n", b""),
+        ("field,value\nJméno,č\n", b"<</T(Jm\xE9no)/V(\xFE\xFF\x01\\r)>>"),
+        ("kind;value;field\nplain;Novák (ml.);J\nnumber;-1;A\n;;B\ntext;a;C\n",
+         b"<</T(J)/V(Nov\xE1k (ml.))>><</T(A)/V/-1>><</T(B)/V(\xFE\xFF)>><</T(C)/V(\xFE\xFF\0a)>>"),
+    ):
+        for encoding in ("utf-8", "cp1250"):
+            table.write_bytes(text.encode(encoding))
+            result = program.run(command)
+            count = fields.count(b"<</T(")
+            if (result.status, result.out, result.err) != (YES, f"{form.name}: {count} fields\n", ""):
+                yield f"form {text!r}: {result}"
+            elif form.read_bytes() != FORM_START + fields + FORM_END:
+                yield f"form {text!r}: {form.read_bytes()!r}"
+    before = form.read_bytes()
+    for text, told in (
+        ("", "no first row"),
+        ("field\na\n", "line 1: there is no column 'value'"),
+        ("field,value\na,1\n,2\n", "line 3: a field without a name"),
+        ("field,value\na,(\n", "line 2: '(' has"),
+        ("field,value\na,)(\n", "line 2: ')(' has"),
+        ("field,value\na,C:\\\n", "line 2: 'C:\\' has"),
+        ("field,value\na,語\n", "line 2: the code page of forms has no '語'"),
+        ("field,value\n(,a\n", "line 2: '(' has"),
+        ("field,value,kind\na,1,box\n", "line 2: 'box' is no kind"),
+        ("field,value,kind\na,1.5,number\n", "line 2: '1.5' is no number"),
+        ("field,value,kind\na,2147483648,number\n", "line 2: '2147483648' is no number"),
+    ):
+        table.write_text(text, encoding="utf-8", newline="")
+        yield from program.failures(Row(command, WRONG_USAGE, exact="", err=(table.name, told)))
+    if form.read_bytes() != before:
+        yield "form: a table that no form can take changed the file"
+    table.unlink()
+    form.unlink()
+
+
 def check_full_device(program):
     """Output that cannot be written is no success."""
     if program.emulated or not pathlib.Path("/dev/full").exists():
@@ -657,6 +705,7 @@ CHECKS = (
     check_xml_encodings,
     check_xml_unreadable,
     check_xml_samples,
+    check_forms,
 )
 
 

@@ -24,5 +24,6 @@ void AddAddressCommand(CLI::App& program, Outcome& outcome);
 void AddBackupNameCommand(CLI::App& program, Outcome& outcome);
 void AddInterfacesCommand(CLI::App& program, Outcome& outcome);
 void AddXmlCommand(CLI::App& program, Outcome& outcome);
+void AddFormCommand(CLI::App& program, Outcome& outcome);
 
 }  // namespace tool

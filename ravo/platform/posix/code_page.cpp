@@ -12,6 +12,7 @@ namespace ravo::platform::posix {
 namespace {
 
 constexpr std::uint32_t kWindows1250 = 1250;
+constexpr std::uint32_t kUtf8 = 65001;
 constexpr std::size_t kAscii = 0x80;
 
 constexpr std::uint16_t kUpperHalf[] = {
@@ -66,6 +67,21 @@ bool PosixMachine::SameText(std::u16string_view left, std::u16string_view right)
     return static_cast<char16_t>(towlower_l(unit, characters));
   };
   return std::ranges::equal(left, right, {}, folded, folded);
+}
+
+// Of the locales, the C library knows no code pages, and no numbers either.
+std::optional<std::uint32_t> PosixMachine::CodePageOfLocale(std::uint32_t) const { return {}; }
+
+std::optional<std::u16string> PosixMachine::DecodeCodePage(std::uint32_t code_page,
+                                                           std::string_view bytes) const {
+  if (code_page == kUtf8) return FromUtf8(bytes);
+  return code_page == kWindows1250 ? std::optional(FromCodePage(bytes)) : std::nullopt;
+}
+
+std::optional<std::string> PosixMachine::EncodeCodePage(std::uint32_t code_page,
+                                                        std::u16string_view text) const {
+  if (code_page == kUtf8) return ToUtf8(text);
+  return code_page == kWindows1250 ? std::optional(ToCodePage(text)) : std::nullopt;
 }
 
 }  // namespace ravo::platform::posix
