@@ -1,5 +1,5 @@
 # The two commands of the README, and what helps while working. Everything else is CMake's: see CMakePresets.json.
-.PHONY: run check bench coverage format clean
+.PHONY: run check bench coverage reference guide format clean
 
 run:            ## Build for this machine and show the library at its work
 	@scripts/run
@@ -12,6 +12,12 @@ bench:          ## Build and run the benchmarks
 
 coverage:       ## Count the lines and branches that the tests run
 	@scripts/coverage
+
+reference:      ## Make the reference of every public name: build/reference/html/index.html
+	@scripts/reference
+
+guide:          ## Copy the code of the examples and what they print into docs/guide.md
+	@scripts/guide
 
 format:         ## Format all C and C++ sources
 	@scripts/format -i
