@@ -1,5 +1,5 @@
 # The two commands of the README, and what helps while working. Everything else is CMake's: see CMakePresets.json.
-.PHONY: run check bench coverage reference guide format clean
+.PHONY: run check bench coverage reliability reference guide format clean
 
 run:            ## Build for this machine and show the library at its work
 	@scripts/run
@@ -12,6 +12,9 @@ bench:          ## Build and run the benchmarks
 
 coverage:       ## Count the lines and branches that the tests run
 	@scripts/coverage
+
+reliability:    ## Sum up what the tests try and put it into docs/reliability.md
+	@scripts/reliability --write
 
 reference:      ## Make the reference of every public name: build/reference/html/index.html
 	@scripts/reference
