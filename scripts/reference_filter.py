@@ -19,7 +19,7 @@ ROOT = pathlib.Path(__file__).resolve().parents[1]
 DEFINE = re.compile(r"^[ \t]*#define (RAVO_\w+)\(([^)]*)\)((?:.*\\\n)*.*)\n", re.MULTILINE)
 ROWS = re.compile(r"^[ \t]*#include <(ravo/[\w/]+\.inc)>\n", re.MULTILINE)
 STRING = r'"(?:\\.|[^"\\])*"'
-ROW = re.compile(rf"^(RAVO_\w+)\(((?:{STRING}|[^\"()]|\([^()]*\))*)\)", re.MULTILINE)
+CALL = re.compile(rf"\b(RAVO_\w+)\(((?:{STRING}|[^\"()]|\([^()]*\))*)\)")
 ARGUMENT = re.compile(rf"((?:{STRING}|[^\",(]|\([^()]*\))+)")
 COMMENT_LINE = re.compile(r"^ *(///|/\*\*|\*)")
 FUNCTION = re.compile(r"(~?\w+|operator\S+?) ?\(")
@@ -45,14 +45,24 @@ def instance(parameters, body, arguments):
     return "".join(map(piece, re.split(r"(/\*\*.*?\*/)", re.sub(r"\s*\\\n", "\n", body), flags=re.DOTALL)))
 
 
+def expanded(text, macros):
+    """What the macros make of every call in a text; calls of other macros are left out."""
+
+    def made(name, arguments):
+        text = instance(*macros[name], arguments_of(arguments))
+        # A row may choose one of several macros by pasting a name together.
+        return CALL.sub(lambda call: expanded(call.group(0), macros), text)
+
+    return "\n".join(made(name, arguments) for name, arguments in CALL.findall(text) if name in macros)
+
+
 def with_rows(header):
     """The header with every #include of rows replaced by what its macros make of them."""
     macros = {name: ([p.strip() for p in parameters.split(",")], body) for name, parameters, body in DEFINE.findall(header)}
 
     def rows(match):
-        text = re.sub(r"//[^\n]*", "", (ROOT / match.group(1)).read_text(encoding="utf-8"))
-        made = (instance(*macros[name], arguments_of(arguments)) for name, arguments in ROW.findall(text) if name in macros)
-        return "\n".join(made) + "\n"
+        text = (ROOT / match.group(1)).read_text(encoding="utf-8")
+        return expanded(re.sub(r"^ *//[^\n]*|^#[^\n]*", "", text, flags=re.MULTILINE), macros) + "\n"
 
     return ROWS.sub(rows, header)
 
@@ -140,7 +150,10 @@ def self_test():
     macro = DEFINE.match('#define RAVO_A(name, text) /** name #text, #name. */ \\\n  T name##_x{u##text};\n')
     made = instance(["name", "text"], macro.group(3), arguments_of('one, "a, (b)"'))
     assert made.split() == '/** name "a, (b)", one. */ T one_x{u"a, (b)"};'.split(), made
-    assert ROW.findall('RAVO_A(x, "a) \\" b",\n  3)\n') == [("RAVO_A", 'x, "a) \\" b",\n  3')]
+    assert CALL.findall('RAVO_A(x, "a) \\" b",\n  3)\n') == [("RAVO_A", 'x, "a) \\" b",\n  3')]
+    header = "#define RAVO_ONE(name) int name;\n#define RAVO_ROW(name, ways) RAVO_##ways(name)\n"
+    macros = {name: ([p.strip() for p in parameters.split(",")], body) for name, parameters, body in DEFINE.findall(header)}
+    assert expanded('RAVO_ROW(x, ONE)\nRAVO_OTHER(y)\n', macros).split() == ["int", "x;"]
 
 
 if __name__ == "__main__":
