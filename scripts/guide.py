@@ -3,6 +3,7 @@
 
 usage: guide.py --write PROGRAMS         copies code and output into the guide; PROGRAMS is where the examples are built
        guide.py --output NAME PROGRAM... runs a program and compares what it prints with what the guide shows of it
+       guide.py --prompt PROGRAM...      runs every command that the guide shows "at the prompt"; PROGRAM is ravo
 
 In the guide a comment stands before each block that is copied:
 
@@ -15,6 +16,7 @@ In a program a region stands between the lines `// [name]` and `// [/name]`.
 import difflib
 import pathlib
 import re
+import shlex
 import subprocess
 import sys
 import textwrap
@@ -78,10 +80,25 @@ def compare(name, command):
         sys.exit("\n".join(difference))
 
 
+def try_commands(program):
+    document = (ROOT / DOCUMENT).read_text(encoding="utf-8")
+    paragraphs = re.findall(r"at the prompt:?\s(.*?)\n\n", document + "\n\n", re.DOTALL | re.IGNORECASE)
+    commands = [" ".join(text.split()) for paragraph in paragraphs for text in re.findall(r"`(ravo .*?)`", paragraph, re.DOTALL)]
+    if len(commands) < 10:
+        sys.exit(f"{DOCUMENT} shows only {len(commands)} commands")
+    for command in commands:
+        done = subprocess.run([*program, *shlex.split(command)[1:]], capture_output=True, check=False, timeout=300, cwd=ROOT)
+        # 1 is an answer: no such thing, not valid.
+        if done.returncode not in (0, 1):
+            sys.exit(f"{command}: status {done.returncode}: {done.stderr.decode('utf-8', 'replace')}")
+
+
 if __name__ == "__main__":
     if len(sys.argv) == 3 and sys.argv[1] == "--write":
         write(sys.argv[2])
     elif len(sys.argv) > 3 and sys.argv[1] == "--output":
         compare(sys.argv[2], sys.argv[3:])
+    elif len(sys.argv) > 2 and sys.argv[1] == "--prompt":
+        try_commands(sys.argv[2:])
     else:
         sys.exit(__doc__)
