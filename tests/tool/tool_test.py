@@ -319,6 +319,29 @@ ROWS = [
     Row(["random", "--seed", "x", "--alphabet", "a😀"], WRONG_USAGE, err=("beyond U+FFFF",)),
     Row(["random", "--seed", "x", "--count", "-1"], WRONG_USAGE),
     # Sums of files; more of them below.
+    # Characters and strings.
+    Row(["char", "--help"], out=("U+010D", "Examples:")),
+    Row(["char", "č"], out=("character\tU+010D\ntext\tč\ncategory\tLl, lower-case letter\nclass\t0\nupper\tU+010C\n",
+                            "canonical\tU+0063 U+030C\n")),
+    Row(["char", "U+FB01", "u+0000"], out=("compatible\tU+0066 U+0069\n", "\n\ncharacter\tU+0000\ncategory\tCc")),
+    Row(["char", "--json", "U+0378"], holds=as_json(lambda all: len(all) != 1 or all[0]["category"] != "Cn, unassigned")),
+    Row(["char", "😀"], out=("U+D83D", "Cs, half")),
+    Row(["char", "U+10000"], WRONG_USAGE, err=("U+10000",)),
+    Row(["char", "U+"], out=("U+0055", "U+002B")),
+    Row(["char"], WRONG_USAGE),
+    Row(["sort", "--help"], out=("--natural", "Examples:")),
+    Row(["sort", "missing"], WRONG_USAGE, exact="", err=("missing: cannot be read",)),
+    Row(["sort", "."], WRONG_USAGE, exact="", err=(".: cannot be read",)),
+    Row(["sort", "-"], exact=""),
+    Row(["match", "*-?.p*", "a-1.pdf", "a-10.pdf"], exact="a-1.pdf\n"),
+    Row(["match", "--ignore-case", "P??JEMKA*", "Příjemka", "x"], exact="Příjemka\n"),
+    Row(["match", "P*", "příjemka"], NO, exact="", err=("P*",)),
+    Row(["match", "P*"], WRONG_USAGE),
+    Row(["url", "--help"], out=("encode", "decode", "Examples:")),
+    Row(["url", "encode", "Kč & €", "a b"], exact="K%C4%8D+%26+%E2%82%AC\na+b\n"),
+    Row(["url", "decode", "K%C4%8D+%zz%E8"], exact="Kč %zz\ufffd\n"),
+    Row(["url"], WRONG_USAGE),
+    Row(["url", "encode"], WRONG_USAGE),
     Row(["hash", "--help"], out=("crc32, hash, hash-ia", "--check", "--all", "Examples:")),
     Row(["hash", "crc32"], WRONG_USAGE),
     Row(["hash"], WRONG_USAGE),
@@ -473,10 +496,30 @@ def check_damaged_files(program):
     file.unlink()
 
 
+def check_sorted_files(program):
+    """Lines of files come out sorted, numbers by value where that is wanted, even where that order has circles."""
+    (program.folder / "utf8.txt").write_bytes("účet10\r\nÚčet9\nfile10\nfile9".encode())
+    (program.folder / "ansi.txt").write_bytes("účet9\n".encode("cp1250"))
+    (program.folder / "circle.txt").write_bytes(b"105\n20\n15\n105\n15\n20\n")
+    rows = [
+        (["utf8.txt", "ansi.txt"], "file10\nfile9\nÚčet9\núčet10\núčet9\n"),
+        (["--natural", "utf8.txt", "ansi.txt"], "file9\nfile10\nÚčet9\núčet9\núčet10\n"),
+        (["--natural", "--ignore-case", "utf8.txt", "ansi.txt"], "file9\nfile10\nÚčet9\núčet9\núčet10\n"),
+    ]
+    for arguments, wanted in rows:
+        result = program.run(["sort", *arguments])
+        if (result.status, result.out) != (YES, wanted):
+            yield f"sort {arguments}: {result}"
+    if sorted(program.run(["sort", "--natural", "circle.txt"]).out.split()) != ["105", "105", "15", "15", "20", "20"]:
+        yield "sort --natural: lines are lost where the order has circles"
+    for name in ("utf8.txt", "ansi.txt", "circle.txt"):
+        (program.folder / name).unlink()
+
+
 def tested(program):
     for row in ROWS:
         yield from program.failures(row)
-    for check in (check_report_json, check_report_file, check_sums, check_full_device, check_damaged_files):
+    for check in (check_report_json, check_report_file, check_sums, check_full_device, check_damaged_files, check_sorted_files):
         yield from check(program)
 
 

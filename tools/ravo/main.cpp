@@ -29,6 +29,10 @@ void Describe(CLI::App& program, Outcome& outcome) {
   AddDateCommand(program, outcome);
   AddHashCommand(program, outcome);
   AddRandomCommand(program, outcome);
+  AddCharCommand(program, outcome);
+  AddSortCommand(program, outcome);
+  AddMatchCommand(program, outcome);
+  AddUrlCommand(program, outcome);
   AddAddressCommand(program, outcome);
   AddBackupNameCommand(program, outcome);
   AddInterfacesCommand(program, outcome);
