@@ -141,6 +141,20 @@ std::u16string FakeMachine::FromCodePage(std::string_view bytes) const { return 
 
 std::string FakeMachine::ToCodePage(std::u16string_view text) const { return ToWindows1250(text); }
 
+std::optional<std::u16string> FakeMachine::DecodeCodePage(std::uint32_t wanted,
+                                                          std::string_view bytes) const {
+  return wanted == code_page ? std::optional(FromCodePage(bytes)) : std::nullopt;
+}
+
+std::optional<std::string> FakeMachine::EncodeCodePage(std::uint32_t wanted, std::u16string_view text) const {
+  return wanted == code_page ? std::optional(ToCodePage(text)) : std::nullopt;
+}
+
+std::optional<std::uint32_t> FakeMachine::CodePageOfLocale(std::uint32_t wanted) const {
+  const auto found = locale_code_pages.find(wanted);
+  return found == locale_code_pages.end() ? std::nullopt : std::optional(found->second);
+}
+
 std::optional<std::u16string_view> FakeMachine::ResourceText(platform::ModuleHandle module,
                                                              std::uint16_t id) const {
   const auto texts = resource_texts.find(module);
