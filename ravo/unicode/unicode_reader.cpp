@@ -3,11 +3,33 @@
 #include <ravo/unicode/unicode_reader.h>
 
 #include <algorithm>
+#include <array>
+#include <numeric>
 
 namespace ravo::DIUnicode {
 namespace {
 
 bool IsLineBreak(char16_t ch) { return ch == u'\r' || ch == u'\n'; }
+
+const EncodingRow* RowOf(const TDIUnicodeReadMethods& methods) {
+  for (const EncodingRow& row : EncodingRows()) {
+    if (row.read != nullptr && row.read->ReadChar == methods.ReadChar) return &row;
+  }
+  return nullptr;
+}
+
+// Whether the characters of ASCII are bytes below 0x80, and these bytes are those characters, wherever they
+// stand. UTF-8 has been made so; some single bytes stand for other characters or twice for one of ASCII.
+bool KeepsAscii(const TDIUnicodeReadMethods& methods, DecodeRun decode) {
+  const EncodingRow* const row = RowOf(methods);
+  if (row == nullptr || decode == nullptr || row->engine != "SingleByte") return row && row->engine == "Utf8";
+  std::array<std::uint8_t, 0x100> bytes;
+  std::array<char16_t, 0x100> text;
+  std::iota(bytes.begin(), bytes.end(), std::uint8_t{0});
+  return decode(bytes, text).made == text.size() &&
+         std::equal(text.begin(), text.begin() + 0x80, bytes.begin()) &&
+         std::all_of(text.begin() + 0x80, text.end(), [](char16_t ch) { return ch >= 0x80; });
+}
 
 }  // namespace
 
@@ -28,6 +50,7 @@ void TDIUnicodeReader::UseReadMethods(const TDIUnicodeReadMethods& methods) {
     FReadMethods.ReadChar = Read_Iso_8859_1_ReadChar;
   }
   FDecodeRun = DecodeRunOf(FReadMethods);
+  FKeepsAscii = KeepsAscii(FReadMethods, FDecodeRun);
 }
 
 void TDIUnicodeReader::SetReadMethods(const TDIUnicodeReadMethods& methods) {
@@ -41,6 +64,13 @@ void TDIUnicodeReader::SetReadMethods(const TDIUnicodeReadMethods& methods) {
 
 bool TDIUnicodeReader::ReadChar() {
   FLastChar = FChar;
+  if (FKeepsAscii && FPeekedCount == 0 && FSourceBufferPosition < FSourceBufferSize &&
+      FSourceBuffer[FSourceBufferPosition] < 0x80) {
+    FChar = FSourceBuffer[FSourceBufferPosition++];
+    CountLocation();
+    FCharOK = true;
+    return true;
+  }
   FCharOK = false;
   if (!TakePeeked(FChar) && !Decode(FChar)) return false;
   CountLocation();

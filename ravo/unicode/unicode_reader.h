@@ -326,11 +326,17 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
   [[nodiscard]] std::span<const std::uint8_t> UnreadBytes() const noexcept {
     return {FSourceBuffer + FSourceBufferPosition, FSourceBufferSize - FSourceBufferPosition};
   }
+  template <class Unit>
+  void CountRun(std::span<const Unit> run) noexcept;
   template <class Belongs>
-  std::size_t DecodeBelonging(std::span<char16_t> room, const Belongs& belongs);
-  void CountRun(std::u16string_view run) noexcept;
+  std::size_t PassAscii(const Belongs& belongs, bool store);
   template <class Belongs>
-  std::size_t PassRun(std::span<char16_t> room, const Belongs& belongs, bool store);
+  std::size_t PassTill(std::span<char16_t> room, const Belongs& belongs, bool store);
+  template <class Belongs>
+  std::size_t PassDecoded(std::span<char16_t> room, const Belongs& belongs, bool store);
+  std::size_t Pass(const Run& run, std::span<const char16_t> room, bool store);
+  template <class Belongs>
+  void PassRuns(const Belongs& belongs, bool store);
   template <class Belongs>
   void PassOver(const Belongs& belongs, bool store);
   void PassLine(bool store);
@@ -338,6 +344,7 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
   std::size_t ReadRun(std::span<char16_t> room);
 
   void GrowData(std::uint64_t needed);
+  std::span<char16_t> ExtendData(std::size_t count);
 
   bool FCharOK = false;
   char16_t FChar = 0;
@@ -365,6 +372,8 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
   std::uint32_t FPeekedStart = 0;
   /// The run beside the read methods in force, or null.
   Run (*FDecodeRun)(std::span<const std::uint8_t> bytes, std::span<char16_t> text) = nullptr;
+  /// Whether a byte below 0x80 is that character of ASCII wherever it stands.
+  bool FKeepsAscii = false;
 };
 
 }  // namespace ravo::DIUnicode
