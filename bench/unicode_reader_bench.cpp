@@ -169,6 +169,13 @@ void RegisterReading() {
     reader.ReadCharsTill(u';');
     reader.ReadChar();
   };
+  const std::string ascii = Encoded(TextOf(kAscii, kLongText), Write_US_ASCII);
+  RegisterSteps("read_line_ascii", ascii, Read_Windows_1250, '\n', read_line);
+  RegisterSteps("read_chars_till_ascii", ascii, Read_Windows_1250, '\n', [](TDIUnicodeReader& reader) {
+    reader.ZeroDataSize();
+    reader.ReadCharsTill(u'\n');
+    reader.ReadChar();
+  });
   RegisterSteps("read_line_utf8", utf8, Read_UTF_8, '\n', read_line);
   RegisterSteps("read_line_windows_1250", windows, Read_Windows_1250, '\n', read_line);
   RegisterSteps("read_chars_till_utf8", utf8, Read_UTF_8, ';', read_till);

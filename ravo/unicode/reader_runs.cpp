@@ -2,6 +2,7 @@
 // passed over at once, and the reader stands as if it had read the characters one by one.
 #include <ravo/unicode/characters/character_kinds.h>
 #include <ravo/unicode/encodings/runs.h>
+#include <ravo/unicode/encodings/vector_block.h>
 #include <ravo/unicode/predicates.h>
 #include <ravo/unicode/run_search.h>
 #include <ravo/unicode/unicode_reader.h>
@@ -83,7 +84,24 @@ std::size_t AsciiLengthIn(std::span<const std::uint8_t> bytes, const Belongs& be
   return length;
 }
 
+std::size_t WholeBlocksOf(std::size_t length) { return (length + kBlock - 1) / kBlock * kBlock; }
+
+// ASCII at the front needs no table.
+Run DecodeAsciiFirst(std::span<const std::uint8_t> bytes, std::span<char16_t> to, DecodeRun decode) {
+  std::size_t ascii = 0;
+  while (bytes.size() - ascii >= kBlock && WidenAsciiBlock(bytes.data() + ascii, to.data() + ascii))
+    ascii += kBlock;
+  if (ascii == bytes.size()) return {ascii, ascii};
+  const Run rest = decode(bytes.subspan(ascii), to.subspan(ascii));
+  return {ascii + rest.taken, ascii + rest.made};
+}
+
 }  // namespace
+
+template <class Unit>
+void TDIUnicodeReader::AddRun(std::span<Unit> run) {
+  std::ranges::copy(run, ExtendData(run.size()).begin());
+}
 
 // The current character becomes the last one of the run, with the location that it has then.
 template <class Unit>
@@ -106,30 +124,58 @@ void TDIUnicodeReader::CountRun(std::span<const Unit> run) noexcept {
   }
 }
 
-// ASCII that belongs, from its bytes.
-template <class Belongs>
-std::size_t TDIUnicodeReader::PassAscii(const Belongs& belongs, bool store) {
-  const auto unread = UnreadBytes();
-  const auto run = unread.first(AsciiLengthIn(unread, belongs));
-  if (store) std::ranges::copy(run, ExtendData(run.size()).begin());
-  FSourceBufferPosition += static_cast<std::uint32_t>(run.size());
-  CountRun(run);
-  return run.size();
+// The same where no character of the run ends a line.
+void TDIUnicodeReader::CountWithinLine(std::span<const char16_t> run) noexcept {
+  if (run.empty()) return;
+  FLastChar = FChar;
+  FChar = run.front();
+  CountLocation();
+  FCharPos += static_cast<std::uint32_t>(run.size() - 1);
+  FCharCol += static_cast<std::uint32_t>(run.size() - 1);
+  if (run.size() > 1) FLastChar = run[run.size() - 2];
+  FChar = run.back();
 }
 
-// Everything before a byte that ends it, decoded at once. Bytes behind that one may be decoded too where that
-// makes whole blocks; they do not count.
+// ASCII that belongs, from its bytes. Answers whether there may be more.
 template <class Belongs>
-std::size_t TDIUnicodeReader::PassTill(std::span<char16_t> room, const Belongs& belongs, bool store) {
+bool TDIUnicodeReader::PassAscii(const Belongs& belongs, bool store) {
+  const auto unread = UnreadBytes().first(std::min(UnreadBytes().size(), kLongestRun));
+  const auto run = unread.first(AsciiLengthIn(unread, belongs));
+  if (store) AddRun(run);
+  FSourceBufferPosition += static_cast<std::uint32_t>(run.size());
+  CountRun(run);
+  return !run.empty() && run.size() == unread.size();
+}
+
+// Everything before a byte that ends it, decoded at once. Bytes behind that one are decoded too where that
+// makes whole blocks; they do not count: among the last characters, the first one that ends it is the end.
+// Answers whether there may be more.
+template <class Belongs>
+bool TDIUnicodeReader::PassTill(std::span<char16_t> room, const Belongs& belongs, bool store) {
   const auto unread = UnreadBytes().first(std::min(UnreadBytes().size(), room.size()));
-  const std::size_t length = LengthIn(unread, belongs);
-  const std::size_t whole =
-      (length + unicode::kSearchBlock - 1) / unicode::kSearchBlock * unicode::kSearchBlock;
-  Run run = FDecodeRun(unread.first(std::min(whole, unread.size())), room);
-  if (run.taken > length) {
-    run = run.taken == run.made ? Run{length, length} : FDecodeRun(unread.first(length), room);
+  const std::size_t length = unicode::LengthBefore(unread, belongs.What());
+  if (length == 0) return false;
+  const auto bytes = unread.first(std::min(WholeBlocksOf(length), unread.size()));
+  const bool in_place = store && FDataCapacity - FDataSize >= bytes.size();
+  const std::span to = in_place ? std::span(FData.get() + FDataSize, bytes.size()) : room;
+  Run run = DecodeAsciiFirst(bytes, to, FDecodeRun);
+  if (run.taken > length && run.taken == run.made) {
+    run = {length, length};
+  } else if (run.taken > length) {
+    const auto end = std::span<const char16_t>(to.first(run.made)).last(std::min(run.made, kBlock));
+    run = {length, run.made - end.size() + unicode::LengthBefore(end, belongs.What())};
   }
-  return Pass(run, room, store);
+  const auto chars = to.first(run.made);
+  if (in_place)
+    FDataSize += static_cast<std::uint32_t>(run.made);
+  else if (store)
+    AddRun(chars);
+  FSourceBufferPosition += static_cast<std::uint32_t>(run.taken);
+  if (belongs.What()(u'\r') && belongs.What()(u'\n'))
+    CountWithinLine(chars);
+  else
+    CountRun(std::span<const char16_t>(chars));
+  return run.taken == unread.size();
 }
 
 // What belongs among decoded characters.
@@ -145,7 +191,7 @@ std::size_t TDIUnicodeReader::PassDecoded(std::span<char16_t> room, const Belong
 
 std::size_t TDIUnicodeReader::Pass(const Run& run, std::span<const char16_t> room, bool store) {
   const auto chars = room.first(run.made);
-  if (store) std::ranges::copy(chars, ExtendData(chars.size()).begin());
+  if (store) AddRun(chars);
   FSourceBufferPosition += static_cast<std::uint32_t>(run.taken);
   CountRun(chars);
   return run.made;
@@ -156,10 +202,13 @@ void TDIUnicodeReader::PassRuns(const Belongs& belongs, bool store) {
   if (FDecodeRun == nullptr || FPeekedCount != 0) return;
   std::array<char16_t, kLongestRun> room;
   if (FKeepsAscii && EndsByAscii(belongs)) {
-    while (PassTill(room, belongs, store) != 0) {
+    if constexpr (kIsTill<Belongs>) {
+      while (PassTill(room, belongs, store)) {
+      }
     }
   } else if (FKeepsAscii && !kIsTill<Belongs>) {
-    PassAscii(belongs, store);
+    while (PassAscii(belongs, store)) {
+    }
   } else {
     std::size_t next = kFirstRun;
     while (PassDecoded(std::span(room).first(next), belongs, store) == next)

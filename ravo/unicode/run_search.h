@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <bit>
 #include <concepts>
@@ -152,13 +153,17 @@ class Not {
   Kind kind_;
 };
 
-/// How many units stand before the first one of a kind.
+/// How many units stand before the first one of a kind. The last block overlaps the one before.
 template <class Unit, class Kind>
 [[nodiscard]] std::size_t LengthBefore(std::span<const Unit> run, const Kind& kind) {
   std::size_t at = 0;
-  for (; run.size() - at >= kSearchBlock; at += kSearchBlock) {
-    const unsigned hits = kind.HitsIn(UnitBlock<Unit>(run.data() + at));
-    if (hits != 0) return at + static_cast<std::size_t>(std::countr_zero(hits));
+  if (run.size() >= kSearchBlock) {
+    const std::size_t last = run.size() - kSearchBlock;
+    for (;; at = std::min(at + kSearchBlock, last)) {
+      const unsigned hits = kind.HitsIn(UnitBlock<Unit>(run.data() + at));
+      if (hits != 0) return at + static_cast<std::size_t>(std::countr_zero(hits));
+      if (at == last) return run.size();
+    }
   }
   while (at < run.size() && !kind(run[at])) ++at;
   return at;

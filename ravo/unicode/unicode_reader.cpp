@@ -9,8 +9,6 @@
 namespace ravo::DIUnicode {
 namespace {
 
-bool IsLineBreak(char16_t ch) { return ch == u'\r' || ch == u'\n'; }
-
 const EncodingRow* RowOf(const TDIUnicodeReadMethods& methods) {
   for (const EncodingRow& row : EncodingRows()) {
     if (row.read != nullptr && row.read->ReadChar == methods.ReadChar) return &row;
@@ -62,22 +60,6 @@ void TDIUnicodeReader::SetReadMethods(const TDIUnicodeReadMethods& methods) {
   if (FReadMethods.Init != nullptr) FReadMethods.Init(*this);
 }
 
-bool TDIUnicodeReader::ReadChar() {
-  FLastChar = FChar;
-  if (FKeepsAscii && FPeekedCount == 0 && FSourceBufferPosition < FSourceBufferSize &&
-      FSourceBuffer[FSourceBufferPosition] < 0x80) {
-    FChar = FSourceBuffer[FSourceBufferPosition++];
-    CountLocation();
-    FCharOK = true;
-    return true;
-  }
-  FCharOK = false;
-  if (!TakePeeked(FChar) && !Decode(FChar)) return false;
-  CountLocation();
-  FCharOK = true;
-  return true;
-}
-
 bool TDIUnicodeReader::AddCharReadChar() {
   AddChar();
   return ReadChar();
@@ -118,16 +100,6 @@ void TDIUnicodeReader::MakePeekRoom(std::uint32_t Count) {
     FPeekedCapacity = Count;
   }
   FPeekedStart = 0;
-}
-
-void TDIUnicodeReader::CountLocation() noexcept {
-  ++FCharPos;
-  if (!IsLineBreak(FLastChar)) {
-    ++FCharCol;
-  } else if (FLastChar == u'\n' || FChar != u'\n') {
-    ++FCharLine;
-    FCharCol = 1;
-  }
 }
 
 void TDIUnicodeReader::ResetCharLocation() noexcept {

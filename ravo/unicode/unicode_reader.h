@@ -84,7 +84,13 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
   [[nodiscard]] std::uint32_t CharCol() const noexcept { return FCharCol; }
 
   /// Makes the next character the current one; false at the end of all data, where the location stays.
-  bool ReadChar();
+  bool ReadChar() {
+    FLastChar = FChar;
+    FCharOK = false;
+    FCharOK = TakePlainByte() || TakePeeked(FChar) || Decode(FChar);
+    if (FCharOK) CountLocation();
+    return FCharOK;
+  }
   /// Adds the current character to the Data, then reads the next one.
   bool AddCharReadChar();
   /// Decodes ahead until `Count` characters are peeked; false where the data ends before. Moves no location.
@@ -309,10 +315,28 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
   [[noreturn]] static void Raise(const ResourceString& message);
   [[noreturn]] static void Raise(const ResourceString& message, std::uint32_t number);
 
+  /// A byte that is its own character needs no decoder.
+  bool TakePlainByte() noexcept {
+    if (!FKeepsAscii || FPeekedCount != 0 || FSourceBufferPosition >= FSourceBufferSize) return false;
+    const std::uint8_t byte = FSourceBuffer[FSourceBufferPosition];
+    if (byte >= 0x80) return false;
+    FChar = byte;
+    ++FSourceBufferPosition;
+    return true;
+  }
   bool Decode(char16_t& ch);
   bool TakePeeked(char16_t& ch) noexcept;
   void MakePeekRoom(std::uint32_t Count);
-  void CountLocation() noexcept;
+  /// Where `FChar` stands, after `FLastChar`.
+  void CountLocation() noexcept {
+    ++FCharPos;
+    if (FLastChar != u'\r' && FLastChar != u'\n') {
+      ++FCharCol;
+    } else if (FLastChar == u'\n' || FChar != u'\n') {
+      ++FCharLine;
+      FCharCol = 1;
+    }
+  }
   void UseReadMethods(const TDIUnicodeReadMethods& methods);
 
   void SetNewSource() noexcept;
@@ -327,11 +351,14 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
     return {FSourceBuffer + FSourceBufferPosition, FSourceBufferSize - FSourceBufferPosition};
   }
   template <class Unit>
+  void AddRun(std::span<Unit> run);
+  void CountWithinLine(std::span<const char16_t> run) noexcept;
+  template <class Unit>
   void CountRun(std::span<const Unit> run) noexcept;
   template <class Belongs>
-  std::size_t PassAscii(const Belongs& belongs, bool store);
+  bool PassAscii(const Belongs& belongs, bool store);
   template <class Belongs>
-  std::size_t PassTill(std::span<char16_t> room, const Belongs& belongs, bool store);
+  bool PassTill(std::span<char16_t> room, const Belongs& belongs, bool store);
   template <class Belongs>
   std::size_t PassDecoded(std::span<char16_t> room, const Belongs& belongs, bool store);
   std::size_t Pass(const Run& run, std::span<const char16_t> room, bool store);
