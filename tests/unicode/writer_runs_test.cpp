@@ -46,7 +46,8 @@ Outcome Write(const TDIUnicodeWriteMethods& methods, std::span<const std::u16str
                                                 TDIInvalidCharAction& action) {
       outcome.asked.push_back({invalid, replacement, static_cast<char16_t>(attempt)});
       replacement = u"\x4E00\x159!"[std::min<std::uint32_t>(attempt, 2)];
-      if (handler == 2) sender.WriteHexCodePoint(invalid);
+      // An encoding without digits would ask about those too.
+      if (handler == 2 && invalid > 0x7F && sender.TryWriteCharW(u'0')) sender.WriteHexCodePoint(invalid);
       if (handler == 2) action = TDIInvalidCharAction::icOwnerWrite;
       if (handler == 3 && invalid == 0x4E00) action = TDIInvalidCharAction::icAbort;
     });
