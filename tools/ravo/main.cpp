@@ -32,6 +32,7 @@ void Describe(CLI::App& program, Outcome& outcome) {
   AddAddressCommand(program, outcome);
   AddBackupNameCommand(program, outcome);
   AddInterfacesCommand(program, outcome);
+  AddEncodingsCommand(program, outcome);
 }
 
 // Help and version are answers; every other end of parsing is wrong usage, whatever number the parser gives
