@@ -29,9 +29,15 @@ void Describe(CLI::App& program, Outcome& outcome) {
   AddDateCommand(program, outcome);
   AddHashCommand(program, outcome);
   AddRandomCommand(program, outcome);
+  AddCharCommand(program, outcome);
+  AddSortCommand(program, outcome);
+  AddMatchCommand(program, outcome);
+  AddUrlCommand(program, outcome);
   AddAddressCommand(program, outcome);
   AddBackupNameCommand(program, outcome);
   AddInterfacesCommand(program, outcome);
+  AddXmlCommand(program, outcome);
+  AddFormCommand(program, outcome);
   AddEncodingsCommand(program, outcome);
 }
 
