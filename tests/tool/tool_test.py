@@ -146,6 +146,20 @@ ZIPPER_LINES = (
     "\tCoRavoZipper\tclass\tIRavoZip\t{2FE78C5D-7DB0-46C4-9512-DAACCF23EBCE}\n"
 )
 
+WINDOWS_1250 = "Windows_1250\tWindows-1250 (Central European)\t1250\treads, writes\tcp1250 1250 win1250 x-cp1250 ms-ee\n"
+
+
+def all_encodings(rows):
+    if len({row["name"] for row in rows}) != 74:
+        return f"{len(rows)} encodings"
+    one_way = [row["name"] for row in rows if not (row["reads"] and row["writes"])]
+    if one_way != ["UTF_7_ODC", "GB_18030"]:
+        return f"read or written only: {one_way}"
+    numbers = [row["code_page"] for row in rows if row["code_page"] is not None]
+    if len(numbers) != len(set(numbers)) or not {1250, 852, 65001, 1200, 54936} < set(numbers):
+        return f"the code pages are {numbers}"
+
+
 SAMPLES = pathlib.Path(__file__).resolve().parents[2] / "samples"
 SAMPLE, SAMPLE_1250 = str(SAMPLES / "ledger.csv"), str(SAMPLES / "ledger-1250.csv")
 LEDGER = [argument for column in ("Účet MD=ucet", "VS=vs", "Protiúčet=banka") for argument in ("--column", column)]
@@ -245,6 +259,20 @@ ROWS = [
     Row(["interfaces", "účet", "--json"], NO, exact="[]\n", err=("účet",)),
     Row(["interfaces", "zip", "stray"], WRONG_USAGE),
     Row(["interfaces", "--help"], out=("--json", "Examples:")),
+    # Encodings.
+    Row(["encodings"], holds=lines(74), out=(WINDOWS_1250, "UTF_7_ODC\tUTF-7, optional direct characters as they are\t\twrites\t\n",
+                                            "GB_18030\tGB 18030 (Chinese)\t54936\treads\t")),
+    Row(["encodings", "--json"], holds=as_json(all_encodings)),
+    *[Row(["encodings", name], exact=WINDOWS_1250) for name in ("Windows_1250", "windows-1250", "CP1250", "1250", "ms-ee")],
+    Row(["encodings", "latin2", "--json"],
+        holds=differs([{"name": "Iso_8859_2", "label": "ISO 8859-2 (Central European)", "code_page": 28592,
+                        "aliases": ["8859-2", "latin2", "l2", "iso-ir-101", "cp912", "ibm912"], "reads": True, "writes": True,
+                        "notes": ""}])),
+    Row(["encodings", "koi8ru", "--json"], out=('"code_page": null',)),
+    Row(["encodings", "nonsense"], NO, exact="", err=("'nonsense'",)),
+    Row(["encodings", "-", "--json"], NO, exact="[]\n", err=("'-'",)),
+    Row(["encodings", "1250", "1251"], WRONG_USAGE),
+    Row(["encodings", "--help"], out=("--json", "Examples:")),
     # Checks.
     Row(["check", "--help"], out=("--csv FILE", "--column NAME=KIND", "banka", "Examples:")),
     Row(["check", "banka", "19-2000145399/0800"], exact="19-2000145399/0800\tvalid\n"),

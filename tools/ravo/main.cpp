@@ -38,6 +38,7 @@ void Describe(CLI::App& program, Outcome& outcome) {
   AddInterfacesCommand(program, outcome);
   AddXmlCommand(program, outcome);
   AddFormCommand(program, outcome);
+  AddEncodingsCommand(program, outcome);
 }
 
 // Help and version are answers; every other end of parsing is wrong usage, whatever number the parser gives
