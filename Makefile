@@ -1,5 +1,5 @@
 # The two commands of the README, and what helps while working. Everything else is CMake's: see CMakePresets.json.
-.PHONY: run check bench format clean
+.PHONY: run check bench coverage format clean
 
 run:            ## Build for this machine and show the library at its work
 	@scripts/run
@@ -9,6 +9,9 @@ check:          ## Every target, every test, every gate
 
 bench:          ## Build and run the benchmarks
 	@scripts/bench
+
+coverage:       ## Count the lines and branches that the tests run
+	@scripts/coverage
 
 format:         ## Format all C and C++ sources
 	@scripts/format -i
