@@ -89,7 +89,7 @@ std::size_t WholeBlocksOf(std::size_t length) { return (length + kBlock - 1) / k
 // ASCII at the front needs no table.
 Run DecodeAsciiFirst(std::span<const std::uint8_t> bytes, std::span<char16_t> to, DecodeRun decode) {
   std::size_t ascii = 0;
-  while (bytes.size() - ascii >= kBlock && WidenAsciiBlock(bytes.data() + ascii, to.data() + ascii))
+  while (bytes.size() - ascii >= kBlock && WidenAscii<1>(bytes.data() + ascii, to.data() + ascii))
     ascii += kBlock;
   if (ascii == bytes.size()) return {ascii, ascii};
   const Run rest = decode(bytes.subspan(ascii), to.subspan(ascii));
