@@ -19,6 +19,7 @@ void AddRandomCommand(CLI::App& program, Outcome& outcome);
 void AddAddressCommand(CLI::App& program, Outcome& outcome);
 void AddBackupNameCommand(CLI::App& program, Outcome& outcome);
 void AddInterfacesCommand(CLI::App& program, Outcome& outcome);
+void AddConvertCommand(CLI::App& program, Outcome& outcome);
 void AddEncodingsCommand(CLI::App& program, Outcome& outcome);
 
 }  // namespace tool

@@ -32,6 +32,7 @@ void Describe(CLI::App& program, Outcome& outcome) {
   AddAddressCommand(program, outcome);
   AddBackupNameCommand(program, outcome);
   AddInterfacesCommand(program, outcome);
+  AddConvertCommand(program, outcome);
   AddEncodingsCommand(program, outcome);
 }
 
