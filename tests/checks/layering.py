@@ -1,7 +1,9 @@
 #!/usr/bin/env python3
 """Who may include whom: rooms, circles, the operating system's names, and what public headers pull in."""
 
+import pathlib
 import re
+import sys
 
 from source_tree import code_files, includes, main, read, without_comments
 
@@ -136,15 +138,20 @@ def check_system_names(root):
                 yield f"{name}:{number}: <{header}> belongs to ravo/platform alone"
 
 
-def check_public_headers(root, graph):
-    """Nothing that a public header reaches may include a system header."""
+def public_files(graph):
+    """What a program can reach from the public face, in a fixed order."""
     reached, waiting = set(), [name for name in graph if room_of(name) in (PUBLIC, HOST_HEADER)]
     while waiting:
         name = waiting.pop()
         if name not in reached:
             reached.add(name)
             waiting += [target for _, target in graph.get(name, [])]
-    for name in sorted(reached):
+    return sorted(reached)
+
+
+def check_public_headers(root, graph):
+    """Nothing that a public header reaches may include a system header."""
+    for name in public_files(graph):
         for line, quote, header in includes(root / name):
             standard = header in C_STANDARD or re.fullmatch(r"[a-z0-9_]+", header)
             if not target_of(root, root / name, quote, header) and not standard:
@@ -258,4 +265,8 @@ PLANTINGS = [
 ]
 
 if __name__ == "__main__":
-    main(check, PLANTINGS)
+    if sys.argv[1:] == ["--public"]:
+        root = pathlib.Path(__file__).resolve().parents[2]
+        print("\n".join(name for name in public_files(include_graph(root)) if name.endswith(".h")))
+    else:
+        main(check, PLANTINGS)

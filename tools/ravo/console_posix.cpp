@@ -3,6 +3,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <stdexcept>
+#include <cstdlib>
 
 #include <unistd.h>
 
@@ -27,6 +28,11 @@ std::size_t ReadInput(std::span<std::byte> to) {
 
 bool IsTerminal(Channel channel) {
   return isatty(channel == Channel::Out ? STDOUT_FILENO : STDERR_FILENO) == 1;
+}
+
+bool ShowsColours(Channel channel) {
+  const char* const kind = std::getenv("TERM");
+  return IsTerminal(channel) && kind != nullptr && std::string_view(kind) != "dumb";
 }
 
 }  // namespace tool

@@ -29,11 +29,17 @@ void Describe(CLI::App& program, Outcome& outcome) {
   AddDateCommand(program, outcome);
   AddHashCommand(program, outcome);
   AddRandomCommand(program, outcome);
+  AddCharCommand(program, outcome);
+  AddSortCommand(program, outcome);
+  AddMatchCommand(program, outcome);
+  AddUrlCommand(program, outcome);
   AddAddressCommand(program, outcome);
   AddBackupNameCommand(program, outcome);
   AddInterfacesCommand(program, outcome);
   AddConvertCommand(program, outcome);
   AddEncodingsCommand(program, outcome);
+  AddXmlCommand(program, outcome);
+  AddFormCommand(program, outcome);
 }
 
 // Help and version are answers; every other end of parsing is wrong usage, whatever number the parser gives

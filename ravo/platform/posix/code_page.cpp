@@ -5,6 +5,9 @@
 #include <array>
 #include <iterator>
 
+#include <locale.h>
+#include <wctype.h>
+
 namespace ravo::platform::posix {
 namespace {
 
@@ -54,6 +57,16 @@ std::string PosixMachine::ToCodePage(std::u16string_view text) const {
   std::string bytes(text.size(), '\0');
   std::ranges::transform(text, bytes.begin(), ByteOf);
   return bytes;
+}
+
+// Case belongs to characters here, not to languages.
+bool PosixMachine::SameText(std::u16string_view left, std::u16string_view right) const {
+  static const locale_t characters = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
+  const auto folded = [](char16_t unit) {
+    if (unit < kAscii || characters == nullptr) return AsciiLower(unit);
+    return static_cast<char16_t>(towlower_l(unit, characters));
+  };
+  return std::ranges::equal(left, right, {}, folded, folded);
 }
 
 // Of the locales, the C library knows no code pages, and no numbers either.
