@@ -110,7 +110,7 @@ def render_single(tables):
     for table in tables:
         count = len(table.unassigned())
         parts.append(f"\n// {table.row['label']}; {' '.join(table.names)}; {256 - count} bytes assigned.\n")
-        parts.append(f"inline constexpr ByteTable {table.row['table']} = {{\n{numbers(table.chosen.values())}}};\n")
+        parts.append(f"inline constexpr ByteTable k{table.row['table']} = {{\n{numbers(table.chosen.values())}}};\n")
     return "".join(parts) + "\n}  // namespace ravo::DIUnicode::tables\n"
 
 

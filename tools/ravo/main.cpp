@@ -36,10 +36,10 @@ void Describe(CLI::App& program, Outcome& outcome) {
   AddAddressCommand(program, outcome);
   AddBackupNameCommand(program, outcome);
   AddInterfacesCommand(program, outcome);
-  AddConvertCommand(program, outcome);
-  AddEncodingsCommand(program, outcome);
   AddXmlCommand(program, outcome);
   AddFormCommand(program, outcome);
+  AddEncodingsCommand(program, outcome);
+  AddConvertCommand(program, outcome);
 }
 
 // Help and version are answers; every other end of parsing is wrong usage, whatever number the parser gives

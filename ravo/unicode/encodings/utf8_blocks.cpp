@@ -14,14 +14,14 @@ Run EncodeNone(TextSpan, ByteRoom) noexcept { return {}; }
 Run DecodeAscii(ByteSpan bytes, TextRoom text) noexcept {
   const std::size_t end = WholeBlocks(bytes.size(), text.size());
   std::size_t at = 0;
-  while (at < end && WidenAscii<1>(bytes.data() + at, text.data() + at)) at += kBlock;
+  while (at < end && WidenAsciiBlock(bytes.data() + at, text.data() + at)) at += kBlock;
   return {at, at};
 }
 
 Run EncodeAscii(TextSpan text, ByteRoom bytes) noexcept {
   const std::size_t end = WholeBlocks(text.size(), bytes.size());
   std::size_t at = 0;
-  while (at < end && NarrowAscii<1>(text.data() + at, bytes.data() + at)) at += kBlock;
+  while (at < end && NarrowAsciiBlock(text.data() + at, bytes.data() + at)) at += kBlock;
   return {at, at};
 }
 

@@ -117,7 +117,7 @@ RAVO_SHUFFLING Run DecodeUtf8Shuffling(ByteSpan bytes, TextRoom text) noexcept {
   while (bytes.size() - run.taken > kBlock && text.size() - run.made >= kBlock) {
     const std::uint8_t* const from = bytes.data() + run.taken;
     char16_t* const to = text.data() + run.made;
-    const Run block = WidenAscii<1>(from, to) ? Run{kBlock, kBlock} : DecodeBlock(from, to);
+    const Run block = WidenAsciiBlock(from, to) ? Run{kBlock, kBlock} : DecodeBlock(from, to);
     if (block.taken == 0) break;
     run.taken += block.taken;
     run.made += block.made;
@@ -130,7 +130,7 @@ RAVO_SHUFFLING Run EncodeUtf8Shuffling(TextSpan text, ByteRoom bytes) noexcept {
   while (text.size() - run.taken >= kBlock && bytes.size() - run.made >= kBlock) {
     const char16_t* const from = text.data() + run.taken;
     std::uint8_t* const to = bytes.data() + run.made;
-    const Run block = NarrowAscii<1>(from, to) ? Run{kBlock, kBlock} : EncodeBlock(from, to);
+    const Run block = NarrowAsciiBlock(from, to) ? Run{kBlock, kBlock} : EncodeBlock(from, to);
     if (block.taken == 0) break;
     run.taken += block.taken;
     run.made += block.made;

@@ -70,6 +70,9 @@ bool NarrowAscii(const char16_t* from, std::uint8_t* to) {
 
 #endif
 
+inline bool WidenAsciiBlock(const std::uint8_t* from, char16_t* to) { return WidenAscii<1>(from, to); }
+inline bool NarrowAsciiBlock(const char16_t* from, std::uint8_t* to) { return NarrowAscii<1>(from, to); }
+
 /// How many blocks fit both a source and a target of that many characters.
 constexpr std::size_t WholeBlocks(std::size_t source, std::size_t room, std::size_t block = kBlock) {
   return (source < room ? source : room) / block * block;
