@@ -2,8 +2,8 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <stdexcept>
 #include <cstdlib>
+#include <stdexcept>
 
 #include <unistd.h>
 
