@@ -2,13 +2,13 @@
 // passed over at once, and the reader stands as if it had read the characters one by one.
 #include <ravo/unicode/characters/character_kinds.h>
 #include <ravo/unicode/encodings/runs.h>
-#include <ravo/unicode/encodings/vector_block.h>
 #include <ravo/unicode/predicates.h>
 #include <ravo/unicode/run_search.h>
 #include <ravo/unicode/unicode_reader.h>
 
 #include <algorithm>
 #include <array>
+#include <bit>
 
 namespace ravo::DIUnicode {
 namespace {
@@ -84,16 +84,29 @@ std::size_t AsciiLengthIn(std::span<const std::uint8_t> bytes, const Belongs& be
   return length;
 }
 
-std::size_t WholeBlocksOf(std::size_t length) { return (length + kBlock - 1) / kBlock * kBlock; }
+// A guess by the first characters.
+bool LooksPlain(std::span<const std::uint8_t> bytes) {
+  return bytes.size() >= unicode::kSearchBlock &&
+         unicode::UnitBlock<std::uint8_t>(bytes.data()).NoAscii() == 0;
+}
 
-// ASCII at the front needs no table.
-Run DecodeAsciiFirst(std::span<const std::uint8_t> bytes, std::span<char16_t> to, DecodeRun decode) {
-  std::size_t ascii = 0;
-  while (bytes.size() - ascii >= kBlock && WidenAsciiBlock(bytes.data() + ascii, to.data() + ascii))
-    ascii += kBlock;
-  if (ascii == bytes.size()) return {ascii, ascii};
-  const Run rest = decode(bytes.subspan(ascii), to.subspan(ascii));
-  return {ascii + rest.taken, ascii + rest.made};
+std::size_t WholeBlocksOf(std::size_t length) {
+  return (length + unicode::kSearchBlock - 1) / unicode::kSearchBlock * unicode::kSearchBlock;
+}
+
+// How much ASCII stands before the first byte that ends it, widened on the way. Whole blocks are written.
+template <class Kind>
+std::size_t WidenAsciiBefore(std::span<const std::uint8_t> bytes, std::span<char16_t> to, const Kind& ends) {
+  const std::size_t most = std::min(bytes.size(), to.size());
+  std::size_t at = 0;
+  for (; most - at >= unicode::kSearchBlock; at += unicode::kSearchBlock) {
+    const unicode::UnitBlock<std::uint8_t> block(bytes.data() + at);
+    block.Widen(to.data() + at);
+    if (const unsigned hits = ends.HitsIn(block) | block.NoAscii(); hits != 0)
+      return at + static_cast<std::size_t>(std::countr_zero(hits));
+  }
+  for (; at < most && bytes[at] < 0x80 && !ends(bytes[at]); ++at) to[at] = bytes[at];
+  return at;
 }
 
 }  // namespace
@@ -147,26 +160,12 @@ bool TDIUnicodeReader::PassAscii(const Belongs& belongs, bool store) {
   return !run.empty() && run.size() == unread.size();
 }
 
-// Everything before a byte that ends it, decoded at once. Bytes behind that one are decoded too where that
-// makes whole blocks; they do not count: among the last characters, the first one that ends it is the end.
-// Answers whether there may be more.
+// The characters of a run, already in place or to be added, are passed over.
 template <class Belongs>
-bool TDIUnicodeReader::PassTill(std::span<char16_t> room, const Belongs& belongs, bool store) {
-  const auto unread = UnreadBytes().first(std::min(UnreadBytes().size(), room.size()));
-  const std::size_t length = unicode::LengthBefore(unread, belongs.What());
-  if (length == 0) return false;
-  const auto bytes = unread.first(std::min(WholeBlocksOf(length), unread.size()));
-  const bool in_place = store && FDataCapacity - FDataSize >= bytes.size();
-  const std::span to = in_place ? std::span(FData.get() + FDataSize, bytes.size()) : room;
-  Run run = DecodeAsciiFirst(bytes, to, FDecodeRun);
-  if (run.taken > length && run.taken == run.made) {
-    run = {length, length};
-  } else if (run.taken > length) {
-    const auto end = std::span<const char16_t>(to.first(run.made)).last(std::min(run.made, kBlock));
-    run = {length, run.made - end.size() + unicode::LengthBefore(end, belongs.What())};
-  }
+void TDIUnicodeReader::Take(const Run& run, std::span<const char16_t> to, const Belongs& belongs,
+                            bool store) {
   const auto chars = to.first(run.made);
-  if (in_place)
+  if (store && to.data() == FData.get() + FDataSize)
     FDataSize += static_cast<std::uint32_t>(run.made);
   else if (store)
     AddRun(chars);
@@ -174,8 +173,47 @@ bool TDIUnicodeReader::PassTill(std::span<char16_t> room, const Belongs& belongs
   if (belongs.What()(u'\r') && belongs.What()(u'\n'))
     CountWithinLine(chars);
   else
-    CountRun(std::span<const char16_t>(chars));
-  return run.taken == unread.size();
+    CountRun(chars);
+}
+
+// Where a run goes: to its place in the Data, or where there is not the room for it, elsewhere.
+std::span<char16_t> TDIUnicodeReader::PlaceFor(std::size_t count, std::span<char16_t> elsewhere, bool store) {
+  const std::size_t room = FDataCapacity - FDataSize;
+  return store && room >= count ? std::span(FData.get() + FDataSize, room) : elsewhere;
+}
+
+// ASCII before a byte that ends it, widened without the decoder. Answers whether there may be more.
+template <class Belongs>
+bool TDIUnicodeReader::PassAsciiTill(std::span<char16_t> room, const Belongs& belongs, bool store) {
+  const auto to = PlaceFor(2 * unicode::kSearchBlock, room, store);
+  const std::size_t ascii = WidenAsciiBefore(UnreadBytes(), to, belongs.What());
+  Take({ascii, ascii}, to, belongs, store);
+  if (UnreadBytes().empty()) return false;
+  FIsPlain = UnreadBytes().front() < 0x80;
+  return !belongs.What()(UnreadBytes().front());
+}
+
+// Everything before a byte that ends it, decoded at once. Bytes behind that one are decoded too where that
+// makes whole blocks; they do not count: among the last characters, the first one that ends it is the end.
+// Answers whether there may be more.
+template <class Belongs>
+bool TDIUnicodeReader::PassMixedTill(std::span<char16_t> room, const Belongs& belongs, bool store) {
+  const auto& ends = belongs.What();
+  const auto unread = UnreadBytes().first(std::min(UnreadBytes().size(), room.size()));
+  const std::size_t length = unicode::LengthBefore(unread, ends);
+  const auto bytes = unread.first(std::min(WholeBlocksOf(length), unread.size()));
+  const auto to = PlaceFor(bytes.size(), room, store);
+  Run run = FDecodeRun(bytes, to);
+  if (run.taken > length && run.taken == run.made) {
+    run = {length, length};
+  } else if (run.taken > length) {
+    const auto end =
+        std::span<const char16_t>(to.first(run.made)).last(std::min(run.made, unicode::kSearchBlock));
+    run = {length, run.made - end.size() + unicode::LengthBefore(end, ends)};
+  }
+  FIsPlain = LooksPlain(bytes);
+  Take(run, to, belongs, store);
+  return run.taken != 0 && run.taken == unread.size();
 }
 
 // What belongs among decoded characters.
@@ -203,7 +241,7 @@ void TDIUnicodeReader::PassRuns(const Belongs& belongs, bool store) {
   std::array<char16_t, kLongestRun> room;
   if (FKeepsAscii && EndsByAscii(belongs)) {
     if constexpr (kIsTill<Belongs>) {
-      while (PassTill(room, belongs, store)) {
+      while (FIsPlain ? PassAsciiTill(room, belongs, store) : PassMixedTill(room, belongs, store)) {
       }
     }
   } else if (FKeepsAscii && !kIsTill<Belongs>) {

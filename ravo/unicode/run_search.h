@@ -38,6 +38,14 @@ class UnitBlock<std::uint8_t> {
     const __m128i beyond = _mm_subs_epu8(offsets, _mm_set1_epi8(static_cast<char>(last - first)));
     return Bits(_mm_cmpeq_epi8(beyond, _mm_setzero_si128()));
   }
+  /// Bytes from 0x80 on.
+  [[nodiscard]] unsigned NoAscii() const noexcept { return Bits(units_); }
+  /// Writes each byte as a character.
+  void Widen(char16_t* to) const noexcept {
+    const __m128i zero = _mm_setzero_si128();
+    _mm_storeu_si128(reinterpret_cast<__m128i*>(to), _mm_unpacklo_epi8(units_, zero));
+    _mm_storeu_si128(reinterpret_cast<__m128i*>(to + 8), _mm_unpackhi_epi8(units_, zero));
+  }
 
  private:
   static unsigned Bits(__m128i hits) noexcept { return static_cast<unsigned>(_mm_movemask_epi8(hits)); }
@@ -88,6 +96,8 @@ class UnitBlock {
       bits |= (units_[i] >= first && units_[i] <= last ? 1U : 0U) << i;
     return bits;
   }
+  [[nodiscard]] unsigned NoAscii() const noexcept { return From(0x80, 0xFF); }
+  void Widen(char16_t* to) const noexcept { std::copy_n(units_, kSearchBlock, to); }
 
  private:
   const Unit* units_;

@@ -358,7 +358,12 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
   template <class Belongs>
   bool PassAscii(const Belongs& belongs, bool store);
   template <class Belongs>
-  bool PassTill(std::span<char16_t> room, const Belongs& belongs, bool store);
+  void Take(const Run& run, std::span<const char16_t> to, const Belongs& belongs, bool store);
+  std::span<char16_t> PlaceFor(std::size_t count, std::span<char16_t> elsewhere, bool store);
+  template <class Belongs>
+  bool PassAsciiTill(std::span<char16_t> room, const Belongs& belongs, bool store);
+  template <class Belongs>
+  bool PassMixedTill(std::span<char16_t> room, const Belongs& belongs, bool store);
   template <class Belongs>
   std::size_t PassDecoded(std::span<char16_t> room, const Belongs& belongs, bool store);
   std::size_t Pass(const Run& run, std::span<const char16_t> room, bool store);
@@ -401,6 +406,8 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
   Run (*FDecodeRun)(std::span<const std::uint8_t> bytes, std::span<char16_t> text) = nullptr;
   /// Whether a byte below 0x80 is that character of ASCII wherever it stands.
   bool FKeepsAscii = false;
+  /// Whether the text was ASCII of late: which way is tried first.
+  bool FIsPlain = true;
 };
 
 }  // namespace ravo::DIUnicode

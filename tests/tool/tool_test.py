@@ -273,6 +273,14 @@ ROWS = [
     Row(["encodings", "-", "--json"], NO, exact="[]\n", err=("'-'",)),
     Row(["encodings", "1250", "1251"], WRONG_USAGE),
     Row(["encodings", "--help"], out=("--json", "Examples:")),
+    # Conversions.
+    Row(["convert", "--help"], out=("--from", "--replace", "Examples:")),
+    Row(["convert", "-f", "1250", "-t", "utf-8"], exact=""),
+    Row(["convert", "-f", "1250"], WRONG_USAGE, err=("--to",)),
+    Row(["convert", "-f", "nonsense", "-t", "utf-8"], WRONG_USAGE, exact="", err=("nonsense", "ravo encodings")),
+    Row(["convert", "-f", "utf-8", "-t", "gb18030"], WRONG_USAGE, err=("gb18030 cannot be written",)),
+    Row(["convert", "-f", "utf-8", "-t", "1250", "--replace", "ab"], WRONG_USAGE, err=("one character",)),
+    Row(["convert", "-f", "utf-8", "-t", "1250", "chybí.txt"], WRONG_USAGE, exact="", err=("chybí.txt", "cannot be read")),
     # Checks.
     Row(["check", "--help"], out=("--csv FILE", "--column NAME=KIND", "banka", "Examples:")),
     Row(["check", "banka", "19-2000145399/0800"], exact="19-2000145399/0800\tvalid\n"),
@@ -508,6 +516,62 @@ def check_sums(program):
         (program.folder / name).unlink()
 
 
+def check_conversions(program):
+    """Texts come out in the other encoding; what cannot be read or written ends it, and an old file stays."""
+    source, target = program.folder / "příliš.txt", program.folder / "cíl.txt"
+    text = "Příliš žluťoučký kůň\r\n" * 1000
+
+    def convert(*options, content, status=YES):
+        """What stands in the target; the old bytes are "old"."""
+        source.write_bytes(content)
+        target.write_bytes(b"old")
+        result = program.run(["convert", *options, source.name, "-o", target.name])
+        if (result.status, result.out, bool(result.err)) != (status, "", status != YES):
+            return repr(result).encode()
+        return target.read_bytes() if status == YES else target.read_bytes() + result.err.encode()
+
+    marked = "\ufeffa\nbč"
+    rows = [
+        (("-f", "windows-1250", "-t", "UTF_8"), text.encode("cp1250"), text.encode()),
+        (("-f", "utf-8", "-t", "1250"), text.encode(), text.encode("cp1250")),
+        (("-f", "utf8", "-t", "utf-7"), "kůň".encode(), "kůň".encode("utf-7")),
+        (("-f", "utf8", "-t", "utf-16be"), text.encode(), text.encode("utf-16-be")),
+        *[(("-f", "auto", "-t", "1250"), marked.encode(codec), marked[1:].encode("cp1250"))
+          for codec in ("utf-8", "utf-16-le", "utf-16-be", "utf-32-le", "utf-32-be")],
+        (("-f", "auto", "-t", "1250"), "č".encode(), b"\xe8"),
+        (("-f", "utf-8", "-t", "1250", "--replace", "!"), "a\u4e00č\U0001f600".encode(), b"a!\xe8!"),
+        (("-f", "utf-8", "-t", "1250", "--replace", "\u4e00"), "\u4e00".encode(), b"?"),
+        (("-f", "utf-16be", "-t", "utf-8", "--replace", "?"), b"\0a\xdc\0\0b", "a\ufffdb".encode()),
+    ]
+    for options, content, wanted in rows:
+        if (got := convert(*options, content=content)) != wanted:
+            yield f"convert {' '.join(options)}: {got[:300]!r}, not {wanted[:60]!r}"
+    refused = [
+        (("-f", "utf-8", "-t", "1250"), "ab\nc\u4e00".encode(), "2:2: U+4E00 cannot be written in Windows_1250"),
+        (("-f", "utf-8", "-t", "1250"), text.encode() + "\u4e00".encode(), "1001:1: U+4E00"),
+        (("-f", "utf-8", "-t", "utf-8"), b"a\xff", "1:2: bytes that cannot be read"),
+        (("-f", "utf-16be", "-t", "utf-8"), b"\0a\xdc\0\0b", "1:1: bytes that cannot be read after this character"),
+    ]
+    for options, content, told in refused:
+        got = convert(*options, content=content, status=NO).decode()
+        if not got.startswith("old") or told not in got or source.name not in got:
+            yield f"convert {' '.join(options)}: {got!r}"
+    source.write_bytes("č".encode("cp1250"))
+    several = program.run(["convert", "-f", "1250", "-t", "utf-8", source.name, "-", source.name])
+    if (several.status, several.out, several.err) != (YES, "čč", ""):
+        yield f"convert of two files and standard input: {several}"
+    program.run(["convert", "-f", "1250", "-t", "utf-8", source.name, "-o", source.name])
+    if source.read_bytes() != "č".encode():
+        yield "convert of a file onto itself: another text"
+    away = program.run(["convert", "-f", "1250", "-t", "utf-8", source.name, "-o", "nowhere/x"])
+    if away.status != WRONG_USAGE or "nowhere/x: cannot be written" not in away.err:
+        yield f"convert into a folder that is not there: {away}"
+    source.unlink()
+    target.unlink()
+    if left := [path.name for path in program.folder.iterdir() if path.name.startswith(("cíl", "příliš"))]:
+        yield f"convert: left {left}"
+
+
 XML = """<?xml version="1.0" encoding="windows-1250" ?>\r
 <Faktury>\r
   <Faktura Číslo="1" Poznámka="a &lt; b">první<br/>řádek</Faktura>\r
@@ -726,6 +790,7 @@ CHECKS = (
     check_report_json,
     check_report_file,
     check_sums,
+    check_conversions,
     check_full_device,
     check_damaged_files,
     check_sorted_files,

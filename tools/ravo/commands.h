@@ -26,5 +26,6 @@ void AddInterfacesCommand(CLI::App& program, Outcome& outcome);
 void AddXmlCommand(CLI::App& program, Outcome& outcome);
 void AddFormCommand(CLI::App& program, Outcome& outcome);
 void AddEncodingsCommand(CLI::App& program, Outcome& outcome);
+void AddConvertCommand(CLI::App& program, Outcome& outcome);
 
 }  // namespace tool

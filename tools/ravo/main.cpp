@@ -39,6 +39,7 @@ void Describe(CLI::App& program, Outcome& outcome) {
   AddXmlCommand(program, outcome);
   AddFormCommand(program, outcome);
   AddEncodingsCommand(program, outcome);
+  AddConvertCommand(program, outcome);
 }
 
 // Help and version are answers; every other end of parsing is wrong usage, whatever number the parser gives
