@@ -19,5 +19,6 @@ void AddRandomCommand(CLI::App& program, Outcome& outcome);
 void AddAddressCommand(CLI::App& program, Outcome& outcome);
 void AddBackupNameCommand(CLI::App& program, Outcome& outcome);
 void AddInterfacesCommand(CLI::App& program, Outcome& outcome);
+void AddTourCommand(CLI::App& program, Outcome& outcome);
 
 }  // namespace tool
