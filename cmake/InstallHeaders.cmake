@@ -1,5 +1,6 @@
 # Runs at installation: copies the public headers and all that they include, and nothing else.
 # Wants ravo_source (the project) and ravo_include (the folder of headers below the prefix).
+cmake_policy(VERSION 3.25)
 file(GLOB ravo_open RELATIVE ${ravo_source} ${ravo_source}/ravo/*.h)
 set(ravo_headers)
 while(ravo_open)
