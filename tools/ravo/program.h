@@ -2,10 +2,10 @@
 
 #include "outcome.h"
 
-#include <CLI/CLI.hpp>
-
 #include <string>
 #include <vector>
+
+#include <CLI/CLI.hpp>
 
 /// The whole program: its sub-commands by theme, and a run of one command line.
 namespace tool {

@@ -29,7 +29,8 @@ constexpr Stop kStops[] = {
     {"Weeks, Easter and holidays.", "date 2024-03-28 --calendar", 12},
     {"Street and house number, of an address as people write it.", "address \"Nádražní 1234/5\"", 4},
     {"A name that every file system takes.", "backup-name \"%FIRMA%_%DATUM%.zip\" \"A/B: s.r.o.\"", 2},
-    {"A reproducible random text: the same everywhere for the same seed.", "random --seed 2024 --count 40", 2},
+    {"A reproducible random text: the same everywhere for the same seed.", "random --seed 2024 --count 40",
+     2},
     {"The interfaces of the host's object model.", "interfaces IRavoSession", 6},
     {"What support wants to know about this machine.", "report", 12},
 };
@@ -40,9 +41,7 @@ struct Colours {
   const char* off = "";
 };
 
-Colours OfTerminal(bool on) {
-  return on ? Colours{"\033[1m", "\033[32m", "\033[0m"} : Colours{};
-}
+Colours OfTerminal(bool on) { return on ? Colours{"\033[1m", "\033[32m", "\033[0m"} : Colours{}; }
 
 // The first lines of a text, and how many there are more.
 std::string Top(const std::string& text, std::size_t most) {

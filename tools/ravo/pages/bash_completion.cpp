@@ -5,7 +5,8 @@
 namespace pages {
 namespace {
 
-constexpr const char* kHead = R"(# Completion of ravo for bash; made from the definitions of the commands, do not edit.
+constexpr const char* kHead =
+    R"(# Completion of ravo for bash; made from the definitions of the commands, do not edit.
 _ravo() {
   local word=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD-1]} command='' words='' i
   COMPREPLY=()
@@ -70,7 +71,8 @@ std::string BashCompletion(const CLI::App& program) {
   std::string rows, options, names;
   for (const CLI::App* command : Commands(program)) {
     rows += ValueRows(*command);
-    options += "    '" + command->get_name() + " '*) [[ $word != -* ]] || words='" + OptionWords(*command) + "' ;;\n";
+    options += "    '" + command->get_name() + " '*) [[ $word != -* ]] || words='" + OptionWords(*command) +
+               "' ;;\n";
     names += command->get_name() + " ";
   }
   return kHead + rows + options + "    ' '*) words='" + names + OptionWords(program) + "' ;;\n" + kTail;

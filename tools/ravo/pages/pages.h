@@ -1,10 +1,10 @@
 #pragma once
 
-#include <CLI/CLI.hpp>
-
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include <CLI/CLI.hpp>
 
 /// Pages made from the definitions of the program's commands.
 namespace pages {
