@@ -7,7 +7,8 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
 set(CPACK_DEBIAN_PACKAGE_SOURCE ravointerface)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
+# The program's own library is not installed where this is built.
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}/bin)
 set(CPACK_DEBIAN_ENABLE_COMPONENT_DEPENDS ON)
 set(ravo_debian_runtime libravointerface${PROJECT_VERSION_MAJOR})
 set(ravo_debian_development libravointerface-dev)
@@ -16,15 +17,12 @@ set(ravo_debian_tool ravo)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_TOOL_PACKAGE_SECTION utils)
-set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "shared interface library of an accounting suite
- Table names, captions, accounting rules and the support report of a modular
- double-entry accounting suite for Czech businesses.")
-set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "interface library of an accounting suite, development files
- Headers, the static library, and the files by which CMake and pkg-config find
- the library.")
-set(CPACK_COMPONENT_TOOL_DESCRIPTION "interface library of an accounting suite at the prompt
- Looks tables and captions up, checks accounts and payment references, rounds
- money and writes the support report.")
+set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "Table names, captions, accounting rules and the support report of a modular
+double-entry accounting suite for Czech businesses: the shared library.")
+set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "Headers, the static library, and the files by which CMake and pkg-config find
+the library.")
+set(CPACK_COMPONENT_TOOL_DESCRIPTION "The library at the prompt: looks tables and captions up, checks accounts and
+payment references, rounds money and writes the support report.")
 
 # The changelog of the packages: one entry, that of the release; its date is the build's.
 string(TIMESTAMP ravo_debian_date "%a, %d %b %Y %H:%M:%S +0000" UTC)
@@ -36,11 +34,22 @@ file(CONFIGURE OUTPUT ${PROJECT_BINARY_DIR}/debian/changelog.Debian CONTENT
  -- @RAVO_MAINTAINER@  @ravo_debian_date@
 " @ONLY)
 
+# What debuggers need leaves the static library too; CPack sees to the other files.
+install(CODE "execute_process(COMMAND \"${CMAKE_STRIP}\" --strip-debug --enable-deterministic-archives
+  \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}/libRavoInterface.a\" COMMAND_ERROR_IS_FATAL ANY)"
+  COMPONENT development)
+
 # Documents are packed as small as gzip can, and without a time of their own.
 function(ravo_packed file packed)
   add_custom_command(OUTPUT ${packed} COMMAND sh -c "gzip -9nc <\"$1\" >\"$2\"" gzip ${file} ${packed} DEPENDS ${file} VERBATIM)
 endfunction()
 set(folder ${PROJECT_BINARY_DIR}/debian)
+# Which package has the shared library, and that the linker's cache is made anew after its coming and going.
+file(WRITE ${folder}/shlibs
+  "libRavoInterface ${PROJECT_VERSION_MAJOR} ${ravo_debian_runtime} (>= ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})\n")
+file(WRITE ${folder}/triggers "activate-noawait ldconfig\n")
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${folder}/shlibs ${folder}/triggers)
+
 ravo_packed(${folder}/changelog.Debian ${folder}/changelog.Debian.gz)
 ravo_packed(${PROJECT_SOURCE_DIR}/CHANGELOG.md ${folder}/changelog.gz)
 ravo_packed(${PROJECT_BINARY_DIR}/pages/ravo.man ${folder}/ravo.1.gz)

@@ -87,7 +87,7 @@ std::string CommandsByTheme(const CLI::App& program) {
 }  // namespace
 
 std::string ManPage(const CLI::App& program, std::string_view version) {
-  const std::string name = program.get_name();
+  const std::string& name = program.get_name();
   return ".\\\" Made from the definitions of the commands; do not edit.\n.TH RAVO 1 \"\" " +
          Quoted("RavoInterface " + std::string(version)) + " " + Quoted("User Commands") + "\n.SH NAME\n" +
          name + " \\- " + Escaped(program.get_description()) + "\n.SH SYNOPSIS\n\\fB" +
