@@ -1,6 +1,7 @@
 #pragma once
 
 #include "failing_memory.h"
+#include "support/tried.h"
 
 #include <functional>
 #include <new>
@@ -49,6 +50,7 @@ void ExpectSurvivesScarceMemory(const Operation& operation) {
   EXPECT_TRUE(result.succeeded);
   EXPECT_GT(result.failures, 0) << "nothing was asked for";
   EXPECT_EQ(result.leaked, 0);
+  Tried("requests_for_memory_that_failed", result.failures);
 }
 
 }  // namespace ravo::test

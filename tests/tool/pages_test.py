@@ -20,6 +20,14 @@ def commands_of(text):
     return re.findall(r"^  ([a-z][a-z0-9-]*) ", body, re.MULTILINE)
 
 
+def all_commands(program, commands):
+    """The commands, each with its own behind it ("xml", "xml show")."""
+    for command in commands:
+        yield command
+        own = help_of(program, command).partition("\nSubcommands:\n")[2].partition("\n\n")[0]
+        yield from (f"{command} {name}" for name in re.findall(r"^  ([a-z]+) ", own, re.MULTILINE))
+
+
 def options_of(text):
     return sorted(set(re.findall(r"^  (?:-\w,)?(--?[a-z][a-z-]*)", text, re.MULTILINE)))
 
@@ -42,25 +50,27 @@ def man_remarks(page):
 
 def failures(program, page, script):
     yield from (f"groff: {remark}" for remark in man_remarks(page))
-    sections = dict(re.findall(r'^\.SS "ravo (\S+?)"\n(.*?)(?=^\.S[SH] |\Z)', page.replace("\\-", "-"), re.DOTALL | re.MULTILINE))
+    sections = dict(re.findall(r'^\.SS "ravo ([^"]+)"\n(.*?)(?=^\.S[SH] |\Z)', page.replace("\\-", "-"), re.DOTALL | re.MULTILINE))
     whole = help_of(program)
     commands = commands_of(whole)
-    if len(commands) < 10:
+    if len(commands) < 10 or "xml show" not in all_commands(program, commands):
         yield f"help lists but {commands}"
     if "Subcommands:" in whole:
         yield "a command has no theme"
     if completed(script, "ravo", "") != sorted(commands + ["--help", "-h", "--version"]):
         yield f"completion of commands: {completed(script, 'ravo', '')}"
-    for command in commands:
+    for command in all_commands(program, commands):
         if command not in sections:
             yield f"the manual page lacks {command}"
             continue
-        options = options_of(help_of(program, command))
-        offered = completed(script, "ravo", command, "-")
+        options = options_of(help_of(program, *command.split()))
+        offered = completed(script, "ravo", *command.split(), "-")
         yield from (f"the manual page lacks {command} {option}" for option in options if f"{option}" not in sections[command])
         yield from (f"the completion lacks {command} {option}" for option in options if option not in offered)
     if completed(script, "ravo", "round", "--mode", "") != ["down", "math", "up"]:
         yield f"completion of a value: {completed(script, 'ravo', 'round', '--mode', '')}"
+    if completed(script, "ravo", "xml", "s") != ["set", "show"]:
+        yield f"completion of a command of a command: {completed(script, 'ravo', 'xml', 's')}"
     if completed(script, "ravo", "hash", "crc32", ""):
         yield "where a file is wanted, the shell should be left to complete it"
 

@@ -30,7 +30,10 @@ std::vector<Theme> Themes() {
       {"The suite", {AddTableCommand, AddCaptionsCommand, AddInterfacesCommand}},
       {"Accounting",
        {AddCheckCommand, AddRoundCommand, AddDateCommand, AddAddressCommand, AddBackupNameCommand}},
-      {"Sums and random texts", {AddHashCommand, AddRandomCommand}},
+      {"Documents", {AddXmlCommand, AddFormCommand}},
+      {"Characters and texts",
+       {AddCharCommand, AddSortCommand, AddMatchCommand, AddUrlCommand, AddRandomCommand}},
+      {"Files", {AddHashCommand}},
       {"Support", {AddReportCommand, AddTourCommand}},
   };
 }

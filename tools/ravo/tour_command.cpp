@@ -31,6 +31,9 @@ constexpr Stop kStops[] = {
     {"A name that every file system takes.", "backup-name \"%FIRMA%_%DATUM%.zip\" \"A/B: s.r.o.\"", 2},
     {"A reproducible random text: the same everywhere for the same seed.", "random --seed 2024 --count 40",
      2},
+    {"What the character tables know of a character.", "char č", 8},
+    {"Names against a mask, whatever the case.", "match --ignore-case \"p??jem*\" Příjemka Výdejka", 2},
+    {"A text on its way into an address of the web.", "url encode \"Kč & €\"", 2},
     {"The interfaces of the host's object model.", "interfaces IRavoSession", 6},
     {"What support wants to know about this machine.", "report", 12},
 };

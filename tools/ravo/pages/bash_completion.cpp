@@ -5,13 +5,19 @@
 namespace pages {
 namespace {
 
+// The words of the command are those that a sub-command takes up; the first other word ends them.
 constexpr const char* kHead =
     R"(# Completion of ravo for bash; made from the definitions of the commands, do not edit.
 _ravo() {
   local word=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD-1]} command='' words='' i
   COMPREPLY=()
   for ((i = 1; i < COMP_CWORD; i++)); do
-    [[ ${COMP_WORDS[i]} == -* ]] || { command=${COMP_WORDS[i]}; break; }
+    [[ ${COMP_WORDS[i]} != -* ]] || continue
+    case "${command:+$command }${COMP_WORDS[i]}" in
+)";
+
+constexpr const char* kMiddle = R"(      *) break ;;
+    esac
   done
   case "$command $previous" in
 )";
@@ -55,27 +61,43 @@ std::string OptionWords(const CLI::App& app) {
 }
 
 // What follows an option that takes a value: one of its set, or the name of a file.
-std::string ValueRows(const CLI::App& command) {
+std::string ValueRows(const Command& command) {
   std::string rows;
-  for (const CLI::Option* option : command.get_options()) {
+  for (const CLI::Option* option : command.app->get_options()) {
     if (option->get_items_expected_max() == 0) continue;
     for (const std::string& name : Spellings(*option))
-      rows += "    '" + command.get_name() + " " + name + "') words='" + Values(*option) + "' ;;\n";
+      rows += "    '" + command.words + " " + name + "') words='" + Values(*option) + "' ;;\n";
   }
   return rows;
+}
+
+std::string CommandNames(const CLI::App& app) {
+  std::string names;
+  for (const CLI::App* command : app.get_subcommands({}))
+    if (!command->get_group().empty()) names += command->get_name() + " ";
+  return names;
+}
+
+// What a command takes itself: its own commands, and options once a hyphen is typed or nothing else can come.
+std::string CommandRow(const Command& command) {
+  const std::string names = CommandNames(*command.app);
+  const std::string words = "words='" + names + OptionWords(*command.app) + "' ;;\n";
+  const std::string row = "    '" + command.words + " '*) ";
+  return row + (names.empty() ? "[[ $word != -* ]] || " : "") + words;
 }
 
 }  // namespace
 
 std::string BashCompletion(const CLI::App& program) {
-  std::string rows, options, names;
-  for (const CLI::App* command : Commands(program)) {
-    rows += ValueRows(*command);
-    options += "    '" + command->get_name() + " '*) [[ $word != -* ]] || words='" + OptionWords(*command) +
-               "' ;;\n";
-    names += command->get_name() + " ";
+  std::string known, rows, options;
+  for (const Command& command : Commands(program)) {
+    known += "      '" + command.words + "') command='" + command.words + "' ;;\n";
+    rows += ValueRows(command);
+    // The longer one first: "xml show" is no "xml".
+    options.insert(0, CommandRow(command));
   }
-  return kHead + rows + options + "    ' '*) words='" + names + OptionWords(program) + "' ;;\n" + kTail;
+  return kHead + known + kMiddle + rows + options + "    ' '*) words='" + CommandNames(program) +
+         OptionWords(program) + "' ;;\n" + kTail;
 }
 
 }  // namespace pages

@@ -69,17 +69,20 @@ std::string Usage(const CLI::App& app, const std::string& name) {
   return line.substr(begin, line.find('\n') - begin);
 }
 
-std::string Command(const CLI::App& command) {
-  const std::string name = "ravo " + command.get_name();
-  return ".SS " + Quoted(name) + "\n" + Escaped(command.get_description()) + ".\n.PP\n\\fB" +
-         Escaped(Usage(command, name)) + "\\fR\n" + Options(command) + Footer(command);
+std::string Section(const Command& command) {
+  const std::string name = "ravo " + command.words;
+  return ".SS " + Quoted(name) + "\n" + Escaped(command.app->get_description()) + ".\n.PP\n\\fB" +
+         Escaped(Usage(*command.app, name)) + "\\fR\n" + Options(*command.app) + Footer(*command.app);
 }
 
+// A command's own commands stand in its theme.
 std::string CommandsByTheme(const CLI::App& program) {
   std::string text, theme;
-  for (const CLI::App* command : Commands(program)) {
-    if (command->get_group() != theme) text += ".SH " + Quoted(theme = command->get_group()) + "\n";
-    text += Command(*command);
+  for (const Command& command : Commands(program)) {
+    const std::string& group = command.app->get_group();
+    const bool at_top = command.words == command.app->get_name();
+    if (at_top && group != theme) text += ".SH " + Quoted(theme = group) + "\n";
+    text += Section(command);
   }
   return text;
 }

@@ -15,9 +15,13 @@ namespace pages {
 /// The completion of command lines, a script for bash that needs nothing but bash.
 [[nodiscard]] std::string BashCompletion(const CLI::App& program);
 
-/// The sub-commands that help shows, in their order.
-[[nodiscard]] inline std::vector<const CLI::App*> Commands(const CLI::App& program) {
-  return program.get_subcommands([](const CLI::App* command) { return !command->get_group().empty(); });
-}
+/// A sub-command with the words by which one calls it ("xml show").
+struct Command {
+  std::string words;
+  const CLI::App* app;
+};
+
+/// All sub-commands that help shows, in its order, each before its own.
+[[nodiscard]] std::vector<Command> Commands(const CLI::App& program);
 
 }  // namespace pages
