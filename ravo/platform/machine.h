@@ -198,9 +198,19 @@ class RAVO_API Machine {
   [[nodiscard]] virtual std::u16string FromCodePage(std::string_view bytes) const = 0;
   /// A character that the code page lacks becomes what the system puts in its place, "?" at the latest.
   [[nodiscard]] virtual std::string ToCodePage(std::u16string_view text) const = 0;
+  /// The same for a code page by its number; no value where the system does not know it.
+  [[nodiscard]] virtual std::optional<std::u16string> DecodeCodePage(std::uint32_t code_page,
+                                                                     std::string_view bytes) const = 0;
+  [[nodiscard]] virtual std::optional<std::string> EncodeCodePage(std::uint32_t code_page,
+                                                                  std::u16string_view text) const = 0;
+  /// The 8-bit code page of a locale by the number that Windows gives that; no value for an unknown one.
+  [[nodiscard]] virtual std::optional<std::uint32_t> CodePageOfLocale(std::uint32_t locale) const = 0;
 
   /// Sends a text to an attached debugger, where the system has such a channel.
   virtual void DebugOutput(std::u16string_view text) const = 0;
+
+  /// Whether two texts are equal without regard to case, as the user's language compares them.
+  [[nodiscard]] virtual bool SameText(std::u16string_view left, std::u16string_view right) const = 0;
 
   // Resource texts.
   /// A string of the module's string table, of the module itself (not of what it links to); no value where it

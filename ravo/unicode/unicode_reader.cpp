@@ -1,31 +1,110 @@
+#include <ravo/unicode/encodings.h>
+#include <ravo/unicode/encodings/runs.h>
 #include <ravo/unicode/unicode_reader.h>
 
-namespace ravo::DIUnicode {
+#include <algorithm>
 
-TDIUnicodeReader::TDIUnicodeReader(TComponent* AOwner) : TDIUnicodeBase(AOwner) {}
+namespace ravo::DIUnicode {
+namespace {
+
+bool IsLineBreak(char16_t ch) { return ch == u'\r' || ch == u'\n'; }
+
+}  // namespace
+
+TDIUnicodeReader::TDIUnicodeReader(TComponent* AOwner) : TDIUnicodeBase(AOwner) { UseReadMethods({}); }
 
 TDIUnicodeReader::~TDIUnicodeReader() {
+  ClearSourceStack();
   if (FReadMethods.Finalize != nullptr) FReadMethods.Finalize(*this);
+  // Kept: a reader that goes leaves its first stream, because the program that set it may still use it
+  if (FSourceStream != nullptr) DropStreamBuffer();
 }
 
-void TDIUnicodeReader::SetSourceBuffer(std::span<const std::uint8_t> buffer) {
-  FSourceBuffer = buffer.data();
-  FSourceBufferSize = static_cast<std::uint32_t>(buffer.size());
-  FSourceBufferPosition = 0;
+// Methods that are complete: what is missing is put in its place.
+void TDIUnicodeReader::UseReadMethods(const TDIUnicodeReadMethods& methods) {
+  FReadMethods = methods;
+  if (FReadMethods.ReadChar == nullptr) {
+    FReadMethods.Init = nullptr;
+    FReadMethods.ReadChar = Read_Iso_8859_1_ReadChar;
+  }
+  FDecodeRun = DecodeRunOf(FReadMethods);
 }
 
 void TDIUnicodeReader::SetReadMethods(const TDIUnicodeReadMethods& methods) {
+  // They may be our own, which `Finalize` may still look at.
+  const TDIUnicodeReadMethods copy = methods;
   if (FReadMethods.Finalize != nullptr) FReadMethods.Finalize(*this);
   FState = 0;
-  FReadMethods = methods;
+  UseReadMethods(copy);
   if (FReadMethods.Init != nullptr) FReadMethods.Init(*this);
 }
 
 bool TDIUnicodeReader::ReadChar() {
-  FCharOK = FReadMethods.ReadChar != nullptr && FReadMethods.ReadChar(*this, FChar);
-  return FCharOK;
+  FLastChar = FChar;
+  FCharOK = false;
+  if (!TakePeeked(FChar) && !Decode(FChar)) return false;
+  CountLocation();
+  FCharOK = true;
+  return true;
 }
 
-std::uint32_t TDIUnicodeReader::FillSourceBuffer(bool) { return 0; }
+bool TDIUnicodeReader::AddCharReadChar() {
+  AddChar();
+  return ReadChar();
+}
+
+// A source that ended is left before the decoder is chosen, so that the one that goes on is read with its
+// own.
+bool TDIUnicodeReader::Decode(char16_t& ch) {
+  if (FSourceStack != nullptr && FSourceBufferPosition >= FSourceBufferSize) FillSourceBuffer(false);
+  return FReadMethods.ReadChar(*this, ch);
+}
+
+bool TDIUnicodeReader::TakePeeked(char16_t& ch) noexcept {
+  if (FPeekedCount == 0) return false;
+  ch = FPeekedChars[FPeekedStart++];
+  --FPeekedCount;
+  return true;
+}
+
+bool TDIUnicodeReader::PeekChars(std::uint32_t Count) {
+  if (FPeekedCount >= Count) return true;
+  MakePeekRoom(Count);
+  while (FPeekedCount < Count) {
+    if (!Decode(FPeekedChars[FPeekedCount])) return false;
+    ++FPeekedCount;
+  }
+  return true;
+}
+
+// What is peeked begins at the front again, with room for `Count` in all.
+void TDIUnicodeReader::MakePeekRoom(std::uint32_t Count) {
+  if (FPeekedCapacity >= Count) {
+    std::copy_n(FPeekedChars.get() + FPeekedStart, FPeekedCount, FPeekedChars.get());
+  } else {
+    auto larger = std::make_unique<char16_t[]>(Count);
+    std::copy_n(FPeekedChars.get() + FPeekedStart, FPeekedCount, larger.get());
+    FPeekedChars = std::move(larger);
+    FPeekedCapacity = Count;
+  }
+  FPeekedStart = 0;
+}
+
+void TDIUnicodeReader::CountLocation() noexcept {
+  ++FCharPos;
+  if (!IsLineBreak(FLastChar)) {
+    ++FCharCol;
+  } else if (FLastChar == u'\n' || FChar != u'\n') {
+    ++FCharLine;
+    FCharCol = 1;
+  }
+}
+
+void TDIUnicodeReader::ResetCharLocation() noexcept {
+  FChar = 0;
+  FCharPos = 0;
+  FCharLine = 1;
+  FCharCol = 0;
+}
 
 }  // namespace ravo::DIUnicode

@@ -19,4 +19,7 @@ enum class Channel { Out, Err };
 /// Whether somebody reads the channel on a terminal.
 [[nodiscard]] bool IsTerminal(Channel channel);
 
+/// Whether that terminal shows colours.
+[[nodiscard]] bool ShowsColours(Channel channel);
+
 }  // namespace tool

@@ -1,6 +1,7 @@
 #include "console.h"
 
 #include <cstdio>
+#include <cstdlib>
 
 #include <unistd.h>
 
@@ -17,6 +18,11 @@ bool Write(Channel channel, std::string_view utf8) {
 
 bool IsTerminal(Channel channel) {
   return isatty(channel == Channel::Out ? STDOUT_FILENO : STDERR_FILENO) == 1;
+}
+
+bool ShowsColours(Channel channel) {
+  const char* const kind = std::getenv("TERM");
+  return IsTerminal(channel) && kind != nullptr && std::string_view(kind) != "dumb";
 }
 
 }  // namespace tool

@@ -78,4 +78,12 @@ bool IsTerminal(Channel channel) {
   return GetConsoleMode(HandleOf(channel), &mode) != 0;
 }
 
+// A console reads colour codes only where it is told to; old ones cannot.
+bool ShowsColours(Channel channel) {
+  constexpr DWORD kReadCodes = 0x0004;
+  DWORD mode = 0;
+  const HANDLE console = HandleOf(channel);
+  return GetConsoleMode(console, &mode) && SetConsoleMode(console, mode | kReadCodes);
+}
+
 }  // namespace tool

@@ -36,6 +36,8 @@ void Describe(CLI::App& program, Outcome& outcome) {
   AddAddressCommand(program, outcome);
   AddBackupNameCommand(program, outcome);
   AddInterfacesCommand(program, outcome);
+  AddXmlCommand(program, outcome);
+  AddFormCommand(program, outcome);
 }
 
 // Help and version are answers; every other end of parsing is wrong usage, whatever number the parser gives

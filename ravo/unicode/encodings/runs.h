@@ -7,8 +7,9 @@
 #include <cstdint>
 #include <span>
 
-/// Whole runs of characters at once. They give what the routines of one character give, and stop before
-/// whatever those have to decide.
+/// Whole runs of characters at once. They give what the routines of one character give, U+FFFD for what is
+/// malformed included, and stop before whatever those have to decide: what the end of `bytes` cuts short,
+/// what ends the data, and what an encoding lacks.
 namespace ravo::DIUnicode {
 
 /// How much of a run was done.
@@ -17,11 +18,12 @@ struct Run {
   std::size_t made = 0;   ///< units of the result
 };
 
-/// Decodes characters from `bytes` into `text` while they are whole, well formed and there is room. Needs no
-/// state. May stop at any character boundary, also at once.
+/// Decodes characters from `bytes` into `text` while they are whole and there is room. Needs no state. May
+/// write beyond what it made, within `text`. May stop at any character boundary, also at once.
 using DecodeRun = Run (*)(std::span<const std::uint8_t> bytes, std::span<char16_t> text);
 
-/// Encodes `text` into `bytes` while the encoding has the characters and there is room.
+/// Encodes `text` into `bytes` while the encoding has the characters and there is room for its longest
+/// one. May write beyond what it made, within `bytes`.
 using EncodeRun = Run (*)(std::span<const char16_t> text, std::span<std::uint8_t> bytes);
 
 /// The run beside the routines of one character; null where an encoding has none or the routines are not of
