@@ -18,7 +18,7 @@ int main() {
   // [compare]
   std::cout << StrSameI(u"PŘÍKAZ", u"příkaz") << "\n";
   std::cout << (StrCompNumI(u"faktura 9", u"Faktura 12") < 0) << "\n";
-  std::cout << StrMatchWild(u"FV2026-0012", u"FV????-*") << "\n";
+  std::cout << StrMatchWild(u"FV2026-0012", u"FV*-001?") << "\n";
   // [/compare]
   // [numbers]
   std::int32_t value = 0;
