@@ -14,11 +14,13 @@ int main() {
   TDIUnicodeReader reader;
   reader.SetReadMethods(Read_Windows_1250);
   reader.SetSourceBufferAsStrA(bytes);
-  while (reader.ReadChar()) {
-    reader.ReadCharsTill(u';');
-    std::cout << "line " << reader.CharLine() << ": " << ToUtf8(reader.Data()) << "\n";
-    reader.SkipTillEndOfLine();
+  reader.ReadChar();
+  while (reader.CharOK()) {
+    std::cout << "line " << reader.CharLine();
     reader.ClearData();
+    reader.ReadCharsTill(u';');
+    std::cout << ": " << ToUtf8(reader.Data()) << "\n";
+    reader.SkipTillEndOfLine();
   }
   // [/read]
   // [write]
