@@ -16,7 +16,7 @@ const std::u16string kText(300, u'č');
 const std::u16string kWords = u"Faktura č. 12 za žluťoučkého koně a za dva další koně ";
 const std::string kBytes(300, '\xE8');
 
-TEST(OutOfMemory, StringFunctions) {
+TEST(TextOutOfMemory, StringFunctions) {
   using namespace DIUtils;
   ExpectSurvivesScarceMemory([] { static_cast<void>(StrReplaceIW(kText, u"Č", u"cc")); });
   ExpectSurvivesScarceMemory([] { static_cast<void>(StrReplaceLoopW(kText, u"čč", u"č")); });
@@ -28,7 +28,7 @@ TEST(OutOfMemory, StringFunctions) {
 }
 
 // A text that is changed in place is the old one or the new one.
-TEST(OutOfMemory, ATextStaysWhole) {
+TEST(TextOutOfMemory, ATextStaysWhole) {
   std::u16string target = kText;
   target.shrink_to_fit();
   {
@@ -40,7 +40,7 @@ TEST(OutOfMemory, ATextStaysWhole) {
   EXPECT_EQ(target, kText + kText);
 }
 
-TEST(OutOfMemory, Reader) {
+TEST(TextOutOfMemory, Reader) {
   using namespace DIUnicode;
   for (const PDIUnicodeReadMethods methods : {&Read_Windows_1250, &Read_UTF_8, &Read_UTF_7}) {
     ExpectSurvivesScarceMemory([methods] {
@@ -55,7 +55,7 @@ TEST(OutOfMemory, Reader) {
 }
 
 // What a reader has collected stays, and it goes on where it was.
-TEST(OutOfMemory, AReaderStaysUsable) {
+TEST(TextOutOfMemory, AReaderStaysUsable) {
   DIUnicode::TDIUnicodeReader reader;
   reader.SetReadMethods(DIUnicode::Read_Windows_1250);
   reader.SetSourceBufferAsStrA(kBytes);
@@ -74,7 +74,7 @@ TEST(OutOfMemory, AReaderStaysUsable) {
   for (const char16_t c : reader.Data()) EXPECT_EQ(c, u'č');
 }
 
-TEST(OutOfMemory, Sources) {
+TEST(TextOutOfMemory, Sources) {
   ExpectSurvivesScarceMemory([] {
     MemoryStream stream(std::as_bytes(std::span(kBytes)));
     DIUnicode::TDIUnicodeReader reader;
@@ -86,7 +86,7 @@ TEST(OutOfMemory, Sources) {
   });
 }
 
-TEST(OutOfMemory, Writer) {
+TEST(TextOutOfMemory, Writer) {
   using namespace DIUnicode;
   for (const PDIUnicodeWriteMethods methods : {&Write_Windows_1250, &Write_UTF_16_BE, &Write_UTF_7}) {
     ExpectSurvivesScarceMemory([methods] {
@@ -101,7 +101,7 @@ TEST(OutOfMemory, Writer) {
 }
 
 // The bytes of a writer are whole characters of what was asked for, and more can follow.
-TEST(OutOfMemory, AWriterStaysUsable) {
+TEST(TextOutOfMemory, AWriterStaysUsable) {
   DIUnicode::TDIUnicodeWriter writer;
   writer.SetWriteMethods(DIUnicode::Write_UTF_16_BE);
   writer.WriteStrW(u"č");
@@ -116,14 +116,14 @@ TEST(OutOfMemory, AWriterStaysUsable) {
   EXPECT_EQ(bytes.substr(bytes.size() - 2), "\x01\x7E");
 }
 
-TEST(OutOfMemory, EncodingsByName) {
+TEST(TextOutOfMemory, EncodingsByName) {
   ExpectSurvivesScarceMemory([] {
     const DIUnicode::EncodingRow* const encoding = DIUnicode::FindEncoding("UTF-8");
     static_cast<void>(DIUnicode::EncodedCharacter(*encoding, u'€'));
   });
 }
 
-TEST(OutOfMemory, FormFields) {
+TEST(TextOutOfMemory, FormFields) {
   using namespace RavoFileCommon;
   for (const bool as_unicode : {false, true}) {
     ExpectSurvivesScarceMemory([as_unicode] {
