@@ -35,7 +35,7 @@ class RAVO_API TXMLItem {
   TXMLItem(const TXMLItem&) = delete;
   TXMLItem& operator=(const TXMLItem&) = delete;
   ~TXMLItem();
-  /// Items of a document share its memory; others have their own. `std::bad_alloc` without memory.
+  /// Memory of an item that is made alone. `std::bad_alloc` without memory.
   static void* operator new(std::size_t size);
   /// For an item whose constructor raised.
   static void operator delete(void* memory) noexcept;
