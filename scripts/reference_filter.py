@@ -92,7 +92,7 @@ def name_of(piece):
 
 
 def same_family(left, right):
-    bare = [re.sub(r"^(Set|Get|First|Last|Buf|Str)|(ByRef|InPlace|Ymd|Ym|A|W|I)+$", "", name) for name in (left, right)]
+    bare = [re.sub(r"^(Set)?(Get|First|Last|Buf|Str|Read|Skip)?|(ByRef|InPlace|Ymd|Ym|A|W|I)+$", "", name) for name in (left, right)]
     return left == right or bare[0] == bare[1] != ""
 
 

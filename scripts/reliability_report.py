@@ -86,6 +86,14 @@ def coverage_lines(project):
     return f"Functions run: {cells[1]}; lines: {cells[2]}; branches: {cells[3]}. {expectations.group(0) if expectations else ''}\n"
 
 
+def long_runs(project):
+    """The table of long runs below the sum of what it counts as inputs of fuzz targets."""
+    text = (project / "docs/long-runs.md").read_text(encoding="utf-8").split("\n\n", 2)[2]
+    inputs = sum(int(number.replace(",", "")) for number in re.findall(r"\b([\d,]{5,}) (?:inputs|more)\b", text))
+    differing = sum(row.strip("|").split("|")[3].strip() != "none" for row in rows_of_page(project, "docs/long-runs.md"))
+    return f"{inputs:,} inputs of fuzz targets in all; {differing} runs with a difference.\n\n{text}"
+
+
 def figures(project, reports):
     return "\n".join([
         "### Tests on Linux\n", programs_table(reports),
@@ -95,7 +103,7 @@ def figures(project, reports):
         "### What runs\n", coverage_lines(project),
         "### Oddities held on purpose\n",
         f"{len(rows_of_page(project, 'docs/quirks.md'))}, each with its comment, its reason and its test: [quirks.md](quirks.md).\n",
-        "### Long runs\n", (project / "docs/long-runs.md").read_text(encoding="utf-8").split("\n\n", 2)[2],
+        "### Long runs\n", long_runs(project),
     ])
 
 

@@ -201,6 +201,7 @@ class RAVO_API Machine {
   /// The same for a code page by its number; no value where the system does not know it.
   [[nodiscard]] virtual std::optional<std::u16string> DecodeCodePage(std::uint32_t code_page,
                                                                      std::string_view bytes) const = 0;
+  /// The other way round; no value where the system does not know the code page.
   [[nodiscard]] virtual std::optional<std::string> EncodeCodePage(std::uint32_t code_page,
                                                                   std::u16string_view text) const = 0;
   /// The 8-bit code page of a locale by the number that Windows gives that; no value for an unknown one.

@@ -15,6 +15,7 @@ class RAVO_API TComponent {
   TComponent& operator=(const TComponent&) = delete;
   virtual ~TComponent();
 
+  /// Who frees it; null for none.
   [[nodiscard]] TComponent* Owner() const noexcept { return owner_; }
 
  private:

@@ -21,11 +21,15 @@
 /// character that the encoding lacks, and U+FFFD is one of those in every single-byte encoding.
 namespace ravo::DIUnicode {
 
-#define RAVO_DECLARE_ReadOnly(name)                        \
-  extern RAVO_API const TDIUnicodeReadMethods Read_##name; \
+#define RAVO_DECLARE_ReadOnly(name)                                \
+  /** Plugs #name into a reader. */                                \
+  extern RAVO_API const TDIUnicodeReadMethods Read_##name;         \
+  /** Reads a character of #name; false at the end of all data. */ \
   RAVO_API bool Read_##name##_ReadChar(TDIUnicodeReader& reader, char16_t& ch);
-#define RAVO_DECLARE_WriteOnly(name)                         \
-  extern RAVO_API const TDIUnicodeWriteMethods Write_##name; \
+#define RAVO_DECLARE_WriteOnly(name)                             \
+  /** Plugs #name into a writer. */                              \
+  extern RAVO_API const TDIUnicodeWriteMethods Write_##name;     \
+  /** Writes a character in #name; false where that lacks it. */ \
   RAVO_API bool Write_##name##_WriteChar(TDIUnicodeWriter& writer, char16_t ch);
 #define RAVO_DECLARE_Both(name) RAVO_DECLARE_ReadOnly(name) RAVO_DECLARE_WriteOnly(name)
 
@@ -40,9 +44,13 @@ namespace ravo::DIUnicode {
 /// UTF-7 remembers between characters. `Init` makes a record of 12 bytes for it, `Flush` writes what is held
 /// back and leaves base 64, `Finalize` frees the record.
 RAVO_API void Read_UTF_7_Init(TDIUnicodeReader& reader);
+/// Frees the record.
 RAVO_API void Read_UTF_7_Finalize(TDIUnicodeReader& reader);
+/// Makes the record of a writer.
 RAVO_API void Write_UTF_7_Init(TDIUnicodeWriter& writer);
+/// Writes what is held back and leaves base 64.
 RAVO_API void Write_UTF_7_Flush(TDIUnicodeWriter& writer);
+/// Frees the record.
 RAVO_API void Write_UTF_7_Finalize(TDIUnicodeWriter& writer);
 
 /// One encoding.

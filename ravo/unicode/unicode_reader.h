@@ -26,29 +26,33 @@ enum class TAutoFreeSourceStreams : std::uint8_t { afNone, afAllButFirst, afAll 
 
 /// What plugs an encoding into a reader. `Init` and `Finalize` may be null.
 struct TDIUnicodeReadMethods {
+  /// Called when the methods are plugged in.
   void (*Init)(TDIUnicodeReader& reader) = nullptr;
   /// Decodes the next character from the reader's bytes; false at the end of all data.
   bool (*ReadChar)(TDIUnicodeReader& reader, char16_t& ch) = nullptr;
+  /// Called when others take their place, and at the end.
   void (*Finalize)(TDIUnicodeReader& reader) = nullptr;
 };
 
+/// Methods that stand somewhere.
 using PDIUnicodeReadMethods = const TDIUnicodeReadMethods*;
 
 /// A source that waits on the stack while another one is read.
 struct TUnicodeReaderSource {
-  TUnicodeReaderSource* Next = nullptr;  ///< the entry below
-  std::uint32_t CharPos = 0;
-  std::uint32_t CharLine = 0;
-  std::uint32_t CharCol = 0;
-  TDIUnicodeReadMethods ReadMethods;  ///< without `ReadChar`: none were stored
-  const std::uint8_t* SourceBuffer = nullptr;
-  std::uint32_t SourceBufferSize = 0;
-  std::uint32_t SourceBufferPosition = 0;
-  std::u16string SourceFile;
-  ByteStream* SourceStream = nullptr;
-  std::int32_t UserData = 0;
+  TUnicodeReaderSource* Next = nullptr;        ///< the entry below
+  std::uint32_t CharPos = 0;                   ///< as the reader has it
+  std::uint32_t CharLine = 0;                  ///< as the reader has it
+  std::uint32_t CharCol = 0;                   ///< as the reader has it
+  TDIUnicodeReadMethods ReadMethods;           ///< without `ReadChar`: none were stored
+  const std::uint8_t* SourceBuffer = nullptr;  ///< the bytes, or null
+  std::uint32_t SourceBufferSize = 0;          ///< in bytes
+  std::uint32_t SourceBufferPosition = 0;      ///< the next byte
+  std::u16string SourceFile;                   ///< the name, for messages
+  ByteStream* SourceStream = nullptr;          ///< the stream, or null
+  std::int32_t UserData = 0;                   ///< free for the caller
 };
 
+/// An entry of the stack.
 using PUnicodeReaderSource = TUnicodeReaderSource*;
 
 /// Turns bytes of any supported encoding into UTF-16 characters, one at a time, and collects chosen ones in a
@@ -99,6 +103,7 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
   [[nodiscard]] std::u16string_view PeekedChars() const noexcept {
     return {FPeekedChars.get() + FPeekedStart, FPeekedCount};
   }
+  /// How many they are.
   [[nodiscard]] std::uint32_t PeekedCount() const noexcept { return FPeekedCount; }
   /// Forgets peeked characters; their bytes are not read again.
   void ClearPeekedChars() noexcept { FPeekedCount = 0; }
@@ -136,7 +141,9 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
   [[nodiscard]] std::string SourceBufferAsStrA() const;
   /// Null where there is none.
   [[nodiscard]] const std::uint8_t* SourceBuffer() const noexcept { return FSourceBuffer; }
+  /// In bytes.
   [[nodiscard]] std::uint32_t SourceBufferSize() const noexcept { return FSourceBufferSize; }
+  /// The byte that is decoded next, from 0.
   [[nodiscard]] std::uint32_t SourceBufferPosition() const noexcept { return FSourceBufferPosition; }
   /// The caller's buffer has another size now. A position behind it becomes its end; peeked characters are
   /// forgotten and no character is current. Raises in stream mode and without a buffer.
@@ -155,13 +162,17 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
   void SetSourceFile(std::u16string_view AFileName);
   /// Frees the current stream, whoever made it, by `delete`, and reads from nothing then.
   void FreeSourceStream();
+  /// The current stream; null for none.
   [[nodiscard]] ByteStream* SourceStream() const noexcept { return FSourceStream; }
+  /// The name of the current source; may be empty.
   [[nodiscard]] const std::u16string& SourceFile() const noexcept { return FSourceFile; }
   /// The name of the source at the bottom of the stack.
   [[nodiscard]] const std::u16string& FirstSourceFile() const noexcept;
+  /// Which streams the reader frees; none at first.
   [[nodiscard]] TAutoFreeSourceStreams AutoFreeSourceStreams() const noexcept {
     return FAutoFreeSourceStreams;
   }
+  /// Chooses which streams the reader frees.
   void SetAutoFreeSourceStreams(TAutoFreeSourceStreams Mode) noexcept { FAutoFreeSourceStreams = Mode; }
 
   /// Puts the current source on the stack, with its location and, if told to, its read methods, and reads
@@ -170,7 +181,9 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
   /// Goes on with the source on top of the stack; false where there is none. Happens by itself when a source
   /// ends. Read methods come back without `Init` or `Finalize`.
   bool PopSource();
+  /// Forgets all waiting sources, and frees their streams where it is told to.
   void ClearSourceStack();
+  /// The source that waits on top; null for none.
   [[nodiscard]] PUnicodeReaderSource SourceStack() const noexcept { return FSourceStack; }
   /// To the start of the source, of the stream from its first byte on.
   void RewindSource();
@@ -224,10 +237,13 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
   /// Decimal digits of any script.
   void ReadDigits();
   void SkipDigits();
+  /// Digits 0 to 9 and A to F of either case.
   void ReadHexDigits();
   void SkipHexDigits();
+  /// Characters that `CharIsWhiteSpaceW` calls so.
   void ReadWhiteSpace();
   void SkipWhiteSpace();
+  /// Characters up to the first white space.
   void ReadCharsTillWhiteSpace();
   /// To the start of the next line: everything up to a carriage return or line feed, then that break itself,
   /// which is not collected. Reads a character first where none is current.
@@ -242,11 +258,15 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
 
   // The Data: the collected characters.
 
+  /// The collected characters; the view lasts until one is added.
   [[nodiscard]] std::u16string_view Data() const noexcept { return {FData.get(), FDataSize}; }
   /// In characters.
   [[nodiscard]] std::uint32_t DataSize() const noexcept { return FDataSize; }
+  /// How many fit without more memory.
   [[nodiscard]] std::uint32_t DataCapacity() const noexcept { return FDataCapacity; }
+  /// Whether none is collected.
   [[nodiscard]] bool DataIsEmpty() const noexcept { return FDataSize == 0; }
+  /// Whether any is collected.
   [[nodiscard]] bool DataIsNotEmpty() const noexcept { return FDataSize != 0; }
 
   /// Adds the current character, or the given one.
@@ -258,13 +278,19 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
   /// Adds a blank for white space, and nothing where the Data ends in a blank already; other characters as
   /// they are.
   void AddCharCompact(char16_t c);
+  /// Adds carriage return and line feed.
   void AddCrLf();
+  /// Adds a blank.
   void AddSpace() { AddChar(u' '); }
+  /// Adds a blank, and nothing where the Data ends in one already.
   void AddSpaceCompact() { AddCharCompact(u' '); }
+  /// Adds a text.
   void AddStrW(std::u16string_view Value);
+  /// Adds a text, each run of white space as one blank.
   void AddStrCompactW(std::u16string_view Value);
   /// Empties the Data and frees its memory, or keeps that.
   void ClearData() noexcept;
+  /// Empties the Data and keeps its memory.
   void ZeroDataSize() noexcept { FDataSize = 0; }
   /// Shortens the Data. Raises without Data ("Data is not assigned") and for more than there is ("DataSize
   /// out of bounds").
@@ -277,27 +303,35 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
   /// The Data without characters that pass the test at both ends, at the front, at the end: how long it is,
   /// and where it stands in the Data.
   [[nodiscard]] std::uint32_t TrimmedDataLength(CharPredicate Validate = nullptr) const;
+  /// How long the Data is without characters that pass the test at its end.
   [[nodiscard]] std::uint32_t TrimmedRightDataLength(CharPredicate Validate = nullptr) const;
+  /// The Data without characters that pass the test at both ends.
   [[nodiscard]] std::u16string_view TrimmedDataStartAndLength(CharPredicate Validate = nullptr) const;
+  /// The Data without characters that pass the test at its front.
   [[nodiscard]] std::u16string_view TrimmedLeftDataStartAndLength(CharPredicate Validate = nullptr) const;
 
   /// Copies of the Data, whole or trimmed.
   [[nodiscard]] std::u16string DataAsStr() const { return DataAsStrW(); }
   [[nodiscard]] std::u16string DataAsStrW() const { return std::u16string(Data()); }
+  /// A copy without characters that pass the test (white space for null) at both ends.
   [[nodiscard]] std::u16string DataAsStrTrimW(CharPredicate Validate = nullptr) const;
+  /// A copy without characters that pass the test (white space for null) at its front.
   [[nodiscard]] std::u16string DataAsStrTrimLeftW(CharPredicate Validate = nullptr) const;
   /// In UTF-8, with pairs of surrogates joined and U+FFFD for lone ones.
   [[nodiscard]] std::string DataAsStr8() const;
   /// In the 8-bit text of a code page; 0 means the system's. What the code page lacks becomes what the system
   /// puts in its place, "?" at the latest; empty for an unknown code page.
   [[nodiscard]] std::string DataAsStrA(std::uint32_t CodePage = 0) const;
+  /// The same, trimmed at both ends.
   [[nodiscard]] std::string DataAsStrTrimA(std::uint32_t CodePage, CharPredicate Validate = nullptr) const;
   /// In the system's code page.
   [[nodiscard]] std::string DataToStrA() const;
+  /// The same, trimmed at both ends.
   [[nodiscard]] std::string DataToStrTrimA(CharPredicate Validate = nullptr) const;
 
   /// Whether all characters of the Data pass the test (also where there are none), or any.
   [[nodiscard]] bool DataIsChars(CharPredicate Validate) const;
+  /// Whether any character of the Data passes the test.
   [[nodiscard]] bool DataHasChars(CharPredicate Validate) const;
   /// Whether the Data is that text; in the second, when the case of letters does not count.
   [[nodiscard]] bool DataIsStrW(std::u16string_view AString) const noexcept { return Data() == AString; }

@@ -19,14 +19,17 @@ class TDIUnicodeWriter;
 
 /// What plugs an encoding into a writer. All but `WriteChar` may be null.
 struct TDIUnicodeWriteMethods {
+  /// Called when the methods are plugged in.
   void (*Init)(TDIUnicodeWriter& writer) = nullptr;
   /// Encodes a character; false where the encoding lacks it.
   bool (*WriteChar)(TDIUnicodeWriter& writer, char16_t ch) = nullptr;
   /// Writes what the encoder holds back.
   void (*Flush)(TDIUnicodeWriter& writer) = nullptr;
+  /// Called when others take their place, and at the end.
   void (*Finalize)(TDIUnicodeWriter& writer) = nullptr;
 };
 
+/// Methods that stand somewhere.
 using PDIUnicodeWriteMethods = const TDIUnicodeWriteMethods*;
 
 /// What is to be done about a character that the encoding lacks: write the replacement; nothing, the handler
@@ -65,8 +68,10 @@ class RAVO_API TDIUnicodeWriter : public TDIUnicodeBase {
   [[nodiscard]] std::uintptr_t State() const noexcept { return FState; }
   void SetState(std::uintptr_t state) noexcept { FState = state; }
 
+  /// What is written in the place of a character that the encoding lacks.
   [[nodiscard]] char16_t ReplacementChar() const noexcept { return FReplacementChar; }
   void SetReplacementChar(char16_t c) noexcept { FReplacementChar = c; }
+  /// Who decides about a character that the encoding lacks; empty for nobody.
   [[nodiscard]] const TDIInvalidCharEvent& OnInvalidChar() const noexcept { return FOnInvalidChar; }
   void SetOnInvalidChar(TDIInvalidCharEvent Handler) { FOnInvalidChar = std::move(Handler); }
 
@@ -87,6 +92,7 @@ class RAVO_API TDIUnicodeWriter : public TDIUnicodeBase {
   [[nodiscard]] std::span<const std::uint8_t> Data() const noexcept { return {FData.get(), FDataSize}; }
   /// In bytes.
   [[nodiscard]] std::uint32_t DataSize() const noexcept { return FDataSize; }
+  /// How many bytes fit without more memory.
   [[nodiscard]] std::uint32_t DataCapacity() const noexcept { return FDataCapacity; }
   /// One byte more, as it stands in the buffer. Raises without a buffer ("Data is not assigned") and where it
   /// is full ("DataSize out of bounds").
@@ -100,10 +106,12 @@ class RAVO_API TDIUnicodeWriter : public TDIUnicodeBase {
 
   // Bytes, for encoders.
 
+  /// One byte.
   void WriteByte(std::uint8_t byte) {
     if (FDataSize == FDataCapacity) RequestData();
     if (FDataSize < FDataCapacity) FData[FDataSize++] = byte;
   }
+  /// `Size` bytes as they are.
   void WriteBufDirect(const void* Buffer, std::uint32_t Size);
   /// The bytes as they are.
   void WriteStrRaw(std::string_view Value);
@@ -118,18 +126,25 @@ class RAVO_API TDIUnicodeWriter : public TDIUnicodeBase {
   /// replacement character, as a last resort "?". False where none of it can be encoded or the handler gives
   /// up.
   bool WriteInvalidChar(char16_t c);
+  /// The same character `Count` times.
   bool WriteCharsW(char16_t c, std::uint32_t Count);
+  /// The characters of a buffer.
   bool WriteBufW(const char16_t* Buffer, std::uint32_t CharCount);
+  /// The characters of a text.
   bool WriteStrW(std::u16string_view Value);
+  /// A text, and carriage return and line feed.
   bool WriteStrLineBreakW(std::u16string_view Value);
   /// 8-bit text of a code page; 0 means the system's. Nothing for an unknown code page.
   bool WriteBufA(const char* Buffer, std::uint32_t CharCount, std::uint32_t CodePage = 0);
+  /// A text of a code page; 0 means the system's.
   bool WriteStrA(std::string_view Value, std::uint32_t CodePage = 0);
+  /// A text of a code page, and carriage return and line feed.
   bool WriteStrLineBreakA(std::string_view Value, std::uint32_t CodePage = 0);
   /// Carriage return and line feed, straight to the encoder.
   bool WriteLineBreak();
   /// The number of the character in decimal digits, or in upper-case hexadecimal ones, without leading zeros.
   bool WriteDecimalCodePoint(char16_t c);
+  /// The number of the character in upper-case hexadecimal digits, without leading zeros.
   bool WriteHexCodePoint(char16_t c);
   /// A number in decimal digits, "-" in front of a negative one; with `StartDiv`, a power of ten, with zeros
   /// in front up to the digit that it stands for: 7 with 100 gives 007.
@@ -141,6 +156,7 @@ class RAVO_API TDIUnicodeWriter : public TDIUnicodeBase {
   /// Every character of a file, or of a stream from its position on; nothing for null. A byte-order mark is a
   /// character too. Raises `StreamError` where the file cannot be opened.
   bool WriteFile(std::u16string_view AFileName, const TDIUnicodeReadMethods& AReadMethods);
+  /// Every character of a stream from its position on; nothing for null.
   bool WriteStream(ByteStream* AStream, const TDIUnicodeReadMethods& AReadMethods);
 
   /// The Data as UTF-16 text, for what was written so: two bytes a character in the machine's order, an odd

@@ -35,8 +35,11 @@ class RAVO_API TXMLItem {
   TXMLItem(const TXMLItem&) = delete;
   TXMLItem& operator=(const TXMLItem&) = delete;
   ~TXMLItem();
+  /// Memory of an item that is made alone. `std::bad_alloc` without memory.
   static void* operator new(std::size_t size);
+  /// For an item whose constructor raised.
   static void operator delete(void* memory) noexcept;
+  /// Takes the item out of its parent and gives its memory back.
   static void operator delete(TXMLItem* item, std::destroying_delete_t);
 
   /// Frees the children and empties name, attributes and text. Reports nothing.
@@ -68,6 +71,7 @@ class RAVO_API TXMLItem {
   /// Name and attributes as they stand in the opening tag.
   [[nodiscard]] std::u16string XMLItemName() const;
 
+  /// This item and what is below it as XML.
   [[nodiscard]] std::u16string AsString() { return XMLItemAsString(0); }
   /// Loads this item from XML, as `LoadFromStream` does.
   void SetAsString(std::u16string_view Value);
@@ -75,9 +79,11 @@ class RAVO_API TXMLItem {
   /// Calls the document's `XMLItemChanged` with this item.
   void DoChanged();
 
+  /// The name, as it stands in the document.
   [[nodiscard]] std::u16string Name() const;
   /// Without blanks and control characters at both ends. Reports a change.
   void SetName(std::u16string_view Value);
+  /// What stands between the tags, without what belongs to children.
   [[nodiscard]] std::u16string Text() const;
   /// Reports a change.
   void SetText(std::u16string_view Value);
@@ -89,16 +95,20 @@ class RAVO_API TXMLItem {
   void SetParams(const StringList& Value);
   /// The child at an index; `RangeError` for an index that there is not.
   [[nodiscard]] TXMLItem* SubItems(std::int32_t Index) const;
+  /// How many children there are.
   [[nodiscard]] std::int32_t SubItemCount() const noexcept {
     return static_cast<std::int32_t>(children_.Count());
   }
+  /// The item that this one is a child of; null for none.
   [[nodiscard]] TXMLItem* Parent() const noexcept { return FParent; }
   /// Takes the item out of its parent's children if another one is given, and appends it to those of the new
   /// one, even where it is there already. Raises `Error` for an item below this one.
   void SetParent(TXMLItem* Value);
+  /// What `SetData` stored; null at first.
   [[nodiscard]] void* Data() const;
   /// Free for the caller.
   void SetData(void* Value);
+  /// The document that it belongs to; null for none.
   [[nodiscard]] TECXMLParser* Parser() const noexcept { return FParser; }
   /// For this item and everything below it.
   void SetParser(TECXMLParser* Value);

@@ -17,16 +17,16 @@ namespace ravo::ECXMLTokenizer {
 
 /// The kinds of tokens. Symbol, string, integer and float occur in checks alone: the scanner never finds one.
 inline constexpr std::uint8_t xtEndOfInput = 0;
-inline constexpr std::uint8_t xtSymbol = 1;
-inline constexpr std::uint8_t xtString = 2;
-inline constexpr std::uint8_t xtInteger = 3;
-inline constexpr std::uint8_t xtFloat = 4;
-inline constexpr std::uint8_t xtComment = 6;
-inline constexpr std::uint8_t xtHeader = 8;
-inline constexpr std::uint8_t xtText = 9;
-inline constexpr std::uint8_t xtOpenTag = 10;
-inline constexpr std::uint8_t xtCloseTag = 11;
-inline constexpr std::uint8_t xtStandAloneTag = 12;
+inline constexpr std::uint8_t xtSymbol = 1;          ///< in checks alone
+inline constexpr std::uint8_t xtString = 2;          ///< in checks alone
+inline constexpr std::uint8_t xtInteger = 3;         ///< in checks alone
+inline constexpr std::uint8_t xtFloat = 4;           ///< in checks alone
+inline constexpr std::uint8_t xtComment = 6;         ///< `<!-- ... -->`
+inline constexpr std::uint8_t xtHeader = 8;          ///< `<? ... ?>`
+inline constexpr std::uint8_t xtText = 9;            ///< what stands between tags
+inline constexpr std::uint8_t xtOpenTag = 10;        ///< `<a>`
+inline constexpr std::uint8_t xtCloseTag = 11;       ///< `</a>`
+inline constexpr std::uint8_t xtStandAloneTag = 12;  ///< `<a/>`
 
 /// Walks a stream through a buffer of 64 KiB that is refilled at line boundaries. A line must be shorter than
 /// the buffer; a tag or a CDATA section may be longer. A run of text that reaches the last line of the buffer
@@ -51,6 +51,7 @@ class RAVO_API TXMLTokenizer {
   /// Scans the next token and answers its kind.
   std::uint8_t NextToken();
 
+  /// The kind of the current token.
   [[nodiscard]] std::uint8_t Token() const noexcept { return FToken; }
   /// The line of the current token, from 1. Line feeds inside tokens are not counted.
   [[nodiscard]] std::int32_t SourceLine() const noexcept { return FSourceLine; }
@@ -65,6 +66,7 @@ class RAVO_API TXMLTokenizer {
   }
   /// The current token as an integer or a float; `ConvertError` where it is none.
   [[nodiscard]] std::int32_t TokenInt() const;
+  /// The current token as a float; `ConvertError` where it is none.
   [[nodiscard]] Extended TokenFloat() const;
   /// Whether the current token is that symbol, A to Z in either case.
   [[nodiscard]] bool TokenSymbolIs(std::string_view S) const;
@@ -78,13 +80,15 @@ class RAVO_API TXMLTokenizer {
   /// Skips blanks and moves to the next token; decodes nothing and leaves `Stream` alone.
   void HexToBinary(ByteStream& Stream);
 
+  /// Raises a message with the current line.
   [[noreturn]] void Error(std::u16string_view Ident) const;
   /// Fills the places "%s" and "%d" of a message and raises it.
   [[noreturn]] void ErrorFmt(std::u16string_view Ident, std::span<const MessageArgument> Args) const;
+  /// Raises a message with the current line.
   [[noreturn]] void ErrorStr(std::u16string_view Message) const;
 
  protected:
-  // Lays out the buffer and scans nothing yet.
+  /// Lays out the buffer and scans nothing yet.
   TXMLTokenizer(ByteStream& Stream, std::size_t BufferSize);
 
  private:
@@ -123,6 +127,7 @@ class RAVO_API TXMLTokenizer {
 /// last line raises that the line is too long, an empty one that it is empty.
 class RAVO_API TXMLLargeTokenizer final : public TXMLTokenizer {
  public:
+  /// Stands on the first token at once.
   explicit TXMLLargeTokenizer(ByteStream& Stream);
   ~TXMLLargeTokenizer() override;
 };

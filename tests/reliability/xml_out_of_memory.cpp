@@ -43,6 +43,27 @@ TEST(XmlOutOfMemory, LoadingAndSaving) {
   });
 }
 
+// What a loading that failed leaves behind can be saved, emptied and loaded again.
+TEST(XmlOutOfMemory, ADocumentStaysUsable) {
+  TECXMLParser parser;
+  Load(parser);
+  const std::string whole = test::Saved(parser);
+  for (std::int64_t requests = 0; requests < 60; ++requests) {
+    {
+      const test::FailingMemory memory(requests);
+      try {
+        Load(parser);
+      } catch (const std::bad_alloc&) {
+        static_cast<void>(memory.HasFailed());
+      }
+    }
+    static_cast<void>(test::Saved(parser));
+    parser.Clear();
+    Load(parser);
+    ASSERT_EQ(test::Saved(parser), whole) << requests;
+  }
+}
+
 TEST(XmlOutOfMemory, LoadingStepByStep) {
   ExpectSurvivesScarceMemory([] {
     TECXMLParser parser;

@@ -7,6 +7,7 @@ Exits 77 where the emulator says that this machine cannot run the program.
 """
 
 import json
+import os
 import pathlib
 import random
 import re
@@ -360,6 +361,13 @@ ROWS = [
     Row(["random", "--seed", "x", "--alphabet", ""], WRONG_USAGE, err=("the alphabet is empty",)),
     Row(["random", "--seed", "x", "--alphabet", "a😀"], WRONG_USAGE, err=("beyond U+FFFF",)),
     Row(["random", "--seed", "x", "--count", "-1"], WRONG_USAGE),
+    # The tour: each command as typed and its answer; no colours where nobody watches.
+    Row(["--help"], out=("\nThe suite:\n  table ", "\nAccounting:\n  check ", "\n  tour "), holds=without("Subcommands:")),
+    Row(["tour"], holds=without("\033"), out=(
+        "$ ravo table 71710 100121 72510\n71710\tÚčetní deník\n", "not valid: wrong check digit, right: 4006381333931\n(exit status 1)\n",
+        '$ ravo address "Nádražní 1234/5"\nNádražní\t1234/5\n', "\n$ ravo report\nInformace o klientské vrstvě\n", " lines more\n")),
+    Row(["tour", "--commands"], holds=lambda out: len(set(line.split()[1] for line in out.splitlines())) < 8 and "too few commands"),
+    Row(["tour", "there"], WRONG_USAGE),
     # Sums of files; more of them below.
     # Characters and strings.
     Row(["char", "--help"], out=("U+010D", "Examples:")),
@@ -748,6 +756,26 @@ def check_full_device(program):
         yield "report -o /dev/full: the device is gone"
 
 
+def check_colours(program):
+    """The tour is coloured on a terminal that shows colours, and on no other."""
+    if len(program.command) > 1 or not hasattr(os, "openpty"):
+        return
+    for kind, coloured in (("xterm", True), ("dumb", False)):
+        own, terminal = os.openpty()
+        with os.fdopen(own, "rb", buffering=0) as reader:
+            child = subprocess.Popen(program.command + ["tour"], stdin=subprocess.DEVNULL, stdout=terminal, env={**os.environ, "TERM": kind})
+            os.close(terminal)
+            shown = b""
+            try:
+                while piece := reader.read(4096):
+                    shown += piece
+            except OSError:  # the other end of a terminal is gone
+                pass
+            child.wait(timeout=60)
+        if (b"\033[32m$ ravo table" in shown) != coloured or b"Pohled" not in shown:
+            yield f"tour on a terminal of kind {kind}: {shown[:200]!r}"
+
+
 def check_damaged_files(program):
     """A file that is no table names the line at which it stops being one."""
     file = program.folder / "účty.csv"
@@ -792,6 +820,7 @@ CHECKS = (
     check_sums,
     check_conversions,
     check_full_device,
+    check_colours,
     check_damaged_files,
     check_sorted_files,
     check_xml,

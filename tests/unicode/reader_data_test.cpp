@@ -32,7 +32,7 @@ TEST(ReaderData, GrowsByAQuarterAndFour) {
 }
 
 TEST(ReaderData, GrowsAlikeByWholeTexts) {
-  for (const std::size_t length : {1, 2, 3, 4, 5, 7, 8, 12, 100, 999}) {
+  for (const std::size_t length : {1U, 2U, 3U, 4U, 5U, 7U, 8U, 12U, 100U, 999U}) {
     const std::u16string text(length, u'a');
     TDIUnicodeReader whole;
     TDIUnicodeReader single;

@@ -27,5 +27,6 @@ void AddXmlCommand(CLI::App& program, Outcome& outcome);
 void AddFormCommand(CLI::App& program, Outcome& outcome);
 void AddEncodingsCommand(CLI::App& program, Outcome& outcome);
 void AddConvertCommand(CLI::App& program, Outcome& outcome);
+void AddTourCommand(CLI::App& program, Outcome& outcome);
 
 }  // namespace tool

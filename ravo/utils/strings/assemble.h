@@ -9,23 +9,25 @@
 /// Texts put together: padding, appending, quoting, and how long a text is.
 namespace ravo::DIUtils {
 
-/// `text` filled up with `fill` on the left or on the right to `length` characters; a text at least as long
+/// `text` filled up with `fill` on the left to `length` characters; a text at least as long
 /// is returned as it is.
 [[nodiscard]] RAVO_API std::string PadLeftA(std::string_view text, std::size_t length, char fill = ' ');
 [[nodiscard]] RAVO_API std::u16string PadLeftW(std::u16string_view text, std::size_t length,
                                                char16_t fill = u' ');
+/// The same on the right.
 [[nodiscard]] RAVO_API std::string PadRightA(std::string_view text, std::size_t length, char fill = ' ');
 [[nodiscard]] RAVO_API std::u16string PadRightW(std::u16string_view text, std::size_t length,
                                                 char16_t fill = u' ');
 
-/// Appends a buffer (a null pointer is none), a character or a text to `target`, which may be the text
-/// itself.
+/// Appends a buffer to `target`; a null pointer is none. The buffer may be the text itself.
 RAVO_API void ConCatBuf(std::u16string& target, const char16_t* buffer, std::size_t length);
 RAVO_API void ConCatBufA(std::string& target, const char* buffer, std::size_t length);
 RAVO_API void ConCatBufW(std::u16string& target, const char16_t* buffer, std::size_t length);
+/// Appends a character to `target`.
 RAVO_API void ConCatChar(std::u16string& target, char16_t c);
 RAVO_API void ConCatCharA(std::string& target, char c);
 RAVO_API void ConCatCharW(std::u16string& target, char16_t c);
+/// Appends a text to `target`, which may be the text itself.
 RAVO_API void ConCatStr(std::u16string& target, std::u16string_view text);
 RAVO_API void ConCatStrA(std::string& target, std::string_view text);
 RAVO_API void ConCatStrW(std::u16string& target, std::u16string_view text);

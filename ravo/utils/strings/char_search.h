@@ -12,6 +12,7 @@ namespace ravo::DIUtils {
 
 /// A test of one character, such as `CharIsDigitW`.
 using CharTestA = bool (*)(char);
+/// The same for UTF-16.
 using CharTestW = bool (*)(char16_t);
 
 /// The position of the first `c` from `start` on.
@@ -56,14 +57,17 @@ using CharTestW = bool (*)(char16_t);
 
 /// Whether one of `chars`, or a character that passes `test`, stands in the text.
 [[nodiscard]] RAVO_API bool StrContainsCharsA(std::string_view chars, std::string_view text) noexcept;
+/// The same in UTF-16.
 [[nodiscard]] RAVO_API bool StrHasCharsW(std::u16string_view chars, std::u16string_view text) noexcept;
 [[nodiscard]] RAVO_API bool StrHasCharsW(CharTestW test, std::u16string_view text);
+/// The same in a buffer.
 [[nodiscard]] RAVO_API bool BufHasCharsW(std::u16string_view chars, const char16_t* buffer,
                                          std::size_t length) noexcept;
 [[nodiscard]] RAVO_API bool BufHasCharsW(CharTestW test, const char16_t* buffer, std::size_t length);
 
 /// Whether every character is one of `chars`, or passes `test`. True for an empty text.
 [[nodiscard]] RAVO_API bool StrConsistsOfW(std::u16string_view chars, std::u16string_view text) noexcept;
+/// The same in a buffer.
 [[nodiscard]] RAVO_API bool BufIsCharsW(std::u16string_view chars, const char16_t* buffer,
                                         std::size_t length) noexcept;
 [[nodiscard]] RAVO_API bool BufIsCharsW(CharTestW test, const char16_t* buffer, std::size_t length);

@@ -14,6 +14,7 @@
 /// the order has circles; a sorting algorithm must bear that.
 namespace ravo::DIUtils {
 
+/// How two texts compare: negative, zero or positive.
 [[nodiscard]] RAVO_API std::ptrdiff_t StrCompNum(std::u16string_view left,
                                                  std::u16string_view right) noexcept;
 [[nodiscard]] RAVO_API std::ptrdiff_t StrCompNumA(std::string_view left, std::string_view right) noexcept;

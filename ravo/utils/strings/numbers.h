@@ -23,6 +23,7 @@ namespace ravo::DIUtils {
 [[nodiscard]] RAVO_API std::int32_t ValIntW(std::u16string_view text, std::size_t& error) noexcept;
 [[nodiscard]] RAVO_API std::int32_t ValIntW(const char16_t* buffer, std::size_t length,
                                             std::size_t& error) noexcept;
+/// The same in 64 bits.
 [[nodiscard]] RAVO_API std::int64_t ValInt64A(std::string_view text, std::size_t& error) noexcept;
 [[nodiscard]] RAVO_API std::int64_t ValInt64A(const char* buffer, std::size_t length,
                                               std::size_t& error) noexcept;
@@ -32,11 +33,13 @@ namespace ravo::DIUtils {
 
 /// Whether the text is an integer; `value` is it then, and stays as it was otherwise.
 [[nodiscard]] RAVO_API bool TryStrToIntW(std::u16string_view text, std::int32_t& value) noexcept;
+/// The same in 64 bits.
 [[nodiscard]] RAVO_API bool TryStrToInt64W(std::u16string_view text, std::int64_t& value) noexcept;
 
 /// The value, or `default_value` where the text is no integer.
 [[nodiscard]] RAVO_API std::int32_t StrToIntDefW(std::u16string_view text,
                                                  std::int32_t default_value) noexcept;
+/// The same in 64 bits.
 [[nodiscard]] RAVO_API std::int64_t StrToInt64DefW(std::u16string_view text,
                                                    std::int64_t default_value) noexcept;
 

@@ -15,14 +15,17 @@ namespace ravo::DIUtils {
 [[nodiscard]] RAVO_API std::string StrTrimA(std::string_view text);
 [[nodiscard]] RAVO_API std::u16string StrTrimW(std::u16string_view text);
 
-/// `text` without the given character, or any of the given characters, at both ends.
+/// `text` without the given character at both ends.
 [[nodiscard]] RAVO_API std::string StrTrimCharA(std::string_view text, char c);
+/// `text` without any of the given characters at both ends.
 [[nodiscard]] RAVO_API std::string StrTrimCharsA(std::string_view text, std::string_view chars);
 [[nodiscard]] RAVO_API std::u16string StrTrimCharsW(std::u16string_view text, std::u16string_view chars);
 
-/// White space cut off at one end.
+/// Cuts white space off the beginning of `text` itself.
 RAVO_API void TrimLeftByRefA(std::string& text);
+/// `text` without white space at its end.
 [[nodiscard]] RAVO_API std::string TrimRightA(std::string_view text);
+/// Cuts white space off the end of `text` itself.
 RAVO_API void TrimRightByRefA(std::string& text);
 RAVO_API void TrimRightByRefW(std::u16string& text);
 

@@ -18,6 +18,7 @@ namespace ravo::DIUtils {
 
 /// What stands before the first "#"; the whole address where there is none.
 [[nodiscard]] RAVO_API std::string StrTimUriFragmentA(std::string_view uri);
+/// What stands before the first "#"; the whole address where there is none.
 [[nodiscard]] RAVO_API std::u16string StrTrimUriFragmentW(std::u16string_view uri);
 
 /// What stands behind the first "#"; nothing where there is none.

@@ -9,6 +9,7 @@
 /// than (length of text) times (length of mask) steps, and nothing is allocated.
 namespace ravo::DIUtils {
 
+/// Whether the whole text matches the mask.
 [[nodiscard]] RAVO_API bool StrMatchWild(std::u16string_view text, std::u16string_view mask,
                                          char16_t wild = u'*', char16_t one = u'?') noexcept;
 [[nodiscard]] RAVO_API bool StrMatchWildA(std::string_view text, std::string_view mask, char wild = '*',
