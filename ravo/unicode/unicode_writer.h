@@ -78,7 +78,8 @@ class RAVO_API TDIUnicodeWriter : public TDIUnicodeBase {
   // Where the bytes go.
 
   /// Passes bytes on to a stream in blocks, or, for null, collects them again. Bytes that wait for the stream
-  /// before are written to it; collected ones go to the new stream. The caller keeps the stream and frees it.
+  /// before are written to it; collected ones go to the new stream. The caller keeps the
+  /// stream, frees it, and keeps it at least as long as the writer uses it.
   void SetDataStream(ByteStream* AStream);
   [[nodiscard]] ByteStream* DataStream() const noexcept { return FDataStream; }
   /// Flushes, then frees the stream, whoever made it, by `delete`.

@@ -110,6 +110,7 @@ TEST(IncDataSize, StaysInTheBuffer) {
 }
 
 TEST(WriterSetDataSize, ShortensAndLengthens) {
+  MemoryStream stream;
   TDIUnicodeWriter writer;
   writer.SetDataSize(3);
   EXPECT_EQ(writer.DataToStrRaw(), "\0\0\0"sv);
@@ -119,7 +120,6 @@ TEST(WriterSetDataSize, ShortensAndLengthens) {
   writer.SetDataSize(2);
   writer.SetDataSize(4);
   EXPECT_EQ(writer.DataToStrRaw(), "ab\0\0"sv) << "what was there does not come back";
-  MemoryStream stream;
   writer.SetDataStream(&stream);
   EXPECT_EQ(ErrorText([&] { writer.SetDataSize(4097); }),
             u"Class TDIUnicodeWriter: DataSize out of bounds (4097)");

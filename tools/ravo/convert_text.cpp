@@ -66,7 +66,7 @@ Refusal Convert(const Conversion& conversion, ravo::ByteStream& source, TDIUnico
   if (conversion.replacement) writer.SetReplacementChar(*conversion.replacement);
   for (;;) {
     while (reader.ReadChar()) {
-      if (const Refusal refusal = Transfer(conversion, reader, writer)) return refusal;
+      if (Refusal refusal = Transfer(conversion, reader, writer)) return refusal;
       if (reader.CharPos() % kPace == 0) progress(source.Position());
     }
     if (!EndedEarly(reader)) return {};
