@@ -34,6 +34,7 @@ constexpr Stop kStops[] = {
     {"What the character tables know of a character.", "char č", 8},
     {"Names against a mask, whatever the case.", "match --ignore-case \"p??jem*\" Příjemka Výdejka", 2},
     {"A text on its way into an address of the web.", "url encode \"Kč & €\"", 2},
+    {"The suite's 8-bit encoding, by any of its names.", "encodings cp1250", 2},
     {"The interfaces of the host's object model.", "interfaces IRavoSession", 6},
     {"What support wants to know about this machine.", "report", 12},
 };
