@@ -3,8 +3,9 @@
 #include <ravo/DIUnicode.h>
 #include <ravo/unicode/encodings/runs.h>
 
-#include <cstring>
+#include <cerrno>
 #include <random>
+#include <utility>
 
 #include <iconv.h>
 #include <unicode/ucnv.h>
@@ -15,6 +16,7 @@ using Bytes = std::vector<std::uint8_t>;
 using namespace ravo::DIUnicode;
 
 constexpr std::size_t kSize = 1024 * 1024;
+constexpr std::size_t kPiece = 4096;
 
 // Words of invoices and ledgers, with as many accents as such texts have.
 constexpr std::u16string_view kCzech[] = {u"účet",
@@ -109,47 +111,68 @@ UConverter* Converter(const char* name) {
   return converter;
 }
 
-auto IcuDecode(const char* name, Bytes bytes) {
-  return [converter = Converter(name), bytes, text = std::u16string(bytes.size(), u'\0')]() mutable {
-    UErrorCode error = U_ZERO_ERROR;
+// `room`: characters or bytes of the target, which is used again and again until the source is done.
+auto IcuDecode(const char* name, Bytes bytes, std::size_t room) {
+  return [converter = Converter(name), bytes, text = std::u16string(room, u'\0')]() mutable {
     const char* from = reinterpret_cast<const char*>(bytes.data());
     const char* const end = from + bytes.size();
-    char16_t* to = text.data();
-    ucnv_toUnicode(converter, &to, to + text.size(), &from, end, nullptr, 1, &error);
+    UErrorCode error = U_BUFFER_OVERFLOW_ERROR;
+    while (error == U_BUFFER_OVERFLOW_ERROR) {
+      error = U_ZERO_ERROR;
+      char16_t* to = text.data();
+      ucnv_toUnicode(converter, &to, to + text.size(), &from, end, nullptr, 1, &error);
+    }
     return U_SUCCESS(error) && from == end;
   };
 }
 
-auto IcuEncode(const char* name, std::u16string text) {
-  return [converter = Converter(name), text, bytes = Bytes(4 * text.size())]() mutable {
-    UErrorCode error = U_ZERO_ERROR;
-    char* to = reinterpret_cast<char*>(bytes.data());
+auto IcuEncode(const char* name, std::u16string text, std::size_t room) {
+  return [converter = Converter(name), text, bytes = Bytes(room)]() mutable {
     const char16_t* from = text.data();
-    ucnv_fromUnicode(converter, &to, to + bytes.size(), &from, from + text.size(), nullptr, 1, &error);
-    return U_SUCCESS(error) && from == text.data() + text.size();
+    const char16_t* const end = from + text.size();
+    UErrorCode error = U_BUFFER_OVERFLOW_ERROR;
+    while (error == U_BUFFER_OVERFLOW_ERROR) {
+      error = U_ZERO_ERROR;
+      char* to = reinterpret_cast<char*>(bytes.data());
+      ucnv_fromUnicode(converter, &to, to + bytes.size(), &from, end, nullptr, 1, &error);
+    }
+    return U_SUCCESS(error) && from == end;
   };
 }
 
-auto Iconv(const char* to_name, const char* from_name, std::string from) {
-  return [handle = iconv_open(to_name, from_name), from, to = std::string(4 * from.size(), '\0')]() mutable {
+auto Iconv(const char* to_name, const char* from_name, std::string from, std::size_t room) {
+  return [handle = iconv_open(to_name, from_name), from, to = std::string(room, '\0')]() mutable {
     char* source = from.data();
-    char* target = to.data();
     std::size_t left = from.size();
-    std::size_t room = to.size();
-    return iconv(handle, &source, &left, &target, &room) == 0 && left == 0;
+    while (left > 0) {
+      char* target = to.data();
+      std::size_t rest = to.size();
+      if (iconv(handle, &source, &left, &target, &rest) != 0 && errno != E2BIG) break;
+    }
+    return left == 0;
   };
 }
 
-auto Decode(const TDIUnicodeReadMethods& methods, Bytes bytes) {
-  return [run = DecodeRunOf(methods), bytes, text = std::u16string(bytes.size(), u'\0')]() mutable {
-    return run(bytes, text).taken == bytes.size();
+// Ours, in either direction.
+template <class Convert, class Source, class Target>
+auto InPieces(Convert convert, Source source, Target target) {
+  return [convert, source, target]() mutable {
+    std::span from(std::as_const(source));
+    while (!from.empty()) {
+      const Run run = convert(from, target);
+      if (run.taken == 0) return false;
+      from = from.subspan(run.taken);
+    }
+    return true;
   };
 }
 
-auto Encode(const TDIUnicodeWriteMethods& methods, std::u16string text) {
-  return [run = EncodeRunOf(methods), text, bytes = Bytes(4 * text.size() + 4)]() mutable {
-    return run(text, bytes).taken == text.size();
-  };
+auto Decode(const TDIUnicodeReadMethods& methods, const Bytes& bytes, std::size_t room) {
+  return InPieces(DecodeRunOf(methods), bytes, std::u16string(room, u'\0'));
+}
+
+auto Encode(const TDIUnicodeWriteMethods& methods, const std::u16string& text, std::size_t room) {
+  return InPieces(EncodeRunOf(methods), text, Bytes(room));
 }
 
 std::string AsChars(const Bytes& bytes) { return {bytes.begin(), bytes.end()}; }
@@ -163,29 +186,38 @@ struct Encoding {
   const char* name;
   const TDIUnicodeReadMethods* read;
   const TDIUnicodeWriteMethods* write;
+  std::size_t most_bytes;
 };
 
-void RegisterJobs(const Encoding& encoding, const std::string& language, const std::u16string& text) {
+// `room` characters are converted at once, and as many bytes as they may need.
+void RegisterJobs(const Encoding& encoding, const std::string& language, const std::u16string& text,
+                  std::size_t room) {
   const Bytes bytes = BytesOf(*encoding.write, text);
   const std::string in = encoding.job + "_to_utf16_" + language;
-  Register(in, ravo::bench::kOurs, text.size(), Decode(*encoding.read, bytes));
-  Register(in, "icu", text.size(), IcuDecode(encoding.name, bytes));
-  Register(in, "iconv", text.size(), Iconv("UTF-16LE", encoding.name, AsChars(bytes)));
+  Register(in, ravo::bench::kOurs, text.size(), Decode(*encoding.read, bytes, room));
+  Register(in, "icu", text.size(), IcuDecode(encoding.name, bytes, room));
+  Register(in, "iconv", text.size(), Iconv("UTF-16LE", encoding.name, AsChars(bytes), 2 * room));
   const std::string out = "utf16_to_" + encoding.job + "_" + language;
-  Register(out, ravo::bench::kOurs, text.size(), Encode(*encoding.write, text));
-  Register(out, "icu", text.size(), IcuEncode(encoding.name, text));
-  Register(out, "iconv", text.size(), Iconv(encoding.name, "UTF-16LE", AsChars(text)));
+  const std::size_t bytes_room = encoding.most_bytes * room;
+  Register(out, ravo::bench::kOurs, text.size(), Encode(*encoding.write, text, bytes_room));
+  Register(out, "icu", text.size(), IcuEncode(encoding.name, text, bytes_room));
+  Register(out, "iconv", text.size(), Iconv(encoding.name, "UTF-16LE", AsChars(text), bytes_room));
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  const Encoding encodings[] = {{"1250", "windows-1250", &Read_Windows_1250, &Write_Windows_1250},
-                                {"utf8", "UTF-8", &Read_UTF_8, &Write_UTF_8},
-                                {"utf16be", "UTF-16BE", &Read_UTF_16_BE, &Write_UTF_16_BE}};
+  const Encoding encodings[] = {{"1250", "windows-1250", &Read_Windows_1250, &Write_Windows_1250, 1},
+                                {"utf8", "UTF-8", &Read_UTF_8, &Write_UTF_8, 3},
+                                {"utf16be", "UTF-16BE", &Read_UTF_16_BE, &Write_UTF_16_BE, 2}};
+  const std::u16string czech = TextOf(kCzech, kSize);
+  const std::u16string ascii = TextOf(kEnglish, kSize);
+  // The whole text at once, and in pieces of a size that streams have.
   for (const Encoding& encoding : encodings) {
-    RegisterJobs(encoding, "czech", TextOf(kCzech, kSize));
-    RegisterJobs(encoding, "ascii", TextOf(kEnglish, kSize));
+    RegisterJobs(encoding, "czech", czech, kSize);
+    RegisterJobs(encoding, "ascii", ascii, kSize);
+    RegisterJobs(encoding, "czech_4k", czech, kPiece);
+    RegisterJobs(encoding, "ascii_4k", ascii, kPiece);
   }
   return ravo::bench::RunWithRatios(argc, argv);
 }

@@ -54,18 +54,27 @@ function(ravo_find_python variable)
   set(${variable} ${RAVO_PYTHON} PARENT_SCOPE)
 endfunction()
 
-# The shared run-time libraries of the compiler, beside our programs for Windows: errors cross the border of
-# the library, so it and its users share one of them.
-function(ravo_copy_runtime folder)
-  if(NOT MINGW)
-    return()
-  endif()
+# The shared run-time libraries of the compiler for Windows.
+function(ravo_runtime_files variable)
+  set(files)
   foreach(name libstdc++-6 libgcc_s_dw2-1 libgcc_s_seh-1 libwinpthread-1)
     execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${name}.dll OUTPUT_VARIABLE file
       OUTPUT_STRIP_TRAILING_WHITESPACE)
     # The compiler answers the bare name for what it has not: the other width's way of unwinding.
     if(IS_ABSOLUTE "${file}")
-      configure_file(${file} ${folder}/${name}.dll COPYONLY)
+      list(APPEND files ${file})
     endif()
   endforeach()
+  set(${variable} ${files} PARENT_SCOPE)
+endfunction()
+
+# They stand beside our programs: errors cross the border of the library, so it and its users share one of them.
+function(ravo_copy_runtime folder)
+  if(MINGW)
+    ravo_runtime_files(files)
+    foreach(file ${files})
+      cmake_path(GET file FILENAME name)
+      configure_file(${file} ${folder}/${name} COPYONLY)
+    endforeach()
+  endif()
 endfunction()

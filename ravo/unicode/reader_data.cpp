@@ -31,12 +31,17 @@ void TDIUnicodeReader::AddCrLf() {
   AddChar(u'\n');
 }
 
-void TDIUnicodeReader::AddStrW(std::u16string_view Value) {
-  if (Value.empty()) return;
-  const std::uint64_t needed = FDataSize + std::uint64_t{Value.size()};
+// Room for `count` characters more, which count already.
+std::span<char16_t> TDIUnicodeReader::ExtendData(std::size_t count) {
+  const std::uint64_t needed = FDataSize + std::uint64_t{count};
   if (needed > FDataCapacity) GrowData(needed);
-  std::ranges::copy(Value, FData.get() + FDataSize);
+  const std::span added(FData.get() + FDataSize, count);
   FDataSize = static_cast<std::uint32_t>(needed);
+  return added;
+}
+
+void TDIUnicodeReader::AddStrW(std::u16string_view Value) {
+  std::ranges::copy(Value, ExtendData(Value.size()).begin());
 }
 
 void TDIUnicodeReader::AddStrCompactW(std::u16string_view Value) {

@@ -88,7 +88,13 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
   [[nodiscard]] std::uint32_t CharCol() const noexcept { return FCharCol; }
 
   /// Makes the next character the current one; false at the end of all data, where the location stays.
-  bool ReadChar();
+  bool ReadChar() {
+    FLastChar = FChar;
+    FCharOK = false;
+    FCharOK = TakePlainByte() || TakePeeked(FChar) || Decode(FChar);
+    if (FCharOK) CountLocation();
+    return FCharOK;
+  }
   /// Adds the current character to the Data, then reads the next one.
   bool AddCharReadChar();
   /// Decodes ahead until `Count` characters are peeked; false where the data ends before. Moves no location.
@@ -343,10 +349,28 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
   [[noreturn]] static void Raise(const ResourceString& message);
   [[noreturn]] static void Raise(const ResourceString& message, std::uint32_t number);
 
+  /// A byte that is its own character needs no decoder.
+  bool TakePlainByte() noexcept {
+    if (!FKeepsAscii || FPeekedCount != 0 || FSourceBufferPosition >= FSourceBufferSize) return false;
+    const std::uint8_t byte = FSourceBuffer[FSourceBufferPosition];
+    if (byte >= 0x80) return false;
+    FChar = byte;
+    ++FSourceBufferPosition;
+    return true;
+  }
   bool Decode(char16_t& ch);
   bool TakePeeked(char16_t& ch) noexcept;
   void MakePeekRoom(std::uint32_t Count);
-  void CountLocation() noexcept;
+  /// Where `FChar` stands, after `FLastChar`.
+  void CountLocation() noexcept {
+    ++FCharPos;
+    if (FLastChar != u'\r' && FLastChar != u'\n') {
+      ++FCharCol;
+    } else if (FLastChar == u'\n' || FChar != u'\n') {
+      ++FCharLine;
+      FCharCol = 1;
+    }
+  }
   void UseReadMethods(const TDIUnicodeReadMethods& methods);
 
   void SetNewSource() noexcept;
@@ -360,11 +384,25 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
   [[nodiscard]] std::span<const std::uint8_t> UnreadBytes() const noexcept {
     return {FSourceBuffer + FSourceBufferPosition, FSourceBufferSize - FSourceBufferPosition};
   }
+  template <class Unit>
+  void AddRun(std::span<Unit> run);
+  void CountWithinLine(std::span<const char16_t> run) noexcept;
+  template <class Unit>
+  void CountRun(std::span<const Unit> run) noexcept;
   template <class Belongs>
-  std::size_t DecodeBelonging(std::span<char16_t> room, const Belongs& belongs);
-  void CountRun(std::u16string_view run) noexcept;
+  bool PassAscii(const Belongs& belongs, bool store);
   template <class Belongs>
-  std::size_t PassRun(std::span<char16_t> room, const Belongs& belongs, bool store);
+  void Take(const Run& run, std::span<const char16_t> to, const Belongs& belongs, bool store);
+  std::span<char16_t> PlaceFor(std::size_t count, std::span<char16_t> elsewhere, bool store);
+  template <class Belongs>
+  bool PassAsciiTill(std::span<char16_t> room, const Belongs& belongs, bool store);
+  template <class Belongs>
+  bool PassMixedTill(std::span<char16_t> room, const Belongs& belongs, bool store);
+  template <class Belongs>
+  std::size_t PassDecoded(std::span<char16_t> room, const Belongs& belongs, bool store);
+  std::size_t Pass(const Run& run, std::span<const char16_t> room, bool store);
+  template <class Belongs>
+  void PassRuns(const Belongs& belongs, bool store);
   template <class Belongs>
   void PassOver(const Belongs& belongs, bool store);
   void PassLine(bool store);
@@ -372,6 +410,7 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
   std::size_t ReadRun(std::span<char16_t> room);
 
   void GrowData(std::uint64_t needed);
+  std::span<char16_t> ExtendData(std::size_t count);
 
   bool FCharOK = false;
   char16_t FChar = 0;
@@ -399,6 +438,10 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
   std::uint32_t FPeekedStart = 0;
   /// The run beside the read methods in force, or null.
   Run (*FDecodeRun)(std::span<const std::uint8_t> bytes, std::span<char16_t> text) = nullptr;
+  /// Whether a byte below 0x80 is that character of ASCII wherever it stands.
+  bool FKeepsAscii = false;
+  /// Whether the text was ASCII of late: which way is tried first.
+  bool FIsPlain = true;
 };
 
 }  // namespace ravo::DIUnicode

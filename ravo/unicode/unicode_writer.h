@@ -166,7 +166,7 @@ class RAVO_API TDIUnicodeWriter : public TDIUnicodeBase {
   /// The same text in the 8-bit text of a code page; 0 means the system's.
   [[nodiscard]] std::string DataToStrA(std::uint32_t CodePage = 0) const;
   /// The bytes of the Data as they are.
-  [[nodiscard]] std::string DataToStrRaw() const { return {FData.get(), FData.get() + FDataSize}; }
+  [[nodiscard]] std::string DataToStrRaw() const;
 
   /// Writes the Data to another stream. Raises "Destination stream is not assigned" for null, and
   /// `StreamError` where the stream does not take it all. What the encoder holds back is not in the Data

@@ -115,6 +115,8 @@ std::string TDIUnicodeWriter::DataToStrA(std::uint32_t CodePage) const {
   return unicode::ToCodePage(DataToStrW(), CodePage);
 }
 
+std::string TDIUnicodeWriter::DataToStrRaw() const { return {FData.get(), FData.get() + FDataSize}; }
+
 void TDIUnicodeWriter::SaveDataToStream(ByteStream* Stream) const {
   if (Stream == nullptr) Raise(SNoDestStreamError);
   Stream->WriteChecked(std::as_bytes(Data()));

@@ -7,6 +7,7 @@ Exits 77 where the emulator says that this machine cannot run the program.
 """
 
 import json
+import os
 import pathlib
 import random
 import re
@@ -146,6 +147,20 @@ ZIPPER_LINES = (
     "\tCoRavoZipper\tclass\tIRavoZip\t{2FE78C5D-7DB0-46C4-9512-DAACCF23EBCE}\n"
 )
 
+WINDOWS_1250 = "Windows_1250\tWindows-1250 (Central European)\t1250\treads, writes\tcp1250 1250 win1250 x-cp1250 ms-ee\n"
+
+
+def all_encodings(rows):
+    if len({row["name"] for row in rows}) != 74:
+        return f"{len(rows)} encodings"
+    one_way = [row["name"] for row in rows if not (row["reads"] and row["writes"])]
+    if one_way != ["UTF_7_ODC", "GB_18030"]:
+        return f"read or written only: {one_way}"
+    numbers = [row["code_page"] for row in rows if row["code_page"] is not None]
+    if len(numbers) != len(set(numbers)) or not {1250, 852, 65001, 1200, 54936} < set(numbers):
+        return f"the code pages are {numbers}"
+
+
 SAMPLES = pathlib.Path(__file__).resolve().parents[2] / "samples"
 SAMPLE, SAMPLE_1250 = str(SAMPLES / "ledger.csv"), str(SAMPLES / "ledger-1250.csv")
 LEDGER = [argument for column in ("Účet MD=ucet", "VS=vs", "Protiúčet=banka") for argument in ("--column", column)]
@@ -245,6 +260,28 @@ ROWS = [
     Row(["interfaces", "účet", "--json"], NO, exact="[]\n", err=("účet",)),
     Row(["interfaces", "zip", "stray"], WRONG_USAGE),
     Row(["interfaces", "--help"], out=("--json", "Examples:")),
+    # Encodings.
+    Row(["encodings"], holds=lines(74), out=(WINDOWS_1250, "UTF_7_ODC\tUTF-7, optional direct characters as they are\t\twrites\t\n",
+                                            "GB_18030\tGB 18030 (Chinese)\t54936\treads\t")),
+    Row(["encodings", "--json"], holds=as_json(all_encodings)),
+    *[Row(["encodings", name], exact=WINDOWS_1250) for name in ("Windows_1250", "windows-1250", "CP1250", "1250", "ms-ee")],
+    Row(["encodings", "latin2", "--json"],
+        holds=differs([{"name": "Iso_8859_2", "label": "ISO 8859-2 (Central European)", "code_page": 28592,
+                        "aliases": ["8859-2", "latin2", "l2", "iso-ir-101", "cp912", "ibm912"], "reads": True, "writes": True,
+                        "notes": ""}])),
+    Row(["encodings", "koi8ru", "--json"], out=('"code_page": null',)),
+    Row(["encodings", "nonsense"], NO, exact="", err=("'nonsense'",)),
+    Row(["encodings", "-", "--json"], NO, exact="[]\n", err=("'-'",)),
+    Row(["encodings", "1250", "1251"], WRONG_USAGE),
+    Row(["encodings", "--help"], out=("--json", "Examples:")),
+    # Conversions.
+    Row(["convert", "--help"], out=("--from", "--replace", "Examples:")),
+    Row(["convert", "-f", "1250", "-t", "utf-8"], exact=""),
+    Row(["convert", "-f", "1250"], WRONG_USAGE, err=("--to",)),
+    Row(["convert", "-f", "nonsense", "-t", "utf-8"], WRONG_USAGE, exact="", err=("nonsense", "ravo encodings")),
+    Row(["convert", "-f", "utf-8", "-t", "gb18030"], WRONG_USAGE, err=("gb18030 cannot be written",)),
+    Row(["convert", "-f", "utf-8", "-t", "1250", "--replace", "ab"], WRONG_USAGE, err=("one character",)),
+    Row(["convert", "-f", "utf-8", "-t", "1250", "chybí.txt"], WRONG_USAGE, exact="", err=("chybí.txt", "cannot be read")),
     # Checks.
     Row(["check", "--help"], out=("--csv FILE", "--column NAME=KIND", "banka", "Examples:")),
     Row(["check", "banka", "19-2000145399/0800"], exact="19-2000145399/0800\tvalid\n"),
@@ -324,6 +361,13 @@ ROWS = [
     Row(["random", "--seed", "x", "--alphabet", ""], WRONG_USAGE, err=("the alphabet is empty",)),
     Row(["random", "--seed", "x", "--alphabet", "a😀"], WRONG_USAGE, err=("beyond U+FFFF",)),
     Row(["random", "--seed", "x", "--count", "-1"], WRONG_USAGE),
+    # The tour: each command as typed and its answer; no colours where nobody watches.
+    Row(["--help"], out=("\nThe suite:\n  table ", "\nAccounting:\n  check ", "\n  tour "), holds=without("Subcommands:")),
+    Row(["tour"], holds=without("\033"), out=(
+        "$ ravo table 71710 100121 72510\n71710\tÚčetní deník\n", "not valid: wrong check digit, right: 4006381333931\n(exit status 1)\n",
+        '$ ravo address "Nádražní 1234/5"\nNádražní\t1234/5\n', "\n$ ravo report\nInformace o klientské vrstvě\n", " lines more\n")),
+    Row(["tour", "--commands"], holds=lambda out: len(set(line.split()[1] for line in out.splitlines())) < 8 and "too few commands"),
+    Row(["tour", "there"], WRONG_USAGE),
     # Sums of files; more of them below.
     # Characters and strings.
     Row(["char", "--help"], out=("U+010D", "Examples:")),
@@ -478,6 +522,62 @@ def check_sums(program):
         yield "hash --check without a sum: no failure"
     for name in (*contents, "list.sum"):
         (program.folder / name).unlink()
+
+
+def check_conversions(program):
+    """Texts come out in the other encoding; what cannot be read or written ends it, and an old file stays."""
+    source, target = program.folder / "příliš.txt", program.folder / "cíl.txt"
+    text = "Příliš žluťoučký kůň\r\n" * 1000
+
+    def convert(*options, content, status=YES):
+        """What stands in the target; the old bytes are "old"."""
+        source.write_bytes(content)
+        target.write_bytes(b"old")
+        result = program.run(["convert", *options, source.name, "-o", target.name])
+        if (result.status, result.out, bool(result.err)) != (status, "", status != YES):
+            return repr(result).encode()
+        return target.read_bytes() if status == YES else target.read_bytes() + result.err.encode()
+
+    marked = "\ufeffa\nbč"
+    rows = [
+        (("-f", "windows-1250", "-t", "UTF_8"), text.encode("cp1250"), text.encode()),
+        (("-f", "utf-8", "-t", "1250"), text.encode(), text.encode("cp1250")),
+        (("-f", "utf8", "-t", "utf-7"), "kůň".encode(), "kůň".encode("utf-7")),
+        (("-f", "utf8", "-t", "utf-16be"), text.encode(), text.encode("utf-16-be")),
+        *[(("-f", "auto", "-t", "1250"), marked.encode(codec), marked[1:].encode("cp1250"))
+          for codec in ("utf-8", "utf-16-le", "utf-16-be", "utf-32-le", "utf-32-be")],
+        (("-f", "auto", "-t", "1250"), "č".encode(), b"\xe8"),
+        (("-f", "utf-8", "-t", "1250", "--replace", "!"), "a\u4e00č\U0001f600".encode(), b"a!\xe8!"),
+        (("-f", "utf-8", "-t", "1250", "--replace", "\u4e00"), "\u4e00".encode(), b"?"),
+        (("-f", "utf-16be", "-t", "utf-8", "--replace", "?"), b"\0a\xdc\0\0b", "a\ufffdb".encode()),
+    ]
+    for options, content, wanted in rows:
+        if (got := convert(*options, content=content)) != wanted:
+            yield f"convert {' '.join(options)}: {got[:300]!r}, not {wanted[:60]!r}"
+    refused = [
+        (("-f", "utf-8", "-t", "1250"), "ab\nc\u4e00".encode(), "2:2: U+4E00 cannot be written in Windows_1250"),
+        (("-f", "utf-8", "-t", "1250"), text.encode() + "\u4e00".encode(), "1001:1: U+4E00"),
+        (("-f", "utf-8", "-t", "utf-8"), b"a\xff", "1:2: bytes that cannot be read"),
+        (("-f", "utf-16be", "-t", "utf-8"), b"\0a\xdc\0\0b", "1:1: bytes that cannot be read after this character"),
+    ]
+    for options, content, told in refused:
+        got = convert(*options, content=content, status=NO).decode()
+        if not got.startswith("old") or told not in got or source.name not in got:
+            yield f"convert {' '.join(options)}: {got!r}"
+    source.write_bytes("č".encode("cp1250"))
+    several = program.run(["convert", "-f", "1250", "-t", "utf-8", source.name, "-", source.name])
+    if (several.status, several.out, several.err) != (YES, "čč", ""):
+        yield f"convert of two files and standard input: {several}"
+    program.run(["convert", "-f", "1250", "-t", "utf-8", source.name, "-o", source.name])
+    if source.read_bytes() != "č".encode():
+        yield "convert of a file onto itself: another text"
+    away = program.run(["convert", "-f", "1250", "-t", "utf-8", source.name, "-o", "nowhere/x"])
+    if away.status != WRONG_USAGE or "nowhere/x: cannot be written" not in away.err:
+        yield f"convert into a folder that is not there: {away}"
+    source.unlink()
+    target.unlink()
+    if left := [path.name for path in program.folder.iterdir() if path.name.startswith(("cíl", "příliš"))]:
+        yield f"convert: left {left}"
 
 
 XML = """<?xml version="1.0" encoding="windows-1250" ?>\r
@@ -656,6 +756,26 @@ def check_full_device(program):
         yield "report -o /dev/full: the device is gone"
 
 
+def check_colours(program):
+    """The tour is coloured on a terminal that shows colours, and on no other."""
+    if len(program.command) > 1 or not hasattr(os, "openpty"):
+        return
+    for kind, coloured in (("xterm", True), ("dumb", False)):
+        own, terminal = os.openpty()
+        with os.fdopen(own, "rb", buffering=0) as reader:
+            child = subprocess.Popen(program.command + ["tour"], stdin=subprocess.DEVNULL, stdout=terminal, env={**os.environ, "TERM": kind})
+            os.close(terminal)
+            shown = b""
+            try:
+                while piece := reader.read(4096):
+                    shown += piece
+            except OSError:  # the other end of a terminal is gone
+                pass
+            child.wait(timeout=60)
+        if (b"\033[32m$ ravo table" in shown) != coloured or b"Pohled" not in shown:
+            yield f"tour on a terminal of kind {kind}: {shown[:200]!r}"
+
+
 def check_damaged_files(program):
     """A file that is no table names the line at which it stops being one."""
     file = program.folder / "účty.csv"
@@ -698,7 +818,9 @@ CHECKS = (
     check_report_json,
     check_report_file,
     check_sums,
+    check_conversions,
     check_full_device,
+    check_colours,
     check_damaged_files,
     check_sorted_files,
     check_xml,

@@ -16,13 +16,17 @@ inline std::span<const std::uint8_t> AsBytes(std::string_view bytes) {
 }
 
 /// Every character until the data end.
+inline std::u16string ReadAll(DIUnicode::TDIUnicodeReader& reader) {
+  std::u16string text;
+  while (reader.ReadChar()) text += reader.Char();
+  return text;
+}
+
 inline std::u16string Read(const DIUnicode::TDIUnicodeReadMethods& methods, std::string_view bytes) {
   DIUnicode::TDIUnicodeReader reader;
   reader.SetReadMethods(methods);
   reader.SetSourceBuffer(AsBytes(bytes));
-  std::u16string text;
-  while (reader.ReadChar()) text += reader.Char();
-  return text;
+  return ReadAll(reader);
 }
 
 inline std::string TextOf(std::span<const std::uint8_t> bytes) { return {bytes.begin(), bytes.end()}; }

@@ -34,7 +34,7 @@ ASCII_OF_APPLE = "Perl's tables of Apple's encodings lack bytes of ASCII"
 REASONS = {
     "CP_424": "two of three agree",
     "CP_856": "as in the other code pages of this family: controls as ASCII has them, U+00AF and U+00B7",
-    "CP_1006": "Perl's table leaves the final form of beh out",
+    "CP_1006": "Perl reads the final form of alef at B2 alone",
     "Mac_Roman": "two of three agree",
     "Mac_Iceland": "two of three agree; the C library's table is older",
     "Mac_Cyrillic": "two of three agree; the C library's table is older",
@@ -110,7 +110,7 @@ def render_single(tables):
     for table in tables:
         count = len(table.unassigned())
         parts.append(f"\n// {table.row['label']}; {' '.join(table.names)}; {256 - count} bytes assigned.\n")
-        parts.append(f"inline constexpr ByteTable {table.row['table']} = {{\n{numbers(table.chosen.values())}}};\n")
+        parts.append(f"inline constexpr ByteTable k{table.row['table']} = {{\n{numbers(table.chosen.values())}}};\n")
     return "".join(parts) + "\n}  // namespace ravo::DIUnicode::tables\n"
 
 

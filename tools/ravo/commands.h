@@ -25,5 +25,8 @@ void AddBackupNameCommand(CLI::App& program, Outcome& outcome);
 void AddInterfacesCommand(CLI::App& program, Outcome& outcome);
 void AddXmlCommand(CLI::App& program, Outcome& outcome);
 void AddFormCommand(CLI::App& program, Outcome& outcome);
+void AddEncodingsCommand(CLI::App& program, Outcome& outcome);
+void AddConvertCommand(CLI::App& program, Outcome& outcome);
+void AddTourCommand(CLI::App& program, Outcome& outcome);
 
 }  // namespace tool

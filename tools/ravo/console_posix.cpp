@@ -1,7 +1,9 @@
 #include "console.h"
 
+#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
+#include <stdexcept>
 
 #include <unistd.h>
 
@@ -14,6 +16,14 @@ std::vector<std::string> Arguments(int count, const char* const* values) {
 bool Write(Channel channel, std::string_view utf8) {
   std::FILE* file = channel == Channel::Out ? stdout : stderr;
   return std::fwrite(utf8.data(), 1, utf8.size(), file) == utf8.size() && std::fflush(file) == 0;
+}
+
+std::size_t ReadInput(std::span<std::byte> to) {
+  for (;;) {
+    const ssize_t count = read(STDIN_FILENO, to.data(), to.size());
+    if (count >= 0) return static_cast<std::size_t>(count);
+    if (errno != EINTR) throw std::runtime_error("standard input cannot be read");
+  }
 }
 
 bool IsTerminal(Channel channel) {

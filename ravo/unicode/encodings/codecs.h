@@ -10,7 +10,7 @@
 /// of bytes, `Encode` over a target, or both; `kHasState` where it keeps something between characters.
 namespace ravo::DIUnicode::codecs {
 
-#define RAVO_CODEC_SingleByte(table) SingleByte<tables::table>
+#define RAVO_CODEC_SingleByte(table) SingleByte<tables::k##table>
 #define RAVO_CODEC_Utf8(table) Utf8
 #define RAVO_CODEC_Utf16(table) Utf16<table>
 #define RAVO_CODEC_Ucs2(table) Ucs2<table>

@@ -13,11 +13,13 @@ namespace ravo::DIUnicode {
 
 using ByteTable = std::array<char16_t, 256>;
 
-/// A table from characters to bytes. The first page is empty and stands for all pages without characters.
-/// Where several bytes mean one character, the lowest stands for it.
+/// A table from characters to bytes. The first page is empty and stands for all pages without characters, the
+/// second is that of the characters below U+0100, the third that of the script. Where several bytes mean one
+/// character, the lowest stands for it.
 struct ReverseTable {
   const std::uint16_t* page_of;  ///< by the upper byte of the character: where its page begins
   const std::uint8_t* pages;     ///< 256 bytes each; 0 means none, but for the character 0
+  std::uint8_t script;           ///< the upper byte of most other characters; 0 where there are none
 
   /// The byte of `ch`; 0 where there is none or the byte is 0, which is the byte of U+0000 in every table.
   [[nodiscard]] constexpr std::uint8_t operator[](char16_t ch) const noexcept {
@@ -28,13 +30,23 @@ struct ReverseTable {
 template <const ByteTable& table>
 class Reversed {
  public:
-  static constexpr ReverseTable Table() noexcept { return {kStages.page_of.data(), kStages.pages.data()}; }
+  static constexpr ReverseTable Table() noexcept {
+    return {kStages.page_of.data(), kStages.pages.data(), Script()};
+  }
 
  private:
   static constexpr std::size_t CountPages() {
     std::array<bool, 256> used{};
     for (const char16_t ch : table) used[ch >> 8] = used[ch >> 8] || ch != kReplacement;
     return static_cast<std::size_t>(std::count(used.begin(), used.end(), true));
+  }
+
+  static constexpr std::uint8_t Script() {
+    std::array<std::uint8_t, 256> counts{};
+    for (const char16_t ch : table) {
+      if (ch >= 0x100 && ch != kReplacement) ++counts[ch >> 8];
+    }
+    return static_cast<std::uint8_t>(std::max_element(counts.begin(), counts.end()) - counts.begin());
   }
 
   struct Stages {
@@ -44,7 +56,9 @@ class Reversed {
 
   static constexpr Stages Make() {
     Stages stages;
-    std::uint16_t last = 0;
+    stages.page_of[0] = 256;
+    if (Script() != 0) stages.page_of[Script()] = 512;
+    std::uint16_t last = Script() != 0 ? 512 : 256;
     for (std::size_t byte = 0; byte < table.size(); ++byte) {
       const char16_t ch = table[byte];
       if (ch == kReplacement) continue;

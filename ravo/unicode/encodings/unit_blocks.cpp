@@ -18,7 +18,7 @@ bool CopyUnits(bool swap_before, bool swap_after, bool plain_only, const void* f
   if (swap_before) units = exchanged(units);
   const Vector top = _mm_and_si128(units, _mm_set1_epi16(-0x800));
   const Vector surrogates = _mm_cmpeq_epi16(top, _mm_set1_epi16(-0x2800));
-  if (plain_only && _mm_movemask_epi8(surrogates) != 0) return false;
+  if (plain_only && Mask(surrogates) != 0) return false;
   StoreVector(to, swap_after ? exchanged(units) : units);
   return true;
 }

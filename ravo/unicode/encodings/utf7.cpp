@@ -12,12 +12,14 @@ constexpr std::string_view kAlways = "'(),-./:? \t\r\n";
 constexpr std::string_view kOptional = "!\"#$%&*;<=>@[]^_`{|}";
 constexpr std::string_view kBase64 = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
 
+constexpr std::size_t Place(char ch) { return static_cast<unsigned char>(ch); }
+
 consteval auto MakeKinds() {
   std::array<Utf7Direct, 128> kinds{};
   kinds.fill(Utf7Direct::Never);
-  for (const char ch : kOptional) kinds[static_cast<std::size_t>(ch)] = Utf7Direct::Optional;
-  for (const char ch : kAlways) kinds[static_cast<std::size_t>(ch)] = Utf7Direct::Always;
-  for (const char ch : kLettersAndDigits) kinds[static_cast<std::size_t>(ch)] = Utf7Direct::Always;
+  for (const char ch : kOptional) kinds[Place(ch)] = Utf7Direct::Optional;
+  for (const char ch : kAlways) kinds[Place(ch)] = Utf7Direct::Always;
+  for (const char ch : kLettersAndDigits) kinds[Place(ch)] = Utf7Direct::Always;
   return kinds;
 }
 
@@ -25,7 +27,7 @@ consteval auto MakeValues() {
   std::array<std::int8_t, 256> values{};
   values.fill(-1);
   for (std::size_t value = 0; value < kBase64.size(); ++value) {
-    values[static_cast<std::size_t>(kBase64[value])] = static_cast<std::int8_t>(value);
+    values[Place(kBase64[value])] = static_cast<std::int8_t>(value);
   }
   return values;
 }

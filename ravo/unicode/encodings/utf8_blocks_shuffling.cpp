@@ -52,8 +52,6 @@ constexpr auto MakeShuffles() {
 constexpr auto kKeepUnits = MakeShuffles<KeepUnits>();
 constexpr auto kKeepFirstBytes = MakeShuffles<KeepFirstBytes>();
 
-unsigned Mask(Vector bytes) { return static_cast<unsigned>(_mm_movemask_epi8(bytes)); }
-
 Vector Masked(Vector bytes, int bits) { return _mm_and_si128(bytes, _mm_set1_epi8(static_cast<char>(bits))); }
 
 Vector EqualBytes(Vector bytes, int value) {

@@ -19,49 +19,63 @@ using Vector = __m128i;
 
 inline Vector LoadVector(const void* from) { return _mm_loadu_si128(static_cast<const Vector*>(from)); }
 inline void StoreVector(void* to, Vector vector) { _mm_storeu_si128(static_cast<Vector*>(to), vector); }
+inline unsigned Mask(Vector bytes) { return static_cast<unsigned>(_mm_movemask_epi8(bytes)); }
 
-/// Widens a block of ASCII; false, with nothing of meaning written, where a byte is none.
-inline bool WidenAsciiBlock(const std::uint8_t* from, char16_t* to) {
-  const Vector bytes = LoadVector(from);
-  if (_mm_movemask_epi8(bytes) != 0) return false;
-  StoreVector(to, _mm_unpacklo_epi8(bytes, _mm_setzero_si128()));
-  StoreVector(to + kBlock / 2, _mm_unpackhi_epi8(bytes, _mm_setzero_si128()));
+/// Widens blocks of ASCII; false, with nothing of meaning written, where a byte is none.
+template <std::size_t blocks>
+bool WidenAscii(const std::uint8_t* from, char16_t* to) {
+  Vector seen = _mm_setzero_si128();
+  for (std::size_t i = 0; i < blocks; ++i) seen = _mm_or_si128(seen, LoadVector(from + i * kBlock));
+  if (Mask(seen) != 0) return false;
+  for (std::size_t i = 0; i < blocks; ++i) {
+    const Vector bytes = LoadVector(from + i * kBlock);
+    StoreVector(to + i * kBlock, _mm_unpacklo_epi8(bytes, _mm_setzero_si128()));
+    StoreVector(to + i * kBlock + kBlock / 2, _mm_unpackhi_epi8(bytes, _mm_setzero_si128()));
+  }
   return true;
 }
 
-/// Narrows a block of ASCII; false, with nothing written, where a character is none.
-inline bool NarrowAsciiBlock(const char16_t* from, std::uint8_t* to) {
-  const Vector first = LoadVector(from);
-  const Vector second = LoadVector(from + kBlock / 2);
-  const Vector beyond = _mm_and_si128(_mm_or_si128(first, second), _mm_set1_epi16(-0x80));
-  if (_mm_movemask_epi8(_mm_cmpeq_epi16(beyond, _mm_setzero_si128())) != 0xFFFF) return false;
-  StoreVector(to, _mm_packus_epi16(first, second));
+/// Narrows blocks of ASCII; false, with nothing written, where a character is none.
+template <std::size_t blocks>
+bool NarrowAscii(const char16_t* from, std::uint8_t* to) {
+  Vector seen = _mm_setzero_si128();
+  for (std::size_t i = 0; i < 2 * blocks; ++i) seen = _mm_or_si128(seen, LoadVector(from + i * kBlock / 2));
+  const Vector beyond = _mm_and_si128(seen, _mm_set1_epi16(-0x80));
+  if (Mask(_mm_cmpeq_epi16(beyond, _mm_setzero_si128())) != 0xFFFF) return false;
+  for (std::size_t at = 0; at < blocks * kBlock; at += kBlock) {
+    StoreVector(to + at, _mm_packus_epi16(LoadVector(from + at), LoadVector(from + at + kBlock / 2)));
+  }
   return true;
 }
 
 #else
 
-inline bool WidenAsciiBlock(const std::uint8_t* from, char16_t* to) {
-  std::uint8_t seen = 0;
-  for (std::size_t i = 0; i < kBlock; ++i) seen = static_cast<std::uint8_t>(seen | from[i]);
+template <std::size_t blocks>
+bool WidenAscii(const std::uint8_t* from, char16_t* to) {
+  unsigned seen = 0;
+  for (std::size_t i = 0; i < blocks * kBlock; ++i) seen |= from[i];
   if (seen >= 0x80) return false;
-  for (std::size_t i = 0; i < kBlock; ++i) to[i] = from[i];
+  for (std::size_t i = 0; i < blocks * kBlock; ++i) to[i] = from[i];
   return true;
 }
 
-inline bool NarrowAsciiBlock(const char16_t* from, std::uint8_t* to) {
+template <std::size_t blocks>
+bool NarrowAscii(const char16_t* from, std::uint8_t* to) {
   unsigned seen = 0;
-  for (std::size_t i = 0; i < kBlock; ++i) seen |= from[i];
+  for (std::size_t i = 0; i < blocks * kBlock; ++i) seen |= from[i];
   if (seen >= 0x80) return false;
-  for (std::size_t i = 0; i < kBlock; ++i) to[i] = static_cast<std::uint8_t>(from[i]);
+  for (std::size_t i = 0; i < blocks * kBlock; ++i) to[i] = static_cast<std::uint8_t>(from[i]);
   return true;
 }
 
 #endif
 
+inline bool WidenAsciiBlock(const std::uint8_t* from, char16_t* to) { return WidenAscii<1>(from, to); }
+inline bool NarrowAsciiBlock(const char16_t* from, std::uint8_t* to) { return NarrowAscii<1>(from, to); }
+
 /// How many blocks fit both a source and a target of that many characters.
-constexpr std::size_t WholeBlocks(std::size_t source, std::size_t room) {
-  return (source < room ? source : room) / kBlock * kBlock;
+constexpr std::size_t WholeBlocks(std::size_t source, std::size_t room, std::size_t block = kBlock) {
+  return (source < room ? source : room) / block * block;
 }
 
 }  // namespace ravo::DIUnicode
