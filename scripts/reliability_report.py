@@ -98,7 +98,7 @@ def figures(project, reports):
     return "\n".join([
         "### Tests on Linux\n", programs_table(reports),
         "### What they walk through\n", walked_table(reports),
-        "### Kernels\n", kernels_table(reports),
+        "### Kernels, where every test runs once for each\n", kernels_table(reports),
         "### Foreign input\n", fuzz_table(project),
         "### What runs\n", coverage_lines(project),
         "### Oddities held on purpose\n",

@@ -34,9 +34,10 @@ Step Utf8Rule(std::string_view bytes) {
   const std::size_t wanted = lead < 0xE0 ? 1 : lead < 0xF0 ? 2 : lead < 0xF8 ? 3 : lead < 0xFC ? 4 : 5;
   const std::size_t count = CountContinuations(bytes, wanted);
   if (count < wanted || wanted > 2) return {0xFFFD, count + 1};
-  const unsigned last = bytes[wanted] & 0x3F;
+  const auto rest = [bytes](std::size_t at) { return static_cast<unsigned char>(bytes[at]) & 0x3FU; };
+  const unsigned last = rest(wanted);
   const unsigned value =
-      wanted == 1 ? (lead - 0xC0U) * 64 + last : (lead - 0xE0U) * 4096 + (bytes[1] & 0x3FU) * 64 + last;
+      wanted == 1 ? (lead - 0xC0U) * 64 + last : (lead - 0xE0U) * 4096 + rest(1) * 64 + last;
   const bool shortest = value >= (wanted == 1 ? 0x80U : 0x800U);
   return {shortest ? static_cast<char16_t>(value) : char16_t{0xFFFD}, wanted + 1};
 }

@@ -162,7 +162,7 @@ TEST(SetSourceStream, ReadsBlocksOf4096Bytes) {
 TEST(SetSourceStream, TakesStreamsThatGiveLessThanAsked) {
   std::string bytes;
   for (int i = 0; i < 9000; ++i) bytes.push_back(static_cast<char>('a' + i % 23));
-  for (const std::size_t most : {1, 2, 3, 4095, 4096, 4097}) {
+  for (const std::size_t most : {1U, 2U, 3U, 4095U, 4096U, 4097U}) {
     MemoryStream inner = StreamOf(bytes);
     StingyStream stream(inner, most);
     TDIUnicodeReader reader;
@@ -498,7 +498,7 @@ TEST(ReadBOM, KnowsTheMarksOfABuffer) {
 
 TEST(ReadBOM, KnowsTheMarksOfAnyStream) {
   for (const BomRow& row : kBomRows) {
-    for (const std::size_t most : {1, 2, 3, 4, 4096}) {
+    for (const std::size_t most : {1U, 2U, 3U, 4U, 4096U}) {
       MemoryStream inner = StreamOf(row.bytes);
       StingyStream stream(inner, most);
       TDIUnicodeReader reader;
