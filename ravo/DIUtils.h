@@ -4,6 +4,10 @@
 #include <ravo/utils/ansi_upper.h>
 #include <ravo/utils/calendar.h>
 #include <ravo/utils/checksums.h>
+#include <ravo/utils/environment.h>
+#include <ravo/utils/file_names.h>
+#include <ravo/utils/files.h>
+#include <ravo/utils/folders.h>
 #include <ravo/utils/hash_stream.h>
 #include <ravo/utils/hashes.h>
 #include <ravo/utils/integers.h>
@@ -24,3 +28,4 @@
 #include <ravo/utils/strings/wildcards.h>
 #include <ravo/utils/strings/words.h>
 #include <ravo/utils/wide_str_buf.h>
+#include <ravo/utils/whole_files.h>

@@ -1,5 +1,6 @@
 #include <ravo/platform/machine.h>
 
+#include <algorithm>
 #include <atomic>
 
 namespace ravo::platform {
@@ -13,6 +14,13 @@ std::atomic<const Machine*> substitute{nullptr};
 RegistryKey::~RegistryKey() = default;
 VersionResource::~VersionResource() = default;
 Machine::~Machine() = default;
+FileSystem::~FileSystem() = default;
+
+std::optional<std::u16string> RegistryKey::Text(std::u16string_view name) const {
+  std::optional<std::u16string> text = StoredText(name);
+  if (text) text->resize(std::min(text->find(u'\0'), text->size()));
+  return text;
+}
 
 const Machine& CurrentMachine() noexcept {
   const Machine* machine = substitute.load(std::memory_order_acquire);

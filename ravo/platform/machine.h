@@ -1,5 +1,6 @@
 #pragma once
 
+#include <ravo/platform/file_system.h>
 #include <ravo/runtime/byte_stream.h>
 #include <ravo/runtime/component_factory.h>
 #include <ravo/runtime/date_time.h>
@@ -96,7 +97,10 @@ class RAVO_API RegistryKey {
 
   /// A value read as text, environment references not expanded; the unnamed value has an empty name. No value
   /// where it is missing or is no text.
-  [[nodiscard]] virtual std::optional<std::u16string> Text(std::u16string_view name) const = 0;
+  [[nodiscard]] virtual std::optional<std::u16string> Text(std::u16string_view name) const;
+
+  /// The same as it is stored: every whole unit, its terminating zero too where it has one.
+  [[nodiscard]] virtual std::optional<std::u16string> StoredText(std::u16string_view name) const = 0;
 
   /// A value read as a 32-bit integer; no value where it is missing or is no such integer.
   [[nodiscard]] virtual std::optional<std::int32_t> Integer(std::u16string_view name) const = 0;
@@ -123,6 +127,16 @@ class RAVO_API VersionResource {
   /// hexadecimal digits, compared without regard to case, as the key is.
   [[nodiscard]] virtual std::optional<std::u16string> String(std::u16string_view table,
                                                              std::u16string_view key) const = 0;
+};
+
+/// A device that texts are drawn on, as the operating system names it.
+using DeviceContext = void*;
+
+/// In logical units of a device.
+struct TextSize {
+  std::int32_t width = 0;
+  std::int32_t height = 0;
+  friend bool operator==(const TextSize&, const TextSize&) = default;
 };
 
 /// A loaded module of code or resources, as the operating system names it: an instance handle on Windows,
@@ -161,13 +175,26 @@ class RAVO_API Machine {
   /// The memory at this moment.
   [[nodiscard]] virtual MemoryFigures Memory() const = 0;
 
+  /// The folder that the shell has under a number (CSIDL), without a delimiter at its end unless it is the
+  /// root of a drive; empty where that is no folder of the file system.
+  [[nodiscard]] virtual std::u16string ShellFolder(std::int32_t number) const = 0;
+  /// The system's words for one of its error codes as it gives them, line end included; empty where it has
+  /// none in fewer than 256 units.
+  [[nodiscard]] virtual std::u16string ErrorText(std::uint32_t code) const = 0;
+  /// The code of the calling thread's last failed call.
+  [[nodiscard]] virtual std::uint32_t LastErrorCode() const noexcept = 0;
+  /// The size of a text in one line on a device, in its logical units; no value where the device cannot tell.
+  [[nodiscard]] virtual std::optional<TextSize> TextExtent(DeviceContext device,
+                                                           std::u16string_view text) const = 0;
+
   // Drives, named by a letter and a colon.
   /// Bit 0 for "A:" and so on.
   [[nodiscard]] virtual std::uint32_t LogicalDrives() const = 0;
   /// What a drive is; `NoRoot` where there is none of that name.
   [[nodiscard]] virtual DriveKind KindOfDrive(std::u16string_view drive) const = 0;
-  /// The space of a drive; no value where it cannot be read.
-  [[nodiscard]] virtual std::optional<DiskSpace> SpaceOfDrive(std::u16string_view drive) const = 0;
+  /// The space of the disk that holds a folder; a drive is one. No value where it cannot
+  /// be read.
+  [[nodiscard]] virtual std::optional<DiskSpace> SpaceOfFolder(std::u16string_view folder) const = 0;
 
   // Registry. Paths are written with "\"; one in front is allowed.
   /// Null where the key cannot be opened.
@@ -175,11 +202,14 @@ class RAVO_API Machine {
                                                              std::u16string_view path) const = 0;
 
   // Files.
+  /// What is done to files and folders.
+  [[nodiscard]] virtual const FileSystem& Files() const noexcept = 0;
   /// "\" on Windows, "/" elsewhere. Both are taken in names everywhere.
   [[nodiscard]] virtual char16_t PathDelimiter() const = 0;
   /// A name expanded against the process's current folder.
   [[nodiscard]] virtual std::u16string FullPath(std::u16string_view name) const = 0;
-  /// What a directory search finds under that name, files and folders alike.
+  /// What a directory search finds first under that name, files and folders alike. "*" and "?" in its last
+  /// part stand for any text and for any character. A name that ends in a delimiter finds nothing.
   [[nodiscard]] virtual std::optional<FileFacts> FindFile(std::u16string_view name) const = 0;
   /// Null where the file has no version resource.
   [[nodiscard]] virtual std::unique_ptr<VersionResource> OpenVersionResource(

@@ -26,7 +26,6 @@ constexpr std::u16string_view kVersionKeys[] = {u"CompanyName",  u"FileDescripti
                                                 u"InternalName", u"LegalCopyright",  u"OriginalFilename",
                                                 u"ProductName",  u"ProductVersion"};
 
-constexpr std::uint32_t kFolderAttribute = 0x10;
 
 // How many units of a name belong to its folder, the delimiter behind it included; 0 for a bare name.
 std::size_t FolderLength(std::u16string_view name) { return name.find_last_of(u"\\/:") + 1; }
@@ -53,7 +52,7 @@ std::u16string TimeStampText(DateTime written) {
 
 bool FileExists(std::u16string_view name) {
   const auto facts = CurrentMachine().FindFile(name);
-  return facts && (facts->attributes & kFolderAttribute) == 0;
+  return facts && (facts->attributes & platform::kFolderAttribute) == 0;
 }
 
 // A string table is named by language and code page, four digits each.

@@ -54,7 +54,7 @@ void TRavoSystemInfo::AddHDInfo(std::u16string_view Indent) {
     const std::u16string drive{static_cast<char16_t>(u'A' + bit), u':'};
     if (((drives >> bit) & 1) == 0 || machine.KindOfDrive(drive) != platform::DriveKind::Fixed) continue;
     // Kept: numbers of the drive before where a query fails, because they are zeroed once and not per drive
-    space = machine.SpaceOfDrive(drive).value_or(space);
+    space = machine.SpaceOfFolder(drive).value_or(space);
     AddSubHeading(FStrings, Indent, drive);
     AddNestedRow(FStrings, Indent, _rSystemHDSpace.View(), BytesToStr(space.total, true));
     AddNestedRow(FStrings, Indent, _rSystemHDFreeSpace.View(), BytesToStr(space.available, true));

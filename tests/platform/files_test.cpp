@@ -11,7 +11,6 @@ namespace {
 
 using test::ScratchFolder;
 
-constexpr std::uint32_t kFolderAttribute = 0x10;
 constexpr DateTime kMinute = 1.0 / 1440;
 
 TEST(FullPath, ExpandsAgainstTheCurrentFolder) {

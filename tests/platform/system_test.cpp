@@ -54,7 +54,7 @@ TEST(Drives, OnlyLogicalDrivesHaveSpace) {
   const std::uint32_t drives = CurrentMachine().LogicalDrives();
   for (unsigned bit = 0; bit < 26; ++bit) {
     const std::u16string drive{static_cast<char16_t>(u'A' + bit), u':'};
-    const auto space = CurrentMachine().SpaceOfDrive(drive);
+    const auto space = CurrentMachine().SpaceOfFolder(drive);
     if ((drives >> bit & 1) == 0) {
       EXPECT_FALSE(space) << bit;
       EXPECT_LE(CurrentMachine().KindOfDrive(drive), DriveKind::NoRoot) << bit;

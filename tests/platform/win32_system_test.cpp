@@ -13,7 +13,6 @@ namespace {
 
 using test::ScratchFolder;
 
-constexpr std::uint32_t kFolderAttribute = 0x10;
 
 std::u16string Environment(const wchar_t* name) {
   wchar_t value[1024] = L"";
@@ -61,7 +60,7 @@ TEST(Win32System, FoldersThatDoNotFitAreEmpty) {
 TEST(Win32System, SystemDriveIsFixedAndHasSpace) {
   EXPECT_NE(CurrentMachine().LogicalDrives() & 1U << 2, 0U);
   EXPECT_EQ(CurrentMachine().KindOfDrive(u"C:"), DriveKind::Fixed);
-  const auto space = CurrentMachine().SpaceOfDrive(u"C:");
+  const auto space = CurrentMachine().SpaceOfFolder(u"C:");
   ASSERT_TRUE(space);
   EXPECT_GT(space->total, 0);
 }

@@ -37,8 +37,9 @@ class OpenFakeKey final : public platform::RegistryKey {
  public:
   explicit OpenFakeKey(const FakeRegistryKey& values) : values_(values) {}
 
-  std::optional<std::u16string> Text(std::u16string_view name) const override {
-    return As<std::u16string>(name);
+  std::optional<std::u16string> StoredText(std::u16string_view name) const override {
+    const auto text = As<std::u16string>(name);
+    return text ? std::optional(*text + u'\0') : std::nullopt;
   }
   std::optional<std::int32_t> Integer(std::u16string_view name) const override {
     return As<std::int32_t>(name);
@@ -92,6 +93,16 @@ std::u16string FakeMachine::Folder(platform::SystemFolder folder) const {
   return found == folders.end() ? std::u16string() : found->second;
 }
 
+std::u16string FakeMachine::ShellFolder(std::int32_t number) const {
+  const auto found = shell_folders.find(number);
+  return found == shell_folders.end() ? std::u16string() : found->second;
+}
+
+std::u16string FakeMachine::ErrorText(std::uint32_t code) const {
+  const auto found = error_texts.find(code);
+  return found == error_texts.end() ? std::u16string() : found->second;
+}
+
 std::uint32_t FakeMachine::LogicalDrives() const {
   std::uint32_t mask = 0;
   for (const auto& [name, drive] : drives) mask |= std::uint32_t{1} << (name.at(0) - u'A');
@@ -103,8 +114,8 @@ platform::DriveKind FakeMachine::KindOfDrive(std::u16string_view drive) const {
   return found ? found->kind : platform::DriveKind::NoRoot;
 }
 
-std::optional<platform::DiskSpace> FakeMachine::SpaceOfDrive(std::u16string_view drive) const {
-  const FakeDrive* found = Find(drives, drive);
+std::optional<platform::DiskSpace> FakeMachine::SpaceOfFolder(std::u16string_view folder) const {
+  const FakeDrive* found = Find(drives, folder);
   return found ? found->space : std::nullopt;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/fake_file_system.h"
 #include <ravo/platform/machine.h>
 #include <ravo/runtime/text.h>
 
@@ -69,6 +70,16 @@ class FakeMachine : public platform::Machine {
   /// Without a delimiter at the end.
   std::u16string current_folder = u"C:\\Ravo";
 
+  /// What is asked of open files and folders.
+  FakeFileSystem file_system;
+
+  /// The shell's folders under their numbers, and the words for error codes.
+  std::map<std::int32_t, std::u16string> shell_folders;
+  std::map<std::uint32_t, std::u16string> error_texts;
+  std::uint32_t last_error = 0;
+  /// The size of any text on any device.
+  std::optional<platform::TextSize> text_extent;
+
   FormatSettings locale;
   /// Each `Now` takes the next reading; the last one repeats. The day zero where there is none.
   std::vector<DateTime> clock;
@@ -104,11 +115,19 @@ class FakeMachine : public platform::Machine {
   [[nodiscard]] std::u16string ComputerName() const override { return computer_name; }
   [[nodiscard]] std::u16string UserName() const override { return user_name; }
   [[nodiscard]] platform::MemoryFigures Memory() const override { return memory; }
+  [[nodiscard]] std::u16string ShellFolder(std::int32_t number) const override;
+  [[nodiscard]] std::u16string ErrorText(std::uint32_t code) const override;
+  [[nodiscard]] std::uint32_t LastErrorCode() const noexcept override { return last_error; }
+  [[nodiscard]] std::optional<platform::TextSize> TextExtent(platform::DeviceContext,
+                                                             std::u16string_view) const override {
+    return text_extent;
+  }
   [[nodiscard]] std::uint32_t LogicalDrives() const override;
   [[nodiscard]] platform::DriveKind KindOfDrive(std::u16string_view drive) const override;
-  [[nodiscard]] std::optional<platform::DiskSpace> SpaceOfDrive(std::u16string_view drive) const override;
+  [[nodiscard]] std::optional<platform::DiskSpace> SpaceOfFolder(std::u16string_view folder) const override;
   [[nodiscard]] std::unique_ptr<platform::RegistryKey> OpenKey(platform::RegistryRoot root,
                                                                std::u16string_view path) const override;
+  [[nodiscard]] const platform::FileSystem& Files() const noexcept override { return file_system; }
   [[nodiscard]] char16_t PathDelimiter() const override { return path_delimiter; }
   [[nodiscard]] std::u16string FullPath(std::u16string_view name) const override;
   [[nodiscard]] std::optional<platform::FileFacts> FindFile(std::u16string_view name) const override;

@@ -1,5 +1,7 @@
+#include <ravo/platform/posix/attributes.h>
 #include <ravo/platform/posix/drives.h>
 #include <ravo/platform/posix/host_file.h>
+#include <ravo/platform/posix/paths.h>
 #include <ravo/platform/posix/posix_machine.h>
 #include <ravo/runtime/text.h>
 
@@ -53,13 +55,6 @@ const Drive* FindDrive(std::span<const Drive> drives, char16_t letter) {
   return at == drives.end() ? nullptr : &*at;
 }
 
-std::optional<DiskSpace> SpaceOfFolder(const std::string& folder) {
-  struct statvfs facts {};
-  if (statvfs(folder.c_str(), &facts) != 0) return std::nullopt;
-  return DiskSpace{SizeOfBlocks(facts.f_blocks, facts.f_frsize),
-                   SizeOfBlocks(facts.f_bavail, facts.f_frsize)};
-}
-
 std::uint32_t PosixMachine::LogicalDrives() const {
   std::uint32_t mask = 0;
   for (const Drive& drive : CurrentDrives(root_)) mask |= std::uint32_t{1} << (drive.letter - u'A');
@@ -72,10 +67,12 @@ DriveKind PosixMachine::KindOfDrive(std::u16string_view drive) const {
   return found ? found->kind : DriveKind::NoRoot;
 }
 
-std::optional<DiskSpace> PosixMachine::SpaceOfDrive(std::u16string_view drive) const {
-  const auto drives = CurrentDrives(root_);
-  const Drive* found = NamedDrive(drives, drive);
-  return found ? SpaceOfFolder(found->folder) : std::nullopt;
+std::optional<DiskSpace> PosixMachine::SpaceOfFolder(std::u16string_view folder) const {
+  const auto path = HostPath(folder, root_);
+  struct statvfs facts {};
+  if (!path || !IsFolder(*path) || statvfs(path->c_str(), &facts) != 0) return std::nullopt;
+  return DiskSpace{SizeOfBlocks(facts.f_blocks, facts.f_frsize),
+                   SizeOfBlocks(facts.f_bavail, facts.f_frsize)};
 }
 
 }  // namespace ravo::platform::posix

@@ -45,7 +45,4 @@ using IsRemovable = std::function<bool(std::string_view)>;
 /// Null where no drive has that letter.
 [[nodiscard]] const Drive* FindDrive(std::span<const Drive> drives, char16_t letter);
 
-/// The space of the file system that holds a folder; no value where the system does not tell.
-[[nodiscard]] std::optional<DiskSpace> SpaceOfFolder(const std::string& folder);
-
 }  // namespace ravo::platform::posix

@@ -1,5 +1,6 @@
 #include <ravo/platform/file_stream.h>
 #include <ravo/platform/posix/paths.h>
+#include <ravo/platform/posix/uninterrupted.h>
 #include <ravo/runtime/error.h>
 #include <ravo/runtime/text.h>
 
@@ -15,16 +16,9 @@ namespace {
 
 static_assert(sizeof(off_t) == 8, "files are larger than 2 GiB");
 
-constexpr mode_t kNewFileRights = 0666;
+using platform::posix::Uninterrupted;
 
-// Runs a system call again for as long as a signal cuts it short; -1 is its failure.
-template <class Call>
-auto Uninterrupted(Call call) {
-  for (;;) {
-    const auto result = call();
-    if (result != -1 || errno != EINTR) return result;
-  }
-}
+constexpr mode_t kNewFileRights = 0666;
 
 // A pipe without a writer must not hold up whoever asks for its version: opening waits for nobody.
 int FlagsOf(FileMode mode) {

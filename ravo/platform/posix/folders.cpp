@@ -9,33 +9,16 @@ namespace ravo::platform::posix {
 namespace {
 
 constexpr std::size_t kMostFolderUnits = 259;
-constexpr const char* kPublicFolder = "XDG_PUBLICSHARE_DIR";
 
 std::string_view WithoutTrailingDelimiters(std::string_view folder) {
   while (folder.ends_with('/')) folder.remove_suffix(1);
   return folder;
 }
 
-std::string HomeFolder() {
-  std::string home = EnvironmentText("HOME");
-  if (!home.empty()) return home;
-  const auto user = CurrentUser();
-  return user ? user->home : std::string();
-}
-
 std::string TemporaryFolder() {
   std::string folder = EnvironmentText("TMPDIR");
   if (folder.empty()) folder = "/tmp";
   return folder.ends_with('/') ? folder : folder + "/";
-}
-
-std::string PublicFolder() {
-  std::string folder = EnvironmentText(kPublicFolder);
-  if (!folder.empty()) return folder;
-  const std::string home = HomeFolder();
-  std::string configuration = EnvironmentText("XDG_CONFIG_HOME");
-  if (configuration.empty()) configuration = home + "/.config";
-  return PublicFolderFrom(ReadHostFile(configuration + "/user-dirs.dirs").value_or(""), home);
 }
 
 std::string FolderBytes(SystemFolder folder) {
@@ -54,12 +37,31 @@ std::string FolderBytes(SystemFolder folder) {
 
 }  // namespace
 
-std::string PublicFolderFrom(std::string_view user_dirs, std::string_view home) {
+std::string HomeFolder() {
+  std::string home = EnvironmentText("HOME");
+  if (!home.empty()) return home;
+  const auto user = CurrentUser();
+  return user ? user->home : std::string();
+}
+
+std::string UserFolders() {
+  std::string configuration = EnvironmentText("XDG_CONFIG_HOME");
+  if (configuration.empty()) configuration = HomeFolder() + "/.config";
+  return ReadHostFile(configuration + "/user-dirs.dirs").value_or("");
+}
+
+std::string UserFolderFrom(std::string_view user_dirs, std::string_view variable, std::string_view home) {
   constexpr std::string_view home_reference = "$HOME";
-  std::string folder = ShellAssignment(user_dirs, kPublicFolder).value_or("");
+  std::string folder = ShellAssignment(user_dirs, variable).value_or("");
   if (folder.starts_with(home_reference)) folder.replace(0, home_reference.size(), home);
   const bool is_home = WithoutTrailingDelimiters(folder) == WithoutTrailingDelimiters(home);
   return folder.starts_with('/') && !is_home ? folder : std::string();
+}
+
+std::string PublicFolder() {
+  constexpr const char* variable = "XDG_PUBLICSHARE_DIR";
+  const std::string folder = EnvironmentText(variable);
+  return folder.empty() ? UserFolderFrom(UserFolders(), variable, HomeFolder()) : folder;
 }
 
 std::u16string PosixMachine::Folder(SystemFolder folder) const {

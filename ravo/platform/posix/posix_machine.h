@@ -1,6 +1,7 @@
 #pragma once
 
 #include <ravo/platform/machine.h>
+#include <ravo/platform/posix/posix_file_system.h>
 
 namespace ravo::platform::posix {
 
@@ -9,7 +10,7 @@ namespace ravo::platform::posix {
 class PosixMachine final : public Machine {
  public:
   /// `root` has no "/" at its end; empty is the real one.
-  explicit PosixMachine(std::string root = {}) : root_(std::move(root)) {}
+  explicit PosixMachine(std::string root = {}) : root_(std::move(root)), files_(root_) {}
   ~PosixMachine() override;
 
   [[nodiscard]] SystemVersion Version() const override;
@@ -19,14 +20,23 @@ class PosixMachine final : public Machine {
   [[nodiscard]] std::u16string ComputerName() const override;
   [[nodiscard]] std::u16string UserName() const override;
   [[nodiscard]] MemoryFigures Memory() const override;
+  [[nodiscard]] std::u16string ShellFolder(std::int32_t number) const override;
+  /// The codes are those of `errno`.
+  [[nodiscard]] std::u16string ErrorText(std::uint32_t code) const override;
+  [[nodiscard]] std::uint32_t LastErrorCode() const noexcept override;
+  /// There are no such devices here.
+  [[nodiscard]] std::optional<TextSize> TextExtent(DeviceContext, std::u16string_view) const override {
+    return std::nullopt;
+  }
 
   [[nodiscard]] std::uint32_t LogicalDrives() const override;
   [[nodiscard]] DriveKind KindOfDrive(std::u16string_view drive) const override;
-  [[nodiscard]] std::optional<DiskSpace> SpaceOfDrive(std::u16string_view drive) const override;
+  [[nodiscard]] std::optional<DiskSpace> SpaceOfFolder(std::u16string_view folder) const override;
 
   [[nodiscard]] std::unique_ptr<RegistryKey> OpenKey(RegistryRoot root,
                                                      std::u16string_view path) const override;
 
+  [[nodiscard]] const FileSystem& Files() const noexcept override { return files_; }
   [[nodiscard]] char16_t PathDelimiter() const override { return u'/'; }
   [[nodiscard]] std::u16string FullPath(std::u16string_view name) const override;
   [[nodiscard]] std::optional<FileFacts> FindFile(std::u16string_view name) const override;
@@ -64,6 +74,7 @@ class PosixMachine final : public Machine {
 
  private:
   std::string root_;
+  PosixFileSystem files_;
 };
 
 }  // namespace ravo::platform::posix

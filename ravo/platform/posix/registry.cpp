@@ -58,7 +58,8 @@ std::unique_ptr<RegistryKey> PosixMachine::OpenKey(RegistryRoot root, std::u16st
   if (SameAsciiText(path, u"HARDWARE\\DESCRIPTION\\System")) {
     return MakeKey(HardwareValues(root_, MachineName()));
   }
-  if (SameAsciiText(path, u"SOFTWARE\\Microsoft\\Windows\\CurrentVersion")) {
+  if (SameAsciiText(path, u"SOFTWARE\\Microsoft\\Windows\\CurrentVersion") ||
+      SameAsciiText(path, u"SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion")) {
     const auto user = CurrentUser();
     return MakeKey(SystemValues(root_, user ? user->full_name : ""));
   }

@@ -10,9 +10,9 @@ class HostKey final : public RegistryKey {
  public:
   explicit HostKey(std::vector<RegistryValue> values) noexcept : values_(std::move(values)) {}
 
-  [[nodiscard]] std::optional<std::u16string> Text(std::u16string_view name) const override {
+  [[nodiscard]] std::optional<std::u16string> StoredText(std::u16string_view name) const override {
     const RegistryValue* value = Find(name);
-    return value && value->kind == RegistryKind::Text ? std::optional(value->text) : std::nullopt;
+    return value && value->kind == RegistryKind::Text ? std::optional(value->text + u'\0') : std::nullopt;
   }
 
   [[nodiscard]] std::optional<std::int32_t> Integer(std::u16string_view) const override {

@@ -12,10 +12,11 @@ DriveKind Win32Machine::KindOfDrive(std::u16string_view drive) const {
   return kind <= DRIVE_RAMDISK ? static_cast<DriveKind>(kind) : DriveKind::Unknown;
 }
 
-std::optional<DiskSpace> Win32Machine::SpaceOfDrive(std::u16string_view drive) const {
+std::optional<DiskSpace> Win32Machine::SpaceOfFolder(std::u16string_view folder) const {
   ULARGE_INTEGER available{};
   ULARGE_INTEGER total{};
-  if (!GetDiskFreeSpaceExW(ToWide(drive).c_str(), &available, &total, nullptr)) return std::nullopt;
+  const auto name = SystemName(folder);
+  if (!name || !GetDiskFreeSpaceExW(name->c_str(), &available, &total, nullptr)) return std::nullopt;
   return DiskSpace{static_cast<std::int64_t>(total.QuadPart), static_cast<std::int64_t>(available.QuadPart)};
 }
 

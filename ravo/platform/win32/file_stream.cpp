@@ -1,32 +1,29 @@
 #include <ravo/platform/file_stream.h>
+#include <ravo/platform/win32/handles.h>
 #include <ravo/platform/win32/system_error.h>
 #include <ravo/platform/win32/wide.h>
 #include <ravo/runtime/error.h>
-
-#include <algorithm>
 
 #include <windows.h>
 
 namespace ravo {
 namespace {
 
-HANDLE HandleOf(std::intptr_t handle) { return reinterpret_cast<HANDLE>(handle); }
+using platform::HandleOf;
+using platform::Portion;
 
 std::intptr_t Open(std::u16string_view name, FileMode mode) {
-  // The system would open what stands before the zero.
-  if (name.find(u'\0') != std::u16string_view::npos) throw StreamError(StreamOperation::Open, name);
+  const auto system_name = platform::SystemName(name);
+  if (!system_name) throw StreamError(StreamOperation::Open, name);
   const bool reads_only = mode == FileMode::Read;
   const HANDLE file =
-      CreateFileW(platform::ToWide(name).c_str(), reads_only ? GENERIC_READ : GENERIC_READ | GENERIC_WRITE,
+      CreateFileW(system_name->c_str(), reads_only ? GENERIC_READ : GENERIC_READ | GENERIC_WRITE,
                   reads_only ? FILE_SHARE_READ : 0, nullptr,
                   mode == FileMode::Create ? CREATE_ALWAYS : OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
   if (file != INVALID_HANDLE_VALUE) return reinterpret_cast<std::intptr_t>(file);
   throw StreamError(StreamOperation::Open,
                     std::u16string(name) + u": " + platform::SystemErrorText(GetLastError()));
 }
-
-// One call moves at most so many bytes; more are for the next one.
-DWORD Portion(std::size_t bytes) { return static_cast<DWORD>(std::min<std::size_t>(bytes, 1U << 30)); }
 
 [[noreturn]] void ThrowLastError() { throw Error(platform::SystemErrorText(GetLastError())); }
 

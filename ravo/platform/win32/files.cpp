@@ -30,7 +30,8 @@ std::u16string Win32Machine::FullPath(std::u16string_view name) const {
 
 std::optional<FileFacts> Win32Machine::FindFile(std::u16string_view name) const {
   WIN32_FIND_DATAW data{};
-  const HANDLE search = FindFirstFileW(ToWide(name).c_str(), &data);
+  const auto pattern = SystemName(name);
+  const HANDLE search = pattern ? FindFirstFileW(pattern->c_str(), &data) : INVALID_HANDLE_VALUE;
   if (search == INVALID_HANDLE_VALUE) return std::nullopt;
   FindClose(search);
   const auto size = static_cast<std::uint64_t>(data.nFileSizeHigh) << 32 | data.nFileSizeLow;

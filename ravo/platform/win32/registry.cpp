@@ -31,10 +31,9 @@ LSTATUS ReadValue(HKEY key, std::u16string_view name, Value& value) {
 }
 
 // The stored text need not end in a zero, nor in a whole unit.
-std::u16string StoredText(const std::vector<std::byte>& data) {
+std::u16string WholeUnits(const std::vector<std::byte>& data) {
   std::u16string text(data.size() / sizeof(char16_t), u'\0');
   std::memcpy(text.data(), data.data(), text.size() * sizeof(char16_t));
-  text.resize(UpToZero(std::u16string_view(text)).size());
   return text;
 }
 
@@ -43,11 +42,11 @@ class Win32RegistryKey final : public RegistryKey {
   explicit Win32RegistryKey(HKEY key) noexcept : key_(key) {}
   ~Win32RegistryKey() override { RegCloseKey(key_); }
 
-  [[nodiscard]] std::optional<std::u16string> Text(std::u16string_view name) const override {
+  [[nodiscard]] std::optional<std::u16string> StoredText(std::u16string_view name) const override {
     Value value;
     if (ReadValue(key_, name, value) != ERROR_SUCCESS) return std::nullopt;
     if (value.type != REG_SZ && value.type != REG_EXPAND_SZ) return std::nullopt;
-    return StoredText(value.data);
+    return WholeUnits(value.data);
   }
 
   [[nodiscard]] std::optional<std::int32_t> Integer(std::u16string_view name) const override {

@@ -40,15 +40,6 @@ std::u16string FilledOnSuccess(Call call) {
   return FromWide(UpToZero(std::wstring_view(buffer.data(), kBufferUnits)));
 }
 
-std::u16string ShellFolder(int folder) {
-  LPITEMIDLIST list = nullptr;
-  if (FAILED(SHGetSpecialFolderLocation(nullptr, folder, &list))) return {};
-  std::u16string path =
-      FilledOnSuccess([&](wchar_t* buffer, DWORD*) { return SHGetPathFromIDListW(list, buffer); });
-  CoTaskMemFree(list);
-  return path;
-}
-
 std::uint32_t Clamped(SIZE_T bytes) {
   return static_cast<std::uint32_t>(std::min<SIZE_T>(bytes, std::numeric_limits<std::uint32_t>::max()));
 }
@@ -91,6 +82,16 @@ std::u16string Win32Machine::Folder(SystemFolder folder) const {
       return ShellFolder(CSIDL_COMMON_DOCUMENTS);
   }
   return {};
+}
+
+std::u16string Win32Machine::ShellFolder(std::int32_t number) const {
+  LPITEMIDLIST list = nullptr;
+  if (FAILED(SHGetSpecialFolderLocation(nullptr, number, &list))) return {};
+  std::u16string path =
+      FilledOnSuccess([&](wchar_t* buffer, DWORD*) { return SHGetPathFromIDListW(list, buffer); });
+  // The shell's allocator.
+  CoTaskMemFree(list);
+  return path;
 }
 
 std::u16string Win32Machine::ComputerName() const { return FilledOnSuccess(GetComputerNameW); }

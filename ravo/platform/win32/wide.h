@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -8,6 +9,11 @@ namespace ravo::platform {
 
 /// A terminated copy for a system call.
 [[nodiscard]] inline std::wstring ToWide(std::u16string_view text) { return {text.begin(), text.end()}; }
+
+/// The same of a file's name; no value for a name with a zero in it, which the system would cut short.
+[[nodiscard]] inline std::optional<std::wstring> SystemName(std::u16string_view name) {
+  return name.find(u'\0') == name.npos ? std::optional(ToWide(name)) : std::nullopt;
+}
 
 [[nodiscard]] inline std::u16string FromWide(std::wstring_view text) { return {text.begin(), text.end()}; }
 

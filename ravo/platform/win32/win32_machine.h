@@ -1,6 +1,7 @@
 #pragma once
 
 #include <ravo/platform/machine.h>
+#include <ravo/platform/win32/win32_file_system.h>
 
 namespace ravo::platform {
 
@@ -14,14 +15,20 @@ class Win32Machine final : public Machine {
   [[nodiscard]] std::u16string ComputerName() const override;
   [[nodiscard]] std::u16string UserName() const override;
   [[nodiscard]] MemoryFigures Memory() const override;
+  [[nodiscard]] std::u16string ShellFolder(std::int32_t number) const override;
+  [[nodiscard]] std::u16string ErrorText(std::uint32_t code) const override;
+  [[nodiscard]] std::uint32_t LastErrorCode() const noexcept override;
+  [[nodiscard]] std::optional<TextSize> TextExtent(DeviceContext device,
+                                                   std::u16string_view text) const override;
 
   [[nodiscard]] std::uint32_t LogicalDrives() const override;
   [[nodiscard]] DriveKind KindOfDrive(std::u16string_view drive) const override;
-  [[nodiscard]] std::optional<DiskSpace> SpaceOfDrive(std::u16string_view drive) const override;
+  [[nodiscard]] std::optional<DiskSpace> SpaceOfFolder(std::u16string_view folder) const override;
 
   [[nodiscard]] std::unique_ptr<RegistryKey> OpenKey(RegistryRoot root,
                                                      std::u16string_view path) const override;
 
+  [[nodiscard]] const FileSystem& Files() const noexcept override { return files_; }
   [[nodiscard]] char16_t PathDelimiter() const override { return u'\\'; }
   [[nodiscard]] std::u16string FullPath(std::u16string_view name) const override;
   [[nodiscard]] std::optional<FileFacts> FindFile(std::u16string_view name) const override;
@@ -54,6 +61,9 @@ class Win32Machine final : public Machine {
                                           std::uint32_t& registration) const override;
   void RevokeComponent(std::uint32_t registration) const override;
   [[nodiscard]] std::u16string ComponentErrorText(ResultCode code) const override;
+
+ private:
+  Win32FileSystem files_;
 };
 
 }  // namespace ravo::platform

@@ -100,22 +100,22 @@ TEST(PosixMachineDrives, ReadsBelowItsRoot) {
   EXPECT_EQ(machine.KindOfDrive(u"C:"), DriveKind::Fixed);
   EXPECT_EQ(machine.KindOfDrive(u"d:\\"), DriveKind::Removable);
   EXPECT_EQ(machine.KindOfDrive(u"E:/"), DriveKind::Fixed);
-  EXPECT_TRUE(machine.SpaceOfDrive(u"C:"));
-  EXPECT_FALSE(machine.SpaceOfDrive(u"D:"));
+  EXPECT_TRUE(machine.SpaceOfFolder(u"C:"));
+  EXPECT_FALSE(machine.SpaceOfFolder(u"D:"));
 }
 
 TEST(PosixMachineDrives, OtherNamesHaveNoRoot) {
   const PosixMachine machine;
   for (const std::u16string_view name : {u"A:", u"1:", u"", u"C", u"C:x", u"C:\\Windows"}) {
     EXPECT_EQ(machine.KindOfDrive(name), DriveKind::NoRoot);
-    EXPECT_FALSE(machine.SpaceOfDrive(name));
+    EXPECT_FALSE(machine.SpaceOfFolder(name));
   }
 }
 
 TEST(PosixMachineDrives, TheRootOfThisMachineHasSpace) {
   const PosixMachine machine;
   EXPECT_TRUE(machine.LogicalDrives() & 0b100u);
-  const auto space = machine.SpaceOfDrive(u"C:");
+  const auto space = machine.SpaceOfFolder(u"C:");
   ASSERT_TRUE(space);
   EXPECT_GT(space->total, 0);
   EXPECT_LE(space->available, space->total);

@@ -34,16 +34,16 @@ TEST(ShellAssignment, TakesQuotesAndBackslashesOff) {
   for (const Row& row : rows) EXPECT_EQ(ShellAssignment(row.text, "NAME"), row.value) << row.text;
 }
 
-TEST(PublicFolderFrom, ExpandsTheHomeFolder) {
-  EXPECT_EQ(PublicFolderFrom("XDG_PUBLICSHARE_DIR=\"$HOME/Veřejné\"\n", "/srv/jan"), "/srv/jan/Veřejné");
-  EXPECT_EQ(PublicFolderFrom("XDG_PUBLICSHARE_DIR=\"/srv/public\"\n", "/srv/jan"), "/srv/public");
-  EXPECT_EQ(PublicFolderFrom("# nothing\n", "/srv/jan"), "");
-  EXPECT_EQ(PublicFolderFrom("XDG_PUBLICSHARE_DIR=\"Public\"\n", "/srv/jan"), "");
+TEST(UserFolderFrom, ExpandsTheHomeFolder) {
+  EXPECT_EQ(UserFolderFrom("XDG_PUBLICSHARE_DIR=\"$HOME/Veřejné\"\n", "XDG_PUBLICSHARE_DIR", "/srv/jan"), "/srv/jan/Veřejné");
+  EXPECT_EQ(UserFolderFrom("XDG_PUBLICSHARE_DIR=\"/srv/public\"\n", "XDG_PUBLICSHARE_DIR", "/srv/jan"), "/srv/public");
+  EXPECT_EQ(UserFolderFrom("# nothing\n", "XDG_PUBLICSHARE_DIR", "/srv/jan"), "");
+  EXPECT_EQ(UserFolderFrom("XDG_PUBLICSHARE_DIR=\"Public\"\n", "XDG_PUBLICSHARE_DIR", "/srv/jan"), "");
 }
 
-TEST(PublicFolderFrom, TheHomeFolderItselfMeansNone) {
-  EXPECT_EQ(PublicFolderFrom("XDG_PUBLICSHARE_DIR=\"$HOME/\"\n", "/srv/jan"), "");
-  EXPECT_EQ(PublicFolderFrom("XDG_PUBLICSHARE_DIR=\"$HOME\"\n", "/srv/jan"), "");
+TEST(UserFolderFrom, TheHomeFolderItselfMeansNone) {
+  EXPECT_EQ(UserFolderFrom("XDG_PUBLICSHARE_DIR=\"$HOME/\"\n", "XDG_PUBLICSHARE_DIR", "/srv/jan"), "");
+  EXPECT_EQ(UserFolderFrom("XDG_PUBLICSHARE_DIR=\"$HOME\"\n", "XDG_PUBLICSHARE_DIR", "/srv/jan"), "");
 }
 
 TEST(PosixMachineFolder, SystemFoldersAreFixed) {

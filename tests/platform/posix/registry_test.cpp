@@ -80,7 +80,7 @@ TEST(PosixMachineRegistry, KeysCompareWithoutCase) {
 TEST(PosixMachineRegistry, EverythingElseIsNone) {
   const PosixMachine machine;
   for (const std::u16string_view path :
-       {u"", u"\\", u"SOFTWARE", u"\\SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion",
+       {u"", u"\\", u"SOFTWARE", u"\\SOFTWARE\\Microsoft\\WindowsNT\\CurrentVersion",
         u"\\\\HARDWARE\\DESCRIPTION\\System", u"HARDWARE/DESCRIPTION/System"}) {
     EXPECT_FALSE(machine.OpenKey(RegistryRoot::LocalMachine, path));
   }

@@ -1,0 +1,61 @@
+#include <ravo/platform/machine.h>
+#include <ravo/utils/ansi_text.h>
+#include <ravo/utils/files.h>
+#include <ravo/utils/folders.h>
+#include <ravo/utils/open_file.h>
+
+#include <limits>
+
+namespace ravo::DIUtils {
+
+using platform::FilePurpose;
+using utils::Wide;
+
+bool FileExists(std::u16string_view name) { return FileExistsW(name); }
+bool FileExistsA(std::string_view name) { return FileExistsW(Wide(name)); }
+bool FileExistsW(std::u16string_view name) {
+  const auto attributes = platform::CurrentMachine().Files().Attributes(name);
+  return attributes && (*attributes & platform::kFolderAttribute) == 0;
+}
+
+std::int64_t GetFileSize(std::u16string_view name) { return GetFileSizeW(name); }
+std::int64_t GetFileSizeA(std::string_view name) { return GetFileSizeW(Wide(name)); }
+std::int64_t GetFileSizeW(std::u16string_view name) {
+  const auto found = platform::CurrentMachine().FindFile(name);
+  return found ? found->size : -1;
+}
+
+bool SetFileDate(FileHandle file, std::int32_t year, std::uint16_t month, std::uint16_t day) {
+  if (!std::in_range<std::uint16_t>(year)) return false;
+  return platform::CurrentMachine().Files().SetTimes(file, static_cast<std::uint16_t>(year), month, day);
+}
+
+bool SetFileDateYmd(std::u16string_view name, std::int32_t year, std::uint16_t month, std::uint16_t day) {
+  return SetFileDateYmdW(name, year, month, day);
+}
+bool SetFileDateYmdA(std::string_view name, std::int32_t year, std::uint16_t month, std::uint16_t day) {
+  return SetFileDateYmdW(Wide(name), year, month, day);
+}
+bool SetFileDateYmdW(std::u16string_view name, std::int32_t year, std::uint16_t month, std::uint16_t day) {
+  const utils::OpenFile file(name, DirectoryExistsW(name) ? FilePurpose::DateFolder : FilePurpose::Date);
+  return file.IsOpen() && SetFileDate(file.Handle(), year, month, day);
+}
+
+bool SetFileDate(std::u16string_view name, TJulianDate date) { return SetFileDateW(name, date); }
+bool SetFileDateA(std::string_view name, TJulianDate date) { return SetFileDateW(Wide(name), date); }
+bool SetFileDateW(std::u16string_view name, TJulianDate date) {
+  constexpr std::int32_t last_year = std::numeric_limits<std::uint16_t>::max();
+  // Days that the calendar's formulas need not reach.
+  if (date < YmdToJulianDate(0, 1, 1) || date > YmdToJulianDate(last_year, 12, 31)) return false;
+  std::int32_t year = 0;
+  std::uint16_t month = 0;
+  std::uint16_t day = 0;
+  JulianDateToYmd(date, year, month, day);
+  return SetFileDateYmdW(name, year, month, day);
+}
+
+bool DeleteFile(std::u16string_view name) { return DeleteFileW(name); }
+bool DeleteFileA(std::string_view name) { return DeleteFileW(Wide(name)); }
+bool DeleteFileW(std::u16string_view name) { return platform::CurrentMachine().Files().RemoveFile(name); }
+
+}  // namespace ravo::DIUtils

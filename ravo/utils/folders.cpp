@@ -1,0 +1,67 @@
+#include <ravo/platform/machine.h>
+#include <ravo/utils/ansi_text.h>
+#include <ravo/utils/file_name_parts.h>
+#include <ravo/utils/folders.h>
+
+#include <algorithm>
+#include <ranges>
+#include <vector>
+
+namespace ravo::DIUtils {
+namespace {
+
+constexpr std::size_t kShortestFolder = 3;
+
+// "C:", and what no system can delete without what is on it.
+bool IsDrive(std::u16string_view folder) {
+  return folder.size() == 2 && folder.back() == u':';
+}
+
+}  // namespace
+
+using platform::CurrentMachine;
+using utils::Wide;
+
+bool DirectoryExistsA(std::string_view folder) { return DirectoryExistsW(Wide(folder)); }
+bool DirectoryExistsW(std::u16string_view folder) {
+  const auto attributes = CurrentMachine().Files().Attributes(folder);
+  return attributes && (*attributes & platform::kFolderAttribute) != 0;
+}
+
+bool ForceDirectories(std::u16string_view folder) { return ForceDirectoriesW(folder); }
+bool ForceDirectoriesA(std::string_view folder) { return ForceDirectoriesW(Wide(folder)); }
+bool ForceDirectoriesW(std::u16string_view folder) {
+  // The folder before its parents: they are made in the opposite order.
+  std::vector<std::u16string> missing;
+  while (!DirectoryExistsW(folder)) {
+    folder = utils::WithoutDelimiter(folder);
+    const std::u16string_view parent = utils::PathOf(folder);
+    if (folder.size() < kShortestFolder || parent.size() == folder.size()) break;
+    missing.emplace_back(folder);
+    folder = parent;
+  }
+  return std::ranges::all_of(missing | std::views::reverse, [](const std::u16string& name) {
+    return CurrentMachine().Files().CreateFolder(name);
+  });
+}
+
+bool DeleteDirectory(std::u16string_view folder, bool with_folder) {
+  return DeleteDirectoryW(folder, with_folder);
+}
+bool DeleteDirectoryA(std::string_view folder, bool with_folder) {
+  return DeleteDirectoryW(Wide(folder), with_folder);
+}
+bool DeleteDirectoryW(std::u16string_view folder, bool with_folder) {
+  const platform::FileSystem& files = CurrentMachine().Files();
+  if (!with_folder) return files.DeleteFolder(folder, platform::FolderPart::Contents);
+  const std::u16string_view itself = utils::WithoutDelimiter(folder);
+  return !IsDrive(itself) && files.DeleteFolder(itself, platform::FolderPart::Whole);
+}
+
+std::int64_t DiskFreeA(std::string_view folder) { return DiskFreeW(Wide(folder)); }
+std::int64_t DiskFreeW(std::u16string_view folder) {
+  const auto space = CurrentMachine().SpaceOfFolder(folder);
+  return space ? space->available : -1;
+}
+
+}  // namespace ravo::DIUtils

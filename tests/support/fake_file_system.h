@@ -1,0 +1,74 @@
+#pragma once
+
+#include <ravo/platform/file_system.h>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+namespace ravo::test {
+
+/// A file system whose calls fail where a test says so: for failures that no real one gives on demand. It has
+/// no folders, and one file for whoever opens any name.
+class FakeFileSystem final : public platform::FileSystem {
+ public:
+  bool opens = true;
+  bool closes = true;
+  bool dates = true;
+  /// What one call moves at most.
+  std::size_t portion = 1 << 20;
+  /// How many bytes can be written or read before calls fail.
+  std::size_t room = 1 << 20;
+  /// What the file says of its size, and what is in it.
+  std::optional<std::int64_t> size = 0;
+  std::string content;
+  std::optional<std::uint32_t> attributes;
+
+  /// What happened: the number of closed files, what was written, the names that were opened and the days
+  /// that were set.
+  mutable int closed = 0;
+  mutable std::string written;
+  mutable std::vector<std::u16string> opened;
+  mutable std::vector<std::uint32_t> days;
+
+  [[nodiscard]] std::optional<std::uint32_t> Attributes(std::u16string_view) const override {
+    return attributes;
+  }
+  [[nodiscard]] std::u16string CurrentFolder() const override { return {}; }
+  bool SetCurrentFolder(std::u16string_view) const override { return false; }
+  bool CreateFolder(std::u16string_view) const override { return false; }
+  bool DeleteFolder(std::u16string_view, platform::FolderPart) const override { return false; }
+  bool RemoveFile(std::u16string_view) const override { return false; }
+
+  [[nodiscard]] FileHandle Open(std::u16string_view name, platform::FilePurpose) const override {
+    opened.emplace_back(name);
+    return opens ? 1 : kNoFile;
+  }
+  bool Close(FileHandle) const override {
+    ++closed;
+    return closes;
+  }
+  [[nodiscard]] std::optional<std::int64_t> SizeOf(FileHandle) const override { return size; }
+  [[nodiscard]] std::optional<std::size_t> Read(FileHandle, std::span<std::byte> to) const override {
+    if (read_ >= room) return std::nullopt;
+    const std::size_t count = std::min({to.size(), portion, content.size() - read_, room - read_});
+    std::ranges::copy(std::as_bytes(std::span(content)).subspan(read_, count), to.begin());
+    read_ += count;
+    return count;
+  }
+  [[nodiscard]] std::optional<std::size_t> Write(FileHandle, std::span<const std::byte> from) const override {
+    if (written.size() >= room) return std::nullopt;
+    const std::size_t count = std::min({from.size(), portion, room - written.size()});
+    written.append(reinterpret_cast<const char*>(from.data()), count);
+    return count;
+  }
+  bool SetTimes(FileHandle, std::uint16_t year, std::uint16_t month, std::uint16_t day) const override {
+    days.push_back(year * 10000u + month * 100u + day);
+    return dates;
+  }
+
+ private:
+  mutable std::size_t read_ = 0;
+};
+
+}  // namespace ravo::test
