@@ -1,5 +1,5 @@
 # The two commands of the README, and what helps while working. Everything else is CMake's: see CMakePresets.json.
-.PHONY: run check bench format clean
+.PHONY: run check bench coverage reliability reference guide pictures package check-packages format clean
 
 run:            ## Build for this machine and show the library at its work
 	@scripts/run
@@ -9,6 +9,28 @@ check:          ## Every target, every test, every gate
 
 bench:          ## Build and run the benchmarks
 	@scripts/bench
+
+coverage:       ## Count the lines and branches that the tests run
+	@scripts/coverage
+
+reliability:    ## Sum up what the tests try and put it into docs/reliability.md
+	@scripts/reliability --write
+
+reference:      ## Make the reference of every public name: build/reference/html/index.html
+	@scripts/reference
+
+guide:          ## Copy the code of the examples and what they print into docs/guide.md
+	@scripts/guide
+
+pictures:       ## Draw docs/structure.svg and docs/performance.svg anew
+	@/usr/bin/env python3 -B scripts/structure.py --write
+	@/usr/bin/env python3 -B scripts/chart.py --write
+
+package:        ## Make the packages of a release in build/packages
+	@scripts/package
+
+check-packages: ## Make the packages, install or unpack each, and use it
+	@scripts/check-packages
 
 format:         ## Format all C and C++ sources
 	@scripts/format -i

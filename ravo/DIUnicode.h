@@ -1,4 +1,8 @@
 #pragma once
 
-/// The Unicode text library: the character database.
+/// The Unicode text library: the character database, reader and writer, and the encodings that they take.
 #include <ravo/unicode/characters.h>
+#include <ravo/unicode/encodings.h>
+#include <ravo/unicode/messages.h>
+#include <ravo/unicode/unicode_reader.h>
+#include <ravo/unicode/unicode_writer.h>

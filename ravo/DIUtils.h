@@ -1,6 +1,6 @@
 #pragma once
 
-/// General utilities.
+/// General utilities: strings and buffers, calendar, checksums, hashes, random numbers.
 #include <ravo/utils/ansi_upper.h>
 #include <ravo/utils/calendar.h>
 #include <ravo/utils/checksums.h>
@@ -12,5 +12,20 @@
 #include <ravo/utils/hashes.h>
 #include <ravo/utils/integers.h>
 #include <ravo/utils/random.h>
+#include <ravo/utils/strings/assemble.h>
+#include <ravo/utils/strings/char_search.h>
+#include <ravo/utils/strings/char_tests.h>
+#include <ravo/utils/strings/compare.h>
+#include <ravo/utils/strings/letter_case.h>
+#include <ravo/utils/strings/narrow.h>
+#include <ravo/utils/strings/natural_order.h>
+#include <ravo/utils/strings/numbers.h>
+#include <ravo/utils/strings/replace.h>
+#include <ravo/utils/strings/search.h>
+#include <ravo/utils/strings/trim.h>
+#include <ravo/utils/strings/url.h>
+#include <ravo/utils/strings/utf8.h>
+#include <ravo/utils/strings/wildcards.h>
+#include <ravo/utils/strings/words.h>
 #include <ravo/utils/wide_str_buf.h>
 #include <ravo/utils/whole_files.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-/* The package frame of RavoInterface for a host in C or C++: the module table, the module record and the
+/** The package frame of RavoInterface for a host in C or C++: the module table, the module record and the
  * procedures that start and stop the library's modules. Everything is plain C: undecorated names, the C
  * calling convention.
  *
@@ -18,16 +18,16 @@
  * empty type library (`TYPELIB`). On other systems the same facts stand in
  * `RavoPackageInfoTable.Description`. */
 
-/* The package is for run time only, not for a designer. */
+/** The package is for run time only, not for a designer. */
 #define RAVO_PACKAGE_RUN_ONLY 0x1
-/* The package is never rebuilt on demand. */
+/** The package is never rebuilt on demand. */
 #define RAVO_PACKAGE_NEVER_BUILD 0x2
-/* The module is a package, not an executable or a plain library. */
+/** The module is a package, not an executable or a plain library. */
 #define RAVO_PACKAGE_MODULE 0x4
-/* What this package is. */
+/** What this package is. */
 #define RAVO_PACKAGE_FLAGS (RAVO_PACKAGE_RUN_ONLY | RAVO_PACKAGE_NEVER_BUILD | RAVO_PACKAGE_MODULE)
 
-/* The contained module is the main one. */
+/** The contained module is the main one. */
 #define RAVO_MODULE_MAIN 0x1
 
 #ifndef RC_INVOKED
@@ -40,96 +40,98 @@
 extern "C" {
 #endif
 
-/* A slot of the module table: how a module is started and stopped. Either may be null. */
+/** A slot of the module table: how a module is started and stopped. Either may be null. */
 typedef struct RavoPackageUnit {
-  void (*Initialize)(void);
-  void (*Finalize)(void);
+  void (*Initialize)(void); /**< starts the module */
+  void (*Finalize)(void);   /**< stops it */
 } RavoPackageUnit;
 
-/* What the package tells of its types. This build has no look-up of types at run time: `TypeCount` is 0 and
+/** What the package tells of its types. This build has no look-up of types at run time: `TypeCount` is 0 and
  * `TypeTable` null. `UnitNames` are the contained modules without the main one. */
 typedef struct RavoPackageTypeInfo {
-  int32_t TypeCount;
-  const void* const* TypeTable;
-  int32_t UnitCount;
-  const char* const* UnitNames;
+  int32_t TypeCount;            /**< 0 */
+  const void* const* TypeTable; /**< null */
+  int32_t UnitCount;            /**< names in `UnitNames` */
+  const char* const* UnitNames; /**< ASCII, ended by a zero */
 } RavoPackageTypeInfo;
 
-/* A contained module. */
+/** A contained module. */
 typedef struct RavoPackageModule {
-  uint8_t Flags;
-  const char* Name;
+  uint8_t Flags;    /**< RAVO_MODULE_... */
+  const char* Name; /**< ASCII, ended by a zero */
 } RavoPackageModule;
 
-/* A string of the version record; texts are UTF-16, ended by a zero. */
+/** A string of the version record; texts are UTF-16, ended by a zero. */
 typedef struct RavoVersionString {
-  const char* Key;
-  const uint16_t* Text;
+  const char* Key;      /**< ASCII, ended by a zero */
+  const uint16_t* Text; /**< its value */
 } RavoVersionString;
 
-/* The package description; texts are UTF-16, ended by a zero. */
+/** The package description; texts are UTF-16, ended by a zero. */
 typedef struct RavoPackageDescription {
-  uint32_t Flags;
-  int32_t RequiredCount;
-  const char* const* RequiredNames;
-  int32_t ContainedCount;
-  const RavoPackageModule* Contained;
-  const uint16_t* Text;
-  const uint16_t* TypeLibraryName;
-  const uint16_t* TypeLibraryHelp;
-  uint32_t TypeLibraryLocale;
-  int32_t VersionStringCount;
-  const RavoVersionString* VersionStrings;
+  uint32_t Flags;                          /**< RAVO_PACKAGE_... */
+  int32_t RequiredCount;                   /**< required run-time libraries */
+  const char* const* RequiredNames;        /**< ASCII */
+  int32_t ContainedCount;                  /**< contained modules */
+  const RavoPackageModule* Contained;      /**< in the order of the package description */
+  const uint16_t* Text;                    /**< what the package is */
+  const uint16_t* TypeLibraryName;         /**< of the empty type library */
+  const uint16_t* TypeLibraryHelp;         /**< its help text */
+  uint32_t TypeLibraryLocale;              /**< its language */
+  int32_t VersionStringCount;              /**< strings of the version record */
+  const RavoVersionString* VersionStrings; /**< in the order of the record */
 } RavoPackageDescription;
 
-/* A loaded module as the process-wide list keeps it. `ResInstance` is where resource strings are looked up
+/** A loaded module as the process-wide list keeps it. `ResInstance` is where resource strings are looked up
  * first: the module itself, or a language module that was attached to it. A language module that a host puts
  * there belongs to the record from then on: it is unloaded with the library, or when another one takes its
  * place. */
 typedef struct RavoModule {
-  struct RavoModule* Next;
-  void* Instance;
-  void* CodeInstance;
-  void* DataInstance;
-  void* ResInstance;
+  struct RavoModule* Next; /**< the module that was loaded before it, or null */
+  void* Instance;          /**< the module itself */
+  void* CodeInstance;      /**< the same */
+  void* DataInstance;      /**< the same */
+  void* ResInstance;       /**< where resource strings are looked up */
 } RavoModule;
 
-/* The module table. The slots stand in dependency order: a module's slot comes after the slots of every
+/** The module table. The slots stand in dependency order: a module's slot comes after the slots of every
  * module that it uses. The first ones belong to the required run-time libraries and are empty in this build.
  */
 typedef struct RavoPackageInfoTable {
-  int32_t UnitCount;
-  const RavoPackageUnit* UnitInfo;
-  RavoPackageTypeInfo TypeInfo;
-  const RavoPackageDescription* Description;
-  RavoModule* Module;
+  int32_t UnitCount;                         /**< slots of the table */
+  const RavoPackageUnit* UnitInfo;           /**< the slots */
+  RavoPackageTypeInfo TypeInfo;              /**< what it tells of types */
+  const RavoPackageDescription* Description; /**< the package description */
+  RavoModule* Module;                        /**< the entry in the list of modules */
 } RavoPackageInfoTable;
 
-/* A text of a language module on systems without Windows resources. Such a module is a shared object that
+/** A text of a language module on systems without Windows resources. Such a module is a shared object that
  * exports an array of these under the name `RavoResourceTexts`, ended by a row whose text is null. */
 typedef struct RavoResourceText {
-  uint16_t Id;
-  const uint16_t* Text;
+  uint16_t Id;          /**< in the string table */
+  const uint16_t* Text; /**< UTF-16, ended by a zero */
 } RavoResourceText;
 
-/* The types of the exports, for a host that loads the library at run time. */
+/** The types of the exports, for a host that loads the library at run time. */
 typedef const RavoPackageInfoTable* (*RavoGetPackageInfoTable)(void);
 typedef void (*RavoPackageProcedure)(void);
 
-/* The module table; it lives as long as the library stays loaded. */
+/** The module table; it lives as long as the library stays loaded. */
 RAVO_API const RavoPackageInfoTable* GetPackageInfoTable(void);
 
-/* Starts all modules, from the first slot to the last. Starts are counted for each module: only the first of
+/** Starts all modules, from the first slot to the last. Starts are counted for each module: only the first of
  * nested ones does work. The counters are not locked: a host starts and stops from one thread at a time. */
 RAVO_API void Initialize(void);
 
-/* Stops all modules, from the last slot to the first; only the stop that answers the first start does work.
+/** Stops all modules, from the last slot to the first; only the stop that answers the first start does work.
  */
 RAVO_API void Finalize(void);
 
-/* `<Module>_Initialize` and `<Module>_Finalize` start and stop one module, counted in the same way. */
+/** `<Module>_Initialize` and `<Module>_Finalize` start and stop one module, counted in the same way. */
 #define RAVO_MODULE(name, flags, uses)   \
+  /** Starts the module #name. */        \
   RAVO_API void name##_Initialize(void); \
+  /** Stops the module #name. */         \
   RAVO_API void name##_Finalize(void);
 #include <ravo/frame/modules.inc>
 #undef RAVO_MODULE

@@ -17,6 +17,7 @@ void Check(ravo::ResultCode code) {
   if (ravo::Failed(code)) throw ravo::ComponentError(code, u"The box refused");
 }
 
+// [table]
 // Through the operation table: the declared interface that the host handed over, as this module describes it.
 std::string Describe(const ComponentPtr<IRavoBox>& box) {
   const ComponentPtr<HostBox> host_box = box.Query<HostBox>();
@@ -29,7 +30,9 @@ std::string Describe(const ComponentPtr<IRavoBox>& box) {
   Check(host_box->get_Unread(&unread));
   return ravo::ToUtf8(owned.View()) + ": " + std::to_string(unread) + " unread";
 }
+// [/table]
 
+// [late]
 // By dispatch identifier: a client that knows no operation table.
 std::int32_t CountLate(const ComponentPtr<IRavoBox>& box) {
   const ComponentPtr<IRavoBoxDisp> late = box.Query<IRavoBoxDisp>();
@@ -39,7 +42,9 @@ std::int32_t CountLate(const ComponentPtr<IRavoBox>& box) {
                      nullptr));
   return answer.int32;
 }
+// [/late]
 
+// [create]
 // An object that a module creates itself; here no packer is installed.
 std::string CreateZipper() {
   try {
@@ -49,6 +54,7 @@ std::string CreateZipper() {
     return ravo::ToUtf8(ravo::ToHex(static_cast<std::uint32_t>(error.Code()), 8)) + " " + error.what();
   }
 }
+// [/create]
 
 }  // namespace
 

@@ -13,7 +13,7 @@ namespace ravo {
 /// `PlainCaption` removes it.
 namespace RavoInterfaceResources {
 
-#define RAVO_STRING(name, id, text) inline constexpr ResourceString name{id, u##text};
+#define RAVO_STRING(name, id, text) /** #text */ inline constexpr ResourceString name{id, u##text};
 #include <ravo/catalogue/captions.inc>
 #undef RAVO_STRING
 
@@ -22,10 +22,10 @@ namespace RavoInterfaceResources {
 /// One caption or message with its name in the library, the title of the set that it belongs to, and what all
 /// names of that set begin with, such as `rPropertySazba`.
 struct CaptionRow {
-  std::string_view group;
-  std::string_view prefix;
-  std::string_view name;
-  ResourceString text;
+  std::string_view group;   ///< title of the set, in English
+  std::string_view prefix;  ///< what all names of the set begin with
+  std::string_view name;    ///< in the library: "rPropertySazbaNulova"
+  ResourceString text;      ///< the caption or message
 };
 
 /// All captions and messages in declaration order, set by set.

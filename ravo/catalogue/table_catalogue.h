@@ -13,17 +13,17 @@ namespace ravo {
 
 /// A module that has tables. The values are in the order in which the dispatcher asks the modules.
 enum class TableModule : std::uint8_t {
-#define RAVO_TABLE_MODULE(module, name) module,
+#define RAVO_TABLE_MODULE(module, name) /** #name */ module,
 #include <ravo/catalogue/table_modules.inc>
 #undef RAVO_TABLE_MODULE
 };
 
 /// One row of the catalogue: the identifiers `first` to `last`, both included, and their description.
 struct TableRow {
-  TableModule module;
-  std::int32_t first;
-  std::int32_t last;
-  std::u16string_view description;
+  TableModule module;               ///< whose table it is
+  std::int32_t first;               ///< the first identifier
+  std::int32_t last;                ///< the last identifier, included
+  std::u16string_view description;  ///< the Czech display name
 };
 
 /// All rows, module by module in the dispatcher's order, in each module by identifier.

@@ -12,8 +12,8 @@ namespace ravo {
 /// built with. The text is fetched at the moment of use through the library's current resource instance, so a
 /// language module attached to the library replaces it without a change of code.
 struct ResourceString {
-  std::uint16_t id = 0;
-  std::u16string_view built_in;
+  std::uint16_t id = 0;          ///< in the string table
+  std::u16string_view built_in;  ///< what no language module has replaced
 
   /// The text now. What an attached language module lacks reads as built in. The view lives as long as the
   /// resource instance stays attached.

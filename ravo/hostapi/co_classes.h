@@ -12,6 +12,7 @@ namespace ravo {
 
 #define RAVO_HOST_CLASS(library, name, returned, identifier)                                                \
   namespace library##_TLB {                                                                                 \
+    /** The factory of the class #name. */                                                                  \
     class RAVO_API Co##name {                                                                               \
      public:                                                                                                \
       Co##name() = delete;                                                                                  \

@@ -18,32 +18,41 @@ namespace ravo {
 
 // The base of a class cannot stand in parentheses.
 // NOLINTBEGIN(bugprone-macro-parentheses)
-#define RAVO_TYPE_LIBRARY(library, identifier)          \
-  namespace library##_TLB {                             \
-    inline constexpr Guid LIBID_##library = identifier; \
+#define RAVO_TYPE_LIBRARY(library, identifier)                   \
+  namespace library##_TLB {                                      \
+    /** Identifier of the type library #library: #identifier. */ \
+    inline constexpr Guid LIBID_##library = identifier;          \
   }
 
-#define RAVO_HOST_INTERFACE(library, name, base, identifier, operations) \
-  namespace library##_TLB {                                              \
-    inline constexpr Guid IID_##name = identifier;                       \
-    struct name : base {                                                 \
-      static constexpr Guid kInterfaceId = IID_##name;                   \
-      static constexpr int kOwnOperations = operations;                  \
-                                                                         \
-     protected:                                                          \
-      ~name() = default;                                                 \
-    };                                                                   \
-    struct name##Disp : base {                                           \
-      static constexpr Guid kInterfaceId = IID_##name;                   \
-      static constexpr int kOwnOperations = operations;                  \
-                                                                         \
-     protected:                                                          \
-      ~name##Disp() = default;                                           \
-    };                                                                   \
+#define RAVO_HOST_INTERFACE(library, name, base, identifier, operations)                  \
+  namespace library##_TLB {                                                               \
+    /** Identifier of `#name`: #identifier. */                                            \
+    inline constexpr Guid IID_##name = identifier;                                        \
+    /** An interface of the host below `#base` with #operations operations of its own. */ \
+    struct name : base {                                                                  \
+      /** What `QueryInterface` finds it by. */                                           \
+      static constexpr Guid kInterfaceId = IID_##name;                                    \
+      /** The operations that it adds to `#base`. */                                      \
+      static constexpr int kOwnOperations = operations;                                   \
+                                                                                          \
+     protected:                                                                           \
+      ~name() = default;                                                                  \
+    };                                                                                    \
+    /** `#name` as a late-binding client sees it. */                                      \
+    struct name##Disp : base {                                                            \
+      /** That of `#name`. */                                                             \
+      static constexpr Guid kInterfaceId = IID_##name;                                    \
+      /** That of `#name`. */                                                             \
+      static constexpr int kOwnOperations = operations;                                   \
+                                                                                          \
+     protected:                                                                           \
+      ~name##Disp() = default;                                                            \
+    };                                                                                    \
   }
 
 #define RAVO_HOST_CLASS(library, name, returned, identifier) \
   namespace library##_TLB {                                  \
+    /** Identifier of the class #name: #identifier. */       \
     inline constexpr Guid CLASS_##name = identifier;         \
   }
 

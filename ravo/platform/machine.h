@@ -29,30 +29,32 @@ enum class ProductType : std::uint8_t { Unknown = 0, Workstation = 1, DomainCont
 
 /// The extended version record.
 struct SystemVersion {
-  SystemFamily family = SystemFamily::Other;
-  std::uint32_t major = 0;
-  std::uint32_t minor = 0;
-  std::uint32_t build = 0;
+  SystemFamily family = SystemFamily::Other;  ///< the kind of system
+  std::uint32_t major = 0;                    ///< of the version
+  std::uint32_t minor = 0;                    ///< of the version
+  std::uint32_t build = 0;                    ///< number of the build
   /// At most 127 units.
   std::u16string service_pack;
-  std::uint16_t suite_mask = 0;
-  ProductType product_type = ProductType::Unknown;
+  std::uint16_t suite_mask = 0;                     ///< bits of the product suites, as Windows numbers them
+  ProductType product_type = ProductType::Unknown;  ///< client or server
 };
 
 /// Processor architectures with the numbers that Windows gives them; only one of them decides anything.
 inline constexpr std::uint16_t kArchitectureIntel = 0;
+/// x86 with 64 bits.
 inline constexpr std::uint16_t kArchitectureAmd64 = 9;
 
+/// Folders that the system can name.
 enum class SystemFolder : std::uint8_t { System, Windows, Temporary, CommonDocuments };
 
 /// Byte counts as 32-bit numbers; larger ones read as the largest.
 struct MemoryFigures {
-  std::uint32_t total_physical = 0;
-  std::uint32_t available_physical = 0;
-  std::uint32_t total_virtual = 0;
-  std::uint32_t available_virtual = 0;
-  std::uint32_t total_page_file = 0;
-  std::uint32_t available_page_file = 0;
+  std::uint32_t total_physical = 0;       ///< main memory
+  std::uint32_t available_physical = 0;   ///< main memory that is free
+  std::uint32_t total_virtual = 0;        ///< address space of the process
+  std::uint32_t available_virtual = 0;    ///< address space that is free
+  std::uint32_t total_page_file = 0;      ///< main memory and swap space
+  std::uint32_t available_page_file = 0;  ///< main memory and swap space that are free
 };
 
 /// What a drive is, with the numbers that Windows gives.
@@ -66,21 +68,23 @@ enum class DriveKind : std::uint32_t {
   RamDisk = 6
 };
 
+/// Space of a drive, in bytes.
 struct DiskSpace {
-  std::int64_t total = 0;
+  std::int64_t total = 0;  ///< free or not
   /// What the caller may still use.
   std::int64_t available = 0;
 };
 
 /// What a directory search tells of a file.
 struct FileFacts {
-  std::int64_t size = 0;
+  std::int64_t size = 0;  ///< in bytes
   /// Last write, in local time.
   DateTime written = 0;
   /// Attribute bits with the numbers that Windows gives them.
   std::uint32_t attributes = 0;
 };
 
+/// The trees of the registry.
 enum class RegistryRoot : std::uint8_t { ClassesRoot, CurrentUser, LocalMachine, Users };
 
 /// A registry key opened for reading. It is closed when it goes.
@@ -141,8 +145,8 @@ using ModuleHandle = void*;
 
 /// What the component runtime answers to a wish for an object: the object, or the code of a failure.
 struct ComponentAnswer {
-  ResultCode code = result_code::kClassNotRegistered;
-  ComponentPtr<IUnknown> instance;
+  ResultCode code = result_code::kClassNotRegistered;  ///< `kOk` beside an object
+  ComponentPtr<IUnknown> instance;                     ///< null beside a failure
 };
 
 /// The questions. Tests put another machine in the place of the real one.
@@ -154,17 +158,21 @@ class RAVO_API Machine {
   virtual ~Machine();
 
   // System.
+  /// The version record; on Linux from the kernel's release.
   [[nodiscard]] virtual SystemVersion Version() const = 0;
   /// Whether the system calls itself the second release of its server edition.
   [[nodiscard]] virtual bool IsServerR2() const = 0;
+  /// With the number that Windows gives it.
   [[nodiscard]] virtual std::uint16_t ProcessorArchitecture() const = 0;
   /// A folder of at most 259 units, with the trailing delimiter where the system itself gives one (the
   /// temporary folder always ends in one); empty where there is none.
   [[nodiscard]] virtual std::u16string Folder(SystemFolder folder) const = 0;
+  /// Empty where the machine has no name.
   [[nodiscard]] virtual std::u16string ComputerName() const = 0;
   /// The account that the process runs under; `GetUserNameW` on Windows, whose header defines a macro of that
   /// question.
   [[nodiscard]] virtual std::u16string UserName() const = 0;
+  /// The memory at this moment.
   [[nodiscard]] virtual MemoryFigures Memory() const = 0;
 
   /// The folder that the shell has under a number (CSIDL), without a delimiter at its end unless it is the
@@ -182,8 +190,10 @@ class RAVO_API Machine {
   // Drives, named by a letter and a colon.
   /// Bit 0 for "A:" and so on.
   [[nodiscard]] virtual std::uint32_t LogicalDrives() const = 0;
+  /// What a drive is; `NoRoot` where there is none of that name.
   [[nodiscard]] virtual DriveKind KindOfDrive(std::u16string_view drive) const = 0;
-  /// The space of the disk that holds a folder; a drive is one.
+  /// The space of the disk that holds a folder; a drive is one. No value where it cannot
+  /// be read.
   [[nodiscard]] virtual std::optional<DiskSpace> SpaceOfFolder(std::u16string_view folder) const = 0;
 
   // Registry. Paths are written with "\"; one in front is allowed.
@@ -206,18 +216,32 @@ class RAVO_API Machine {
       std::u16string_view name) const = 0;
 
   // Locale and clock.
+  /// The user's settings for the text of numbers and dates, now.
   [[nodiscard]] virtual FormatSettings Locale() const = 0;
   /// Local time.
   [[nodiscard]] virtual DateTime Now() const = 0;
 
   // The 8-bit code page of the system's data: Windows-1250 on the suite's systems.
+  /// Its number: 1250.
   [[nodiscard]] virtual std::uint32_t CodePage() const = 0;
+  /// Text of the code page as UTF-16. Bytes that it lacks become what the system puts in their place.
   [[nodiscard]] virtual std::u16string FromCodePage(std::string_view bytes) const = 0;
   /// A character that the code page lacks becomes what the system puts in its place, "?" at the latest.
   [[nodiscard]] virtual std::string ToCodePage(std::u16string_view text) const = 0;
+  /// The same for a code page by its number; no value where the system does not know it.
+  [[nodiscard]] virtual std::optional<std::u16string> DecodeCodePage(std::uint32_t code_page,
+                                                                     std::string_view bytes) const = 0;
+  /// The other way round; no value where the system does not know the code page.
+  [[nodiscard]] virtual std::optional<std::string> EncodeCodePage(std::uint32_t code_page,
+                                                                  std::u16string_view text) const = 0;
+  /// The 8-bit code page of a locale by the number that Windows gives that; no value for an unknown one.
+  [[nodiscard]] virtual std::optional<std::uint32_t> CodePageOfLocale(std::uint32_t locale) const = 0;
 
   /// Sends a text to an attached debugger, where the system has such a channel.
   virtual void DebugOutput(std::u16string_view text) const = 0;
+
+  /// Whether two texts are equal without regard to case, as the user's language compares them.
+  [[nodiscard]] virtual bool SameText(std::u16string_view left, std::u16string_view right) const = 0;
 
   // Resource texts.
   /// A string of the module's string table, of the module itself (not of what it links to); no value where it
@@ -226,9 +250,11 @@ class RAVO_API Machine {
                                                                         std::uint16_t id) const = 0;
   /// Loads a module of resources; null where that fails.
   [[nodiscard]] virtual ModuleHandle LoadResources(std::u16string_view file) const = 0;
+  /// Gives up what `LoadResources` loaded; nothing for null.
   virtual void UnloadResources(ModuleHandle module) const = 0;
 
   // Components. On Windows the calling thread has initialised the component runtime for itself.
+  /// An object of a class on this computer.
   [[nodiscard]] virtual ComponentAnswer CreateComponent(const Guid& class_id) const = 0;
   /// On the computer of that name.
   [[nodiscard]] virtual ComponentAnswer CreateRemoteComponent(const Guid& class_id,
@@ -237,6 +263,7 @@ class RAVO_API Machine {
   /// the platform's code.
   [[nodiscard]] virtual ResultCode OfferComponent(const Guid& class_id, ComponentFactory factory,
                                                   std::uint32_t& registration) const = 0;
+  /// Takes back the offer of that number.
   virtual void RevokeComponent(std::uint32_t registration) const = 0;
   /// The platform's words for one of its codes.
   [[nodiscard]] virtual std::u16string ComponentErrorText(ResultCode code) const = 0;
@@ -251,6 +278,7 @@ class RAVO_API Machine {
 /// Puts a machine in force for as long as this object lives. For tests; not for several threads at once.
 class RAVO_API ScopedMachine {
  public:
+  /// `machine` must outlive this object.
   explicit ScopedMachine(const Machine& machine) noexcept;
   ScopedMachine(const ScopedMachine&) = delete;
   ScopedMachine& operator=(const ScopedMachine&) = delete;

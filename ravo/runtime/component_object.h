@@ -20,6 +20,8 @@ class ComponentObject : public Interface {
   ComponentObject& operator=(const ComponentObject&) = delete;
   virtual ~ComponentObject() = default;
 
+  /// `Interface` and the platform's interfaces below it; `kNullPointer` where there is no place for the
+  /// result.
   ResultCode RAVO_STDCALL QueryInterface(const Guid& interface_id, void** object) noexcept override {
     if (!object) return result_code::kNullPointer;
     *object = Supports(interface_id) ? static_cast<Interface*>(this) : nullptr;
@@ -28,8 +30,10 @@ class ComponentObject : public Interface {
     return result_code::kOk;
   }
 
+  /// One reference more; answers how many there are.
   std::uint32_t RAVO_STDCALL AddRef() noexcept override { return ++references_; }
 
+  /// One reference less; the object ends with the last. Answers how many are left.
   std::uint32_t RAVO_STDCALL Release() noexcept override {
     const std::uint32_t left = --references_;
     if (left == 0) delete this;
@@ -51,17 +55,20 @@ class ComponentObject : public Interface {
 template <class Interface>
 class DispatchObject : public ComponentObject<Interface> {
  public:
+  /// There is no type information: the count is 0.
   ResultCode RAVO_STDCALL GetTypeInfoCount(std::uint32_t* count) noexcept override {
     if (!count) return result_code::kNullPointer;
     *count = 0;
     return result_code::kOk;
   }
 
+  /// There is no type information: `kBadIndex`.
   ResultCode RAVO_STDCALL GetTypeInfo(std::uint32_t, std::uint32_t, void** type_info) noexcept override {
     if (type_info) *type_info = nullptr;
     return result_code::kBadIndex;
   }
 
+  /// There are no names: `kUnknownName`, and -1 for each identifier.
   ResultCode RAVO_STDCALL GetIDsOfNames(const Guid&, char16_t**, std::uint32_t count, std::uint32_t,
                                         std::int32_t* ids) noexcept override {
     for (std::uint32_t i = 0; ids && i < count; ++i) ids[i] = -1;

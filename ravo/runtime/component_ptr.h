@@ -17,6 +17,7 @@ template <class Interface>
 class ComponentPtr {
  public:
   ComponentPtr() noexcept = default;
+  /// None.
   ComponentPtr(std::nullptr_t) noexcept {}  // NOLINT(google-explicit-constructor)
 
   /// Adds a reference of its own.
@@ -24,14 +25,18 @@ class ComponentPtr {
     if (object_) object_->AddRef();
   }
 
+  /// A reference more to the same object.
   ComponentPtr(const ComponentPtr& other) noexcept : ComponentPtr(other.object_) {}
+  /// Takes the reference over; `other` is null then.
   ComponentPtr(ComponentPtr&& other) noexcept : object_(std::exchange(other.object_, nullptr)) {}
 
+  /// Takes over a reference to an interface below this one.
   template <class Derived>
   requires std::convertible_to<Derived*, Interface*> ComponentPtr(ComponentPtr<Derived> other)
   noexcept  // NOLINT(google-explicit-constructor)
       : object_(other.Detach()) {}
 
+  /// Releases its own reference and takes the other.
   ComponentPtr& operator=(ComponentPtr other) noexcept {
     std::swap(object_, other.object_);
     return *this;
@@ -51,9 +56,13 @@ class ComponentPtr {
   /// Hands the reference over to the caller.
   [[nodiscard]] Interface* Detach() noexcept { return std::exchange(object_, nullptr); }
 
+  /// The object, without a reference of its own; null for none.
   [[nodiscard]] Interface* Get() const noexcept { return object_; }
+  /// The object; not for null.
   Interface* operator->() const noexcept { return object_; }
+  /// The object; not for null.
   Interface& operator*() const noexcept { return *object_; }
+  /// Whether there is an object.
   explicit operator bool() const noexcept { return object_ != nullptr; }
 
   /// Another interface of the object; raises `ComponentError` where the object does not support it. `Other`
@@ -74,6 +83,7 @@ class ComponentPtr {
     return Ask<Other>(code);
   }
 
+  /// Whether both are the same interface of the same object, or both null.
   friend bool operator==(const ComponentPtr& left, const ComponentPtr& right) noexcept {
     return left.object_ == right.object_;
   }

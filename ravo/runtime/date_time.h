@@ -12,24 +12,25 @@ using DateTime = double;
 
 /// A calendar date. `month` is 1 to 12, `day` 1 to 31.
 struct DateParts {
-  int year = 0;
-  int month = 0;
-  int day = 0;
+  int year = 0;   ///< 1 to 9999
+  int month = 0;  ///< 1 to 12
+  int day = 0;    ///< 1 to 31
   friend bool operator==(const DateParts&, const DateParts&) = default;
 };
 
 /// A time of day.
 struct TimeParts {
-  int hour = 0;
-  int minute = 0;
-  int second = 0;
-  int millisecond = 0;
+  int hour = 0;         ///< 0 to 23
+  int minute = 0;       ///< 0 to 59
+  int second = 0;       ///< 0 to 59
+  int millisecond = 0;  ///< 0 to 999
   friend bool operator==(const TimeParts&, const TimeParts&) = default;
 };
 
+/// A date and a time of day.
 struct DateTimeParts {
-  DateParts date;
-  TimeParts time;
+  DateParts date;  ///< the day
+  TimeParts time;  ///< the time of that day
   friend bool operator==(const DateTimeParts&, const DateTimeParts&) = default;
 };
 

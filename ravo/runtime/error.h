@@ -13,12 +13,15 @@ namespace ravo {
 /// the same text in UTF-8.
 class RAVO_API Error : public std::exception {
  public:
+  /// The message, which may be empty.
   explicit Error(std::u16string_view message);
   Error(const Error&) = default;
   Error& operator=(const Error&) = default;
   ~Error() override;
 
+  /// What happened, for people.
   [[nodiscard]] const std::u16string& Message() const noexcept { return message_; }
+  /// The same in UTF-8.
   [[nodiscard]] const char* what() const noexcept override { return utf8_.c_str(); }
 
  private:
@@ -67,9 +70,11 @@ enum class StreamOperation : std::uint8_t { Open, Read, Write };
 /// A stream could not be opened, or moved fewer bytes than a checked operation asked for.
 class RAVO_API StreamError : public Error {
  public:
+  /// What failed, and the message.
   StreamError(StreamOperation operation, std::u16string_view message);
   ~StreamError() override;
 
+  /// What the stream was asked to do.
   [[nodiscard]] StreamOperation Operation() const noexcept { return operation_; }
 
  private:
@@ -86,9 +91,11 @@ class RAVO_API VariantError : public Error {
 /// The component runtime refused; `Code` is the platform's own code.
 class RAVO_API ComponentError : public Error {
  public:
+  /// The platform's code, and the message.
   ComponentError(std::int32_t code, std::u16string_view message);
   ~ComponentError() override;
 
+  /// The platform's code.
   [[nodiscard]] std::int32_t Code() const noexcept { return code_; }
 
  private:

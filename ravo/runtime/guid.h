@@ -42,6 +42,7 @@ constexpr std::optional<std::array<std::uint8_t, 16>> GuidBytes(std::basic_strin
 /// A 128-bit identifier, 16 bytes in memory order: the first group and the two after it are little-endian
 /// numbers, the last two groups are bytes as written.
 struct RAVO_API Guid {
+  /// In memory order.
   std::array<std::uint8_t, 16> bytes{};
 
   Guid() = default;

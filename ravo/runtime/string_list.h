@@ -13,15 +13,21 @@ namespace ravo {
 /// An ordered list of lines that also reads lines of the form name=value by their name.
 class RAVO_API StringList {
  public:
+  /// A new last line.
   void Add(std::u16string line) { lines_.push_back(std::move(line)); }
+  /// Removes all lines.
   void Clear() noexcept { lines_.clear(); }
+  /// How many lines there are.
   [[nodiscard]] std::size_t Count() const noexcept { return lines_.size(); }
+  /// Whether there is no line.
   [[nodiscard]] bool Empty() const noexcept { return lines_.empty(); }
 
   /// The line at a 0-based index; `RangeError` beyond the end.
   [[nodiscard]] const std::u16string& At(std::size_t index) const;
 
+  /// The first line, for loops.
   [[nodiscard]] auto begin() const noexcept { return lines_.begin(); }
+  /// Behind the last line.
   [[nodiscard]] auto end() const noexcept { return lines_.end(); }
 
   /// Every line followed by carriage return and line feed, the last one too.

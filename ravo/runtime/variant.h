@@ -14,6 +14,7 @@
 
 namespace ravo {
 
+/// A growable array of bytes, indexed from 0.
 using ByteArray = std::vector<std::uint8_t>;
 
 /// No value was ever assigned.
@@ -28,32 +29,48 @@ struct NullValue {
 
 /// A date-time inside a variant, so that it is told apart from a plain float.
 struct DateValue {
-  DateTime value = 0;
+  DateTime value = 0;  ///< the date-time itself
   friend bool operator==(const DateValue&, const DateValue&) = default;
 };
 
 /// A tagged value: empty, null, integer, float, currency, date, text, boolean or bytes.
 class RAVO_API Variant {
  public:
+  /// What a variant may hold, one kind at a time.
   using Value = std::variant<EmptyValue, NullValue, std::int32_t, std::int64_t, double, Currency, DateValue,
                              std::u16string, bool, ByteArray>;
 
   Variant() noexcept = default;
+  /// Null.
   Variant(NullValue) noexcept : value_(NullValue{}) {}
+  /// An integer of 32 bits.
   Variant(std::int32_t value) noexcept : value_(value) {}
+  /// An integer of 64 bits.
   Variant(std::int64_t value) noexcept : value_(value) {}
+  /// A floating-point number.
   Variant(double value) noexcept : value_(value) {}
+  /// An amount.
   Variant(Currency value) noexcept : value_(value) {}
+  /// A date-time.
   Variant(DateValue value) noexcept : value_(value) {}
+  /// A boolean.
   Variant(bool value) noexcept : value_(value) {}
+  /// A text.
   Variant(std::u16string value) noexcept : value_(std::move(value)) {}
+  /// A copy of a text.
   Variant(std::u16string_view value) : value_(std::u16string(value)) {}
+  /// A copy of a text ended by a zero; not for null.
   Variant(const char16_t* value) : value_(std::u16string(value)) {}
+  /// Bytes.
   Variant(ByteArray value) noexcept : value_(std::move(value)) {}
 
+  /// The value with its kind.
   [[nodiscard]] const Value& Get() const noexcept { return value_; }
+  /// Whether no value was ever assigned.
   [[nodiscard]] bool IsEmpty() const noexcept { return std::holds_alternative<EmptyValue>(value_); }
+  /// Whether it is SQL's null.
   [[nodiscard]] bool IsNull() const noexcept { return std::holds_alternative<NullValue>(value_); }
+  /// Whether it is either.
   [[nodiscard]] bool IsEmptyOrNull() const noexcept { return IsEmpty() || IsNull(); }
 
   friend bool operator==(const Variant&, const Variant&) = default;

@@ -6,8 +6,8 @@ namespace ravo {
 
 /// An unsigned 128-bit number in two halves.
 struct Wide128 {
-  std::uint64_t high = 0;
-  std::uint64_t low = 0;
+  std::uint64_t high = 0;  ///< the upper 64 bits
+  std::uint64_t low = 0;   ///< the lower 64 bits
 };
 
 /// The whole product of two 64-bit numbers.

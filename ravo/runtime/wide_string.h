@@ -19,8 +19,11 @@ class RAVO_API WideString {
   /// memory.
   explicit WideString(std::u16string_view text);
 
+  /// A copy in memory of its own. `std::bad_alloc` without memory.
   WideString(const WideString& other) : WideString(other.View()) {}
+  /// Takes the text over; `other` is empty then.
   WideString(WideString&& other) noexcept : text_(std::exchange(other.text_, nullptr)) {}
+  /// Copies or takes over, as its argument was made.
   WideString& operator=(WideString other) noexcept {
     std::swap(text_, other.text_);
     return *this;
@@ -35,8 +38,10 @@ class RAVO_API WideString {
 
   /// UTF-16 units.
   [[nodiscard]] std::size_t Length() const noexcept;
+  /// The text; the view lasts as long as the object keeps it.
   [[nodiscard]] std::u16string_view View() const noexcept { return {text_ ? text_ : u"", Length()}; }
 
+  /// Whether the texts are equal.
   friend bool operator==(const WideString& left, const WideString& right) noexcept {
     return left.View() == right.View();
   }
@@ -48,7 +53,9 @@ class RAVO_API WideString {
 /// The allocator behind `WideString`. The platform provides it; `AllocateWideText` answers null without
 /// memory.
 [[nodiscard]] char16_t* AllocateWideText(const char16_t* text, std::size_t units) noexcept;
+/// UTF-16 units of a platform's text; 0 for null.
 [[nodiscard]] std::size_t WideTextLength(const char16_t* text) noexcept;
+/// Frees a platform's text; nothing for null.
 void FreeWideText(char16_t* text) noexcept;
 
 }  // namespace ravo

@@ -9,14 +9,14 @@
 /// occur in the report.
 namespace ravo::RavoInterfaceInfo {
 
-#define RAVO_STRING(name, id, text) inline constexpr ResourceString name{id, u##text};
+#define RAVO_STRING(name, id, text) /** #text */ inline constexpr ResourceString name{id, u##text};
 #include <ravo/sysinfo/captions.inc>
 #undef RAVO_STRING
 
 /// A caption under the name that it is exported by.
 struct NamedReportCaption {
-  std::string_view name;
-  ResourceString caption;
+  std::string_view name;   ///< "_rRootClient"
+  ResourceString caption;  ///< the caption
 };
 
 /// All captions of the report, in the order of their identifiers' blocks.

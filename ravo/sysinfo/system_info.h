@@ -56,6 +56,7 @@ class RAVO_API TRavoSystemInfo {
   /// current folder. Empty where the file or the text is missing, or the text has only one character.
   [[nodiscard]] std::u16string FileVersion(std::u16string_view AFileName) const;
 
+  /// The kind of operating system, as worked out on construction.
   [[nodiscard]] TOSVersion OSVersion() const noexcept { return OSVersion_; }
 
  private:

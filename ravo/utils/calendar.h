@@ -12,7 +12,9 @@
 /// 32 bits raises `OverflowError`.
 namespace ravo::DIUtils {
 
+/// A day, by its Julian Day Number.
 using TJulianDate = std::int32_t;
+/// Where a day is kept.
 using PJulianDate = TJulianDate*;
 
 // Conversion.
@@ -25,7 +27,9 @@ using PJulianDate = TJulianDate*;
 /// gives a negative month or day (far before); the parts are then as they were.
 RAVO_API void JulianDateToYmd(TJulianDate date, std::int32_t& year, std::uint16_t& month, std::uint16_t& day);
 
+/// The day of the month, 1 to 31.
 [[nodiscard]] RAVO_API std::uint16_t DayOfJulianDate(TJulianDate date);
+/// The month, 1 to 12.
 [[nodiscard]] RAVO_API std::uint16_t MonthOfJulianDate(TJulianDate date);
 /// The year of a date.
 [[nodiscard]] RAVO_API std::int32_t YearOfJuilanDate(TJulianDate date);
@@ -36,6 +40,7 @@ RAVO_API void JulianDateToYmd(TJulianDate date, std::int32_t& year, std::uint16_
 [[nodiscard]] RAVO_API std::string YmdToIsoDateA(std::int32_t year, std::uint16_t month, std::uint16_t day);
 [[nodiscard]] RAVO_API std::u16string YmdToIsoDateW(std::int32_t year, std::uint16_t month,
                                                     std::uint16_t day);
+/// The compact form of a day, as a number or as text. `RangeError` where it is negative.
 [[nodiscard]] RAVO_API std::uint32_t JulianDateToIsoDate(TJulianDate date);
 [[nodiscard]] RAVO_API std::string JulianDateToIsoDateA(TJulianDate date);
 [[nodiscard]] RAVO_API std::u16string JulianDateToIsoDateW(TJulianDate date);
@@ -43,6 +48,7 @@ RAVO_API void JulianDateToYmd(TJulianDate date, std::int32_t& year, std::uint16_
 /// The three parts of a compact date as they stand, whether there is such a day or not.
 RAVO_API void ISODateToYmd(std::uint32_t iso_date, std::int32_t& year, std::uint16_t& month,
                            std::uint16_t& day) noexcept;
+/// The day that a compact date names; a day beyond its month counts on.
 [[nodiscard]] RAVO_API TJulianDate ISODateToJulianDate(std::uint32_t iso_date);
 
 // Weeks.
@@ -77,6 +83,7 @@ RAVO_API void LastDayOfWeekYmd(std::int32_t& year, std::uint16_t& month, std::ui
 [[nodiscard]] RAVO_API std::uint16_t DaysInMonthYm(std::int32_t year, std::uint16_t month);
 [[nodiscard]] RAVO_API std::uint16_t DaysInMonth(TJulianDate date);
 
+/// The first and the last day of a day's month.
 [[nodiscard]] RAVO_API TJulianDate FirstDayOfMonth(TJulianDate date);
 [[nodiscard]] RAVO_API TJulianDate LastDayOfMonth(TJulianDate date);
 /// Always 1.
@@ -110,10 +117,13 @@ RAVO_API void EasterSundayYmd(std::int32_t year, std::uint16_t& month, std::uint
 
 /// From the local date of the system's clock.
 [[nodiscard]] RAVO_API std::uint16_t CurrentDay();
+/// The month, 1 to 12.
 [[nodiscard]] RAVO_API std::uint16_t CurrentMonth();
+/// The year.
 [[nodiscard]] RAVO_API std::int32_t CurrentYear();
 /// 1 to 4.
 [[nodiscard]] RAVO_API std::uint16_t CurrentQuarter();
+/// Today.
 [[nodiscard]] RAVO_API TJulianDate CurrentJulianDate();
 
 }  // namespace ravo::DIUtils

@@ -14,12 +14,16 @@ namespace ravo::DIUtils {
 /// The register behind the bytes, not complemented.
 [[nodiscard]] RAVO_API std::uint32_t UpdateCrc32OfBuf(std::uint32_t crc, const void* bytes,
                                                       std::size_t count) noexcept;
+/// The same for 8-bit text.
 [[nodiscard]] RAVO_API std::uint32_t UpdateCrc32OfStrA(std::uint32_t crc, std::string_view text) noexcept;
+/// The same for the little-endian bytes of UTF-16 text.
 [[nodiscard]] RAVO_API std::uint32_t UpdateCrc32OfStrW(std::uint32_t crc, std::u16string_view text);
 
 /// The checksum: 0 for none, 0xCBF43926 for the bytes of "123456789".
 [[nodiscard]] RAVO_API std::uint32_t Crc32OfBuf(const void* bytes, std::size_t count) noexcept;
+/// The checksum of 8-bit text.
 [[nodiscard]] RAVO_API std::uint32_t Crc32OfStrA(std::string_view text) noexcept;
+/// The checksum of the little-endian bytes of UTF-16 text.
 [[nodiscard]] RAVO_API std::uint32_t Crc32OfStrW(std::u16string_view text);
 
 }  // namespace ravo::DIUtils

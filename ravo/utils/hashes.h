@@ -23,6 +23,7 @@ namespace ravo::DIUtils {
 [[nodiscard]] RAVO_API std::uint32_t HashBufIW(const char16_t* units, std::size_t count,
                                                std::uint32_t initial) noexcept;
 
+/// Of the bytes of 8-bit text.
 [[nodiscard]] RAVO_API std::uint32_t HashStrA(std::string_view text, std::uint32_t initial) noexcept;
 /// Of the little-endian bytes. `OverflowError` or `RangeError` from 2^30 units on.
 [[nodiscard]] RAVO_API std::uint32_t HashStrW(std::u16string_view text, std::uint32_t initial);

@@ -10,31 +10,39 @@ namespace ravo::DIUtils {
 /// How many bits are set.
 [[nodiscard]] RAVO_API std::uint32_t CountBitsSet(std::uint32_t value) noexcept;
 
-/// The index of the highest or lowest set bit; 0xFFFFFFFF for 0.
+/// The index of the highest set bit; 0xFFFFFFFF for 0.
 [[nodiscard]] RAVO_API std::uint32_t LeftMostBit(std::uint32_t value) noexcept;
+/// The index of the lowest set bit; 0xFFFFFFFF for 0.
 [[nodiscard]] RAVO_API std::uint32_t RightMostBit(std::uint32_t value) noexcept;
 
-/// `value` with one bit set, cleared, or made what `set` says.
+/// `value` with one bit set.
 [[nodiscard]] RAVO_API std::uint32_t BitSet(std::uint32_t value, std::uint32_t bit) noexcept;
+/// `value` with one bit cleared.
 [[nodiscard]] RAVO_API std::uint32_t BitClear(std::uint32_t value, std::uint32_t bit) noexcept;
+/// `value` with one bit made what `set` says.
 [[nodiscard]] RAVO_API std::uint32_t BitSetTo(std::uint32_t value, std::uint32_t bit, bool set) noexcept;
+/// Whether a bit is set.
 [[nodiscard]] RAVO_API bool BitTest(std::uint32_t value, std::uint32_t bit) noexcept;
 
 /// The greatest common divisor: a for (a, 0), 0 for (0, 0).
 [[nodiscard]] RAVO_API std::uint32_t GCD(std::uint32_t a, std::uint32_t b) noexcept;
 
+/// The smallest of two or three.
 [[nodiscard]] RAVO_API std::int32_t Min(std::int32_t a, std::int32_t b) noexcept;
 [[nodiscard]] RAVO_API std::uint32_t Min(std::uint32_t a, std::uint32_t b) noexcept;
 [[nodiscard]] RAVO_API std::int64_t Min(std::int64_t a, std::int64_t b) noexcept;
 [[nodiscard]] RAVO_API std::uint32_t Min(std::uint32_t a, std::uint32_t b, std::uint32_t c) noexcept;
 [[nodiscard]] RAVO_API std::int64_t Min(std::int64_t a, std::int64_t b, std::int64_t c) noexcept;
+/// The smallest of three.
 [[nodiscard]] RAVO_API std::int32_t Min3(std::int32_t a, std::int32_t b, std::int32_t c) noexcept;
 
+/// The largest of two or three.
 [[nodiscard]] RAVO_API std::int32_t Max(std::int32_t a, std::int32_t b) noexcept;
 [[nodiscard]] RAVO_API std::uint32_t Max(std::uint32_t a, std::uint32_t b) noexcept;
 [[nodiscard]] RAVO_API std::int64_t Max(std::int64_t a, std::int64_t b) noexcept;
 [[nodiscard]] RAVO_API std::uint32_t Max(std::uint32_t a, std::uint32_t b, std::uint32_t c) noexcept;
 [[nodiscard]] RAVO_API std::int64_t Max(std::int64_t a, std::int64_t b, std::int64_t c) noexcept;
+/// The largest of three.
 [[nodiscard]] RAVO_API std::int32_t Max3(std::int32_t a, std::int32_t b, std::int32_t c) noexcept;
 
 }  // namespace ravo::DIUtils

@@ -22,6 +22,7 @@ class RAVO_API TMT19937 {
   explicit TMT19937(std::span<const std::uint32_t> keys) { init_by_array(keys); }
   explicit TMT19937(std::string_view seed) { init_by_StrA(seed); }
 
+  /// Seeds by one number.
   void init_genrand(std::uint32_t seed) noexcept;
 
   /// `RangeError` for no keys at all; the state is then as it was.
@@ -48,10 +49,13 @@ class RAVO_API TMT19937 {
   /// up to that one are gone.
   [[nodiscard]] std::int64_t genrand_int64();
 
-  /// [0, 1], [0, 1) and (0, 1) in steps of 2^-32, and [0, 1) in steps of 2^-53.
+  /// [0, 1] in steps of 1 / (2^32 - 1).
   [[nodiscard]] double genrand_real1() noexcept { return genrand_int32() / 4294967295.0; }
+  /// [0, 1) in steps of 2^-32.
   [[nodiscard]] double genrand_real2() noexcept { return genrand_int32() / 4294967296.0; }
+  /// (0, 1) in steps of 2^-32.
   [[nodiscard]] double genrand_real3() noexcept { return (genrand_int32() + 0.5) / 4294967296.0; }
+  /// [0, 1) in steps of 2^-53, from two draws.
   [[nodiscard]] double genrand_res53() noexcept;
 
  private:

@@ -20,6 +20,7 @@ class RAVO_API TWideStrBuf {
   TWideStrBuf& operator=(const TWideStrBuf&) = delete;
   ~TWideStrBuf();
 
+  /// One unit more.
   void AddChar(char16_t unit) {
     if (position_ == end_) GrowBuffer(1);
     *position_++ = unit;
@@ -31,6 +32,7 @@ class RAVO_API TWideStrBuf {
     if (Free() <= text.size()) GrowBuffer(text.size());
     Append(text.data(), text.size());
   }
+  /// The same with a platform's text.
   void AddStr(const WideString& text) { AddStr(text.View()); }
 
   /// As `AddStr`; nothing for a null pointer.
@@ -59,7 +61,9 @@ class RAVO_API TWideStrBuf {
   [[nodiscard]] std::uint32_t GetCount() const noexcept {
     return static_cast<std::uint32_t>(position_ - start_);
   }
+  /// Whether there is no unit.
   [[nodiscard]] bool IsEmpty() const noexcept { return position_ == start_; }
+  /// Whether there are units.
   [[nodiscard]] bool IsNotEmpty() const noexcept { return position_ > start_; }
 
   /// A copy of the content. `RangeError` from 2^31 units on.

@@ -1,7 +1,9 @@
 #!/usr/bin/env python3
 """Who may include whom: rooms, circles, the operating system's names, and what public headers pull in."""
 
+import pathlib
 import re
+import sys
 
 from source_tree import code_files, includes, main, read, without_comments
 
@@ -10,23 +12,30 @@ PUBLIC = "ravo/*.h"
 HOST_HEADER = "ravo/package.h"
 CHARACTERS = "ravo/unicode/characters"
 EXPORT_HEADER = "ravo/runtime/export.h"
+# Rows of messages that a lower room raises too.
+UTILS_MESSAGES = "ravo/utils/messages.inc"
 # Parts of a room that have arrows of their own and no row in the document.
-PARTS = {HOST_HEADER, CHARACTERS, EXPORT_HEADER}
+PARTS = {HOST_HEADER, CHARACTERS, EXPORT_HEADER, UTILS_MESSAGES}
 # What a room may use beside what its row in the document says.
-UNSAID = {"ravo/unicode": {"unicode/characters"}, "ravo/runtime": {"runtime/export.h"}}
+UNSAID = {
+    "ravo/unicode": {"unicode/characters"},
+    "ravo/runtime": {"runtime/export.h"},
+    "ravo/utils": {"utils/messages.inc"},
+}
 
 # The arrows. docs/architecture.md shows the same table to people; check_document holds the two together.
 MAY_USE = {
     PUBLIC: ANYTHING,
     HOST_HEADER: {"runtime", "frame"},
     EXPORT_HEADER: set(),
+    UTILS_MESSAGES: set(),
     "ravo/runtime": {"runtime/export.h"},
     "ravo/platform": {"runtime"},
     "ravo/frame": {"runtime", "platform", "package.h"},
     "ravo/catalogue": {"runtime", "platform", "frame"},
-    "ravo/unicode": {"runtime", "platform", "frame", "unicode/characters"},
+    "ravo/unicode": {"runtime", "platform", "frame", "unicode/characters", "utils/messages.inc"},
     CHARACTERS: {"runtime/export.h"},
-    "ravo/utils": {"runtime", "platform", "frame", "unicode/characters"},
+    "ravo/utils": {"runtime", "platform", "frame", "unicode/characters", "utils/messages.inc"},
     "ravo/common": {"runtime", "platform", "frame", "catalogue", "utils"},
     "ravo/sysinfo": {"runtime", "platform", "frame", "common"},
     "ravo/xml": {"runtime", "platform", "frame"},
@@ -47,7 +56,7 @@ C_STANDARD = {"stddef.h", "stdint.h"}
 
 def room_of(name):
     """The room of a file, named by its path from the root; None outside every room."""
-    if name in (HOST_HEADER, EXPORT_HEADER):
+    if name in (HOST_HEADER, EXPORT_HEADER, UTILS_MESSAGES):
         return name
     if re.fullmatch(r"ravo/[^/]+\.h", name):
         return PUBLIC
@@ -129,15 +138,20 @@ def check_system_names(root):
                 yield f"{name}:{number}: <{header}> belongs to ravo/platform alone"
 
 
-def check_public_headers(root, graph):
-    """Nothing that a public header reaches may include a system header."""
+def public_files(graph):
+    """What a program can reach from the public face, in a fixed order."""
     reached, waiting = set(), [name for name in graph if room_of(name) in (PUBLIC, HOST_HEADER)]
     while waiting:
         name = waiting.pop()
         if name not in reached:
             reached.add(name)
             waiting += [target for _, target in graph.get(name, [])]
-    for name in sorted(reached):
+    return sorted(reached)
+
+
+def check_public_headers(root, graph):
+    """Nothing that a public header reaches may include a system header."""
+    for name in public_files(graph):
         for line, quote, header in includes(root / name):
             standard = header in C_STANDARD or re.fullmatch(r"[a-z0-9_]+", header)
             if not target_of(root, root / name, quote, header) and not standard:
@@ -226,6 +240,8 @@ PLANTINGS = [
     ("a room unknown", _tree({"ravo/attic/a.h": ""}), "stands in no room"),
     ("characters from utils", _tree({"ravo/unicode/characters.h": "", "ravo/utils/u.h": "#include <ravo/unicode/characters.h>\n"}), None),
     ("reader from utils", _tree({"ravo/unicode/reader.h": "", "ravo/utils/u.h": "#include <ravo/unicode/reader.h>\n"}), "ravo/utils may not"),
+    ("messages of utils in unicode", _tree({"ravo/utils/messages.inc": "", "ravo/unicode/r.h": "#include <ravo/utils/messages.inc>\n"}), None),
+    ("utils in unicode", _tree({"ravo/utils/u.h": "", "ravo/unicode/r.h": "#include <ravo/utils/u.h>\n"}), "ravo/unicode may not"),
     ("characters using runtime", _tree({"ravo/unicode/characters.h": "#include <ravo/runtime/a.h>\n"}), "characters may not"),
     ("characters that are exported", _tree({"ravo/runtime/export.h": "", "ravo/unicode/characters.h": "#include <ravo/runtime/export.h>\n"}), None),
     (
@@ -249,4 +265,8 @@ PLANTINGS = [
 ]
 
 if __name__ == "__main__":
-    main(check, PLANTINGS)
+    if sys.argv[1:] == ["--public"]:
+        root = pathlib.Path(__file__).resolve().parents[2]
+        print("\n".join(name for name in public_files(include_graph(root)) if name.endswith(".h")))
+    else:
+        main(check, PLANTINGS)

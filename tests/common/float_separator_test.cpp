@@ -40,6 +40,12 @@ TEST_F(StrToFloat, TakesTheGivenSeparator) {
   EXPECT_EQ(StrToFloat_(u"1,5", u'.'), 1.5);
 }
 
+// The mantissa is full before it is rounded up.
+TEST_F(StrToFloat, RoundsUpToAPowerOfTwo) {
+  EXPECT_EQ(StrToFloat_(u"18446744073709551615.6", u'.'), Extended{18446744073709551616.0});
+  EXPECT_EQ(StrToFloat_(u"0.9999999999999999999999", u'.'), 1);
+}
+
 TEST_F(StrToFloat, OtherTextsRaise) {
   for (const std::u16string_view text : {u"", u".", u"1.5.2", u"1.5,2", u"abc", u"1.5x"}) {
     EXPECT_THROW(static_cast<void>(StrToFloat_(text, u'.')), ConvertError) << testing::PrintToString(text);

@@ -1,5 +1,6 @@
 #include "support/float_environment.h"
 #include "support/plain_rounding.h"
+#include "support/tried.h"
 #include <ravo/common/rounding.h>
 #include <ravo/common/rounding_reference.h>
 
@@ -209,7 +210,8 @@ std::uint64_t FromEnvironment(const char* name, std::uint64_t otherwise) {
 TEST(RoundValue, EqualsTheProcessorsExtendedArithmetic) {
   if constexpr (!test::plain::kHasExtended) GTEST_SKIP() << "no 80-bit type";
   AmountSource source(FromEnvironment("RAVO_ROUNDING_SEED", 3));
-  for (std::uint64_t rows = FromEnvironment("RAVO_ROUNDING_ROWS", 1'000'000); rows > 0; --rows) {
+  const std::uint64_t all = FromEnvironment("RAVO_ROUNDING_ROWS", 1'000'000);
+  for (std::uint64_t rows = all; rows > 0; --rows) {
     const Currency value{source.Amount()};
     const TRoundType type = source.Type();
     const int decimals = rows % 3 == 0 ? source.Decimals(-6, 15) : source.Decimals(0, 4);
@@ -221,12 +223,14 @@ TEST(RoundValue, EqualsTheProcessorsExtendedArithmetic) {
     ASSERT_EQ(Attempt([&] { return RoundValue(value, type, small); }), expected) << trace();
     ASSERT_EQ(Attempt([&] { return RoundValueReference(value, type, small); }), expected) << trace();
   }
+  test::Tried("amounts", static_cast<std::int64_t>(all));
 }
 
 TEST(RoundValueFloat, EqualsTheProcessorsExtendedArithmetic) {
   if constexpr (!test::plain::kHasExtended) GTEST_SKIP() << "no 80-bit type";
   AmountSource source(FromEnvironment("RAVO_ROUNDING_SEED", 4));
-  for (std::uint64_t rows = FromEnvironment("RAVO_ROUNDING_ROWS", 1'000'000); rows > 0; --rows) {
+  const std::uint64_t all = FromEnvironment("RAVO_ROUNDING_ROWS", 1'000'000);
+  for (std::uint64_t rows = all; rows > 0; --rows) {
     const double value = source.Float();
     const TRoundType type = source.Type();
     const int decimals = rows % 3 == 0 ? source.Decimals(-25, 27) : source.Decimals(-1, 6);
@@ -235,12 +239,15 @@ TEST(RoundValueFloat, EqualsTheProcessorsExtendedArithmetic) {
         Attempt([&] { return RoundValueFloat(value, type, static_cast<std::int8_t>(decimals)); });
     ASSERT_EQ(Bits(result), Bits(expected)) << value << " type " << int(type) << " decimals " << decimals;
   }
+  test::Tried("amounts", static_cast<std::int64_t>(all));
 }
 
 TEST(RoundDPH, EqualsTheProcessorsExtendedArithmetic) {
   if constexpr (!test::plain::kHasExtended) GTEST_SKIP() << "no 80-bit type";
   AmountSource source(5);
-  for (int rows = 0; rows < 300'000; ++rows) {
+  constexpr int kRows = 300'000;
+  test::Tried("amounts", kRows);
+  for (int rows = 0; rows < kRows; ++rows) {
     const Currency value{source.Amount()};
     const char16_t kind = u"HDPNMh"[rows % 6];
     ASSERT_EQ(Attempt([&] { return RoundDPH(value, kind); }),

@@ -6,7 +6,7 @@
 
 #include <algorithm>
 #include <array>
-#include <set>
+#include <span>
 #include <string>
 #include <type_traits>
 
@@ -180,12 +180,37 @@ TEST(TypeLibraryRows, AreThree) {
   EXPECT_EQ(ToUtf8(rows[2].identifier.ToText()), "{A823255B-9316-4AAB-89B7-01D520F12983}");
 }
 
+constexpr Guid kAllIdentifiers[] = {
+#define RAVO_TYPE_LIBRARY(library, identifier) library##_TLB::LIBID_##library,
+#define RAVO_HOST_INTERFACE(library, name, base, identifier, operations) library##_TLB::IID_##name,
+#define RAVO_HOST_CLASS(library, name, returned, identifier) library##_TLB::CLASS_##name,
+#include <ravo/hostapi/interfaces.inc>
+};
+
+// Proved by the compiler, so that no program with two equal identifiers can be built.
+constexpr bool AllDifferent(std::span<const Guid> identifiers) {
+  for (std::size_t i = 0; i < identifiers.size(); ++i) {
+    if (std::ranges::count(identifiers, identifiers[i]) != 1) return false;
+  }
+  return true;
+}
+constexpr Guid kTwoEqual[] = {kAllIdentifiers[0], kAllIdentifiers[1], kAllIdentifiers[0]};
+static_assert(AllDifferent(kAllIdentifiers));
+static_assert(!AllDifferent(kTwoEqual));
+static_assert(std::ranges::all_of(kDeclared, [](const Declared& declared) {
+  return declared.identifier == declared.constant && declared.twin_identifier == declared.constant &&
+         sizeof(declared.constant) == 16;
+}));
+static_assert(RavoManager_TLB::IRavoFirmEvents::kOwnOperations == 0);
+
 TEST(Identifiers, OfLibrariesInterfacesAndClassesAreAllDifferent) {
-  std::set<Guid> all;
-  for (const auto& row : TypeLibraryRows()) all.insert(row.identifier);
-  for (const auto& row : HostInterfaceRows()) all.insert(row.identifier);
-  for (const auto& row : HostClassRows()) all.insert(row.identifier);
-  EXPECT_EQ(all.size(), 3U + 59U + 10U);
+  EXPECT_EQ(std::size(kAllIdentifiers), 3U + 59U + 10U);
+  const auto is_listed = [](const auto& row) {
+    return std::ranges::count(kAllIdentifiers, row.identifier) == 1;
+  };
+  EXPECT_TRUE(std::ranges::all_of(TypeLibraryRows(), is_listed));
+  EXPECT_TRUE(std::ranges::all_of(HostInterfaceRows(), is_listed));
+  EXPECT_TRUE(std::ranges::all_of(HostClassRows(), is_listed));
 }
 
 // Each of the four collections of the profile adds five operations.

@@ -68,5 +68,23 @@ TEST(CodePage, WhatItLacksBecomesAQuestionMark) {
   EXPECT_EQ(CurrentMachine().ToCodePage(u"a\u4E2Db"), "a?b");
 }
 
+TEST(CodePages, OfTheSystemAreKnownByNumber) {
+  const Machine& machine = CurrentMachine();
+  EXPECT_EQ(machine.DecodeCodePage(1250, "\xE8\xF8").value_or(u""), u"\x10D\x159");
+  EXPECT_EQ(machine.EncodeCodePage(1250, u"\x10D\x159").value_or(""), "\xE8\xF8");
+  EXPECT_EQ(machine.DecodeCodePage(65001, "\xC4\x8D").value_or(u""), u"\x10D");
+  EXPECT_EQ(machine.EncodeCodePage(65001, u"\x10D").value_or(""), "\xC4\x8D");
+  EXPECT_EQ(machine.DecodeCodePage(1250, "").value_or(u"x"), u"");
+  EXPECT_FALSE(machine.DecodeCodePage(4711, "a"));
+  EXPECT_FALSE(machine.EncodeCodePage(4711, u"a"));
+}
+
+TEST(CodePages, OfALocaleWhereTheSystemKnowsIt) {
+  constexpr std::uint32_t czech = 0x0405;
+  constexpr std::uint32_t nonsense = 0xFFFFF;
+  EXPECT_EQ(CurrentMachine().CodePageOfLocale(czech).value_or(1250), 1250u);
+  EXPECT_FALSE(CurrentMachine().CodePageOfLocale(nonsense));
+}
+
 }  // namespace
 }  // namespace ravo::platform

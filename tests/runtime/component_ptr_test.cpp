@@ -1,3 +1,4 @@
+#include <ravo/runtime/component_factory.h>
 #include <ravo/runtime/component_object.h>
 #include <ravo/runtime/error.h>
 
@@ -165,11 +166,30 @@ TEST(DispatchObject, HasNeitherTypeInformationNorNames) {
   void* information = &count;
   EXPECT_EQ(object->GetTypeInfo(0, 0, &information), result_code::kBadIndex);
   EXPECT_EQ(information, nullptr);
+  EXPECT_EQ(object->GetTypeInfo(0, 0, nullptr), result_code::kBadIndex);
   char16_t name[] = u"Name";
   char16_t* names[] = {name};
   std::int32_t id = 7;
   EXPECT_EQ(object->GetIDsOfNames(Guid(), names, 1, 0, &id), result_code::kUnknownName);
   EXPECT_EQ(id, -1);
+  EXPECT_EQ(object->GetIDsOfNames(Guid(), names, 1, 0, nullptr), result_code::kUnknownName);
+}
+
+TEST(ComponentPtr, TakesANullPointerAsNone) {
+  LateObject* const none = nullptr;
+  const ComponentPtr<LateObject> pointer(none);
+  EXPECT_FALSE(pointer);
+}
+
+// A factory that raises the code of a success has made nothing all the same.
+TEST(MakeInstance, ASuccessThatIsRaisedIsAFailure) {
+  ComponentPtr<IUnknown> instance;
+  const auto raise = [](ResultCode code) {
+    return [code]() -> ComponentPtr<IUnknown> { throw ComponentError(code, u"no"); };
+  };
+  EXPECT_EQ(MakeInstance(raise(result_code::kOk), instance), result_code::kServerFailed);
+  EXPECT_EQ(MakeInstance(raise(result_code::kNoAggregation), instance), result_code::kNoAggregation);
+  EXPECT_FALSE(instance);
 }
 
 }  // namespace

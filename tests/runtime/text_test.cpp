@@ -14,6 +14,7 @@ TEST(Text, Utf8RoundTrip) {
       {u"", ""},
       {u"Kč", "K\xC4\x8D"},
       {u"\u20AC", "\xE2\x82\xAC"},
+      {u"\u0800", "\xE0\xA0\x80"},
       {u"\U0001F600", "\xF0\x9F\x98\x80"},
       {std::u16string_view(u"a\0b", 3), std::string_view("a\0b", 3)},
   };
@@ -31,6 +32,7 @@ TEST(Text, IllFormedUtf8BecomesReplacementCharacters) {
   constexpr Row rows[] = {
       {"\x80", u"\uFFFD"},                                // a trail byte alone
       {"\xC0\xAF", u"\uFFFD\uFFFD"},                      // overlong
+      {"\xE0\x9F\xBF", u"\uFFFD\uFFFD\uFFFD"},            // overlong
       {"\xE2\x82", u"\uFFFD"},                            // cut short
       {"\xE2\x82z", u"\uFFFDz"},                          // broken off by a letter
       {"\xED\xA0\x80", u"\uFFFD\uFFFD\uFFFD"},            // a surrogate

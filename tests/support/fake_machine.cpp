@@ -148,9 +148,43 @@ DateTime FakeMachine::Now() const {
   return clock[std::min(next_reading_++, clock.size() - 1)];
 }
 
-std::u16string FakeMachine::FromCodePage(std::string_view bytes) const { return FromWindows1250(bytes); }
+std::u16string FakeMachine::FromCodePage(std::string_view bytes) const {
+  std::u16string text = FromWindows1250(bytes);
+  for (std::size_t i = 0; i < bytes.size(); ++i) {
+    if (const auto other = other_bytes.find(bytes[i]); other != other_bytes.end()) text[i] = other->second;
+  }
+  return text;
+}
 
-std::string FakeMachine::ToCodePage(std::u16string_view text) const { return ToWindows1250(text); }
+std::string FakeMachine::ToCodePage(std::u16string_view text) const {
+  std::string bytes = ToWindows1250(text);
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (other_bytes.contains(bytes[i])) bytes[i] = '?';
+    for (const auto& [byte, unit] : other_bytes) {
+      // The character that has a byte of its own in Windows-1250 keeps it.
+      if (unit == text[i] && bytes[i] == '?') bytes[i] = byte;
+    }
+  }
+  return bytes;
+}
+
+bool FakeMachine::SameText(std::u16string_view left, std::u16string_view right) const {
+  return SameAsciiText(left, right);
+}
+
+std::optional<std::u16string> FakeMachine::DecodeCodePage(std::uint32_t wanted,
+                                                          std::string_view bytes) const {
+  return wanted == code_page ? std::optional(FromCodePage(bytes)) : std::nullopt;
+}
+
+std::optional<std::string> FakeMachine::EncodeCodePage(std::uint32_t wanted, std::u16string_view text) const {
+  return wanted == code_page ? std::optional(ToCodePage(text)) : std::nullopt;
+}
+
+std::optional<std::uint32_t> FakeMachine::CodePageOfLocale(std::uint32_t wanted) const {
+  const auto found = locale_code_pages.find(wanted);
+  return found == locale_code_pages.end() ? std::nullopt : std::optional(found->second);
+}
 
 std::optional<std::u16string_view> FakeMachine::ResourceText(platform::ModuleHandle module,
                                                              std::uint16_t id) const {

@@ -50,7 +50,7 @@ struct FakeDrive {
 
 /// A machine whose every answer is a plain member. As it stands it knows nothing at all: an unknown system
 /// without drives, files, registry, names and folders.
-class FakeMachine final : public platform::Machine {
+class FakeMachine : public platform::Machine {
  public:
   platform::SystemVersion version;
   bool is_server_r2 = false;
@@ -84,6 +84,10 @@ class FakeMachine final : public platform::Machine {
   /// Each `Now` takes the next reading; the last one repeats. The day zero where there is none.
   std::vector<DateTime> clock;
   std::uint32_t code_page = 1250;
+  /// Bytes that are other characters than in Windows-1250.
+  std::map<char, char16_t> other_bytes;
+  /// The code pages of locales.
+  std::map<std::uint32_t, std::uint32_t> locale_code_pages;
 
   std::map<platform::ModuleHandle, std::map<std::uint16_t, std::u16string>> resource_texts;
   /// What loading a file of resources gives.
@@ -134,6 +138,12 @@ class FakeMachine final : public platform::Machine {
   [[nodiscard]] std::uint32_t CodePage() const override { return code_page; }
   [[nodiscard]] std::u16string FromCodePage(std::string_view bytes) const override;
   [[nodiscard]] std::string ToCodePage(std::u16string_view text) const override;
+  [[nodiscard]] bool SameText(std::u16string_view left, std::u16string_view right) const override;
+  [[nodiscard]] std::optional<std::u16string> DecodeCodePage(std::uint32_t code_page,
+                                                             std::string_view bytes) const override;
+  [[nodiscard]] std::optional<std::string> EncodeCodePage(std::uint32_t code_page,
+                                                          std::u16string_view text) const override;
+  [[nodiscard]] std::optional<std::uint32_t> CodePageOfLocale(std::uint32_t locale) const override;
   void DebugOutput(std::u16string_view text) const override { debug_output.emplace_back(text); }
   [[nodiscard]] std::optional<std::u16string_view> ResourceText(platform::ModuleHandle module,
                                                                 std::uint16_t id) const override;

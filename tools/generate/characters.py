@@ -157,13 +157,18 @@ def leaf(cluster, low, high):
     return f"return Within(c, 0x{start:04X}, 0x{end:04X});"
 
 
+def weight(low, high):
+    """How often a code unit from `low` to `high` is asked about: all alike, but half of all text is Latin."""
+    latin = max(0, min(high, LATIN_END - 1) - low + 1)
+    return high - low + 1 + latin * (UNITS // LATIN_END)
+
+
 def branch(clusters, low, high, indent):
     if len(clusters) == 1:
         return [indent + leaf(clusters[0], low, high)]
-    half = len(clusters) // 2
-    latin = sum(cluster[0][0] < LATIN_END for cluster in clusters)
-    if low == 0 and 0 < latin < len(clusters):
-        half = latin
+    # The comparison that leaves equal weights on both sides, so that what is asked often is answered soon.
+    half = min(range(1, len(clusters)), key=lambda at: abs(
+        weight(low, clusters[at][0][0] - 1) - weight(clusters[at][0][0], high)))
     middle = clusters[half][0][0]
     lower = branch(clusters[:half], low, middle - 1, indent + "  ")
     upper = branch(clusters[half:], middle, high, indent)
@@ -209,11 +214,12 @@ def numbers(values, width, per_line):
 def render_table(name, entries, block_size, entry_type, figures):
     first, blocks = two_stages(entries, block_size)
     width = 2 if entry_type == "std::uint8_t" else 4
-    figures.append((f"k{name}", len(first), block_size, len(blocks), len(first) + len(blocks) * block_size * width // 2))
-    flat = [entry for block in blocks for entry in block]
+    figures.append((f"k{name}", len(first), block_size, len(blocks), len(first) + (len(blocks) + 1) * block_size * width // 2))
+    # A block of defaults stands in front for block number 0, so that a look-up needs no branch.
+    flat = [0] * block_size + [entry for block in blocks for entry in block]
     return [
         f"const std::uint8_t k{name}Blocks[{len(first)}] = {{", *numbers(first, 2, 18), "};",
-        f"const {entry_type} k{name}Entries[{len(blocks)} * {block_size}] = {{", *numbers(flat, width, 14), "};",
+        f"const {entry_type} k{name}Entries[{len(blocks) + 1} * {block_size}] = {{", *numbers(flat, width, 14), "};",
     ]
 
 
@@ -285,7 +291,8 @@ def document(data, functions, tables, pools):
         "| function | code units | ranges | leaves |", "|---|---|---|---|",
         *[f"| `{name}` | {units} | {ranges} | {leaves} |" for name, units, ranges, leaves in functions], "",
         "## Two-stage tables", "",
-        "A block number of 0 in the first stage, or an entry of 0, means the default answer.", "",
+        "A block number of 0 in the first stage, or an entry of 0, means the default answer. Block 0, all zeros, is not counted",
+        "but stands in front of the others, so that a look-up needs no branch.", "",
         "| table | first stage [bytes] | block size | blocks | bytes in all |", "|---|---|---|---|---|",
         *[f"| `{name}` | {first} | {size} | {blocks} | {total} |" for name, first, size, blocks, total in tables], "",
         "## Sequence pools", "",

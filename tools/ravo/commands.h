@@ -16,8 +16,17 @@ void AddRoundCommand(CLI::App& program, Outcome& outcome);
 void AddDateCommand(CLI::App& program, Outcome& outcome);
 void AddHashCommand(CLI::App& program, Outcome& outcome);
 void AddRandomCommand(CLI::App& program, Outcome& outcome);
+void AddCharCommand(CLI::App& program, Outcome& outcome);
+void AddSortCommand(CLI::App& program, Outcome& outcome);
+void AddMatchCommand(CLI::App& program, Outcome& outcome);
+void AddUrlCommand(CLI::App& program, Outcome& outcome);
 void AddAddressCommand(CLI::App& program, Outcome& outcome);
 void AddBackupNameCommand(CLI::App& program, Outcome& outcome);
 void AddInterfacesCommand(CLI::App& program, Outcome& outcome);
+void AddXmlCommand(CLI::App& program, Outcome& outcome);
+void AddFormCommand(CLI::App& program, Outcome& outcome);
+void AddEncodingsCommand(CLI::App& program, Outcome& outcome);
+void AddConvertCommand(CLI::App& program, Outcome& outcome);
+void AddTourCommand(CLI::App& program, Outcome& outcome);
 
 }  // namespace tool

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,7 +18,14 @@ enum class Channel { Out, Err };
 /// False where not all of it could be written.
 [[nodiscard]] bool Write(Channel channel, std::string_view utf8);
 
+/// Reads bytes of standard input as they stand; gives how many, 0 at the end. Raises `std::runtime_error`
+/// where it cannot be read.
+[[nodiscard]] std::size_t ReadInput(std::span<std::byte> to);
+
 /// Whether somebody reads the channel on a terminal.
 [[nodiscard]] bool IsTerminal(Channel channel);
+
+/// Whether that terminal shows colours.
+[[nodiscard]] bool ShowsColours(Channel channel);
 
 }  // namespace tool

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cwchar>
+#include <stdexcept>
 
 // The second header needs the first.
 // clang-format off
@@ -73,9 +74,26 @@ bool Write(Channel channel, std::string_view utf8) {
   return GetConsoleMode(handle, &mode) ? WriteToConsole(handle, ToWide(utf8)) : WriteBytes(handle, utf8);
 }
 
+// The end of a pipe is an error for the system.
+std::size_t ReadInput(std::span<std::byte> to) {
+  DWORD count = 0;
+  const HANDLE input = GetStdHandle(STD_INPUT_HANDLE);
+  const auto most = static_cast<DWORD>(std::min<std::size_t>(to.size(), 1 << 20));
+  if (ReadFile(input, to.data(), most, &count, nullptr) || GetLastError() == ERROR_BROKEN_PIPE) return count;
+  throw std::runtime_error("standard input cannot be read");
+}
+
 bool IsTerminal(Channel channel) {
   DWORD mode = 0;
   return GetConsoleMode(HandleOf(channel), &mode) != 0;
+}
+
+// A console reads colour codes only where it is told to; old ones cannot.
+bool ShowsColours(Channel channel) {
+  constexpr DWORD kReadCodes = 0x0004;
+  DWORD mode = 0;
+  const HANDLE console = HandleOf(channel);
+  return GetConsoleMode(console, &mode) && SetConsoleMode(console, mode | kReadCodes);
 }
 
 }  // namespace tool

@@ -1,7 +1,5 @@
 #include "text_file.h"
 
-#include <filesystem>
-#include <fstream>
 #include <random>
 #include <system_error>
 
@@ -23,13 +21,6 @@ fs::path Beside(const fs::path& target) {
   return name;
 }
 
-bool WriteBytes(const fs::path& path, std::string_view bytes) {
-  std::ofstream file(path, std::ios::binary | std::ios::trunc);
-  file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  file.close();
-  return !file.fail();
-}
-
 // The file that is meant: through a symbolic link, so that the link stays one.
 fs::path Meant(const fs::path& path) {
   std::error_code error;
@@ -37,46 +28,46 @@ fs::path Meant(const fs::path& path) {
   return error ? path : meant;
 }
 
-// Removes the file beside the target unless it took the target's name.
-class Draft {
- public:
-  explicit Draft(const fs::path& target) : path_(Beside(target)), target_(target) {}
-  Draft(const Draft&) = delete;
-  Draft& operator=(const Draft&) = delete;
-  ~Draft() {
-    std::error_code ignored;
-    fs::remove(path_, ignored);
-  }
-
-  [[nodiscard]] bool Write(std::string_view bytes) const { return WriteBytes(path_, bytes); }
-
-  [[nodiscard]] bool Publish() const {
-    std::error_code error;
-    const fs::file_status before = fs::status(target_, error);
-    if (fs::exists(before)) fs::permissions(path_, before.permissions(), error);
-    fs::rename(path_, target_, error);
-    return !error;
-  }
-
- private:
-  fs::path path_;
-  fs::path target_;
-};
-
-bool Put(const fs::path& path, const fs::file_status& status, std::string_view bytes) {
-  if (fs::is_other(status)) return WriteBytes(path, bytes);
-  const Draft draft(path);
-  return draft.Write(bytes) && draft.Publish();
-}
-
 }  // namespace
 
-std::string WriteTextFile(const std::string& name, std::string_view bytes) {
-  const fs::path path = Meant(PathOf(name));
+WholeFile::WholeFile(const std::string& name) : target_(Meant(PathOf(name))) {
   std::error_code error;
-  const fs::file_status status = fs::status(path, error);
-  if (fs::is_directory(status)) return "is a folder";
-  return Put(path, status, bytes) ? "" : "cannot be written";
+  const fs::file_status status = fs::status(target_, error);
+  is_folder_ = fs::is_directory(status);
+  if (!fs::is_other(status)) draft_ = Beside(target_);
+  if (!is_folder_) file_.open(draft_.empty() ? target_ : draft_, std::ios::binary | std::ios::trunc);
+}
+
+// The file beside the target is there unless it took the target's name.
+WholeFile::~WholeFile() {
+  file_.close();
+  std::error_code ignored;
+  if (!draft_.empty()) fs::remove(draft_, ignored);
+}
+
+bool WholeFile::Write(std::string_view bytes) {
+  return !file_.write(bytes.data(), static_cast<std::streamsize>(bytes.size())).fail();
+}
+
+bool WholeFile::Publish() const {
+  std::error_code error;
+  const fs::file_status before = fs::status(target_, error);
+  if (fs::exists(before)) fs::permissions(draft_, before.permissions(), error);
+  fs::rename(draft_, target_, error);
+  return !error;
+}
+
+std::string WholeFile::Finish() {
+  if (is_folder_) return "is a folder";
+  file_.close();
+  const bool written = !file_.fail();
+  return written && (draft_.empty() || Publish()) ? "" : "cannot be written";
+}
+
+std::string WriteTextFile(const std::string& name, std::string_view bytes) {
+  WholeFile file(name);
+  file.Write(bytes);
+  return file.Finish();
 }
 
 }  // namespace tool

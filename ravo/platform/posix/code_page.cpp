@@ -1,13 +1,18 @@
 #include <ravo/platform/posix/posix_machine.h>
+#include <ravo/runtime/text.h>
 
 #include <algorithm>
 #include <array>
 #include <iterator>
 
+#include <locale.h>
+#include <wctype.h>
+
 namespace ravo::platform::posix {
 namespace {
 
 constexpr std::uint32_t kWindows1250 = 1250;
+constexpr std::uint32_t kUtf8 = 65001;
 constexpr std::size_t kAscii = 0x80;
 
 constexpr std::uint16_t kUpperHalf[] = {
@@ -52,6 +57,31 @@ std::string PosixMachine::ToCodePage(std::u16string_view text) const {
   std::string bytes(text.size(), '\0');
   std::ranges::transform(text, bytes.begin(), ByteOf);
   return bytes;
+}
+
+// Case belongs to characters here, not to languages.
+bool PosixMachine::SameText(std::u16string_view left, std::u16string_view right) const {
+  static const locale_t characters = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
+  const auto folded = [](char16_t unit) {
+    if (unit < kAscii || characters == nullptr) return AsciiLower(unit);
+    return static_cast<char16_t>(towlower_l(unit, characters));
+  };
+  return std::ranges::equal(left, right, {}, folded, folded);
+}
+
+// Of the locales, the C library knows no code pages, and no numbers either.
+std::optional<std::uint32_t> PosixMachine::CodePageOfLocale(std::uint32_t) const { return {}; }
+
+std::optional<std::u16string> PosixMachine::DecodeCodePage(std::uint32_t code_page,
+                                                           std::string_view bytes) const {
+  if (code_page == kUtf8) return FromUtf8(bytes);
+  return code_page == kWindows1250 ? std::optional(FromCodePage(bytes)) : std::nullopt;
+}
+
+std::optional<std::string> PosixMachine::EncodeCodePage(std::uint32_t code_page,
+                                                        std::u16string_view text) const {
+  if (code_page == kUtf8) return ToUtf8(text);
+  return code_page == kWindows1250 ? std::optional(ToCodePage(text)) : std::nullopt;
 }
 
 }  // namespace ravo::platform::posix

@@ -49,6 +49,12 @@ class PosixMachine final : public Machine {
   [[nodiscard]] std::u16string FromCodePage(std::string_view bytes) const override;
   /// Each code unit that the code page lacks becomes "?".
   [[nodiscard]] std::string ToCodePage(std::u16string_view text) const override;
+  [[nodiscard]] bool SameText(std::u16string_view left, std::u16string_view right) const override;
+  [[nodiscard]] std::optional<std::u16string> DecodeCodePage(std::uint32_t code_page,
+                                                             std::string_view bytes) const override;
+  [[nodiscard]] std::optional<std::string> EncodeCodePage(std::uint32_t code_page,
+                                                          std::u16string_view text) const override;
+  [[nodiscard]] std::optional<std::uint32_t> CodePageOfLocale(std::uint32_t locale) const override;
 
   /// Linux has no channel to a debugger: nothing happens.
   void DebugOutput(std::u16string_view) const override {}

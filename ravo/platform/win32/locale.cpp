@@ -1,6 +1,7 @@
 #include <ravo/platform/win32/wide.h>
 #include <ravo/platform/win32/win32_machine.h>
 #include <ravo/platform/windows_pattern.h>
+#include <ravo/runtime/checked.h>
 
 #include <array>
 
@@ -43,6 +44,12 @@ FormatSettings Win32Machine::Locale() const {
   settings.pm_text = Fact(LOCALE_S2359);
   ReadDayAndMonthNames(settings);
   return settings;
+}
+
+bool Win32Machine::SameText(std::u16string_view left, std::u16string_view right) const {
+  const auto wide = [](std::u16string_view text) { return reinterpret_cast<const wchar_t*>(text.data()); };
+  return CompareStringW(LOCALE_USER_DEFAULT, NORM_IGNORECASE, wide(left), CheckedCast<int>(left.size()),
+                        wide(right), CheckedCast<int>(right.size())) == CSTR_EQUAL;
 }
 
 }  // namespace ravo::platform

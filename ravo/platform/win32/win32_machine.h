@@ -40,6 +40,12 @@ class Win32Machine final : public Machine {
   [[nodiscard]] std::uint32_t CodePage() const override;
   [[nodiscard]] std::u16string FromCodePage(std::string_view bytes) const override;
   [[nodiscard]] std::string ToCodePage(std::u16string_view text) const override;
+  [[nodiscard]] bool SameText(std::u16string_view left, std::u16string_view right) const override;
+  [[nodiscard]] std::optional<std::u16string> DecodeCodePage(std::uint32_t code_page,
+                                                             std::string_view bytes) const override;
+  [[nodiscard]] std::optional<std::string> EncodeCodePage(std::uint32_t code_page,
+                                                          std::u16string_view text) const override;
+  [[nodiscard]] std::optional<std::uint32_t> CodePageOfLocale(std::uint32_t locale) const override;
 
   void DebugOutput(std::u16string_view text) const override;
 

@@ -13,14 +13,12 @@ extern const char16_t kUpperEntries[];
 extern const std::uint8_t kLowerBlocks[];
 extern const char16_t kLowerEntries[];
 
-/// The entry of `c`, or `fallback` where its block or its entry is 0.
+/// The entry of `c`, or `fallback` where that is 0. Block 0 stands in front of the others and holds zeros.
 template <unsigned block_bits, class Entry, class Default>
 [[nodiscard]] inline Default LookUp(const std::uint8_t* blocks, const Entry* entries, char16_t c,
                                     Default fallback) noexcept {
   constexpr unsigned size = 1U << block_bits;
-  const unsigned block = blocks[c >> block_bits];
-  if (block == 0) return fallback;
-  const Entry entry = entries[(block - 1) * size + (c & (size - 1))];
+  const Entry entry = entries[blocks[c >> block_bits] * size + (c & (size - 1))];
   return entry != 0 ? entry : fallback;
 }
 

@@ -10,7 +10,9 @@ namespace ravo::DIUnicode {
 
 /// What two units have in common that differ in case alone. "A" and "a" give "a".
 [[nodiscard]] RAVO_API char16_t CharToCaseFoldW(char16_t c) noexcept;
+/// The upper case.
 [[nodiscard]] RAVO_API char16_t CharToUpperW(char16_t c) noexcept;
+/// The lower case.
 [[nodiscard]] RAVO_API char16_t CharToLowerW(char16_t c) noexcept;
 /// The form of a first letter: the upper case, but U+01C5 for U+01C4 to U+01C6 and the like.
 [[nodiscard]] RAVO_API char16_t CharToTitleW(char16_t c) noexcept;

@@ -71,6 +71,12 @@ TEST(ParseMounts, TakesEscapesOutAndSkipsBrokenLines) {
   EXPECT_EQ(mounts[1].type, "z");
 }
 
+TEST(ParseMounts, OnlyOctalDigitsAreEscapes) {
+  const auto mounts = ParseMounts("/dev/x /a\\/11\\181\\:11b type\n");
+  ASSERT_EQ(mounts.size(), 1u);
+  EXPECT_EQ(mounts[0].folder, "/a\\/11\\181\\:11b");
+}
+
 TEST(DriveLetterOf, IsALetterBeforeAColon) {
   EXPECT_EQ(DriveLetterOf(u"c:"), u'C');
   EXPECT_EQ(DriveLetterOf(u"Z:\\x"), u'Z');

@@ -68,6 +68,17 @@ TEST(PosixMachineFolder, TheScratchFolderEndsInADelimiter) {
   }
 }
 
+// Without the variable the account's own folder is meant.
+TEST(PosixMachineFolder, DocumentsForEveryoneWithoutAVariable) {
+  const PosixMachine machine;
+  const ScopedEnvironment no_public("XDG_PUBLICSHARE_DIR", nullptr);
+  const test::ScratchFolder folder;
+  folder.Write("user-dirs.dirs", "XDG_PUBLICSHARE_DIR=\"$HOME/Public\"\n");
+  const ScopedEnvironment configuration("XDG_CONFIG_HOME", folder.Path().c_str());
+  const ScopedEnvironment no_home("HOME", nullptr);
+  EXPECT_TRUE(machine.Folder(SystemFolder::CommonDocuments).ends_with(u"/Public"));
+}
+
 TEST(PosixMachineFolder, MoreThan259UnitsAreNone) {
   const PosixMachine machine;
   const std::string longest = "/" + std::string(257, 'x');

@@ -46,7 +46,7 @@ TEST(VersionFromRelease, TheRestIsCutAt127Units) {
 TEST(ArchitectureFromMachineName, KnowsTheNumberedOnes) {
   EXPECT_EQ(ArchitectureFromMachineName("x86_64"), 9);
   for (const char* name : {"i386", "i486", "i586", "i686"}) EXPECT_EQ(ArchitectureFromMachineName(name), 0);
-  for (const char* name : {"", "i286", "i786", "i6866", "aarch64", "x86_64x"}) {
+  for (const char* name : {"", "i286", "i786", "i687", "a686", "i6866", "aarch64", "x86_64x"}) {
     EXPECT_EQ(ArchitectureFromMachineName(name), 0xFFFF) << name;
   }
 }

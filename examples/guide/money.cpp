@@ -1,0 +1,30 @@
+// [include]
+#include <ravo/RavoInterface.h>
+#include <ravo/RavoInterfaceCommon.h>
+// [/include]
+
+#include <iostream>
+
+namespace {
+
+std::string Text(ravo::Currency amount) {
+  return ravo::ToUtf8(ravo::VariantToText(ravo::Variant(amount), ravo::FormatSettings()));
+}
+
+}  // namespace
+
+int main() {
+  using namespace ravo;
+  using namespace ravo::RavoInterfaceCommon;
+  // [round]
+  const Currency price{12'345'678};  // 1234.5678: an amount is a count of ten-thousandths
+  std::cout << Text(RoundValue(price, rtMath, 2)) << "\n";
+  std::cout << Text(RoundValue(price, rtUp, 0)) << "\n";
+  std::cout << Text(RoundValue(price, rtDown, -2)) << "\n";
+  // [/round]
+  // [vat]
+  for (const char16_t rule : {u'H', u'D', u'P', u'N', u'M'}) {
+    std::cout << static_cast<char>(rule) << " " << Text(RoundDPH(price, rule)) << "\n";
+  }
+  // [/vat]
+}

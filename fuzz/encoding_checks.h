@@ -1,0 +1,121 @@
+#pragma once
+
+#include <ravo/DIUnicode.h>
+#include <ravo/unicode/encodings/runs.h>
+
+#include <cstdlib>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// What holds for any bytes under any encoding. The fuzz targets of the engines share it.
+namespace ravo::fuzz {
+
+using Bytes = std::span<const std::uint8_t>;
+
+inline void Require(bool condition) {
+  if (!condition) std::abort();
+}
+
+/// A block of its own, so that a byte too many is found.
+inline std::unique_ptr<std::uint8_t[]> Copy(Bytes bytes) {
+  auto copy = std::make_unique<std::uint8_t[]>(bytes.size());
+  std::copy(bytes.begin(), bytes.end(), copy.get());
+  return copy;
+}
+
+inline std::u16string ReadRest(DIUnicode::TDIUnicodeReader& reader) {
+  std::u16string text;
+  while (reader.ReadChar()) text += reader.Char();
+  return text;
+}
+
+inline std::u16string Read(const DIUnicode::TDIUnicodeReadMethods& methods, Bytes bytes) {
+  const auto copy = Copy(bytes);
+  DIUnicode::TDIUnicodeReader reader;
+  reader.SetReadMethods(methods);
+  reader.SetSourceBuffer(Bytes(copy.get(), bytes.size()));
+  return ReadRest(reader);
+}
+
+/// Two sources, the second stacked below the first.
+inline std::u16string ReadInTwo(const DIUnicode::TDIUnicodeReadMethods& methods, Bytes bytes,
+                                std::size_t cut) {
+  const auto first = Copy(bytes.first(cut));
+  const auto second = Copy(bytes.subspan(cut));
+  DIUnicode::TDIUnicodeReader reader;
+  reader.SetReadMethods(methods);
+  reader.SetSourceBuffer(Bytes(second.get(), bytes.size() - cut));
+  reader.PushSource(false);
+  reader.SetSourceBuffer(Bytes(first.get(), cut));
+  return ReadRest(reader);
+}
+
+/// Whole runs into room of that many characters, single characters where they stop.
+inline std::u16string ReadByRuns(const DIUnicode::TDIUnicodeReadMethods& methods, Bytes bytes,
+                                 std::size_t room) {
+  const DIUnicode::DecodeRun decode = DIUnicode::DecodeRunOf(methods);
+  if (decode == nullptr) return Read(methods, bytes);
+  const auto copy = Copy(bytes);
+  const auto target = std::make_unique<char16_t[]>(room);
+  std::u16string text;
+  for (Bytes rest(copy.get(), bytes.size());;) {
+    const DIUnicode::Run run = decode(rest, std::span(target.get(), room));
+    Require(run.taken <= rest.size() && run.made <= room);
+    if (run.made == 0) return text + Read(methods, rest);
+    text.append(target.get(), run.made);
+    rest = rest.subspan(run.taken);
+  }
+}
+
+/// The bytes of those characters that the encoding has; `text` becomes these.
+inline std::vector<std::uint8_t> Write(const DIUnicode::TDIUnicodeWriteMethods& methods,
+                                       std::u16string& text) {
+  DIUnicode::TDIUnicodeWriter writer;
+  writer.SetWriteMethods(methods);
+  std::erase_if(text, [&writer](char16_t ch) { return !writer.TryWriteCharW(ch); });
+  writer.FlushDataBuffer();
+  return {writer.Data().begin(), writer.Data().end()};
+}
+
+/// Whole runs of encoding, a single character where they stop for want of room.
+inline void CheckEncodeRuns(const DIUnicode::EncodingRow& encoding, std::u16string_view text,
+                            Bytes expected) {
+  const DIUnicode::EncodeRun encode = DIUnicode::EncodeRunOf(*encoding.write);
+  if (encode == nullptr) return;
+  const auto target = std::make_unique<std::uint8_t[]>(expected.size());
+  const DIUnicode::Run run = encode(text, std::span(target.get(), expected.size()));
+  Require(run.made <= expected.size() && expected.size() - run.made < 8);
+  Require(std::equal(target.get(), target.get() + run.made, expected.begin()));
+}
+
+/// Reading ends, alike however the bytes come, with no more characters than bytes; what can be written of it
+/// is read again.
+inline void CheckEncoding(const DIUnicode::EncodingRow& encoding, Bytes bytes, std::size_t cut,
+                          std::size_t room) {
+  const DIUnicode::TDIUnicodeReadMethods& read =
+      encoding.read != nullptr ? *encoding.read : DIUnicode::Read_UTF_7;
+  const std::u16string text = Read(read, bytes);
+  Require(text.size() <= bytes.size());
+  Require(ReadInTwo(read, bytes, bytes.empty() ? 0 : cut % bytes.size()) == text);
+  Require(ReadByRuns(read, bytes, room % 257 + 1) == text);
+  if (encoding.write == nullptr) return;
+  std::u16string encodable = text;
+  const std::vector<std::uint8_t> written = Write(*encoding.write, encodable);
+  Require(Read(read, written) == encodable);
+  CheckEncodeRuns(encoding, encodable, written);
+}
+
+/// The first bytes choose one of the encodings whose engine begins so, the cut and the room.
+inline int CheckEngine(std::string_view engine, Bytes input) {
+  std::vector<const DIUnicode::EncodingRow*> encodings;
+  for (const DIUnicode::EncodingRow& row : DIUnicode::EncodingRows()) {
+    if (row.engine.starts_with(engine)) encodings.push_back(&row);
+  }
+  if (input.size() < 3) return 0;
+  CheckEncoding(*encodings[input[0] % encodings.size()], input.subspan(3), input[1], input[2]);
+  return 0;
+}
+
+}  // namespace ravo::fuzz

@@ -1,0 +1,69 @@
+# Three Debian packages: libravointerface1, libravointerface-dev and ravo. Which packages each needs is found in
+# the binaries; each has the licence and both changelogs in its own folder of documents.
+set(CPACK_GENERATOR DEB)
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
+set(CPACK_DEBIAN_PACKAGE_SOURCE ravointerface)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+# The program's own library is not installed where this is built.
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}/bin)
+set(CPACK_DEBIAN_ENABLE_COMPONENT_DEPENDS ON)
+set(ravo_debian_runtime libravointerface${PROJECT_VERSION_MAJOR})
+set(ravo_debian_development libravointerface-dev)
+set(ravo_debian_tool ravo)
+
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
+set(CPACK_DEBIAN_TOOL_PACKAGE_SECTION utils)
+set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "Table names, captions, accounting rules and the support report of a modular
+double-entry accounting suite for Czech businesses: the shared library.")
+set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "Headers, the static library, and the files by which CMake and pkg-config find
+the library.")
+set(CPACK_COMPONENT_TOOL_DESCRIPTION "The library at the prompt: looks tables and captions up, checks accounts and
+payment references, rounds money and writes the support report.")
+
+# The changelog of the packages: one entry, that of the release; its date is the build's.
+string(TIMESTAMP ravo_debian_date "%a, %d %b %Y %H:%M:%S +0000" UTC)
+file(CONFIGURE OUTPUT ${PROJECT_BINARY_DIR}/debian/changelog.Debian CONTENT
+"ravointerface (@PROJECT_VERSION@-1) unstable; urgency=medium
+
+  * Release @PROJECT_VERSION@; changelog.gz says what is in it.
+
+ -- @RAVO_MAINTAINER@  @ravo_debian_date@
+" @ONLY)
+
+# What debuggers need leaves the static library too; CPack sees to the other files.
+install(CODE "execute_process(COMMAND \"${CMAKE_STRIP}\" --strip-debug --enable-deterministic-archives
+  \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}/libRavoInterface.a\" COMMAND_ERROR_IS_FATAL ANY)"
+  COMPONENT development)
+
+# Documents are packed as small as gzip can, and without a time of their own.
+function(ravo_packed file packed)
+  add_custom_command(OUTPUT ${packed} COMMAND sh -c "gzip -9nc <\"$1\" >\"$2\"" gzip ${file} ${packed} DEPENDS ${file} VERBATIM)
+endfunction()
+set(folder ${PROJECT_BINARY_DIR}/debian)
+# Which package has the shared library, and that the linker's cache is made anew after its coming and going.
+file(WRITE ${folder}/shlibs
+  "libRavoInterface ${PROJECT_VERSION_MAJOR} ${ravo_debian_runtime} (>= ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})\n")
+file(WRITE ${folder}/triggers "activate-noawait ldconfig\n")
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${folder}/shlibs ${folder}/triggers)
+
+ravo_packed(${folder}/changelog.Debian ${folder}/changelog.Debian.gz)
+ravo_packed(${PROJECT_SOURCE_DIR}/CHANGELOG.md ${folder}/changelog.gz)
+ravo_packed(${PROJECT_BINARY_DIR}/pages/ravo.man ${folder}/ravo.1.gz)
+add_custom_target(ravo_packed_documents ALL
+  DEPENDS ${folder}/changelog.Debian.gz ${folder}/changelog.gz ${folder}/ravo.1.gz)
+add_dependencies(ravo_packed_documents ravo_all_pages)
+
+foreach(component ${CPACK_COMPONENTS_ALL})
+  string(TOUPPER ${component} upper)
+  set(CPACK_DEBIAN_${upper}_PACKAGE_NAME ${ravo_debian_${component}})
+  set(documents ${CMAKE_INSTALL_DATADIR}/doc/${ravo_debian_${component}})
+  install(FILES LICENSE DESTINATION ${documents} RENAME copyright COMPONENT ${component})
+  install(FILES ${folder}/changelog.Debian.gz ${folder}/changelog.gz DESTINATION ${documents} COMPONENT ${component})
+endforeach()
+file(GLOB pages ${PROJECT_SOURCE_DIR}/docs/*.md ${PROJECT_SOURCE_DIR}/docs/*.svg)
+install(FILES README.md ${pages} DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${ravo_debian_development} COMPONENT development)
+install(FILES ${folder}/ravo.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tool)

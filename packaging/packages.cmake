@@ -1,0 +1,28 @@
+# Documents that are installed, and what CPack makes of an installation: Debian packages (scripts/package builds
+# them with RAVO_DEBIAN) and archives for Windows.
+option(RAVO_DEBIAN "Lay documents out as Debian packages have them" OFF)
+set(RAVO_MAINTAINER "RavoInterface developers <developers@ravointerface.invalid>" CACHE STRING "Whom the packages name")
+
+set(CPACK_PACKAGE_NAME RavoInterface)
+set(CPACK_PACKAGE_VENDOR "RavoInterface developers")
+set(CPACK_PACKAGE_CONTACT "${RAVO_MAINTAINER}")
+set(CPACK_VERBATIM_VARIABLES ON)
+set(CPACK_COMPONENTS_ALL runtime development tool)
+set(CPACK_COMPONENT_DEVELOPMENT_DEPENDS runtime)
+set(CPACK_COMPONENT_TOOL_DEPENDS runtime)
+set(CPACK_STRIP_FILES ON)
+
+if(RAVO_DEBIAN)
+  include(packaging/debian.cmake)
+else()
+  file(GLOB pages ${PROJECT_SOURCE_DIR}/docs/*.md ${PROJECT_SOURCE_DIR}/docs/*.svg)
+  install(FILES LICENSE README.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT runtime)
+  install(FILES ${pages} DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs COMPONENT development)
+endif()
+if(WIN32)
+  set(CPACK_GENERATOR ZIP)
+  set(CPACK_SYSTEM_NAME windows-${RAVO_WINDOWS_BITS})
+endif()
+if(PROJECT_IS_TOP_LEVEL)
+  include(CPack)
+endif()

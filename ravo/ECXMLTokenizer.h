@@ -1,0 +1,4 @@
+#pragma once
+
+/// Cuts XML into coarse tokens.
+#include <ravo/xml/tokenizer.h>

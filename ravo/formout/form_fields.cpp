@@ -1,0 +1,64 @@
+#include <ravo/formout/form_fields.h>
+#include <ravo/platform/machine.h>
+#include <ravo/runtime/text.h>
+#include <ravo/unicode/encodings.h>
+#include <ravo/unicode/unicode_reader.h>
+#include <ravo/unicode/unicode_writer.h>
+
+#include <span>
+#include <string>
+
+namespace ravo::RavoFileCommon {
+namespace {
+
+constexpr char16_t kSmallCWithCaron = u'\u010D';
+
+std::string EightBit(std::u16string_view text) { return platform::CurrentMachine().ToCodePage(text); }
+
+void Write(ByteStream& stream, std::string_view bytes) {
+  stream.WriteChecked(std::as_bytes(std::span(bytes)));
+}
+
+void WriteByteOrderMark(DIUnicode::TDIUnicodeWriter& writer) { writer.WriteCharW(u'\uFEFF'); }
+
+// Kept: in a form only the byte 0D of č is escaped, because the suite's forms were always filled so.
+void WriteCharacter(DIUnicode::TDIUnicodeWriter& writer, char16_t ch) {
+  if (ch != kSmallCWithCaron) {
+    writer.WriteCharW(ch);
+    return;
+  }
+  for (const char byte : {'\x01', '\\', 'r'}) writer.WriteByte(static_cast<std::uint8_t>(byte));
+}
+
+// The bytes are read as Windows-1250, whatever the system's code page is.
+void WriteTextString(ByteStream& stream, std::string_view bytes) {
+  DIUnicode::TDIUnicodeReader reader(nullptr);
+  reader.SetReadMethods(DIUnicode::Read_Windows_1250);
+  reader.SetSourceBufferAsStrA(bytes);
+  DIUnicode::TDIUnicodeWriter writer(nullptr);
+  writer.SetWriteMethods(DIUnicode::Write_UTF_16_BE);
+  writer.SetDataStream(&stream);
+  WriteByteOrderMark(writer);
+  while (reader.ReadChar()) WriteCharacter(writer, reader.Char());
+  writer.FlushDataBuffer();
+}
+
+}  // namespace
+
+void Win1250ToPDFDocEncoding(ByteStream& stream, std::u16string_view text) {
+  WriteTextString(stream, EightBit(text));
+}
+
+void FillPDFField(ByteStream& stream, std::u16string_view name, std::u16string_view value, bool AsUnicode) {
+  const std::string start = "<</T(" + EightBit(name) + ")/V(";
+  if (!AsUnicode) return Write(stream, start + EightBit(value) + ")>>");
+  Write(stream, start);
+  WriteTextString(stream, EightBit(value));
+  Write(stream, ")>>");
+}
+
+void FillPDFFieldAsInteger(ByteStream& stream, std::u16string_view name, std::int32_t value) {
+  Write(stream, "<</T(" + EightBit(name) + ")/V/" + std::to_string(value) + ">>");
+}
+
+}  // namespace ravo::RavoFileCommon

@@ -1,0 +1,29 @@
+#include <ravo/formout/form_values.h>
+#include <ravo/runtime/date_text.h>
+
+#include <cmath>
+#include <string_view>
+
+namespace ravo::RavoFileCommon {
+namespace {
+
+// Patterns of numbers and literal signs, so no locale is asked. Without the time of day a moment before
+// midnight is not rounded into the next day.
+std::u16string DateText(std::u16string_view pattern, DateTime date) {
+  if (date == 0) return {};
+  return FormatDateTime(pattern, std::trunc(date), FormatSettings());
+}
+
+}  // namespace
+
+std::u16string Date2XML(DateTime date) { return DateText(u"yyyy-mm-dd", date); }
+
+std::u16string Date2PDF(DateTime date, bool WithoutYear, bool LeadingZeros) {
+  std::u16string pattern = LeadingZeros ? u"dd.mm." : u"d.m.";
+  if (!WithoutYear) pattern += u"yyyy";
+  return DateText(pattern, date);
+}
+
+std::u16string Bool2XML(bool value) { return value ? u"X" : u""; }
+
+}  // namespace ravo::RavoFileCommon

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <ravo/unicode/encodings/gb18030.h>
+#include <ravo/unicode/encodings/generated/single_byte_tables.h>
+#include <ravo/unicode/encodings/utf7.h>
+#include <ravo/unicode/encodings/utf8.h>
+#include <ravo/unicode/encodings/wide_units.h>
+
+/// The codec of every encoding, under its name: its engine over its table. A codec has `Decode` over a source
+/// of bytes, `Encode` over a target, or both; `kHasState` where it keeps something between characters.
+namespace ravo::DIUnicode::codecs {
+
+#define RAVO_CODEC_SingleByte(table) SingleByte<tables::k##table>
+#define RAVO_CODEC_Utf8(table) Utf8
+#define RAVO_CODEC_Utf16(table) Utf16<table>
+#define RAVO_CODEC_Ucs2(table) Ucs2<table>
+#define RAVO_CODEC_Utf32(table) Utf32<table>
+#define RAVO_CODEC_Ucs4(table) Ucs4<table>
+#define RAVO_CODEC_Utf7(table) Utf7
+#define RAVO_CODEC_Utf7Odc(table) Utf7Encoder<Utf7Direct::Optional>
+#define RAVO_CODEC_Gb18030(table) Gb18030
+
+#define RAVO_ENCODING(name, label, code_page, aliases, engine, ways, table, sources, notes) \
+  using name = RAVO_CODEC_##engine(table);
+#include <ravo/unicode/encodings/rows.inc>
+#undef RAVO_ENCODING
+
+#undef RAVO_CODEC_SingleByte
+#undef RAVO_CODEC_Utf8
+#undef RAVO_CODEC_Utf16
+#undef RAVO_CODEC_Ucs2
+#undef RAVO_CODEC_Utf32
+#undef RAVO_CODEC_Ucs4
+#undef RAVO_CODEC_Utf7
+#undef RAVO_CODEC_Utf7Odc
+#undef RAVO_CODEC_Gb18030
+
+template <class Codec>
+concept HasState = requires {
+  Codec::kHasState;
+};
+
+}  // namespace ravo::DIUnicode::codecs

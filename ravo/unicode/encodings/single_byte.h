@@ -1,0 +1,106 @@
+#pragma once
+
+#include <ravo/unicode/encodings/byte_spans.h>
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdint>
+
+/// The engine of the single-byte encodings: a table of 256 characters, and its reverse, made from it when
+/// the library is compiled.
+namespace ravo::DIUnicode {
+
+using ByteTable = std::array<char16_t, 256>;
+
+/// A table from characters to bytes. The first page is empty and stands for all pages without characters, the
+/// second is that of the characters below U+0100, the third that of the script. Where several bytes mean one
+/// character, the lowest stands for it.
+struct ReverseTable {
+  const std::uint16_t* page_of;  ///< by the upper byte of the character: where its page begins
+  const std::uint8_t* pages;     ///< 256 bytes each; 0 means none, but for the character 0
+  std::uint8_t script;           ///< the upper byte of most other characters; 0 where there are none
+
+  /// The byte of `ch`; 0 where there is none or the byte is 0, which is the byte of U+0000 in every table.
+  [[nodiscard]] constexpr std::uint8_t operator[](char16_t ch) const noexcept {
+    return pages[page_of[ch >> 8] + (ch & 0xFFU)];
+  }
+};
+
+template <const ByteTable& table>
+class Reversed {
+ public:
+  static constexpr ReverseTable Table() noexcept {
+    return {kStages.page_of.data(), kStages.pages.data(), Script()};
+  }
+
+ private:
+  static constexpr std::size_t CountPages() {
+    std::array<bool, 256> used{};
+    for (const char16_t ch : table) used[ch >> 8] = used[ch >> 8] || ch != kReplacement;
+    return static_cast<std::size_t>(std::count(used.begin(), used.end(), true));
+  }
+
+  static constexpr std::uint8_t Script() {
+    std::array<std::uint8_t, 256> counts{};
+    for (const char16_t ch : table) {
+      if (ch >= 0x100 && ch != kReplacement) ++counts[ch >> 8];
+    }
+    return static_cast<std::uint8_t>(std::max_element(counts.begin(), counts.end()) - counts.begin());
+  }
+
+  struct Stages {
+    std::array<std::uint16_t, 256> page_of{};
+    std::array<std::uint8_t, 256 * (CountPages() + 1)> pages{};
+  };
+
+  static constexpr Stages Make() {
+    Stages stages;
+    stages.page_of[0] = 256;
+    if (Script() != 0) stages.page_of[Script()] = 512;
+    std::uint16_t last = Script() != 0 ? 512 : 256;
+    for (std::size_t byte = 0; byte < table.size(); ++byte) {
+      const char16_t ch = table[byte];
+      if (ch == kReplacement) continue;
+      std::uint16_t& page = stages.page_of[ch >> 8];
+      if (page == 0) page = last = static_cast<std::uint16_t>(last + 256);
+      std::uint8_t& entry = stages.pages[page + (ch & 0xFFU)];
+      if (entry == 0) entry = static_cast<std::uint8_t>(byte);
+    }
+    return stages;
+  }
+
+  static constexpr Stages kStages = Make();
+};
+
+/// Whether the bytes below 80 are those of ASCII.
+constexpr bool HasAscii(const ByteTable& table) noexcept {
+  for (std::size_t byte = 0; byte < 0x80; ++byte) {
+    if (table[byte] != byte) return false;
+  }
+  return true;
+}
+
+template <const ByteTable& table>
+struct SingleByte {
+  static_assert(table[0] == 0, "byte 0 must be U+0000: it tells a byte from none");
+  static constexpr std::size_t kMostBytes = 1;
+
+  template <class Source>
+  static bool Decode(Source& source, char16_t& ch) {
+    std::uint8_t byte = 0;
+    if (!source.NextByte(byte)) return false;
+    ch = table[byte];
+    return true;
+  }
+
+  template <class Target>
+  static bool Encode(Target& target, char16_t ch) {
+    const std::uint8_t byte = Reversed<table>::Table()[ch];
+    if (byte == 0 && ch != 0) return false;
+    target.WriteByte(byte);
+    return true;
+  }
+};
+
+}  // namespace ravo::DIUnicode

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <ravo/runtime/checked.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <memory>
+
+/// How the arrays of reader and writer grow: by a quarter and four, a full array at a time.
+namespace ravo::unicode {
+
+/// What follows on a capacity once it is used up. `RangeError` where 32 bits cannot hold it.
+[[nodiscard]] constexpr std::uint32_t GrownCapacity(std::uint32_t full) {
+  return CheckedCast<std::uint32_t>((std::uint64_t{full} + full / 4 + 4) & ~std::uint64_t{3});
+}
+
+/// The capacity that an array has once `needed` units were stored one by one.
+[[nodiscard]] constexpr std::uint32_t CapacityFor(std::uint64_t needed, std::uint32_t capacity) {
+  while (capacity < needed) capacity = GrownCapacity(capacity);
+  return capacity;
+}
+
+/// Moves the first `used` units to a new array of that capacity, whose other units are zero.
+template <class Unit>
+void Reallocate(std::unique_ptr<Unit[]>& array, std::uint32_t used, std::uint32_t capacity) {
+  auto larger = std::make_unique_for_overwrite<Unit[]>(capacity);
+  std::copy_n(array.get(), used, larger.get());
+  std::fill_n(larger.get() + used, capacity - used, Unit{});
+  array = std::move(larger);
+}
+
+}  // namespace ravo::unicode

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <ravo/frame/resource_string.h>
+
+/// The messages of reader and writer. They are exported, so that callers recognise them in every language.
+namespace ravo::DIUnicode {
+
+#define RAVO_STRING(name, id, text) /** #text */ inline constexpr ResourceString name{id, u##text};
+#include <ravo/unicode/messages.inc>
+#undef RAVO_STRING
+
+}  // namespace ravo::DIUnicode

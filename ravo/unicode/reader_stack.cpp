@@ -1,0 +1,85 @@
+// Sources on top of each other, and how the bytes of the next one come.
+#include <ravo/unicode/source_buffer.h>
+#include <ravo/unicode/unicode_reader.h>
+
+#include <algorithm>
+#include <cstring>
+
+namespace ravo::DIUnicode {
+
+void TDIUnicodeReader::PushSource(bool StoreReadMethods) {
+  auto entry = std::make_unique<TUnicodeReaderSource>(TUnicodeReaderSource{
+      FSourceStack, FCharPos, FCharLine, FCharCol, StoreReadMethods ? FReadMethods : TDIUnicodeReadMethods{},
+      FSourceBuffer, FSourceBufferSize, FSourceBufferPosition, std::move(FSourceFile), FSourceStream, 0});
+  FSourceStack = entry.release();
+  FSourceBuffer = nullptr;
+  FSourceBufferSize = 0;
+  FSourceBufferPosition = 0;
+  FSourceStream = nullptr;
+  FSourceFile.clear();
+  ResetCharLocation();
+}
+
+bool TDIUnicodeReader::PopSource() {
+  if (FSourceStack == nullptr) return false;
+  if (FSourceStream != nullptr) DropStreamBuffer();
+  if (FAutoFreeSourceStreams != TAutoFreeSourceStreams::afNone) delete FSourceStream;
+  const std::unique_ptr<TUnicodeReaderSource> entry(FSourceStack);
+  FSourceStack = entry->Next;
+  // Kept: the last character of a source counts for the one that goes on, because only the location is saved
+  FCharPos = entry->CharPos;
+  FCharLine = entry->CharLine;
+  FCharCol = entry->CharCol;
+  FSourceBuffer = entry->SourceBuffer;
+  FSourceBufferSize = entry->SourceBufferSize;
+  FSourceBufferPosition = entry->SourceBufferPosition;
+  FSourceFile = std::move(entry->SourceFile);
+  FSourceStream = entry->SourceStream;
+  if (entry->ReadMethods.ReadChar != nullptr) UseReadMethods(entry->ReadMethods);
+  return true;
+}
+
+void TDIUnicodeReader::ClearSourceStack() {
+  while (PopSource()) {
+  }
+}
+
+const std::u16string& TDIUnicodeReader::FirstSourceFile() const noexcept {
+  const std::u16string* name = &FSourceFile;
+  for (const TUnicodeReaderSource* entry = FSourceStack; entry != nullptr; entry = entry->Next)
+    name = &entry->SourceFile;
+  return *name;
+}
+
+std::uint32_t TDIUnicodeReader::FillSourceBuffer(bool MoveEndToFront) {
+  // A buffer without room is no end of the stream.
+  if (FSourceStream != nullptr && MoveEndToFront && UnreadBytes().size() == unicode::kSourceBufferSize)
+    return unicode::kSourceBufferSize;
+  const std::uint32_t count = FillFromStream(MoveEndToFront);
+  return count != 0 ? count : FillFromStack();
+}
+
+std::uint32_t TDIUnicodeReader::FillFromStream(bool move_end_to_front) {
+  if (FSourceStream == nullptr) return 0;
+  std::uint8_t* const buffer = unicode::Writable(FSourceBuffer);
+  const auto unread = UnreadBytes();
+  const auto rest = move_end_to_front ? static_cast<std::uint32_t>(unread.size()) : 0;
+  if (rest != 0) std::memmove(buffer, unread.data(), rest);
+  FSourceBufferPosition = 0;
+  FSourceBufferSize = rest;
+  const std::span room(buffer + rest, unicode::kSourceBufferSize - rest);
+  const auto count = static_cast<std::uint32_t>(FSourceStream->Read(std::as_writable_bytes(room)));
+  FSourceBufferSize += count;
+  return count;
+}
+
+std::uint32_t TDIUnicodeReader::FillFromStack() {
+  while (PopSource()) {
+    if (const auto count = UnreadBytes().size(); count != 0) return static_cast<std::uint32_t>(count);
+    if (const std::uint32_t count = FillFromStream(false); count != 0) return count;
+  }
+  if (FAutoFreeSourceStreams == TAutoFreeSourceStreams::afAll) DeleteStream();
+  return 0;
+}
+
+}  // namespace ravo::DIUnicode

@@ -1,0 +1,182 @@
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <concepts>
+#include <cstddef>
+#include <cstdint>
+#include <span>
+
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
+
+/// How far units of some kind go at the front of a run, sixteen at a time. A unit is a UTF-16 unit, or a byte
+/// of a text whose bytes below 0x80 are ASCII.
+namespace ravo::unicode {
+
+inline constexpr std::size_t kSearchBlock = 16;
+
+/// Sixteen units; a question about them is answered by a bit for each, the first in the lowest.
+template <class Unit>
+class UnitBlock;
+
+#if defined(__SSE2__)
+
+template <>
+class UnitBlock<std::uint8_t> {
+ public:
+  explicit UnitBlock(const std::uint8_t* units) noexcept
+      : units_(_mm_loadu_si128(reinterpret_cast<const __m128i*>(units))) {}
+
+  [[nodiscard]] unsigned EqualTo(std::uint8_t unit) const noexcept {
+    return Bits(_mm_cmpeq_epi8(units_, _mm_set1_epi8(static_cast<char>(unit))));
+  }
+  [[nodiscard]] unsigned From(std::uint8_t first, std::uint8_t last) const noexcept {
+    const __m128i offsets = _mm_sub_epi8(units_, _mm_set1_epi8(static_cast<char>(first)));
+    const __m128i beyond = _mm_subs_epu8(offsets, _mm_set1_epi8(static_cast<char>(last - first)));
+    return Bits(_mm_cmpeq_epi8(beyond, _mm_setzero_si128()));
+  }
+  /// Bytes from 0x80 on.
+  [[nodiscard]] unsigned NoAscii() const noexcept { return Bits(units_); }
+  /// Writes each byte as a character.
+  void Widen(char16_t* to) const noexcept {
+    const __m128i zero = _mm_setzero_si128();
+    _mm_storeu_si128(reinterpret_cast<__m128i*>(to), _mm_unpacklo_epi8(units_, zero));
+    _mm_storeu_si128(reinterpret_cast<__m128i*>(to + 8), _mm_unpackhi_epi8(units_, zero));
+  }
+
+ private:
+  static unsigned Bits(__m128i hits) noexcept { return static_cast<unsigned>(_mm_movemask_epi8(hits)); }
+
+  __m128i units_;
+};
+
+template <>
+class UnitBlock<char16_t> {
+ public:
+  explicit UnitBlock(const char16_t* units) noexcept
+      : low_(_mm_loadu_si128(reinterpret_cast<const __m128i*>(units))),
+        high_(_mm_loadu_si128(reinterpret_cast<const __m128i*>(units + 8))) {}
+
+  [[nodiscard]] unsigned EqualTo(char16_t unit) const noexcept {
+    const __m128i wanted = _mm_set1_epi16(static_cast<short>(unit));
+    return Bits(_mm_cmpeq_epi16(low_, wanted), _mm_cmpeq_epi16(high_, wanted));
+  }
+  [[nodiscard]] unsigned From(char16_t first, char16_t last) const noexcept {
+    const auto within = [&](__m128i units) {
+      const __m128i offsets = _mm_sub_epi16(units, _mm_set1_epi16(static_cast<short>(first)));
+      const __m128i beyond = _mm_subs_epu16(offsets, _mm_set1_epi16(static_cast<short>(last - first)));
+      return _mm_cmpeq_epi16(beyond, _mm_setzero_si128());
+    };
+    return Bits(within(low_), within(high_));
+  }
+
+ private:
+  static unsigned Bits(__m128i low, __m128i high) noexcept {
+    return static_cast<unsigned>(_mm_movemask_epi8(_mm_packs_epi16(low, high)));
+  }
+
+  __m128i low_;
+  __m128i high_;
+};
+
+#else
+
+template <class Unit>
+class UnitBlock {
+ public:
+  explicit UnitBlock(const Unit* units) noexcept : units_(units) {}
+
+  [[nodiscard]] unsigned EqualTo(Unit unit) const noexcept { return From(unit, unit); }
+  [[nodiscard]] unsigned From(Unit first, Unit last) const noexcept {
+    unsigned bits = 0;
+    for (std::size_t i = 0; i < kSearchBlock; ++i)
+      bits |= (units_[i] >= first && units_[i] <= last ? 1U : 0U) << i;
+    return bits;
+  }
+  [[nodiscard]] unsigned NoAscii() const noexcept { return From(0x80, 0xFF); }
+  void Widen(char16_t* to) const noexcept { std::copy_n(units_, kSearchBlock, to); }
+
+ private:
+  const Unit* units_;
+};
+
+#endif
+
+/// Units equal to one of those given.
+template <std::size_t kCount>
+class OneOf {
+ public:
+  template <std::same_as<char16_t>... Chars>
+  constexpr explicit OneOf(Chars... chars) : chars_{chars...} {}
+
+  [[nodiscard]] constexpr bool operator()(char16_t c) const {
+    bool hit = false;
+    for (const char16_t ch : chars_) hit |= c == ch;
+    return hit;
+  }
+  template <class Unit>
+  [[nodiscard]] unsigned HitsIn(const UnitBlock<Unit>& block) const noexcept {
+    unsigned hits = 0;
+    for (const char16_t ch : chars_) hits |= block.EqualTo(static_cast<Unit>(ch));
+    return hits;
+  }
+  [[nodiscard]] constexpr bool IsAscii() const {
+    bool ascii = true;
+    for (const char16_t ch : chars_) ascii &= ch < 0x80;
+    return ascii;
+  }
+
+ private:
+  std::array<char16_t, kCount> chars_;
+};
+template <class... Chars>
+OneOf(Chars...) -> OneOf<sizeof...(Chars)>;
+
+inline constexpr OneOf kLineBreaks(u'\r', u'\n');
+
+/// Blanks, and controls that are white space: nearly all of what is white space.
+struct PlainWhite {
+  [[nodiscard]] constexpr bool operator()(char16_t c) const { return c == u' ' || (c >= 9 && c <= 13); }
+  template <class Unit>
+  [[nodiscard]] unsigned HitsIn(const UnitBlock<Unit>& block) const noexcept {
+    return block.EqualTo(u' ') | block.From(9, 13);
+  }
+};
+
+/// Whatever a kind is not.
+template <class Kind>
+class Not {
+ public:
+  constexpr explicit Not(Kind kind) : kind_(kind) {}
+
+  [[nodiscard]] constexpr bool operator()(char16_t c) const { return !kind_(c); }
+  template <class Unit>
+  [[nodiscard]] unsigned HitsIn(const UnitBlock<Unit>& block) const noexcept {
+    return ~kind_.HitsIn(block) & 0xFFFF;
+  }
+  [[nodiscard]] constexpr const Kind& What() const { return kind_; }
+
+ private:
+  Kind kind_;
+};
+
+/// How many units stand before the first one of a kind. The last block overlaps the one before.
+template <class Unit, class Kind>
+[[nodiscard]] std::size_t LengthBefore(std::span<const Unit> run, const Kind& kind) {
+  std::size_t at = 0;
+  if (run.size() >= kSearchBlock) {
+    const std::size_t last = run.size() - kSearchBlock;
+    for (;; at = std::min(at + kSearchBlock, last)) {
+      const unsigned hits = kind.HitsIn(UnitBlock<Unit>(run.data() + at));
+      if (hits != 0) return at + static_cast<std::size_t>(std::countr_zero(hits));
+      if (at == last) return run.size();
+    }
+  }
+  while (at < run.size() && !kind(run[at])) ++at;
+  return at;
+}
+
+}  // namespace ravo::unicode

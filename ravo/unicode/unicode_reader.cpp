@@ -1,0 +1,112 @@
+#include <ravo/unicode/encodings.h>
+#include <ravo/unicode/encodings/runs.h>
+#include <ravo/unicode/unicode_reader.h>
+
+#include <algorithm>
+#include <array>
+#include <numeric>
+
+namespace ravo::DIUnicode {
+namespace {
+
+const EncodingRow* RowOf(const TDIUnicodeReadMethods& methods) {
+  for (const EncodingRow& row : EncodingRows()) {
+    if (row.read != nullptr && row.read->ReadChar == methods.ReadChar) return &row;
+  }
+  return nullptr;
+}
+
+// Whether the characters of ASCII are bytes below 0x80, and these bytes are those characters, wherever they
+// stand. UTF-8 has been made so; some single bytes stand for other characters or twice for one of ASCII.
+bool KeepsAscii(const TDIUnicodeReadMethods& methods, DecodeRun decode) {
+  const EncodingRow* const row = RowOf(methods);
+  if (row == nullptr || decode == nullptr || row->engine != "SingleByte") return row && row->engine == "Utf8";
+  std::array<std::uint8_t, 0x100> bytes;
+  std::array<char16_t, 0x100> text;
+  std::iota(bytes.begin(), bytes.end(), std::uint8_t{0});
+  return decode(bytes, text).made == text.size() &&
+         std::equal(text.begin(), text.begin() + 0x80, bytes.begin()) &&
+         std::all_of(text.begin() + 0x80, text.end(), [](char16_t ch) { return ch >= 0x80; });
+}
+
+}  // namespace
+
+TDIUnicodeReader::TDIUnicodeReader(TComponent* AOwner) : TDIUnicodeBase(AOwner) { UseReadMethods({}); }
+
+TDIUnicodeReader::~TDIUnicodeReader() {
+  ClearSourceStack();
+  if (FReadMethods.Finalize != nullptr) FReadMethods.Finalize(*this);
+  // Kept: a reader that goes leaves its first stream, because the program that set it may still use it
+  if (FSourceStream != nullptr) DropStreamBuffer();
+}
+
+// Methods that are complete: what is missing is put in its place.
+void TDIUnicodeReader::UseReadMethods(const TDIUnicodeReadMethods& methods) {
+  FReadMethods = methods;
+  if (FReadMethods.ReadChar == nullptr) {
+    FReadMethods.Init = nullptr;
+    FReadMethods.ReadChar = Read_Iso_8859_1_ReadChar;
+  }
+  FDecodeRun = DecodeRunOf(FReadMethods);
+  FKeepsAscii = KeepsAscii(FReadMethods, FDecodeRun);
+}
+
+void TDIUnicodeReader::SetReadMethods(const TDIUnicodeReadMethods& methods) {
+  // They may be our own, which `Finalize` may still look at.
+  const TDIUnicodeReadMethods copy = methods;
+  if (FReadMethods.Finalize != nullptr) FReadMethods.Finalize(*this);
+  FState = 0;
+  UseReadMethods(copy);
+  if (FReadMethods.Init != nullptr) FReadMethods.Init(*this);
+}
+
+bool TDIUnicodeReader::AddCharReadChar() {
+  AddChar();
+  return ReadChar();
+}
+
+// A source that ended is left before the decoder is chosen, so that the one that goes on is read with its
+// own.
+bool TDIUnicodeReader::Decode(char16_t& ch) {
+  if (FSourceStack != nullptr && FSourceBufferPosition >= FSourceBufferSize) FillSourceBuffer(false);
+  return FReadMethods.ReadChar(*this, ch);
+}
+
+bool TDIUnicodeReader::TakePeeked(char16_t& ch) noexcept {
+  if (FPeekedCount == 0) return false;
+  ch = FPeekedChars[FPeekedStart++];
+  --FPeekedCount;
+  return true;
+}
+
+bool TDIUnicodeReader::PeekChars(std::uint32_t Count) {
+  if (FPeekedCount >= Count) return true;
+  MakePeekRoom(Count);
+  while (FPeekedCount < Count) {
+    if (!Decode(FPeekedChars[FPeekedCount])) return false;
+    ++FPeekedCount;
+  }
+  return true;
+}
+
+// What is peeked begins at the front again, with room for `Count` in all.
+void TDIUnicodeReader::MakePeekRoom(std::uint32_t Count) {
+  if (FPeekedCapacity >= Count) {
+    std::copy_n(FPeekedChars.get() + FPeekedStart, FPeekedCount, FPeekedChars.get());
+  } else {
+    auto larger = std::make_unique<char16_t[]>(Count);
+    std::copy_n(FPeekedChars.get() + FPeekedStart, FPeekedCount, larger.get());
+    FPeekedChars = std::move(larger);
+    FPeekedCapacity = Count;
+  }
+  FPeekedStart = 0;
+}
+
+void TDIUnicodeReader::ResetCharLocation() noexcept {
+  FChar = 0;
+  FCharPos = 0;
+  FCharLine = 1;
+  FCharCol = 0;
+}
+
+}  // namespace ravo::DIUnicode

@@ -1,0 +1,13 @@
+#include <ravo/platform/machine.h>
+#include <ravo/utils/strings/narrow.h>
+#include <ravo/utils/strings/text_kind.h>
+
+namespace ravo::DIUtils {
+
+std::string WBufToAStr(const char16_t* buffer, std::size_t length) {
+  return WStrToAStr(strings::Buffer(buffer, length));
+}
+
+std::string WStrToAStr(std::u16string_view text) { return platform::CurrentMachine().ToCodePage(text); }
+
+}  // namespace ravo::DIUtils

@@ -1,0 +1,149 @@
+#include <ravo/utils/strings/utf8_kernels.h>
+#include <ravo/utils/strings/vector.h>
+
+namespace ravo::strings {
+namespace {
+
+constexpr char16_t kReplacement = 0xFFFD;
+
+constexpr unsigned Byte(char c) { return static_cast<unsigned char>(c); }
+
+constexpr bool IsTrail(char c) { return (Byte(c) & 0xC0) == 0x80; }
+
+// How many trail bytes a lead byte asks for.
+constexpr unsigned TrailsOf(unsigned lead) {
+  if (lead < 0xE0) return 1;
+  if (lead < 0xF0) return 2;
+  if (lead < 0xF8) return 3;
+  return lead < 0xFC ? 4 : 5;
+}
+
+// Takes as many trail bytes as there are, up to `count`; says whether there were enough.
+bool TakeTrails(std::string_view& rest, unsigned count, unsigned& value) {
+  for (; count > 0; --count) {
+    if (rest.empty() || !IsTrail(rest.front())) return false;
+    value = value << 6 | (Byte(rest.front()) & 0x3F);
+    rest.remove_prefix(1);
+  }
+  return true;
+}
+
+// Characters that are treated one by one between two looks for a run of ASCII.
+constexpr std::size_t kFew = 16;
+
+#ifdef __SSE2__
+
+// Copies vectors of ASCII while they last; gives how many characters that were.
+std::size_t WidenAscii(std::string_view bytes, char16_t* out) noexcept {
+  std::size_t at = 0;
+  for (; bytes.size() - at >= kVectorBytes; at += kVectorBytes) {
+    const __m128i vector = LoadVector(bytes.data() + at);
+    if (BitsOf(vector) != 0) break;
+    StoreVector(out + at, _mm_unpacklo_epi8(vector, _mm_setzero_si128()));
+    StoreVector(out + at + kVectorBytes / 2, _mm_unpackhi_epi8(vector, _mm_setzero_si128()));
+  }
+  return at;
+}
+
+std::size_t NarrowAscii(std::u16string_view text, char* out) noexcept {
+  const __m128i beyond = Everywhere(char16_t{0xFF80});
+  std::size_t at = 0;
+  for (; text.size() - at >= kVectorBytes; at += kVectorBytes) {
+    const __m128i low = LoadVector(text.data() + at);
+    const __m128i high = LoadVector(text.data() + at + kVectorBytes / 2);
+    const __m128i outside = _mm_and_si128(_mm_or_si128(low, high), beyond);
+    if (BitsOf(_mm_cmpeq_epi16(outside, _mm_setzero_si128())) != 0xFFFF) break;
+    StoreVector(out + at, _mm_packus_epi16(low, high));
+  }
+  return at;
+}
+
+#else
+
+std::size_t WidenAscii(std::string_view, char16_t*) noexcept { return 0; }
+std::size_t NarrowAscii(std::u16string_view, char*) noexcept { return 0; }
+
+#endif
+
+char* PutUtf8Unit(unsigned unit, char* out) noexcept {
+  if (unit < 0x80) {
+    *out++ = static_cast<char>(unit);
+    return out;
+  }
+  if (unit < 0x800) {
+    *out++ = static_cast<char>(0xC0 | unit >> 6);
+  } else {
+    *out++ = static_cast<char>(0xE0 | unit >> 12);
+    *out++ = static_cast<char>(0x80 | (unit >> 6 & 0x3F));
+  }
+  *out++ = static_cast<char>(0x80 | (unit & 0x3F));
+  return out;
+}
+
+}  // namespace
+
+char16_t TakeUtf8Unit(std::string_view& rest) noexcept {
+  const unsigned lead = Byte(rest.front());
+  rest.remove_prefix(1);
+  if (lead < 0x80) return static_cast<char16_t>(lead);
+  if (lead < 0xC0) return kReplacement;
+  const unsigned trails = TrailsOf(lead);
+  unsigned value = lead & (0x3FU >> trails);
+  // Kept: four bytes and more give one U+FFFD, because texts hold no characters outside the plane of 65,536.
+  if (!TakeTrails(rest, trails, value) || trails > 2) return kReplacement;
+  // Kept: surrogates are taken from UTF-8, because texts with halves of pairs were written so and must come
+  // back.
+  const bool is_over_long = value < (trails == 1 ? 0x80U : 0x800U);
+  return is_over_long ? kReplacement : static_cast<char16_t>(value);
+}
+
+// The most frequent forms without detours: ASCII and two bytes that are well formed.
+char16_t* DecodeFewUtf8(std::string_view& bytes, char16_t* out) noexcept {
+  for (std::size_t count = 0; count < kFew && !bytes.empty(); ++count) {
+    const unsigned lead = Byte(bytes.front());
+    if (lead < 0x80) {
+      *out++ = static_cast<char16_t>(lead);
+      bytes.remove_prefix(1);
+    } else if (lead >= 0xC2 && lead < 0xE0 && bytes.size() > 1 && IsTrail(bytes[1])) {
+      *out++ = static_cast<char16_t>((lead & 0x1F) << 6 | (Byte(bytes[1]) & 0x3F));
+      bytes.remove_prefix(2);
+    } else {
+      *out++ = TakeUtf8Unit(bytes);
+    }
+  }
+  return out;
+}
+
+char16_t* DecodeUtf8Plainly(std::string_view bytes, char16_t* out) noexcept {
+  while (!bytes.empty()) *out++ = TakeUtf8Unit(bytes);
+  return out;
+}
+
+char* EncodeUtf8Plainly(std::u16string_view text, char* out) noexcept {
+  for (const char16_t unit : text) out = PutUtf8Unit(unit, out);
+  return out;
+}
+
+char16_t* DecodeUtf8(std::string_view bytes, char16_t* out) noexcept {
+  while (!bytes.empty()) {
+    const std::size_t ascii = WidenAscii(bytes, out);
+    bytes.remove_prefix(ascii);
+    out += ascii;
+    out = DecodeFewUtf8(bytes, out);
+  }
+  return out;
+}
+
+char* EncodeUtf8(std::u16string_view text, char* out) noexcept {
+  while (!text.empty()) {
+    const std::size_t ascii = NarrowAscii(text, out);
+    text.remove_prefix(ascii);
+    out += ascii;
+    const std::u16string_view few = text.substr(0, kFew);
+    out = EncodeUtf8Plainly(few, out);
+    text.remove_prefix(few.size());
+  }
+  return out;
+}
+
+}  // namespace ravo::strings

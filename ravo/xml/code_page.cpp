@@ -1,0 +1,105 @@
+#include <ravo/platform/machine.h>
+#include <ravo/xml/code_page.h>
+
+#include <algorithm>
+#include <memory>
+#include <mutex>
+
+namespace ravo::xml {
+namespace {
+
+std::string AllBytes() {
+  std::string bytes(256, '\0');
+  for (std::size_t i = 0; i < bytes.size(); ++i) bytes[i] = static_cast<char>(i);
+  return bytes;
+}
+
+// In a code page of several bytes a character pairs of bytes meet in this text, whatever the lead bytes are.
+bool IsSingleByte(const platform::Machine& machine, const std::string& bytes, const std::u16string& units) {
+  if (units.size() != bytes.size()) return false;
+  const std::string backwards(bytes.rbegin(), bytes.rend());
+  const std::u16string reversed = machine.FromCodePage(backwards);
+  return std::equal(reversed.begin(), reversed.end(), units.rbegin(), units.rend());
+}
+
+}  // namespace
+
+CodePage::CodePage() : number_(platform::CurrentMachine().CodePage()) {
+  const platform::Machine& machine = platform::CurrentMachine();
+  const std::string bytes = AllBytes();
+  const std::u16string units = machine.FromCodePage(bytes);
+  by_table_ = IsSingleByte(machine, bytes, units) && machine.ToCodePage(units).size() == bytes.size();
+  if (!by_table_) return;
+  const std::string back = machine.ToCodePage(units);
+  for (std::size_t i = 0; i < bytes.size(); ++i) {
+    units_[i] = units[i];
+    faithful_[i] = back[i] == bytes[i];
+    all_faithful_ = all_faithful_ && faithful_[i];
+    if (faithful_[i]) by_unit_.push_back({units[i], bytes[i]});
+  }
+  std::ranges::stable_sort(by_unit_, {}, &Mapping::unit);
+}
+
+bool CodePage::IsSame(const CodePage& other) const {
+  return number_ == other.number_ && by_table_ == other.by_table_ && units_ == other.units_ &&
+         faithful_ == other.faithful_;
+}
+
+const CodePage& CodePage::Current() {
+  static std::mutex guard;
+  static auto& known = *new std::vector<std::unique_ptr<const CodePage>>;
+  std::unique_ptr<const CodePage> page(new CodePage);
+  const std::lock_guard lock(guard);
+  for (const auto& old : known) {
+    if (old->IsSame(*page)) return *old;
+  }
+  known.push_back(std::move(page));
+  return *known.back();
+}
+
+bool CodePage::IsFaithful(std::string_view bytes) const {
+  if (all_faithful_ && by_table_) return true;
+  if (!by_table_) {
+    const platform::Machine& machine = platform::CurrentMachine();
+    return machine.ToCodePage(machine.FromCodePage(bytes)) == bytes;
+  }
+  return std::ranges::all_of(bytes, [&](char ch) { return faithful_[static_cast<unsigned char>(ch)]; });
+}
+
+std::u16string CodePage::Widened(std::string_view bytes) const {
+  std::u16string text;
+  AppendWidened(text, bytes);
+  return text;
+}
+
+void CodePage::AppendWidened(std::u16string& to, std::string_view bytes) const {
+  if (!by_table_) {
+    to += platform::CurrentMachine().FromCodePage(bytes);
+    return;
+  }
+  const std::size_t old = to.size();
+  to.resize(old + bytes.size());
+  std::ranges::transform(bytes, to.begin() + static_cast<std::ptrdiff_t>(old),
+                         [&](char ch) { return units_[static_cast<unsigned char>(ch)]; });
+}
+
+const CodePage::Mapping* CodePage::Find(char16_t unit) const {
+  const auto at = std::ranges::lower_bound(by_unit_, unit, {}, &Mapping::unit);
+  return at != by_unit_.end() && at->unit == unit ? &*at : nullptr;
+}
+
+bool CodePage::Narrow(std::u16string_view text, std::string& bytes) const {
+  if (!by_table_) {
+    bytes = platform::CurrentMachine().ToCodePage(text);
+    return platform::CurrentMachine().FromCodePage(bytes) == text;
+  }
+  bytes.clear();
+  for (const char16_t unit : text) {
+    const Mapping* mapping = Find(unit);
+    if (mapping == nullptr) return false;
+    bytes += mapping->byte;
+  }
+  return true;
+}
+
+}  // namespace ravo::xml

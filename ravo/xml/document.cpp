@@ -1,0 +1,118 @@
+#include <ravo/platform/file_stream.h>
+#include <ravo/platform/machine.h>
+#include <ravo/runtime/text.h>
+#include <ravo/xml/document.h>
+#include <ravo/xml/item_writer.h>
+
+#include <atomic>
+
+namespace ravo::ECXMLParser {
+namespace {
+
+constexpr std::size_t kLookedAt = 1000;
+
+bool BeginsWithMark(std::string_view bytes) {
+  return bytes.starts_with("\xEF\xBB\xBF") || bytes.starts_with("\xFE\xFF") || bytes.starts_with("\xFF\xFE");
+}
+
+// Whether what the stream gives next looks like a document.
+// Kept: a declaration in single quotes is passed over, because only the one form has ever been looked for.
+// Kept: a declaration behind a byte-order mark is passed over, because the mark would become text of the
+// root.
+bool LooksLikeXml(ByteStream& stream) {
+  std::string beginning(kLookedAt, '\0');
+  std::size_t size = 0;
+  while (size < kLookedAt) {
+    const std::size_t count = stream.Read(std::as_writable_bytes(std::span(beginning).subspan(size)));
+    if (count == 0) break;
+    size += count;
+  }
+  stream.SetPosition(0);
+  beginning.resize(size);
+  const std::u16string text = platform::CurrentMachine().FromCodePage(beginning);
+  const bool declared = text.find(u"<?xml version=\"1.0\"") != std::u16string::npos;
+  return (declared && !BeginsWithMark(beginning)) || text.find(u"<rss") != std::u16string::npos;
+}
+
+std::u16string_view ExtensionOf(std::u16string_view name) {
+  const std::size_t at = name.find_last_of(u"./\\:");
+  return at != std::u16string_view::npos && name[at] == u'.' ? name.substr(at) : std::u16string_view();
+}
+
+void WriteText(ByteStream& stream, std::u16string_view text) {
+  const std::string bytes = platform::CurrentMachine().ToCodePage(text);
+  stream.WriteChecked(std::as_bytes(std::span(bytes)));
+}
+
+bool Allowed(const TXMLLoadSaveEvent& event, TECXMLParser& parser) {
+  bool allow = true;
+  if (event) event(parser, allow);
+  return allow;
+}
+
+constexpr auto kComponents = std::to_array<ComponentRegistration>({
+    {u"EC Test", u"TECXMLParser"},
+    {u"EC Test", u"TXMLGhost"},
+});
+std::atomic<bool> registered = false;
+
+}  // namespace
+
+IECXMLParser::~IECXMLParser() = default;
+
+TECXMLParser::TECXMLParser(TComponent* AOwner) : TComponent(AOwner), FRoot(new TXMLItem) {
+  FRoot->SetParser(this);
+}
+
+TECXMLParser::~TECXMLParser() = default;
+
+void TECXMLParser::Clear() {
+  if (!Allowed(FBeforeClear, *this)) return;
+  FEncoding.clear();
+  FRoot->Clear();
+  if (FOnCleared) FOnCleared(*this);
+}
+
+void TECXMLParser::LoadFromFile(std::u16string_view FileName) {
+  FileStream stream(FileName, FileMode::Read);
+  LoadFromStream(stream);
+}
+
+void TECXMLParser::LoadFromStream(ByteStream& Stream) {
+  if (LooksLikeXml(Stream)) FRoot->LoadFromStream(Stream);
+}
+
+void TECXMLParser::SaveToFile(std::u16string_view FileName) {
+  FileStream stream(FileName, FileMode::Create);
+  SaveToStream(stream, SameAsciiText(ExtensionOf(FileName), u".xsl"));
+}
+
+// Kept: a blank stands before the end of the declaration and none before that of the style sheet, because
+// documents are compared as they were always written.
+// Kept: the encoding is a name alone, because the bytes are those of the 8-bit code page whatever it says.
+void TECXMLParser::SaveToStream(ByteStream& Stream, bool XSL) {
+  if (!Allowed(FBeforeSave, *this)) return;
+  std::u16string header = u"<?xml version=\"1.0\" encoding=\"" + FEncoding + u"\" ?>\r\n";
+  if (!XSL && !Trimmed(FStyleSheet).empty()) {
+    header += u"<?xml-stylesheet type=\"text/xsl\" href=\"" + FStyleSheet + u"\"?>\r\n";
+  }
+  WriteText(Stream, header);
+  xml::WriteItem(Stream, *FRoot, 2);
+  if (FOnSaved) FOnSaved(*this);
+}
+
+TXMLGhost::~TXMLGhost() = default;
+
+TECXMLParser& TXMLGhost::Document() const {
+  if (FPrimaryDocument == nullptr) throw Error(u"The primary document is missing");
+  return *FPrimaryDocument;
+}
+
+void Register() { registered = true; }
+
+std::span<const ComponentRegistration> RegisteredComponents() noexcept {
+  return registered ? std::span<const ComponentRegistration>(kComponents)
+                    : std::span<const ComponentRegistration>();
+}
+
+}  // namespace ravo::ECXMLParser

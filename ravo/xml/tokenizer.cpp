@@ -1,0 +1,237 @@
+#include <ravo/runtime/checked.h>
+#include <ravo/xml/byte_scan.h>
+#include <ravo/xml/tokenizer.h>
+
+#include <algorithm>
+#include <cstring>
+
+namespace ravo::ECXMLTokenizer {
+namespace {
+
+constexpr std::size_t kBufferSize = 65536;
+constexpr std::string_view kCData = "<![cdata[";
+
+constexpr std::u16string_view kLineTooLong = u"Line too long";
+constexpr std::u16string_view kEmptyStream = u"The stream is empty";
+constexpr std::u16string_view kTagNotClosed = u"'>' expected";
+constexpr std::u16string_view kCDataNotClosed = u"']]>' expected";
+
+std::unique_ptr<char[]> NewBuffer(std::size_t room) {
+  return std::make_unique_for_overwrite<char[]>(room + xml::kReadAhead);
+}
+
+// The byte behind the last line feed, looked for from the byte before the last one backwards.
+char* LastLineStart(char* begin, char* end) {
+  char* at = end - 1;
+  while (at > begin && at[-1] != '\n') --at;
+  return at;
+}
+
+}  // namespace
+
+TXMLTokenizer::TXMLTokenizer(ByteStream& Stream, std::size_t BufferSize)
+    : FStream(Stream),
+      FBuffer(NewBuffer(BufferSize)),
+      FBufPtr(FBuffer.get()),
+      FBufEnd(FBuffer.get() + BufferSize),
+      FSourcePtr(FBuffer.get()),
+      FSourceEnd(FBuffer.get()),
+      FTokenPtr(FBuffer.get()),
+      line_room_(BufferSize),
+      room_(BufferSize) {
+  *FSourceEnd = 0;
+}
+
+TXMLTokenizer::TXMLTokenizer(ByteStream& Stream) : TXMLTokenizer(Stream, kBufferSize) { NextToken(); }
+
+TXMLTokenizer::~TXMLTokenizer() {
+  try {
+    FStream.SetPosition(FStream.Position() - (FBufPtr - FTokenPtr));
+  } catch (const std::exception&) {
+    // The stream failed before, and somebody has been told already.
+    FTokenPtr = FBufPtr;
+  }
+}
+
+void TXMLTokenizer::MarkSourceEnd(char* end) {
+  FSourceEnd = end;
+  FSaveChar = *end;
+  *end = 0;
+}
+
+void TXMLTokenizer::Unmark() { *FSourceEnd = FSaveChar; }
+
+// Moves everything loaded from `from` on to the front of the buffer and takes the mark away.
+void TXMLTokenizer::MoveToFront(char* from) {
+  char* const begin = FBuffer.get();
+  FOrigin = CheckedAdd(FOrigin, CheckedCast<std::int32_t>(from - begin));
+  Unmark();
+  std::memmove(begin, from, static_cast<std::size_t>(FBufPtr - from));
+  FBufPtr -= from - begin;
+  FTokenPtr = FSourcePtr = begin;
+}
+
+// A stream may give less than it is asked for; only its end stops the loop.
+void TXMLTokenizer::ReadToEndOfBuffer() {
+  try {
+    while (FBufPtr != FBufEnd) {
+      const auto room = static_cast<std::size_t>(FBufEnd - FBufPtr);
+      const std::size_t count = FStream.Read(std::as_writable_bytes(std::span(FBufPtr, room)));
+      if (count == 0) return;
+      FBufPtr += count;
+    }
+  } catch (...) {
+    MarkSourceEnd(FBufPtr);
+    throw;
+  }
+}
+
+void TXMLTokenizer::ReadBuffer() {
+  MoveToFront(FSourcePtr);
+  // What a long tag left behind may be more than lines may fill.
+  FBufEnd = std::max(FBuffer.get() + line_room_, FBufPtr);
+  ReadToEndOfBuffer();
+  const bool full = FBufPtr == FBufEnd;
+  MarkSourceEnd(full ? LastLineStart(FBuffer.get(), FBufPtr) : FBufPtr);
+  if (full && FSourceEnd == FBuffer.get()) Error(kLineTooLong);
+}
+
+void TXMLTokenizer::SkipBlanks() {
+  for (;;) {
+    const char ch = *FSourcePtr;
+    if (!xml::IsBlankByte(ch)) return;
+    if (ch == 0) {
+      ReadBuffer();
+      if (*FSourcePtr == 0) return;
+      continue;
+    }
+    if (ch == '\n') FSourceLine = CheckedAdd(FSourceLine, 1);
+    ++FSourcePtr;
+  }
+}
+
+std::uint8_t TXMLTokenizer::NextToken() {
+  SkipBlanks();
+  FTokenPtr = FSourcePtr;
+  if (*FSourcePtr == '<') {
+    ScanTag();
+  } else if (*FSourcePtr == 0) {
+    FToken = xtEndOfInput;
+  } else {
+    ScanText();
+  }
+  return FToken;
+}
+
+// Kept: line feeds inside a token are not counted, because lines are counted where blanks are skipped.
+void TXMLTokenizer::ScanText() {
+  char* end = xml::FindEither(FSourcePtr, '<', '\0');
+  while (xml::IsBlankByte(end[-1])) --end;
+  FSourcePtr = end;
+  FToken = xtText;
+}
+
+bool TXMLTokenizer::TokenStarts(std::string_view lower_case) const {
+  const std::string_view loaded(FTokenPtr, static_cast<std::size_t>(FBufPtr - FTokenPtr));
+  return loaded.size() >= lower_case.size() &&
+         std::ranges::equal(loaded.substr(0, lower_case.size()), lower_case, {}, xml::LowerByte);
+}
+
+void TXMLTokenizer::ScanTag() {
+  if (FTokenPtr[1] == '!' && TokenStarts(kCData)) return ScanCData();
+  std::size_t done = 1;
+  for (bool ran_over = false;; ran_over = true) {
+    const auto loaded = static_cast<std::size_t>(FSourceEnd - FTokenPtr);
+    auto* found = static_cast<char*>(std::memchr(FTokenPtr + done, '>', loaded - done));
+    if (found != nullptr) {
+      EndTokenAt(found + 1, ran_over);
+      break;
+    }
+    done = loaded;
+    if (!LoadMore()) Error(kTagNotClosed);
+  }
+  FToken = KindOfTag();
+}
+
+// Kept: a comment ends at its first greater-than sign, because every tag does; what follows is text and tags.
+// Kept: a close tag with a slash at its end stands alone, because the end of a tag is looked at first.
+// Kept: declarations of document types are open tags, because only comments and headers are known by name.
+std::uint8_t TXMLTokenizer::KindOfTag() const {
+  if (FTokenPtr[1] == '?' && TokenStarts("<?xml")) return xtHeader;
+  if (FTokenPtr[1] == '!' && TokenStarts("<!--")) return xtComment;
+  if (FSourcePtr[-2] == '/') return xtStandAloneTag;
+  return FTokenPtr[1] == '/' ? xtCloseTag : xtOpenTag;
+}
+
+// Kept: a CDATA section ends one byte behind its first two closing brackets, because that byte is taken for
+// the ">" unseen; of "]]]>" the ">" is text.
+void TXMLTokenizer::ScanCData() {
+  constexpr std::size_t kBehindBrackets = 2;
+  std::size_t done = kCData.size();
+  for (bool ran_over = false;; ran_over = true) {
+    const std::string_view loaded(FTokenPtr, static_cast<std::size_t>(FSourceEnd - FTokenPtr));
+    const std::size_t found = loaded.find("]]", done);
+    if (found != std::string_view::npos && found + kBehindBrackets < loaded.size()) {
+      EndTokenAt(FTokenPtr + found + kBehindBrackets + 1, ran_over);
+      break;
+    }
+    done = std::max(done, loaded.size() - kBehindBrackets);
+    if (!LoadMore()) Error(kCDataNotClosed);
+  }
+  FToken = xtText;
+}
+
+// Where the token ran over the lines that were to be scanned, scanning goes on with a refill behind it.
+void TXMLTokenizer::EndTokenAt(char* end, bool ran_over) {
+  FSourcePtr = end;
+  if (!ran_over) return;
+  Unmark();
+  MarkSourceEnd(end);
+}
+
+// Makes more of the document scannable behind what the current token has; false at the end of the document.
+bool TXMLTokenizer::LoadMore() {
+  const std::ptrdiff_t had = FSourceEnd - FTokenPtr;
+  if (FSourceEnd != FBufPtr) {
+    Unmark();
+  } else {
+    MakeRoom();
+    FBufEnd = FBuffer.get() + room_;
+    ReadToEndOfBuffer();
+  }
+  MarkSourceEnd(FBufPtr);
+  return FSourceEnd - FTokenPtr > had;
+}
+
+void TXMLTokenizer::MakeRoom() {
+  if (FTokenPtr != FBuffer.get()) {
+    MoveToFront(FTokenPtr);
+  } else if (FBufPtr == FBuffer.get() + room_) {
+    GrowBuffer();
+  } else {
+    Unmark();
+  }
+}
+
+// The current token fills the whole buffer.
+void TXMLTokenizer::GrowBuffer() {
+  const std::size_t doubled = std::max<std::size_t>(CheckedMultiply<std::size_t>(room_, 2), 64);
+  auto buffer = NewBuffer(doubled);
+  Unmark();
+  std::memcpy(buffer.get(), FBuffer.get(), room_);
+  FBuffer = std::move(buffer);
+  FTokenPtr = FSourcePtr = FBuffer.get();
+  FBufPtr = FBuffer.get() + room_;
+  room_ = doubled;
+}
+
+// Kept: a document of one line is too long for the large tokenizer, because its buffer comes back full.
+TXMLLargeTokenizer::TXMLLargeTokenizer(ByteStream& Stream)
+    : TXMLTokenizer(Stream, CheckedCast<std::size_t>(Stream.Size())) {
+  if (Stream.Size() == 0) Error(kEmptyStream);
+  NextToken();
+}
+
+TXMLLargeTokenizer::~TXMLLargeTokenizer() = default;
+
+}  // namespace ravo::ECXMLTokenizer

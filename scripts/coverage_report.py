@@ -1,0 +1,109 @@
+#!/usr/bin/env python3
+"""Shows coverage by room, how often the tests' expectations were evaluated, and what no test runs and nobody explains.
+
+usage: coverage_report.py PROJECT COVERAGE.json UNCOVERED.txt [--write]
+"""
+
+import bisect
+import collections
+import json
+import pathlib
+import re
+import sys
+
+KINDS = ("functions", "lines", "branches")
+PAGE = "docs/coverage.md"
+BEGIN = "<!-- written by scripts/coverage; do not edit -->\n"
+END = "<!-- end of what is written -->\n"
+EXPECTATION = re.compile(r"\b(?:EXPECT|ASSERT)_[A-Z_]+\(")
+
+
+def room(name):
+    parts = pathlib.PurePath(name).parts
+    return "/".join(parts[:2]) if len(parts) > 2 else parts[0]
+
+
+def percent(counts):
+    covered, count = counts
+    return f"{covered} of {count} ({100 * covered / count:.1f} %)" if count else "none"
+
+
+def rooms_table(files):
+    rooms = collections.defaultdict(lambda: {kind: [0, 0] for kind in KINDS})
+    for name, file in files.items():
+        for kind in KINDS:
+            summary = file["summary"].get(kind, {"covered": 0, "count": 0})
+            for counts in (rooms[room(name)][kind], rooms["all"][kind]):
+                counts[0] += summary["covered"]
+                counts[1] += summary["count"]
+    rows = [f"| `{name}` | " + " | ".join(percent(rooms[name][kind]) for kind in KINDS) + " |"
+            for name in sorted(rooms, key=lambda name: (name == "all", name))]
+    head = "| room | functions | lines | branches |\n|---|---|---|---|\n"
+    return head + "\n".join(rows).replace("`all`", "all") + "\n"
+
+
+def uncovered(name, file):
+    """(line, column, what) of the places of a file that no test runs."""
+    for segment in file["segments"]:
+        line, column, count, has_count, is_entry, is_gap = segment[:6]
+        if has_count and is_entry and not is_gap and count == 0:
+            yield line, column, "not run"
+    # A template has its branches once for each instance: one that runs is enough.
+    branches = collections.defaultdict(lambda: [0, 0])
+    for branch in file.get("branches", ()):
+        branches[branch[0], branch[1]][0] += branch[4]
+        branches[branch[0], branch[1]][1] += branch[5]
+    for (line, column), (true, false) in branches.items():
+        if (true == 0) != (false == 0):
+            yield line, column, f"never {'true' if true == 0 else 'false'}"
+
+
+def explanations(page):
+    """[(file, piece of a line)] of the table of places that are explained."""
+    rows = re.findall(r"^\| `(ravo/[^`]+)` \| `(.+?)` \| .+ \|$", page, re.MULTILINE)
+    return [(name, piece.replace("\\|", "|")) for name, piece in rows]
+
+
+def unexplained(project, files, explained):
+    for name, file in files.items():
+        lines = (project / name).read_text(encoding="utf-8").splitlines()
+        for line, column, what in sorted(set(uncovered(name, file))):
+            if not any(name == where and piece in lines[line - 1] for where, piece in explained):
+                yield f"{name}:{line}:{column}: {what}: {lines[line - 1].strip()}"
+
+
+def evaluated(project, name, file):
+    """How many expectations stand in a test's source, and how often they were evaluated."""
+    segments = sorted(file["segments"])
+    keys = [(segment[0], segment[1]) for segment in segments]
+    stand = times = 0
+    for number, line in enumerate((project / name).read_text(encoding="utf-8").splitlines(), 1):
+        for found in EXPECTATION.finditer(line):
+            at = bisect.bisect_right(keys, (number, found.start() + 1)) - 1
+            stand += 1
+            times += segments[at][2] if at >= 0 and segments[at][3] else 0
+    return stand, times
+
+
+def main():
+    project, coverage, listing = pathlib.Path(sys.argv[1]), pathlib.Path(sys.argv[2]), pathlib.Path(sys.argv[3])
+    data = json.loads(coverage.read_text(encoding="utf-8"))["data"][0]
+    ours = {file["filename"].removeprefix(f"{project}/"): file for file in data["files"]}
+    library = {name: file for name, file in sorted(ours.items()) if name.startswith("ravo/")}
+    tests = [evaluated(project, name, file) for name, file in ours.items() if name.startswith("tests/")]
+    page = (project / PAGE).read_text(encoding="utf-8")
+    explained = explanations(page)
+    places = list(unexplained(project, library, explained))
+    text = (f"\n{rooms_table(library)}\nThe tests evaluate {sum(times for _, times in tests):,} expectations; "
+            f"{sum(stand for stand, _ in tests):,} stand in their sources.\n\n"
+            f"{len(explained)} explanations below; {len(places)} places that no test runs and nobody explains.\n\n")
+    listing.write_text("\n".join(places) + "\n", encoding="utf-8")
+    print(text)
+    print(f"what nobody explains: {listing}")
+    if "--write" in sys.argv[4:]:
+        before, rest = page.split(BEGIN)
+        (project / PAGE).write_text(before + BEGIN + text + END + rest.split(END)[1], encoding="utf-8")
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,164 @@
+#!/usr/bin/env python3
+"""Prints a public header or a page as the API reference reads it; Doxygen calls this for each one.
+
+usage: reference_filter.py HEADER|PAGE | --self-test
+
+- Rows of an .inc file become the declarations that the compiler makes of them, with the comment `/** ... */` of the
+  macro, in which `#text` is what the row has for the parameter `text`.
+- A comment also stands for the functions directly below its own that are of the same family: overloads, a property and
+  its setter, first and last, the members of the suite's suffixes (A, W, I, Ymd ...).
+- What the compiler makes (`= default`) needs no comment of a person.
+- Headings of a page can be linked to by the names that other readers of Markdown give them.
+"""
+
+import pathlib
+import re
+import sys
+
+ROOT = pathlib.Path(__file__).resolve().parents[1]
+DEFINE = re.compile(r"^[ \t]*#define (RAVO_\w+)\(([^)]*)\)((?:.*\\\n)*.*)\n", re.MULTILINE)
+ROWS = re.compile(r"^[ \t]*#include <(ravo/[\w/]+\.inc)>\n", re.MULTILINE)
+STRING = r'"(?:\\.|[^"\\])*"'
+CALL = re.compile(rf"\b(RAVO_\w+)\(((?:{STRING}|[^\"()]|\([^()]*\))*)\)")
+ARGUMENT = re.compile(rf"((?:{STRING}|[^\",(]|\([^()]*\))+)")
+COMMENT_LINE = re.compile(r"^ *(///|/\*\*|\*)")
+FUNCTION = re.compile(r"(~?\w+|operator\S+?) ?\(")
+
+
+def arguments_of(text):
+    return [" ".join(piece.split()) for piece in ARGUMENT.findall(text)]
+
+
+def instance(parameters, body, arguments):
+    """A macro's body with its arguments in place, stringified and pasted as the preprocessor does."""
+    values = dict(zip(parameters, arguments))
+
+    def word(match):
+        value = values.get(match["name"], match["name"])
+        return '"' + value.replace('"', '\\"') + '"' if match["hash"] and match["name"] in values else value
+
+    def piece(text):
+        if text.startswith("/**"):
+            return re.sub(r"#(\w+)", lambda match: values.get(match.group(1), match.group(0)), text)
+        return re.sub(r"\s*##\s*", "", re.sub(r"(?P<hash>(?<!#)#)?\b(?P<name>[A-Za-z]\w*)\b", word, text))
+
+    return "".join(map(piece, re.split(r"(/\*\*.*?\*/)", re.sub(r"\s*\\\n", "\n", body), flags=re.DOTALL)))
+
+
+def expanded(text, macros):
+    """What the macros make of every call in a text; calls of other macros are left out."""
+
+    def made(name, arguments):
+        text = instance(*macros[name], arguments_of(arguments))
+        # A row may choose one of several macros by pasting a name together.
+        return CALL.sub(lambda call: expanded(call.group(0), macros), text)
+
+    return "\n".join(made(name, arguments) for name, arguments in CALL.findall(text) if name in macros)
+
+
+def with_rows(header):
+    """The header with every #include of rows replaced by what its macros make of them."""
+    macros = {name: ([p.strip() for p in parameters.split(",")], body) for name, parameters, body in DEFINE.findall(header)}
+
+    def rows(match):
+        text = (ROOT / match.group(1)).read_text(encoding="utf-8")
+        return expanded(re.sub(r"^ *//[^\n]*|^#[^\n]*", "", text, flags=re.MULTILINE), macros) + "\n"
+
+    return ROWS.sub(rows, header)
+
+
+def declarations(lines):
+    """Pieces of a header: runs of lines that end a declaration, a comment, or stand alone."""
+    piece = []
+    for line in lines:
+        piece.append(line)
+        code = re.sub(r"\s*///<.*$|\s*//(?!/).*$", "", line).rstrip()
+        open_brackets = sum(part.count("(") - part.count(")") for part in piece)
+        if COMMENT_LINE.match(line) or not code or (code.endswith((";", "{", "}", ":", "*/")) and open_brackets <= 0):
+            yield piece
+            piece = []
+    if piece:
+        yield piece
+
+
+def name_of(piece):
+    """The function that a piece declares; nothing for any other piece."""
+    code = " ".join(line.strip() for line in piece)
+    if code.startswith(("#", "//", "/*", "*", "using ", "return ", "if ", "for ", "static_assert", ":")):
+        return ""
+    code = re.sub(r"\[\[\w+\]\]|__attribute__\S*|alignas\([^)]*\)|noexcept\([^)]*\)|explicit\([^)]*\)", "", code)
+    found = FUNCTION.search(code)
+    return found.group(1) if found and "=" not in code[: found.start()] else ""
+
+
+def same_family(left, right):
+    bare = [re.sub(r"^(Set)?(Get|First|Last|Buf|Str|Read|Skip)?|(ByRef|InPlace|Ymd|Ym|A|W|I)+$", "", name) for name in (left, right)]
+    return left == right or bare[0] == bare[1] != ""
+
+
+def with_family_comments(header):
+    comment, family, fresh, printed = [], "", False, []
+    for piece in declarations(header.splitlines()):
+        first = piece[0]
+        name = name_of(piece)
+        if COMMENT_LINE.match(first) and "///<" not in first:
+            if not fresh:
+                comment = []
+            comment += piece
+            fresh, family = True, ""
+        elif not first.strip() or first.strip().startswith(("#", "//")):
+            fresh, family, comment = False, "", []
+        elif fresh:
+            fresh, family = False, name
+        elif re.search(r"= default;", piece[-1]):
+            printed.append("/// As the compiler makes it.")
+        elif name and family and same_family(family, name):
+            printed += comment
+        printed += piece
+    return "\n".join(printed) + "\n"
+
+
+def with_anchors(page):
+    def heading(match):
+        words = re.sub(r"[^\w -]", "", match.group(2).lower()).strip().replace(" ", "-")
+        return f"{match.group(0)} {{#{words}}}"
+
+    return re.sub(r"^(##+) (.*)$", heading, page, flags=re.MULTILINE)
+
+
+def filtered(name):
+    text = pathlib.Path(name).read_text(encoding="utf-8")
+    return with_anchors(text) if name.endswith(".md") else with_family_comments(with_rows(text))
+
+
+CASES = [
+    ("/// Both.\nint fA(int a);\nint fW(int a);\n", "/// Both.\nint fA(int a);\n/// Both.\nint fW(int a);\n"),
+    ("/// One.\nint Count(int a);\nint Other(int a);\n", "/// One.\nint Count(int a);\nint Other(int a);\n"),
+    ("/// One.\nint fA(int a);\n\nint fW(int a);\n", "/// One.\nint fA(int a);\n\nint fW(int a);\n"),
+    ("/// State.\nint State() const { return s; }\nvoid SetState(int a);\n",
+     "/// State.\nint State() const { return s; }\n/// State.\nvoid SetState(int a);\n"),
+    ("X(const X&) = default;\n", "/// As the compiler makes it.\nX(const X&) = default;\n"),
+    ("/// Long.\nint LongNameA(int a,\n  int b);\nint LongNameW(int a,\n  int b);\n",
+     "/// Long.\nint LongNameA(int a,\n  int b);\n/// Long.\nint LongNameW(int a,\n  int b);\n"),
+]
+
+
+def self_test():
+    for given, wanted in CASES:
+        assert with_family_comments(given) == wanted, (given, with_family_comments(given))
+    assert with_anchors("# A\n## The host's: B, c\n") == "# A\n## The host's: B, c {#the-hosts-b-c}\n"
+    macro = DEFINE.match('#define RAVO_A(name, text) /** name #text, #name. */ \\\n  T name##_x{u##text};\n')
+    made = instance(["name", "text"], macro.group(3), arguments_of('one, "a, (b)"'))
+    assert made.split() == '/** name "a, (b)", one. */ T one_x{u"a, (b)"};'.split(), made
+    assert CALL.findall('RAVO_A(x, "a) \\" b",\n  3)\n') == [("RAVO_A", 'x, "a) \\" b",\n  3')]
+    header = "#define RAVO_ONE(name) int name;\n#define RAVO_ROW(name, ways) RAVO_##ways(name)\n"
+    macros = {name: ([p.strip() for p in parameters.split(",")], body) for name, parameters, body in DEFINE.findall(header)}
+    assert expanded('RAVO_ROW(x, ONE)\nRAVO_OTHER(y)\n', macros).split() == ["int", "x;"]
+
+
+if __name__ == "__main__":
+    if sys.argv[1:] == ["--self-test"]:
+        self_test()
+    else:
+        sys.stdout.reconfigure(encoding="utf-8")
+        print(filtered(sys.argv[1]), end="")

@@ -1,0 +1,128 @@
+#!/usr/bin/env python3
+"""Draws who uses whom among the rooms, from the #include lines, as docs/structure.svg.
+
+usage: structure.py --write | --print
+
+An arrow that follows from others is left out: frame uses runtime by way of platform.
+"""
+
+import pathlib
+import sys
+
+ROOT = pathlib.Path(__file__).resolve().parents[1]
+sys.path.insert(0, str(ROOT / "tests/checks"))
+from layering import EXPORT_HEADER, HOST_HEADER, PUBLIC, UTILS_MESSAGES, include_graph, room_of  # noqa: E402
+
+PICTURE = "docs/structure.svg"
+# The host's header is the frame's face; what exports are, and rows of messages, are no use of anybody.
+SAME = {HOST_HEADER: "ravo/frame", EXPORT_HEADER: None, UTILS_MESSAGES: None}
+NAMES = {PUBLIC: "public face"}
+WIDTH, HEIGHT, GAP, RISE, BEND = 132, 34, 22, 66, 6
+
+
+def arrows(root):
+    """Room -> the rooms that its files include."""
+    uses = {}
+    for source, edges in include_graph(root).items():
+        here = SAME.get(room_of(source), room_of(source))
+        if here is None:
+            continue
+        found = uses.setdefault(here, set())
+        found |= {SAME.get(room_of(target), room_of(target)) for _, target in edges}
+    return {room: targets - {room, None} for room, targets in uses.items()}
+
+
+def reach(uses, room):
+    return set().union(*({target} | reach(uses, target) for target in uses.get(room, ())))
+
+
+def reduced(uses):
+    """The arrows without those that follow from others."""
+    return {room: {t for t in targets if not any(t in reach(uses, other) for other in targets - {t})} for room, targets in uses.items()}
+
+
+def levels(uses):
+    level = {}
+
+    def of(room):
+        if room not in level:
+            level[room] = 1 + max((of(target) for target in uses.get(room, ())), default=-1)
+        return level[room]
+
+    for room in sorted(uses):
+        of(room)
+    return level
+
+
+def chains(uses):
+    """Every arrow with the bends at which it passes the levels between its ends: [(room, bend ..., target)]."""
+    level = levels(uses)
+    for room in sorted(uses):
+        for target in sorted(uses[room], key=lambda t: (level[t], t)):
+            yield [room, *((room, target, n) for n in range(level[room] - 1, level[target], -1)), target]
+
+
+def rows_of(uses):
+    """Rooms and bends by level, from the lowest; in a row each stands over the middle of what it leads to."""
+    level = levels(uses)
+    below, rows = {}, [[] for _ in range(max(level.values()) + 1)]
+    for chain in chains(uses):
+        for upper, lower in zip(chain, chain[1:]):
+            below.setdefault(upper, []).append(lower)
+    for node in {*level, *below}:
+        rows[level[node] if isinstance(node, str) else node[2]].append(node)
+    order = {}
+    for row in rows:
+        wish = {node: sum(order[b] for b in below[node]) / len(below[node]) if node in below else 0.5 for node in row}
+        row.sort(key=lambda node: (wish[node], str(node)))
+        order.update({node: (index + 0.5) / len(row) for index, node in enumerate(row)})
+    return rows
+
+
+def places(uses):
+    """Room or bend -> (x, y); width; height."""
+    rows, at = rows_of(uses), {}
+    wide = [sum((WIDTH if isinstance(node, str) else BEND) + GAP for node in row) for row in rows]
+    for n, row in enumerate(rows):
+        x = (max(wide) - wide[n]) // 2
+        for node in row:
+            step = (WIDTH if isinstance(node, str) else BEND) + GAP
+            at[node] = (x + step // 2, (len(rows) - 1 - n) * RISE + HEIGHT)
+            x += step
+    return at, max(wide), (len(rows) - 1) * RISE + 2 * HEIGHT
+
+
+def line(chain, at):
+    half = HEIGHT // 2
+    points = [(x, y + half) for x, y in [at[chain[0]]]] + [at[bend] for bend in chain[1:-1]] + [(x, y - half) for x, y in [at[chain[-1]]]]
+    path = "M{} {}".format(*points[0])
+    for (x, y), (to_x, to_y) in zip(points, points[1:]):
+        middle = (y + to_y) // 2
+        path += f"C{x} {middle} {to_x} {middle} {to_x} {to_y}"
+    return f'<path d="{path}" fill="none" stroke="#789" marker-end="url(#end)"/>'
+
+
+def drawing(root):
+    uses = reduced(arrows(root))
+    if not uses:
+        return ""
+    at, width, height = places(uses)
+    lines = [f'<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 {width} {height}" font-family="sans-serif" font-size="13">',
+             '<defs><marker id="end" viewBox="0 0 8 8" refX="7" refY="4" markerWidth="7" markerHeight="7" orient="auto">'
+             '<path d="M0 0 8 4 0 8z" fill="#789"/></marker></defs>',
+             f'<rect width="{width}" height="{height}" fill="#fff"/>']
+    lines += [line(chain, at) for chain in chains(uses)]
+    for room in sorted(levels(uses)):
+        x, y = at[room]
+        lines.append(f'<rect x="{x - WIDTH // 2}" y="{y - HEIGHT // 2}" width="{WIDTH}" height="{HEIGHT}" rx="6" fill="#eef3f8" stroke="#456"/>')
+        lines.append(f'<text x="{x}" y="{y + 5}" text-anchor="middle">{NAMES.get(room, room.removeprefix("ravo/"))}</text>')
+    return "\n".join([*lines, "</svg>", ""])
+
+
+if __name__ == "__main__":
+    if sys.argv[1:] == ["--write"]:
+        (ROOT / PICTURE).write_text(drawing(ROOT), encoding="utf-8")
+    elif sys.argv[1:] == ["--print"]:
+        print(drawing(ROOT), end="")
+    else:
+        sys.exit(__doc__)

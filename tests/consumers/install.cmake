@@ -1,0 +1,13 @@
+# Installs a built tree into an empty folder, and looks at what came: the public headers, and no private one.
+file(REMOVE_RECURSE ${PREFIX})
+execute_process(COMMAND ${CMAKE_COMMAND} --install ${BUILD} --prefix ${PREFIX} OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
+foreach(header ravo/package.h ravo/RavoInterface.h ravo/runtime/text.h ravo/hostapi/interfaces.inc)
+  if(NOT EXISTS ${PREFIX}/include/${header})
+    message(FATAL_ERROR "${header} was not installed")
+  endif()
+endforeach()
+file(GLOB_RECURSE installed RELATIVE ${PREFIX}/include ${PREFIX}/include/*)
+list(FILTER installed INCLUDE REGEX "platform/(posix|win32)/|\\.cpp$|^[^r]")
+if(installed)
+  message(FATAL_ERROR "private to the library, but installed: ${installed}")
+endif()

@@ -1,0 +1,9 @@
+// A malformed identifier is found by the compiler.
+#include <ravo/RavoInterface.h>
+
+#ifdef REFUSED
+constexpr ravo::Guid kIdentifier("{00000000-0000-0000-0000-00000000000G}");
+#else
+constexpr ravo::Guid kIdentifier("{00000000-0000-0000-0000-00000000000F}");
+#endif
+static_assert(kIdentifier != ravo::Guid{});

@@ -1,0 +1,10 @@
+// Nor does money become one.
+#include <ravo/RavoInterfaceCommon.h>
+
+double Price(ravo::Currency price) {
+#ifdef REFUSED
+  return price;
+#else
+  return static_cast<double>(price.raw) / ravo::Currency::kScale;
+#endif
+}

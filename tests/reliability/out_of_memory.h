@@ -1,0 +1,56 @@
+#pragma once
+
+#include "failing_memory.h"
+#include "support/tried.h"
+
+#include <functional>
+#include <new>
+#include <string>
+
+#include <gtest/gtest.h>
+
+namespace ravo::test {
+
+/// How an operation went that was tried with memory for ever more requests.
+struct Scarcity {
+  std::int64_t failures = 0;  ///< attempts in which a request failed
+  std::int64_t leaked = 0;    ///< blocks that an attempt did not give back
+  bool succeeded = false;     ///< whether it came to its end once there was enough
+};
+
+/// Tries an operation with memory for 0, 1, 2 ... requests until none fails. Nothing but `std::bad_alloc` may
+/// come out of it, and nothing may stay behind.
+template <class Operation>
+Scarcity TryWithScarceMemory(const Operation& operation) {
+  constexpr std::int64_t kMostRequests = 100'000;
+  // What is made once and stays is made now.
+  operation();
+  Scarcity result;
+  for (std::int64_t requests = 0; requests < kMostRequests && !result.succeeded; ++requests) {
+    const std::int64_t before = LiveBlocks();
+    {
+      const FailingMemory memory(requests);
+      try {
+        operation();
+        // An operation may come to its end in spite of a failure where it can do without.
+      } catch (const std::bad_alloc&) {
+        static_cast<void>(memory.HasFailed());
+      }
+      result.succeeded = !memory.HasFailed();
+    }
+    if (!result.succeeded) ++result.failures;
+    result.leaked += LiveBlocks() - before;
+  }
+  return result;
+}
+
+template <class Operation>
+void ExpectSurvivesScarceMemory(const Operation& operation) {
+  const Scarcity result = TryWithScarceMemory(operation);
+  EXPECT_TRUE(result.succeeded);
+  EXPECT_GT(result.failures, 0) << "nothing was asked for";
+  EXPECT_EQ(result.leaked, 0);
+  Tried("requests_for_memory_that_failed", result.failures);
+}
+
+}  // namespace ravo::test

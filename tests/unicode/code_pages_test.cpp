@@ -1,0 +1,57 @@
+// 8-bit text by the number of its code page, on the real machine.
+#include <ravo/DIUnicode.h>
+
+#include <string>
+
+#include <gtest/gtest.h>
+
+namespace ravo::DIUnicode {
+namespace {
+
+struct Row {
+  std::uint32_t code_page;
+  std::u16string_view text;
+  std::string_view bytes;
+};
+
+constexpr Row kRows[] = {
+    {1250, u"p\x159\xEDli\x161", "p\xF8\xEDli\x9A"},
+    {1251, u"\x434\x430", "\xE4\xE0"},
+    {852, u"\x159\x10D", "\xFD\x9F"},
+    {437, u"\xE9\x2592", "\x82\xB1"},
+    {28592, u"\x159\x10D", "\xF8\xE8"},
+    {20866, u"\x434\x430", "\xC4\xC1"},
+    {65001, u"\x10D\x20AC", "\xC4\x8D\xE2\x82\xAC"},
+};
+
+TEST(CodePages, AreKnownByTheirNumbers) {
+  for (const Row& row : kRows) {
+    TDIUnicodeReader reader;
+    reader.AddStrW(row.text);
+    EXPECT_EQ(reader.DataAsStrA(row.code_page), row.bytes) << row.code_page;
+    TDIUnicodeWriter writer;
+    writer.SetWriteMethods(Write_UCS_2_LE);
+    EXPECT_TRUE(writer.WriteStrA(row.bytes, row.code_page));
+    EXPECT_EQ(writer.DataToStrW(), row.text) << row.code_page;
+    EXPECT_EQ(writer.DataToStrA(row.code_page), row.bytes) << row.code_page;
+  }
+}
+
+TEST(CodePages, PutSomethingForWhatTheyLack) {
+  TDIUnicodeReader reader;
+  reader.AddStrW(u"a\x4E00");
+  for (const std::uint32_t code_page : {1250u, 852u, 28592u})
+    EXPECT_EQ(reader.DataAsStrA(code_page), "a?") << code_page;
+}
+
+TEST(CodePages, ThatNobodyKnowsGiveNothing) {
+  TDIUnicodeReader reader;
+  reader.AddStrW(u"abc");
+  EXPECT_EQ(reader.DataAsStrA(4711), "");
+  TDIUnicodeWriter writer;
+  EXPECT_TRUE(writer.WriteStrA("abc", 4711));
+  EXPECT_EQ(writer.DataSize(), 0u);
+}
+
+}  // namespace
+}  // namespace ravo::DIUnicode

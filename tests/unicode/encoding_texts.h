@@ -1,0 +1,46 @@
+#pragma once
+
+#include <ravo/unicode/encodings.h>
+
+#include <cstdint>
+#include <initializer_list>
+#include <optional>
+#include <string>
+#include <string_view>
+
+/// Bytes through a reader and text through a writer, for the tests of encodings.
+namespace ravo::test {
+
+inline std::span<const std::uint8_t> AsBytes(std::string_view bytes) {
+  return {reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size()};
+}
+
+/// Every character until the data end.
+inline std::u16string ReadAll(DIUnicode::TDIUnicodeReader& reader) {
+  std::u16string text;
+  while (reader.ReadChar()) text += reader.Char();
+  return text;
+}
+
+inline std::u16string Read(const DIUnicode::TDIUnicodeReadMethods& methods, std::string_view bytes) {
+  DIUnicode::TDIUnicodeReader reader;
+  reader.SetReadMethods(methods);
+  reader.SetSourceBuffer(AsBytes(bytes));
+  return ReadAll(reader);
+}
+
+inline std::string TextOf(std::span<const std::uint8_t> bytes) { return {bytes.begin(), bytes.end()}; }
+
+/// The bytes of a text, what is held back included; none where a character is refused.
+inline std::optional<std::string> Write(const DIUnicode::TDIUnicodeWriteMethods& methods,
+                                        std::u16string_view text) {
+  DIUnicode::TDIUnicodeWriter writer;
+  writer.SetWriteMethods(methods);
+  for (const char16_t ch : text) {
+    if (!writer.TryWriteCharW(ch)) return std::nullopt;
+  }
+  writer.FlushDataBuffer();
+  return TextOf(writer.Data());
+}
+
+}  // namespace ravo::test

@@ -1,0 +1,65 @@
+// What UTF-7 remembers between characters, and what it holds back.
+#include "encoding_texts.h"
+
+#include <gtest/gtest.h>
+
+namespace ravo::DIUnicode {
+namespace {
+
+using test::Write;
+
+TEST(Utf7State, IsARecordWhoseFirstByteTellsBase64) {
+  TDIUnicodeReader reader;
+  reader.SetReadMethods(Read_UTF_7);
+  ASSERT_NE(reader.State(), 0U);
+  const auto* const record = reinterpret_cast<const std::uint8_t*>(reader.State());
+  EXPECT_EQ(record[0], 0);
+  const std::string_view bytes = "+AGEAYg-";
+  reader.SetSourceBuffer(test::AsBytes(bytes));
+  EXPECT_TRUE(reader.ReadChar());
+  EXPECT_NE(record[0], 0);
+  EXPECT_EQ(test::ReadAll(reader), u"b");
+  EXPECT_EQ(record[0], 0);
+  reader.SetReadMethods(Read_UTF_8);
+  EXPECT_EQ(reader.State(), 0U);
+}
+
+TEST(Utf7State, IsMadeWhereInitWasNotCalled) {
+  TDIUnicodeReader reader;
+  reader.SetReadMethods({nullptr, Read_UTF_7_ReadChar, Read_UTF_7_Finalize});
+  EXPECT_EQ(reader.State(), 0U);
+  reader.SetSourceBuffer(test::AsBytes("+AGE-"));
+  EXPECT_EQ(test::ReadAll(reader), u"a");
+  TDIUnicodeWriter writer;
+  writer.SetWriteMethods({nullptr, Write_UTF_7_WriteChar, Write_UTF_7_Flush, Write_UTF_7_Finalize});
+  writer.FlushDataBuffer();
+  EXPECT_TRUE(writer.TryWriteCharW(u'ř'));
+  writer.FlushDataBuffer();
+  EXPECT_EQ(test::TextOf(writer.Data()), "+AVk-");
+}
+
+TEST(WriteUtf7, HoldsBackUntilFlushed) {
+  TDIUnicodeWriter writer;
+  writer.SetWriteMethods(Write_UTF_7);
+  EXPECT_TRUE(writer.TryWriteCharW(u'ř'));
+  EXPECT_EQ(test::TextOf(writer.Data()), "+AV");
+  writer.FlushDataBuffer();
+  EXPECT_EQ(test::TextOf(writer.Data()), "+AVk-");
+  writer.FlushDataBuffer();
+  EXPECT_TRUE(writer.TryWriteCharW(u'a'));
+  EXPECT_EQ(test::TextOf(writer.Data()), "+AVk-a");
+}
+
+TEST(WriteUtf7, ClosesARunWhereItMust) {
+  EXPECT_EQ(Write(Write_UTF_7, u"řa"), "+AVk-a");
+  EXPECT_EQ(Write(Write_UTF_7, u"ř-"), "+AVk--");
+  EXPECT_EQ(Write(Write_UTF_7, u"ř "), "+AVk ");
+  EXPECT_EQ(Write(Write_UTF_7, u"ř+"), "+AVkAKw-");
+  EXPECT_EQ(Write(Write_UTF_7, u"a+b"), "a+-b");
+  EXPECT_EQ(Write(Write_UTF_7, u"ř!"), "+AVkAIQ-");
+  EXPECT_EQ(Write(Write_UTF_7_ODC, u"ř!"), "+AVk!");
+  EXPECT_EQ(Write(Write_UTF_7_ODC, u"~\\"), "+AH4AXA-");
+}
+
+}  // namespace
+}  // namespace ravo::DIUnicode

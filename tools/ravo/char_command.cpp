@@ -1,0 +1,143 @@
+#include "commands.h"
+#include "json_text.h"
+#include <ravo/DIUnicode.h>
+#include <ravo/DIUtils.h>
+#include <ravo/RavoInterface.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace tool {
+namespace {
+
+namespace unicode = ravo::DIUnicode;
+namespace utils = ravo::DIUtils;
+
+struct CharOptions {
+  std::vector<std::string> characters;
+  bool json = false;
+};
+
+struct Category {
+  const char* name;
+  const char* words;
+  bool (*contains)(char16_t) noexcept;
+};
+
+constexpr Category kCategories[] = {
+    {"Lu", "upper-case letter", unicode::CharIsLetterUpperCaseW},
+    {"Ll", "lower-case letter", unicode::CharIsLetterLowerCaseW},
+    {"Lt", "title-case letter", unicode::CharIsLetterTitleCaseW},
+    {"Lm", "modifier letter", unicode::CharIsLetterModifierW},
+    {"Lo", "letter without case", unicode::CharIsLetterOtherW},
+    {"Mn", "mark that takes no room", unicode::CharIsMarkNon_SpacingW},
+    {"Mc", "mark that takes room", unicode::CharIsMarkSpacing_CombinedW},
+    {"Me", "enclosing mark", unicode::CharIsMarkEnclosingW},
+    {"Nd", "decimal digit", unicode::CharIsNumber_DecimalW},
+    {"Nl", "letter used as a number", unicode::CharIsNumber_LetterW},
+    {"No", "other number", unicode::CharIsNumber_OtherW},
+    {"Pc", "connector", unicode::CharIsPunctuation_ConnectorW},
+    {"Pd", "dash", unicode::CharIsPunctuation_DashW},
+    {"Ps", "opening punctuation", unicode::CharIsPunctuation_OpenW},
+    {"Pe", "closing punctuation", unicode::CharIsPunctuation_CloseW},
+    {"Pi", "initial quote", unicode::CharIsPunctuation_InitialQuoteW},
+    {"Pf", "final quote", unicode::CharIsPunctuation_FinalQuoteW},
+    {"Po", "other punctuation", unicode::CharIsPunctuation_OtherW},
+    {"Sm", "mathematical symbol", unicode::CharIsSymbolMathW},
+    {"Sc", "currency sign", unicode::CharIsSymbolCurrencyW},
+    {"Sk", "modifier symbol", unicode::CharIsSymbolModifierW},
+    {"So", "other symbol", unicode::CharIsSymbolOtherW},
+    {"Zs", "space", unicode::CharIsSeparatorSpaceW},
+    {"Zl", "line separator", unicode::CharIsSeparatorLineW},
+    {"Zp", "paragraph separator", unicode::CharIsSeparatorParagraphW},
+    {"Cc", "control character", unicode::CharIsOtherControlW},
+    {"Cf", "format character", unicode::CharIsOtherFormatW},
+    {"Cs", "half of a surrogate pair", unicode::CharIsOtherSurrogateW},
+    {"Co", "for private use", unicode::CharIsOtherPrivateUseW},
+    {"Cn", "unassigned", [](char16_t) noexcept { return true; }},
+};
+
+const Category& CategoryOf(char16_t c) {
+  const Category* category = kCategories;
+  while (!category->contains(c)) ++category;
+  return *category;
+}
+
+std::string Code(char16_t c) { return "U+" + utils::IntToHexA(std::int32_t{c}, 4); }
+
+std::string Codes(std::u16string_view units) {
+  std::string codes;
+  for (const char16_t c : units) codes += (codes.empty() ? "" : " ") + Code(c);
+  return codes;
+}
+
+Json Describe(char16_t c) {
+  const Category& category = CategoryOf(c);
+  Json facts = {{"character", Code(c)}};
+  if (!unicode::CharIsOtherW(c)) facts["text"] = ravo::ToUtf8({&c, 1});
+  facts["category"] = std::string(category.name) + ", " + category.words;
+  facts["class"] = unicode::CharCanonicalCombiningClassW(c);
+  facts["upper"] = Code(unicode::CharToUpperW(c));
+  facts["lower"] = Code(unicode::CharToLowerW(c));
+  facts["title"] = Code(unicode::CharToTitleW(c));
+  facts["fold"] = Code(unicode::CharToCaseFoldW(c));
+  const bool is_hangul = unicode::CharIsHangulW(c);
+  const std::u16string letters = unicode::CharDecomposeHangulW(c);
+  facts["canonical"] = Codes(is_hangul ? letters : unicode::CharDecomposeCanonicalStrW(c));
+  facts["compatible"] = Codes(is_hangul ? letters : unicode::CharDecomposeCompatibleStrW(c));
+  return facts;
+}
+
+// "U+" and four hexadecimal digits, or the characters of the word itself.
+std::u16string Units(const std::string& word) {
+  std::u16string text = ravo::FromUtf8(word);
+  if (!utils::StrSameStartI(text, u"U+") || text.size() < 3) return text;
+  const std::int32_t code = utils::HexToIntW(std::u16string_view(text).substr(2));
+  if (code < 0 || code > 0xFFFF) throw CLI::ValidationError("'" + word + "' is not from U+0000 to U+FFFF");
+  return {static_cast<char16_t>(code)};
+}
+
+std::string Text(const Json& facts) {
+  std::string text;
+  for (const auto& [name, value] : facts.items()) {
+    text += name + "\t" + (value.is_string() ? value.get<std::string>() : value.dump()) + "\n";
+  }
+  return text;
+}
+
+void Run(const CharOptions& options, Outcome& outcome) {
+  Json all = Json::array();
+  for (const std::string& word : options.characters) {
+    for (const char16_t c : Units(word)) all.push_back(Describe(c));
+  }
+  if (options.json) {
+    outcome.out = JsonText(all);
+    return;
+  }
+  for (const Json& facts : all) outcome.out += (outcome.out.empty() ? "" : "\n") + Text(facts);
+}
+
+constexpr const char* kFooter =
+    "Characters outside the plane of 65,536 are shown as the two halves that stand for them.\n"
+    "\n"
+    "Exit status: 0, or 2 wrong usage.\n"
+    "\n"
+    "Examples:\n"
+    "  ravo char č\n"
+    "  ravo char U+010D U+FB01\n"
+    "  ravo char --json Kč\n";
+
+}  // namespace
+
+void AddCharCommand(CLI::App& program, Outcome& outcome) {
+  CLI::App* command = program.add_subcommand("char", "Tells category, class, mappings and decompositions");
+  const auto options = std::make_shared<CharOptions>();
+  command->add_option("CHARACTER", options->characters, "Characters, or U+ and a hexadecimal number")
+      ->required();
+  command->add_flag("--json", options->json, "Write JSON");
+  command->footer(kFooter);
+  command->callback([options, &outcome] { Run(*options, outcome); });
+}
+
+}  // namespace tool

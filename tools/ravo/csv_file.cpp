@@ -1,0 +1,64 @@
+#include "csv_file.h"
+
+#include "foreign_text.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <filesystem>
+#include <stdexcept>
+#include <system_error>
+
+namespace tool {
+namespace {
+
+constexpr std::size_t kRowsBetweenShows = 4096;
+
+std::filesystem::path PathOf(const std::string& utf8) { return {std::u8string(utf8.begin(), utf8.end())}; }
+
+// 0 where it is not known.
+std::int64_t SizeOf(const std::string& name) {
+  std::error_code error;
+  const auto size = std::filesystem::file_size(PathOf(name), error);
+  return error ? 0 : static_cast<std::int64_t>(size);
+}
+
+}  // namespace
+
+CsvFile::CsvFile(const std::string& name, const std::string& doing, char delimiter)
+    : file_(PathOf(name), std::ios::binary),
+      reader_([this](std::span<char> to) { return ReadSome(to); }, delimiter),
+      progress_(doing + " " + name, SizeOf(name)) {
+  if (!file_) throw std::runtime_error("cannot be read");
+  if (!reader_.Next(fields_)) throw std::runtime_error("has no first row with the names of its columns");
+  for (const std::string_view field : fields_) columns_.push_back(ForeignText(field));
+}
+
+std::size_t CsvFile::Column(std::string_view name) const {
+  const auto found = std::ranges::find(columns_, name);
+  if (found == columns_.end()) {
+    throw CsvError(reader_.Line(), "there is no column '" + std::string(name) + "'");
+  }
+  return static_cast<std::size_t>(found - columns_.begin());
+}
+
+bool CsvFile::HasColumn(std::string_view name) const {
+  return std::ranges::find(columns_, name) != columns_.end();
+}
+
+bool CsvFile::Next() {
+  if (!reader_.Next(fields_)) return false;
+  if (fields_.size() != columns_.size()) {
+    throw CsvError(Line(),
+                   std::to_string(fields_.size()) + " fields, not " + std::to_string(columns_.size()));
+  }
+  if (++rows_ % kRowsBetweenShows == 0) progress_.Show(static_cast<std::int64_t>(reader_.BytesRead()));
+  return true;
+}
+
+std::size_t CsvFile::ReadSome(std::span<char> to) {
+  file_.read(to.data(), static_cast<std::streamsize>(to.size()));
+  if (file_.bad()) throw std::runtime_error("cannot be read to its end");
+  return static_cast<std::size_t>(file_.gcount());
+}
+
+}  // namespace tool

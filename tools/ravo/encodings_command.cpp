@@ -1,0 +1,90 @@
+#include "commands.h"
+#include "json_text.h"
+#include <ravo/DIUnicode.h>
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace tool {
+namespace {
+
+using ravo::DIUnicode::EncodingRow;
+
+struct EncodingOptions {
+  std::string wanted;
+  bool json = false;
+};
+
+std::string_view Ways(const EncodingRow& row) {
+  if (row.write == nullptr) return "reads";
+  return row.read == nullptr ? "writes" : "reads, writes";
+}
+
+std::string Line(const EncodingRow& row) {
+  const std::string code_page = row.code_page == 0 ? "" : std::to_string(row.code_page);
+  return std::string(row.name) + "\t" + std::string(row.label) + "\t" + code_page + "\t" +
+         std::string(Ways(row)) + "\t" + std::string(row.aliases) + "\n";
+}
+
+Json Aliases(std::string_view aliases) {
+  Json names = Json::array();
+  while (!aliases.empty()) {
+    const std::size_t length = std::min(aliases.find(' '), aliases.size());
+    names.push_back(aliases.substr(0, length));
+    aliases.remove_prefix(std::min(length + 1, aliases.size()));
+  }
+  return names;
+}
+
+Json RowJson(const EncodingRow& row) {
+  return {{"name", row.name},
+          {"label", row.label},
+          {"code_page", row.code_page == 0 ? Json() : Json(row.code_page)},
+          {"aliases", Aliases(row.aliases)},
+          {"reads", row.read != nullptr},
+          {"writes", row.write != nullptr},
+          {"notes", row.notes}};
+}
+
+void Run(const EncodingOptions& options, Outcome& outcome) {
+  const EncodingRow* const only = ravo::DIUnicode::FindEncoding(options.wanted);
+  Json rows = Json::array();
+  for (const EncodingRow& row : ravo::DIUnicode::EncodingRows()) {
+    if (!options.wanted.empty() && &row != only) continue;
+    outcome.out += Line(row);
+    rows.push_back(RowJson(row));
+  }
+  if (rows.empty()) {
+    outcome.err += "ravo: no encoding is called '" + options.wanted + "'\n";
+    outcome.answer = Answer::No;
+  }
+  if (options.json) outcome.out = JsonText(rows);
+}
+
+constexpr const char* kFooter =
+    "A line has the name, a label, the Windows code page number if there is one, whether the encoding is "
+    "read\n"
+    "and written, and other names. Names are found in any case, with or without what is no letter or digit.\n"
+    "\n"
+    "Exit status: 0 something is found, 1 nothing is, 2 wrong usage.\n"
+    "\n"
+    "Examples:\n"
+    "  ravo encodings                  all of them\n"
+    "  ravo encodings windows-1250     the one of that name, alias or code page number\n"
+    "  ravo encodings 852 --json\n";
+
+}  // namespace
+
+void AddEncodingsCommand(CLI::App& program, Outcome& outcome) {
+  const auto options = std::make_shared<EncodingOptions>();
+  CLI::App* const command =
+      program.add_subcommand("encodings", "Lists the encodings that text is read and written in");
+  command->add_option("NAME", options->wanted, "A name, another name or a code page number");
+  command->add_flag("--json", options->json, "A JSON array with all that is known of them");
+  command->footer(kFooter);
+  command->callback([options, &outcome] { Run(*options, outcome); });
+}
+
+}  // namespace tool

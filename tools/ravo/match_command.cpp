@@ -1,0 +1,50 @@
+#include "commands.h"
+#include <ravo/DIUtils.h>
+#include <ravo/RavoInterface.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace tool {
+namespace {
+
+struct MatchOptions {
+  std::string mask;
+  std::vector<std::string> texts;
+  bool ignore_case = false;
+};
+
+void Run(const MatchOptions& options, Outcome& outcome) {
+  const auto match = options.ignore_case ? ravo::DIUtils::StrMatchWildIW : ravo::DIUtils::StrMatchWildW;
+  const std::u16string mask = ravo::FromUtf8(options.mask);
+  for (const std::string& text : options.texts) {
+    if (match(ravo::FromUtf8(text), mask, u'*', u'?')) outcome.out += text + "\n";
+  }
+  if (!outcome.out.empty()) return;
+  outcome.err = "ravo: nothing matches '" + options.mask + "'\n";
+  outcome.answer = Answer::No;
+}
+
+constexpr const char* kFooter =
+    "Prints the texts that match as a whole. * stands for any run of characters, ? for one.\n"
+    "\n"
+    "Exit status: 0 when one matches, 1 when none does, 2 wrong usage.\n"
+    "\n"
+    "Examples:\n"
+    "  ravo match \"faktura-*.pdf\" faktura-1.pdf objednavka-1.pdf\n"
+    "  ravo match --ignore-case \"P??JEMKA*\" Příjemka\n";
+
+}  // namespace
+
+void AddMatchCommand(CLI::App& program, Outcome& outcome) {
+  CLI::App* command = program.add_subcommand("match", "Matches texts against a mask");
+  const auto options = std::make_shared<MatchOptions>();
+  command->add_option("MASK", options->mask, "The mask")->required();
+  command->add_option("TEXT", options->texts, "Texts")->required();
+  command->add_flag("--ignore-case", options->ignore_case, "Match without regard to case");
+  command->footer(kFooter);
+  command->callback([options, &outcome] { Run(*options, outcome); });
+}
+
+}  // namespace tool

@@ -1,0 +1,32 @@
+// Writes one of the pages. usage: ravo_pages man|bash FILE
+#include "pages.h"
+#include "program.h"
+
+#include <fstream>
+#include <iostream>
+
+namespace {
+
+std::string Page(const std::string& kind) {
+  CLI::App program;
+  tool::Outcome outcome;
+  tool::Describe(program, outcome);
+  if (kind == "man") return pages::ManPage(program, RAVO_VERSION);
+  return kind == "bash" ? pages::BashCompletion(program) : "";
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const std::string text = argc == 3 ? Page(argv[1]) : "";
+  if (text.empty()) {
+    std::cerr << "usage: ravo_pages man|bash FILE\n";
+    return 2;
+  }
+  std::ofstream file(argv[2], std::ios::binary);
+  file << text;
+  file.close();
+  if (file) return 0;
+  std::cerr << argv[2] << ": cannot be written\n";
+  return 2;
+}

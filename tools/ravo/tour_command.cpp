@@ -1,0 +1,100 @@
+#include "commands.h"
+#include "console.h"
+#include "program.h"
+
+#include <cstddef>
+#include <sstream>
+#include <string>
+
+namespace tool {
+namespace {
+
+// A stop of the tour: why one would type it, the command as typed, and how many lines of its answer to show.
+struct Stop {
+  const char* why;
+  const char* command;
+  std::size_t lines;
+};
+
+constexpr Stop kStops[] = {
+    {"Tables have numbers all over the suite; these are their names.", "table 71710 100121 72510", 10},
+    {"All that a module has.", "table --module DCF", 6},
+    {"How a choice reads in Czech.", "captions --plain", 8},
+    {"Is this a bank account? The weights of its digits say so.", "check banka 19-2000145399/0800", 4},
+    {"One digit mistyped: the exit status says no, and so does the answer.",
+     "check ean 4006381333931 4006381333932", 4},
+    {"Halves go away from zero, never through binary fractions.", "round 1.005 -1.005 2,675", 4},
+    {"Value-added tax to the nearest half crown, for a program to read.", "round 12,25 --dph P --json", 8},
+    {"The accounting period a month on, from the last day of January.", "date 2011-01-31 --month 1", 8},
+    {"Weeks, Easter and holidays.", "date 2024-03-28 --calendar", 12},
+    {"Street and house number, of an address as people write it.", "address \"Nádražní 1234/5\"", 4},
+    {"A name that every file system takes.", "backup-name \"%FIRMA%_%DATUM%.zip\" \"A/B: s.r.o.\"", 2},
+    {"A reproducible random text: the same everywhere for the same seed.", "random --seed 2024 --count 40",
+     2},
+    {"What the character tables know of a character.", "char č", 8},
+    {"Names against a mask, whatever the case.", "match --ignore-case \"p??jem*\" Příjemka Výdejka", 2},
+    {"A text on its way into an address of the web.", "url encode \"Kč & €\"", 2},
+    {"The suite's 8-bit encoding, by any of its names.", "encodings cp1250", 2},
+    {"The interfaces of the host's object model.", "interfaces IRavoSession", 6},
+    {"What support wants to know about this machine.", "report", 12},
+};
+
+struct Colours {
+  const char* heading = "";
+  const char* command = "";
+  const char* off = "";
+};
+
+Colours OfTerminal(bool on) { return on ? Colours{"\033[1m", "\033[32m", "\033[0m"} : Colours{}; }
+
+// The first lines of a text, and how many there are more.
+std::string Top(const std::string& text, std::size_t most) {
+  std::istringstream lines(text);
+  std::string top;
+  std::size_t count = 0;
+  for (std::string line; std::getline(lines, line); ++count)
+    if (count < most) top += line + "\n";
+  return count > most ? top + "... " + std::to_string(count - most) + " lines more\n" : top;
+}
+
+void Visit(const Stop& stop, const Colours& colours, Outcome& tour) {
+  const Outcome answer = Run(CLI::detail::split_up(stop.command));
+  tour.out += colours.heading + std::string("# ") + stop.why + colours.off + "\n";
+  tour.out += colours.command + std::string("$ ravo ") + stop.command + colours.off + "\n";
+  tour.out += Top(answer.out, stop.lines);
+  if (answer.answer == Answer::No) tour.out += "(exit status 1)\n";
+  tour.out += "\n";
+  // Nobody wants to be shown how not to call a program: such a stop is a mistake in the table above.
+  if (answer.answer != Answer::WrongUsage) return;
+  tour.err += answer.err;
+  tour.answer = Answer::WrongUsage;
+}
+
+constexpr const char* kFooter =
+    "Exit status: 0 once through, 2 wrong usage.\n"
+    "\n"
+    "Examples:\n"
+    "  ravo tour\n"
+    "  ravo tour --commands           what it would run, one command in a line\n";
+
+void Walk(bool commands_only, Outcome& outcome) {
+  const Colours colours = OfTerminal(ShowsColours(Channel::Out));
+  for (const Stop& stop : kStops)
+    if (commands_only)
+      outcome.out += std::string("ravo ") + stop.command + "\n";
+    else
+      Visit(stop, colours, outcome);
+  if (!commands_only) outcome.out += "ravo COMMAND --help says more, with examples.\n";
+}
+
+}  // namespace
+
+void AddTourCommand(CLI::App& program, Outcome& outcome) {
+  CLI::App* command = program.add_subcommand("tour", "Shows the commands at work, in a minute");
+  const auto commands_only = std::make_shared<bool>(false);
+  command->add_flag("--commands", *commands_only, "Only list what the tour runs");
+  command->footer(kFooter);
+  command->callback([commands_only, &outcome] { Walk(*commands_only, outcome); });
+}
+
+}  // namespace tool

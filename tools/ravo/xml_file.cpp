@@ -1,0 +1,120 @@
+#include "xml_file.h"
+
+#include "foreign_text.h"
+#include "progress.h"
+#include <ravo/RavoInterface.h>
+
+#include <array>
+#include <filesystem>
+#include <fstream>
+#include <span>
+#include <stdexcept>
+
+namespace tool {
+namespace {
+
+std::filesystem::path PathOf(const std::string& utf8) { return {std::u8string(utf8.begin(), utf8.end())}; }
+
+// A file as a stream that shows how far it was read.
+class ShownFile final : public ravo::ByteStream {
+ public:
+  explicit ShownFile(const std::string& name)
+      : file_(PathOf(name), std::ios::binary), size_(SizeOf(name)), progress_("reading " + name, size_) {
+    if (!file_) throw std::runtime_error("cannot be read");
+  }
+
+  [[nodiscard]] std::size_t Read(std::span<std::byte> to) override {
+    file_.read(reinterpret_cast<char*>(to.data()), static_cast<std::streamsize>(to.size()));
+    if (file_.bad()) throw std::runtime_error("cannot be read to its end");
+    const auto count = static_cast<std::size_t>(file_.gcount());
+    position_ += static_cast<std::int64_t>(count);
+    progress_.Show(position_);
+    return count;
+  }
+  [[nodiscard]] std::size_t Write(std::span<const std::byte>) override { return 0; }
+  [[nodiscard]] std::int64_t Position() const override { return position_; }
+  void SetPosition(std::int64_t position) override {
+    file_.clear();
+    file_.seekg(position);
+    position_ = position;
+  }
+  [[nodiscard]] std::int64_t Size() const override { return size_; }
+
+ private:
+  static std::int64_t SizeOf(const std::string& name) {
+    std::error_code error;
+    if (std::filesystem::is_directory(PathOf(name), error)) throw std::runtime_error("is a folder");
+    const auto size = std::filesystem::file_size(PathOf(name), error);
+    return error ? 0 : static_cast<std::int64_t>(size);
+  }
+
+  std::ifstream file_;
+  std::int64_t size_;
+  std::int64_t position_ = 0;
+  Progress progress_;
+};
+
+template <class Work>
+auto WithFile(const std::string& name, Work work) {
+  try {
+    ShownFile file(name);
+    return work(file);
+  } catch (const std::exception& error) {
+    throw std::runtime_error(name + ": " + error.what());
+  }
+}
+
+// Steps over the mark of UTF-8 that some programs begin a file with; false where there is none.
+bool StepOverMark(ShownFile& file) {
+  std::array<char, 3> beginning{};
+  std::size_t size = 0;
+  while (size < beginning.size()) {
+    const std::size_t count = file.Read(std::as_writable_bytes(std::span(beginning).subspan(size)));
+    if (count == 0) break;
+    size += count;
+  }
+  const bool marked = std::string_view(beginning.data(), size) == "\xEF\xBB\xBF";
+  if (!marked) file.SetPosition(0);
+  return marked;
+}
+
+}  // namespace
+
+std::string XmlWords::Shown(std::u16string_view text) const {
+  return utf8_ ? ForeignText(ravo::platform::CurrentMachine().ToCodePage(text)) : ravo::ToUtf8(text);
+}
+
+std::u16string XmlWords::Kept(const std::string& utf8) const {
+  const auto& machine = ravo::platform::CurrentMachine();
+  std::u16string text = utf8_ ? machine.FromCodePage(utf8) : ravo::FromUtf8(utf8);
+  const std::string bytes = machine.ToCodePage(text);
+  if (utf8_ ? bytes != utf8 : machine.FromCodePage(bytes) != text) {
+    throw std::runtime_error("'" + utf8 + "' cannot be written in the encoding of the document");
+  }
+  return text;
+}
+
+XmlWords LoadXmlFile(const std::string& name, ravo::ECXMLParser::TECXMLParser& parser) {
+  return WithFile(name, [&](ShownFile& file) {
+    const bool marked = StepOverMark(file);
+    parser.Root()->LoadFromStream(file);
+    return XmlWords(marked || ravo::SameAsciiText(parser.Encoding(), u"utf-8"));
+  });
+}
+
+void ReadXmlTokens(const std::string& name,
+                   const std::function<void(const ravo::ECXMLTokenizer::TXMLTokenizer&)>& take) {
+  WithFile(name, [&](ShownFile& file) {
+    ravo::ECXMLTokenizer::TXMLTokenizer tokenizer(file);
+    for (; tokenizer.Token() != ravo::ECXMLTokenizer::xtEndOfInput; tokenizer.NextToken()) take(tokenizer);
+  });
+}
+
+std::string SavedXml(ravo::ECXMLParser::TECXMLParser& parser) {
+  ravo::MemoryStream stream;
+  parser.SaveToStream(stream, false);
+  const auto bytes = stream.Bytes();
+  return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
+}
+
+}  // namespace tool
