@@ -1,6 +1,7 @@
 #pragma once
 
-/// General utilities: strings and buffers, calendar, checksums, hashes, random numbers.
+/// General utilities: strings and buffers, calendar, checksums, hashes, random numbers, files
+/// and folders, the environment.
 #include <ravo/utils/ansi_upper.h>
 #include <ravo/utils/calendar.h>
 #include <ravo/utils/checksums.h>
@@ -27,5 +28,5 @@
 #include <ravo/utils/strings/utf8.h>
 #include <ravo/utils/strings/wildcards.h>
 #include <ravo/utils/strings/words.h>
-#include <ravo/utils/wide_str_buf.h>
 #include <ravo/utils/whole_files.h>
+#include <ravo/utils/wide_str_buf.h>

@@ -1,12 +1,12 @@
 #include <ravo/utils/ansi_text.h>
 #include <ravo/utils/environment.h>
+#include <ravo/utils/strings/narrow.h>
 
 namespace ravo::DIUtils {
 namespace {
 
 using platform::CurrentMachine;
 using platform::RegistryRoot;
-using utils::Narrow;
 using utils::Wide;
 
 constexpr std::u16string_view kCurrentVersion = u"Software\\Microsoft\\Windows NT\\CurrentVersion";
@@ -21,7 +21,7 @@ std::u16string RegReadStrDef(RegistryRoot root, std::u16string_view key, std::u1
 }
 std::string RegReadStrDefA(RegistryRoot root, std::string_view key, std::string_view value,
                            std::string_view fallback) {
-  return Narrow(RegReadStrDefW(root, Wide(key), Wide(value), Wide(fallback)));
+  return WStrToAStr(RegReadStrDefW(root, Wide(key), Wide(value), Wide(fallback)));
 }
 std::u16string RegReadStrDefW(RegistryRoot root, std::u16string_view key, std::u16string_view value,
                               std::u16string_view fallback) {
@@ -34,18 +34,18 @@ std::u16string RegReadStrDefW(RegistryRoot root, std::u16string_view key, std::u
   return std::move(*text);
 }
 
-std::string RegReadRegisteredOwnerA() { return Narrow(RegReadRegisteredOwnerW()); }
+std::string RegReadRegisteredOwnerA() { return WStrToAStr(RegReadRegisteredOwnerW()); }
 std::u16string RegReadRegisteredOwnerW() {
   return RegReadStrDefW(RegistryRoot::LocalMachine, kCurrentVersion, u"RegisteredOwner", u"");
 }
 
-std::string RegReadRegisteredOrganizationA() { return Narrow(RegReadRegisteredOrganizationW()); }
+std::string RegReadRegisteredOrganizationA() { return WStrToAStr(RegReadRegisteredOrganizationW()); }
 std::u16string RegReadRegisteredOrganizationW() {
   return RegReadStrDefW(RegistryRoot::LocalMachine, kCurrentVersion, u"RegisteredOrganization", u"");
 }
 
 std::u16string SysErrorMessage(std::uint32_t code) { return SysErrorMessageW(code); }
-std::string SysErrorMessageA(std::uint32_t code) { return Narrow(SysErrorMessageW(code)); }
+std::string SysErrorMessageA(std::uint32_t code) { return WStrToAStr(SysErrorMessageW(code)); }
 std::u16string SysErrorMessageW(std::uint32_t code) {
   std::u16string text = CurrentMachine().ErrorText(code);
   while (!text.empty() && IsBehindASentence(text.back())) text.pop_back();
@@ -59,7 +59,7 @@ std::u16string LastSysErrorMessageW() { return SysErrorMessageW(CurrentMachine()
 bool GetUserNameA(std::string& name) {
   std::u16string wide;
   const bool known = GetUserNameW(wide);
-  name = Narrow(wide);
+  name = WStrToAStr(wide);
   return known;
 }
 bool GetUserNameW(std::u16string& name) {

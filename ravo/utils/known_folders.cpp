@@ -2,6 +2,7 @@
 #include <ravo/utils/ansi_text.h>
 #include <ravo/utils/file_names.h>
 #include <ravo/utils/folders.h>
+#include <ravo/utils/strings/narrow.h>
 
 #include <algorithm>
 
@@ -9,7 +10,6 @@ namespace ravo::DIUtils {
 namespace {
 
 using platform::CurrentMachine;
-using utils::Narrow;
 using utils::Wide;
 
 constexpr std::int32_t kDesktop = 0;
@@ -25,7 +25,7 @@ std::u16string InOurForm(std::u16string name) {
 }  // namespace
 
 std::u16string GetCurrentFolder() { return GetCurrentFolderW(); }
-std::string GetCurrentFolderA() { return Narrow(GetCurrentFolderW()); }
+std::string GetCurrentFolderA() { return WStrToAStr(GetCurrentFolderW()); }
 std::u16string GetCurrentFolderW() { return InOurForm(CurrentMachine().Files().CurrentFolder()); }
 
 bool SetCurrentFolder(std::u16string_view folder) { return SetCurrentFolderW(folder); }
@@ -34,13 +34,13 @@ bool SetCurrentFolderW(std::u16string_view folder) {
   return CurrentMachine().Files().SetCurrentFolder(folder);
 }
 
-std::string ExpandFileNameA(std::string_view name) { return Narrow(ExpandFileNameW(Wide(name))); }
+std::string ExpandFileNameA(std::string_view name) { return WStrToAStr(ExpandFileNameW(Wide(name))); }
 std::u16string ExpandFileNameW(std::u16string_view name) {
   return InOurForm(CurrentMachine().FullPath(name.substr(0, name.find(u'\0'))));
 }
 
 std::u16string GetSpecialFolder(std::int32_t number) { return GetSpecialFolderW(number); }
-std::string GetSpecialFolderA(std::int32_t number) { return Narrow(GetSpecialFolderW(number)); }
+std::string GetSpecialFolderA(std::int32_t number) { return WStrToAStr(GetSpecialFolderW(number)); }
 std::u16string GetSpecialFolderW(std::int32_t number) {
   std::u16string folder = InOurForm(CurrentMachine().ShellFolder(number));
   if (!folder.empty()) IncludeTrailingPathDelimiterByRefW(folder);
@@ -59,7 +59,7 @@ std::string GetDesktopDirectoryFolderA() { return GetSpecialFolderA(kDesktopDire
 std::u16string GetDesktopDirectoryFolderW() { return GetSpecialFolderW(kDesktopDirectory); }
 
 std::u16string GetTempFolder() { return GetTempFolderW(); }
-std::string GetTempFolderA() { return Narrow(GetTempFolderW()); }
+std::string GetTempFolderA() { return WStrToAStr(GetTempFolderW()); }
 std::u16string GetTempFolderW() {
   return InOurForm(CurrentMachine().Folder(platform::SystemFolder::Temporary));
 }

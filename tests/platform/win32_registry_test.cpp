@@ -1,5 +1,6 @@
 #ifdef _WIN32
 
+#include "support/scratch_key_win32.h"
 #include <ravo/platform/machine.h>
 #include <ravo/runtime/error.h>
 
@@ -9,37 +10,10 @@
 namespace ravo::platform {
 namespace {
 
-// Several copies of this program may run at once.
-std::wstring ScratchPath() {
-  return L"Software\\RavoInterface test " + std::to_wstring(GetCurrentProcessId());
-}
-
-// A key of the current user that goes with this object, unless a test was faster.
-class ScratchKey {
- public:
-  ScratchKey() {
-    EXPECT_EQ(RegCreateKeyExW(HKEY_CURRENT_USER, ScratchPath().c_str(), 0, nullptr, 0, KEY_ALL_ACCESS,
-                              nullptr, &key_, nullptr),
-              ERROR_SUCCESS);
-  }
-  ~ScratchKey() {
-    Delete();
-    RegCloseKey(key_);
-  }
-
-  void Set(const wchar_t* name, DWORD type, const void* data, std::size_t size) const {
-    EXPECT_EQ(RegSetValueExW(key_, name, 0, type, static_cast<const BYTE*>(data), static_cast<DWORD>(size)),
-              ERROR_SUCCESS);
-  }
-  static void Delete() { RegDeleteKeyW(HKEY_CURRENT_USER, ScratchPath().c_str()); }
-
- private:
-  HKEY key_ = nullptr;
-};
+using test::ScratchKey;
 
 std::unique_ptr<RegistryKey> OpenScratchKey() {
-  const std::wstring path = ScratchPath();
-  return CurrentMachine().OpenKey(RegistryRoot::CurrentUser, std::u16string(path.begin(), path.end()));
+  return CurrentMachine().OpenKey(RegistryRoot::CurrentUser, ScratchKey::Path());
 }
 
 std::string Chars(const std::optional<std::vector<std::byte>>& bytes) {

@@ -106,5 +106,45 @@ TEST(PosixMachineFolder, DocumentsForEveryone) {
   EXPECT_EQ(machine.Folder(SystemFolder::CommonDocuments), u"/srv/first");
 }
 
+TEST(PosixMachineShellFolder, IsWhatTheUserCallsSo) {
+  const test::ScratchFolder home;
+  home.Write(".config/user-dirs.dirs", "XDG_DESKTOP_DIR=\"$HOME/Plocha\"\nXDG_DOCUMENTS_DIR=\"/srv/doc\"\n");
+  const std::string path = home.Path().string();
+  const ScopedEnvironment variable("HOME", path.c_str());
+  const ScopedEnvironment configuration("XDG_CONFIG_HOME", nullptr);
+  const ScopedEnvironment data("XDG_DATA_HOME", "/srv/data");
+  const PosixMachine machine;
+  const std::u16string folder = home.Path().u16string();
+  struct Row {
+    std::int32_t number;
+    std::u16string result;
+  };
+  const Row rows[] = {{0, folder + u"/Plocha"},
+                      {16, folder + u"/Plocha"},
+                      {5, u"/srv/doc"},
+                      {13, folder},
+                      {14, folder},
+                      {21, folder},
+                      {39, folder},
+                      {26, folder + u"/.config"},
+                      {28, u"/srv/data"},
+                      {40, folder},
+                      {36, u"/usr"},
+                      {37, u"/usr/lib"},
+                      {46, u""},
+                      {1, u""},
+                      {-1, u""}};
+  for (const Row& row : rows) EXPECT_EQ(machine.ShellFolder(row.number), row.result) << row.number;
+}
+
+TEST(PosixMachineShellFolder, OfADesktopThatNobodyNamed) {
+  const test::ScratchFolder home;
+  const std::string path = home.Path().string();
+  const ScopedEnvironment variable("HOME", path.c_str());
+  const ScopedEnvironment configuration("XDG_CONFIG_HOME", nullptr);
+  EXPECT_EQ(PosixMachine().ShellFolder(16), home.Path().u16string() + u"/Desktop");
+  EXPECT_EQ(PosixMachine().ShellFolder(5), home.Path().u16string());
+}
+
 }  // namespace
 }  // namespace ravo::platform::posix

@@ -1,0 +1,105 @@
+#include "support/scratch_folder.h"
+#include "support/suite_name.h"
+#include <ravo/DIUtils.h>
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+namespace ravo::DIUtils {
+namespace {
+
+using test::ScratchFolder;
+using test::SuiteName;
+
+// A tree with links to what is outside of it: a folder, an empty folder, a file, nothing, and itself.
+void FillWithLinks(const ScratchFolder& scratch) {
+  const auto& path = scratch.Path();
+  scratch.Write("outside/folder/kept", "1");
+  create_directories(path / "outside/empty");
+  create_directories(path / "tree/below");
+  create_directory_symlink(path / "outside/folder", path / "tree/folder");
+  create_directory_symlink("../../outside/folder", path / "tree/below/folder");
+  create_directory_symlink(path / "outside/empty", path / "tree/empty");
+  create_symlink(path / "outside/folder/kept", path / "tree/file");
+  create_symlink("nowhere", path / "tree/nothing");
+  create_directory_symlink(".", path / "tree/below/itself");
+}
+
+bool OutsideIsWhole(const ScratchFolder& scratch) {
+  return exists(scratch.Path() / "outside/folder/kept") && is_directory(scratch.Path() / "outside/empty");
+}
+
+TEST(DeleteDirectory, FollowsNoLinkOutOfTheFolder) {
+  const ScratchFolder scratch;
+  FillWithLinks(scratch);
+  EXPECT_TRUE(DeleteDirectoryW(SuiteName(scratch.Path() / "tree"), false));
+  EXPECT_TRUE(is_empty(scratch.Path() / "tree"));
+  EXPECT_TRUE(OutsideIsWhole(scratch));
+  remove_all(scratch.Path() / "tree");
+  FillWithLinks(scratch);
+  EXPECT_TRUE(DeleteDirectoryW(SuiteName(scratch.Path() / "tree"), true));
+  EXPECT_FALSE(exists(scratch.Path() / "tree"));
+  EXPECT_TRUE(OutsideIsWhole(scratch));
+}
+
+TEST(DeleteDirectory, OfALinkIsTheLinkAlone) {
+  const ScratchFolder scratch;
+  for (const std::u16string_view end : {u"", u"\\"}) {
+    FillWithLinks(scratch);
+    EXPECT_TRUE(DeleteDirectoryW(SuiteName(scratch.Path() / "tree/folder") + std::u16string(end), true));
+    EXPECT_FALSE(is_symlink(symlink_status(scratch.Path() / "tree/folder")));
+    EXPECT_TRUE(OutsideIsWhole(scratch));
+    remove_all(scratch.Path() / "tree");
+  }
+}
+
+TEST(DeleteDirectory, RefusesTheRootUnderAnyName) {
+  for (const std::u16string_view root : {u"/", u"\\.", u"C:\\.", u"//", u"/usr/.."}) {
+    EXPECT_FALSE(platform::CurrentMachine().Files().DeleteFolder(root, platform::FolderPart::Whole));
+  }
+}
+
+TEST(DeleteFile, OfALinkIsTheLinkAlone) {
+  const ScratchFolder scratch;
+  FillWithLinks(scratch);
+  EXPECT_TRUE(DeleteFileW(SuiteName(scratch.Path() / "tree/file")));
+  EXPECT_TRUE(DeleteFileW(SuiteName(scratch.Path() / "tree/nothing")));
+  EXPECT_TRUE(OutsideIsWhole(scratch));
+}
+
+TEST(FileExists, FollowsLinks) {
+  const ScratchFolder scratch;
+  FillWithLinks(scratch);
+  EXPECT_TRUE(FileExistsW(SuiteName(scratch.Path() / "tree/file")));
+  EXPECT_TRUE(DirectoryExistsW(SuiteName(scratch.Path() / "tree/folder")));
+  EXPECT_FALSE(FileExistsW(SuiteName(scratch.Path() / "tree/nothing")));
+}
+
+TEST(SaveBuf, HasTheRightsThatTheUserGives) {
+  const ScratchFolder scratch;
+  const mode_t before = umask(027);
+  EXPECT_TRUE(SaveStrAToFileW("x", scratch.File(u"file")));
+  EXPECT_TRUE(ForceDirectoriesW(SuiteName(scratch.Path() / "folder")));
+  umask(before);
+  struct stat facts {};
+  ASSERT_EQ(stat((scratch.Path() / "file").c_str(), &facts), 0);
+  EXPECT_EQ(facts.st_mode & 0777u, 0640u);
+  ASSERT_EQ(stat((scratch.Path() / "folder").c_str(), &facts), 0);
+  EXPECT_EQ(facts.st_mode & 0777u, 0750u);
+}
+
+TEST(LoadStr, ReadsFilesThatTellNoSize) {
+  std::string text;
+  ASSERT_TRUE(LoadStrAFromFileW(u"/proc/self/status", text));
+  EXPECT_TRUE(text.starts_with("Name:"));
+  EXPECT_TRUE(text.ends_with('\n'));
+}
+
+TEST(SysErrorMessage, HasTheWordsOfTheSystem) {
+  // The word that every language's text of this code is about, in the language of this process.
+  EXPECT_EQ(SysErrorMessageW(2), u"No such file or directory");
+  EXPECT_EQ(SysErrorMessageW(0), u"");
+}
+
+}  // namespace
+}  // namespace ravo::DIUtils

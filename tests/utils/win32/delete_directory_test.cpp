@@ -1,0 +1,90 @@
+#include "support/scratch_folder.h"
+#include "support/suite_name.h"
+#include <ravo/DIUtils.h>
+
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <shellapi.h>
+
+namespace ravo::DIUtils {
+namespace {
+
+using test::ScratchFolder;
+using test::SuiteName;
+
+TEST(DeleteDirectory, AFileInUseStays) {
+  const ScratchFolder scratch;
+  scratch.Write("tree/used", "x");
+  const HANDLE file = CreateFileW((scratch.Path() / "tree/used").c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
+                                  OPEN_EXISTING, 0, nullptr);
+  ASSERT_NE(file, INVALID_HANDLE_VALUE);
+  EXPECT_FALSE(DeleteDirectoryW(SuiteName(scratch.Path() / "tree"), true));
+  EXPECT_TRUE(exists(scratch.Path() / "tree/used"));
+  CloseHandle(file);
+  EXPECT_TRUE(DeleteDirectoryW(SuiteName(scratch.Path() / "tree"), true));
+}
+
+// The shell decides: Wine's makes such a file writable and deletes it, as that of Windows does without a
+// question.
+TEST(DeleteDirectory, AReadOnlyFileIsTheShellsToDecide) {
+  const ScratchFolder scratch;
+  scratch.Write("tree/file", "x");
+  ASSERT_TRUE(SetFileAttributesW((scratch.Path() / "tree/file").c_str(), FILE_ATTRIBUTE_READONLY));
+  const bool deleted = DeleteDirectoryW(SuiteName(scratch.Path() / "tree"), true);
+  EXPECT_EQ(deleted, !exists(scratch.Path() / "tree/file"));
+  SetFileAttributesW((scratch.Path() / "tree/file").c_str(), FILE_ATTRIBUTE_NORMAL);
+}
+
+// What is under the recycle bins of this drive, which Wine keeps where the desktop does.
+std::size_t CountInRecycleBin() {
+  SHQUERYRBINFO bin{};
+  bin.cbSize = sizeof bin;
+  return SHQueryRecycleBinW(nullptr, &bin) == S_OK ? static_cast<std::size_t>(bin.i64NumItems) : 0;
+}
+
+TEST(DeleteDirectory, NothingGoesIntoTheRecycleBin) {
+  const ScratchFolder scratch;
+  scratch.Write("tree/file", "x");
+  const std::size_t before = CountInRecycleBin();
+  EXPECT_TRUE(DeleteDirectoryW(SuiteName(scratch.Path() / "tree"), true));
+  EXPECT_EQ(CountInRecycleBin(), before);
+}
+
+// Makes a link to a folder by a program of the system that Wine runs on; false where there is none.
+bool MakeLink(const std::filesystem::path& folder, const wchar_t* target) {
+  STARTUPINFOW start{};
+  start.cb = sizeof start;
+  PROCESS_INFORMATION process{};
+  std::wstring command = std::wstring(L"ln -s ") + target + L" link";
+  if (!CreateProcessW(L"Z:\\bin\\ln", command.data(), nullptr, nullptr, FALSE, 0, nullptr, folder.c_str(), &start,
+                      &process)) {
+    return false;
+  }
+  // The program runs outside of Wine: its process is no measure of when it ends.
+  for (int i = 0; i < 500 && !exists(folder / "link"); ++i) Sleep(10);
+  CloseHandle(process.hThread);
+  CloseHandle(process.hProcess);
+  return exists(folder / "link");
+}
+
+// Wine 8.0 shows links of the system that it runs on without saying where they lead, and its shell and its
+// calls follow them whatever they are asked: a folder with such a link stays as it is. Of links to files it
+// tells nothing at all, so that nobody can do anything about these.
+TEST(DeleteDirectory, FollowsNoLinkOutOfTheFolder) {
+  const ScratchFolder scratch;
+  scratch.Write("outside/kept", "1");
+  scratch.Write("tree/below/file", "2");
+  if (!MakeLink(scratch.Path() / "tree/below", L"../../outside")) GTEST_SKIP() << "no links can be made here";
+  EXPECT_FALSE(DeleteDirectoryW(SuiteName(scratch.Path() / "tree"), true));
+  EXPECT_FALSE(DeleteDirectoryW(SuiteName(scratch.Path() / "tree"), false));
+  EXPECT_FALSE(DeleteDirectoryW(SuiteName(scratch.Path() / "tree/below/link"), true));
+  EXPECT_TRUE(exists(scratch.Path() / "outside/kept"));
+  EXPECT_TRUE(exists(scratch.Path() / "tree/below/file"));
+  // The folder's own end would follow the link.
+  rename(scratch.Path() / "outside", scratch.Path() / "elsewhere");
+  EXPECT_TRUE(exists(scratch.Path() / "elsewhere/kept"));
+}
+
+}  // namespace
+}  // namespace ravo::DIUtils

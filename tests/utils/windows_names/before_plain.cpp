@@ -1,0 +1,10 @@
+#undef UNICODE
+#undef _UNICODE
+#include <ravo/DIUtils.h>
+#include <ravo/platform/machine.h>
+
+#include <windows.h>
+
+namespace names_before_plain {
+#include "calls.inc"
+}
