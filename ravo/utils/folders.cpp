@@ -13,9 +13,7 @@ namespace {
 constexpr std::size_t kShortestFolder = 3;
 
 // "C:", and what no system can delete without what is on it.
-bool IsDrive(std::u16string_view folder) {
-  return folder.size() == 2 && folder.back() == u':';
-}
+bool IsDrive(std::u16string_view folder) { return folder.size() == 2 && folder.back() == u':'; }
 
 }  // namespace
 

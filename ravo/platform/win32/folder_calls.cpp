@@ -2,9 +2,8 @@
 #include <ravo/platform/win32/wide.h>
 #include <ravo/platform/win32/win32_file_system.h>
 
-#include <windows.h>
-
 #include <shellapi.h>
+#include <windows.h>
 
 namespace ravo::platform {
 namespace {

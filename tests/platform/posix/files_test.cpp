@@ -89,7 +89,7 @@ TEST(PosixMachineFiles, FindsFilesAndFolders) {
   EXPECT_EQ(machine.FindFile(u"..")->attributes & 0x12u, 0x10u);
   EXPECT_EQ(machine.FindFile(u".")->attributes & 0x12u, 0x10u);
   folder.Write(".folder/file", "");
-  EXPECT_EQ(machine.FindFile(folder.File(u".folder/"))->attributes, 0x12u);
+  EXPECT_EQ(machine.FindFile(folder.File(u".folder"))->attributes, 0x12u);
   EXPECT_FALSE(machine.FindFile(folder.File(u"missing")));
   EXPECT_FALSE(machine.FindFile(u""));
   EXPECT_FALSE(machine.FindFile(folder.File(u"file") + std::u16string(u"\0x", 2)));

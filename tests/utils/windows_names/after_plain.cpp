@@ -1,9 +1,9 @@
 #undef UNICODE
 #undef _UNICODE
-#include <windows.h>
-
 #include <ravo/DIUtils.h>
 #include <ravo/platform/machine.h>
+
+#include <windows.h>
 
 namespace names_after_plain {
 #include "calls.inc"
