@@ -80,7 +80,7 @@ class RAVO_API FileSystem {
                                                          std::span<const std::byte> from) const = 0;
 
   /// Makes midnight (UTC) of a day the time of creation, of the last access and of the last write. False
-  /// where the system fails and for a day that is in no calendar of the years 1601 to 30827.
+  /// where the system fails; a day that the calendar lacks is the caller's to avoid.
   virtual bool SetTimes(FileHandle file, std::uint16_t year, std::uint16_t month,
                         std::uint16_t day) const = 0;
 };

@@ -4,12 +4,17 @@
 #include <ravo/utils/folders.h>
 #include <ravo/utils/open_file.h>
 
-#include <limits>
-
 namespace ravo::DIUtils {
+namespace {
 
 using platform::FilePurpose;
 using utils::Wide;
+
+// The years that times of files can have.
+constexpr std::int32_t kFirstYear = 1601;
+constexpr std::int32_t kLastYear = 30827;
+
+}  // namespace
 
 bool FileExists(std::u16string_view name) { return FileExistsW(name); }
 bool FileExistsA(std::string_view name) { return FileExistsW(Wide(name)); }
@@ -26,7 +31,8 @@ std::int64_t GetFileSizeW(std::u16string_view name) {
 }
 
 bool SetFileDate(FileHandle file, std::int32_t year, std::uint16_t month, std::uint16_t day) {
-  if (!std::in_range<std::uint16_t>(year)) return false;
+  // Not every system refuses such days.
+  if (year < kFirstYear || year > kLastYear || !IsDateValid(year, month, day)) return false;
   return platform::CurrentMachine().Files().SetTimes(file, static_cast<std::uint16_t>(year), month, day);
 }
 
@@ -44,9 +50,8 @@ bool SetFileDateYmdW(std::u16string_view name, std::int32_t year, std::uint16_t 
 bool SetFileDate(std::u16string_view name, TJulianDate date) { return SetFileDateW(name, date); }
 bool SetFileDateA(std::string_view name, TJulianDate date) { return SetFileDateW(Wide(name), date); }
 bool SetFileDateW(std::u16string_view name, TJulianDate date) {
-  constexpr std::int32_t last_year = std::numeric_limits<std::uint16_t>::max();
-  // Days that the calendar's formulas need not reach.
-  if (date < YmdToJulianDate(0, 1, 1) || date > YmdToJulianDate(last_year, 12, 31)) return false;
+  // The calendar's formulas do not reach every day.
+  if (date < YmdToJulianDate(kFirstYear, 1, 1) || date > YmdToJulianDate(kLastYear, 12, 31)) return false;
   std::int32_t year = 0;
   std::uint16_t month = 0;
   std::uint16_t day = 0;

@@ -28,8 +28,8 @@ namespace ravo::DIUtils {
 [[nodiscard]] RAVO_API std::int64_t GetFileSizeW(std::u16string_view name);
 
 /// Gives an open file midnight (UTC) of a day as the time of its creation, of its last access and of its last
-/// write, as far as the system keeps them. False where the system refuses, and for a year outside 1601 to
-/// 30827 or a day that its calendar lacks. The file stays open.
+/// write, as far as the system and the disk can keep them. False where the system refuses, and for a year
+/// outside 1601 to 30827 or a day that the calendar lacks. The file stays open.
 RAVO_API bool SetFileDate(FileHandle file, std::int32_t year, std::uint16_t month, std::uint16_t day);
 
 /// The same for a file or folder that exists; false also where it cannot be opened for writing.

@@ -53,11 +53,13 @@ class Program:
         self.command, self.folder = command, folder
         self.emulated = len(command) > 1
 
-    def run(self, arguments, out=None):
+    def run(self, arguments, out=None, given=None):
+        """`given` is the name of a file that is standard input."""
         # Into files: the servers that an emulator leaves behind would hold pipes open for seconds.
-        with tempfile.TemporaryFile() as own_out, tempfile.TemporaryFile() as err:
+        source = self.folder / given if given else os.devnull
+        with open(source, "rb") as own_in, tempfile.TemporaryFile() as own_out, tempfile.TemporaryFile() as err:
             done = subprocess.run(
-                self.command + arguments, cwd=self.folder, stdin=subprocess.DEVNULL, stdout=out or own_out, stderr=err, timeout=300
+                self.command + arguments, cwd=self.folder, stdin=own_in, stdout=out or own_out, stderr=err, timeout=300
             )
             texts = []
             for file in (own_out, err):
@@ -393,7 +395,10 @@ ROWS = [
     Row(["url"], WRONG_USAGE),
     Row(["url", "encode"], WRONG_USAGE),
     Row(["hash", "--help"], out=("crc32, hash, hash-ia", "--check", "--all", "Examples:")),
-    Row(["hash", "crc32"], WRONG_USAGE),
+    # Standard input, which is empty here.
+    Row(["hash", "crc32"], exact="00000000  -\n"),
+    Row(["hash", "crc32", "-"], exact="00000000  -\n"),
+    Row(["hash", "--check"], WRONG_USAGE, exact="", err=("-: no line of it is a sum",)),
     Row(["hash"], WRONG_USAGE),
     Row(["hash", "md5", "x"], WRONG_USAGE, err=("crc32, hash, hash-ia",)),
     Row(["hash", "crc32", "missing"], WRONG_USAGE, exact="", err=("missing: cannot be read",)),
@@ -494,6 +499,10 @@ def check_sums(program):
     wanted = "".join(f"{zlib.crc32(content):08X}  {name}\n" for name, content in contents.items())
     if (result.status, result.out, result.err) != (YES, wanted, ""):
         yield f"hash crc32: {result}"
+    for words in (["hash", "crc32"], ["hash", "crc32", "-"]):
+        result = program.run(words, given="large")
+        if (result.status, result.out, result.err) != (YES, f"{zlib.crc32(contents['large']):08X}  -\n", ""):
+            yield f"hash of standard input: {result}"
     labelled = program.run(["hash", "--all", "check 1"]).out
     if labelled != "CRC32 (check 1) = CBF43926\nHASH (check 1) = 4BF83526\nHASH-IA (check 1) = 4BF83526\n":
         yield f"hash --all: {labelled!r}"
@@ -506,6 +515,9 @@ def check_sums(program):
         result = program.run(["hash", "crc32", "--check", "list.sum"])
         if (result.status, result.out, result.err) != (YES, all_right, ""):
             yield f"hash --check {text!r}: {result}"
+    result = program.run(["hash", "crc32", "--check", "-"], given="list.sum")
+    if (result.status, result.out, result.err) != (YES, all_right, ""):
+        yield f"hash --check of a list from standard input: {result}"
     sums.write_text(labelled + "nonsense\n", encoding="utf-8")
     result = program.run(["hash", "--check", "list.sum"])
     if (result.status, result.out) != (NO, "check 1: OK\n" * 3) or "1 lines are no sums" not in result.err:

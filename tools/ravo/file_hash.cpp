@@ -1,10 +1,12 @@
 #include "file_hash.h"
 
+#include "console.h"
 #include "progress.h"
 #include <ravo/DIUtils.h>
 
 #include <filesystem>
 #include <fstream>
+#include <stdexcept>
 #include <system_error>
 #include <vector>
 
@@ -44,25 +46,43 @@ class Sums {
   ravo::HashStream hash_ia_{0, ravo::HashStream::Letters::InUpperCase};
 };
 
+// The sums of all that `read` gives, piece by piece until it gives nothing more.
+template <class Read>
+FileSums SumsOf(Read read, const FileSumKind* only, Progress&& progress) {
+  Sums sums(only);
+  std::vector<char> piece(kPiece);
+  std::int64_t done = 0;
+  while (const std::size_t count = read(std::span(piece))) {
+    sums.Update(std::span(piece).first(count));
+    progress.Show(done += static_cast<std::int64_t>(count));
+  }
+  return sums.Values();
+}
+
+std::optional<FileSums> SumsOfInput(const FileSumKind* only) {
+  try {
+    return SumsOf([](std::span<char> to) { return ReadInput(std::as_writable_bytes(to)); }, only,
+                  Progress(std::string(kInputName), 0));
+  } catch (const std::runtime_error&) {
+    return {};
+  }
+}
+
 }  // namespace
 
 std::optional<FileSums> SumsOfFile(const std::string& name, const FileSumKind* only) {
+  if (name == kInputName) return SumsOfInput(only);
   const fs::path path = PathOf(name);
   std::error_code error;
   if (fs::is_directory(path, error)) return {};
   std::ifstream file(path, std::ios::binary);
   if (!file) return {};
-  Progress progress(name, SizeOf(path));
-  Sums sums(only);
-  std::vector<char> piece(kPiece);
-  std::int64_t done = 0;
-  while (file) {
-    file.read(piece.data(), static_cast<std::streamsize>(piece.size()));
-    sums.Update(std::span(piece).first(static_cast<std::size_t>(file.gcount())));
-    progress.Show(done += file.gcount());
-  }
-  if (file.bad()) return {};
-  return sums.Values();
+  const auto read = [&](std::span<char> to) {
+    file.read(to.data(), static_cast<std::streamsize>(to.size()));
+    return static_cast<std::size_t>(file.gcount());
+  };
+  const FileSums sums = SumsOf(read, only, Progress(name, SizeOf(path)));
+  return file.bad() ? std::nullopt : std::optional(sums);
 }
 
 }  // namespace tool

@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <iostream>
 #include <memory>
 #include <string>
 #include <vector>
@@ -36,7 +37,7 @@ HashTask TaskOf(const HashOptions& options) {
   if (task.kind) task.files.erase(task.files.begin());
   if (!task.kind && !options.all && !options.check)
     throw CLI::ValidationError("hash: the first word must be one of " + Names() + ", or say --all");
-  if (task.files.empty()) throw CLI::RequiredError("hash: a FILE");
+  if (task.files.empty()) task.files.emplace_back(kInputName);
   return task;
 }
 
@@ -117,16 +118,20 @@ void Report(const std::string& name, const Tally& tally, Outcome& outcome) {
     Complain(outcome, name, "no line of it is a sum", Answer::WrongUsage);
 }
 
+void CheckList(const HashTask& task, const std::string& name, Outcome& outcome) {
+  const std::filesystem::path path(std::u8string(name.begin(), name.end()));
+  const bool is_input = name == kInputName;
+  std::error_code error;
+  std::ifstream file;
+  if (!is_input) file.open(path, std::ios::binary);
+  if (!file || std::filesystem::is_directory(path, error))
+    Complain(outcome, name, "cannot be read", Answer::WrongUsage);
+  else
+    Report(name, CheckLines(is_input ? std::cin : file, task.kind, outcome), outcome);
+}
+
 void CheckLists(const HashTask& task, Outcome& outcome) {
-  for (const std::string& name : task.files) {
-    const std::filesystem::path path(std::u8string(name.begin(), name.end()));
-    std::error_code error;
-    std::ifstream list(path, std::ios::binary);
-    if (!list || std::filesystem::is_directory(path, error))
-      Complain(outcome, name, "cannot be read", Answer::WrongUsage);
-    else
-      Report(name, CheckLines(list, task.kind, outcome), outcome);
-  }
+  for (const std::string& name : task.files) CheckList(task, name, outcome);
 }
 
 void Run(const HashOptions& options, Outcome& outcome) {
@@ -147,6 +152,7 @@ std::string Footer() {
          "Examples:\n"
          "  ravo hash crc32 backup.zip > backup.sum\n"
          "  ravo hash crc32 --check backup.sum\n"
+         "  ravo report | ravo hash crc32             what a program writes\n"
          "  ravo hash --all backup.zip              every sum, each with its name\n"
          "  ravo hash --all --json backup.zip\n";
 }
@@ -156,7 +162,7 @@ std::string Footer() {
 void AddHashCommand(CLI::App& program, Outcome& outcome) {
   CLI::App* command = program.add_subcommand("hash", "Computes and checks sums of files");
   const auto options = std::make_shared<HashOptions>();
-  command->add_option("SUM FILE", options->words, "Which sum (" + Names() + "), and the files")->required();
+  command->add_option("SUM FILE", options->words, "Which sum (" + Names() + "), and the files; none, or \"-\", is standard input");
   command->add_flag("--all", options->all, "Every sum; the words are all files");
   CLI::Option* check = command->add_flag(
       "--check", options->check, "The files are lists of sums; compare each with its file as it is now");

@@ -63,11 +63,8 @@ std::optional<std::size_t> PosixFileSystem::Write(FileHandle file, std::span<con
 
 bool PosixFileSystem::SetTimes(FileHandle file, std::uint16_t year, std::uint16_t month,
                                std::uint16_t day) const {
-  constexpr std::uint16_t first_year = 1601;
-  constexpr std::uint16_t last_year = 30827;
   const std::chrono::year_month_day date{std::chrono::year{year}, std::chrono::month{month},
                                          std::chrono::day{day}};
-  if (year < first_year || year > last_year || !date.ok()) return false;
   const std::chrono::sys_seconds midnight{std::chrono::sys_days(date)};
   const timespec time{midnight.time_since_epoch().count(), 0};
   const timespec times[2] = {time, time};

@@ -45,11 +45,12 @@ TEST(RegReadStrDef, TakesStringsAndExpandableStringsAlone) {
 TEST(RegReadStrDef, CutsTheLastUnitOffWhateverItIs) {
   const ScratchKey scratch;
   const std::u16string text(5000, u'ž');
-  scratch.Set(L"unterminated", REG_SZ, u"abcd", 8);
+  // The system itself takes along a zero that follows what it is given.
+  scratch.Set(L"unterminated", REG_SZ, u"abcde", 8);
   scratch.Set(L"odd", REG_SZ, u"abcd", 5);
   scratch.Set(L"inner zero", REG_SZ, u"ab\0cd", 12);
   scratch.Set(L"two zeros", REG_SZ, u"ab\0", 8);
-  scratch.Set(L"one unit", REG_SZ, u"a", 2);
+  scratch.Set(L"one unit", REG_SZ, u"ab", 2);
   scratch.Set(L"half a unit", REG_SZ, u"a", 1);
   scratch.Set(L"nothing", REG_SZ, u"", 0);
   scratch.Set(L"long", REG_SZ, text.c_str(), 2 * text.size() + 2);
