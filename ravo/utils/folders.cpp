@@ -4,7 +4,6 @@
 #include <ravo/utils/folders.h>
 
 #include <algorithm>
-#include <ranges>
 #include <vector>
 
 namespace ravo::DIUtils {
@@ -38,9 +37,8 @@ bool ForceDirectoriesW(std::u16string_view folder) {
     missing.emplace_back(folder);
     folder = parent;
   }
-  return std::ranges::all_of(missing | std::views::reverse, [](const std::u16string& name) {
-    return CurrentMachine().Files().CreateFolder(name);
-  });
+  return std::all_of(missing.rbegin(), missing.rend(),
+                     [](const std::u16string& name) { return CurrentMachine().Files().CreateFolder(name); });
 }
 
 bool DeleteDirectory(std::u16string_view folder, bool with_folder) {
