@@ -36,6 +36,9 @@ class ScopedCrc32Kernel {
 /// Sixteen bytes at a time, each through a table of its own.
 [[nodiscard]] std::uint32_t UpdateCrc32Sliced(std::uint32_t crc, std::span<const std::byte> bytes) noexcept;
 
+/// Five words at a time, each through tables of its own, so that their look-ups do not wait for each other.
+[[nodiscard]] std::uint32_t UpdateCrc32Braided(std::uint32_t crc, std::span<const std::byte> bytes) noexcept;
+
 /// Carry-less multiplication (PCLMULQDQ with SSE4.1), where `CanMultiplyCarryless`.
 [[nodiscard]] std::uint32_t UpdateCrc32Carryless(std::uint32_t crc,
                                                  std::span<const std::byte> bytes) noexcept;

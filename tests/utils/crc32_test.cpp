@@ -108,12 +108,14 @@ INSTANTIATE_TEST_SUITE_P(Kernels, Crc32OfKernel,
 
 TEST(Crc32Kernels, BeginWithTheReference) {
   const auto kernels = utils::Crc32Kernels();
-  ASSERT_EQ(kernels.size(), 3u);
+  ASSERT_EQ(kernels.size(), 4u);
   EXPECT_EQ(kernels[0].name, "bytewise");
   EXPECT_EQ(kernels[1].name, "sliced");
-  EXPECT_EQ(kernels[2].name, "carryless");
+  EXPECT_EQ(kernels[2].name, "braided");
+  EXPECT_EQ(kernels[3].name, "carryless");
   EXPECT_TRUE(kernels[0].runs_here());
   EXPECT_TRUE(kernels[1].runs_here());
+  EXPECT_TRUE(kernels[2].runs_here());
 }
 
 // A kernel that no other could be mistaken for.

@@ -2,8 +2,9 @@
 #include <ravo/platform/win32/wide.h>
 #include <ravo/platform/win32/win32_file_system.h>
 
-#include <shellapi.h>
 #include <windows.h>
+
+#include <shellapi.h>
 
 namespace ravo::platform {
 namespace {
