@@ -90,12 +90,9 @@ TEST(PosixMachineFiles, FindsFilesAndFolders) {
   EXPECT_EQ(machine.FindFile(u".")->attributes & 0x12u, 0x10u);
   folder.Write(".folder/file", "");
   EXPECT_EQ(machine.FindFile(folder.File(u".folder"))->attributes, 0x12u);
-<<<<<<< HEAD
-=======
   // A directory search takes no name with a delimiter at its end; the question for attributes does.
   EXPECT_FALSE(machine.FindFile(folder.File(u".folder/")));
   EXPECT_EQ(machine.Files().Attributes(folder.File(u".folder/")), 0x12u);
->>>>>>> files
   EXPECT_FALSE(machine.FindFile(folder.File(u"missing")));
   EXPECT_FALSE(machine.FindFile(u""));
   EXPECT_FALSE(machine.FindFile(folder.File(u"file") + std::u16string(u"\0x", 2)));
