@@ -3,8 +3,11 @@
 #include <ravo/DIUtils.h>
 
 #include <gtest/gtest.h>
-#include <shellapi.h>
+// The system's own order.
+// clang-format off
 #include <windows.h>
+#include <shellapi.h>
+// clang-format on
 
 namespace ravo::DIUtils {
 namespace {
