@@ -25,9 +25,9 @@ namespace ravo::platform {
 
 /// Attribute bits with the numbers that Windows gives them.
 inline constexpr std::uint32_t kReadOnlyAttribute = 0x1;
-inline constexpr std::uint32_t kHiddenAttribute = 0x2;
-inline constexpr std::uint32_t kFolderAttribute = 0x10;
-inline constexpr std::uint32_t kArchiveAttribute = 0x20;
+inline constexpr std::uint32_t kHiddenAttribute = 0x2;    ///< not shown
+inline constexpr std::uint32_t kFolderAttribute = 0x10;   ///< a folder
+inline constexpr std::uint32_t kArchiveAttribute = 0x20;  ///< a file
 
 /// How a file is opened. Only files for reading and dating may be read by others meanwhile, where the system
 /// has such locks.

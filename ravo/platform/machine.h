@@ -134,8 +134,8 @@ using DeviceContext = void*;
 
 /// In logical units of a device.
 struct TextSize {
-  std::int32_t width = 0;
-  std::int32_t height = 0;
+  std::int32_t width = 0;   ///< from left to right
+  std::int32_t height = 0;  ///< of a line
   friend bool operator==(const TextSize&, const TextSize&) = default;
 };
 

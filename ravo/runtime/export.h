@@ -15,6 +15,16 @@
 #define RAVO_API __attribute__((visibility("default")))
 #endif
 
+/// RAVO_INLINE_API marks what is inline in a public header and leaves the shared library as well: the library
+/// holds the function whether it calls it or not, users of Windows take their own copy.
+#if defined(RAVO_BUILDING)
+#define RAVO_INLINE_API __attribute__((used)) RAVO_API inline
+#elif defined(RAVO_STATIC) || defined(_WIN32)
+#define RAVO_INLINE_API inline
+#else
+#define RAVO_INLINE_API RAVO_API inline
+#endif
+
 /// RAVO_STDCALL is the calling convention of component interfaces: it makes a difference on 32-bit Windows.
 #if defined(_WIN32)
 #define RAVO_STDCALL __stdcall

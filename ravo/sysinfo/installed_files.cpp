@@ -26,7 +26,6 @@ constexpr std::u16string_view kVersionKeys[] = {u"CompanyName",  u"FileDescripti
                                                 u"InternalName", u"LegalCopyright",  u"OriginalFilename",
                                                 u"ProductName",  u"ProductVersion"};
 
-
 // How many units of a name belong to its folder, the delimiter behind it included; 0 for a bare name.
 std::size_t FolderLength(std::u16string_view name) { return name.find_last_of(u"\\/:") + 1; }
 

@@ -17,17 +17,16 @@ namespace ravo::DIUtils {
 /// missing or cannot be read and for values that are no texts. Systems without a registry have a few keys
 /// of what they tell of themselves.
 [[nodiscard]] RAVO_API std::u16string RegReadStrDef(platform::RegistryRoot root, std::u16string_view key,
-                                                    std::u16string_view value,
-                                                    std::u16string_view fallback);
+                                                    std::u16string_view value, std::u16string_view fallback);
 [[nodiscard]] RAVO_API std::string RegReadStrDefA(platform::RegistryRoot root, std::string_view key,
                                                   std::string_view value, std::string_view fallback);
 [[nodiscard]] RAVO_API std::u16string RegReadStrDefW(platform::RegistryRoot root, std::u16string_view key,
-                                                     std::u16string_view value,
-                                                     std::u16string_view fallback);
+                                                     std::u16string_view value, std::u16string_view fallback);
 
 /// Whom the system is registered to; empty where it does not say.
 [[nodiscard]] RAVO_API std::string RegReadRegisteredOwnerA();
 [[nodiscard]] RAVO_API std::u16string RegReadRegisteredOwnerW();
+/// The organisation that the system is registered to; empty where there is none.
 [[nodiscard]] RAVO_API std::string RegReadRegisteredOrganizationA();
 [[nodiscard]] RAVO_API std::u16string RegReadRegisteredOrganizationW();
 
@@ -52,7 +51,9 @@ RAVO_API bool GetUserNameW(std::u16string& name);
 /// more.
 [[nodiscard]] RAVO_API platform::TextSize TextExtentW(platform::DeviceContext device,
                                                       std::u16string_view text);
+/// The width alone.
 [[nodiscard]] RAVO_API std::int32_t TextWidthW(platform::DeviceContext device, std::u16string_view text);
+/// The height alone.
 [[nodiscard]] RAVO_API std::int32_t TextHeightW(platform::DeviceContext device, std::u16string_view text);
 
 }  // namespace ravo::DIUtils

@@ -12,7 +12,7 @@
 namespace ravo::DIUtils {
 
 /// Everything up to and including the last "\" or ":"; empty where there is none.
-/// ExtractFilePath(u"C:\\a\\b.txt") is C:\a\ and that of "C:b.txt" is "C:".
+/// `ExtractFilePath(u"C:\\a\\b.txt")` is `C:\a\`, and that of "C:b.txt" is "C:".
 [[nodiscard]] RAVO_API std::u16string ExtractFilePath(std::u16string_view name);
 [[nodiscard]] RAVO_API std::string ExtractFilePathA(std::string_view name);
 [[nodiscard]] RAVO_API std::u16string ExtractFilePathW(std::u16string_view name);

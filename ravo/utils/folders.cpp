@@ -12,9 +12,7 @@ namespace {
 constexpr std::size_t kShortestFolder = 3;
 
 // "C:", and what no system can delete without what is on it.
-bool IsDrive(std::u16string_view folder) {
-  return folder.size() == 2 && folder.back() == u':';
-}
+bool IsDrive(std::u16string_view folder) { return folder.size() == 2 && folder.back() == u':'; }
 
 }  // namespace
 
@@ -39,9 +37,8 @@ bool ForceDirectoriesW(std::u16string_view folder) {
     missing.emplace_back(folder);
     folder = parent;
   }
-  return std::all_of(missing.rbegin(), missing.rend(), [](const std::u16string& name) {
-    return CurrentMachine().Files().CreateFolder(name);
-  });
+  return std::all_of(missing.rbegin(), missing.rend(),
+                     [](const std::u16string& name) { return CurrentMachine().Files().CreateFolder(name); });
 }
 
 bool DeleteDirectory(std::u16string_view folder, bool with_folder) {

@@ -50,7 +50,7 @@ SYSTEM_NAME = re.compile(
 )
 SYSTEM_HEADER = re.compile(r"^(windows|winver|unistd|dlfcn|sys/.*|win(base|nt|user|reg)|ole.*|shlobj)\.h$", re.I)
 # Sources that CMake picks by the target's system say so in their name; tests mirror the library.
-SYSTEM_SOURCE = re.compile(r"^(ravo/platform/|tests/platform/|tests/support/)|^ravo/runtime/export\.h$|_(win32|posix)\.(cpp|c|h)$")
+SYSTEM_SOURCE = re.compile(r"^(ravo/platform/|tests/platform/|tests/support/|tests/\w+/(posix|win32|windows_names)/)|^ravo/runtime/export\.h$|_(win32|posix)\.(cpp|c|h)$")
 C_STANDARD = {"stddef.h", "stdint.h"}
 
 

@@ -10,7 +10,7 @@ DOCUMENT = "docs/strings.md"
 HEADERS = ("ravo/utils/strings", "ravo/unicode/characters")
 TESTS = ("tests/utils", "tests/unicode")
 EXAMPLES = "tests/utils/string_examples_test.cpp"
-DECLARATION = re.compile(r"\bRAVO_API\s+[\w:]+\s+(\w+)\s*\(")
+DECLARATION = re.compile(r"\bRAVO_(?:INLINE_)?API\s+[\w:]+\s+(\w+)\s*\(")
 
 
 def declared(root):
@@ -88,6 +88,7 @@ def _tree(header="RAVO_API bool StrX(char c) noexcept;\n", row="| `StrX` | x | `
 
 PLANTINGS = [
     ("a good tree", _tree(), None),
+    ("an inline declaration", _tree(header="RAVO_INLINE_API bool StrX(char c) noexcept;\n"), None),
     ("a declaration over two lines", _tree(header="RAVO_API std::size_t\nStrX(char c);\n"), None),
     ("no row", _tree(row="| `StrY` | x | `StrX(1)` |\n"), "StrX has no row"),
     ("no function", _tree(row="| `StrX` `StrY` | x | `StrX(1)` |\n"), "there is no function StrY"),

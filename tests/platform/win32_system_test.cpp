@@ -13,7 +13,6 @@ namespace {
 
 using test::ScratchFolder;
 
-
 std::u16string Environment(const wchar_t* name) {
   wchar_t value[1024] = L"";
   const DWORD length = GetEnvironmentVariableW(name, value, 1024);

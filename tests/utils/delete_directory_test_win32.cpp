@@ -3,9 +3,11 @@
 #include <ravo/DIUtils.h>
 
 #include <gtest/gtest.h>
+// The system's own order.
+// clang-format off
 #include <windows.h>
-
 #include <shellapi.h>
+// clang-format on
 
 namespace ravo::DIUtils {
 namespace {
@@ -16,8 +18,8 @@ using test::SuiteName;
 TEST(DeleteDirectory, AFileInUseStays) {
   const ScratchFolder scratch;
   scratch.Write("tree/used", "x");
-  const HANDLE file = CreateFileW((scratch.Path() / "tree/used").c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
-                                  OPEN_EXISTING, 0, nullptr);
+  const HANDLE file = CreateFileW((scratch.Path() / "tree/used").c_str(), GENERIC_READ, FILE_SHARE_READ,
+                                  nullptr, OPEN_EXISTING, 0, nullptr);
   ASSERT_NE(file, INVALID_HANDLE_VALUE);
   EXPECT_FALSE(DeleteDirectoryW(SuiteName(scratch.Path() / "tree"), true));
   EXPECT_TRUE(exists(scratch.Path() / "tree/used"));
@@ -57,8 +59,8 @@ bool MakeLink(const std::filesystem::path& folder, const wchar_t* target) {
   start.cb = sizeof start;
   PROCESS_INFORMATION process{};
   std::wstring command = std::wstring(L"ln -s ") + target + L" link";
-  if (!CreateProcessW(L"Z:\\bin\\ln", command.data(), nullptr, nullptr, FALSE, 0, nullptr, folder.c_str(), &start,
-                      &process)) {
+  if (!CreateProcessW(L"Z:\\bin\\ln", command.data(), nullptr, nullptr, FALSE, 0, nullptr, folder.c_str(),
+                      &start, &process)) {
     return false;
   }
   // The program runs outside of Wine: its process is no measure of when it ends.

@@ -28,8 +28,9 @@ TEST(RegReadStrDef, IsTheTextOrElseTheDefault) {
   for (const Row& row : rows) {
     EXPECT_EQ(RegReadStrDefW(RegistryRoot::CurrentUser, u"Software\\Ravo", row.value, u"č"), row.result);
     EXPECT_EQ(RegReadStrDef(RegistryRoot::CurrentUser, u"Software\\Ravo", row.value, u"č"), row.result);
-    EXPECT_EQ(RegReadStrDefA(RegistryRoot::CurrentUser, "Software\\Ravo", machine.ToCodePage(row.value), "\xE8"),
-              machine.ToCodePage(row.result));
+    EXPECT_EQ(
+        RegReadStrDefA(RegistryRoot::CurrentUser, "Software\\Ravo", machine.ToCodePage(row.value), "\xE8"),
+        machine.ToCodePage(row.result));
   }
   EXPECT_EQ(RegReadStrDefW(RegistryRoot::CurrentUser, u"Software\\None", u"text", u"default"), u"default");
   EXPECT_EQ(RegReadStrDefW(RegistryRoot::LocalMachine, u"Software\\Ravo", u"text", u"default"), u"default");
@@ -42,7 +43,9 @@ TEST(RegReadRegistered, AreTheValuesOfTheNtKey) {
   key[u"RegisteredOrganization"] = u"Účtárna";
   const platform::ScopedMachine scope(machine);
   EXPECT_EQ(RegReadRegisteredOwnerW(), u"Jan Účetní");
-  EXPECT_EQ(RegReadRegisteredOwnerA(), "Jan \xDA\xE8" "etn\xED");
+  EXPECT_EQ(RegReadRegisteredOwnerA(),
+            "Jan \xDA\xE8"
+            "etn\xED");
   EXPECT_EQ(RegReadRegisteredOrganizationW(), u"Účtárna");
   EXPECT_EQ(RegReadRegisteredOrganizationA(), "\xDA\xE8t\xE1rna");
 }
@@ -107,7 +110,9 @@ TEST(GetUserName, IsFalseAndEmptyWhereTheSystemFails) {
   EXPECT_TRUE(GetUserNameW(wide));
   EXPECT_TRUE(GetUserNameA(narrow));
   EXPECT_EQ(wide, u"účetní");
-  EXPECT_EQ(narrow, "\xFA\xE8" "etn\xED");
+  EXPECT_EQ(narrow,
+            "\xFA\xE8"
+            "etn\xED");
 }
 
 TEST(GetUserName, NamesTheUserOfThisMachine) {

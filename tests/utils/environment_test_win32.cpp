@@ -2,9 +2,8 @@
 #include <ravo/DIUtils.h>
 
 #include <gtest/gtest.h>
-#include <windows.h>
-
 #include <lmcons.h>
+#include <windows.h>
 
 namespace ravo::DIUtils {
 namespace {
@@ -39,7 +38,8 @@ TEST(RegReadStrDef, TakesStringsAndExpandableStringsAlone) {
   EXPECT_EQ(RegReadStrDefW(RegistryRoot::CurrentUser, ScratchKey::Path() + u"\\missing", u"", u"d"), u"d");
   const std::u16string path = ScratchKey::Path();
   EXPECT_EQ(RegReadStrDefA(RegistryRoot::CurrentUser, std::string(path.begin(), path.end()), "string", ""),
-            "\xDA\xE8" "et");
+            "\xDA\xE8"
+            "et");
 }
 
 TEST(RegReadStrDef, CutsTheLastUnitOffWhateverItIs) {
@@ -84,7 +84,9 @@ TEST(SysErrorMessage, IsInTheLanguageOfTheThread) {
     const ScopedThreadLocale czech(MAKELANGID(LANG_CZECH, SUBLANG_DEFAULT));
     EXPECT_EQ(SysErrorMessageW(ERROR_FILE_NOT_FOUND), u"Soubor nebyl nalezen");
     EXPECT_EQ(SysErrorMessageW(ERROR_ACCESS_DENIED), u"Přístup odepřen");
-    EXPECT_EQ(SysErrorMessageA(ERROR_ACCESS_DENIED), "P\xF8\xEDstup odep\xF8" "en");
+    EXPECT_EQ(SysErrorMessageA(ERROR_ACCESS_DENIED),
+              "P\xF8\xEDstup odep\xF8"
+              "en");
   }
   const ScopedThreadLocale english(MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US));
   EXPECT_EQ(SysErrorMessageW(ERROR_FILE_NOT_FOUND), u"File not found");
@@ -104,8 +106,8 @@ TEST(SysErrorMessage, IsEmptyForATextOf256UnitsAndMore) {
   // The length of each text as the system itself counts it.
   for (std::uint32_t code = 0; code < 16000; ++code) {
     wchar_t text[4096];
-    const DWORD length = FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, code,
-                                        0, text, 4096, nullptr);
+    const DWORD length = FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
+                                        code, 0, text, 4096, nullptr);
     const bool fits = length != 0 && length < 256;
     // What is nothing but blanks and stops would be empty too; no system has such a text.
     EXPECT_EQ(SysErrorMessageW(code).empty(), !fits) << code;

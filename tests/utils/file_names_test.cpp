@@ -136,7 +136,7 @@ TEST(IncludeTrailingPathDelimiter, AddsOneWhereThereIsNone) {
     std::u16string_view name;
     std::u16string_view result;
   };
-  constexpr Row rows[] = {{u"C:", u"C:\\"},   {u"C:\\", u"C:\\"},     {u"a", u"a\\"}, {u"", u"\\"},
+  constexpr Row rows[] = {{u"C:", u"C:\\"}, {u"C:\\", u"C:\\"},   {u"a", u"a\\"}, {u"", u"\\"},
                           {u"a/", u"a/\\"}, {u"a\\\\", u"a\\\\"}, {u"\\", u"\\"}};
   for (const Row& row : rows) {
     std::u16string wide(row.name);
@@ -156,7 +156,7 @@ TEST(ExcludeTrailingPathDelimiter, TakesOneAway) {
     std::u16string_view name;
     std::u16string_view result;
   };
-  constexpr Row rows[] = {{u"C:\\", u"C:"}, {u"a", u"a"},           {u"", u""},
+  constexpr Row rows[] = {{u"C:\\", u"C:"}, {u"a", u"a"},       {u"", u""},
                           {u"a/", u"a/"},   {u"a\\\\", u"a\\"}, {u"\\", u""}};
   for (const Row& row : rows) {
     EXPECT_EQ(ExcludeTrailingPathDelimiterW(row.name), row.result);

@@ -147,9 +147,10 @@ TEST(SetFileDate, IsFalseForDaysThatTheCalendarLacks) {
     std::uint16_t month;
     std::uint16_t day;
   };
-  constexpr Row rows[] = {{2023, 2, 29}, {2024, 13, 1},  {2024, 0, 1},   {2024, 1, 0},      {2024, 4, 31},
-                          {1600, 12, 31}, {0, 1, 1},     {-1, 1, 1},     {65536 + 2024, 1, 1}, {30828, 1, 1},
-                          {65535, 1, 1},  {INT32_MIN, 1, 1}, {2024, 65535, 65535}};
+  constexpr Row rows[] = {{2023, 2, 29},        {2024, 13, 1},  {2024, 0, 1},  {2024, 1, 0},
+                          {2024, 4, 31},        {1600, 12, 31}, {0, 1, 1},     {-1, 1, 1},
+                          {65536 + 2024, 1, 1}, {30828, 1, 1},  {65535, 1, 1}, {INT32_MIN, 1, 1},
+                          {2024, 65535, 65535}};
   for (const Row& row : rows) {
     EXPECT_FALSE(SetFileDateYmdW(name, row.year, row.month, row.day)) << row.year << "-" << row.month;
   }

@@ -101,7 +101,8 @@ TEST(NetworkNames, OfAMissingServerAreNothing) {
   EXPECT_FALSE(LoadStrAFromFileW(name, text));
   EXPECT_FALSE(DeleteFileW(name));
   EXPECT_FALSE(ForceDirectoriesW(u"\\\\ravo-missing-server\\share\\folder"));
-  EXPECT_EQ(ExpandFileNameW(u"\\\\ravo-missing-server\\share\\a\\..\\b"), u"\\\\ravo-missing-server\\share\\b");
+  EXPECT_EQ(ExpandFileNameW(u"\\\\ravo-missing-server\\share\\a\\..\\b"),
+            u"\\\\ravo-missing-server\\share\\b");
 }
 
 // More than the 260 units of a plain name: the system takes them behind its own mark.

@@ -57,11 +57,14 @@ TEST(ForceDirectories, IsTrueWhereNothingWasTried) {
     bool result;
   };
   constexpr Row rows[] = {
-      {u"", true},       {u"\\", true},       {u"a", true},       {u"ab", true},      {u"ab\\", true},
-      {u"X:", true},     {u"X:\\", true},     {u"\\\\", true},    {u"\\\\\\", true},  {u"abc:", true},
-      {u"abc:\\", true}, {u"abc\\\\", true},  {u"a\\b\\\\", true}, {u"X:\\\\", true}, {u"abc", false},
-      {u"abc\\", false}, {u"X:\\a", false},   {u"X:a", false},    {u"a\\b", false},   {u"\\\\s", false},
-      {u"\\\\server\\share\\a", false}, {u"a/b", false},
+      {u"", true},         {u"\\", true},     {u"a", true},
+      {u"ab", true},       {u"ab\\", true},   {u"X:", true},
+      {u"X:\\", true},     {u"\\\\", true},   {u"\\\\\\", true},
+      {u"abc:", true},     {u"abc:\\", true}, {u"abc\\\\", true},
+      {u"a\\b\\\\", true}, {u"X:\\\\", true}, {u"abc", false},
+      {u"abc\\", false},   {u"X:\\a", false}, {u"X:a", false},
+      {u"a\\b", false},    {u"\\\\s", false}, {u"\\\\server\\share\\a", false},
+      {u"a/b", false},
   };
   for (const Row& row : rows) {
     EXPECT_EQ(ForceDirectoriesW(row.folder), row.result) << std::string(row.folder.begin(), row.folder.end());
@@ -103,7 +106,8 @@ TEST(DeleteDirectory, DeletesTheFolderToo) {
   Fill(scratch);
   EXPECT_TRUE(DeleteDirectory(SuiteName(scratch.Path() / "tree"), true));
   Fill(scratch);
-  EXPECT_TRUE(DeleteDirectoryA(platform::CurrentMachine().ToCodePage(SuiteName(scratch.Path() / "tree")), true));
+  EXPECT_TRUE(
+      DeleteDirectoryA(platform::CurrentMachine().ToCodePage(SuiteName(scratch.Path() / "tree")), true));
   EXPECT_FALSE(exists(scratch.Path() / "tree"));
 }
 

@@ -71,7 +71,9 @@ TEST(GetSpecialFolder, EndsInADelimiter) {
   const platform::ScopedMachine scope(machine);
   EXPECT_EQ(GetSpecialFolderW(40), u"C:\\Jan Účetní\\");
   EXPECT_EQ(GetSpecialFolder(40), u"C:\\Jan Účetní\\");
-  EXPECT_EQ(GetSpecialFolderA(40), "C:\\Jan \xDA\xE8" "etn\xED\\");
+  EXPECT_EQ(GetSpecialFolderA(40),
+            "C:\\Jan \xDA\xE8"
+            "etn\xED\\");
   EXPECT_EQ(GetDesktopFolderW(), u"C:\\Plocha\\");
   EXPECT_EQ(GetDesktopFolder(), u"C:\\Plocha\\");
   EXPECT_EQ(GetDesktopFolderA(), "C:\\Plocha\\");

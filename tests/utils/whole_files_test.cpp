@@ -69,9 +69,8 @@ TEST(SaveBuf, ToAnOpenFileGoesOnWhereItStands) {
 
 TEST(SaveBuf, IsFalseWhereTheFileCannotBeMade) {
   const ScratchFolder scratch;
-  for (const std::u16string& name :
-       {scratch.Path().u16string(), scratch.File(u"missing/file"), std::u16string(),
-        scratch.File(u"file") + std::u16string(u"\0x", 2)}) {
+  for (const std::u16string& name : {scratch.Path().u16string(), scratch.File(u"missing/file"),
+                                     std::u16string(), scratch.File(u"file") + std::u16string(u"\0x", 2)}) {
     EXPECT_FALSE(SaveBufToFileW("x", 1, name));
     EXPECT_FALSE(SaveStrAToFileW("x", name));
     EXPECT_FALSE(SaveStrWToFileW(u"x", name));
@@ -157,13 +156,19 @@ TEST(LoadStrA, GivesAllBytesAsTheyAre) {
 
 TEST(LoadStrW, GivesUnitsAsTheyAre) {
   const ScratchFolder scratch;
-  scratch.Write("file", "\xFF\xFE" "A\0\x0D\x01\0\xD8"s);
+  scratch.Write("file",
+                "\xFF\xFE"
+                "A\0\x0D\x01\0\xD8"s);
   std::u16string text;
   EXPECT_TRUE(LoadStrWFromFileW(scratch.File(u"file"), text));
-  EXPECT_EQ(text, u"\xFEFF" u"Ač\xD800");
+  EXPECT_EQ(text,
+            u"\xFEFF"
+            u"Ač\xD800");
   text.clear();
   EXPECT_TRUE(LoadStrWFromFileA(platform::CurrentMachine().ToCodePage(scratch.File(u"file")), text));
-  EXPECT_EQ(text, u"\xFEFF" u"Ač\xD800");
+  EXPECT_EQ(text,
+            u"\xFEFF"
+            u"Ač\xD800");
 }
 
 TEST(LoadStrW, LeavesOutHalfAUnit) {

@@ -162,7 +162,8 @@ std::string Footer() {
 void AddHashCommand(CLI::App& program, Outcome& outcome) {
   CLI::App* command = program.add_subcommand("hash", "Computes and checks sums of files");
   const auto options = std::make_shared<HashOptions>();
-  command->add_option("SUM FILE", options->words, "Which sum (" + Names() + "), and the files; none, or \"-\", is standard input");
+  command->add_option("SUM FILE", options->words,
+                      "Which sum (" + Names() + "), and the files; none, or \"-\", is standard input");
   command->add_flag("--all", options->all, "Every sum; the words are all files");
   CLI::Option* check = command->add_flag(
       "--check", options->check, "The files are lists of sums; compare each with its file as it is now");

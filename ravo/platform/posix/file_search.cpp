@@ -43,7 +43,8 @@ bool MatchesPattern(std::u16string_view name, std::u16string_view pattern) noexc
     if (in_pattern < pattern.size() && pattern[in_pattern] == u'*') {
       behind_star = ++in_pattern;
       star_end = at;
-    } else if (in_pattern < pattern.size() && (pattern[in_pattern] == u'?' || pattern[in_pattern] == name[at])) {
+    } else if (in_pattern < pattern.size() &&
+               (pattern[in_pattern] == u'?' || pattern[in_pattern] == name[at])) {
       ++in_pattern;
       ++at;
     } else if (behind_star != pattern.npos) {

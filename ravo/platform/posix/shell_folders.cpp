@@ -18,9 +18,9 @@ struct NamedFolder {
 
 // Variables of the file of the user's folders.
 constexpr NamedFolder kUserFolders[] = {
-    {0, "XDG_DESKTOP_DIR", "/Desktop"}, {5, "XDG_DOCUMENTS_DIR", ""}, {13, "XDG_MUSIC_DIR", ""},
-    {14, "XDG_VIDEOS_DIR", ""},         {16, "XDG_DESKTOP_DIR", "/Desktop"},
-    {21, "XDG_TEMPLATES_DIR", ""},      {39, "XDG_PICTURES_DIR", ""},
+    {0, "XDG_DESKTOP_DIR", "/Desktop"}, {5, "XDG_DOCUMENTS_DIR", ""},        {13, "XDG_MUSIC_DIR", ""},
+    {14, "XDG_VIDEOS_DIR", ""},         {16, "XDG_DESKTOP_DIR", "/Desktop"}, {21, "XDG_TEMPLATES_DIR", ""},
+    {39, "XDG_PICTURES_DIR", ""},
 };
 
 // Variables of the environment.

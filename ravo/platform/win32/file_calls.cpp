@@ -32,8 +32,8 @@ FileHandle Win32FileSystem::Open(std::u16string_view name, FilePurpose purpose) 
   const auto system_name = SystemName(name);
   if (!system_name) return kNoFile;
   const OpenWay way = WayOf(purpose);
-  return reinterpret_cast<FileHandle>(CreateFileW(system_name->c_str(), way.access, way.share, nullptr,
-                                                  way.disposition, way.flags, nullptr));
+  return reinterpret_cast<FileHandle>(
+      CreateFileW(system_name->c_str(), way.access, way.share, nullptr, way.disposition, way.flags, nullptr));
 }
 
 bool Win32FileSystem::Close(FileHandle file) const { return CloseHandle(HandleOf(file)) != 0; }

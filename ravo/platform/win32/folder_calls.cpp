@@ -2,9 +2,11 @@
 #include <ravo/platform/win32/wide.h>
 #include <ravo/platform/win32/win32_file_system.h>
 
+// The system's own order.
+// clang-format off
 #include <windows.h>
-
 #include <shellapi.h>
+// clang-format on
 
 namespace ravo::platform {
 namespace {

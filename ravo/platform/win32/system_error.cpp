@@ -15,8 +15,8 @@ template <std::size_t size>
 std::u16string Message(std::uint32_t code, DWORD line_breaks) {
   std::array<wchar_t, size> buffer;
   const DWORD length =
-      FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS | line_breaks, nullptr, code, 0,
-                     buffer.data(), static_cast<DWORD>(buffer.size()), nullptr);
+      FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS | line_breaks, nullptr, code,
+                     0, buffer.data(), static_cast<DWORD>(buffer.size()), nullptr);
   return FromWide({buffer.data(), length});
 }
 

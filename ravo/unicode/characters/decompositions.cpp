@@ -29,11 +29,12 @@ std::u16string CharSequence::Text() const {
 }
 
 CharSequence CharDecomposeCanonicalW(char16_t c) noexcept {
-  return At(kCanonicalPool, LookUp<5>(kCanonicalBlocks, kCanonicalEntries, c, 0U));
+  return At(kCanonicalPool, detail::LookUp<5>(kCanonicalBlocks, kCanonicalEntries, c, 0U));
 }
 
 CharSequence CharDecomposeCompatibleW(char16_t c) noexcept {
-  const CharSequence found = At(kCompatiblePool, LookUp<5>(kCompatibleBlocks, kCompatibleEntries, c, 0U));
+  const CharSequence found =
+      At(kCompatiblePool, detail::LookUp<5>(kCompatibleBlocks, kCompatibleEntries, c, 0U));
   return found ? found : CharDecomposeCanonicalW(c);
 }
 

@@ -5,13 +5,13 @@ namespace ravo::DIUnicode {
 
 #include "generated/mappings.inc"
 
-char16_t CharToCaseFoldW(char16_t c) noexcept { return FoldedUnit(c); }
-char16_t CharToUpperW(char16_t c) noexcept { return UpperUnit(c); }
-char16_t CharToLowerW(char16_t c) noexcept { return LowerUnit(c); }
-char16_t CharToTitleW(char16_t c) noexcept { return LookUp<6>(kTitleBlocks, kTitleEntries, c, c); }
+namespace detail {
 
-std::uint8_t CharCanonicalCombiningClassW(char16_t c) noexcept {
-  return LookUp<5>(kCombiningClassBlocks, kCombiningClassEntries, c, std::uint8_t{0});
-}
+const TwoStages<5, char16_t> kCaseFold{kCaseFoldBlocks, kCaseFoldEntries};
+const TwoStages<6, char16_t> kUpper{kUpperBlocks, kUpperEntries};
+const TwoStages<5, char16_t> kLower{kLowerBlocks, kLowerEntries};
+const TwoStages<6, char16_t> kTitle{kTitleBlocks, kTitleEntries};
+const TwoStages<5, std::uint8_t> kCombiningClass{kCombiningClassBlocks, kCombiningClassEntries};
 
+}  // namespace detail
 }  // namespace ravo::DIUnicode

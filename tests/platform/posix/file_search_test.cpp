@@ -13,12 +13,14 @@ TEST(MatchesPattern, StarsAndQuestionMarks) {
     bool result;
   };
   constexpr Row rows[] = {
-      {u"", u"", true},          {u"", u"*", true},         {u"", u"?", false},       {u"a", u"", false},
-      {u"a", u"a", true},        {u"a", u"A", false},       {u"a", u"?", true},       {u"ab", u"?", false},
-      {u"ab", u"??", true},      {u"abc", u"a*", true},     {u"abc", u"*c", true},    {u"abc", u"*b*", true},
-      {u"abc", u"a*c", true},    {u"ac", u"a*c", true},     {u"acb", u"a*c", false},  {u"abcbc", u"a*bc", true},
-      {u"aXbXc", u"a*X?", true}, {u"abc", u"**", true},     {u"abc", u"a**c", true},  {u"noext", u"*.*", true},
-      {u"noext", u"n*.*", false}, {u"č.x", u"?.x", true},   {u"aab", u"*ab", true},   {u"aa", u"*ab", false},
+      {u"", u"", true},          {u"", u"*", true},         {u"", u"?", false},
+      {u"a", u"", false},        {u"a", u"a", true},        {u"a", u"A", false},
+      {u"a", u"?", true},        {u"ab", u"?", false},      {u"ab", u"??", true},
+      {u"abc", u"a*", true},     {u"abc", u"*c", true},     {u"abc", u"*b*", true},
+      {u"abc", u"a*c", true},    {u"ac", u"a*c", true},     {u"acb", u"a*c", false},
+      {u"abcbc", u"a*bc", true}, {u"aXbXc", u"a*X?", true}, {u"abc", u"**", true},
+      {u"abc", u"a**c", true},   {u"noext", u"*.*", true},  {u"noext", u"n*.*", false},
+      {u"č.x", u"?.x", true},    {u"aab", u"*ab", true},    {u"aa", u"*ab", false},
       {u"abc", u"abc*", true},   {u"abc", u"abc?", false},
   };
   for (const Row& row : rows) EXPECT_EQ(MatchesPattern(row.name, row.pattern), row.result);

@@ -35,8 +35,10 @@ TEST(ShellAssignment, TakesQuotesAndBackslashesOff) {
 }
 
 TEST(UserFolderFrom, ExpandsTheHomeFolder) {
-  EXPECT_EQ(UserFolderFrom("XDG_PUBLICSHARE_DIR=\"$HOME/Veřejné\"\n", "XDG_PUBLICSHARE_DIR", "/srv/jan"), "/srv/jan/Veřejné");
-  EXPECT_EQ(UserFolderFrom("XDG_PUBLICSHARE_DIR=\"/srv/public\"\n", "XDG_PUBLICSHARE_DIR", "/srv/jan"), "/srv/public");
+  EXPECT_EQ(UserFolderFrom("XDG_PUBLICSHARE_DIR=\"$HOME/Veřejné\"\n", "XDG_PUBLICSHARE_DIR", "/srv/jan"),
+            "/srv/jan/Veřejné");
+  EXPECT_EQ(UserFolderFrom("XDG_PUBLICSHARE_DIR=\"/srv/public\"\n", "XDG_PUBLICSHARE_DIR", "/srv/jan"),
+            "/srv/public");
   EXPECT_EQ(UserFolderFrom("# nothing\n", "XDG_PUBLICSHARE_DIR", "/srv/jan"), "");
   EXPECT_EQ(UserFolderFrom("XDG_PUBLICSHARE_DIR=\"Public\"\n", "XDG_PUBLICSHARE_DIR", "/srv/jan"), "");
 }

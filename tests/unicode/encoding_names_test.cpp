@@ -1,0 +1,30 @@
+#include <ravo/DIUnicode.h>
+
+#include <string>
+
+#include <gtest/gtest.h>
+
+namespace ravo::DIUnicode {
+namespace {
+
+TEST(FindEncoding, ANumberIsThatOfACodePageAndNothingElse) {
+  ASSERT_NE(FindEncoding("1250"), nullptr);
+  EXPECT_EQ(FindEncoding("1250")->name, "Windows_1250");
+  for (const char* none : {"", "0", "12500000", "99999", "12x0", "-"})
+    EXPECT_EQ(FindEncoding(none), nullptr) << none;
+}
+
+// GB 18030 is read only.
+TEST(EncodingsOfCodePages, WhatIsNotWrittenGivesNoText) {
+  TDIUnicodeWriter writer;
+  writer.SetWriteMethods(Write_UTF_16_LE);
+  writer.WriteStrW(u"text");
+  EXPECT_EQ(writer.DataToStrA(54936), "");
+  EXPECT_EQ(writer.DataToStrA(99999), "");
+  const EncodingRow* const row = FindEncodingByCodePage(54936);
+  ASSERT_NE(row, nullptr);
+  EXPECT_TRUE(EncodedCharacter(*row, u'a').empty());
+}
+
+}  // namespace
+}  // namespace ravo::DIUnicode
