@@ -5,8 +5,8 @@
 #include <array>
 #include <iterator>
 
-#include <locale.h>
-#include <wctype.h>
+#include <locale.h>  // NOLINT(modernize-deprecated-headers): newlocale is not in <clocale>
+#include <wctype.h>  // NOLINT(modernize-deprecated-headers): towlower_l is not in <cwctype>
 
 namespace ravo::platform::posix {
 namespace {

@@ -20,10 +20,13 @@ namespace ravo::DIUnicode::codecs {
 #define RAVO_CODEC_Utf7Odc(table) Utf7Encoder<Utf7Direct::Optional>
 #define RAVO_CODEC_Gb18030(table) Gb18030
 
+// A name that is declared takes no parentheses.
+// NOLINTBEGIN(bugprone-macro-parentheses)
 #define RAVO_ENCODING(name, label, code_page, aliases, engine, ways, table, sources, notes) \
   using name = RAVO_CODEC_##engine(table);
 #include <ravo/unicode/encodings/rows.inc>
 #undef RAVO_ENCODING
+// NOLINTEND(bugprone-macro-parentheses)
 
 #undef RAVO_CODEC_SingleByte
 #undef RAVO_CODEC_Utf8

@@ -7,7 +7,6 @@ namespace ravo::DIUtils {
 namespace {
 
 using strings::Buffer;
-using strings::kNone;
 using strings::Place;
 using strings::Position;
 using strings::View;
