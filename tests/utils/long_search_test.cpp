@@ -29,6 +29,23 @@ TEST(StrPosI, FindsLongTexts) {
   }
 }
 
+// A long text that is nearly there all the time, and then is there.
+TEST(StrPos, FindsLongTexts) {
+  for (const std::size_t length : {2U, 17U, 18U, 19U, 20U, 100U, 1'000U}) {
+    for (const std::size_t differing : {std::size_t{1}, length / 2, length - 2}) {
+      const std::u16string search = u"<" + std::u16string(length, u'-').append(1, u'>');
+      std::u16string near = search;
+      near[differing] = u'+';
+      std::u16string text = near;
+      text.append(near).append(search).append(near);
+      EXPECT_EQ(StrPosW(search, text), 2 * near.size() + 1) << length << ", " << differing;
+      EXPECT_EQ(StrPosW(search, std::u16string_view(text).substr(0, 3 * near.size() - 1)), 0U);
+      const std::string bytes(text.begin(), text.end());
+      EXPECT_EQ(StrPosA(std::string(search.begin(), search.end()), bytes), 2 * near.size() + 1);
+    }
+  }
+}
+
 // What a text folds to stands for it, one place after the other.
 std::size_t PlainPosI(std::u16string_view search, std::u16string_view text) {
   const auto folded = [](std::u16string_view units) {

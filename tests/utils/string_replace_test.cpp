@@ -26,6 +26,14 @@ TEST(StrReplaceIA, Rows) {
 }
 TEST(StrReplaceIW, Rows) { EXPECT_EQ(StrReplaceIW(u"Čč", u"č", u"x"), u"xx"); }
 
+// It would end, but after more passes than anybody waits for.
+TEST(StrReplaceLoopW, EndsWithAnErrorAfterTooManyPasses) {
+  const std::u16string short_text = std::u16string(9, u'a').append(1, u'b');
+  const std::u16string long_text = std::u16string(15, u'a').append(1, u'b');
+  EXPECT_EQ(StrReplaceLoopW(short_text, u"ab", u"bba"), std::u16string(512, u'b').append(9, u'a'));
+  EXPECT_THROW(static_cast<void>(StrReplaceLoopW(long_text, u"ab", u"bba")), RangeError);
+}
+
 TEST(StrReplaceLoopW, UntilNothingIsLeft) {
   EXPECT_EQ(StrReplaceLoopW(u"a     b", u"  ", u" "), u"a b");
   EXPECT_EQ(StrReplaceLoopW(u"     ", u"  ", u" "), u" ");
