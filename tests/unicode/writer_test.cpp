@@ -139,6 +139,18 @@ TEST(WriterClear, ForgetsAllAndBeginsAnew) {
   EXPECT_EQ(writer.DataToStrRaw(), "de");
 }
 
+TEST(WriterClear, KeepsTheBufferOfAStream) {
+  MemoryStream stream;
+  TDIUnicodeWriter writer;
+  writer.SetDataStream(&stream);
+  writer.WriteStrRaw("lost");
+  writer.Clear();
+  EXPECT_EQ(writer.DataSize(), 0U);
+  writer.WriteStrRaw("kept");
+  writer.FlushDataBuffer();
+  EXPECT_EQ(TextOf(stream), "kept");
+}
+
 TEST(SetWriteMethods, InitialisesAndFinalises) {
   calls.clear();
   {
