@@ -1,5 +1,6 @@
 #pragma once
 
+#include <ravo/runtime/component.h>
 #include <ravo/runtime/error.h>
 
 #include <string>
