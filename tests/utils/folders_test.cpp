@@ -3,8 +3,6 @@
 #include "support/suite_name.h"
 #include <ravo/DIUtils.h>
 
-#include <filesystem>
-
 #include <gtest/gtest.h>
 
 namespace ravo::DIUtils {
@@ -142,18 +140,6 @@ TEST(DeleteDirectory, IsFalseForNothingAndForDrives) {
   scratch.Write("file", "");
   EXPECT_FALSE(DeleteDirectoryW(SuiteName(scratch.Path()) + std::u16string(u"\0x", 2), true));
   EXPECT_TRUE(exists(scratch.Path() / "file"));
-}
-
-// Two characters are a drive only where the second is a colon.
-TEST(DeleteDirectory, DeletesTheShortestNames) {
-  const ScratchFolder scratch;
-  create_directory(scratch.Path() / "ab");
-  const std::filesystem::path before = std::filesystem::current_path();
-  std::filesystem::current_path(scratch.Path());
-  const bool deleted = DeleteDirectoryW(u"ab", true);
-  std::filesystem::current_path(before);
-  EXPECT_TRUE(deleted);
-  EXPECT_FALSE(exists(scratch.Path() / "ab"));
 }
 
 TEST(DiskFree, IsWhatTheCallerMayStillUse) {

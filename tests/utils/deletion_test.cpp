@@ -2,6 +2,8 @@
 #include "support/suite_name.h"
 #include <ravo/DIUtils.h>
 
+#include <filesystem>
+
 #include <gtest/gtest.h>
 
 namespace ravo::DIUtils {
@@ -14,6 +16,18 @@ TEST(DeleteFileA, TakesNamesInUtf16Too) {
   EXPECT_TRUE(DeleteFileA(test::SuiteName(scratch.Path() / "file")));
   EXPECT_FALSE(exists(scratch.Path() / "file"));
   EXPECT_FALSE(DeleteFileA(test::SuiteName(scratch.Path() / "file")));
+}
+
+// Two characters are a drive only where the second is a colon.
+TEST(DeleteDirectory, DeletesTheShortestNames) {
+  const test::ScratchFolder scratch;
+  create_directory(scratch.Path() / "ab");
+  const std::filesystem::path before = std::filesystem::current_path();
+  std::filesystem::current_path(scratch.Path());
+  const bool deleted = DeleteDirectoryW(u"ab", true);
+  std::filesystem::current_path(before);
+  EXPECT_TRUE(deleted);
+  EXPECT_FALSE(exists(scratch.Path() / "ab"));
 }
 
 }  // namespace
