@@ -11,6 +11,7 @@ import os
 import pathlib
 import random
 import re
+import select
 import subprocess
 import sys
 import tempfile
@@ -538,6 +539,71 @@ def check_sums(program):
         (program.folder / name).unlink()
 
 
+class Watched:
+    """A program whose standard error is a terminal."""
+
+    def __init__(self, program, arguments, source):
+        own, terminal = os.openpty()
+        self.reader = os.fdopen(own, "rb", buffering=0)
+        self.child = subprocess.Popen(
+            program.command + arguments, cwd=program.folder, stdin=source, stdout=subprocess.PIPE, stderr=terminal
+        )
+        os.close(terminal)
+        self.shown = ""
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        self.child.kill()
+        self.child.wait()
+        for stream in (self.child.stdin, self.child.stdout, self.reader):
+            if stream:
+                stream.close()
+
+    def sees(self, pattern):
+        """Reads on until the terminal shows it; false where the program ends before."""
+        while not re.search(pattern, self.shown):
+            try:
+                piece = self.reader.read(4096)
+            except OSError:  # the program has closed its end
+                return False
+            if not piece:
+                return False
+            self.shown += piece.decode()
+        return True
+
+
+def check_progress(program):
+    """Long work shows a bar on a terminal, or a count where there is no telling how long it is, and takes it away."""
+    if program.emulated or not hasattr(os, "openpty"):
+        return
+    large = program.folder / "large"
+    with open(large, "wb") as file:
+        file.truncate(1 << 40)  # a hole: nothing of it is on the disk
+    with Watched(program, ["hash", "crc32", "large"], subprocess.DEVNULL) as watched:
+        if not watched.sees(r"\rlarge \[#*\.+\] \d+ %"):
+            yield f"hash of a large file: no bar in {watched.shown!r}"
+    large.unlink()
+    with Watched(program, ["hash", "crc32"], subprocess.PIPE) as watched:
+        feed = watched.child.stdin
+
+        def is_shown_after_more():
+            feed.write(b"x" * 100)
+            feed.flush()
+            return select.select([watched.reader], [], [], 0.05)[0]
+
+        if not any(is_shown_after_more() for _ in range(400)):
+            yield "hash of standard input: nothing on the terminal for as long as it is fed"
+        elif not watched.sees(r"\r- \d+00"):
+            yield f"hash of standard input: no count in {watched.shown!r}"
+        feed.close()
+        if not watched.sees(r"\r +\r$"):
+            yield f"hash of standard input: the count stays: {watched.shown!r}"
+        if watched.child.stdout.read()[8:] != b"  -\n":
+            yield "hash of standard input: no sum behind the count"
+
+
 def check_conversions(program):
     """Texts come out in the other encoding; what cannot be read or written ends it, and an old file stays."""
     source, target = program.folder / "příliš.txt", program.folder / "cíl.txt"
@@ -832,6 +898,7 @@ CHECKS = (
     check_report_json,
     check_report_file,
     check_sums,
+    check_progress,
     check_conversions,
     check_full_device,
     check_colours,
