@@ -371,7 +371,6 @@ ROWS = [
         '$ ravo address "Nádražní 1234/5"\nNádražní\t1234/5\n', "\n$ ravo report\nInformace o klientské vrstvě\n", " lines more\n")),
     Row(["tour", "--commands"], holds=lambda out: len(set(line.split()[1] for line in out.splitlines())) < 8 and "too few commands"),
     Row(["tour", "there"], WRONG_USAGE),
-    # Sums of files; more of them below.
     # Characters and strings.
     Row(["char", "--help"], out=("U+010D", "Examples:")),
     Row(["char", "č"], out=("character\tU+010D\ntext\tč\ncategory\tLl, lower-case letter\nclass\t0\nupper\tU+010C\n",
