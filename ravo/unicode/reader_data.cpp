@@ -19,18 +19,6 @@ void TDIUnicodeReader::GrowData(std::uint64_t needed, std::uint32_t filled) {
   FDataCapacity = capacity;
 }
 
-// Where characters can be put before they count: what is left of the Data, and the room beyond it.
-std::span<char16_t> TDIUnicodeReader::RoomInData() const noexcept {
-  return {FData.get() + FDataSize, FDataCapacity - FDataSize + kRoomBeyondData};
-}
-
-// So many of them count now.
-void TDIUnicodeReader::CountAsData(std::size_t count) {
-  const std::uint64_t size = FDataSize + std::uint64_t{count};
-  if (size > FDataCapacity) GrowData(size, static_cast<std::uint32_t>(size));
-  FDataSize = static_cast<std::uint32_t>(size);
-}
-
 void TDIUnicodeReader::AddCharCompact(char16_t c) {
   const bool ends_in_blank = FDataSize != 0 && FData[FDataSize - 1] == u' ';
   if (!CharIsWhiteSpaceW(c))

@@ -85,7 +85,7 @@ std::size_t AsciiLengthIn(std::span<const std::uint8_t> bytes, const Belongs& be
 }
 
 template <std::size_t count>
-EndBytes EndBytesOf(const Not<OneOf<count>>& belongs) {
+constexpr EndBytes EndsOf(const Not<OneOf<count>>& belongs) {
   const auto& ends = belongs.What().Chars();
   const auto byte = [&ends](std::size_t i) { return static_cast<std::uint8_t>(ends[std::min(i, count - 1)]); };
   return {byte(0), byte(1), byte(2)};
@@ -134,7 +134,7 @@ template <class Belongs>
 auto TDIUnicodeReader::PassTill(std::span<char16_t> room, const Belongs& belongs, bool store) -> Passed {
   const bool in_place = store && FData != nullptr;
   const auto to = in_place ? RoomInData() : room;
-  const EndBytes ends = EndBytesOf(belongs);
+  const EndBytes ends = EndsOf(belongs);
   const auto unread = UnreadBytes();
   const RunTill run = FDecodeTill(unread, to, ends);
   if (in_place)
@@ -144,7 +144,7 @@ auto TDIUnicodeReader::PassTill(std::span<char16_t> room, const Belongs& belongs
   // The Data may have moved.
   const auto chars = std::span(in_place ? Data().substr(FDataSize - run.made) : std::u16string_view(to.data(), run.made));
   FSourceBufferPosition += static_cast<std::uint32_t>(run.taken);
-  if (run.taken == unread.size() || !IsEnd(ends, unread[run.taken])) {
+  if (run.taken == unread.size() || !ends.Has(unread[run.taken])) {
     CountRun(chars, run.lines == Lines::MayBeMore);
     return run.taken != 0 && run.taken != unread.size() ? Passed::Some : Passed::Nothing;
   }

@@ -16,6 +16,7 @@ namespace ravo::DIUnicode {
 class TDIUnicodeReader;
 struct Run;
 struct RunTill;
+class EndBytes;
 
 /// What a byte-order mark at the start of a source says.
 enum class TDIBOM : std::uint8_t { bomUnknown, bomUtf8, bomutf16be, bomutf16le, bomutf32be, bomutf32le };
@@ -411,8 +412,16 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
 
   void GrowData(std::uint64_t needed, std::uint32_t filled);
   std::span<char16_t> ExtendData(std::size_t count);
-  [[nodiscard]] std::span<char16_t> RoomInData() const noexcept;
-  void CountAsData(std::size_t count);
+  /// Where characters can be put before they count: what is left of the Data, and the room beyond it.
+  [[nodiscard]] std::span<char16_t> RoomInData() const noexcept {
+    return {FData.get() + FDataSize, FDataCapacity - FDataSize + kRoomBeyondData};
+  }
+  /// So many of them count now.
+  void CountAsData(std::uint32_t count) {
+    const std::uint64_t size = std::uint64_t{FDataSize} + count;
+    if (size > FDataCapacity) GrowData(size, static_cast<std::uint32_t>(size));
+    FDataSize = static_cast<std::uint32_t>(size);
+  }
 
   bool FCharOK = false;
   char16_t FChar = 0;
@@ -442,7 +451,7 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
   Run (*FDecodeRun)(std::span<const std::uint8_t> bytes, std::span<char16_t> text) = nullptr;
   /// The same up to a byte of ASCII; null also where bytes below 0x80 are more or less than ASCII.
   RunTill (*FDecodeTill)(std::span<const std::uint8_t> bytes, std::span<char16_t> text,
-                         const std::array<std::uint8_t, 3>& ends) = nullptr;
+                         EndBytes ends) = nullptr;
 };
 
 }  // namespace ravo::DIUnicode

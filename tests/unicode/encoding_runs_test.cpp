@@ -111,16 +111,16 @@ TEST(EncodingRuns, EncodeWhatSingleCharactersEncode) {
 TEST(EncodingRuns, EveryKernelOfUtf8GivesTheSame) {
   std::mt19937 random(3);
   const EncodingRow& row = *FindEncoding("UTF_8");
-  for (const Utf8Kernel& kernel : Utf8Kernels()) {
+  for (const RunKernel& kernel : RunKernels()) {
     if (!kernel.runs_here()) continue;
     for (int i = 0; i < 3000; ++i) {
       const Bytes bytes = RandomBytes(random, AlphabetOf(row));
       std::u16string text(bytes.size(), u'\0');
-      const auto decoded = kernel.decode(bytes, text);
+      const auto decoded = kernel.decode_utf8(bytes, text);
       ASSERT_EQ(Read(Read_UTF_8, test::TextOf(bytes).substr(0, decoded.taken)), text.substr(0, decoded.made));
       const std::u16string source = RandomText(random, row);
       Bytes made(3 * source.size());
-      const auto encoded = kernel.encode(source, made);
+      const auto encoded = kernel.encode_utf8(source, made);
       ASSERT_EQ(Write(Write_UTF_8, source.substr(0, encoded.taken)),
                 test::TextOf(std::span(made).first(encoded.made)));
     }

@@ -3,6 +3,7 @@
 #include <ravo/unicode/encodings/run_till.h>
 #include <ravo/unicode/encodings/single_byte.h>
 
+#include <atomic>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -37,15 +38,20 @@ struct RunKernel {
   Run (*encode_utf8)(TextSpan text, ByteRoom bytes) noexcept;
   /// For tables with ASCII.
   Run (*decode_single_byte)(const ByteTable& table, ByteSpan bytes, TextRoom text) noexcept;
-  RunTill (*till_utf8)(ByteSpan bytes, TextRoom text, const EndBytes& ends) noexcept;
+  RunTill (*till_utf8)(ByteSpan bytes, TextRoom text, EndBytes ends) noexcept;
   RunTill (*till_single_byte)(const ByteTable& table, ByteSpan bytes, TextRoom text,
-                              const EndBytes& ends) noexcept;
+                              EndBytes ends) noexcept;
 };
 
 /// All of them, the plain one first and the fastest last.
 [[nodiscard]] std::span<const RunKernel> RunKernels() noexcept;
-/// The fastest that runs here, unless a test chose another one.
-[[nodiscard]] const RunKernel& ChosenRunKernel() noexcept;
+/// Chooses the fastest that runs here, unless one is chosen already; what gives runs to others does that first.
+void ChooseRunKernel() noexcept;
+/// The chosen one; before, one that runs everywhere.
+extern constinit std::atomic<const RunKernel*> chosen_run_kernel;
+[[nodiscard]] inline const RunKernel& ChosenRunKernel() noexcept {
+  return *chosen_run_kernel.load(std::memory_order_relaxed);
+}
 
 /// Makes a kernel the chosen one while it lives. For tests, one at a time.
 class ScopedRunKernel {
@@ -71,9 +77,9 @@ class ScopedRunKernel {
 /// Blocks of sixty-four bytes: instructions of AVX-512, where `HasWideBlocks`. The ends may be any bytes of ASCII.
 [[nodiscard]] Run DecodeUtf8Wide(ByteSpan bytes, TextRoom text) noexcept;
 [[nodiscard]] Run DecodeSingleByteWide(const ByteTable& table, ByteSpan bytes, TextRoom text) noexcept;
-[[nodiscard]] RunTill DecodeUtf8TillWide(ByteSpan bytes, TextRoom text, const EndBytes& ends) noexcept;
+[[nodiscard]] RunTill DecodeUtf8TillWide(ByteSpan bytes, TextRoom text, EndBytes ends) noexcept;
 [[nodiscard]] RunTill DecodeSingleByteTillWide(const ByteTable& table, ByteSpan bytes, TextRoom text,
-                                               const EndBytes& ends) noexcept;
+                                               EndBytes ends) noexcept;
 [[nodiscard]] bool HasWideBlocks() noexcept;
 
 }  // namespace ravo::DIUnicode

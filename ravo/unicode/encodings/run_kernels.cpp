@@ -22,28 +22,26 @@ constexpr std::array<RunKernel, 4> kKernels = {{
      DecodeSingleByteTillWide},
 }};
 
-// Two threads that come first together choose the same.
-constinit std::atomic<const RunKernel*> chosen{nullptr};
-
-const RunKernel& Choose() noexcept {
-  const auto best = std::find_if(kKernels.rbegin(), kKernels.rend(),
-                                 [](const RunKernel& kernel) { return kernel.runs_here(); });
-  chosen.store(&*best, std::memory_order_relaxed);
-  return *best;
-}
+constexpr const RunKernel* kEverywhere = &kKernels[1];
 
 }  // namespace
 
-std::span<const RunKernel> RunKernels() noexcept { return kKernels; }
+constinit std::atomic<const RunKernel*> chosen_run_kernel{kEverywhere};
 
-const RunKernel& ChosenRunKernel() noexcept {
-  const RunKernel* const kernel = chosen.load(std::memory_order_relaxed);
-  return kernel != nullptr ? *kernel : Choose();
+// Two threads that come first together choose the same.
+void ChooseRunKernel() noexcept {
+  static std::atomic<bool> is_chosen{false};
+  if (is_chosen.exchange(true)) return;
+  const auto best = std::find_if(kKernels.rbegin(), kKernels.rend(),
+                                 [](const RunKernel& kernel) { return kernel.runs_here(); });
+  chosen_run_kernel.store(&*best, std::memory_order_relaxed);
 }
 
-ScopedRunKernel::ScopedRunKernel(const RunKernel& kernel) noexcept
-    : previous_(chosen.exchange(&kernel, std::memory_order_relaxed)) {}
+std::span<const RunKernel> RunKernels() noexcept { return kKernels; }
 
-ScopedRunKernel::~ScopedRunKernel() { chosen.store(previous_, std::memory_order_relaxed); }
+ScopedRunKernel::ScopedRunKernel(const RunKernel& kernel) noexcept
+    : previous_((ChooseRunKernel(), chosen_run_kernel.exchange(&kernel, std::memory_order_relaxed))) {}
+
+ScopedRunKernel::~ScopedRunKernel() { chosen_run_kernel.store(previous_, std::memory_order_relaxed); }
 
 }  // namespace ravo::DIUnicode

@@ -45,15 +45,14 @@ Run DecodeMixedBefore(DecodeRun decode, ByteSpan bytes, TextRoom to, const Ends&
 
 }  // namespace
 
-RunTill DecodeTillByBlocks(DecodeRun decode, ByteSpan bytes, TextRoom text, const EndBytes& end_bytes) {
-  const Ends ends(char16_t{end_bytes[0]}, char16_t{end_bytes[1]}, char16_t{end_bytes[2]});
-  const bool breaks_end = IsEnd(end_bytes, '\r') && IsEnd(end_bytes, '\n');
+RunTill DecodeTillByBlocks(DecodeRun decode, ByteSpan bytes, TextRoom text, EndBytes end_bytes) {
+  const Ends ends(char16_t{end_bytes.First()}, char16_t{end_bytes.Second()}, char16_t{end_bytes.Third()});
   const std::size_t ascii = WidenAsciiBefore(bytes, text, ends);
   Run mixed;
   if (ascii < bytes.size() && bytes[ascii] >= 0x80)
     mixed = DecodeMixedBefore(decode, bytes.subspan(ascii), text.subspan(ascii), ends);
   return {ascii + mixed.taken, static_cast<std::uint32_t>(ascii + mixed.made),
-          breaks_end ? Lines::One : Lines::MayBeMore};
+          end_bytes.HasBreaks() ? Lines::One : Lines::MayBeMore};
 }
 
 }  // namespace ravo::DIUnicode

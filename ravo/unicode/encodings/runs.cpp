@@ -129,7 +129,7 @@ struct Till {
 
 template <const ByteTable& table>
 struct Till<SingleByte<table>> {
-  static RunTill Decode(ByteSpan bytes, TextRoom text, const EndBytes& ends) {
+  static RunTill Decode(ByteSpan bytes, TextRoom text, EndBytes ends) {
     const auto till = ChosenRunKernel().till_single_byte;
     return till != nullptr ? till(table, bytes, text, ends)
                            : DecodeTillByBlocks(DecodeWith<SingleByte<table>>, bytes, text, ends);
@@ -139,7 +139,7 @@ struct Till<SingleByte<table>> {
 
 template <>
 struct Till<Utf8> {
-  static RunTill Decode(ByteSpan bytes, TextRoom text, const EndBytes& ends) {
+  static RunTill Decode(ByteSpan bytes, TextRoom text, EndBytes ends) {
     const auto till = ChosenRunKernel().till_utf8;
     return till != nullptr ? till(bytes, text, ends)
                            : DecodeTillByBlocks(DecodeWith<Utf8>, bytes, text, ends);
@@ -167,6 +167,7 @@ constexpr Runs kRuns[] = {
 constexpr Runs kNone = {nullptr, nullptr, nullptr};
 
 const Runs& RunsOf(const TDIUnicodeReadMethods& methods) noexcept {
+  ChooseRunKernel();
   const auto rows = EncodingRows();
   for (std::size_t i = 0; i < rows.size(); ++i) {
     if (rows[i].read != nullptr && rows[i].read->ReadChar == methods.ReadChar) return kRuns[i];
@@ -181,6 +182,7 @@ DecodeRun DecodeRunOf(const TDIUnicodeReadMethods& methods) noexcept { return Ru
 DecodeTill DecodeTillOf(const TDIUnicodeReadMethods& methods) noexcept { return RunsOf(methods).decode_till; }
 
 EncodeRun EncodeRunOf(const TDIUnicodeWriteMethods& methods) noexcept {
+  ChooseRunKernel();
   const auto rows = EncodingRows();
   for (std::size_t i = 0; i < rows.size(); ++i) {
     if (rows[i].write != nullptr && rows[i].write->WriteChar == methods.WriteChar) return kRuns[i].encode;

@@ -68,6 +68,11 @@ struct Block {
 // Single bytes: the upper half of the table in four vectors.
 class WideSingleByte {
  public:
+  struct Maker {
+    const ByteTable& table;
+    RAVO_WIDE WideSingleByte operator()() const { return WideSingleByte(table); }
+  };
+
   RAVO_WIDE explicit WideSingleByte(const ByteTable& table) {
     for (std::size_t i = 0; i < 4; ++i) parts_[i] = _mm512_loadu_si512(table.data() + 0x80 + i * kHalf);
   }
@@ -99,6 +104,10 @@ class WideSingleByte {
 // Sequences may go on in the next block.
 class WideUtf8 {
  public:
+  struct Maker {
+    RAVO_WIDE WideUtf8 operator()() const { return {}; }
+  };
+
   // False where something is wrong: what is right in front of it is done.
   RAVO_WIDE bool Decode(const Block& block, TextRoom to, Run& run) {
     const Vector bytes = Load(block.from);
@@ -202,17 +211,19 @@ RAVO_WIDE inline Run DecodeBlocks(Engine engine, ByteSpan bytes, std::size_t end
   return engine.WithoutUnfinished({end, made}, bytes);
 }
 
+// Where a run ends.
 struct End {
   std::size_t at = 0;
+  Bits beyond = 0;  ///< not 0 where something in front of it is no ASCII
   Lines lines = Lines::One;
 };
 
-// Where a run ends, two blocks at once: nobody waits for the first one to know where the next line begins.
+// Two blocks at once: nobody waits for the first one to know where the next line begins.
 class EndSearch {
  public:
-  RAVO_WIDE explicit EndSearch(const EndBytes& ends)
-      : ends_{Everywhere(ends[0]), Everywhere(ends[1]), Everywhere(ends[2])},
-        breaks_end_(IsEnd(ends, '\r') && IsEnd(ends, '\n')) {}
+  RAVO_WIDE explicit EndSearch(EndBytes ends)
+      : ends_{Everywhere(ends.First()), Everywhere(ends.Second()), Everywhere(ends.Third())},
+        breaks_end_(ends.HasBreaks()) {}
 
   RAVO_WIDE End In(ByteSpan bytes) const {
     End end;
@@ -224,7 +235,11 @@ class EndSearch {
       const std::uint8_t* const ahead = from + std::min(left - kWide, kAhead);
       _mm_prefetch(reinterpret_cast<const char*>(ahead), _MM_HINT_T0);
       _mm_prefetch(reinterpret_cast<const char*>(ahead + kWide), _MM_HINT_T0);
-      if (Find(Load(from), Load(from + kWide), 2 * kWide, end)) return end;
+      const Vector low = Load(from);
+      const Vector high = Load(from + kWide);
+      const std::size_t length = LengthIn(low, high);
+      Pass(low, high, length, end);
+      if (length < 2 * kWide) return end;
     }
   }
 
@@ -233,19 +248,21 @@ class EndSearch {
     const std::size_t first = std::min(left, kWide);
     const Vector low = _mm512_maskz_loadu_epi8(Lowest(first), from);
     const Vector high = _mm512_maskz_loadu_epi8(Lowest(left - first), from + first);
-    Find(low, high, left, end);
+    Pass(low, high, std::min(left, LengthIn(low, high)), end);
     return end;
   }
 
-  RAVO_WIDE bool Find(Vector low, Vector high, std::size_t count, End& end) const {
+  RAVO_WIDE std::size_t LengthIn(Vector low, Vector high) const {
     const Bits in_low = EndsIn(low);
-    const Bits in_high = EndsIn(high);
     const Bits nothing_in_low = Bits{0} - static_cast<Bits>(in_low == 0);
-    const std::size_t found = _tzcnt_u64(in_low) + (_tzcnt_u64(in_high) & nothing_in_low);
-    const std::size_t length = count == 2 * kWide ? found : std::min(found, count);
+    return _tzcnt_u64(in_low) + (_tzcnt_u64(EndsIn(high)) & nothing_in_low);
+  }
+
+  RAVO_WIDE void Pass(Vector low, Vector high, std::size_t length, End& end) const {
+    const std::size_t first = std::min(length, kWide);
+    end.beyond |= (_mm512_movepi8_mask(low) & Lowest(first)) | (_mm512_movepi8_mask(high) & Lowest(length - first));
     if (!breaks_end_ && LineMayEnd(low, high, length)) end.lines = Lines::MayBeMore;
     end.at += length;
-    return found < count;
   }
 
   RAVO_WIDE Bits EndsIn(Vector bytes) const {
@@ -266,11 +283,20 @@ class EndSearch {
   bool breaks_end_;
 };
 
-template <class Engine>
-RAVO_WIDE inline RunTill DecodeTillEnd(const Engine& engine, ByteSpan bytes, TextRoom text,
-                                       const EndBytes& ends) {
+// ASCII, half a block at a time, where bytes and characters behind it may be touched.
+RAVO_WIDE inline void WidenAll(const std::uint8_t* from, std::size_t length, char16_t* to) {
+  for (std::size_t at = 0; at < length; at += kHalf) _mm512_storeu_si512(to + at, Widened(from + at));
+}
+
+template <class Maker>
+RAVO_WIDE inline RunTill DecodeTillEnd(Maker make_engine, ByteSpan bytes, TextRoom text, EndBytes ends) {
   const End end = EndSearch(ends).In(bytes.first(std::min(bytes.size(), text.size())));
-  const Run run = DecodeBlocks(engine, bytes, end.at, text);
+  const std::size_t touched = end.at + kHalf;
+  if (end.beyond == 0 && touched <= bytes.size() && touched <= text.size()) {
+    WidenAll(bytes.data(), end.at, text.data());
+    return {end.at, static_cast<std::uint32_t>(end.at), end.lines};
+  }
+  const Run run = DecodeBlocks(make_engine(), bytes, end.at, text);
   return {run.taken, static_cast<std::uint32_t>(run.made), end.lines};
 }
 
@@ -285,12 +311,12 @@ RAVO_WIDE Run DecodeUtf8Wide(ByteSpan bytes, TextRoom text) noexcept {
 }
 
 RAVO_WIDE RunTill DecodeSingleByteTillWide(const ByteTable& table, ByteSpan bytes, TextRoom text,
-                                           const EndBytes& ends) noexcept {
-  return DecodeTillEnd(WideSingleByte(table), bytes, text, ends);
+                                           EndBytes ends) noexcept {
+  return DecodeTillEnd(WideSingleByte::Maker{table}, bytes, text, ends);
 }
 
-RAVO_WIDE RunTill DecodeUtf8TillWide(ByteSpan bytes, TextRoom text, const EndBytes& ends) noexcept {
-  return DecodeTillEnd(WideUtf8{}, bytes, text, ends);
+RAVO_WIDE RunTill DecodeUtf8TillWide(ByteSpan bytes, TextRoom text, EndBytes ends) noexcept {
+  return DecodeTillEnd(WideUtf8::Maker{}, bytes, text, ends);
 }
 
 bool HasWideBlocks() noexcept {
@@ -308,10 +334,10 @@ namespace ravo::DIUnicode {
 
 Run DecodeSingleByteWide(const ByteTable&, ByteSpan, TextRoom) noexcept { return {}; }
 Run DecodeUtf8Wide(ByteSpan, TextRoom) noexcept { return {}; }
-RunTill DecodeSingleByteTillWide(const ByteTable&, ByteSpan, TextRoom, const EndBytes&) noexcept {
+RunTill DecodeSingleByteTillWide(const ByteTable&, ByteSpan, TextRoom, EndBytes) noexcept {
   return {};
 }
-RunTill DecodeUtf8TillWide(ByteSpan, TextRoom, const EndBytes&) noexcept { return {}; }
+RunTill DecodeUtf8TillWide(ByteSpan, TextRoom, EndBytes) noexcept { return {}; }
 bool HasWideBlocks() noexcept { return false; }
 
 }  // namespace ravo::DIUnicode
