@@ -131,7 +131,7 @@ bool TDIUnicodeReader::PassAscii(const Belongs& belongs, bool store) {
 // Everything before a character that ends it, decoded in its place in the Data or, where there is none, in `room`,
 // and that character, which becomes the current one. Nothing where something else is in between.
 template <class Belongs>
-auto TDIUnicodeReader::PassTill(std::span<char16_t> room, const Belongs& belongs, bool store) -> Passed {
+inline auto TDIUnicodeReader::PassTill(std::span<char16_t> room, const Belongs& belongs, bool store) -> Passed {
   const bool in_place = store && FData != nullptr;
   const auto to = in_place ? RoomInData() : room;
   const EndBytes ends = EndsOf(belongs);
@@ -264,18 +264,24 @@ void TDIUnicodeReader::SkipWhiteSpace() { PassOver(WhiteSpace{}, false); }
 void TDIUnicodeReader::ReadCharsTillWhiteSpace() { PassOver(NoWhiteSpace{}, true); }
 
 // The rest of the line break that is the current character, and ASCII behind it, from the buffer: as `ReadChar`.
-bool TDIUnicodeReader::PassBufferedBreak() noexcept {
+// Which of the two ways it goes can be foreseen; a number in its place would have to be waited for.
+inline bool TDIUnicodeReader::PassBufferedBreak() noexcept {
   const auto unread = UnreadBytes();
   if (FDecodeTill == nullptr || FPeekedCount != 0 || unread.size() < 2) return false;
-  const std::uint32_t rest = FChar == u'\r' && unread[0] == '\n' ? 1 : 0;
-  const std::uint8_t next = unread[rest];
-  if (next >= 0x80) return false;
-  FSourceBufferPosition += rest + 1;
-  FCharPos += rest + 1;
+  if (FChar == u'\r' && unread[0] == '\n') [[likely]] return BeginLine(unread, 2, u'\n');
+  return BeginLine(unread, 1, FChar);
+}
+
+inline bool TDIUnicodeReader::BeginLine(std::span<const std::uint8_t> unread, std::uint32_t count,
+                                        char16_t before) noexcept {
+  const std::uint8_t first = unread[count - 1];
+  if (first >= 0x80) return false;
+  FSourceBufferPosition += count;
+  FCharPos += count;
   ++FCharLine;
   FCharCol = 1;
-  FLastChar = rest != 0 ? u'\n' : FChar;
-  FChar = next;
+  FLastChar = before;
+  FChar = first;
   return true;
 }
 

@@ -403,12 +403,13 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
   template <class Belongs>
   void PassOver(const Belongs& belongs, bool store);
   bool PassBufferedBreak() noexcept;
+  bool BeginLine(std::span<const std::uint8_t> unread, std::uint32_t count, char16_t before) noexcept;
   void PassLine(bool store);
   /// The next characters, as many as come at once; 0 at the end of all data.
   std::size_t ReadRun(std::span<char16_t> room);
 
   /// Characters behind the capacity of the Data, so that whole blocks can be written at its end.
-  static constexpr std::size_t kRoomBeyondData = 128;
+  static constexpr std::size_t kRoomBeyondData = 256;
 
   void GrowData(std::uint64_t needed, std::uint32_t filled);
   std::span<char16_t> ExtendData(std::size_t count);

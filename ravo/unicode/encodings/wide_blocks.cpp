@@ -185,7 +185,7 @@ RAVO_WIDE inline void WidenBlock(const Block& block, TextRoom to) {
 // the way of those in front of it, whatever it has. How many bytes are taken follows from no character, so that
 // nobody waits for the characters to know where the next run begins.
 template <class Engine>
-RAVO_WIDE inline Run DecodeBlocks(Engine engine, ByteSpan bytes, std::size_t end, TextRoom text) {
+RAVO_WIDE [[gnu::noinline]] Run DecodeBlocks(Engine engine, ByteSpan bytes, std::size_t end, TextRoom text) {
   alignas(Vector) std::array<std::uint8_t, 2 * kWide> tail;
   std::size_t made = 0;
   for (std::size_t at = 0; at < end; at += kWide) {
@@ -283,15 +283,18 @@ class EndSearch {
   bool breaks_end_;
 };
 
-// ASCII, half a block at a time, where bytes and characters behind it may be touched.
+// Where bytes and characters behind the end may be touched, there are no questions about the last block: two at once.
 RAVO_WIDE inline void WidenAll(const std::uint8_t* from, std::size_t length, char16_t* to) {
-  for (std::size_t at = 0; at < length; at += kHalf) _mm512_storeu_si512(to + at, Widened(from + at));
+  std::size_t at = 0;
+  do {
+    for (std::size_t i = 0; i < 4; ++i, at += kHalf) _mm512_storeu_si512(to + at, Widened(from + at));
+  } while (at < length);
 }
 
 template <class Maker>
 RAVO_WIDE inline RunTill DecodeTillEnd(Maker make_engine, ByteSpan bytes, TextRoom text, EndBytes ends) {
   const End end = EndSearch(ends).In(bytes.first(std::min(bytes.size(), text.size())));
-  const std::size_t touched = end.at + kHalf;
+  const std::size_t touched = end.at + 2 * kWide;
   if (end.beyond == 0 && touched <= bytes.size() && touched <= text.size()) {
     WidenAll(bytes.data(), end.at, text.data());
     return {end.at, static_cast<std::uint32_t>(end.at), end.lines};
