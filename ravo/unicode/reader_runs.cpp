@@ -98,14 +98,14 @@ void TDIUnicodeReader::AddRun(std::span<Unit> run) {
   std::ranges::copy(run, ExtendData(run.size()).begin());
 }
 
-// The current character becomes the last one of the run, with the location that it has then. Unless lines may
-// end, only the character before the run can start one with it.
+// The current character becomes the last one of the run, with the location that it has then. In one line only the
+// character before the run can be a break that others follow.
 template <class Unit>
-void TDIUnicodeReader::CountRun(std::span<const Unit> run, bool lines_may_end) noexcept {
+void TDIUnicodeReader::CountRun(std::span<const Unit> run, Lines lines) noexcept {
   if (run.empty()) return;
-  const auto starts = unicode::FindLineStarts(FChar, lines_may_end ? run : run.first(1));
+  const auto starts = unicode::FindLineStarts(FChar, lines == Lines::MayBeMore ? run : run.first(1));
   const auto size = static_cast<std::uint32_t>(run.size());
-  FLastChar = size > 1 ? static_cast<char16_t>(run[size - 2]) : FChar;
+  const char16_t before = size > 1 ? static_cast<char16_t>(run[size - 2]) : FChar;
   FChar = run.back();
   FCharPos += size;
   FCharCol += size;
@@ -114,7 +114,7 @@ void TDIUnicodeReader::CountRun(std::span<const Unit> run, bool lines_may_end) n
     FCharCol = size - static_cast<std::uint32_t>(starts.last);
   }
   // The line feed of a pair stands in the column of the carriage return.
-  if (FChar == u'\n' && FLastChar == u'\r') --FCharCol;
+  if (FChar == u'\n' && before == u'\r') --FCharCol;
 }
 
 // ASCII that belongs, from its bytes. Answers whether there may be more.
@@ -124,7 +124,7 @@ bool TDIUnicodeReader::PassAscii(const Belongs& belongs, bool store) {
   const auto run = unread.first(AsciiLengthIn(unread, belongs));
   if (store) AddRun(run);
   FSourceBufferPosition += static_cast<std::uint32_t>(run.size());
-  CountRun(run, true);
+  CountRun(run, Lines::MayBeMore);
   return !run.empty() && run.size() == unread.size();
 }
 
@@ -145,24 +145,23 @@ inline auto TDIUnicodeReader::PassTill(std::span<char16_t> room, const Belongs& 
   const auto chars = std::span(in_place ? Data().substr(FDataSize - run.made) : std::u16string_view(to.data(), run.made));
   FSourceBufferPosition += static_cast<std::uint32_t>(run.taken);
   if (run.taken == unread.size() || !ends.Has(unread[run.taken])) {
-    CountRun(chars, run.lines == Lines::MayBeMore);
+    CountRun(chars, run.lines);
     return run.taken != 0 && run.taken != unread.size() ? Passed::Some : Passed::Nothing;
   }
   ++FSourceBufferPosition;
-  // Characters that were just stored are there for the processor only after a while: their bytes tell sooner.
-  const std::uint8_t last = run.taken != 0 ? unread[run.taken - 1] : 0x80;
-  const bool within_line = run.lines == Lines::One && last != '\r' && last != '\n' && !unicode::kLineBreaks(FChar);
-  if (within_line) {
+  const std::uint8_t last = run.taken != 0 ? unread[run.taken - 1] : 0;
+  if (run.lines == Lines::One && last != '\r' && last != '\n' && !unicode::kLineBreaks(FChar)) {
     FCharPos += run.made + 1;
     FCharCol += run.made + 1;
-    if (run.made != 0) FLastChar = last < 0x80 ? char16_t{last} : chars.back();
-    else FLastChar = FChar;
+    FChar = unread[run.taken];
   } else {
-    CountRun(chars, run.lines == Lines::MayBeMore);
-    FLastChar = FChar;
+    // Characters that were just stored are there for the processor only after a while, their bytes are there now.
+    if (run.made == run.taken)
+      CountRun(unread.first(run.taken), run.lines);
+    else
+      CountRun(chars, run.lines);
+    CountRun(unread.subspan(run.taken, 1), Lines::One);
   }
-  FChar = unread[run.taken];
-  if (!within_line) CountLocation();
   return Passed::All;
 }
 
@@ -177,7 +176,7 @@ std::size_t TDIUnicodeReader::PassDecoded(std::span<char16_t> room, const Belong
   const auto chars = std::span<const char16_t>(room.first(run.made));
   if (store) AddRun(chars);
   FSourceBufferPosition += static_cast<std::uint32_t>(run.taken);
-  CountRun(chars, true);
+  CountRun(chars, Lines::MayBeMore);
   return run.made;
 }
 
@@ -263,26 +262,32 @@ void TDIUnicodeReader::ReadWhiteSpace() { PassOver(WhiteSpace{}, true); }
 void TDIUnicodeReader::SkipWhiteSpace() { PassOver(WhiteSpace{}, false); }
 void TDIUnicodeReader::ReadCharsTillWhiteSpace() { PassOver(NoWhiteSpace{}, true); }
 
-// The rest of the line break that is the current character, and ASCII behind it, from the buffer: as `ReadChar`.
+// The rest of the line break that is the current character, and the character behind it, from the buffer: as `ReadChar`.
 // Which of the two ways it goes can be foreseen; a number in its place would have to be waited for.
-inline bool TDIUnicodeReader::PassBufferedBreak() noexcept {
+inline bool TDIUnicodeReader::PassBufferedBreak() {
   const auto unread = UnreadBytes();
   if (FDecodeTill == nullptr || FPeekedCount != 0 || unread.size() < 2) return false;
-  if (FChar == u'\r' && unread[0] == '\n') [[likely]] return BeginLine(unread, 2, u'\n');
-  return BeginLine(unread, 1, FChar);
+  if (FChar == u'\r' && unread[0] == '\n') [[likely]]
+    BeginLine(unread[1], 2, u'\n');
+  else
+    BeginLine(unread[0], 1, FChar);
+  return true;
 }
 
-inline bool TDIUnicodeReader::BeginLine(std::span<const std::uint8_t> unread, std::uint32_t count,
-                                        char16_t before) noexcept {
-  const std::uint8_t first = unread[count - 1];
-  if (first >= 0x80) return false;
-  FSourceBufferPosition += count;
-  FCharPos += count;
-  ++FCharLine;
-  FCharCol = 1;
-  FLastChar = before;
-  FChar = first;
-  return true;
+// `first` is `count` bytes away, behind a break that ends in `before`.
+inline void TDIUnicodeReader::BeginLine(std::uint8_t first, std::uint32_t count, char16_t before) {
+  if (first < 0x80) [[likely]] {
+    FSourceBufferPosition += count;
+    FCharPos += count;
+    ++FCharLine;
+    FCharCol = 1;
+    FChar = first;
+  } else {
+    FSourceBufferPosition += count - 1;
+    FCharPos += count - 1;
+    FChar = before;
+    ReadChar();
+  }
 }
 
 void TDIUnicodeReader::PassLine(bool store) {

@@ -184,7 +184,7 @@ template <class Unit>
     carriage = carriages >> (size - 1) & 1;
     const unsigned found = (behind_feeds | (behind_carriages & ~feeds)) & ((1U << size) - 1);
     if (found == 0) return;
-    starts.count += static_cast<std::size_t>(std::popcount(found));
+    for (unsigned rest = found; rest != 0; rest &= rest - 1) ++starts.count;
     starts.last = at + static_cast<std::size_t>(std::bit_width(found)) - 1;
   };
   std::size_t at = 0;

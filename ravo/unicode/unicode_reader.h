@@ -17,6 +17,7 @@ class TDIUnicodeReader;
 struct Run;
 struct RunTill;
 class EndBytes;
+enum class Lines : std::uint32_t;
 
 /// What a byte-order mark at the start of a source says.
 enum class TDIBOM : std::uint8_t { bomUnknown, bomUtf8, bomutf16be, bomutf16le, bomutf32be, bomutf32le };
@@ -391,7 +392,7 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
   template <class Unit>
   void AddRun(std::span<Unit> run);
   template <class Unit>
-  void CountRun(std::span<const Unit> run, bool lines_may_end) noexcept;
+  void CountRun(std::span<const Unit> run, Lines lines) noexcept;
   template <class Belongs>
   bool PassAscii(const Belongs& belongs, bool store);
   template <class Belongs>
@@ -402,8 +403,8 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
   bool PassRuns(const Belongs& belongs, bool store);
   template <class Belongs>
   void PassOver(const Belongs& belongs, bool store);
-  bool PassBufferedBreak() noexcept;
-  bool BeginLine(std::span<const std::uint8_t> unread, std::uint32_t count, char16_t before) noexcept;
+  bool PassBufferedBreak();
+  void BeginLine(std::uint8_t first, std::uint32_t count, char16_t before);
   void PassLine(bool store);
   /// The next characters, as many as come at once; 0 at the end of all data.
   std::size_t ReadRun(std::span<char16_t> room);
@@ -426,6 +427,7 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
 
   bool FCharOK = false;
   char16_t FChar = 0;
+  /// The character before `FChar`, for `CountLocation` alone: what goes in runs leaves it.
   char16_t FLastChar = 0;
   std::uint32_t FCharPos = 0;
   std::uint32_t FCharLine = 1;

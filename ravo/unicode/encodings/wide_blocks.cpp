@@ -291,15 +291,28 @@ RAVO_WIDE inline void WidenAll(const std::uint8_t* from, std::size_t length, cha
   } while (at < length);
 }
 
+template <class Engine>
+RAVO_WIDE inline Run DecodeAll(Engine engine, ByteSpan bytes, std::size_t end, TextRoom text) {
+  std::size_t made = 0;
+  for (std::size_t at = 0; at < end; at += kWide) {
+    Run some;
+    const bool whole = engine.Decode(Block(bytes.data() + at, std::min(end - at, kWide)), text.subspan(made), some);
+    made += some.made;
+    if (!whole) return engine.WithoutUnfinished({at + some.taken, made}, bytes);
+  }
+  return engine.WithoutUnfinished({end, made}, bytes);
+}
+
 template <class Maker>
 RAVO_WIDE inline RunTill DecodeTillEnd(Maker make_engine, ByteSpan bytes, TextRoom text, EndBytes ends) {
   const End end = EndSearch(ends).In(bytes.first(std::min(bytes.size(), text.size())));
   const std::size_t touched = end.at + 2 * kWide;
-  if (end.beyond == 0 && touched <= bytes.size() && touched <= text.size()) {
+  const bool free = touched <= bytes.size() && touched <= text.size();
+  if (free && end.beyond == 0) {
     WidenAll(bytes.data(), end.at, text.data());
     return {end.at, static_cast<std::uint32_t>(end.at), end.lines};
   }
-  const Run run = DecodeBlocks(make_engine(), bytes, end.at, text);
+  const Run run = free ? DecodeAll(make_engine(), bytes, end.at, text) : DecodeBlocks(make_engine(), bytes, end.at, text);
   return {run.taken, static_cast<std::uint32_t>(run.made), end.lines};
 }
 
