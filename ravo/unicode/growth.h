@@ -21,7 +21,8 @@ namespace ravo::unicode {
   return capacity;
 }
 
-/// Moves the first `used` units to a new array of that capacity, whose other units are zero, and `beyond` more.
+/// Moves the first `used` units to a new array of that capacity, whose other units are zero, and `beyond`
+/// more.
 template <class Unit>
 void Reallocate(std::unique_ptr<Unit[]>& array, std::uint32_t used, std::uint32_t capacity,
                 std::size_t beyond = 0) {

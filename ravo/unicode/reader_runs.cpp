@@ -87,7 +87,9 @@ std::size_t AsciiLengthIn(std::span<const std::uint8_t> bytes, const Belongs& be
 template <std::size_t count>
 constexpr EndBytes EndsOf(const Not<OneOf<count>>& belongs) {
   const auto& ends = belongs.What().Chars();
-  const auto byte = [&ends](std::size_t i) { return static_cast<std::uint8_t>(ends[std::min(i, count - 1)]); };
+  const auto byte = [&ends](std::size_t i) {
+    return static_cast<std::uint8_t>(ends[std::min(i, count - 1)]);
+  };
   return {byte(0), byte(1), byte(2)};
 }
 
@@ -98,8 +100,8 @@ void TDIUnicodeReader::AddRun(std::span<Unit> run) {
   std::ranges::copy(run, ExtendData(run.size()).begin());
 }
 
-// The current character becomes the last one of the run, with the location that it has then. In one line only the
-// character before the run can be a break that others follow.
+// The current character becomes the last one of the run, with the location that it has then. In one line only
+// the character before the run can be a break that others follow.
 template <class Unit>
 void TDIUnicodeReader::CountRun(std::span<const Unit> run, Lines lines) noexcept {
   if (run.empty()) return;
@@ -128,10 +130,11 @@ bool TDIUnicodeReader::PassAscii(const Belongs& belongs, bool store) {
   return !run.empty() && run.size() == unread.size();
 }
 
-// Everything before a character that ends it, decoded in its place in the Data or, where there is none, in `room`,
-// and that character, which becomes the current one. Nothing where something else is in between.
+// Everything before a character that ends it, decoded in its place in the Data or, where there is none, in
+// `room`, and that character, which becomes the current one. Nothing where something else is in between.
 template <class Belongs>
-inline auto TDIUnicodeReader::PassTill(std::span<char16_t> room, const Belongs& belongs, bool store) -> Passed {
+inline auto TDIUnicodeReader::PassTill(std::span<char16_t> room, const Belongs& belongs, bool store)
+    -> Passed {
   const bool in_place = store && FData != nullptr;
   const auto to = in_place ? RoomInData() : room;
   const EndBytes ends = EndsOf(belongs);
@@ -142,7 +145,8 @@ inline auto TDIUnicodeReader::PassTill(std::span<char16_t> room, const Belongs& 
   else if (store)
     AddRun(to.first(run.made));
   // The Data may have moved.
-  const auto chars = std::span(in_place ? Data().substr(FDataSize - run.made) : std::u16string_view(to.data(), run.made));
+  const auto chars =
+      std::span(in_place ? Data().substr(FDataSize - run.made) : std::u16string_view(to.data(), run.made));
   FSourceBufferPosition += static_cast<std::uint32_t>(run.taken);
   if (run.taken == unread.size() || !ends.Has(unread[run.taken])) {
     CountRun(chars, run.lines);
@@ -155,7 +159,8 @@ inline auto TDIUnicodeReader::PassTill(std::span<char16_t> room, const Belongs& 
     FCharCol += run.made + 1;
     FChar = unread[run.taken];
   } else {
-    // Characters that were just stored are there for the processor only after a while, their bytes are there now.
+    // Characters that were just stored are there for the processor only after a while, their bytes are there
+    // now.
     if (run.made == run.taken)
       CountRun(unread.first(run.taken), run.lines);
     else
@@ -262,8 +267,9 @@ void TDIUnicodeReader::ReadWhiteSpace() { PassOver(WhiteSpace{}, true); }
 void TDIUnicodeReader::SkipWhiteSpace() { PassOver(WhiteSpace{}, false); }
 void TDIUnicodeReader::ReadCharsTillWhiteSpace() { PassOver(NoWhiteSpace{}, true); }
 
-// The rest of the line break that is the current character, and the character behind it, from the buffer: as `ReadChar`.
-// Which of the two ways it goes can be foreseen; a number in its place would have to be waited for.
+// The rest of the line break that is the current character, and the character behind it, from the buffer: as
+// `ReadChar`. Which of the two ways it goes can be foreseen; a number in its place would have to be waited
+// for.
 inline bool TDIUnicodeReader::PassBufferedBreak() {
   const auto unread = UnreadBytes();
   if (FDecodeTill == nullptr || FPeekedCount != 0 || unread.size() < 2) return false;

@@ -164,8 +164,8 @@ class Not {
   Kind kind_;
 };
 
-/// Where lines start among units: a unit starts one behind a line feed, and behind a carriage return unless it is
-/// a line feed itself.
+/// Where lines start among units: a unit starts one behind a line feed, and behind a carriage return unless
+/// it is a line feed itself.
 struct LineStarts {
   std::size_t count = 0;
   std::size_t last = 0;  ///< the last of them

@@ -354,7 +354,8 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
 
   /// A byte that is its own character needs no decoder.
   bool TakePlainByte() noexcept {
-    if (FDecodeTill == nullptr || FPeekedCount != 0 || FSourceBufferPosition >= FSourceBufferSize) return false;
+    if (FDecodeTill == nullptr || FPeekedCount != 0 || FSourceBufferPosition >= FSourceBufferSize)
+      return false;
     const std::uint8_t byte = FSourceBuffer[FSourceBufferPosition];
     if (byte >= 0x80) return false;
     FChar = byte;

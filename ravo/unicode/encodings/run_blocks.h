@@ -21,7 +21,8 @@ using TextRoom = std::span<char16_t>;
 /// Any table, and one with ASCII.
 [[nodiscard]] Run DecodeSingleByteBlocks(const ByteTable& table, ByteSpan bytes, TextRoom text) noexcept;
 [[nodiscard]] Run DecodeSingleByteAscii(const ByteTable& table, ByteSpan bytes, TextRoom text) noexcept;
-/// `ascii` as `HasAscii` of the table. Stops before a block with a character that has no byte, and before one with U+0000.
+/// `ascii` as `HasAscii` of the table. Stops before a block with a character that has no byte, and before one
+/// with U+0000.
 [[nodiscard]] Run EncodeSingleByteBlocks(const ReverseTable& table, bool ascii, TextSpan text,
                                          ByteRoom bytes) noexcept;
 
@@ -39,13 +40,13 @@ struct RunKernel {
   /// For tables with ASCII.
   Run (*decode_single_byte)(const ByteTable& table, ByteSpan bytes, TextRoom text) noexcept;
   RunTill (*till_utf8)(ByteSpan bytes, TextRoom text, EndBytes ends) noexcept;
-  RunTill (*till_single_byte)(const ByteTable& table, ByteSpan bytes, TextRoom text,
-                              EndBytes ends) noexcept;
+  RunTill (*till_single_byte)(const ByteTable& table, ByteSpan bytes, TextRoom text, EndBytes ends) noexcept;
 };
 
 /// All of them, the plain one first and the fastest last.
 [[nodiscard]] std::span<const RunKernel> RunKernels() noexcept;
-/// Chooses the fastest that runs here, unless one is chosen already; what gives runs to others does that first.
+/// Chooses the fastest that runs here, unless one is chosen already; what gives runs to others does that
+/// first.
 void ChooseRunKernel() noexcept;
 /// The chosen one; before, one that runs everywhere.
 extern constinit std::atomic<const RunKernel*> chosen_run_kernel;
@@ -74,7 +75,8 @@ class ScopedRunKernel {
 [[nodiscard]] Run EncodeUtf8Shuffling(TextSpan text, ByteRoom bytes) noexcept;
 [[nodiscard]] bool HasByteShuffle() noexcept;
 
-/// Blocks of sixty-four bytes: instructions of AVX-512, where `HasWideBlocks`. The ends may be any bytes of ASCII.
+/// Blocks of sixty-four bytes: instructions of AVX-512, where `HasWideBlocks`. The ends may be any bytes of
+/// ASCII.
 [[nodiscard]] Run DecodeUtf8Wide(ByteSpan bytes, TextRoom text) noexcept;
 [[nodiscard]] Run DecodeSingleByteWide(const ByteTable& table, ByteSpan bytes, TextRoom text) noexcept;
 [[nodiscard]] RunTill DecodeUtf8TillWide(ByteSpan bytes, TextRoom text, EndBytes ends) noexcept;

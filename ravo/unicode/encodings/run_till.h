@@ -6,20 +6,24 @@
 #include <cstdint>
 #include <span>
 
-/// Runs that end before a given character, for encodings whose bytes below 0x80 are ASCII wherever they stand,
-/// and only these: the end is found among the bytes.
+/// Runs that end before a given character, for encodings whose bytes below 0x80 are ASCII wherever they
+/// stand, and only these: the end is found among the bytes.
 namespace ravo::DIUnicode {
 
-/// The characters of ASCII that end a run, some of them repeated. One number, which is passed in a register: what
-/// is put together in memory would be waited for.
+/// The characters of ASCII that end a run, some of them repeated. One number, which is passed in a register:
+/// what is put together in memory would be waited for.
 class EndBytes {
  public:
   constexpr EndBytes(std::uint8_t first, std::uint8_t second, std::uint8_t third) noexcept
       : bytes_(std::uint32_t{first} | std::uint32_t{second} << 8 | std::uint32_t{third} << 16) {}
 
   [[nodiscard]] constexpr std::uint8_t First() const noexcept { return static_cast<std::uint8_t>(bytes_); }
-  [[nodiscard]] constexpr std::uint8_t Second() const noexcept { return static_cast<std::uint8_t>(bytes_ >> 8); }
-  [[nodiscard]] constexpr std::uint8_t Third() const noexcept { return static_cast<std::uint8_t>(bytes_ >> 16); }
+  [[nodiscard]] constexpr std::uint8_t Second() const noexcept {
+    return static_cast<std::uint8_t>(bytes_ >> 8);
+  }
+  [[nodiscard]] constexpr std::uint8_t Third() const noexcept {
+    return static_cast<std::uint8_t>(bytes_ >> 16);
+  }
   [[nodiscard]] constexpr bool Has(std::uint8_t byte) const noexcept {
     return byte == First() || byte == Second() || byte == Third();
   }
@@ -41,8 +45,7 @@ struct RunTill {
 };
 
 /// Decodes as `DecodeRun`, up to the first of `ends`, which stays.
-using DecodeTill = RunTill (*)(std::span<const std::uint8_t> bytes, std::span<char16_t> text,
-                               EndBytes ends);
+using DecodeTill = RunTill (*)(std::span<const std::uint8_t> bytes, std::span<char16_t> text, EndBytes ends);
 
 /// Null where the encoding has no runs or does not keep ASCII apart.
 [[nodiscard]] DecodeTill DecodeTillOf(const TDIUnicodeReadMethods& methods) noexcept;

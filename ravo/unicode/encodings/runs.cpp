@@ -153,7 +153,8 @@ struct Runs {
   EncodeRun encode;
 };
 
-#define RAVO_RUNS_Both(name) {DecodeBy<codecs::name>(), Till<codecs::name>::kDecode, EncodeBy<codecs::name>()},
+#define RAVO_RUNS_Both(name) \
+  {DecodeBy<codecs::name>(), Till<codecs::name>::kDecode, EncodeBy<codecs::name>()},
 #define RAVO_RUNS_ReadOnly(name) {DecodeBy<codecs::name>(), Till<codecs::name>::kDecode, nullptr},
 #define RAVO_RUNS_WriteOnly(name) {nullptr, nullptr, EncodeBy<codecs::name>()},
 #define RAVO_ENCODING(name, label, code_page, aliases, engine, ways, table, sources, notes) \

@@ -1,7 +1,7 @@
 #include <ravo/unicode/encodings/run_blocks.h>
 
-// Sixty-four bytes at once, by the vectors of 512 bits: every mix of characters of one to three bytes takes the
-// same way, and what ends a run is found on it.
+// Sixty-four bytes at once, by the vectors of 512 bits: every mix of characters of one to three bytes takes
+// the same way, and what ends a run is found on it.
 #if defined(__x86_64__)
 #include <algorithm>
 #include <array>
@@ -80,7 +80,8 @@ class WideSingleByte {
   RAVO_WIDE bool Decode(const Block& block, TextRoom to, Run& run) const {
     const Bits last_quarter = From(Load(block.from), 0xC0);
     Store(to, block.length, Characters<0>(block, last_quarter));
-    if (block.length > kHalf) Store(to.subspan(kHalf), block.length - kHalf, Characters<1>(block, last_quarter));
+    if (block.length > kHalf)
+      Store(to.subspan(kHalf), block.length - kHalf, Characters<1>(block, last_quarter));
     run = {block.length, block.length};
     return true;
   }
@@ -165,7 +166,8 @@ class WideUtf8 {
     Vector text = _mm512_mask_add_epi16(bytes, HalfOf<half>(sequences.leads), upper, second);
     if (sequences.long_leads != 0) {
       const Vector third = _mm512_and_si512(Widened(from + 2), six_bits);
-      text = _mm512_mask_add_epi16(text, HalfOf<half>(sequences.long_leads), _mm512_slli_epi16(text, 6), third);
+      text =
+          _mm512_mask_add_epi16(text, HalfOf<half>(sequences.long_leads), _mm512_slli_epi16(text, 6), third);
     }
     const __mmask32 kept = HalfOf<half>(sequences.starts);
     const auto made = static_cast<std::size_t>(_mm_popcnt_u32(kept));
@@ -181,11 +183,11 @@ RAVO_WIDE inline void WidenBlock(const Block& block, TextRoom to) {
   if (block.length > kHalf) Store(to.subspan(kHalf), block.length - kHalf, Widened(block.from + kHalf));
 }
 
-// The first `end` bytes, block after block until something that the engine does not decode. The last block takes
-// the way of those in front of it, whatever it has. How many bytes are taken follows from no character, so that
-// nobody waits for the characters to know where the next run begins.
+// The first `end` bytes, block after block until something that the engine does not decode. The last block
+// takes the way of those in front of it, whatever it has. How many bytes are taken follows from no character,
+// so that nobody waits for the characters to know where the next run begins.
 template <class Engine>
-RAVO_WIDE [[gnu::noinline]] Run DecodeBlocks(Engine engine, ByteSpan bytes, std::size_t end, TextRoom text) {
+[[gnu::noinline]] RAVO_WIDE Run DecodeBlocks(Engine engine, ByteSpan bytes, std::size_t end, TextRoom text) {
   alignas(Vector) std::array<std::uint8_t, 2 * kWide> tail;
   std::size_t made = 0;
   for (std::size_t at = 0; at < end; at += kWide) {
@@ -231,7 +233,8 @@ class EndSearch {
       const std::size_t left = bytes.size() - end.at;
       const std::uint8_t* const from = bytes.data() + end.at;
       if (left < 2 * kWide) return InRest(from, left, end);
-      // Where the next line begins is not known before this one ends: the processor does not look so far ahead.
+      // Where the next line begins is not known before this one ends: the processor does not look so far
+      // ahead.
       const std::uint8_t* const ahead = from + std::min(left - kWide, kAhead);
       _mm_prefetch(reinterpret_cast<const char*>(ahead), _MM_HINT_T0);
       _mm_prefetch(reinterpret_cast<const char*>(ahead + kWide), _MM_HINT_T0);
@@ -260,7 +263,8 @@ class EndSearch {
 
   RAVO_WIDE void Pass(Vector low, Vector high, std::size_t length, End& end) const {
     const std::size_t first = std::min(length, kWide);
-    end.beyond |= (_mm512_movepi8_mask(low) & Lowest(first)) | (_mm512_movepi8_mask(high) & Lowest(length - first));
+    end.beyond |=
+        (_mm512_movepi8_mask(low) & Lowest(first)) | (_mm512_movepi8_mask(high) & Lowest(length - first));
     if (!breaks_end_ && LineMayEnd(low, high, length)) end.lines = Lines::MayBeMore;
     end.at += length;
   }
@@ -283,7 +287,8 @@ class EndSearch {
   bool breaks_end_;
 };
 
-// Where bytes and characters behind the end may be touched, there are no questions about the last block: two at once.
+// Where bytes and characters behind the end may be touched, there are no questions about the last block: two
+// at once.
 RAVO_WIDE inline void WidenAll(const std::uint8_t* from, std::size_t length, char16_t* to) {
   std::size_t at = 0;
   do {
@@ -296,7 +301,8 @@ RAVO_WIDE inline Run DecodeAll(Engine engine, ByteSpan bytes, std::size_t end, T
   std::size_t made = 0;
   for (std::size_t at = 0; at < end; at += kWide) {
     Run some;
-    const bool whole = engine.Decode(Block(bytes.data() + at, std::min(end - at, kWide)), text.subspan(made), some);
+    const bool whole =
+        engine.Decode(Block(bytes.data() + at, std::min(end - at, kWide)), text.subspan(made), some);
     made += some.made;
     if (!whole) return engine.WithoutUnfinished({at + some.taken, made}, bytes);
   }
@@ -312,7 +318,8 @@ RAVO_WIDE inline RunTill DecodeTillEnd(Maker make_engine, ByteSpan bytes, TextRo
     WidenAll(bytes.data(), end.at, text.data());
     return {end.at, static_cast<std::uint32_t>(end.at), end.lines};
   }
-  const Run run = free ? DecodeAll(make_engine(), bytes, end.at, text) : DecodeBlocks(make_engine(), bytes, end.at, text);
+  const Run run =
+      free ? DecodeAll(make_engine(), bytes, end.at, text) : DecodeBlocks(make_engine(), bytes, end.at, text);
   return {run.taken, static_cast<std::uint32_t>(run.made), end.lines};
 }
 
@@ -350,9 +357,7 @@ namespace ravo::DIUnicode {
 
 Run DecodeSingleByteWide(const ByteTable&, ByteSpan, TextRoom) noexcept { return {}; }
 Run DecodeUtf8Wide(ByteSpan, TextRoom) noexcept { return {}; }
-RunTill DecodeSingleByteTillWide(const ByteTable&, ByteSpan, TextRoom, EndBytes) noexcept {
-  return {};
-}
+RunTill DecodeSingleByteTillWide(const ByteTable&, ByteSpan, TextRoom, EndBytes) noexcept { return {}; }
 RunTill DecodeUtf8TillWide(ByteSpan, TextRoom, EndBytes) noexcept { return {}; }
 bool HasWideBlocks() noexcept { return false; }
 
