@@ -11,9 +11,11 @@ import os
 import pathlib
 import random
 import re
+import signal
 import subprocess
 import sys
 import tempfile
+import time
 import zlib
 from dataclasses import dataclass
 from typing import Callable, Optional
@@ -592,6 +594,37 @@ def check_conversions(program):
         yield f"convert: left {left}"
 
 
+def check_interruption(program):
+    """A conversion that is ended from outside leaves the old file, and nothing beside it."""
+    if program.emulated:
+        return
+    target = program.folder / "cíl.txt"
+    piece = ("Příliš žluťoučký kůň\r\n" * 40000).encode("cp1250")
+
+    def beside():
+        return [path for path in program.folder.iterdir() if path.name.startswith("cíl") and path != target]
+
+    for number in (signal.SIGINT, signal.SIGTERM, signal.SIGHUP):
+        target.write_bytes(b"old")
+        command = program.command + ["convert", "-f", "1250", "-t", "utf-8", "-o", target.name]
+        with subprocess.Popen(command, cwd=program.folder, stdin=subprocess.PIPE, stderr=subprocess.PIPE) as running:
+            running.stdin.write(piece)
+            running.stdin.flush()
+            # In the middle of it: some of the text is in a file, and more is to come.
+            patience = time.monotonic() + 60
+            while not any(path.stat().st_size for path in beside()) and time.monotonic() < patience:
+                time.sleep(0.01)
+            if not beside():
+                yield f"{number.name}: nothing was written beside the target"
+            running.send_signal(number)
+            status = running.wait(timeout=60)
+        if status != -number:
+            yield f"{number.name}: status {status}"
+        if target.read_bytes() != b"old" or beside():
+            yield f"{number.name}: {target.read_bytes()[:20]!r}, and left {beside()}"
+    target.unlink()
+
+
 XML = """<?xml version="1.0" encoding="windows-1250" ?>\r
 <Faktury>\r
   <Faktura Číslo="1" Poznámka="a &lt; b">první<br/>řádek</Faktura>\r
@@ -831,6 +864,7 @@ CHECKS = (
     check_report_file,
     check_sums,
     check_conversions,
+    check_interruption,
     check_full_device,
     check_colours,
     check_damaged_files,
