@@ -183,23 +183,29 @@ RAVO_WIDE inline void WidenBlock(const Block& block, TextRoom to) {
   if (block.length > kHalf) Store(to.subspan(kHalf), block.length - kHalf, Widened(block.from + kHalf));
 }
 
-// The first `end` bytes, block after block until something that the engine does not decode. The last block
-// takes the way of those in front of it, whatever it has. How many bytes are taken follows from no character,
-// so that nobody waits for the characters to know where the next run begins.
-template <class Engine>
-[[gnu::noinline]] RAVO_WIDE Run DecodeBlocks(Engine engine, ByteSpan bytes, std::size_t end, TextRoom text) {
-  alignas(Vector) std::array<std::uint8_t, 2 * kWide> tail;
+using Tail = std::array<std::uint8_t, 2 * kWide>;
+
+// The place of a block, or of its copy where it cannot be read whole.
+RAVO_WIDE inline const std::uint8_t* Readable(ByteSpan bytes, Tail& tail) {
+  if (bytes.size() >= kWide + kLongestRest) return bytes.data();
+  tail = {};
+  std::copy(bytes.begin(), bytes.end(), tail.begin());
+  return tail.data();
+}
+
+// The first `end` bytes, block after block until something that the engine does not decode. ASCII is looked
+// for block by block, but for the last one, which takes the way of those in front of it; not at all where
+// `mixed`, and bytes behind the end may be read then. How many bytes are taken follows from no character, so
+// that nobody waits for the characters to know where the next run begins.
+template <bool mixed, class Engine>
+RAVO_WIDE inline Run DecodeBlocks(Engine engine, ByteSpan bytes, std::size_t end, TextRoom text) {
+  alignas(Vector) Tail tail;
   std::size_t made = 0;
   for (std::size_t at = 0; at < end; at += kWide) {
-    const std::uint8_t* from = bytes.data() + at;
-    if (bytes.size() - at < kWide + kLongestRest) {
-      tail = {};
-      std::copy_n(from, bytes.size() - at, tail.data());
-      from = tail.data();
-    }
+    const std::uint8_t* const from = mixed ? bytes.data() + at : Readable(bytes.subspan(at), tail);
     const Block block(from, std::min(end - at, kWide));
     const TextRoom to = text.subspan(made);
-    const bool plain = block.beyond == 0 && (block.length == kWide || at == 0);
+    const bool plain = !mixed && block.beyond == 0 && (block.length == kWide || at == 0);
     if (plain && engine.IsBetweenCharacters()) {
       WidenBlock(block, to);
       made += block.length;
@@ -211,6 +217,13 @@ template <class Engine>
     if (!whole) return engine.WithoutUnfinished({at + some.taken, made}, bytes);
   }
   return engine.WithoutUnfinished({end, made}, bytes);
+}
+
+// Apart, so that the common ways have little to keep.
+template <class Engine>
+[[gnu::noinline]] RAVO_WIDE Run DecodeAnyBlocks(Engine engine, ByteSpan bytes, std::size_t end,
+                                                TextRoom text) {
+  return DecodeBlocks<false>(engine, bytes, end, text);
 }
 
 // Where a run ends.
@@ -296,19 +309,6 @@ RAVO_WIDE inline void WidenAll(const std::uint8_t* from, std::size_t length, cha
   } while (at < length);
 }
 
-template <class Engine>
-RAVO_WIDE inline Run DecodeAll(Engine engine, ByteSpan bytes, std::size_t end, TextRoom text) {
-  std::size_t made = 0;
-  for (std::size_t at = 0; at < end; at += kWide) {
-    Run some;
-    const bool whole =
-        engine.Decode(Block(bytes.data() + at, std::min(end - at, kWide)), text.subspan(made), some);
-    made += some.made;
-    if (!whole) return engine.WithoutUnfinished({at + some.taken, made}, bytes);
-  }
-  return engine.WithoutUnfinished({end, made}, bytes);
-}
-
 template <class Maker>
 RAVO_WIDE inline RunTill DecodeTillEnd(Maker make_engine, ByteSpan bytes, TextRoom text, EndBytes ends) {
   const End end = EndSearch(ends).In(bytes.first(std::min(bytes.size(), text.size())));
@@ -318,19 +318,19 @@ RAVO_WIDE inline RunTill DecodeTillEnd(Maker make_engine, ByteSpan bytes, TextRo
     WidenAll(bytes.data(), end.at, text.data());
     return {end.at, static_cast<std::uint32_t>(end.at), end.lines};
   }
-  const Run run =
-      free ? DecodeAll(make_engine(), bytes, end.at, text) : DecodeBlocks(make_engine(), bytes, end.at, text);
+  const Run run = free ? DecodeBlocks<true>(make_engine(), bytes, end.at, text)
+                       : DecodeAnyBlocks(make_engine(), bytes, end.at, text);
   return {run.taken, static_cast<std::uint32_t>(run.made), end.lines};
 }
 
 }  // namespace
 
 RAVO_WIDE Run DecodeSingleByteWide(const ByteTable& table, ByteSpan bytes, TextRoom text) noexcept {
-  return DecodeBlocks(WideSingleByte(table), bytes, std::min(bytes.size(), text.size()), text);
+  return DecodeBlocks<false>(WideSingleByte(table), bytes, std::min(bytes.size(), text.size()), text);
 }
 
 RAVO_WIDE Run DecodeUtf8Wide(ByteSpan bytes, TextRoom text) noexcept {
-  return DecodeBlocks(WideUtf8{}, bytes, std::min(bytes.size(), text.size()), text);
+  return DecodeBlocks<false>(WideUtf8{}, bytes, std::min(bytes.size(), text.size()), text);
 }
 
 RAVO_WIDE RunTill DecodeSingleByteTillWide(const ByteTable& table, ByteSpan bytes, TextRoom text,
