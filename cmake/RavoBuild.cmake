@@ -16,6 +16,7 @@ function(ravo_own_target target)
     POSITION_INDEPENDENT_CODE ON)
   target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wundef
     $<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor -Woverloaded-virtual>
+    $<$<CXX_COMPILER_ID:Clang>:-Wreserved-identifier>
     # GCC 12 sees overlapping copies in std::basic_string's operator+ where there are none (GCC bug 105651).
     $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
   if(RAVO_WARNINGS_AS_ERRORS)

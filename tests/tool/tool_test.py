@@ -372,11 +372,12 @@ ROWS = [
         '$ ravo address "Nádražní 1234/5"\nNádražní\t1234/5\n', "\n$ ravo report\nInformace o klientské vrstvě\n", " lines more\n")),
     Row(["tour", "--commands"], holds=lambda out: len(set(line.split()[1] for line in out.splitlines())) < 8 and "too few commands"),
     Row(["tour", "there"], WRONG_USAGE),
-    # Sums of files; more of them below.
     # Characters and strings.
     Row(["char", "--help"], out=("U+010D", "Examples:")),
     Row(["char", "č"], out=("character\tU+010D\ntext\tč\ncategory\tLl, lower-case letter\nclass\t0\nupper\tU+010C\n",
-                            "canonical\tU+0063 U+030C\n")),
+                            "canonical\tU+0063 U+030C\n", "bytes\tE8\tIso_8859_2 ", "bytes\tC4 8D\tUTF_8\n",
+                            "bytes\t2B 41 51 30 2D\tUTF_7 UTF_7_ODC\n")),
+    Row(["char", "--json", "Ž"], holds=as_json(lambda all: all[0]["bytes"]["CP_852"] != "A6")),
     Row(["char", "U+FB01", "u+0000"], out=("compatible\tU+0066 U+0069\n", "\n\ncharacter\tU+0000\ncategory\tCc")),
     Row(["char", "--json", "U+0378"], holds=as_json(lambda all: len(all) != 1 or all[0]["category"] != "Cn, unassigned")),
     Row(["char", "😀"], out=("U+D83D", "Cs, half")),

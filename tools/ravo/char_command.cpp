@@ -72,6 +72,22 @@ std::string Codes(std::u16string_view units) {
   return codes;
 }
 
+std::string Hex(const std::vector<std::uint8_t>& bytes) {
+  std::string text;
+  for (const std::uint8_t byte : bytes) text += (text.empty() ? "" : " ") + utils::IntToHexA(std::int32_t{byte}, 2);
+  return text;
+}
+
+// What stands for the character, by the encodings that have it.
+Json BytesByEncoding(char16_t c) {
+  Json all = Json::object();
+  for (const unicode::EncodingRow& encoding : unicode::EncodingRows()) {
+    const std::vector<std::uint8_t> bytes = unicode::EncodedCharacter(encoding, c);
+    if (!bytes.empty()) all[std::string(encoding.name)] = Hex(bytes);
+  }
+  return all;
+}
+
 Json Describe(char16_t c) {
   const Category& category = CategoryOf(c);
   Json facts = {{"character", Code(c)}};
@@ -86,6 +102,7 @@ Json Describe(char16_t c) {
   const std::u16string letters = unicode::CharDecomposeHangulW(c);
   facts["canonical"] = Codes(is_hangul ? letters : unicode::CharDecomposeCanonicalStrW(c));
   facts["compatible"] = Codes(is_hangul ? letters : unicode::CharDecomposeCompatibleStrW(c));
+  facts["bytes"] = BytesByEncoding(c);
   return facts;
 }
 
@@ -98,10 +115,27 @@ std::u16string Units(const std::string& word) {
   return {static_cast<char16_t>(code)};
 }
 
+// A line for each sequence of bytes, with all encodings that share it.
+std::string TextOfBytes(const Json& by_encoding) {
+  Json shared = Json::object();
+  for (const auto& [encoding, bytes] : by_encoding.items()) shared[bytes.get<std::string>()].push_back(encoding);
+  std::string text;
+  for (const auto& [bytes, encodings] : shared.items()) {
+    text += "bytes\t" + bytes + "\t";
+    for (const Json& encoding : encodings) text += encoding.get<std::string>() + " ";
+    text.back() = '\n';
+  }
+  return text;
+}
+
 std::string Text(const Json& facts) {
   std::string text;
   for (const auto& [name, value] : facts.items()) {
-    text += name + "\t" + (value.is_string() ? value.get<std::string>() : value.dump()) + "\n";
+    if (value.is_object()) {
+      text += TextOfBytes(value);
+    } else {
+      text += name + "\t" + (value.is_string() ? value.get<std::string>() : value.dump()) + "\n";
+    }
   }
   return text;
 }
@@ -131,7 +165,7 @@ constexpr const char* kFooter =
 }  // namespace
 
 void AddCharCommand(CLI::App& program, Outcome& outcome) {
-  CLI::App* command = program.add_subcommand("char", "Tells category, class, mappings and decompositions");
+  CLI::App* command = program.add_subcommand("char", "Tells category, class, mappings, decompositions and bytes in every encoding");
   const auto options = std::make_shared<CharOptions>();
   command->add_option("CHARACTER", options->characters, "Characters, or U+ and a hexadecimal number")
       ->required();
