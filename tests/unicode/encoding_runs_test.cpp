@@ -129,7 +129,7 @@ TEST_P(EncodingRunsOfKernel, TakeSequencesAcrossBlocks) {
        {"\xC4\x8D"sv, "\xE2\x82\xAC"sv, "\xE2\x82"sv, "\xE2"sv, "\xC4"sv, "\x8D"sv, "\xE0\x9F\xBF"sv,
         "\xE0\xA0\x80"sv, "\xC1\xBF"sv, "\xF0\x9F\x98\x80"sv, "\xED\xA0\x80"sv, "\xE2\x82\xC4\x8D"sv}) {
     for (std::size_t before = 0; before < 200; ++before) {
-      for (const std::size_t behind : {0, 1, 2, 3, 70}) {
+      for (const std::size_t behind : {0U, 1U, 2U, 3U, 70U}) {
         std::string text = std::string(before, 'x').append(piece).append(behind, 'y');
         const Bytes bytes(text.begin(), text.end());
         ASSERT_EQ(ByRuns(row, bytes, 300), Read(Read_UTF_8, text)) << before << ' ' << behind;
