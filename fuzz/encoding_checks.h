@@ -1,7 +1,7 @@
 #pragma once
 
 #include <ravo/DIUnicode.h>
-#include <ravo/unicode/encodings/runs.h>
+#include <ravo/unicode/encodings/run_blocks.h>
 
 #include <cstdlib>
 #include <memory>
@@ -90,6 +90,35 @@ inline void CheckEncodeRuns(const DIUnicode::EncodingRow& encoding, std::u16stri
   Require(std::equal(target.get(), target.get() + run.made, expected.begin()));
 }
 
+/// Runs up to an end, by every kernel, and single characters where they stop.
+inline void CheckRunsTill(const DIUnicode::TDIUnicodeReadMethods& methods, Bytes bytes, std::size_t room,
+                          std::u16string_view expected) {
+  const DIUnicode::DecodeTill till = DIUnicode::DecodeTillOf(methods);
+  if (till == nullptr) return;
+  const DIUnicode::EndBytes ends(bytes.empty() ? 'a' : bytes[bytes.size() / 2] & 0x7F, '\r', '\n');
+  const auto copy = Copy(bytes);
+  const auto target = std::make_unique<char16_t[]>(room);
+  std::u16string text;
+  for (Bytes rest(copy.get(), bytes.size());;) {
+    const DIUnicode::RunTill run = till(rest, std::span(target.get(), room), ends);
+    Require(run.taken <= rest.size() && run.made <= room);
+    const std::u16string_view made(target.get(), run.made);
+    for (const char16_t end : {ends.First(), ends.Second(), ends.Third()})
+      Require(made.find(end) == std::u16string_view::npos);
+    text += made;
+    rest = rest.subspan(run.taken);
+    if (rest.empty()) break;
+    if (run.taken != 0) continue;
+    DIUnicode::TDIUnicodeReader reader;
+    reader.SetReadMethods(methods);
+    reader.SetSourceBuffer(rest);
+    if (!reader.ReadChar()) break;
+    text += reader.Char();
+    rest = rest.subspan(reader.SourceBufferPosition());
+  }
+  Require(text == expected);
+}
+
 /// Reading ends, alike however the bytes come, with no more characters than bytes; what can be written of it
 /// is read again.
 inline void CheckEncoding(const DIUnicode::EncodingRow& encoding, Bytes bytes, std::size_t cut,
@@ -99,7 +128,12 @@ inline void CheckEncoding(const DIUnicode::EncodingRow& encoding, Bytes bytes, s
   const std::u16string text = Read(read, bytes);
   Require(text.size() <= bytes.size());
   Require(ReadInTwo(read, bytes, bytes.empty() ? 0 : cut % bytes.size()) == text);
-  Require(ReadByRuns(read, bytes, room % 257 + 1) == text);
+  for (const DIUnicode::RunKernel& kernel : DIUnicode::RunKernels()) {
+    if (!kernel.runs_here()) continue;
+    const DIUnicode::ScopedRunKernel chosen(kernel);
+    Require(ReadByRuns(read, bytes, room % 257 + 1) == text);
+    CheckRunsTill(read, bytes, room % 257 + 1, text);
+  }
   if (encoding.write == nullptr) return;
   std::u16string encodable = text;
   const std::vector<std::uint8_t> written = Write(*encoding.write, encodable);

@@ -2,6 +2,7 @@
 // and by single characters alone. Both stand alike after each operation.
 #include <ravo/DIUnicode.h>
 #include <ravo/runtime/error.h>
+#include <ravo/unicode/encodings/run_blocks.h>
 
 #include <algorithm>
 #include <cstdint>
@@ -248,19 +249,28 @@ void RequireSame(const TDIUnicodeReader& one, const TDIUnicodeReader& other) {
           one.DataCapacity() == other.DataCapacity());
 }
 
+// One of those that run here.
+const RunKernel& KernelOf(std::uint8_t choice) {
+  std::vector<const RunKernel*> kernels;
+  for (const RunKernel& kernel : RunKernels()) {
+    if (kernel.runs_here()) kernels.push_back(&kernel);
+  }
+  return *kernels[choice % kernels.size()];
+}
+
 constexpr std::uint8_t kPush = 0xFF;
 constexpr std::uint8_t kSetMethods = 0xFE;
 
 }  // namespace
 
-// The encoding, another one, the way that bytes come, the length of the script, the script in pairs of
-// operation and argument, the bytes.
+// The encoding, another one, the way that bytes come and the kernel, the length of the script, the script in
+// pairs of operation and argument, the bytes.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   constexpr std::size_t kHead = 4;
   if (size < kHead) return 0;
   const Methods first = MethodsOf<0>(data[0]);
   const Methods second = MethodsOf<1>(data[1]);
-  const bool keeps_state = first.runs.Init != nullptr || second.runs.Init != nullptr;
+  const ScopedRunKernel kernel(KernelOf(data[2] / 8));
   const std::size_t pairs = std::min<std::size_t>(data[3], (size - kHead) / 2);
   const auto* const script = data + kHead;
   // A block of its own, so that a byte too many is found.
@@ -279,8 +289,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     bool raised[2] = {false, false};
     for (std::size_t side = 0; side < 2; ++side) {
       if (operation == kPush && depth < 8) {
-        // A state that comes off the stack has nobody who frees it.
-        sides[side].reader.PushSource(!keeps_state && argument % 2 != 0);
+        sides[side].reader.PushSource(argument % 2 != 0);
         sides[side].Open(std::span(bytes).first(bytes.size() / 2), argument);
       } else if (operation == kSetMethods) {
         sides[side].Use(argument % 2 != 0 ? second : first);

@@ -3,6 +3,7 @@
 #include <ravo/runtime/checked.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 
@@ -20,12 +21,15 @@ namespace ravo::unicode {
   return capacity;
 }
 
-/// Moves the first `used` units to a new array of that capacity, whose other units are zero.
+/// Moves the first `used` units to a new array of that capacity, whose other units are zero, and `beyond`
+/// more.
 template <class Unit>
-void Reallocate(std::unique_ptr<Unit[]>& array, std::uint32_t used, std::uint32_t capacity) {
-  auto larger = std::make_unique_for_overwrite<Unit[]>(capacity);
+void Reallocate(std::unique_ptr<Unit[]>& array, std::uint32_t used, std::uint32_t capacity,
+                std::size_t beyond = 0) {
+  const std::size_t size = capacity + beyond;
+  auto larger = std::make_unique_for_overwrite<Unit[]>(size);
   std::copy_n(array.get(), used, larger.get());
-  std::fill_n(larger.get() + used, capacity - used, Unit{});
+  std::fill_n(larger.get() + used, size - used, Unit{});
   array = std::move(larger);
 }
 

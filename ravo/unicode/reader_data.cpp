@@ -12,9 +12,10 @@
 
 namespace ravo::DIUnicode {
 
-void TDIUnicodeReader::GrowData(std::uint64_t needed) {
+// Makes room for `needed` characters; the first `filled` are there, whether they count yet or not.
+void TDIUnicodeReader::GrowData(std::uint64_t needed, std::uint32_t filled) {
   const std::uint32_t capacity = unicode::CapacityFor(needed, FDataCapacity);
-  unicode::Reallocate(FData, FDataSize, capacity);
+  unicode::Reallocate(FData, filled, capacity, kRoomBeyondData);
   FDataCapacity = capacity;
 }
 
@@ -34,7 +35,7 @@ void TDIUnicodeReader::AddCrLf() {
 // Room for `count` characters more, which count already.
 std::span<char16_t> TDIUnicodeReader::ExtendData(std::size_t count) {
   const std::uint64_t needed = FDataSize + std::uint64_t{count};
-  if (needed > FDataCapacity) GrowData(needed);
+  if (needed > FDataCapacity) GrowData(needed, FDataSize);
   const std::span added(FData.get() + FDataSize, count);
   FDataSize = static_cast<std::uint32_t>(needed);
   return added;

@@ -1,7 +1,7 @@
 // The families that read and skip, each from one loop. Where the encoding decodes whole runs, what belongs is
 // passed over at once, and the reader stands as if it had read the characters one by one.
 #include <ravo/unicode/characters/character_kinds.h>
-#include <ravo/unicode/encodings/runs.h>
+#include <ravo/unicode/encodings/run_till.h>
 #include <ravo/unicode/predicates.h>
 #include <ravo/unicode/run_search.h>
 #include <ravo/unicode/unicode_reader.h>
@@ -84,29 +84,13 @@ std::size_t AsciiLengthIn(std::span<const std::uint8_t> bytes, const Belongs& be
   return length;
 }
 
-// A guess by the first characters.
-bool LooksPlain(std::span<const std::uint8_t> bytes) {
-  return bytes.size() >= unicode::kSearchBlock &&
-         unicode::UnitBlock<std::uint8_t>(bytes.data()).NoAscii() == 0;
-}
-
-std::size_t WholeBlocksOf(std::size_t length) {
-  return (length + unicode::kSearchBlock - 1) / unicode::kSearchBlock * unicode::kSearchBlock;
-}
-
-// How much ASCII stands before the first byte that ends it, widened on the way. Whole blocks are written.
-template <class Kind>
-std::size_t WidenAsciiBefore(std::span<const std::uint8_t> bytes, std::span<char16_t> to, const Kind& ends) {
-  const std::size_t most = std::min(bytes.size(), to.size());
-  std::size_t at = 0;
-  for (; most - at >= unicode::kSearchBlock; at += unicode::kSearchBlock) {
-    const unicode::UnitBlock<std::uint8_t> block(bytes.data() + at);
-    block.Widen(to.data() + at);
-    if (const unsigned hits = ends.HitsIn(block) | block.NoAscii(); hits != 0)
-      return at + static_cast<std::size_t>(std::countr_zero(hits));
-  }
-  for (; at < most && bytes[at] < 0x80 && !ends(bytes[at]); ++at) to[at] = bytes[at];
-  return at;
+template <std::size_t count>
+constexpr EndBytes EndsOf(const Not<OneOf<count>>& belongs) {
+  const auto& ends = belongs.What().Chars();
+  const auto byte = [&ends](std::size_t i) {
+    return static_cast<std::uint8_t>(ends[std::min(i, count - 1)]);
+  };
+  return {byte(0), byte(1), byte(2)};
 }
 
 }  // namespace
@@ -116,37 +100,23 @@ void TDIUnicodeReader::AddRun(std::span<Unit> run) {
   std::ranges::copy(run, ExtendData(run.size()).begin());
 }
 
-// The current character becomes the last one of the run, with the location that it has then.
+// The current character becomes the last one of the run, with the location that it has then. In one line only
+// the character before the run can be a break that others follow.
 template <class Unit>
-void TDIUnicodeReader::CountRun(std::span<const Unit> run) noexcept {
-  while (!run.empty()) {
-    std::size_t count = 1;
-    if (unicode::kLineBreaks(FChar)) {
-      FLastChar = FChar;
-      FChar = run.front();
-      CountLocation();
-    } else {
-      // A line break itself still counts for its line.
-      count = std::min(unicode::LengthBefore(run, unicode::kLineBreaks) + 1, run.size());
-      FLastChar = count > 1 ? run[count - 2] : FChar;
-      FChar = run[count - 1];
-      FCharPos += static_cast<std::uint32_t>(count);
-      FCharCol += static_cast<std::uint32_t>(count);
-    }
-    run = run.subspan(count);
-  }
-}
-
-// The same where no character of the run ends a line.
-void TDIUnicodeReader::CountWithinLine(std::span<const char16_t> run) noexcept {
+void TDIUnicodeReader::CountRun(std::span<const Unit> run, Lines lines) noexcept {
   if (run.empty()) return;
-  FLastChar = FChar;
-  FChar = run.front();
-  CountLocation();
-  FCharPos += static_cast<std::uint32_t>(run.size() - 1);
-  FCharCol += static_cast<std::uint32_t>(run.size() - 1);
-  if (run.size() > 1) FLastChar = run[run.size() - 2];
+  const auto starts = unicode::FindLineStarts(FChar, lines == Lines::MayBeMore ? run : run.first(1));
+  const auto size = static_cast<std::uint32_t>(run.size());
+  const char16_t before = size > 1 ? static_cast<char16_t>(run[size - 2]) : FChar;
   FChar = run.back();
+  FCharPos += size;
+  FCharCol += size;
+  if (starts.count != 0) {
+    FCharLine += static_cast<std::uint32_t>(starts.count);
+    FCharCol = size - static_cast<std::uint32_t>(starts.last);
+  }
+  // The line feed of a pair stands in the column of the carriage return.
+  if (FChar == u'\n' && before == u'\r') --FCharCol;
 }
 
 // ASCII that belongs, from its bytes. Answers whether there may be more.
@@ -156,64 +126,48 @@ bool TDIUnicodeReader::PassAscii(const Belongs& belongs, bool store) {
   const auto run = unread.first(AsciiLengthIn(unread, belongs));
   if (store) AddRun(run);
   FSourceBufferPosition += static_cast<std::uint32_t>(run.size());
-  CountRun(run);
+  CountRun(run, Lines::MayBeMore);
   return !run.empty() && run.size() == unread.size();
 }
 
-// The characters of a run, already in place or to be added, are passed over.
+// Everything before a character that ends it, decoded in its place in the Data or, where there is none, in
+// `room`, and that character, which becomes the current one. Nothing where something else is in between.
 template <class Belongs>
-void TDIUnicodeReader::Take(const Run& run, std::span<const char16_t> to, const Belongs& belongs,
-                            bool store) {
-  const auto chars = to.first(run.made);
-  if (store && to.data() == FData.get() + FDataSize)
-    FDataSize += static_cast<std::uint32_t>(run.made);
+inline auto TDIUnicodeReader::PassTill(std::span<char16_t> room, const Belongs& belongs, bool store)
+    -> Passed {
+  const bool in_place = store && FData != nullptr;
+  const auto to = in_place ? RoomInData() : room;
+  const EndBytes ends = EndsOf(belongs);
+  const auto unread = UnreadBytes();
+  const RunTill run = FDecodeTill(unread, to, ends);
+  if (in_place)
+    CountAsData(run.made);
   else if (store)
-    AddRun(chars);
+    AddRun(to.first(run.made));
+  // The Data may have moved.
+  const auto chars =
+      std::span(in_place ? Data().substr(FDataSize - run.made) : std::u16string_view(to.data(), run.made));
   FSourceBufferPosition += static_cast<std::uint32_t>(run.taken);
-  if (belongs.What()(u'\r') && belongs.What()(u'\n'))
-    CountWithinLine(chars);
-  else
-    CountRun(chars);
-}
-
-// Where a run goes: to its place in the Data, or where there is not the room for it, elsewhere.
-std::span<char16_t> TDIUnicodeReader::PlaceFor(std::size_t count, std::span<char16_t> elsewhere, bool store) {
-  const std::size_t room = FDataCapacity - FDataSize;
-  return store && room >= count ? std::span(FData.get() + FDataSize, room) : elsewhere;
-}
-
-// ASCII before a byte that ends it, widened without the decoder. Answers whether there may be more.
-template <class Belongs>
-bool TDIUnicodeReader::PassAsciiTill(std::span<char16_t> room, const Belongs& belongs, bool store) {
-  const auto to = PlaceFor(2 * unicode::kSearchBlock, room, store);
-  const std::size_t ascii = WidenAsciiBefore(UnreadBytes(), to, belongs.What());
-  Take({ascii, ascii}, to, belongs, store);
-  if (UnreadBytes().empty()) return false;
-  FIsPlain = UnreadBytes().front() < 0x80;
-  return !belongs.What()(UnreadBytes().front());
-}
-
-// Everything before a byte that ends it, decoded at once. Bytes behind that one are decoded too where that
-// makes whole blocks; they do not count: among the last characters, the first one that ends it is the end.
-// Answers whether there may be more.
-template <class Belongs>
-bool TDIUnicodeReader::PassMixedTill(std::span<char16_t> room, const Belongs& belongs, bool store) {
-  const auto& ends = belongs.What();
-  const auto unread = UnreadBytes().first(std::min(UnreadBytes().size(), room.size()));
-  const std::size_t length = unicode::LengthBefore(unread, ends);
-  const auto bytes = unread.first(std::min(WholeBlocksOf(length), unread.size()));
-  const auto to = PlaceFor(bytes.size(), room, store);
-  Run run = FDecodeRun(bytes, to);
-  if (run.taken > length && run.taken == run.made) {
-    run = {length, length};
-  } else if (run.taken > length) {
-    const auto end =
-        std::span<const char16_t>(to.first(run.made)).last(std::min(run.made, unicode::kSearchBlock));
-    run = {length, run.made - end.size() + unicode::LengthBefore(end, ends)};
+  if (run.taken == unread.size() || !ends.Has(unread[run.taken])) {
+    CountRun(chars, run.lines);
+    return run.taken != 0 && run.taken != unread.size() ? Passed::Some : Passed::Nothing;
   }
-  FIsPlain = LooksPlain(bytes);
-  Take(run, to, belongs, store);
-  return run.taken != 0 && run.taken == unread.size();
+  ++FSourceBufferPosition;
+  const std::uint8_t last = run.taken != 0 ? unread[run.taken - 1] : 0;
+  if (run.lines == Lines::One && last != '\r' && last != '\n' && !unicode::kLineBreaks(FChar)) {
+    FCharPos += run.made + 1;
+    FCharCol += run.made + 1;
+    FChar = unread[run.taken];
+  } else {
+    // Characters that were just stored are there for the processor only after a while, their bytes are there
+    // now.
+    if (run.made == run.taken)
+      CountRun(unread.first(run.taken), run.lines);
+    else
+      CountRun(chars, run.lines);
+    CountRun(unread.subspan(run.taken, 1), Lines::One);
+  }
+  return Passed::All;
 }
 
 // What belongs among decoded characters.
@@ -224,27 +178,25 @@ std::size_t TDIUnicodeReader::PassDecoded(std::span<char16_t> room, const Belong
   const std::size_t length = LengthIn(std::span<const char16_t>(room.first(run.made)), belongs);
   // The shorter run tells how many bytes it has.
   if (length < run.made) run = FDecodeRun(unread, room.first(length));
-  return Pass(run, room, store);
-}
-
-std::size_t TDIUnicodeReader::Pass(const Run& run, std::span<const char16_t> room, bool store) {
-  const auto chars = room.first(run.made);
+  const auto chars = std::span<const char16_t>(room.first(run.made));
   if (store) AddRun(chars);
   FSourceBufferPosition += static_cast<std::uint32_t>(run.taken);
-  CountRun(chars);
+  CountRun(chars, Lines::MayBeMore);
   return run.made;
 }
 
+// Whether the character that ends it all is the current one already.
 template <class Belongs>
-void TDIUnicodeReader::PassRuns(const Belongs& belongs, bool store) {
-  if (FDecodeRun == nullptr || FPeekedCount != 0) return;
+bool TDIUnicodeReader::PassRuns(const Belongs& belongs, bool store) {
+  if (FDecodeRun == nullptr || FPeekedCount != 0) return false;
   std::array<char16_t, kLongestRun> room;
-  if (FKeepsAscii && EndsByAscii(belongs)) {
+  if (FDecodeTill != nullptr && EndsByAscii(belongs)) {
     if constexpr (kIsTill<Belongs>) {
-      while (FIsPlain ? PassAsciiTill(room, belongs, store) : PassMixedTill(room, belongs, store)) {
-      }
+      Passed passed = Passed::Some;
+      while (passed == Passed::Some) passed = PassTill(room, belongs, store);
+      return passed == Passed::All;
     }
-  } else if (FKeepsAscii && !kIsTill<Belongs>) {
+  } else if (FDecodeTill != nullptr && !kIsTill<Belongs>) {
     while (PassAscii(belongs, store)) {
     }
   } else {
@@ -252,13 +204,14 @@ void TDIUnicodeReader::PassRuns(const Belongs& belongs, bool store) {
     while (PassDecoded(std::span(room).first(next), belongs, store) == next)
       next = std::min(2 * next, kLongestRun);
   }
+  return false;
 }
 
 template <class Belongs>
 void TDIUnicodeReader::PassOver(const Belongs& belongs, bool store) {
   while (FCharOK && belongs(FChar)) {
     if (store) AddChar(FChar);
-    PassRuns(belongs, store);
+    if (PassRuns(belongs, store)) return;
     ReadChar();
   }
 }
@@ -314,11 +267,41 @@ void TDIUnicodeReader::ReadWhiteSpace() { PassOver(WhiteSpace{}, true); }
 void TDIUnicodeReader::SkipWhiteSpace() { PassOver(WhiteSpace{}, false); }
 void TDIUnicodeReader::ReadCharsTillWhiteSpace() { PassOver(NoWhiteSpace{}, true); }
 
+// The rest of the line break that is the current character, and the character behind it, from the buffer: as
+// `ReadChar`. Which of the two ways it goes can be foreseen; a number in its place would have to be waited
+// for.
+inline bool TDIUnicodeReader::PassBufferedBreak() {
+  const auto unread = UnreadBytes();
+  if (FDecodeTill == nullptr || FPeekedCount != 0 || unread.size() < 2) return false;
+  if (FChar == u'\r' && unread[0] == '\n') [[likely]]
+    BeginLine(unread[1], 2, u'\n');
+  else
+    BeginLine(unread[0], 1, FChar);
+  return true;
+}
+
+// `first` is `count` bytes away, behind a break that ends in `before`.
+inline void TDIUnicodeReader::BeginLine(std::uint8_t first, std::uint32_t count, char16_t before) {
+  if (first < 0x80) [[likely]] {
+    FSourceBufferPosition += count;
+    FCharPos += count;
+    ++FCharLine;
+    FCharCol = 1;
+    FChar = first;
+  } else {
+    FSourceBufferPosition += count - 1;
+    FCharPos += count - 1;
+    FChar = before;
+    ReadChar();
+  }
+}
+
 void TDIUnicodeReader::PassLine(bool store) {
   if (!FCharOK) ReadChar();
   PassOver(Not(unicode::kLineBreaks), store);
-  const bool pair_may_follow = FCharOK && FChar == u'\r';
-  if (FCharOK) ReadChar();
+  if (!FCharOK || PassBufferedBreak()) return;
+  const bool pair_may_follow = FChar == u'\r';
+  ReadChar();
   if (pair_may_follow && FCharOK && FChar == u'\n') ReadChar();
 }
 

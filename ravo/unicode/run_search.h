@@ -128,6 +128,7 @@ class OneOf {
     for (const char16_t ch : chars_) ascii &= ch < 0x80;
     return ascii;
   }
+  [[nodiscard]] constexpr const std::array<char16_t, kCount>& Chars() const { return chars_; }
 
  private:
   std::array<char16_t, kCount> chars_;
@@ -162,6 +163,38 @@ class Not {
  private:
   Kind kind_;
 };
+
+/// Where lines start among units: a unit starts one behind a line feed, and behind a carriage return unless
+/// it is a line feed itself.
+struct LineStarts {
+  std::size_t count = 0;
+  std::size_t last = 0;  ///< the last of them
+};
+
+/// `before` stands in front of the units. The last block overlaps the one before.
+template <class Unit>
+[[nodiscard]] LineStarts FindLineStarts(char16_t before, std::span<const Unit> run) {
+  LineStarts starts;
+  unsigned feed = before == u'\n' ? 1 : 0;
+  unsigned carriage = before == u'\r' ? 1 : 0;
+  const auto add = [&](unsigned feeds, unsigned carriages, std::size_t at, std::size_t size) {
+    const unsigned behind_feeds = feeds << 1 | feed;
+    const unsigned behind_carriages = carriages << 1 | carriage;
+    feed = feeds >> (size - 1) & 1;
+    carriage = carriages >> (size - 1) & 1;
+    const unsigned found = (behind_feeds | (behind_carriages & ~feeds)) & ((1U << size) - 1);
+    if (found == 0) return;
+    for (unsigned rest = found; rest != 0; rest &= rest - 1) ++starts.count;
+    starts.last = at + static_cast<std::size_t>(std::bit_width(found)) - 1;
+  };
+  std::size_t at = 0;
+  for (; run.size() - at >= kSearchBlock; at += kSearchBlock) {
+    const UnitBlock<Unit> block(run.data() + at);
+    add(block.EqualTo('\n'), block.EqualTo('\r'), at, kSearchBlock);
+  }
+  for (; at < run.size(); ++at) add(run[at] == '\n' ? 1 : 0, run[at] == '\r' ? 1 : 0, at, 1);
+  return starts;
+}
 
 /// How many units stand before the first one of a kind. The last block overlaps the one before.
 template <class Unit, class Kind>

@@ -1,36 +1,10 @@
 #include <ravo/unicode/encodings.h>
-#include <ravo/unicode/encodings/runs.h>
+#include <ravo/unicode/encodings/run_till.h>
 #include <ravo/unicode/unicode_reader.h>
 
 #include <algorithm>
-#include <array>
-#include <numeric>
 
 namespace ravo::DIUnicode {
-namespace {
-
-const EncodingRow* RowOf(const TDIUnicodeReadMethods& methods) {
-  for (const EncodingRow& row : EncodingRows()) {
-    if (row.read != nullptr && row.read->ReadChar == methods.ReadChar) return &row;
-  }
-  return nullptr;
-}
-
-// Whether the characters of ASCII are bytes below 0x80, and these bytes are those characters, wherever they
-// stand. UTF-8 has been made so; some single bytes stand for other characters or twice for one of ASCII.
-bool KeepsAscii(const TDIUnicodeReadMethods& methods, DecodeRun decode) {
-  const EncodingRow* const row = RowOf(methods);
-  if (row == nullptr || decode == nullptr || row->engine != "SingleByte") return row && row->engine == "Utf8";
-  std::array<std::uint8_t, 0x100> bytes;
-  std::array<char16_t, 0x100> text;
-  std::iota(bytes.begin(), bytes.end(), std::uint8_t{0});
-  return decode(bytes, text).made == text.size() &&
-         std::equal(text.begin(), text.begin() + 0x80, bytes.begin()) &&
-         std::all_of(text.begin() + 0x80, text.end(), [](char16_t ch) { return ch >= 0x80; });
-}
-
-}  // namespace
-
 TDIUnicodeReader::TDIUnicodeReader(TComponent* AOwner) : TDIUnicodeBase(AOwner) { UseReadMethods({}); }
 
 TDIUnicodeReader::~TDIUnicodeReader() {
@@ -48,7 +22,7 @@ void TDIUnicodeReader::UseReadMethods(const TDIUnicodeReadMethods& methods) {
     FReadMethods.ReadChar = Read_Iso_8859_1_ReadChar;
   }
   FDecodeRun = DecodeRunOf(FReadMethods);
-  FKeepsAscii = KeepsAscii(FReadMethods, FDecodeRun);
+  FDecodeTill = DecodeTillOf(FReadMethods);
 }
 
 void TDIUnicodeReader::SetReadMethods(const TDIUnicodeReadMethods& methods) {

@@ -15,6 +15,9 @@ namespace ravo::DIUnicode {
 
 class TDIUnicodeReader;
 struct Run;
+struct RunTill;
+class EndBytes;
+enum class Lines : std::uint32_t;
 
 /// What a byte-order mark at the start of a source says.
 enum class TDIBOM : std::uint8_t { bomUnknown, bomUtf8, bomutf16be, bomutf16le, bomutf32be, bomutf32le };
@@ -272,7 +275,7 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
   /// Adds the current character, or the given one.
   void AddChar() { AddChar(FChar); }
   void AddChar(char16_t c) {
-    if (FDataSize == FDataCapacity) GrowData(std::uint64_t{FDataSize} + 1);
+    if (FDataSize == FDataCapacity) GrowData(std::uint64_t{FDataSize} + 1, FDataSize);
     FData[FDataSize++] = c;
   }
   /// Adds a blank for white space, and nothing where the Data ends in a blank already; other characters as
@@ -351,7 +354,8 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
 
   /// A byte that is its own character needs no decoder.
   bool TakePlainByte() noexcept {
-    if (!FKeepsAscii || FPeekedCount != 0 || FSourceBufferPosition >= FSourceBufferSize) return false;
+    if (FDecodeTill == nullptr || FPeekedCount != 0 || FSourceBufferPosition >= FSourceBufferSize)
+      return false;
     const std::uint8_t byte = FSourceBuffer[FSourceBufferPosition];
     if (byte >= 0x80) return false;
     FChar = byte;
@@ -384,36 +388,47 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
   [[nodiscard]] std::span<const std::uint8_t> UnreadBytes() const noexcept {
     return {FSourceBuffer + FSourceBufferPosition, FSourceBufferSize - FSourceBufferPosition};
   }
+  enum class Passed : std::uint8_t { Nothing, Some, All };
+
   template <class Unit>
   void AddRun(std::span<Unit> run);
-  void CountWithinLine(std::span<const char16_t> run) noexcept;
   template <class Unit>
-  void CountRun(std::span<const Unit> run) noexcept;
+  void CountRun(std::span<const Unit> run, Lines lines) noexcept;
   template <class Belongs>
   bool PassAscii(const Belongs& belongs, bool store);
   template <class Belongs>
-  void Take(const Run& run, std::span<const char16_t> to, const Belongs& belongs, bool store);
-  std::span<char16_t> PlaceFor(std::size_t count, std::span<char16_t> elsewhere, bool store);
-  template <class Belongs>
-  bool PassAsciiTill(std::span<char16_t> room, const Belongs& belongs, bool store);
-  template <class Belongs>
-  bool PassMixedTill(std::span<char16_t> room, const Belongs& belongs, bool store);
+  Passed PassTill(std::span<char16_t> room, const Belongs& belongs, bool store);
   template <class Belongs>
   std::size_t PassDecoded(std::span<char16_t> room, const Belongs& belongs, bool store);
-  std::size_t Pass(const Run& run, std::span<const char16_t> room, bool store);
   template <class Belongs>
-  void PassRuns(const Belongs& belongs, bool store);
+  bool PassRuns(const Belongs& belongs, bool store);
   template <class Belongs>
   void PassOver(const Belongs& belongs, bool store);
+  bool PassBufferedBreak();
+  void BeginLine(std::uint8_t first, std::uint32_t count, char16_t before);
   void PassLine(bool store);
   /// The next characters, as many as come at once; 0 at the end of all data.
   std::size_t ReadRun(std::span<char16_t> room);
 
-  void GrowData(std::uint64_t needed);
+  /// Characters behind the capacity of the Data, so that whole blocks can be written at its end.
+  static constexpr std::size_t kRoomBeyondData = 256;
+
+  void GrowData(std::uint64_t needed, std::uint32_t filled);
   std::span<char16_t> ExtendData(std::size_t count);
+  /// Where characters can be put before they count: what is left of the Data, and the room beyond it.
+  [[nodiscard]] std::span<char16_t> RoomInData() const noexcept {
+    return {FData.get() + FDataSize, FDataCapacity - FDataSize + kRoomBeyondData};
+  }
+  /// So many of them count now.
+  void CountAsData(std::uint32_t count) {
+    const std::uint64_t size = std::uint64_t{FDataSize} + count;
+    if (size > FDataCapacity) GrowData(size, static_cast<std::uint32_t>(size));
+    FDataSize = static_cast<std::uint32_t>(size);
+  }
 
   bool FCharOK = false;
   char16_t FChar = 0;
+  /// The character before `FChar`, for `CountLocation` alone: what goes in runs leaves it.
   char16_t FLastChar = 0;
   std::uint32_t FCharPos = 0;
   std::uint32_t FCharLine = 1;
@@ -438,10 +453,9 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
   std::uint32_t FPeekedStart = 0;
   /// The run beside the read methods in force, or null.
   Run (*FDecodeRun)(std::span<const std::uint8_t> bytes, std::span<char16_t> text) = nullptr;
-  /// Whether a byte below 0x80 is that character of ASCII wherever it stands.
-  bool FKeepsAscii = false;
-  /// Whether the text was ASCII of late: which way is tried first.
-  bool FIsPlain = true;
+  /// The same up to a byte of ASCII; null also where bytes below 0x80 are more or less than ASCII.
+  RunTill (*FDecodeTill)(std::span<const std::uint8_t> bytes, std::span<char16_t> text,
+                         EndBytes ends) = nullptr;
 };
 
 }  // namespace ravo::DIUnicode

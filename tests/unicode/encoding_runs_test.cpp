@@ -3,6 +3,7 @@
 #include "support/guarded_buffer.h"
 #include <ravo/unicode/encodings/run_blocks.h>
 
+#include <algorithm>
 #include <random>
 #include <vector>
 
@@ -59,7 +60,18 @@ std::string_view AlphabetOf(const EncodingRow& row) {
   return std::string_view("aaabb\0\0\0\0\0\xD8\xDC\x20", 13);
 }
 
-TEST(EncodingRuns, DecodeWhatSingleCharactersDecode) {
+// Each test that decodes or encodes runs once with every kernel.
+class EncodingRunsOfKernel : public ::testing::TestWithParam<RunKernel> {
+ protected:
+  void SetUp() override {
+    if (!GetParam().runs_here()) GTEST_SKIP() << "not on this processor";
+  }
+
+ private:
+  ScopedRunKernel chosen_{GetParam()};
+};
+
+TEST_P(EncodingRunsOfKernel, DecodeWhatSingleCharactersDecode) {
   std::mt19937 random(1);
   for (const EncodingRow& row : EncodingRows()) {
     if (row.read == nullptr || DecodeRunOf(*row.read) == nullptr) continue;
@@ -67,6 +79,67 @@ TEST(EncodingRuns, DecodeWhatSingleCharactersDecode) {
       const Bytes bytes = RandomBytes(random, AlphabetOf(row));
       ASSERT_EQ(ByRuns(row, bytes, 1 + random() % 200), Read(*row.read, test::TextOf(bytes)))
           << row.name << ' ' << i;
+    }
+  }
+}
+
+// A run up to an end is what single characters give in front of the end, or some of it; bytes and room end at
+// guard pages.
+void ExpectRunTill(const EncodingRow& row, const Bytes& bytes, std::size_t room, EndBytes ends) {
+  const test::GuardedBuffer source(std::as_bytes(std::span(bytes)));
+  const std::vector<std::byte> empty(2 * room);
+  const test::GuardedBuffer target(empty);
+  const std::span from(reinterpret_cast<const std::uint8_t*>(source.Bytes().data()), bytes.size());
+  const std::span to(reinterpret_cast<char16_t*>(target.Bytes().data()), room);
+  const RunTill run = DecodeTillOf(*row.read)(from, to, ends);
+  const std::size_t end = static_cast<std::size_t>(
+      std::ranges::find_if(bytes, [ends](std::uint8_t byte) { return ends.Has(byte); }) - bytes.begin());
+  ASSERT_LE(run.taken, end) << row.name;
+  const std::u16string text(to.data(), run.made);
+  ASSERT_EQ(text, Read(*row.read, test::TextOf(bytes).substr(0, run.taken))) << row.name;
+  const std::size_t breaks = text.find_first_of(u"\r\n");
+  if (breaks < text.size() - 1 && !text.empty()) {
+    ASSERT_EQ(run.lines, Lines::MayBeMore) << row.name;
+  }
+}
+
+TEST_P(EncodingRunsOfKernel, EndBeforeAByte) {
+  std::mt19937 random(4);
+  for (const EncodingRow& row : EncodingRows()) {
+    if (row.read == nullptr || DecodeTillOf(*row.read) == nullptr) continue;
+    for (int i = 0; i < 150; ++i) {
+      Bytes bytes = RandomBytes(random, AlphabetOf(row));
+      for (const char byte : {'\n', '\r', ';'}) {
+        if (!bytes.empty() && random() % 2 == 0)
+          bytes[random() % bytes.size()] = static_cast<std::uint8_t>(byte);
+      }
+      const EndBytes ends = i % 3 == 0   ? EndBytes('\r', '\n', '\n')
+                            : i % 3 == 1 ? EndBytes(';', ';', ';')
+                                         : EndBytes('\n', 'q', 0);
+      ASSERT_NO_FATAL_FAILURE(ExpectRunTill(row, bytes, random() % 400, ends));
+    }
+  }
+}
+
+// Sequences at every place of the blocks, whole, cut short and overlong.
+TEST_P(EncodingRunsOfKernel, TakeSequencesAcrossBlocks) {
+  using namespace std::string_view_literals;
+  const EncodingRow& row = *FindEncoding("UTF_8");
+  for (const std::string_view piece :
+       {"\xC4\x8D"sv, "\xE2\x82\xAC"sv, "\xE2\x82"sv, "\xE2"sv, "\xC4"sv, "\x8D"sv, "\xE0\x9F\xBF"sv,
+        "\xE0\xA0\x80"sv, "\xC1\xBF"sv, "\xF0\x9F\x98\x80"sv, "\xED\xA0\x80"sv, "\xE2\x82\xC4\x8D"sv}) {
+    for (std::size_t before = 0; before < 200; ++before) {
+      for (const std::size_t behind : {0U, 1U, 2U, 3U, 70U}) {
+        std::string text = std::string(before, 'x').append(piece).append(behind, 'y');
+        const Bytes bytes(text.begin(), text.end());
+        ASSERT_EQ(ByRuns(row, bytes, 300), Read(Read_UTF_8, text)) << before << ' ' << behind;
+        ASSERT_NO_FATAL_FAILURE(ExpectRunTill(row, bytes, 300, EndBytes('y', '\n', '\n')));
+        // The blocks of others than ASCII.
+        text.insert(0, "\xC5\xBE");
+        const Bytes mixed(text.begin(), text.end());
+        ASSERT_EQ(ByRuns(row, mixed, 300), Read(Read_UTF_8, text)) << before << ' ' << behind;
+        ASSERT_NO_FATAL_FAILURE(ExpectRunTill(row, mixed, 300, EndBytes('y', '\n', '\n')));
+      }
     }
   }
 }
@@ -87,7 +160,7 @@ std::u16string RandomText(std::mt19937& random, const EncodingRow& row) {
 }
 
 // A run stops at the first refused character or where the room ends, and has the bytes of single characters.
-TEST(EncodingRuns, EncodeWhatSingleCharactersEncode) {
+TEST_P(EncodingRunsOfKernel, EncodeWhatSingleCharactersEncode) {
   std::mt19937 random(2);
   for (const EncodingRow& row : EncodingRows()) {
     if (row.write == nullptr || EncodeRunOf(*row.write) == nullptr) continue;
@@ -108,22 +181,25 @@ TEST(EncodingRuns, EncodeWhatSingleCharactersEncode) {
   }
 }
 
-TEST(EncodingRuns, EveryKernelOfUtf8GivesTheSame) {
-  std::mt19937 random(3);
-  const EncodingRow& row = *FindEncoding("UTF_8");
-  for (const Utf8Kernel& kernel : Utf8Kernels()) {
-    if (!kernel.runs_here()) continue;
-    for (int i = 0; i < 3000; ++i) {
-      const Bytes bytes = RandomBytes(random, AlphabetOf(row));
-      std::u16string text(bytes.size(), u'\0');
-      const auto decoded = kernel.decode(bytes, text);
-      ASSERT_EQ(Read(Read_UTF_8, test::TextOf(bytes).substr(0, decoded.taken)), text.substr(0, decoded.made));
-      const std::u16string source = RandomText(random, row);
-      Bytes made(3 * source.size());
-      const auto encoded = kernel.encode(source, made);
-      ASSERT_EQ(Write(Write_UTF_8, source.substr(0, encoded.taken)),
-                test::TextOf(std::span(made).first(encoded.made)));
+INSTANTIATE_TEST_SUITE_P(Kernels, EncodingRunsOfKernel,
+                         ::testing::ValuesIn(RunKernels().begin(), RunKernels().end()),
+                         [](const auto& kernel) { return std::string(kernel.param.name); });
+
+TEST(EncodingRuns, TillAnEndOnlyWhereAsciiIsKeptApart) {
+  EXPECT_NE(DecodeTillOf(Read_UTF_8), nullptr);
+  EXPECT_NE(DecodeTillOf(Read_Windows_1250), nullptr);
+  EXPECT_EQ(DecodeTillOf(Read_UTF_16_LE), nullptr);
+  EXPECT_EQ(DecodeTillOf(Read_GB_18030), nullptr);
+  EXPECT_EQ(DecodeTillOf(Read_UTF_7), nullptr);
+  EXPECT_EQ(DecodeTillOf(Read_CP_424), nullptr);
+  for (const EncodingRow& row : EncodingRows()) {
+    if (row.engine != "SingleByte" || row.read == nullptr) continue;
+    bool kept = true;
+    for (int byte = 0; byte < 256; ++byte) {
+      const std::u16string text = Read(*row.read, std::string(1, static_cast<char>(byte)));
+      kept = kept && (byte < 0x80 ? text[0] == byte : text[0] >= 0x80);
     }
+    EXPECT_EQ(DecodeTillOf(*row.read) != nullptr, kept) << row.name;
   }
 }
 

@@ -1,7 +1,7 @@
 // Whole runs give what single characters give: each operation on the same bytes by both paths, from every
 // kind of source.
 #include "decoded_sources.h"
-#include <ravo/unicode/encodings/runs.h>
+#include <ravo/unicode/encodings/run_blocks.h>
 
 #include <array>
 #include <functional>
@@ -95,8 +95,8 @@ void ExpectSameStanding(const Reader& expected, const Reader& reader, const std:
 }
 
 // Random operations on both, from the same source.
-void RunBoth(const Encoding& encoding, std::string_view bytes, Way way, std::uint32_t seed,
-             std::size_t cut = 0) {
+void RunBothHere(const Encoding& encoding, std::string_view bytes, Way way, std::uint32_t seed,
+                 std::size_t cut) {
   Reader expected;
   Reader reader;
   expected.SetReadMethods(encoding.unknown);
@@ -121,6 +121,17 @@ void RunBoth(const Encoding& encoding, std::string_view bytes, Way way, std::uin
       reader.ClearData();
     }
     idle = expected.CharPos() == before ? idle + 1 : 0;
+  }
+}
+
+// With every kernel.
+void RunBoth(const Encoding& encoding, std::string_view bytes, Way way, std::uint32_t seed,
+             std::size_t cut = 0) {
+  for (const RunKernel& kernel : RunKernels()) {
+    if (!kernel.runs_here()) continue;
+    SCOPED_TRACE(kernel.name);
+    const ScopedRunKernel chosen(kernel);
+    ASSERT_NO_FATAL_FAILURE(RunBothHere(encoding, bytes, way, seed, cut));
   }
 }
 

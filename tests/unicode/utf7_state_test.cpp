@@ -38,6 +38,46 @@ TEST(Utf7State, IsMadeWhereInitWasNotCalled) {
   EXPECT_EQ(test::TextOf(writer.Data()), "+AVk-");
 }
 
+// A source in UTF-7 ends on top of one in another encoding: the record goes with it, also where no routine is
+// called for it.
+TEST(Utf7State, GoesWithItsSource) {
+  TDIUnicodeReader reader;
+  reader.SetReadMethods(Read_Windows_1250);
+  reader.SetSourceBuffer(test::AsBytes("\xF8z"));
+  reader.PushSource(true);
+  reader.SetReadMethods(Read_UTF_7);
+  reader.SetSourceBuffer(test::AsBytes("+AVk-a"));
+  EXPECT_NE(reader.State(), 0U);
+  EXPECT_EQ(test::ReadAll(reader), u"řařz");
+  EXPECT_EQ(reader.State(), 0U);
+  EXPECT_EQ(reader.ReadMethods().ReadChar, Read_Windows_1250.ReadChar);
+}
+
+// Two sources in UTF-7 on top of each other use one record; without stored methods it stays with the reader.
+TEST(Utf7State, StaysWhereUtf7GoesOn) {
+  for (const bool store : {false, true}) {
+    TDIUnicodeReader reader;
+    reader.SetReadMethods(Read_UTF_7);
+    reader.SetSourceBuffer(test::AsBytes("+AVk-b"));
+    reader.PushSource(store);
+    reader.SetSourceBuffer(test::AsBytes("+AVk-a"));
+    const auto state = reader.State();
+    EXPECT_EQ(test::ReadAll(reader), u"řařb");
+    EXPECT_EQ(reader.State(), state);
+  }
+}
+
+// What other routines keep in the state is not touched when their source ends.
+TEST(Utf7State, OfOthersIsTheirs) {
+  TDIUnicodeReader reader;
+  reader.SetSourceBuffer(test::AsBytes("ab"));
+  reader.PushSource(true);
+  reader.SetReadMethods({nullptr, Read_Iso_8859_2_ReadChar, [](TDIUnicodeReader&) {}});
+  reader.SetState(7);
+  EXPECT_TRUE(reader.PopSource());
+  EXPECT_EQ(reader.State(), 7U);
+}
+
 TEST(WriteUtf7, HoldsBackUntilFlushed) {
   TDIUnicodeWriter writer;
   writer.SetWriteMethods(Write_UTF_7);

@@ -23,8 +23,8 @@ they name: character maps of the C library (`glibc`, package `locales`), Perl's 
   "-" where a character of base 64 or "-" follows. `Flush` writes the last bits and "-". What was not flushed is lost
   when the write methods change.
 - The record behind the state of UTF-7 has 12 bytes; the first is 0 outside base 64. Where methods are put in place
-  without their `Init` (a source that is popped), the first character makes it. Where such methods follow UTF-7, nothing
-  calls its `Finalize` and the record stays behind: set other methods before a source in UTF-7 is popped.
+  without their `Init` (a source that is popped), the first character makes it. Where a source in UTF-7 ends on top of
+  one in another encoding, the record goes with it.
 - GB 18030: a byte 80 or FF, four bytes without a character and four bytes of a character beyond U+FFFF are one U+FFFD;
   so is a sequence that ends early, and what does not continue it is read as the next character.
 """

@@ -34,7 +34,7 @@ WholeFile::WholeFile(const std::string& name) : target_(Meant(PathOf(name))) {
   std::error_code error;
   const fs::file_status status = fs::status(target_, error);
   is_folder_ = fs::is_directory(status);
-  if (!fs::is_other(status)) draft_ = Beside(target_);
+  if (!fs::is_other(status)) interruption_.emplace(draft_ = Beside(target_));
   if (!is_folder_) file_.open(draft_.empty() ? target_ : draft_, std::ios::binary | std::ios::trunc);
 }
 

@@ -1,7 +1,10 @@
 #pragma once
 
+#include "interruption.h"
+
 #include <filesystem>
 #include <fstream>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -9,7 +12,8 @@ namespace tool {
 
 /// A file that is written as a whole: a reader of its name sees the old file or the new one, never a piece.
 /// The bytes go into a file beside it that takes its name in the end, and only then. What is there and is no
-/// ordinary file (a device, a pipe) is written to directly.
+/// ordinary file (a device, a pipe) is written to directly. The file beside it also goes where the program is
+/// interrupted.
 class WholeFile {
  public:
   /// `name` is UTF-8.
@@ -31,6 +35,7 @@ class WholeFile {
   std::filesystem::path target_;
   std::filesystem::path draft_;
   bool is_folder_ = false;
+  std::optional<GoesOnInterruption> interruption_;
   std::ofstream file_;
 };
 

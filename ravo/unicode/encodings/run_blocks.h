@@ -1,8 +1,9 @@
 #pragma once
 
-#include <ravo/unicode/encodings/runs.h>
+#include <ravo/unicode/encodings/run_till.h>
 #include <ravo/unicode/encodings/single_byte.h>
 
+#include <atomic>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -17,10 +18,11 @@ using TextSpan = std::span<const char16_t>;
 using ByteRoom = std::span<std::uint8_t>;
 using TextRoom = std::span<char16_t>;
 
-/// `ascii` as `HasAscii` of the table.
-[[nodiscard]] Run DecodeSingleByteBlocks(const ByteTable& table, bool ascii, ByteSpan bytes,
-                                         TextRoom text) noexcept;
-/// Stops before a block with a character that has no byte, and before one with U+0000.
+/// Any table, and one with ASCII.
+[[nodiscard]] Run DecodeSingleByteBlocks(const ByteTable& table, ByteSpan bytes, TextRoom text) noexcept;
+[[nodiscard]] Run DecodeSingleByteAscii(const ByteTable& table, ByteSpan bytes, TextRoom text) noexcept;
+/// `ascii` as `HasAscii` of the table. Stops before a block with a character that has no byte, and before one
+/// with U+0000.
 [[nodiscard]] Run EncodeSingleByteBlocks(const ReverseTable& table, bool ascii, TextSpan text,
                                          ByteRoom bytes) noexcept;
 
@@ -29,22 +31,57 @@ using TextRoom = std::span<char16_t>;
 [[nodiscard]] Run DecodeUnitBlocks(bool swap, bool plain_only, ByteSpan bytes, TextRoom text) noexcept;
 [[nodiscard]] Run EncodeUnitBlocks(bool swap, bool plain_only, TextSpan text, ByteRoom bytes) noexcept;
 
-/// One way to do blocks of UTF-8.
-struct Utf8Kernel {
+/// One way to do blocks. `till_...` may be null: by the blocks, then.
+struct RunKernel {
   std::string_view name;
-  Run (*decode)(ByteSpan bytes, TextRoom text) noexcept;
-  Run (*encode)(TextSpan text, ByteRoom bytes) noexcept;
   bool (*runs_here)() noexcept;
+  Run (*decode_utf8)(ByteSpan bytes, TextRoom text) noexcept;
+  Run (*encode_utf8)(TextSpan text, ByteRoom bytes) noexcept;
+  /// For tables with ASCII.
+  Run (*decode_single_byte)(const ByteTable& table, ByteSpan bytes, TextRoom text) noexcept;
+  RunTill (*till_utf8)(ByteSpan bytes, TextRoom text, EndBytes ends) noexcept;
+  RunTill (*till_single_byte)(const ByteTable& table, ByteSpan bytes, TextRoom text, EndBytes ends) noexcept;
 };
 
-/// All of them, the plain one first and the fastest last. For tests.
-[[nodiscard]] std::span<const Utf8Kernel> Utf8Kernels() noexcept;
-/// The fastest that runs here.
-[[nodiscard]] const Utf8Kernel& BestUtf8Kernel() noexcept;
+/// All of them, the plain one first and the fastest last.
+[[nodiscard]] std::span<const RunKernel> RunKernels() noexcept;
+/// Chooses the fastest that runs here, unless one is chosen already; what gives runs to others does that
+/// first.
+void ChooseRunKernel() noexcept;
+/// The chosen one; before, one that runs everywhere.
+extern constinit std::atomic<const RunKernel*> chosen_run_kernel;
+[[nodiscard]] inline const RunKernel& ChosenRunKernel() noexcept {
+  return *chosen_run_kernel.load(std::memory_order_relaxed);
+}
+
+/// Makes a kernel the chosen one while it lives. For tests, one at a time.
+class ScopedRunKernel {
+ public:
+  explicit ScopedRunKernel(const RunKernel& kernel) noexcept;
+  ~ScopedRunKernel();
+  ScopedRunKernel(const ScopedRunKernel&) = delete;
+  ScopedRunKernel& operator=(const ScopedRunKernel&) = delete;
+
+ private:
+  const RunKernel* previous_;
+};
+
+/// Blocks of ASCII.
+[[nodiscard]] Run DecodeUtf8Ascii(ByteSpan bytes, TextRoom text) noexcept;
+[[nodiscard]] Run EncodeUtf8Ascii(TextSpan text, ByteRoom bytes) noexcept;
 
 /// Blocks of sequences of one and two bytes: instructions of SSSE3, where `HasByteShuffle`.
 [[nodiscard]] Run DecodeUtf8Shuffling(ByteSpan bytes, TextRoom text) noexcept;
 [[nodiscard]] Run EncodeUtf8Shuffling(TextSpan text, ByteRoom bytes) noexcept;
 [[nodiscard]] bool HasByteShuffle() noexcept;
+
+/// Blocks of sixty-four bytes: instructions of AVX-512, where `HasWideBlocks`. The ends may be any bytes of
+/// ASCII.
+[[nodiscard]] Run DecodeUtf8Wide(ByteSpan bytes, TextRoom text) noexcept;
+[[nodiscard]] Run DecodeSingleByteWide(const ByteTable& table, ByteSpan bytes, TextRoom text) noexcept;
+[[nodiscard]] RunTill DecodeUtf8TillWide(ByteSpan bytes, TextRoom text, EndBytes ends) noexcept;
+[[nodiscard]] RunTill DecodeSingleByteTillWide(const ByteTable& table, ByteSpan bytes, TextRoom text,
+                                               EndBytes ends) noexcept;
+[[nodiscard]] bool HasWideBlocks() noexcept;
 
 }  // namespace ravo::DIUnicode

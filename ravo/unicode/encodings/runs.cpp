@@ -44,7 +44,8 @@ struct Blocks {
 template <const ByteTable& table>
 struct Blocks<SingleByte<table>> {
   static Run Decode(ByteSpan bytes, TextRoom text) {
-    return DecodeSingleByteBlocks(table, HasAscii(table), bytes, text);
+    if constexpr (!HasAscii(table)) return DecodeSingleByteBlocks(table, bytes, text);
+    return ChosenRunKernel().decode_single_byte(table, bytes, text);
   }
   static Run Encode(TextSpan text, ByteRoom bytes) {
     return EncodeSingleByteBlocks(Reversed<table>::Table(), HasAscii(table), text, bytes);
@@ -53,8 +54,8 @@ struct Blocks<SingleByte<table>> {
 
 template <>
 struct Blocks<Utf8> {
-  static Run Decode(ByteSpan bytes, TextRoom text) { return BestUtf8Kernel().decode(bytes, text); }
-  static Run Encode(TextSpan text, ByteRoom bytes) { return BestUtf8Kernel().encode(text, bytes); }
+  static Run Decode(ByteSpan bytes, TextRoom text) { return ChosenRunKernel().decode_utf8(bytes, text); }
+  static Run Encode(TextSpan text, ByteRoom bytes) { return ChosenRunKernel().encode_utf8(text, bytes); }
 };
 
 template <class Order, bool plain_only>
@@ -120,14 +121,42 @@ constexpr EncodeRun EncodeBy() {
     return EncodeWith<Codec>;
 }
 
+// Runs that end before a byte, where bytes below 0x80 are ASCII and nothing else is. UTF-8 has been made so.
+template <class Codec>
+struct Till {
+  static constexpr DecodeTill kDecode = nullptr;
+};
+
+template <const ByteTable& table>
+struct Till<SingleByte<table>> {
+  static RunTill Decode(ByteSpan bytes, TextRoom text, EndBytes ends) {
+    const auto till = ChosenRunKernel().till_single_byte;
+    return till != nullptr ? till(table, bytes, text, ends)
+                           : DecodeTillByBlocks(DecodeWith<SingleByte<table>>, bytes, text, ends);
+  }
+  static constexpr DecodeTill kDecode = KeepsAscii(table) ? Decode : nullptr;
+};
+
+template <>
+struct Till<Utf8> {
+  static RunTill Decode(ByteSpan bytes, TextRoom text, EndBytes ends) {
+    const auto till = ChosenRunKernel().till_utf8;
+    return till != nullptr ? till(bytes, text, ends)
+                           : DecodeTillByBlocks(DecodeWith<Utf8>, bytes, text, ends);
+  }
+  static constexpr DecodeTill kDecode = Decode;
+};
+
 struct Runs {
   DecodeRun decode;
+  DecodeTill decode_till;
   EncodeRun encode;
 };
 
-#define RAVO_RUNS_Both(name) {DecodeBy<codecs::name>(), EncodeBy<codecs::name>()},
-#define RAVO_RUNS_ReadOnly(name) {DecodeBy<codecs::name>(), nullptr},
-#define RAVO_RUNS_WriteOnly(name) {nullptr, EncodeBy<codecs::name>()},
+#define RAVO_RUNS_Both(name) \
+  {DecodeBy<codecs::name>(), Till<codecs::name>::kDecode, EncodeBy<codecs::name>()},
+#define RAVO_RUNS_ReadOnly(name) {DecodeBy<codecs::name>(), Till<codecs::name>::kDecode, nullptr},
+#define RAVO_RUNS_WriteOnly(name) {nullptr, nullptr, EncodeBy<codecs::name>()},
 #define RAVO_ENCODING(name, label, code_page, aliases, engine, ways, table, sources, notes) \
   RAVO_RUNS_##ways(name)
 // In the order of `EncodingRows`.
@@ -136,17 +165,25 @@ constexpr Runs kRuns[] = {
 };
 #undef RAVO_ENCODING
 
-}  // namespace
+constexpr Runs kNone = {nullptr, nullptr, nullptr};
 
-DecodeRun DecodeRunOf(const TDIUnicodeReadMethods& methods) noexcept {
+const Runs& RunsOf(const TDIUnicodeReadMethods& methods) noexcept {
+  ChooseRunKernel();
   const auto rows = EncodingRows();
   for (std::size_t i = 0; i < rows.size(); ++i) {
-    if (rows[i].read != nullptr && rows[i].read->ReadChar == methods.ReadChar) return kRuns[i].decode;
+    if (rows[i].read != nullptr && rows[i].read->ReadChar == methods.ReadChar) return kRuns[i];
   }
-  return nullptr;
+  return kNone;
 }
 
+}  // namespace
+
+DecodeRun DecodeRunOf(const TDIUnicodeReadMethods& methods) noexcept { return RunsOf(methods).decode; }
+
+DecodeTill DecodeTillOf(const TDIUnicodeReadMethods& methods) noexcept { return RunsOf(methods).decode_till; }
+
 EncodeRun EncodeRunOf(const TDIUnicodeWriteMethods& methods) noexcept {
+  ChooseRunKernel();
   const auto rows = EncodingRows();
   for (std::size_t i = 0; i < rows.size(); ++i) {
     if (rows[i].write != nullptr && rows[i].write->WriteChar == methods.WriteChar) return kRuns[i].encode;

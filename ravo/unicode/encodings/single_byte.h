@@ -81,6 +81,14 @@ constexpr bool HasAscii(const ByteTable& table) noexcept {
   return true;
 }
 
+/// Whether no other byte is a character of ASCII, besides.
+constexpr bool KeepsAscii(const ByteTable& table) noexcept {
+  for (std::size_t byte = 0x80; byte < table.size(); ++byte) {
+    if (table[byte] < 0x80) return false;
+  }
+  return HasAscii(table);
+}
+
 template <const ByteTable& table>
 struct SingleByte {
   static_assert(table[0] == 0, "byte 0 must be U+0000: it tells a byte from none");

@@ -84,15 +84,22 @@ std::size_t EncodeBig(const ReverseTable& table, const char16_t* from, std::uint
 
 }  // namespace
 
-Run DecodeSingleByteBlocks(const ByteTable& table, bool ascii, ByteSpan bytes, TextRoom text) noexcept {
+Run DecodeSingleByteBlocks(const ByteTable& table, ByteSpan bytes, TextRoom text) noexcept {
+  const std::size_t end = WholeBlocks(bytes.size(), text.size());
+  for (std::size_t at = 0; at < end; at += kBlock) DecodeBlock(table, bytes.data() + at, text.data() + at);
+  return {end, end};
+}
+
+Run DecodeSingleByteAscii(const ByteTable& table, ByteSpan bytes, TextRoom text) noexcept {
   const std::size_t end = WholeBlocks(bytes.size(), text.size(), kBig);
   for (std::size_t at = 0; at < end; at += kBig) {
-    if (ascii && WidenAscii<kAsciiBlocks>(bytes.data() + at, text.data() + at)) continue;
+    if (WidenAscii<kAsciiBlocks>(bytes.data() + at, text.data() + at)) continue;
     for (std::size_t block = at; block < at + kBig; block += kBlock) {
       DecodeBlock(table, bytes.data() + block, text.data() + block);
     }
   }
-  return {end, end};
+  const Run rest = DecodeSingleByteBlocks(table, bytes.subspan(end), text.subspan(end));
+  return {end + rest.taken, end + rest.made};
 }
 
 Run EncodeSingleByteBlocks(const ReverseTable& table, bool ascii, TextSpan text, ByteRoom bytes) noexcept {

@@ -1,0 +1,58 @@
+#include <ravo/unicode/encodings/run_till.h>
+#include <ravo/unicode/run_search.h>
+
+#include <algorithm>
+#include <bit>
+
+namespace ravo::DIUnicode {
+namespace {
+
+using unicode::kSearchBlock;
+using unicode::OneOf;
+using Ends = OneOf<3>;
+using ByteSpan = std::span<const std::uint8_t>;
+using TextRoom = std::span<char16_t>;
+
+std::size_t WholeBlocksOf(std::size_t length) {
+  return (length + kSearchBlock - 1) / kSearchBlock * kSearchBlock;
+}
+
+// How much ASCII stands before the first byte that ends it, widened on the way. Whole blocks are written.
+std::size_t WidenAsciiBefore(ByteSpan bytes, TextRoom to, const Ends& ends) {
+  const std::size_t most = std::min(bytes.size(), to.size());
+  std::size_t at = 0;
+  for (; most - at >= kSearchBlock; at += kSearchBlock) {
+    const unicode::UnitBlock<std::uint8_t> block(bytes.data() + at);
+    block.Widen(to.data() + at);
+    if (const unsigned hits = ends.HitsIn(block) | block.NoAscii(); hits != 0)
+      return at + static_cast<std::size_t>(std::countr_zero(hits));
+  }
+  for (; at < most && bytes[at] < 0x80 && !ends(bytes[at]); ++at) to[at] = bytes[at];
+  return at;
+}
+
+// Everything before a byte that ends it, decoded at once. Bytes behind that one are decoded too where that
+// makes whole blocks; they do not count: among the last characters, the first one that ends it is the end.
+Run DecodeMixedBefore(DecodeRun decode, ByteSpan bytes, TextRoom to, const Ends& ends) {
+  const auto within = bytes.first(std::min(bytes.size(), to.size()));
+  const std::size_t length = unicode::LengthBefore(within, ends);
+  const Run run = decode(within.first(std::min(WholeBlocksOf(length), within.size())), to);
+  if (run.taken <= length) return run;
+  if (run.taken == run.made) return {length, length};
+  const auto last = std::span<const char16_t>(to.first(run.made)).last(std::min(run.made, kSearchBlock));
+  return {length, run.made - last.size() + unicode::LengthBefore(last, ends)};
+}
+
+}  // namespace
+
+RunTill DecodeTillByBlocks(DecodeRun decode, ByteSpan bytes, TextRoom text, EndBytes end_bytes) {
+  const Ends ends(char16_t{end_bytes.First()}, char16_t{end_bytes.Second()}, char16_t{end_bytes.Third()});
+  const std::size_t ascii = WidenAsciiBefore(bytes, text, ends);
+  Run mixed;
+  if (ascii < bytes.size() && bytes[ascii] >= 0x80)
+    mixed = DecodeMixedBefore(decode, bytes.subspan(ascii), text.subspan(ascii), ends);
+  return {ascii + mixed.taken, static_cast<std::uint32_t>(ascii + mixed.made),
+          end_bytes.HasBreaks() ? Lines::One : Lines::MayBeMore};
+}
+
+}  // namespace ravo::DIUnicode

@@ -1,0 +1,55 @@
+#include "interruption.h"
+
+#include <array>
+#include <atomic>
+#include <csignal>
+#include <string>
+
+#include <unistd.h>
+
+namespace tool {
+namespace {
+
+constexpr std::array kSignals = {SIGINT, SIGTERM, SIGHUP};
+
+// What the handler may touch.
+std::atomic<const char*> file_to_remove{nullptr};
+static_assert(std::atomic<const char*>::is_always_lock_free);
+
+// The program ends by the signal, as if nobody had watched for it.
+extern "C" void EndByRemoving(int number) {
+  if (const char* const name = file_to_remove.load()) unlink(name);
+  std::signal(number, SIG_DFL);
+  std::raise(number);
+}
+
+}  // namespace
+
+struct GoesOnInterruption::Watch {
+  std::string name;
+  const char* previous_name = nullptr;
+  std::array<struct sigaction, kSignals.size()> previous_actions{};
+};
+
+GoesOnInterruption::GoesOnInterruption(const std::filesystem::path& file)
+    : watch_(std::make_unique<Watch>()) {
+  watch_->name = file.string();
+  watch_->previous_name = file_to_remove.exchange(watch_->name.c_str());
+  struct sigaction action {};
+  action.sa_handler = EndByRemoving;
+  for (std::size_t i = 0; i < kSignals.size(); ++i) {
+    struct sigaction& previous = watch_->previous_actions[i];
+    sigaction(kSignals[i], nullptr, &previous);
+    // Whoever started the program may have told it to go on.
+    if (previous.sa_handler != SIG_IGN) sigaction(kSignals[i], &action, nullptr);
+  }
+}
+
+GoesOnInterruption::~GoesOnInterruption() {
+  for (std::size_t i = 0; i < kSignals.size(); ++i) {
+    sigaction(kSignals[i], &watch_->previous_actions[i], nullptr);
+  }
+  file_to_remove.store(watch_->previous_name);
+}
+
+}  // namespace tool
