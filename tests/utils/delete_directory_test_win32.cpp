@@ -69,16 +69,23 @@ TEST(DeleteDirectory, NothingGoesIntoTheRecycleBin) {
 }
 
 // The shell reaches no name beyond its longest one: what the answer says is what happened.
-TEST(DeleteDirectory, SaysWhetherLongNamesStay) {
+// Some shells lose themselves in such names and delete what is in the current folder.
+TEST(DeleteDirectory, KeepsAFolderWithNamesTooLongForTheShell) {
   const ScratchFolder scratch;
+  scratch.Write("bystander", "");
   const std::u16string tree = SuiteName(scratch.Path() / "tree");
   std::u16string folder = u"\\\\?\\" + tree;
   for (int i = 0; i < 5; ++i) folder += u"\\" + std::u16string(100, static_cast<char16_t>(u'a' + i));
   ASSERT_TRUE(ForceDirectoriesW(folder));
   ASSERT_TRUE(SaveStrAToFileW("text", folder + u"\\file.txt"));
-  const bool is_gone = DeleteDirectoryW(tree, true);
-  EXPECT_EQ(is_gone, !DirectoryExistsW(tree));
-  EXPECT_EQ(is_gone, !FileExistsW(folder + u"\\file.txt"));
+  const std::filesystem::path before = std::filesystem::current_path();
+  std::filesystem::current_path(scratch.Path());
+  const bool deleted[] = {DeleteDirectoryW(tree, true), DeleteDirectoryW(u"tree", false)};
+  std::filesystem::current_path(before);
+  EXPECT_FALSE(deleted[0]);
+  EXPECT_FALSE(deleted[1]);
+  EXPECT_TRUE(FileExistsW(folder + u"\\file.txt"));
+  EXPECT_TRUE(exists(scratch.Path() / "bystander"));
 }
 
 // Makes a link to a folder by a program of the system that Wine runs on; false where there is none.

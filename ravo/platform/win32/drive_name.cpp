@@ -4,9 +4,14 @@
 
 namespace ravo::platform {
 
-bool IsDriveName(const std::wstring& name) {
+std::wstring FullName(const std::wstring& name) {
   std::wstring path(GetFullPathNameW(name.c_str(), 0, nullptr, nullptr), L'\0');
   path.resize(GetFullPathNameW(name.c_str(), static_cast<DWORD>(path.size()), path.data(), nullptr));
+  return path;
+}
+
+bool IsDriveName(const std::wstring& name) {
+  std::wstring path = FullName(name);
   while (path.ends_with(L'\\')) path.pop_back();
   return path.ends_with(L':');
 }

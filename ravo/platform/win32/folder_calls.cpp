@@ -58,7 +58,7 @@ bool Win32FileSystem::DeleteFolder(std::u16string_view folder, FolderPart part) 
   if (!name || !Attributes(folder)) return false;
   if (part == FolderPart::Whole && IsDriveName(*name)) return false;
   if (part == FolderPart::Whole && IsFolderLink(*name)) return RemoveDirectoryW(name->c_str()) != 0;
-  if (!RemoveFolderLinks(*name)) return false;
+  if (!MakeSafeForShell(*name)) return false;
   if (part == FolderPart::Contents) name->append(name->ends_with(L'\\') ? L"*" : L"\\*");
   return DeleteByShell(std::move(*name));
 }

@@ -1,3 +1,4 @@
+#include <ravo/platform/win32/drive_name.h>
 #include <ravo/platform/win32/folder_links.h>
 
 #include <string_view>
@@ -22,22 +23,33 @@ bool RemoveLink(const std::wstring& name, const WIN32_FIND_DATAW& found) {
 
 bool IsSelfOrParent(std::wstring_view name) { return name == L"." || name == L".."; }
 
-// Takes away the links in one folder and collects its folders.
-bool RemoveLinksIn(const std::wstring& folder, std::vector<std::wstring>& folders) {
+// The shell looks into a folder by its name with this behind it.
+constexpr std::wstring_view kEverything = L"\\*.*";
+
+bool FitsTheShell(std::size_t length) { return length < MAX_PATH; }
+
+// Makes one entry of a folder safe, or leaves it to be looked into.
+bool MakeEntrySafe(const std::wstring& name, const WIN32_FIND_DATAW& found,
+                   std::vector<std::wstring>& folders) {
+  if (IsLinkOrUnknown(found)) return RemoveLink(name, found);
+  if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0) return FitsTheShell(name.size());
+  folders.push_back(name);
+  return true;
+}
+
+// Makes all in one folder safe but for its folders, which it collects.
+bool MakeFolderSafe(const std::wstring& folder, std::vector<std::wstring>& folders) {
+  if (!FitsTheShell(folder.size() + kEverything.size())) return false;
   WIN32_FIND_DATAW found{};
-  const HANDLE search = FindFirstFileW((folder + L"*").c_str(), &found);
+  const HANDLE search = FindFirstFileW((folder + L"\\*").c_str(), &found);
   if (search == INVALID_HANDLE_VALUE) return true;
-  bool are_gone = true;
+  bool is_safe = true;
   do {
-    const std::wstring name = folder + found.cFileName;
     if (IsSelfOrParent(found.cFileName)) continue;
-    if (IsLinkOrUnknown(found))
-      are_gone = RemoveLink(name, found) && are_gone;
-    else if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0)
-      folders.push_back(name + L'\\');
-  } while (are_gone && FindNextFileW(search, &found));
+    is_safe = MakeEntrySafe(folder + L'\\' + found.cFileName, found, folders);
+  } while (is_safe && FindNextFileW(search, &found));
   FindClose(search);
-  return are_gone;
+  return is_safe;
 }
 
 }  // namespace
@@ -50,12 +62,13 @@ bool IsFolderLink(const std::wstring& name) {
   return IsLinkOrUnknown(found);
 }
 
-bool RemoveFolderLinks(const std::wstring& folder) {
-  std::vector<std::wstring> folders = {folder.ends_with(L'\\') ? folder : folder + L'\\'};
+bool MakeSafeForShell(const std::wstring& folder) {
+  std::vector<std::wstring> folders = {FullName(folder)};
+  while (folders.front().ends_with(L'\\')) folders.front().pop_back();
   while (!folders.empty()) {
     const std::wstring next = std::move(folders.back());
     folders.pop_back();
-    if (!RemoveLinksIn(next, folders)) return false;
+    if (!MakeFolderSafe(next, folders)) return false;
   }
   return true;
 }
