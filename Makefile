@@ -7,8 +7,8 @@ run:            ## Build for this machine and show the library at its work
 check:          ## Every target, every test, every gate
 	@scripts/check
 
-bench:          ## Build and run the benchmarks
-	@scripts/bench
+bench:          ## Build and run the benchmarks, write docs/performance.md and draw its charts
+	@scripts/bench --write
 
 coverage:       ## Count the lines and branches that the tests run
 	@scripts/coverage
@@ -22,7 +22,7 @@ reference:      ## Make the reference of every public name: build/reference/html
 guide:          ## Copy the code of the examples and what they print into docs/guide.md
 	@scripts/guide
 
-pictures:       ## Draw docs/structure.svg and docs/performance.svg anew
+pictures:       ## Draw docs/structure.svg and the charts of docs/performance.md anew
 	@/usr/bin/env python3 -B scripts/structure.py --write
 	@/usr/bin/env python3 -B scripts/chart.py --write
 

@@ -1,11 +1,13 @@
 #!/usr/bin/env python3
 """Times `ravo check --csv` on a million rows beside mawk, which merely splits the same file into the same columns.
 
-usage: check_csv.py RAVO FOLDER      (FOLDER keeps the file between runs)
+usage: check_csv.py RAVO FOLDER REPORT      (FOLDER keeps the file between runs)
 
-The two run in turn, several times; what is printed are the medians of their wall times and the ratio.
+The two run in turn, several times; what is printed are the medians of their wall times and the ratio. REPORT has
+every run, in the form in which the other benchmarks report.
 """
 
+import json
 import pathlib
 import shutil
 import statistics
@@ -37,7 +39,14 @@ def seconds(command):
     return time.perf_counter() - start
 
 
-def main(ravo, folder):
+def report(times):
+    """The runs of all commands, in nanoseconds."""
+    runs = [{"run_name": f"check --csv/{name}", "run_type": "iteration", "cpu_time": taken * 1e9}
+            for name, all_runs in times.items() for taken in all_runs]
+    return json.dumps({"benchmarks": runs})
+
+
+def main(ravo, folder, report_file):
     if not shutil.which("mawk"):
         print("mawk is missing")
         return 0
@@ -57,6 +66,7 @@ def main(ravo, folder):
             taken = seconds(command)
             if run > 0:  # the first turn warms the file cache
                 times[name].append(taken)
+    pathlib.Path(report_file).write_text(report(times), encoding="utf-8")
     medians = {name: statistics.median(taken) for name, taken in times.items()}
     for name, median in medians.items():
         print(f"check --csv, a million rows  {name:24} {median:7.3f} s  {median / medians['ravo']:6.2f}x")
@@ -64,6 +74,6 @@ def main(ravo, folder):
 
 
 if __name__ == "__main__":
-    if len(sys.argv) != 3:
+    if len(sys.argv) != 4:
         sys.exit(__doc__)
     sys.exit(main(*sys.argv[1:]))

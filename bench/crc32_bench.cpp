@@ -35,8 +35,8 @@ std::uint32_t OurCrc(std::uint32_t crc, const Bytes& bytes) {
   return ravo::DIUtils::UpdateCrc32OfBuf(crc, bytes.data(), bytes.size());
 }
 
-std::uint32_t TablesCrc(std::uint32_t crc, const Bytes& bytes) {
-  return ravo::utils::UpdateCrc32Braided(crc, std::as_bytes(std::span(bytes)));
+std::uint32_t PlainCrc(std::uint32_t crc, const Bytes& bytes) {
+  return ravo::utils::UpdateCrc32Carried(crc, std::as_bytes(std::span(bytes)));
 }
 
 std::uint32_t ZlibCrc(std::uint32_t crc, const Bytes& bytes) {
@@ -51,8 +51,8 @@ void RegisterSize(const std::string& text, std::size_t size) {
   Register("crc32_" + text + "/ravo", size, OurCrc);
   Register("crc32_" + text + "/libdeflate", size, LibdeflateCrc);
   Register("crc32_" + text + "/zlib", size, ZlibCrc);
-  Register("crc32_tables_" + text + "/ravo", size, TablesCrc);
-  Register("crc32_tables_" + text + "/zlib", size, ZlibCrc);
+  Register("crc32_plain_" + text + "/ravo", size, PlainCrc);
+  Register("crc32_plain_" + text + "/zlib", size, ZlibCrc);
 }
 
 }  // namespace

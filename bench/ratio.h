@@ -14,7 +14,8 @@
 
 /// Benchmarks that compare: each job runs on our routine and on its rivals in one run, and the run ends with
 /// a table of the medians and their ratios. Register with names of the form "job/ravo" and "job/rival" and
-/// let `RunWithRatios` be the whole of `main`.
+/// let `RunWithRatios` be the whole of `main`. The counter "items" tells how many things one run works on.
+/// scripts/performance.py makes the page of figures from the report that `--benchmark_out` writes.
 namespace ravo::bench {
 
 inline constexpr std::string_view kOurs = "ravo";
@@ -43,8 +44,14 @@ class RatioReporter : public benchmark::ConsoleReporter {
     const std::string& name = run.run_name.function_name;
     const std::size_t slash = name.find('/');
     if (slash == std::string::npos) return;
-    const double items = run.counters.contains("items") ? run.counters.at("items").value : 1;
-    jobs_[name.substr(0, slash)][name.substr(slash + 1)] = run.GetAdjustedCPUTime() / items;
+    jobs_[name.substr(0, slash)][name.substr(slash + 1)] = Figure(run);
+  }
+
+  // Time of one item; or, of what is not measured in time, the figure that the benchmark counted itself.
+  static double Figure(const Run& run) {
+    const auto& counters = run.counters;
+    if (counters.contains("figure")) return counters.at("figure").value;
+    return run.GetAdjustedCPUTime() / (counters.contains("items") ? counters.at("items").value : 1);
   }
 
   static void PrintJob(const std::string& job, const Times& times) {

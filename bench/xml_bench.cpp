@@ -11,7 +11,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <cstdio>
 #include <functional>
 #include <map>
 #include <span>
@@ -165,21 +164,29 @@ std::size_t Elements(ECXMLParser::TXMLItem& item) {
   return count;
 }
 
-void PrintPeaks(const Size& size) {
-  std::size_t peak = 0;
-  std::size_t elements = 0;
-  {
+std::size_t Peak(const std::string& text) {
+  TECXMLParser parser;
+  StartCountingMemory();
+  Load(parser, text);
+  return StopCountingMemory();
+}
+
+// The most that was held at once while the document was loaded, for each of its elements.
+void RegisterPeak(const std::string& name, const Size& size, std::size_t (*peak)(const std::string&),
+                  const std::string& text) {
+  const auto run = [&size, &text, peak](benchmark::State& state) {
     TECXMLParser parser;
-    StartCountingMemory();
     Load(parser, size.text);
-    peak = StopCountingMemory();
-    elements = Elements(*parser.Root());
-  }
-  const auto each = [&](std::size_t bytes) {
-    return static_cast<double>(bytes) / static_cast<double>(elements);
+    const auto elements = static_cast<double>(Elements(*parser.Root()));
+    for (auto _ : state) state.counters["figure"] = static_cast<double>(peak(text)) / elements;
   };
-  std::printf("peak bytes per element, %s: ravo %.1f, pugixml %.1f (the document itself: %.1f)\n", size.name,
-              each(peak), each(PugixmlPeak(size.utf8)), each(size.utf8.size()));
+  benchmark::RegisterBenchmark(name.c_str(), run)->Iterations(1);
+}
+
+void RegisterPeaks(const Size& size) {
+  const std::string job = "peak bytes per element " + std::string(size.name) + "/";
+  RegisterPeak(job + "ravo", size, Peak, size.text);
+  RegisterPeak(job + "pugixml", size, PugixmlPeak, size.utf8);
 }
 
 }  // namespace
@@ -189,10 +196,9 @@ int main(int argc, char** argv) {
       {"1 MB", AccountingExport(1'000'000), Converted(AccountingExport(1'000'000), "CP1250", "UTF-8")},
       {"50 MB", AccountingExport(50'000'000), Converted(AccountingExport(50'000'000), "CP1250", "UTF-8")},
   };
-  for (const Size& size : sizes) RegisterSize(size);
-  const int result = RunWithRatios(argc, argv);
-  // Behind the table, which the page of figures takes to its end.
-  std::printf("\n");
-  for (const Size& size : sizes) PrintPeaks(size);
-  return result;
+  for (const Size& size : sizes) {
+    RegisterSize(size);
+    RegisterPeaks(size);
+  }
+  return RunWithRatios(argc, argv);
 }

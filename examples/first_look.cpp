@@ -14,7 +14,7 @@ int main() {
   const std::u16string caption = RavoInterfaceResources::rPropertyDokladPZPohledavka.Text();
   std::cout << ToUtf8(caption) << ", " << ToUtf8(PlainCaption(caption)) << "\n";  // &Pohledávka, Pohledávka
 
-  // A size as people read it, and the whole support report of this machine.
+  // A size as the locale writes it, here the Czech one, and the whole support report of this machine.
   std::cout << ToUtf8(RavoInterfaceCommon::BytesToStr(1536, true)) << "\n";  // 1,5 kB (1536 B)
   RavoInterfaceInfo::TRavoSystemInfo info;
   std::cout << ToUtf8(info.AsText(RavoInterfaceInfo::siVisual));

@@ -27,6 +27,18 @@ void CheckKernels(std::uint32_t start, const Bytes& bytes) {
   }
 }
 
+// The bytes again and again, so that kernels with a way for long texts go it.
+void CheckLongText(std::uint32_t start, const Bytes& bytes) {
+  constexpr std::size_t longest = 48 << 10;
+  if (bytes.empty()) return;
+  Bytes text;
+  for (std::size_t count = start % longest; count > 0; count -= std::min(count, bytes.size())) {
+    text.insert(text.end(), bytes.begin(),
+                bytes.begin() + static_cast<std::ptrdiff_t>(std::min(count, bytes.size())));
+  }
+  CheckKernels(start, text);
+}
+
 void CheckCase(std::uint32_t start, const Bytes& bytes) {
   Bytes upper = bytes;
   for (std::uint8_t& byte : upper) byte = ravo::DIUtils::ANSI_UPPER_CHAR_TABLE[byte];
@@ -54,6 +66,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   // A block of its own, so that a byte too many is found.
   const Bytes bytes(data + sizeof(start), data + size);
   CheckKernels(start, bytes);
+  CheckLongText(start, bytes);
   CheckCase(start, bytes);
   CheckFolding(start, bytes);
   return 0;

@@ -12,6 +12,8 @@ import sys
 
 BEGIN = "<!-- written by scripts/reliability; do not edit -->\n"
 END = "<!-- end of what is written -->\n"
+# Numbers that the table of long runs has as words.
+MINUTES = {"ten": 10}
 # Notes that are told in words of their own; all others stand under their own name.
 WORDS = {"requests_for_memory_that_failed": "requests for memory that were denied, each in a run of its own"}
 
@@ -86,12 +88,18 @@ def coverage_lines(project):
     return f"Functions run: {cells[1]}; lines: {cells[2]}; branches: {cells[3]}. {expectations.group(0) if expectations else ''}\n"
 
 
+def fuzz_minutes(text):
+    """What the table says of the length of its runs: "in ten minutes", "601 s"."""
+    minutes = sum(float(MINUTES.get(number, number)) for number in re.findall(r"\b(\w+) minutes", text))
+    return minutes + sum(float(number) for number in re.findall(r"\b(\d+) s\b", text)) / 60
+
+
 def long_runs(project):
     """The table of long runs below the sum of what it counts as inputs of fuzz targets."""
     text = (project / "docs/long-runs.md").read_text(encoding="utf-8").split("\n\n", 2)[2]
     inputs = sum(int(number.replace(",", "")) for number in re.findall(r"\b([\d,]{5,}) (?:inputs|more)\b", text))
     differing = sum(row.strip("|").split("|")[3].strip() != "none" for row in rows_of_page(project, "docs/long-runs.md"))
-    return f"{inputs:,} inputs of fuzz targets in all; {differing} runs with a difference.\n\n{text}"
+    return f"{inputs:,} inputs of fuzz targets in {fuzz_minutes(text) / 60:.1f} hours; {differing} runs with a difference.\n\n{text}"
 
 
 def figures(project, reports):

@@ -9,10 +9,6 @@ int main() {
   using namespace ravo;
   using namespace ravo::DIUtils;
   std::cout << std::boolalpha;
-  // [names]
-  std::cout << ToUtf8(ChangeFileExt(u"zaloha.zip", u".bak")) << " " << ToUtf8(ExtractFileExt(u"zaloha.zip"))
-            << "\n";
-  // [/names]
   // [files]
   const std::u16string folder = GetTempFolder() + u"ravo-guide";
   const std::u16string name = folder + u"/poznamka.txt";
@@ -23,4 +19,8 @@ int main() {
   std::cout << LoadStrAFromFile(name, text) << " " << text << " " << GetFileSize(name) << "\n";
   std::cout << DeleteDirectory(folder, true) << " " << FileExists(name) << "\n";
   // [/files]
+  // [names]
+  std::cout << ToUtf8(ChangeFileExt(u"zaloha.zip", u".bak")) << " " << ToUtf8(ExtractFileExt(u"zaloha.zip"))
+            << "\n";
+  // [/names]
 }

@@ -106,7 +106,8 @@ RAVO_API void IncMonths(std::int32_t& year, std::uint16_t& month, std::uint16_t&
 
 // Feasts and today.
 
-/// Easter Sunday, exact for the years 1900 to 2099; a formula without century terms continues outside them.
+/// Easter Sunday, exact for the years 1900 to 2099; a formula without century terms continues outside them,
+/// with remainders from 0 upwards for negative years too.
 [[nodiscard]] RAVO_API TJulianDate EasterSunday(std::int32_t year);
 RAVO_API void EasterSundayYmd(std::int32_t year, std::uint16_t& month, std::uint16_t& day);
 

@@ -12,9 +12,10 @@ using Update = decltype(Crc32Kernel::update);
 
 bool RunsEverywhere() noexcept { return true; }
 
-constexpr std::array<Crc32Kernel, 4> kKernels = {{{"bytewise", UpdateCrc32Bytewise, RunsEverywhere},
+constexpr std::array<Crc32Kernel, 5> kKernels = {{{"bytewise", UpdateCrc32Bytewise, RunsEverywhere},
                                                   {"sliced", UpdateCrc32Sliced, RunsEverywhere},
                                                   {"braided", UpdateCrc32Braided, RunsEverywhere},
+                                                  {"carried", UpdateCrc32Carried, RunsEverywhere},
                                                   {"carryless", UpdateCrc32Carryless, CanMultiplyCarryless}}};
 
 std::uint32_t ChooseAndUpdate(std::uint32_t crc, std::span<const std::byte> bytes) noexcept;
@@ -23,7 +24,7 @@ std::uint32_t ChooseAndUpdate(std::uint32_t crc, std::span<const std::byte> byte
 constinit std::atomic<Update> chosen{ChooseAndUpdate};
 
 std::uint32_t ChooseAndUpdate(std::uint32_t crc, std::span<const std::byte> bytes) noexcept {
-  const Update update = CanMultiplyCarryless() ? UpdateCrc32Carryless : UpdateCrc32Braided;
+  const Update update = CanMultiplyCarryless() ? UpdateCrc32Carryless : UpdateCrc32Carried;
   chosen.store(update, std::memory_order_relaxed);
   return update(crc, bytes);
 }

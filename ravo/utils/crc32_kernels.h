@@ -39,6 +39,10 @@ class ScopedCrc32Kernel {
 /// Five words at a time, each through tables of its own, so that their look-ups do not wait for each other.
 [[nodiscard]] std::uint32_t UpdateCrc32Braided(std::uint32_t crc, std::span<const std::byte> bytes) noexcept;
 
+/// Bytes carried on over distances that leave the checksum what it is, blocks of them at a time and without a
+/// table, until few are left for the tables. Texts of less than 1 KiB go through the tables at once.
+[[nodiscard]] std::uint32_t UpdateCrc32Carried(std::uint32_t crc, std::span<const std::byte> bytes) noexcept;
+
 /// Carry-less multiplication (PCLMULQDQ with SSE4.1), where `CanMultiplyCarryless`.
 [[nodiscard]] std::uint32_t UpdateCrc32Carryless(std::uint32_t crc,
                                                  std::span<const std::byte> bytes) noexcept;

@@ -23,9 +23,10 @@ RAVO_API bool ForceDirectoriesA(std::string_view folder);
 RAVO_API bool ForceDirectoriesW(std::u16string_view folder);
 
 /// Deletes what is in a folder and, `with_folder`, the folder too: for good, not into the recycle bin, and
-/// without a question. Links are deleted and not followed; a folder with a link that cannot be deleted so
-/// stays whole. On Windows the shell deletes, which may refuse read-only files and files in use, and has a
-/// longest name. False where something stays, and for an empty name; a drive itself cannot be deleted.
+/// without a question. Links are deleted and not followed, but for one that is itself the name of a folder
+/// whose contents alone are to go; a folder with a link that cannot be deleted so stays whole. On Windows the
+/// shell deletes, which may refuse read-only files and files in use, and has a longest name. False where
+/// something stays, and for an empty name or one with wildcards; a drive itself cannot be deleted.
 RAVO_API bool DeleteDirectory(std::u16string_view folder, bool with_folder);
 RAVO_API bool DeleteDirectoryA(std::string_view folder, bool with_folder);
 RAVO_API bool DeleteDirectoryW(std::u16string_view folder, bool with_folder);

@@ -32,7 +32,6 @@ void ChildList::Append(Item* child) {
 }
 
 void ChildList::AppendAll(std::span<Item* const> children, ItemArena& arena) {
-  if (children.empty()) return;
   if (slots_ == nullptr) {
     slots_ = static_cast<Slots*>(arena.Room(sizeof(Slots) + children.size() * sizeof(Item*)));
     Init(slots_, CheckedCast<std::uint32_t>(children.size()), false);

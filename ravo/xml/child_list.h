@@ -30,7 +30,7 @@ class ChildList {
   }
 
   void Append(Item* child);
-  /// All at once, in a room of just that size.
+  /// All of them, one at least, at once: in a room of just that size where there was none.
   void AppendAll(std::span<Item* const> children, ItemArena& arena);
   /// Costs no more than the way to the nearer end.
   void Remove(std::uint32_t index) noexcept;

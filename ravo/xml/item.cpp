@@ -15,7 +15,6 @@ namespace ravo::ECXMLParser {
 using xml::ItemAccess;
 
 TXMLItem::~TXMLItem() {
-  SetFlag(kSilent, true);
   if (FParent != nullptr) ItemAccess::RemoveAll(*FParent, this);
   ItemAccess::FreeChildren(*this);
   ItemAccess::ClearParts(*this);
@@ -38,14 +37,12 @@ void TXMLItem::operator delete(TXMLItem* item, std::destroying_delete_t) {
 }
 
 void TXMLItem::Clear() {
-  SetFlag(kSilent, true);
   ItemAccess::FreeChildren(*this);
   ItemAccess::ClearParts(*this);
   if (!Has(kArenaBorn | kRare) && arena_ != nullptr) {
     arena_->Release();
     arena_ = nullptr;
   }
-  SetFlag(kSilent, false);
 }
 
 TXMLItem* TXMLItem::New() {
@@ -104,7 +101,7 @@ TXMLItem* TXMLItem::GetNamedItem(std::u16string_view Name) {
 }
 
 void TXMLItem::DoChanged() {
-  if (Has(kSilent) || FParser == nullptr || !FParser->XMLItemChanged()) return;
+  if (FParser == nullptr || !FParser->XMLItemChanged()) return;
   // A copy: the handler may put another one in its place.
   const TXMLItemChanged handler = FParser->XMLItemChanged();
   handler(*FParser, *this);
@@ -147,7 +144,7 @@ void TXMLItem::SetParams(const StringList& Value) {
 void TXMLItem::SetParent(TXMLItem* Value) {
   for (const TXMLItem* above = Value; above != nullptr; above = above->FParent) {
     if (above == this) throw Error(u"An item cannot stand below itself");
-    if (children_.Count() == 0 && above == Value) break;
+    if (children_.Count() == 0) break;
   }
   if (Value != nullptr) ItemAccess::AppendStranger(*Value, this);
   // From here on nothing can fail.

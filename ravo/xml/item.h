@@ -128,9 +128,8 @@ class RAVO_API TXMLItem {
     kWideText = 32,    // the text is a rare part
     kParamList = 64,   // the attributes are a rare part
     kHasText = 128,    // the text is more than blanks
-    kSilent = 256,     // changes are not reported
-    kOnOneLine = 512,  // no line breaks in the output
-    kListedTwice = 1024
+    kOnOneLine = 256,  // no line breaks in the output
+    kListedTwice = 512
   };
   [[nodiscard]] bool Has(std::uint32_t flags) const noexcept { return (flags_ & flags) != 0; }
   void SetFlag(Flag flag, bool on) noexcept { flags_ = on ? flags_ | flag : flags_ & ~std::uint32_t{flag}; }

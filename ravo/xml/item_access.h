@@ -54,7 +54,7 @@ class ItemAccess {
   }
   /// The parts that are not bytes; null where there are none.
   [[nodiscard]] static const RareParts* Rare(const Item& item) {
-    return item.Has(Item::kRare) ? item.arena_->FindRare(&item) : nullptr;
+    return item.Has(Item::kRare) ? &item.arena_->FoundRare(&item) : nullptr;
   }
   [[nodiscard]] static const std::u16string* WideName(const Item& item) {
     return item.Has(Item::kWideName) ? &Rare(item)->name : nullptr;

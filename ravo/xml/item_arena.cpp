@@ -52,7 +52,6 @@ void ItemArena::FreeItem(void* memory) noexcept {
 }
 
 const char* ItemArena::Keep(std::string_view bytes) {
-  if (bytes.empty()) return nullptr;
   if (static_cast<std::size_t>(back_ - front_) < bytes.size()) AddBlock(bytes.size());
   back_ -= bytes.size();
   std::memcpy(back_, bytes.data(), bytes.size());

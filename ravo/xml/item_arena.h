@@ -60,10 +60,6 @@ class ItemArena {
   void DropItems() noexcept { holders_ = 1; }
 
   [[nodiscard]] RareParts& Rare(const ECXMLParser::TXMLItem* item) { return rare_[item]; }
-  [[nodiscard]] const RareParts* FindRare(const ECXMLParser::TXMLItem* item) const {
-    const auto at = rare_.find(item);
-    return at != rare_.end() ? &at->second : nullptr;
-  }
   /// Those of an item that has some.
   [[nodiscard]] RareParts& FoundRare(const ECXMLParser::TXMLItem* item) noexcept {
     return rare_.find(item)->second;

@@ -51,8 +51,7 @@ class ByteSink {
       Flush();
       if (bytes.size() > kRoom) return stream_.WriteChecked(std::as_bytes(std::span(bytes)));
     }
-    // An empty view may point nowhere.
-    if (!bytes.empty()) std::memcpy(buffer_.get() + used_, bytes.data(), bytes.size());
+    std::memcpy(buffer_.get() + used_, bytes.data(), bytes.size());
     used_ += bytes.size();
   }
 

@@ -70,7 +70,7 @@ std::string_view AttributesOfTag(std::string_view tag) {
   const std::size_t blank = tag.find(' ');
   if (blank == std::string_view::npos) return {};
   std::size_t end = tag.find('>');
-  if (end > 0 && tag[end - 1] == '/') --end;
+  if (tag[end - 1] == '/') --end;
   return end > blank ? tag.substr(blank + 1, end - blank - 1) : std::string_view();
 }
 

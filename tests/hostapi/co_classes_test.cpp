@@ -1,4 +1,5 @@
 #include "counted_object.h"
+#include "raised.h"
 #include "support/fake_machine.h"
 #include <ravo/RavoProfileInfo_TLB.h>
 #include <ravo/RavoZip_TLB.h>
@@ -17,22 +18,8 @@ using RavoZip_TLB::IRavoZip;
 using test::CountedObject;
 using test::Counts;
 using test::FakeMachine;
-
-// What a creation raises; a code of 0 where it raises nothing.
-struct Raised {
-  ResultCode code = 0;
-  std::u16string text;
-};
-
-template <class Creation>
-Raised RaisedBy(Creation creation) {
-  try {
-    static_cast<void>(creation());
-  } catch (const ComponentError& error) {
-    return {error.Code(), error.Message()};
-  }
-  return {};
-}
+using test::Raised;
+using test::RaisedBy;
 
 template <class Interface>
 void Offer(FakeMachine& machine, const Guid& class_id, Counts& counts) {

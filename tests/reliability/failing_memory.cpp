@@ -47,6 +47,8 @@ FailingMemory::~FailingMemory() { left = kNever; }
 
 bool FailingMemory::HasFailed() const noexcept { return has_failed; }
 
+std::int64_t FailingMemory::Left() const noexcept { return left; }
+
 std::int64_t LiveBlocks() noexcept { return live; }
 
 }  // namespace ravo::test

@@ -16,6 +16,9 @@ class FailingMemory {
 
   /// Whether a request has failed.
   [[nodiscard]] bool HasFailed() const noexcept;
+
+  /// How many requests more would succeed.
+  [[nodiscard]] std::int64_t Left() const noexcept;
 };
 
 /// Blocks that were taken and not given back.

@@ -184,6 +184,16 @@ TEST(OutOfMemory, AWideStringBufferStaysWhole) {
   EXPECT_EQ(buffer.GetAsStr().View(), expected);
 }
 
+// The block of a text of 128 MiB moves a few times for each doubling, not once for every 4096 units.
+TEST(OutOfMemory, AWideStringBufferMovesSeldom) {
+  constexpr std::int64_t granted = 1000;
+  constexpr std::uint32_t units = std::uint32_t{1} << 26;
+  const test::FailingMemory memory(granted);
+  DIUtils::TWideStrBuf buffer;
+  while (buffer.GetCount() < units) buffer.AddStr(kLong);
+  EXPECT_LT(granted - memory.Left(), 4 * 26);
+}
+
 TEST(OutOfMemory, RandomTexts) {
   ExpectSurvivesScarceMemory([] { static_cast<void>(DIUtils::StrRandomW("seed", u"abc", 100)); });
 }

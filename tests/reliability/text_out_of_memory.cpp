@@ -27,6 +27,17 @@ TEST(TextOutOfMemory, StringFunctions) {
   ExpectSurvivesScarceMemory([] { static_cast<void>(QuotedStrW(kText)); });
 }
 
+TEST(TextOutOfMemory, FurtherStringFunctions) {
+  using namespace DIUtils;
+  ExpectSurvivesScarceMemory([] { static_cast<void>(StrDecodeUtf8(StrEncodeUtf8(kText))); });
+  ExpectSurvivesScarceMemory([] { static_cast<void>(StrDecodeUrlA(StrEncodeUrlA(kBytes))); });
+  ExpectSurvivesScarceMemory([] { static_cast<void>(StrExtractUriFragmentW(u"x#" + kText)); });
+  ExpectSurvivesScarceMemory([] { static_cast<void>(ExtractWordA(kBytes, ", ")); });
+  ExpectSurvivesScarceMemory([] { static_cast<void>(ExtractWordStartsW(ReplaceAll(kText, u"č", u"č "))); });
+  ExpectSurvivesScarceMemory([] { static_cast<void>(StrTrimCharsW(kText, u" ")); });
+  ExpectSurvivesScarceMemory([] { static_cast<void>(StrRandomA("seed", "abc", 100)); });
+}
+
 // A text that is changed in place is the old one or the new one.
 TEST(TextOutOfMemory, ATextStaysWhole) {
   std::u16string target = kText;

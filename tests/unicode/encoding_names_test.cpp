@@ -10,8 +10,18 @@ namespace {
 TEST(FindEncoding, ANumberIsThatOfACodePageAndNothingElse) {
   ASSERT_NE(FindEncoding("1250"), nullptr);
   EXPECT_EQ(FindEncoding("1250")->name, "Windows_1250");
-  for (const char* none : {"", "0", "12500000", "99999", "12x0", "-"})
+  for (const char* none : {"", "0", "12500000", "99999", "12x0", "12,99", "-"})
     EXPECT_EQ(FindEncoding(none), nullptr) << none;
+}
+
+// A row of the caller's own is of no encoding here.
+TEST(EncodedCharacter, OfAnotherRowIsNone) {
+  const TDIUnicodeWriteMethods own{nullptr, [](TDIUnicodeWriter&, char16_t) { return true; }, nullptr,
+                                   nullptr};
+  EncodingRow row = *FindEncoding("1250");
+  EXPECT_EQ(EncodedCharacter(row, u'a').size(), 1U);
+  row.write = &own;
+  EXPECT_TRUE(EncodedCharacter(row, u'a').empty());
 }
 
 // GB 18030 is read only.

@@ -1,6 +1,7 @@
 // All bytes, all pairs of bytes and mixtures of telling bytes, against the rules of the encodings of several
 // bytes.
 #include "encoding_texts.h"
+#include "support/tried.h"
 
 #include <algorithm>
 #include <vector>
@@ -165,6 +166,7 @@ TEST(EncodingRules, WhatIsWrittenIsRead) {
       all += text;
     }
     EXPECT_EQ(Read(read, Write(*row.write, all).value()), all) << row.name;
+    test::Tried("code_units_written_and_read_back", 0x10000);
     if (row.engine == "SingleByte") {
       EXPECT_GE(refused, 0x10000U - 256U) << row.name;
     } else {

@@ -139,6 +139,18 @@ TEST(WriterClear, ForgetsAllAndBeginsAnew) {
   EXPECT_EQ(writer.DataToStrRaw(), "de");
 }
 
+TEST(WriterClear, KeepsTheBufferOfAStream) {
+  MemoryStream stream;
+  TDIUnicodeWriter writer;
+  writer.SetDataStream(&stream);
+  writer.WriteStrRaw("lost");
+  writer.Clear();
+  EXPECT_EQ(writer.DataSize(), 0U);
+  writer.WriteStrRaw("kept");
+  writer.FlushDataBuffer();
+  EXPECT_EQ(TextOf(stream), "kept");
+}
+
 TEST(SetWriteMethods, InitialisesAndFinalises) {
   calls.clear();
   {
@@ -223,6 +235,47 @@ TEST(FreeDataStream, FlushesAndFrees) {
   EXPECT_EQ(freed, 1);
   EXPECT_EQ(writer.DataStream(), nullptr);
   EXPECT_EQ(writer.DataSize(), 0u);
+}
+
+TEST(FreeDataStream, FreesAlsoAStreamThatRefusesTheRest) {
+  // Takes nothing, and tells when it goes.
+  class Refusing final : public ByteStream {
+   public:
+    explicit Refusing(int& freed) : freed_(freed) {}
+    ~Refusing() override { ++freed_; }
+    [[nodiscard]] std::size_t Read(std::span<std::byte>) override { return 0; }
+    [[nodiscard]] std::size_t Write(std::span<const std::byte>) override { return 0; }
+    [[nodiscard]] std::int64_t Position() const override { return 0; }
+    void SetPosition(std::int64_t) override {}
+    [[nodiscard]] std::int64_t Size() const override { return 0; }
+
+   private:
+    int& freed_;
+  };
+  int freed = 0;
+  TDIUnicodeWriter writer;
+  writer.SetDataStream(new Refusing(freed));
+  writer.WriteStrRaw("a");
+  EXPECT_THROW(writer.FreeDataStream(), StreamError);
+  EXPECT_EQ(freed, 1);
+  EXPECT_EQ(writer.DataStream(), nullptr);
+}
+
+// Larger than the buffer of a stream: block by block.
+TEST(WriteBufDirect, PassesLargeBuffersOn) {
+  for (const std::size_t size : {4095U, 4096U, 4097U, 8192U, 10'000U}) {
+    std::string bytes(size, 'x');
+    for (std::size_t i = 0; i < size; ++i) bytes[i] = static_cast<char>('a' + i % 23);
+    MemoryStream stream;
+    TDIUnicodeWriter writer;
+    writer.SetDataStream(&stream);
+    writer.WriteStrRaw("<");
+    writer.WriteStrRaw(bytes);
+    writer.WriteStrRaw(">");
+    writer.FlushDataBuffer();
+    EXPECT_EQ(TextOf(stream), "<" + bytes + ">");
+    writer.SetDataStream(nullptr);
+  }
 }
 
 TEST(FlushDataBuffer, FlushesTheEncoder) {
@@ -393,6 +446,26 @@ TEST(WriterText, WritesTextsAndBreaks) {
   EXPECT_TRUE(writer.WriteCharsW(u'.', 3));
   EXPECT_TRUE(writer.WriteLineBreak());
   EXPECT_EQ(writer.DataToStr(), u"ab\x10D\r\n\x10D\x159\x17E\r\n...\r\n");
+}
+
+// Nothing at all; all but one character; where a member fails, it has said so.
+TEST(WriterText, IsFalseWhereACharacterCannotBeWritten) {
+  TDIUnicodeWriter writer;
+  writer.SetWriteMethods(kNothing);
+  EXPECT_FALSE(writer.WriteStrLineBreakW(u"a"));
+  EXPECT_FALSE(writer.WriteStrLineBreakA("a", 1250));
+  EXPECT_FALSE(writer.WriteLineBreak());
+  EXPECT_FALSE(writer.WriteStrLineBreakW(u""));
+  EXPECT_FALSE(writer.WriteDecimalNumber(std::int64_t{7}));
+  EXPECT_EQ(writer.DataSize(), 0U);
+  const TDIUnicodeWriteMethods all_but_line_feed{
+      nullptr, [](TDIUnicodeWriter& to, char16_t ch) { return ch != u'\n' && WriteAscii(to, ch); }, nullptr,
+      nullptr};
+  writer.SetWriteMethods(all_but_line_feed);
+  EXPECT_FALSE(writer.WriteLineBreak());
+  EXPECT_FALSE(writer.WriteStrLineBreakW(u"a"));
+  EXPECT_FALSE(writer.WriteStrLineBreakA("b", 1250));
+  EXPECT_EQ(writer.DataToStrRaw(), "\ra\rb\r");
 }
 
 TEST(WriteCodePoint, HasNoLeadingZeros) {

@@ -55,6 +55,12 @@ TEST(EasterSunday, IsTheBareFormulaOutside) {
     EXPECT_EQ(EasterSunday(year), EasterByFormula(year)) << year;
 }
 
+// By hand: year -1 leaves 18 of 19, the moon is on day 27, and the weekday of the formula is 6.
+TEST(EasterSunday, OfNegativeYearsTakesRemaindersUpwards) {
+  EXPECT_EQ(EasterSunday(-1), YmdToJulianDate(-1, 3, 1) + 27);
+  EXPECT_EQ(EasterSunday(-19), YmdToJulianDate(-19, 3, 1) + 45 + 6 - 2);
+}
+
 TEST(EasterSunday, RaisesWhereTheYearIsTooLarge) {
   constexpr std::int32_t kLargest = std::numeric_limits<std::int32_t>::max();
   for (const std::int32_t year : {kLargest, kLargest / 2, -kLargest})

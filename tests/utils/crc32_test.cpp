@@ -1,6 +1,7 @@
 #include "support/guarded_buffer.h"
 #include <ravo/utils/crc32.h>
 #include <ravo/utils/crc32_kernels.h>
+#include <ravo/utils/generated/crc32_windows.h>
 
 #include <random>
 #include <string>
@@ -56,7 +57,7 @@ TEST_P(Crc32OfKernel, KnownValues) {
 }
 
 TEST_P(Crc32OfKernel, IsTheDefinitionAtEveryLengthAndAlignment) {
-  const test::GuardedBuffer buffer(Pattern(600));
+  const test::GuardedBuffer buffer(Pattern(1200));
   for (std::size_t start = 0; start <= buffer.Bytes().size(); ++start) {
     const auto bytes = buffer.Bytes().subspan(start);
     EXPECT_EQ(UpdateCrc32(kCrc32Start, bytes), PlainUpdate(kCrc32Start, bytes)) << start;
@@ -74,23 +75,48 @@ TEST_P(Crc32OfKernel, ReadsNoByteTooMany) {
   }
 }
 
-// Each bit of a long text tells: the checksum is linear, so that this checks all texts of that length.
+// Each bit of a long text tells: the checksum is linear, so that this checks all texts of these lengths.
 TEST_P(Crc32OfKernel, EveryBitOfATextCounts) {
-  constexpr std::size_t kCount = 333;
-  std::vector<std::byte> bytes(kCount);
-  for (std::size_t bit = 0; bit < 8 * kCount; ++bit) {
-    bytes[bit / 8] = static_cast<std::byte>(1u << bit % 8);
-    ASSERT_EQ(UpdateCrc32(0, bytes), PlainUpdate(0, bytes)) << bit;
-    bytes[bit / 8] = std::byte{0};
+  for (const std::size_t count : {333u, 1337u}) {
+    std::vector<std::byte> bytes(count);
+    for (std::size_t bit = 0; bit < 8 * count; ++bit) {
+      bytes[bit / 8] = static_cast<std::byte>(1u << bit % 8);
+      ASSERT_EQ(UpdateCrc32(0, bytes), PlainUpdate(0, bytes)) << bit;
+      bytes[bit / 8] = std::byte{0};
+    }
   }
 }
 
 TEST_P(Crc32OfKernel, LongTexts) {
   const std::vector<std::byte> bytes = RandomBytes(1 << 20);
-  for (const std::size_t count : {4095u, 4096u, 4097u, 65535u, 1u << 20})
+  for (const std::size_t count : {4095u, 4096u, 4097u, 32767u, 32768u, 32769u, 65535u, 1u << 20})
     EXPECT_EQ(UpdateCrc32(kCrc32Start, std::span(bytes).last(count)),
               PlainUpdate(kCrc32Start, std::span(bytes).last(count)))
         << count;
+}
+
+// Lengths around those at which a kernel begins to go another way or to use a place again.
+TEST_P(Crc32OfKernel, EveryLengthAroundATurn) {
+  const std::vector<std::byte> bytes = RandomBytes(40000);
+  std::vector<std::uint32_t> expected = {kCrc32Start};
+  for (const std::byte byte : bytes) expected.push_back(PlainUpdate(expected.back(), std::span(&byte, 1)));
+  for (const std::size_t turn : {1024u, 4096u + 528u, 3 * 4096u + 528u, 32768u, 3 * 8192u + 4032u}) {
+    for (std::size_t count = turn - 40; count <= turn + 40; ++count) {
+      const auto front = std::span(bytes).first(count);
+      const test::GuardedBuffer buffer(front);
+      ASSERT_EQ(UpdateCrc32(kCrc32Start, buffer.Bytes()), expected[count]) << count;
+    }
+  }
+}
+
+TEST_P(Crc32OfKernel, RandomLengthsUpToSomeMegabytes) {
+  const std::vector<std::byte> bytes = RandomBytes(5 << 20);
+  std::mt19937 random(11);
+  for (int i = 0; i < 12; ++i) {
+    const auto part = std::span(bytes).subspan(random() % 64).first(random() % (5 << 20));
+    const auto start = static_cast<std::uint32_t>(random());
+    ASSERT_EQ(UpdateCrc32(start, part), PlainUpdate(start, part)) << part.size();
+  }
 }
 
 TEST_P(Crc32OfKernel, PiecesGiveWhatTheWholeGives) {
@@ -106,16 +132,38 @@ INSTANTIATE_TEST_SUITE_P(Kernels, Crc32OfKernel,
                          ::testing::ValuesIn(utils::Crc32Kernels().begin(), utils::Crc32Kernels().end()),
                          [](const auto& kernel) { return std::string(kernel.param.name); });
 
+// A byte that is carried over the distances of a window goes without a trace, wherever it stands.
+template <std::size_t count>
+void ExpectLeavesNoTrace(const std::array<std::size_t, count>& window) {
+  std::vector<std::byte> bytes(window.back() + 1);
+  bytes[0] = std::byte{0x53};
+  for (const std::size_t distance : window) bytes[distance] ^= std::byte{0x53};
+  for (const std::size_t behind : {0u, 1u, 500u}) {
+    bytes.resize(window.back() + 1 + behind);
+    EXPECT_EQ(PlainUpdate(0, bytes), 0u) << count << " distances";
+  }
+  bytes[1] ^= std::byte{1};
+  EXPECT_NE(PlainUpdate(0, bytes), 0u);
+}
+
+TEST(Crc32Windows, CarryABytesPartInTheChecksum) {
+  ExpectLeavesNoTrace(utils::kCrc32LongWindow);
+  ExpectLeavesNoTrace(utils::kCrc32MiddleWindow);
+  ExpectLeavesNoTrace(utils::kCrc32ShortWindow);
+}
+
 TEST(Crc32Kernels, BeginWithTheReference) {
   const auto kernels = utils::Crc32Kernels();
-  ASSERT_EQ(kernels.size(), 4u);
+  ASSERT_EQ(kernels.size(), 5u);
   EXPECT_EQ(kernels[0].name, "bytewise");
   EXPECT_EQ(kernels[1].name, "sliced");
   EXPECT_EQ(kernels[2].name, "braided");
-  EXPECT_EQ(kernels[3].name, "carryless");
+  EXPECT_EQ(kernels[3].name, "carried");
+  EXPECT_EQ(kernels[4].name, "carryless");
   EXPECT_TRUE(kernels[0].runs_here());
   EXPECT_TRUE(kernels[1].runs_here());
   EXPECT_TRUE(kernels[2].runs_here());
+  EXPECT_TRUE(kernels[3].runs_here());
 }
 
 // A kernel that no other could be mistaken for.

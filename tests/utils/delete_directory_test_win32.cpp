@@ -45,12 +45,40 @@ std::size_t CountInRecycleBin() {
   return SHQueryRecycleBinW(nullptr, &bin) == S_OK ? static_cast<std::size_t>(bin.i64NumItems) : 0;
 }
 
+// What a deletion that can be undone does.
+bool MoveToRecycleBin(const std::filesystem::path& path) {
+  std::wstring source = path.wstring();
+  source.push_back(L'\0');
+  SHFILEOPSTRUCTW operation{};
+  operation.wFunc = FO_DELETE;
+  operation.pFrom = source.c_str();
+  operation.fFlags = FOF_SILENT | FOF_NOCONFIRMATION | FOF_ALLOWUNDO;
+  return SHFileOperationW(&operation) == 0;
+}
+
 TEST(DeleteDirectory, NothingGoesIntoTheRecycleBin) {
   const ScratchFolder scratch;
   scratch.Write("tree/file", "x");
+  scratch.Write("undone", "x");
   const std::size_t before = CountInRecycleBin();
   EXPECT_TRUE(DeleteDirectoryW(SuiteName(scratch.Path() / "tree"), true));
   EXPECT_EQ(CountInRecycleBin(), before);
+  // The count is one that rises.
+  ASSERT_TRUE(MoveToRecycleBin(scratch.Path() / "undone"));
+  EXPECT_EQ(CountInRecycleBin(), before + 1);
+}
+
+// The shell reaches no name beyond its longest one: what the answer says is what happened.
+TEST(DeleteDirectory, SaysWhetherLongNamesStay) {
+  const ScratchFolder scratch;
+  const std::u16string tree = SuiteName(scratch.Path() / "tree");
+  std::u16string folder = u"\\\\?\\" + tree;
+  for (int i = 0; i < 5; ++i) folder += u"\\" + std::u16string(100, static_cast<char16_t>(u'a' + i));
+  ASSERT_TRUE(ForceDirectoriesW(folder));
+  ASSERT_TRUE(SaveStrAToFileW("text", folder + u"\\file.txt"));
+  const bool is_gone = DeleteDirectoryW(tree, true);
+  EXPECT_EQ(is_gone, !DirectoryExistsW(tree));
+  EXPECT_EQ(is_gone, !FileExistsW(folder + u"\\file.txt"));
 }
 
 // Makes a link to a folder by a program of the system that Wine runs on; false where there is none.

@@ -18,13 +18,14 @@ TEST(RegReadStrDef, IsTheTextOrElseTheDefault) {
   key[u"empty"] = u"";
   key[u"number"] = 7;
   key[u"bytes"] = std::vector<std::byte>(4);
+  key[u"unreadable"] = test::Unreadable();
   const platform::ScopedMachine scope(machine);
   struct Row {
     std::u16string_view value;
     std::u16string_view result;
   };
-  constexpr Row rows[] = {{u"text", u"Účetní"}, {u"TEXT", u"Účetní"}, {u"empty", u""},
-                          {u"number", u"č"},    {u"bytes", u"č"},     {u"missing", u"č"}};
+  constexpr Row rows[] = {{u"text", u"Účetní"}, {u"TEXT", u"Účetní"}, {u"empty", u""},      {u"number", u"č"},
+                          {u"bytes", u"č"},     {u"missing", u"č"},   {u"unreadable", u"č"}};
   for (const Row& row : rows) {
     EXPECT_EQ(RegReadStrDefW(RegistryRoot::CurrentUser, u"Software\\Ravo", row.value, u"č"), row.result);
     EXPECT_EQ(RegReadStrDef(RegistryRoot::CurrentUser, u"Software\\Ravo", row.value, u"č"), row.result);
@@ -66,7 +67,8 @@ TEST(SysErrorMessage, EndsBeforeStopsBlanksAndControlCharacters) {
                          {3, u"..."},
                          {4, u"No stop!"},
                          {5, u"Above the blank\x21"},
-                         {6, u"No-break blank\xA0"}};
+                         {6, u"No-break blank\xA0"},
+                         {8, u"The system cannot find the file.\r\n"}};
   machine.last_error = 1;
   const platform::ScopedMachine scope(machine);
   EXPECT_EQ(SysErrorMessageW(1), u"Soubor nebyl nalezen");
@@ -78,6 +80,7 @@ TEST(SysErrorMessage, EndsBeforeStopsBlanksAndControlCharacters) {
   EXPECT_EQ(SysErrorMessageW(5), u"Above the blank!");
   EXPECT_EQ(SysErrorMessageW(6), u"No-break blank\xA0");
   EXPECT_EQ(SysErrorMessageW(7), u"");
+  EXPECT_TRUE(SysErrorMessageW(8).ends_with(u"file"));
   EXPECT_EQ(LastSysErrorMessageW(), u"Soubor nebyl nalezen");
   EXPECT_EQ(LastSysErrorMessage(), u"Soubor nebyl nalezen");
   EXPECT_EQ(LastSysErrorMessageA(), "Soubor nebyl nalezen");

@@ -64,6 +64,25 @@ TEST(RegReadStrDef, CutsTheLastUnitOffWhateverItIs) {
   EXPECT_EQ(Read(u"long"), text);
 }
 
+// A text of the key that tells of the system, as the system itself reads it.
+std::u16string OfTheSystem(const wchar_t* value) {
+  wchar_t text[1024] = L"";
+  DWORD size = sizeof text;
+  const LSTATUS status = RegGetValueW(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\Windows NT\\CurrentVersion",
+                                      value, RRF_RT_REG_SZ, nullptr, text, &size);
+  return status == ERROR_SUCCESS ? std::u16string(text, text + size / sizeof(wchar_t) - 1) : std::u16string();
+}
+
+TEST(RegReadRegistered, AreWhatTheSystemHas) {
+  EXPECT_EQ(RegReadRegisteredOwnerW(), OfTheSystem(L"RegisteredOwner"));
+  EXPECT_EQ(RegReadRegisteredOrganizationW(), OfTheSystem(L"RegisteredOrganization"));
+  // A value that every system has, so that these two are looked for where something is.
+  EXPECT_NE(OfTheSystem(L"CurrentVersion"), u"");
+  EXPECT_EQ(RegReadStrDefW(RegistryRoot::LocalMachine, u"Software\\Microsoft\\Windows NT\\CurrentVersion",
+                           u"CurrentVersion", u""),
+            OfTheSystem(L"CurrentVersion"));
+}
+
 // The language of the calling thread for as long as this object lives.
 class ScopedThreadLocale {
  public:

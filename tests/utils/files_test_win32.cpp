@@ -88,6 +88,14 @@ TEST(SetFileDate, SetsAllThreeTimes) {
   EXPECT_TRUE(Ticks(created) >= day);
 }
 
+// Of the system that Wine runs on; Windows itself has no such device.
+TEST(FullDisk, TheDeviceThatIsAlwaysFullReportsFalse) {
+  const std::u16string name = u"Z:\\dev\\full";
+  if (!SaveStrAToFileW("", name)) GTEST_SKIP() << "no device that is always full";
+  EXPECT_FALSE(SaveStrAToFileW("x", name));
+  EXPECT_FALSE(SaveStrWToFileW(u"x", name));
+}
+
 // Names that reach a folder over the network's form of names; Wine maps its own drives under "\\?\UNC" as
 // well as "\\?\", and shares of this machine it has none.
 TEST(NetworkNames, OfAMissingServerAreNothing) {

@@ -142,6 +142,18 @@ TEST(DeleteDirectory, IsFalseForNothingAndForDrives) {
   EXPECT_TRUE(exists(scratch.Path() / "file"));
 }
 
+TEST(DeleteDirectory, HonoursNoWildcards) {
+  const ScratchFolder scratch;
+  Fill(scratch);
+  for (const std::u16string_view name : {u"\\tre?", u"\\*", u"\\t*", u"\\*.*", u"\\tree\\*"}) {
+    for (const bool with_folder : {true, false}) {
+      EXPECT_FALSE(DeleteDirectoryW(SuiteName(scratch.Path()) + std::u16string(name), with_folder));
+    }
+  }
+  EXPECT_TRUE(exists(scratch.Path() / "tree/a/b/file"));
+  EXPECT_TRUE(exists(scratch.Path() / "beside"));
+}
+
 TEST(DiskFree, IsWhatTheCallerMayStillUse) {
   const ScratchFolder scratch;
   const std::int64_t free = DiskFreeW(SuiteName(scratch.Path()));

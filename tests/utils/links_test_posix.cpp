@@ -2,8 +2,11 @@
 #include "support/suite_name.h"
 #include <ravo/DIUtils.h>
 
+#include <cstdlib>
+
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace ravo::DIUtils {
 namespace {
@@ -51,6 +54,89 @@ TEST(DeleteDirectory, OfALinkIsTheLinkAlone) {
     EXPECT_TRUE(OutsideIsWhole(scratch));
     remove_all(scratch.Path() / "tree");
   }
+}
+
+// Whoever names a folder by a link to it means the folder.
+TEST(DeleteDirectory, ContentsOfALinkAreThoseOfItsFolder) {
+  const ScratchFolder scratch;
+  FillWithLinks(scratch);
+  EXPECT_TRUE(DeleteDirectoryW(SuiteName(scratch.Path() / "tree/folder"), false));
+  EXPECT_TRUE(is_symlink(symlink_status(scratch.Path() / "tree/folder")));
+  EXPECT_TRUE(is_empty(scratch.Path() / "outside/folder"));
+  EXPECT_TRUE(is_directory(scratch.Path() / "outside/empty"));
+  EXPECT_FALSE(DeleteDirectoryW(SuiteName(scratch.Path() / "tree/nothing"), false));
+  EXPECT_FALSE(DeleteDirectoryW(SuiteName(scratch.Path() / "beside"), false));
+}
+
+TEST(DeleteDirectory, GoesAsDeepAsNamesReach) {
+  const ScratchFolder scratch;
+  std::u16string folder = SuiteName(scratch.Path() / "tree");
+  for (int i = 0; i < 200; ++i) folder += u"\\ab";
+  ASSERT_TRUE(ForceDirectoriesW(folder));
+  ASSERT_TRUE(SaveStrAToFileW("x", folder + u"\\file"));
+  EXPECT_TRUE(DeleteDirectoryW(SuiteName(scratch.Path() / "tree"), true));
+  EXPECT_TRUE(is_empty(scratch.Path()));
+}
+
+// A user without the rights of the superuser, for as long as this object lives.
+class OrdinaryUser {
+ public:
+  OrdinaryUser() : before_(geteuid()), is_ordinary_(before_ != 0 || seteuid(kNobody) == 0) {}
+  OrdinaryUser(const OrdinaryUser&) = delete;
+  OrdinaryUser& operator=(const OrdinaryUser&) = delete;
+  ~OrdinaryUser() { is_ordinary_ = seteuid(before_) == 0; }
+
+  [[nodiscard]] bool IsOrdinary() const { return is_ordinary_; }
+
+ private:
+  static constexpr uid_t kNobody = 65534;
+  uid_t before_;
+  bool is_ordinary_;
+};
+
+// What can go goes, and the answer says that something stays.
+TEST(DeleteDirectory, IsFalseForWhatTheUserMayNotDelete) {
+  const OrdinaryUser user;
+  if (!user.IsOrdinary()) GTEST_SKIP() << "this user may delete all";
+  const ScratchFolder scratch;
+  scratch.Write("tree/locked/kept", "1");
+  scratch.Write("tree/a", "2");
+  scratch.Write("tree/z", "3");
+  permissions(scratch.Path() / "tree/locked", std::filesystem::perms::owner_read);
+  EXPECT_FALSE(DeleteDirectoryW(SuiteName(scratch.Path() / "tree"), true));
+  EXPECT_FALSE(DeleteDirectoryW(SuiteName(scratch.Path() / "tree"), false));
+  EXPECT_FALSE(exists(scratch.Path() / "tree/a"));
+  EXPECT_FALSE(exists(scratch.Path() / "tree/z"));
+  permissions(scratch.Path() / "tree/locked", std::filesystem::perms::owner_all);
+  EXPECT_TRUE(exists(scratch.Path() / "tree/locked/kept"));
+}
+
+TEST(DeleteDirectory, TakesPipesAndSocketsAwayUnopened) {
+  const ScratchFolder scratch;
+  create_directory(scratch.Path() / "tree");
+  ASSERT_EQ(mkfifo((scratch.Path() / "tree/pipe").c_str(), 0600), 0);
+  EXPECT_TRUE(DeleteDirectoryW(SuiteName(scratch.Path() / "tree"), true));
+  EXPECT_TRUE(is_empty(scratch.Path()));
+}
+
+// In a process of its own, which this folder is lost to.
+int AskedInALostFolder() {
+  {
+    const ScratchFolder scratch;
+    if (!SetCurrentFolderW(SuiteName(scratch.Path()))) return 1;
+  }
+  std::string text = "before";
+  const bool asks_nothing =
+      GetCurrentFolderW().empty() && GetCurrentFolderA().empty() && GetCurrentFolder().empty();
+  const bool finds_nothing = !FileExistsW(u"file") && GetFileSizeW(u"*") == -1 &&
+                             !LoadStrAFromFileW(u"file", text) && !SaveStrAToFileW("x", u"file") &&
+                             !ForceDirectoriesW(u"folder") && !DeleteFileW(u"file") &&
+                             DiskFreeW(u"folder") == -1;
+  return asks_nothing && finds_nothing && ExpandFileNameW(u"file").empty() && text == "before" ? 0 : 2;
+}
+
+TEST(CurrentFolderDeathTest, ThatVanishedIsEmptyAndNothingIsInIt) {
+  EXPECT_EXIT(std::exit(AskedInALostFolder()), ::testing::ExitedWithCode(0), "");
 }
 
 TEST(DeleteDirectory, RefusesTheRootUnderAnyName) {

@@ -27,6 +27,14 @@ TEST(StrCompNumW, Rows) {
   EXPECT_EQ(StrCompNumW(u"a", u"B"), u'a' - u'B');
 }
 
+// The neighbours of the digits are none.
+TEST(StrCompNumW, DigitsBeginAtZeroAndEndAtNine) {
+  EXPECT_EQ(StrCompNumW(u"/9", u"/10"), -1);
+  EXPECT_EQ(StrCompNumW(u"a/", u"a:"), u'/' - u':');
+  EXPECT_EQ(StrCompNumW(u"a/9", u"a/12"), -1);
+  EXPECT_EQ(StrCompNumW(u"a 9", u"a:1"), u' ' - u':');
+}
+
 TEST(StrCompNumW, DigitsOfEveryScript) {
   EXPECT_LT(StrCompNumW(u"\u0669", u"\u0661\u0660"), 0);
   EXPECT_LT(StrCompNumW(u"a9", u"a\u0661\u0662"), 0);

@@ -66,13 +66,13 @@ TEST(StringKernels, FoldedSearchAcrossItsPieces) {
 }
 
 // Every set of kernels that this processor runs.
-class OfKernel : public testing::TestWithParam<StringKernel> {
+class StringsOfKernel : public testing::TestWithParam<StringKernel> {
  protected:
   void SetUp() override {
     if (!GetParam().runs_here()) GTEST_SKIP() << "this processor does not run it";
   }
 };
-INSTANTIATE_TEST_SUITE_P(StringKernels, OfKernel,
+INSTANTIATE_TEST_SUITE_P(Kernels, StringsOfKernel,
                          testing::ValuesIn(StringKernels().begin(), StringKernels().end()),
                          [](const auto& row) { return std::string(row.param.name); });
 
@@ -97,7 +97,7 @@ void ExpectSameLongSearch(std::mt19937& random) {
   }
 }
 
-TEST_P(OfKernel, SearchesLongTextsAsThePlainOne) {
+TEST_P(StringsOfKernel, SearchesLongTextsAsThePlainOne) {
   const ScopedStringKernel scoped(GetParam());
   std::mt19937 random(29);
   for (int round = 0; round < 3000; ++round) {
@@ -107,7 +107,7 @@ TEST_P(OfKernel, SearchesLongTextsAsThePlainOne) {
 }
 
 // One hit in a text of nothing else, at every place and so at every alignment.
-TEST_P(OfKernel, FindsAHitAtEveryPlace) {
+TEST_P(StringsOfKernel, FindsAHitAtEveryPlace) {
   const ScopedStringKernel scoped(GetParam());
   for (std::size_t size = 1; size < 700; size += 1 + size / 40) {
     std::u16string text(size, u'.');
@@ -211,7 +211,7 @@ void ExpectSameUtf8(const StringKernel& kernel, const std::string& bytes) {
             Written(EncodeUtf8Plainly, In<char16_t>(units), 3 * text.size()));
 }
 
-TEST_P(OfKernel, TreatsRandomBytesAsThePlainOne) {
+TEST_P(StringsOfKernel, TreatsRandomBytesAsThePlainOne) {
   std::mt19937 random(23);
   for (int round = 0; round < 4000; ++round) {
     std::string bytes;
@@ -224,7 +224,7 @@ TEST_P(OfKernel, TreatsRandomBytesAsThePlainOne) {
 }
 
 // Well formed for the most part, so that runs are long, with a broken piece now and then.
-TEST_P(OfKernel, TreatsTextsAsThePlainOne) {
+TEST_P(StringsOfKernel, TreatsTextsAsThePlainOne) {
   constexpr std::string_view kPieces[] = {"a",        "bc",   "č",    "ř",        "\xDF\xBF", "\xC2\x80", "€",
                                           "\xC1\xBF", "\xC4", "\x8D", "\xE2\x82", "😀",        "\xFF"};
   std::mt19937 random(31);
@@ -243,7 +243,7 @@ std::u16string Decoded(char16_t* (*decode)(std::string_view, char16_t*) noexcept
 }
 
 // Each two bytes, at each place of a vector and of the border between two.
-TEST_P(OfKernel, TreatsEveryTwoBytesAsThePlainOne) {
+TEST_P(StringsOfKernel, TreatsEveryTwoBytesAsThePlainOne) {
   for (unsigned pair = 0; pair < 0x10000; ++pair) {
     std::string bytes(36, 'a');
     const std::size_t at = pair % 35;

@@ -26,6 +26,23 @@ TEST(StrReplaceIA, Rows) {
 }
 TEST(StrReplaceIW, Rows) { EXPECT_EQ(StrReplaceIW(u"Čč", u"č", u"x"), u"xx"); }
 
+// Every pass makes more places for the next one.
+TEST(StrReplaceLoopA, EndsWithAnErrorWhereTheTextGrowsAndGrows) {
+  std::string text;
+  for (int i = 0; i < 64; ++i) text += "ab";
+  EXPECT_THROW(static_cast<void>(StrReplaceLoopA(text, "ab", "bbaa")), RangeError);
+}
+
+// It would end, but after more passes than anybody waits for.
+TEST(StrReplaceLoopW, EndsWithAnErrorAfterTooManyPasses) {
+  const std::u16string long_text = u"aaaaaaaaaaaaaaab";
+  const auto short_text = std::u16string_view(long_text).substr(6);
+  const std::u16string sorted = StrReplaceLoopW(short_text, u"ab", u"bba");
+  EXPECT_EQ(sorted.find(u'a'), 512U);
+  EXPECT_EQ(sorted.substr(512), u"aaaaaaaaa");
+  EXPECT_THROW(static_cast<void>(StrReplaceLoopW(long_text, u"ab", u"bba")), RangeError);
+}
+
 TEST(StrReplaceLoopW, UntilNothingIsLeft) {
   EXPECT_EQ(StrReplaceLoopW(u"a     b", u"  ", u" "), u"a b");
   EXPECT_EQ(StrReplaceLoopW(u"     ", u"  ", u" "), u" ");

@@ -60,6 +60,17 @@ TEST(ExtractWordStartsA, Rows) {
   EXPECT_EQ(ExtractWordStartsA("a b", 0), "");
   EXPECT_EQ(ExtractWordStartsA(" .,"), "");
 }
+// Letters, digits and "_" make words; their neighbours in ASCII do not, and bytes beyond it do.
+TEST(ExtractWordStartsA, EveryByteBelongsOrSeparates) {
+  constexpr std::string_view kWordCharacters =
+      "_0123456789abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ";
+  for (int byte = 1; byte < 256; ++byte) {
+    const char c = static_cast<char>(byte);
+    const bool belongs = byte >= 0x80 || kWordCharacters.find(c) != std::string_view::npos;
+    EXPECT_EQ(ExtractWordStartsA(std::string("x") + c + "b"), belongs ? "x" : "xb") << byte;
+  }
+}
+
 TEST(ExtractWordStartsW, Rows) {
   EXPECT_EQ(ExtractWordStartsW(u"Jan Amos Komenský"), u"JAK");
   EXPECT_EQ(ExtractWordStartsW(u"Řehoř\u00A0Čapek (ml.)"), u"ŘČm");

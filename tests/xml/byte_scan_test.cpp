@@ -47,6 +47,20 @@ TEST(FindEither, FindsEachByteAtEveryPlace) {
   }
 }
 
+TEST(Normalise, RemovesPairsAndJoinsBlanks) {
+  const std::pair<std::string, std::string> rows[] = {
+      {"", ""},         {" a", " a"},         {"  a  b ", " a b "}, {"a\r\nb", "ab"},
+      {"a\n\rb", "ab"}, {"a\n\r\nb", "a\nb"}, {"a\r\n\rb", "a\rb"}, {"a\nb\r", "a\nb\r"},
+      {"\r\n\r", "\r"}, {"\n", "\n"},         {"\n\r\n", "\n"},
+  };
+  for (const auto& [text, wanted] : rows) {
+    std::string bytes = text;
+    Normalise(bytes);
+    EXPECT_EQ(bytes, wanted) << text;
+    EXPECT_TRUE(!IsNormalised(text) || text == wanted) << text;
+  }
+}
+
 TEST(EndOfOrdinary, IsEachByteThatIsSpecialAtEveryPlace) {
   for (int byte = 0; byte < 256; ++byte) {
     for (const std::size_t place : {0U, 1U, 14U, 15U, 16U, 17U, 31U, 32U, 40U}) {

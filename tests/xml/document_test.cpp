@@ -3,6 +3,8 @@
 #include <ravo/ECXMLParser.h>
 #include <ravo/platform/file_stream.h>
 
+#include <filesystem>
+
 #include <gmock/gmock.h>
 
 namespace {
@@ -321,6 +323,18 @@ TEST(Files, AreLoadedAndSaved) {
   }
   parser.SaveToFile(folder.File(u"xsl"));
   EXPECT_EQ(FileText(folder, u"xsl"), std::string(kHead) + reference + body);
+}
+
+// A name without folder and extension is one of the current folder, and no style sheet.
+TEST(Files, MayHaveTheBarestNames) {
+  const ScratchFolder folder;
+  const std::filesystem::path before = std::filesystem::current_path();
+  std::filesystem::current_path(folder.Path());
+  TECXMLParser parser;
+  parser.SetStyleSheet(u"s.xsl");
+  parser.SaveToFile(u"xsl");
+  std::filesystem::current_path(before);
+  EXPECT_NE(FileText(folder, u"xsl").find("href=\"s.xsl\""), std::string::npos);
 }
 
 TEST(Files, AreEmptiedEvenWhereSavingIsNotAllowed) {

@@ -127,6 +127,16 @@ TEST(Delete, FreesAChild) {
   EXPECT_EQ(Names(item), u"cdex");
 }
 
+TEST(Delete, FreesAnItemListedTwiceWithItsLastListing) {
+  TXMLItem root;
+  TXMLItem* const item = Named(root, u"a");
+  item->SetParent(&root);
+  root.Delete(1);
+  EXPECT_EQ(Names(root), u"a");
+  root.Delete(0);
+  EXPECT_EQ(root.SubItemCount(), 0);
+}
+
 TEST(Move, PutsAChildElsewhere) {
   TXMLItem item;
   for (const char16_t name : std::u16string(u"abcd")) Named(item, std::u16string(1, name));
@@ -211,6 +221,16 @@ TEST(SetParent, ToNoneLeavesTheItemToTheCaller) {
   EXPECT_EQ(root.SubItemCount(), 0);
   EXPECT_EQ(Names(*item), u"b");
   delete item;
+}
+
+TEST(SetParent, ToNoneOfAnItemWithoutAnyChangesNothing) {
+  TXMLItem item;
+  item.SetParent(nullptr);
+  EXPECT_EQ(item.Parent(), nullptr);
+  TXMLItem root;
+  auto* const child = new TXMLItem;
+  child->SetParent(&root);
+  EXPECT_EQ(root.SubItems(0), child);
 }
 
 TEST(SetParent, RefusesACircle) {
@@ -313,6 +333,19 @@ TEST(TXMLItem, ReadsTheCodePageOfTheTimeItWasLoaded) {
             "<?xml version=\"1.0\" encoding=\"\" ?>\r\n  <a x=\"\xE8\x80\">\r\n    \xE8\x80\r\n  </a>\r\n");
 }
 
+// The number of a code page tells little: what its bytes are decides.
+TEST(TXMLItem, ReadsAnotherCodePageOfTheSameNumber) {
+  FakeMachine other;
+  other.code_page = platform::CurrentMachine().CodePage();
+  other.other_bytes = {{'\xE8', u'\u03B8'}};
+  TECXMLParser parser;
+  LoadRoot(parser, "<a>\xE8</a>");
+  EXPECT_EQ(parser.Root()->Text(), u"\u010D");
+  const platform::ScopedMachine scope(other);
+  LoadRoot(parser, "<a>\xE8</a>");
+  EXPECT_EQ(parser.Root()->Text(), u"\u03B8");
+}
+
 // A code page of Eastern Asia in short: a byte from 81 on and the one behind it are a character.
 class TwoByteMachine final : public FakeMachine {
  public:
@@ -362,12 +395,68 @@ TEST(TXMLItem, KeepsTextOfACodePageOfTwoBytes) {
             u"<\u8140 x=\"\u8241\">\r\n  \u8241\u8230\u0159\r\n</\u8140>\r\n");
 }
 
+TEST(TXMLItem, ReadsACodePageOfTwoBytesWhateverItsNumber) {
+  TwoByteMachine machine;
+  machine.code_page = platform::CurrentMachine().CodePage();
+  TECXMLParser parser;
+  LoadRoot(parser, "<a>\xE8\x40</a>");
+  EXPECT_EQ(parser.Root()->Text(), u"\u010D@");
+  const platform::ScopedMachine scope(machine);
+  LoadRoot(parser, "<a>\xE8\x40</a>");
+  EXPECT_EQ(parser.Root()->Text(), u"\uE840");
+}
+
 TEST(TXMLItem, KeepsHalvesOfCharactersAsTheyReadAlone) {
   const TwoByteMachine machine;
   const platform::ScopedMachine scope(machine);
   TECXMLParser parser;
   LoadRoot(parser, "<a>b\x83<c/>d&amp;amp;\x84<c/></a>");
   EXPECT_EQ(parser.Root()->Text(), u"b?\r\nd&amp;?");
+}
+
+// Tokens that leave the item they are loaded into go on in its parent.
+void LoadInto(TXMLItem& item, std::string_view text) {
+  SplitStream stream(text);
+  item.LoadFromStream(stream);
+}
+
+// What the code page lacks is there for the loader like anything else.
+TEST(LoadFromStream, GoesOnInAParentWithWideNameTextOrParams) {
+  TECXMLParser named;
+  named.Root()->SetName(u"\u03B1");
+  LoadInto(*named.Root()->New(), "</x><b>y</b>");
+  EXPECT_EQ(named.Root()->XMLItemAsString(0),
+            u"<\u03B1>\r\n  </>\r\n  <b>\r\n    y\r\n  </b>\r\n</\u03B1>\r\n");
+  TECXMLParser with_text;
+  with_text.Root()->SetText(u"\u03B1");
+  LoadInto(*with_text.Root()->New(), "</x>y");
+  EXPECT_EQ(with_text.Root()->Text(), u"\u03B1\r\ny");
+  TECXMLParser with_params;
+  with_params.Root()->Params().SetValue(u"\u03B1", u"1");
+  LoadInto(*with_params.Root()->New(), "</x><b y=\"2\">");
+  EXPECT_EQ(with_params.Root()->XMLItemName(), u"b y=\"2\"");
+}
+
+// Children that the caller added stay in front of those that are loaded, whatever room their list has.
+TEST(LoadFromStream, GoesOnInAParentWithChildren) {
+  for (std::size_t added = 1; added <= 9; ++added) {
+    TECXMLParser parser;
+    LoadRoot(parser, "<r><a/></r>");
+    TXMLItem* const parent = parser.Root()->SubItems(0);
+    for (std::size_t i = 0; i < added; ++i) Named(*parent, u"n");
+    LoadInto(*parent->SubItems(0), "<k/></m><x/><y/>");
+    EXPECT_EQ(Names(*parent), std::u16string(added - 1, u'n') + u"xy");
+    EXPECT_EQ(Names(*parent->SubItems(0)), u"k");
+    EXPECT_EQ(parent->SubItems(parent->SubItemCount() - 1)->Parent(), parent);
+  }
+}
+
+TEST(LoadFromTokenizer, WithoutADocumentPassesOverItsHeader) {
+  TXMLItem item;
+  SplitStream stream("<?xml version=\"1.0\" encoding=\"x\" ?><a>b</a>");
+  ECXMLTokenizer::TXMLTokenizer tokenizer(stream);
+  item.LoadFromTokenizer(tokenizer);
+  EXPECT_EQ(item.XMLItemAsString(0), u"<a>\r\n  b\r\n</a>\r\n");
 }
 
 TEST(TXMLItem, WithDataIsLoadedAgain) {

@@ -1,3 +1,4 @@
+#include "support/tried.h"
 #include "xml_text.h"
 #include <ravo/ECXMLParser.h>
 #include <ravo/platform/file_stream.h>
@@ -87,6 +88,7 @@ TEST(Samples, LoadAlikeAtEverySplit) {
       SplitStream stream(bytes, SIZE_MAX, split);
       parser.LoadFromStream(stream);
       ASSERT_EQ(Saved(parser), wanted) << ToUtf8(sample.file) << " split at " << split;
+      Tried("splits", 1);
     }
   }
 }

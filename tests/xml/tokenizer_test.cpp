@@ -2,6 +2,7 @@
 #include "support/fake_machine.h"
 #include "support/fake_stream.h"
 #include "support/guarded_buffer.h"
+#include "support/tried.h"
 #include <ravo/ECXMLTokenizer.h>
 
 #include <gmock/gmock.h>
@@ -80,6 +81,7 @@ TEST(TXMLTokenizer, ReadsAlikeAtEverySplit) {
       EXPECT_EQ(TokensOf(two), row.tokens) << row.title << " split at " << split;
       SplitStream pieces(row.text, split);
       EXPECT_EQ(TokensOf(pieces), row.tokens) << row.title << " in pieces of " << split;
+      Tried("splits", 2);
     }
   }
 }
@@ -331,6 +333,7 @@ TEST(TXMLLargeTokenizer, ReadsAlikeAtEverySplit) {
   for (std::size_t split = 1; split < text.size(); ++split) {
     SplitStream stream(text, SIZE_MAX, split);
     EXPECT_EQ(TokensOf<TXMLLargeTokenizer>(stream), wanted);
+    Tried("splits", 1);
   }
 }
 

@@ -1,5 +1,6 @@
 #include "documents.h"
 #include "plain_tree.h"
+#include "support/tried.h"
 #include "xml_text.h"
 #include <ravo/ECXMLParser.h>
 
@@ -94,6 +95,7 @@ TEST(LoadFromTokenizer, LoadsAlikeAtEverySplit) {
         EXPECT_TRUE(wanted.failed);
       }
       EXPECT_EQ(parser.Root()->XMLItemAsString(2), wanted.text) << document << " split at " << split;
+      Tried("splits", 1);
     }
   }
 }
@@ -105,6 +107,7 @@ TEST(LoadFromTokenizer, LoadsAlikeAtEveryPlaceOfTheEdge) {
       const std::string blanks(kEdge - before - 1, ' ');
       const std::string all = blanks + "\n" + document;
       EXPECT_EQ(ByTree(all, true, false), ByPlainRules(all, true)) << document << ", " << before;
+      Tried("places_at_the_edge_of_a_buffer", 1);
     }
   }
 }

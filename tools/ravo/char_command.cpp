@@ -74,7 +74,8 @@ std::string Codes(std::u16string_view units) {
 
 std::string Hex(const std::vector<std::uint8_t>& bytes) {
   std::string text;
-  for (const std::uint8_t byte : bytes) text += (text.empty() ? "" : " ") + utils::IntToHexA(std::int32_t{byte}, 2);
+  for (const std::uint8_t byte : bytes)
+    text += (text.empty() ? "" : " ") + utils::IntToHexA(std::int32_t{byte}, 2);
   return text;
 }
 
@@ -118,7 +119,8 @@ std::u16string Units(const std::string& word) {
 // A line for each sequence of bytes, with all encodings that share it.
 std::string TextOfBytes(const Json& by_encoding) {
   Json shared = Json::object();
-  for (const auto& [encoding, bytes] : by_encoding.items()) shared[bytes.get<std::string>()].push_back(encoding);
+  for (const auto& [encoding, bytes] : by_encoding.items())
+    shared[bytes.get<std::string>()].push_back(encoding);
   std::string text;
   for (const auto& [bytes, encodings] : shared.items()) {
     text += "bytes\t" + bytes + "\t";
@@ -165,7 +167,8 @@ constexpr const char* kFooter =
 }  // namespace
 
 void AddCharCommand(CLI::App& program, Outcome& outcome) {
-  CLI::App* command = program.add_subcommand("char", "Tells category, class, mappings, decompositions and bytes in every encoding");
+  CLI::App* command = program.add_subcommand(
+      "char", "Tells category, class, mappings, decompositions and bytes in every encoding");
   const auto options = std::make_shared<CharOptions>();
   command->add_option("CHARACTER", options->characters, "Characters, or U+ and a hexadecimal number")
       ->required();

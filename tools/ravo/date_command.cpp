@@ -150,7 +150,8 @@ constexpr const char* kFooter =
 }  // namespace
 
 void AddDateCommand(CLI::App& program, Outcome& outcome) {
-  CLI::App* command = program.add_subcommand("date", "Steps accounting periods and writes SQL dates");
+  CLI::App* command =
+      program.add_subcommand("date", "Tells about a day, steps periods, draws months, lists holidays");
   const auto options = std::make_shared<DateOptions>();
   command->add_option("DATE", options->date, "YYYY-MM-DD, with a time HH:MM:SS.mmm if wanted")
       ->required()

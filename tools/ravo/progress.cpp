@@ -12,9 +12,10 @@ constexpr auto kPatience = std::chrono::seconds(1);
 constexpr auto kPace = std::chrono::milliseconds(100);
 constexpr std::size_t kWidth = 30;
 
+// A count where the whole is not known.
 std::string Bar(std::int64_t done, std::int64_t whole) {
-  const double share =
-      whole > 0 ? std::min(1.0, static_cast<double>(done) / static_cast<double>(whole)) : 0.0;
+  if (whole <= 0) return std::to_string(done);
+  const double share = std::min(1.0, static_cast<double>(done) / static_cast<double>(whole));
   const auto filled = static_cast<std::size_t>(share * static_cast<double>(kWidth));
   return "[" + std::string(filled, '#') + std::string(kWidth - filled, '.') + "] " +
          std::to_string(static_cast<int>(share * 100)) + " %";

@@ -6,8 +6,8 @@
 
 namespace tool {
 
-/// A progress bar on standard error, shown only on a terminal and only once the work has taken a second; gone
-/// when the object goes.
+/// A progress bar on standard error, or a count where the whole is not known; shown only on a terminal and
+/// only once the work has taken a second; gone when the object goes.
 class Progress {
  public:
   /// `whole` is the amount of work, in whatever unit `Show` counts; 0 where it is not known.

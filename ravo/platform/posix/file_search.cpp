@@ -1,18 +1,13 @@
 #include <ravo/platform/posix/file_search.h>
+#include <ravo/platform/posix/open_folder.h>
 #include <ravo/runtime/text.h>
 
 #include <algorithm>
-#include <memory>
 
-#include <dirent.h>
 #include <sys/stat.h>
 
 namespace ravo::platform::posix {
 namespace {
-
-struct CloseFolder {
-  void operator()(DIR* folder) const noexcept { closedir(folder); }
-};
 
 bool Exists(const std::string& path) {
   struct stat facts {};
@@ -21,7 +16,7 @@ bool Exists(const std::string& path) {
 
 // The least of the matching names; empty where there is none.
 std::string FirstMatch(const std::string& folder, std::u16string_view pattern) {
-  const std::unique_ptr<DIR, CloseFolder> open(opendir(folder.empty() ? "." : folder.c_str()));
+  const OpenFolder open(opendir(folder.empty() ? "." : folder.c_str()));
   std::string first;
   while (const dirent* entry = open ? readdir(open.get()) : nullptr) {
     const std::string_view name = entry->d_name;

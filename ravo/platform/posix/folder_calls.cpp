@@ -1,4 +1,5 @@
 #include <ravo/platform/posix/attributes.h>
+#include <ravo/platform/posix/folder_deletion.h>
 #include <ravo/platform/posix/paths.h>
 #include <ravo/platform/posix/posix_file_system.h>
 #include <ravo/runtime/text.h>
@@ -6,6 +7,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -21,25 +23,15 @@ std::string WithoutDelimiters(std::string path) {
 }
 
 bool IsRoot(const std::string& path) {
-  std::error_code error;
-  return std::filesystem::equivalent(path, "/", error) && !error;
+  struct stat facts {};
+  struct stat root {};
+  if (stat(path.c_str(), &facts) != 0 || stat("/", &root) != 0) return false;
+  return facts.st_dev == root.st_dev && facts.st_ino == root.st_ino;
 }
 
-// The library's removal opens each folder without following links.
-bool DeleteTree(const std::filesystem::path& path) {
-  std::error_code error;
-  return std::filesystem::remove_all(path, error) != static_cast<std::uintmax_t>(-1) && !error;
-}
-
-bool DeleteContents(const std::string& folder) {
-  std::error_code error;
-  std::vector<std::filesystem::path> names;
-  for (std::filesystem::directory_iterator at(folder, error), end; !error && at != end; at.increment(error)) {
-    names.push_back(at->path());
-  }
-  bool is_empty = !error;
-  for (const auto& name : names) is_empty = DeleteTree(name) && is_empty;
-  return is_empty;
+bool IsThere(const std::string& path) {
+  struct stat facts {};
+  return lstat(path.c_str(), &facts) == 0;
 }
 
 }  // namespace
@@ -69,11 +61,10 @@ bool PosixFileSystem::CreateFolder(std::u16string_view folder) const {
 bool PosixFileSystem::DeleteFolder(std::u16string_view folder, FolderPart part) const {
   const auto path = HostPath(folder, root_);
   if (!path || path->empty() || IsRoot(*path)) return false;
-  if (part == FolderPart::Contents) return DeleteContents(*path);
+  if (part == FolderPart::Contents)
+    return DeleteEntriesOf(open(path->c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   const std::string itself = WithoutDelimiters(*path);
-  std::error_code error;
-  const auto kind = std::filesystem::symlink_status(itself, error).type();
-  return kind != std::filesystem::file_type::not_found && !error && DeleteTree(itself);
+  return IsThere(itself) && DeleteEntry(AT_FDCWD, itself.c_str());
 }
 
 bool PosixFileSystem::RemoveFile(std::u16string_view name) const {

@@ -1,3 +1,4 @@
+#include <ravo/platform/win32/drive_name.h>
 #include <ravo/platform/win32/folder_links.h>
 #include <ravo/platform/win32/wide.h>
 #include <ravo/platform/win32/win32_file_system.h>
@@ -52,9 +53,10 @@ bool Win32FileSystem::CreateFolder(std::u16string_view folder) const {
 
 bool Win32FileSystem::DeleteFolder(std::u16string_view folder, FolderPart part) const {
   auto name = SystemName(folder);
-  if (!name || name->empty()) return false;
-  // The shell finds nothing to fail at in a folder that is not there.
-  if (part == FolderPart::Contents && !Attributes(folder)) return false;
+  // The shell finds nothing to fail at in a folder that is not there, and would look for names with
+  // wildcards.
+  if (!name || !Attributes(folder)) return false;
+  if (part == FolderPart::Whole && IsDriveName(*name)) return false;
   if (part == FolderPart::Whole && IsFolderLink(*name)) return RemoveDirectoryW(name->c_str()) != 0;
   if (!RemoveFolderLinks(*name)) return false;
   if (part == FolderPart::Contents) name->append(name->ends_with(L'\\') ? L"*" : L"\\*");

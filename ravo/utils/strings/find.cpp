@@ -171,8 +171,7 @@ std::size_t FindInFolded(View<char16_t> search, View<char16_t> text, std::size_t
   return kNone;
 }
 
-template <class Char>
-bool AreEndsKnown(View<Char> search) {
+bool AreEndsKnown(View<char16_t> search) {
   return !search.empty() && AreVariantsKnown(search.front()) && AreVariantsKnown(search.back());
 }
 

@@ -45,6 +45,5 @@ inline constexpr char16_t kLastWithKnownVariants = 0x17F;
 [[nodiscard]] inline bool AreVariantsKnown(char16_t c) noexcept {
   return Folded::Of(c) <= kLastWithKnownVariants;
 }
-[[nodiscard]] constexpr bool AreVariantsKnown(char) noexcept { return true; }
 
 }  // namespace ravo::strings

@@ -25,7 +25,8 @@ template <class Fold, class Char>
 String<Char> Replaced(View<Char> text, View<Char> search, View<Char> replacement) {
   String<Char> result;
   std::size_t at = Find<Fold>(search, text, 0);
-  if (at != kNone) result.reserve(text.size());
+  // With some room for what gets longer, so that few texts move.
+  if (at != kNone) result.reserve(text.size() + (replacement.size() > search.size() ? text.size() / 8 : 0));
   std::size_t copied = 0;
   for (; at != kNone; at = Find<Fold>(search, text, copied)) {
     result.append(text.data() + copied, at - copied).append(replacement);

@@ -1,3 +1,4 @@
+#include "hostapi/raised.h"
 #include "registration_win32.h"
 #include "served_calls.h"
 #include "server_names_win32.h"
@@ -19,6 +20,8 @@ using RavoProfileInfo_TLB::CoRavoProfileInformation;
 using RavoProfileInfo_TLB::CoRavoProfileModule;
 using RavoZip_TLB::CLASS_RavoZipper;
 using RavoZip_TLB::CoRavoZipper;
+using test::Raised;
+using test::RaisedBy;
 
 constexpr auto kKeyMissing = static_cast<ResultCode>(0x80040152);
 constexpr auto kFileNotFound = static_cast<ResultCode>(0x80070002);
@@ -26,21 +29,6 @@ constexpr auto kModuleNotFound = static_cast<ResultCode>(0x8007007E);
 
 constexpr const wchar_t* kLibrary = L"component_server.dll";
 constexpr const wchar_t* kProgram = L"component_server_program.exe";
-
-struct Raised {
-  ResultCode code = 0;
-  std::u16string text;
-};
-
-template <class Creation>
-Raised RaisedBy(Creation creation) {
-  try {
-    static_cast<void>(creation());
-  } catch (const ComponentError& error) {
-    return {error.Code(), error.Message()};
-  }
-  return {};
-}
 
 class Servers : public testing::Test {
  protected:

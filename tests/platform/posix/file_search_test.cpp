@@ -1,6 +1,8 @@
 #include "support/scratch_folder.h"
 #include <ravo/platform/posix/file_search.h>
 
+#include <filesystem>
+
 #include <gtest/gtest.h>
 
 namespace ravo::platform::posix {
@@ -46,6 +48,19 @@ TEST(FirstFound, TheNameItselfComesBeforeThePattern) {
   EXPECT_EQ(FirstFound(path + "c*"), std::nullopt);
   EXPECT_EQ(FirstFound(path), std::nullopt);
   EXPECT_EQ(FirstFound(""), std::nullopt);
+}
+
+TEST(FirstFound, WithoutAFolderLooksInTheCurrentOne) {
+  const test::ScratchFolder folder;
+  folder.Write("b1", "");
+  folder.Write("b0", "");
+  const std::filesystem::path before = std::filesystem::current_path();
+  std::filesystem::current_path(folder.Path());
+  const auto found = FirstFound("b?");
+  const auto missing = FirstFound("c?");
+  std::filesystem::current_path(before);
+  EXPECT_EQ(found, "b0");
+  EXPECT_EQ(missing, std::nullopt);
 }
 
 }  // namespace

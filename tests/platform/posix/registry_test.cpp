@@ -63,6 +63,16 @@ TEST(PosixMachineRegistry, TheSystemNamesItself) {
   EXPECT_EQ(machine.OpenKey(RegistryRoot::LocalMachine, kSystem)->Text(u"version"), u"Účetní systém");
 }
 
+TEST(PosixMachineRegistry, BothKeysOfTheSystemAreTheSame) {
+  const test::ScratchFolder folder;
+  folder.Write("etc/os-release", "PRETTY_NAME=system\n");
+  const PosixMachine machine(folder.Path().string());
+  for (const std::u16string_view key : {u"SOFTWARE\\Microsoft\\Windows\\CurrentVersion",
+                                        u"SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion"}) {
+    EXPECT_EQ(machine.OpenKey(RegistryRoot::LocalMachine, key)->Text(u"Version"), u"system");
+  }
+}
+
 TEST(PosixMachineRegistry, TheOwnerIsTheUser) {
   const auto key = MakeKey(SystemValues("/nowhere-at-all", "Jan Novák"));
   ASSERT_TRUE(key);

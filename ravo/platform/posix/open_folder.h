@@ -1,0 +1,16 @@
+#pragma once
+
+#include <memory>
+
+#include <dirent.h>
+
+namespace ravo::platform::posix {
+
+struct CloseFolder {
+  void operator()(DIR* folder) const noexcept { closedir(folder); }
+};
+
+/// A folder that is being read; null where it cannot be opened.
+using OpenFolder = std::unique_ptr<DIR, CloseFolder>;
+
+}  // namespace ravo::platform::posix

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <ravo/runtime/component.h>
+#include <ravo/runtime/error.h>
+
+#include <string>
+
+namespace ravo::test {
+
+/// What a creation of a component raises; a code of 0 where it raises nothing.
+struct Raised {
+  ResultCode code = 0;
+  std::u16string text;
+};
+
+template <class Creation>
+[[nodiscard]] Raised RaisedBy(const Creation& creation) {
+  try {
+    static_cast<void>(creation());
+  } catch (const ComponentError& error) {
+    return {error.Code(), error.Message()};
+  }
+  return {};
+}
+
+}  // namespace ravo::test

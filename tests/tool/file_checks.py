@@ -1,0 +1,230 @@
+"""Files that `ravo` reads and writes, and where it writes to: reports, sums, conversions, tables, sorted lines."""
+
+import json
+import os
+import pathlib
+import subprocess
+import zlib
+
+from harness import NO, WRONG_USAGE, YES, Row
+
+
+def outline(nodes, depth=0):
+    """Depth, caption and whether there is a value, line by line, from the report's JSON."""
+    for node in nodes:
+        yield depth, node["caption"], "value" in node
+        yield from outline(node.get("items", []), depth + 1)
+
+
+def outline_of_text(report):
+    for line in report.splitlines():
+        depth = len(line) - len(line.lstrip("\t"))
+        caption, separator, _ = line[depth:].partition(": ")
+        yield depth, caption, bool(separator)
+
+
+def check_report_json(program):
+    """The JSON of the report has every line of its text: at its depth, in its order."""
+    for layer in ([], ["--business"]):
+        text = list(outline_of_text(program.run(["report", *layer]).out))
+        nested = list(outline(json.loads(program.run(["report", "--json", *layer]).out)))
+        if text != nested:
+            yield f"report {layer}: lines and JSON differ: {set(text) ^ set(nested)}"
+        # What every machine has, even one without disks and without a file of the suite.
+        if len(text) < 35:
+            yield f"report {layer}: only {len(text)} lines"
+
+
+def check_report_file(program):
+    """A report in a file keeps its CR LF, replaces what was there, and leaves nothing beside it."""
+    name = "zpráva o počítači.txt"
+    file = program.folder / name
+    for before in (None, "an older, longer text" * 1000):
+        if before:
+            file.write_text(before, encoding="utf-8")
+        result = program.run(["report", "-o", name])
+        if (result.status, result.out, result.err) != (YES, "", ""):
+            yield f"report -o {name}: {result}"
+        content = file.read_bytes()
+        if not content.startswith("Informace o klientské vrstvě\r\n\tČasové".encode()):
+            yield f"report -o {name}: begins with {content[:60]!r}"
+        if content.count(b"\r\n") != content.count(b"\n") or not content.endswith(b"\r\n"):
+            yield f"report -o {name}: a line does not end in CR LF"
+    program.run(["report", "--json", "-o", name])
+    json.loads(file.read_bytes().decode("utf-8"))
+    if left := [path.name for path in program.folder.iterdir() if path != file]:
+        yield f"report -o {name}: left {left} beside it"
+
+
+def check_sums(program):
+    """Sums of files of any size are zlib's, and a list of them checks until a file changes."""
+    contents = {"prázdný": b"", "check 1": b"123456789", "large": bytes(range(251)) * 3000}
+    for name, content in contents.items():
+        (program.folder / name).write_bytes(content)
+    result = program.run(["hash", "crc32", *contents])
+    wanted = "".join(f"{zlib.crc32(content):08X}  {name}\n" for name, content in contents.items())
+    if (result.status, result.out, result.err) != (YES, wanted, ""):
+        yield f"hash crc32: {result}"
+    for words in (["hash", "crc32"], ["hash", "crc32", "-"]):
+        result = program.run(words, given="large")
+        if (result.status, result.out, result.err) != (YES, f"{zlib.crc32(contents['large']):08X}  -\n", ""):
+            yield f"hash of standard input: {result}"
+    labelled = program.run(["hash", "--all", "check 1"]).out
+    if labelled != "CRC32 (check 1) = CBF43926\nHASH (check 1) = 4BF83526\nHASH-IA (check 1) = 4BF83526\n":
+        yield f"hash --all: {labelled!r}"
+    if json.loads(program.run(["hash", "--all", "--json", "large"]).out)[0]["crc32"] != zlib.crc32(contents["large"]):
+        yield "hash --json: another sum"
+    sums = program.folder / "list.sum"
+    all_right = "".join(f"{name}: OK\n" for name in contents)
+    for text in (wanted, wanted.lower().replace("  ", " *"), "# sums\n\n" + wanted.replace("\n", "\r\n")):
+        sums.write_text(text, encoding="utf-8", newline="")
+        result = program.run(["hash", "crc32", "--check", "list.sum"])
+        if (result.status, result.out, result.err) != (YES, all_right, ""):
+            yield f"hash --check {text!r}: {result}"
+    result = program.run(["hash", "crc32", "--check", "-"], given="list.sum")
+    if (result.status, result.out, result.err) != (YES, all_right, ""):
+        yield f"hash --check of a list from standard input: {result}"
+    sums.write_text(labelled + "nonsense\n", encoding="utf-8")
+    result = program.run(["hash", "--check", "list.sum"])
+    if (result.status, result.out) != (NO, "check 1: OK\n" * 3) or "1 lines are no sums" not in result.err:
+        yield f"hash --check with a line too many: {result}"
+    sums.write_text(wanted + "CBF43926  gone\n", encoding="utf-8")
+    (program.folder / "check 1").write_bytes(b"123456788")
+    result = program.run(["hash", "crc32", "--check", "list.sum"])
+    if result.status != NO or result.out != "prázdný: OK\ncheck 1: FAILED\nlarge: OK\ngone: FAILED open or read\n":
+        yield f"hash --check after a change: {result}"
+    if "1 sums do NOT match" not in result.err or "1 listed files could not be read" not in result.err:
+        yield f"hash --check after a change: {result.err!r}"
+    sums.write_text("nonsense\n", encoding="utf-8")
+    if program.run(["hash", "crc32", "--check", "list.sum"]).status != WRONG_USAGE:
+        yield "hash --check without a sum: no failure"
+    for name in (*contents, "list.sum"):
+        (program.folder / name).unlink()
+
+
+def check_conversions(program):
+    """Texts come out in the other encoding; what cannot be read or written ends it, and an old file stays."""
+    source, target = program.folder / "příliš.txt", program.folder / "cíl.txt"
+    text = "Příliš žluťoučký kůň\r\n" * 1000
+
+    def convert(*options, content, status=YES):
+        """What stands in the target; the old bytes are "old"."""
+        source.write_bytes(content)
+        target.write_bytes(b"old")
+        result = program.run(["convert", *options, source.name, "-o", target.name])
+        if (result.status, result.out, bool(result.err)) != (status, "", status != YES):
+            return repr(result).encode()
+        return target.read_bytes() if status == YES else target.read_bytes() + result.err.encode()
+
+    marked = "\ufeffa\nbč"
+    rows = [
+        (("-f", "windows-1250", "-t", "UTF_8"), text.encode("cp1250"), text.encode()),
+        (("-f", "utf-8", "-t", "1250"), text.encode(), text.encode("cp1250")),
+        (("-f", "utf8", "-t", "utf-7"), "kůň".encode(), "kůň".encode("utf-7")),
+        (("-f", "utf8", "-t", "utf-16be"), text.encode(), text.encode("utf-16-be")),
+        *[(("-f", "auto", "-t", "1250"), marked.encode(codec), marked[1:].encode("cp1250"))
+          for codec in ("utf-8", "utf-16-le", "utf-16-be", "utf-32-le", "utf-32-be")],
+        (("-f", "auto", "-t", "1250"), "č".encode(), b"\xe8"),
+        (("-f", "utf-8", "-t", "1250", "--replace", "!"), "a\u4e00č\U0001f600".encode(), b"a!\xe8!"),
+        (("-f", "utf-8", "-t", "1250", "--replace", "\u4e00"), "\u4e00".encode(), b"?"),
+        (("-f", "utf-16be", "-t", "utf-8", "--replace", "?"), b"\0a\xdc\0\0b", "a\ufffdb".encode()),
+    ]
+    for options, content, wanted in rows:
+        if (got := convert(*options, content=content)) != wanted:
+            yield f"convert {' '.join(options)}: {got[:300]!r}, not {wanted[:60]!r}"
+    refused = [
+        (("-f", "utf-8", "-t", "1250"), "ab\nc\u4e00".encode(), "2:2: U+4E00 cannot be written in Windows_1250"),
+        (("-f", "utf-8", "-t", "1250"), text.encode() + "\u4e00".encode(), "1001:1: U+4E00"),
+        (("-f", "utf-8", "-t", "utf-8"), b"a\xff", "1:2: bytes that cannot be read"),
+        (("-f", "utf-16be", "-t", "utf-8"), b"\0a\xdc\0\0b", "1:1: bytes that cannot be read after this character"),
+    ]
+    for options, content, told in refused:
+        got = convert(*options, content=content, status=NO).decode()
+        if not got.startswith("old") or told not in got or source.name not in got:
+            yield f"convert {' '.join(options)}: {got!r}"
+    source.write_bytes("č".encode("cp1250"))
+    several = program.run(["convert", "-f", "1250", "-t", "utf-8", source.name, "-", source.name])
+    if (several.status, several.out, several.err) != (YES, "čč", ""):
+        yield f"convert of two files and standard input: {several}"
+    program.run(["convert", "-f", "1250", "-t", "utf-8", source.name, "-o", source.name])
+    if source.read_bytes() != "č".encode():
+        yield "convert of a file onto itself: another text"
+    away = program.run(["convert", "-f", "1250", "-t", "utf-8", source.name, "-o", "nowhere/x"])
+    if away.status != WRONG_USAGE or "nowhere/x: cannot be written" not in away.err:
+        yield f"convert into a folder that is not there: {away}"
+    source.unlink()
+    target.unlink()
+    if left := [path.name for path in program.folder.iterdir() if path.name.startswith(("cíl", "příliš"))]:
+        yield f"convert: left {left}"
+
+
+def check_full_device(program):
+    """Output that cannot be written is no success."""
+    if program.emulated or not pathlib.Path("/dev/full").exists():
+        return
+    with open("/dev/full", "wb") as full:
+        result = program.run(["table", "10110"], out=full)
+    if result.status != WRONG_USAGE or not result.err:
+        yield f"table 10110 >/dev/full: {result}"
+    if program.run(["report", "-o", "/dev/full"]).status != WRONG_USAGE:
+        yield "report -o /dev/full: no failure"
+    if not pathlib.Path("/dev/full").is_char_device():
+        yield "report -o /dev/full: the device is gone"
+
+
+def check_colours(program):
+    """The tour is coloured on a terminal that shows colours, and on no other."""
+    if len(program.command) > 1 or not hasattr(os, "openpty"):
+        return
+    for kind, coloured in (("xterm", True), ("dumb", False)):
+        own, terminal = os.openpty()
+        with os.fdopen(own, "rb", buffering=0) as reader:
+            child = subprocess.Popen(program.command + ["tour"], stdin=subprocess.DEVNULL, stdout=terminal, env={**os.environ, "TERM": kind})
+            os.close(terminal)
+            shown = b""
+            try:
+                while piece := reader.read(4096):
+                    shown += piece
+            except OSError:  # the other end of a terminal is gone
+                pass
+            child.wait(timeout=60)
+        if (b"\033[32m$ ravo table" in shown) != coloured or b"Pohled" not in shown:
+            yield f"tour on a terminal of kind {kind}: {shown[:200]!r}"
+
+
+def check_damaged_files(program):
+    """A file that is no table names the line at which it stops being one."""
+    file = program.folder / "účty.csv"
+    for content, told in (
+        (b'VS\n1\n"2', "line 3: a quote is never closed"),
+        (b'VS;X\n"0"0;1\n', "line 2: text behind a closing quote"),
+        (b"VS;X\n0;1\n0;1;2\n", "line 3: 3 fields, not 2"),
+        (b"", "no first row"),
+    ):
+        file.write_bytes(content)
+        row = Row(["check", "--csv", file.name, "--column", "VS=vs"], WRONG_USAGE, exact="", err=(file.name, told))
+        yield from program.failures(row)
+    file.write_bytes(b"VS,X\r\n0,\"a\r\nb\"\r\n1,c\r\n")
+    yield from program.failures(
+        Row(["check", "--csv", file.name, "--column", "VS=vs"], NO, silent=True, out=("line 4\tVS\t1\n", "2 rows\n")))
+    file.unlink()
+
+
+def check_sorted_files(program):
+    """Lines of files come out sorted, numbers by value where that is wanted, even where that order has circles."""
+    (program.folder / "utf8.txt").write_bytes("účet10\r\nÚčet9\nfile10\nfile9".encode())
+    (program.folder / "ansi.txt").write_bytes("účet9\n".encode("cp1250"))
+    (program.folder / "circle.txt").write_bytes(b"105\n20\n15\n105\n15\n20\n")
+    rows = [
+        (["utf8.txt", "ansi.txt"], "file10\nfile9\nÚčet9\núčet10\núčet9\n"),
+        (["--natural", "utf8.txt", "ansi.txt"], "file9\nfile10\nÚčet9\núčet9\núčet10\n"),
+        (["--natural", "--ignore-case", "utf8.txt", "ansi.txt"], "file9\nfile10\nÚčet9\núčet9\núčet10\n"),
+    ]
+    for arguments, wanted in rows:
+        result = program.run(["sort", *arguments])
+        if (result.status, result.out) != (YES, wanted):
+            yield f"sort {arguments}: {result}"
+    if sorted(program.run(["sort", "--natural", "circle.txt"]).out.split()) != ["105", "105", "15", "15", "20", "20"]:
+        yield "sort --natural: lines are lost where the order has circles"
+    for name in ("utf8.txt", "ansi.txt", "circle.txt"):
+        (program.folder / name).unlink()

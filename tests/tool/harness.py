@@ -1,0 +1,104 @@
+"""What the tests of the command-line program share: a command line with what must come of it, and the program itself."""
+
+import json
+import os
+import re
+import subprocess
+import tempfile
+from dataclasses import dataclass
+from typing import Callable, Optional
+
+YES, NO, WRONG_USAGE, SKIPPED = 0, 1, 2, 77
+
+# The emulator's host of drivers may fall as a session starts, on a busy machine, and says so where the program writes.
+# Where the program itself falls, its exit status tells.
+EMULATOR_FALL = re.compile(r"^wine: Unhandled page fault .* starting debugger\.\.\.\r?\n", re.MULTILINE)
+
+
+@dataclass
+class Row:
+    """A command line and what must come of it. Texts are looked for; `exact` is the whole standard output."""
+
+    arguments: list
+    status: int = YES
+    out: tuple = ()
+    exact: Optional[str] = None
+    err: tuple = ()
+    # Gives a remark about what is wrong, or something false.
+    holds: Optional[Callable[[str], object]] = None
+    # A no that is said on standard output alone.
+    silent: bool = False
+
+
+@dataclass
+class Result:
+    status: int
+    out: str
+    err: str
+
+
+class Program:
+    def __init__(self, command, folder):
+        self.command, self.folder = command, folder
+        self.emulated = len(command) > 1
+
+    def run(self, arguments, out=None, given=None):
+        """`given` is the name of a file that is standard input."""
+        # Into files: the servers that an emulator leaves behind would hold pipes open for seconds.
+        source = self.folder / given if given else os.devnull
+        with open(source, "rb") as own_in, tempfile.TemporaryFile() as own_out, tempfile.TemporaryFile() as err:
+            done = subprocess.run(
+                self.command + arguments, cwd=self.folder, stdin=own_in, stdout=out or own_out, stderr=err, timeout=300
+            )
+            texts = []
+            for file in (own_out, err):
+                file.seek(0)
+                texts.append(file.read().decode("utf-8"))  # bytes that are no UTF-8 end the test here
+        return Result(done.returncode, texts[0], EMULATOR_FALL.sub("", texts[1]) if self.emulated else texts[1])
+
+    def failures(self, row):
+        result = self.run(row.arguments)
+        wrong = []
+        if result.status != row.status:
+            wrong.append(f"status {result.status}, not {row.status}")
+        wrong += [f"standard output lacks {text!r}" for text in row.out if text not in result.out]
+        wrong += [f"standard error lacks {text!r}" for text in row.err if text not in result.err]
+        if row.exact is not None and result.out != row.exact:
+            wrong.append(f"standard output is not {row.exact!r}")
+        if "\r" in result.out + result.err:
+            wrong.append("a carriage return in the output")
+        if row.status == YES and result.err:
+            wrong.append("something on standard error")
+        if row.silent and result.err:
+            wrong.append("something on standard error")
+        if row.status != YES and not row.silent and not result.err:
+            wrong.append("nothing on standard error")
+        if row.holds and (remark := row.holds(result.out)):
+            wrong.append(str(remark))
+        shown = f"\n  standard output: {result.out[:600]!r}\n  standard error: {result.err[:600]!r}"
+        return [f"ravo {' '.join(row.arguments)}: {remark}{shown}" for remark in wrong]
+
+
+def as_json(check):
+    """A `holds` over the parsed standard output."""
+
+    def holds(out):
+        try:
+            value = json.loads(out)
+        except ValueError as error:
+            return f"no JSON: {error}"
+        return check(value)
+
+    return holds
+
+
+def differs(wanted):
+    return as_json(lambda value: value != wanted and f"is not {wanted!r}")
+
+
+def lines(count):
+    return lambda out: out.count("\n") != count and f"{out.count(chr(10))} lines, not {count}"
+
+
+def without(text):
+    return lambda out: text in out and f"contains {text!r}"
