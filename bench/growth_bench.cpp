@@ -125,7 +125,7 @@ std::string LastThatRuns(const Kernels& kernels) {
 int main(int argc, char** argv) {
   benchmark::AddCustomContext("kernels", "CRC-32 " + LastThatRuns(utils::Crc32Kernels()) + ", strings " +
                                              LastThatRuns(strings::StringKernels()) + ", encodings " +
-                                             LastThatRuns(DIUnicode::Utf8Kernels()));
+                                             LastThatRuns(DIUnicode::RunKernels()));
   for (const std::size_t times : kTimes) {
     Register("XML: load and free, a byte", times, XmlLoad);
     Register("XML: save, a byte", times, XmlSave);
