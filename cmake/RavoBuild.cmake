@@ -14,13 +14,19 @@ function(ravo_own_target target)
   set_target_properties(${target} PROPERTIES CXX_EXTENSIONS OFF C_STANDARD 11 C_EXTENSIONS OFF
     C_VISIBILITY_PRESET hidden CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON
     POSITION_INDEPENDENT_CODE ON)
-  target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wundef
+  target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wconversion -Wundef
+    # Sources that are compiled together shadow each other's names by chance.
+    $<$<NOT:$<BOOL:${CMAKE_UNITY_BUILD}>>:-Wshadow>
     $<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor -Woverloaded-virtual>
     $<$<CXX_COMPILER_ID:Clang>:-Wreserved-identifier>
     # GCC 12 sees overlapping copies in std::basic_string's operator+ where there are none (GCC bug 105651).
     $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
   if(RAVO_WARNINGS_AS_ERRORS)
     target_compile_options(${target} PRIVATE -Werror)
+  endif()
+  if(RAVO_BUILD_FUZZ)
+    # Every object tells the fuzzer which branches it takes; programs without a fuzzer pass over that.
+    target_compile_options(${target} PRIVATE -fsanitize=fuzzer-no-link)
   endif()
   if(RAVO_COVERAGE)
     target_compile_options(${target} PRIVATE -fprofile-instr-generate -fcoverage-mapping)

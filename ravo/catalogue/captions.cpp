@@ -17,7 +17,7 @@ constexpr auto kLines = std::to_array<CaptionRow>({
 
 constexpr bool IsCaption(const CaptionRow& line) { return !line.name.empty(); }
 
-consteval auto MakeRows() {
+consteval auto MakeCaptionRows() {
   std::array<CaptionRow, std::ranges::count_if(kLines, IsCaption)> rows{};
   auto row = rows.begin();
   CaptionRow group;
@@ -31,10 +31,10 @@ consteval auto MakeRows() {
   return rows;
 }
 
-constexpr auto kRows = MakeRows();
+constexpr auto kCaptionRows = MakeCaptionRows();
 
 }  // namespace
 
-std::span<const CaptionRow> CaptionRows() noexcept { return kRows; }
+std::span<const CaptionRow> CaptionRows() noexcept { return kCaptionRows; }
 
 }  // namespace ravo

@@ -77,7 +77,7 @@ consteval auto MakePool() {
 
 constexpr auto kPool = MakePool();
 
-consteval auto MakeRows() {
+consteval auto MakeTableRows() {
   auto rows = kWrittenRows;
   const char16_t* at = kPool.data();
   for (TableRow& row : rows) {
@@ -87,11 +87,11 @@ consteval auto MakeRows() {
   return rows;
 }
 
-constexpr auto kRows = MakeRows();
+constexpr auto kTableRows = MakeTableRows();
 
 consteval Index MakeIndex() {
   Index index{.slots = {}, .pool = kPool.data(), .multiplier = kTableHashMultiplier};
-  for (const TableRow& row : kRows) {
+  for (const TableRow& row : kTableRows) {
     const auto text_at = static_cast<std::uint16_t>(row.description.data() - kPool.data());
     const auto text_length = static_cast<std::uint8_t>(row.description.size());
     for (std::int32_t id = row.first; id <= row.last; ++id) {
@@ -105,7 +105,7 @@ consteval Index MakeIndex() {
 
 constexpr Index table_index::kIndex = MakeIndex();
 
-std::span<const TableRow> TableRows() noexcept { return kRows; }
+std::span<const TableRow> TableRows() noexcept { return kTableRows; }
 
 std::span<const TableModule> TableModules() noexcept { return kModules; }
 

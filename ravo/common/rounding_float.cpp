@@ -4,8 +4,6 @@
 namespace ravo::RavoInterfaceCommon {
 namespace {
 
-SoftExtended Scaled(std::int64_t value) { return SoftExtended::FromInteger(value); }
-
 // scaled value -> double of the kept precision.
 double FromUnits(std::int64_t units, const SoftExtended& power) { return (Scaled(units) / power).ToDouble(); }
 

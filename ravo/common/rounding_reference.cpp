@@ -4,8 +4,6 @@
 namespace ravo::RavoInterfaceCommon {
 namespace {
 
-SoftExtended Scaled(std::int64_t value) { return SoftExtended::FromInteger(value); }
-
 // units / scale * 10^8 as a stored amount: whole units of the kept precision back to ten-thousandths.
 Currency FromUnits(const SoftExtended& units, const SoftExtended& scale) {
   return {(units / scale * Scaled(100'000'000)).ToIntegerRounded()};

@@ -4,8 +4,11 @@
 
 #include <cstdint>
 
-/// The two roundings to whole units that amounts and doubles share.
+/// The steps of rounding that amounts and doubles share.
 namespace ravo::RavoInterfaceCommon {
+
+/// `value` as an extended float, exactly.
+[[nodiscard]] inline SoftExtended Scaled(std::int64_t value) { return SoftExtended::FromInteger(value); }
 
 /// The next integer not below, and not above, `value`. The result keeps its low 32 bits alone; `FloatError`
 /// where it does not fit into 64 bits.

@@ -9,7 +9,7 @@
 namespace ravo {
 namespace {
 
-constexpr std::int64_t kFarthestPoint = 1'000'000;
+constexpr std::int64_t kFarthestPlace = 1'000'000;
 // Beyond the length of any text, so that no zeros in front of the digits can make up for it.
 constexpr std::int64_t kLargestExponent = std::int64_t{1} << 60;
 
@@ -56,7 +56,7 @@ DecimalNumber Normalized(bool is_negative, const std::string& digits, std::int64
   const std::size_t first = digits.find_first_not_of('0');
   if (first == std::string::npos) return {is_negative, {}, 0};
   const std::size_t end = digits.find_last_not_of('0') + 1;
-  point = std::clamp(point - static_cast<std::int64_t>(first), -kFarthestPoint, kFarthestPoint);
+  point = std::clamp(point - static_cast<std::int64_t>(first), -kFarthestPlace, kFarthestPlace);
   return {is_negative, digits.substr(first, end - first), static_cast<int>(point)};
 }
 

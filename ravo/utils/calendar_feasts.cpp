@@ -8,11 +8,10 @@
 
 namespace ravo::DIUtils {
 
+using utils::kSunday;
 using utils::Modulo;
 
 namespace {
-
-constexpr std::int32_t kSunday = 6;
 
 constexpr std::array<std::uint16_t, 12> kQuarters = {1, 1, 1, 2, 2, 2, 3, 3, 3, 4, 4, 4};
 

@@ -4,6 +4,10 @@
 
 namespace ravo::utils {
 
+/// Days of the week, counted from Monday.
+inline constexpr std::int32_t kSaturday = 5;
+inline constexpr std::int32_t kSunday = 6;
+
 /// The parts of a date as one value.
 struct Ymd {
   std::int32_t year = 0;

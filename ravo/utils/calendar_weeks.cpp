@@ -5,17 +5,17 @@
 
 namespace ravo::DIUtils {
 
+using utils::kSaturday;
+using utils::kSunday;
 using utils::Modulo;
 
 namespace {
 
 constexpr std::int32_t kDaysOfWeek = 7;
-constexpr std::int32_t kSaturday = 5;
-constexpr std::int32_t kSunday = 6;
 
 // Days from Monday, 1 January -4799 on: the first of a four-year group, of a century and of 400 years.
 constexpr std::uint32_t kBeforeEveryday = 31738;
-constexpr std::uint32_t kDaysOfEveryday = std::uint32_t{1} << 29;
+constexpr std::uint32_t kDaysOfEverydayWeek = std::uint32_t{1} << 29;
 
 }  // namespace
 
@@ -41,7 +41,7 @@ void LastDayOfWeekYmd(std::int32_t& year, std::uint16_t& month, std::uint16_t& d
 
 std::int32_t ISOWeekNumber(TJulianDate date) {
   const std::uint32_t days = static_cast<std::uint32_t>(date) + kBeforeEveryday;
-  if (days >= kDaysOfEveryday) [[unlikely]]
+  if (days >= kDaysOfEverydayWeek) [[unlikely]]
     return utils::IsoWeekByFormula(date);
   // The year that the week's Thursday lies in decides, and which day of it that is.
   const std::uint32_t thursday = days / 7 * 7 + 3;

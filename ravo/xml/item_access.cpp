@@ -88,6 +88,7 @@ void ItemAccess::FreeBody(Item& item) noexcept {
 
 void ItemAccess::FreeText(Item& item) noexcept {
   if (item.Has(Item::kTextOwned)) delete[] item.text_;
+  // NOLINTNEXTLINE(clang-analyzer-core.CallAndMessage): a wide text is kept in the arena
   if (item.Has(Item::kWideText)) item.arena_->FoundRare(&item).text.clear();
   item.flags_ &= ~std::uint32_t{Item::kTextOwned | Item::kWideText | Item::kHasText};
   item.text_ = nullptr;
@@ -216,6 +217,7 @@ void ItemAccess::ClearParts(Item& item) noexcept {
   FreeText(item);
   item.flags_ &= ~std::uint32_t{Item::kWideName | Item::kParamList};
   if (!item.Has(Item::kRare)) return;
+  // NOLINTNEXTLINE(clang-analyzer-core.CallAndMessage): rare parts are kept in the arena
   RareParts& rare = item.arena_->FoundRare(&item);
   if (rare.data != nullptr) {
     rare = RareParts{.data = rare.data, .name = {}, .text = {}, .params = nullptr};
@@ -237,6 +239,7 @@ void ItemAccess::FreeChildren(Item& top) noexcept {
   }
   Item* at = &top;
   while (at != &top || at->children_.Count() != 0) {
+    // NOLINTNEXTLINE(clang-analyzer-core.CallAndMessage): the way up ends at `top`
     if (at->children_.Count() != 0) {
       Item* const child = at->children_.TakeLast();
       if (child->Has(Item::kListedTwice) && at->IndexOf(child) >= 0) continue;

@@ -114,7 +114,8 @@ class RAVO_API TXMLTokenizer {
   char* FSourcePtr;
   char* FSourceEnd;
   char* FTokenPtr;
-  char* FStringPtr = nullptr;
+  // Part of the classic interface; the scanner never sets it.
+  [[maybe_unused]] char* FStringPtr = nullptr;
   std::int32_t FSourceLine = 1;
   char FSaveChar = 0;
   std::uint8_t FToken = xtEndOfInput;

@@ -38,7 +38,7 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL Clang OR RAVO_WINDOWS_BITS EQUAL 32)
     set(subproject_static ON)
   endif()
   ravo_consumer(subproject -DCONSUMER_WAY=subproject -DCONSUMER_CHECKOUT=${PROJECT_SOURCE_DIR} -DCONSUMER_STATIC=${subproject_static}
-    -DCMAKE_BUILD_TYPE=Debug)
+    -DCMAKE_BUILD_TYPE=Debug -DCMAKE_UNITY_BUILD=ON)
 endif()
 
 # What must not compile, each beside a twin that does, from what is installed.

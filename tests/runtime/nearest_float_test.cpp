@@ -15,7 +15,7 @@
 namespace ravo {
 namespace {
 
-using Limits = std::numeric_limits<double>;
+using Doubles = std::numeric_limits<double>;
 
 std::uint64_t Bits(double value) { return std::bit_cast<std::uint64_t>(value); }
 
@@ -49,9 +49,9 @@ TEST(NearestFloat, SplitAndJoinAreInverse) {
 
 TEST(NearestFloat, KindOfDoubles) {
   EXPECT_EQ(FloatBits<double>::Kind(1), FloatKind::Finite);
-  EXPECT_EQ(FloatBits<double>::Kind(Limits::denorm_min()), FloatKind::Finite);
-  EXPECT_EQ(FloatBits<double>::Kind(-Limits::infinity()), FloatKind::Infinite);
-  EXPECT_EQ(FloatBits<double>::Kind(Limits::quiet_NaN()), FloatKind::NotANumber);
+  EXPECT_EQ(FloatBits<double>::Kind(Doubles::denorm_min()), FloatKind::Finite);
+  EXPECT_EQ(FloatBits<double>::Kind(-Doubles::infinity()), FloatKind::Infinite);
+  EXPECT_EQ(FloatBits<double>::Kind(Doubles::quiet_NaN()), FloatKind::NotANumber);
 }
 
 TEST(NearestFloat, SumIsThatOfTheProcessorInItsDefaultState) {
@@ -69,10 +69,10 @@ TEST(NearestFloat, SumIsThatOfTheProcessorInItsDefaultState) {
 }
 
 TEST(NearestFloat, SumsAtTheEnds) {
-  EXPECT_EQ(NearestSum(Limits::max(), Limits::max()), std::nullopt);
-  EXPECT_EQ(NearestSum(Limits::max(), 1.0), Limits::max());
-  EXPECT_EQ(NearestSum(Limits::max(), -Limits::max()), 0.0);
-  EXPECT_EQ(NearestSum(Limits::min(), -Limits::denorm_min()), Limits::min() - Limits::denorm_min());
+  EXPECT_EQ(NearestSum(Doubles::max(), Doubles::max()), std::nullopt);
+  EXPECT_EQ(NearestSum(Doubles::max(), 1.0), Doubles::max());
+  EXPECT_EQ(NearestSum(Doubles::max(), -Doubles::max()), 0.0);
+  EXPECT_EQ(NearestSum(Doubles::min(), -Doubles::denorm_min()), Doubles::min() - Doubles::denorm_min());
   EXPECT_EQ(Bits(NearestSum(-0.0, -0.0).value()), Bits(-0.0));
   EXPECT_EQ(Bits(NearestSum(-0.0, 0.0).value()), Bits(0.0));
   EXPECT_EQ(Bits(NearestSum(1.0, -1.0).value()), Bits(0.0));

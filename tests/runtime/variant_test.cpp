@@ -12,7 +12,7 @@
 namespace ravo {
 namespace {
 
-using Floats = std::numeric_limits<double>;
+using Doubles = std::numeric_limits<double>;
 constexpr auto kMost32 = std::numeric_limits<std::int32_t>::max();
 constexpr auto kLeast32 = std::numeric_limits<std::int32_t>::min();
 constexpr auto kMost64 = std::numeric_limits<std::int64_t>::max();
@@ -60,7 +60,7 @@ TEST(Variant, VariantToText) {
       {kMost64, u"9223372036854775807"},
       {1.5, u"1,5"},
       {1e20, u"1E20"},
-      {Floats::infinity(), u"INF"},
+      {Doubles::infinity(), u"INF"},
       {Currency{12345600}, u"1234,56"},
       {Currency{-1}, u"-0,0001"},
       {DateValue{45351.5}, u"29. 2. 2024 12:00:00"},
@@ -156,9 +156,9 @@ TEST(Variant, SumsThatLeaveTheirTypeRaise) {
   EXPECT_THROW((void)Sum(Currency{1}, std::int64_t{922337203685478}), OverflowError);
   EXPECT_THROW((void)Sum(Currency{1}, 1e15), OverflowError);
   EXPECT_THROW((void)Sum(Currency{1}, u"1e999999999"), OverflowError);
-  EXPECT_THROW((void)Sum(Floats::max(), Floats::max()), FloatError);
-  EXPECT_THROW((void)Sum(Floats::infinity(), 1), FloatError);
-  EXPECT_THROW((void)Sum(Currency{1}, Floats::quiet_NaN()), FloatError);
+  EXPECT_THROW((void)Sum(Doubles::max(), Doubles::max()), FloatError);
+  EXPECT_THROW((void)Sum(Doubles::infinity(), 1), FloatError);
+  EXPECT_THROW((void)Sum(Currency{1}, Doubles::quiet_NaN()), FloatError);
   EXPECT_THROW((void)Sum(1, u"1e309"), VariantError);
   EXPECT_THROW((void)Sum(DateValue{1}, u"1e999999999"), VariantError);
 }

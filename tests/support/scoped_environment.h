@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdlib>
+#include <ctime>
 #include <optional>
 #include <string>
 
@@ -24,6 +25,7 @@ class ScopedEnvironment {
     } else {
       ::unsetenv(name_.c_str());
     }
+    ::tzset();  // the C library reads the zone when it is told to
   }
 
   std::string name_;

@@ -30,7 +30,7 @@ bool ReadPair(TDIUnicodeReader& reader, char16_t& ch) {
   ch = static_cast<char16_t>(high << 8 | low);
   return true;
 }
-constexpr TDIUnicodeReadMethods kPairs{nullptr, ReadPair, nullptr};
+constexpr TDIUnicodeReadMethods kReadPairs{nullptr, ReadPair, nullptr};
 
 std::u16string Rest(TDIUnicodeReader& reader) {
   std::u16string text;
@@ -302,7 +302,7 @@ TEST(PushSource, SavesNeitherPeekedCharactersNorState) {
 
 TEST(PushSource, WithReadMethodsBringsThemBack) {
   TDIUnicodeReader reader;
-  reader.SetReadMethods(kPairs);
+  reader.SetReadMethods(kReadPairs);
   reader.SetSourceBufferAsStrA("\x01\x0D\x01\x59"sv);
   reader.ReadChar();
   reader.PushSource(true);
@@ -313,7 +313,7 @@ TEST(PushSource, WithReadMethodsBringsThemBack) {
 
 TEST(PushSource, WithoutReadMethodsKeepsThoseInForce) {
   TDIUnicodeReader reader;
-  reader.SetReadMethods(kPairs);
+  reader.SetReadMethods(kReadPairs);
   reader.SetSourceBufferAsStrA("\x01\x0D\x01\x59"sv);
   reader.ReadChar();
   reader.PushSource(false);
@@ -487,7 +487,7 @@ TEST(ReadBOM, KnowsTheMarksOfABuffer) {
   for (const BomRow& row : kBomRows) {
     const test::GuardedBuffer guarded(std::as_bytes(std::span(row.bytes)));
     TDIUnicodeReader reader;
-    reader.SetReadMethods(kPairs);
+    reader.SetReadMethods(kReadPairs);
     reader.SetSourceBuffer(guarded.Bytes().data(), static_cast<std::uint32_t>(guarded.Bytes().size()));
     EXPECT_EQ(reader.ReadBOM(), row.bom) << row.bytes;
     EXPECT_EQ(reader.SourceBufferPosition(), row.length);

@@ -11,7 +11,7 @@
 namespace ravo::DIUnicode {
 namespace {
 
-std::u16string RandomText(std::mt19937& random, std::size_t size) {
+std::u16string RandomUnits(std::mt19937& random, std::size_t size) {
   std::u16string text;
   while (text.size() < size) {
     const char16_t units[] = {u'a',   u'\x10D', u'\xE8', u'\x20AC', 0x4E00,
@@ -72,7 +72,7 @@ TEST(WriterRuns, GiveWhatSingleCharactersGive) {
     for (unsigned round = 0; round < 24; ++round) {
       std::vector<std::u16string> texts;
       for (int i = 0; i < 4; ++i)
-        texts.push_back(RandomText(random, random() % (round % 8 == 0 ? 6000 : 300)));
+        texts.push_back(RandomUnits(random, random() % (round % 8 == 0 ? 6000 : 300)));
       MemoryStream streams[2];
       const bool streamed = round % 2 == 0;
       const Outcome single =

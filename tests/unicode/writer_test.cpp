@@ -42,13 +42,13 @@ bool WritePair(TDIUnicodeWriter& writer, char16_t ch) {
   writer.WriteByte(static_cast<std::uint8_t>(ch >> 8));
   return true;
 }
-constexpr TDIUnicodeWriteMethods kPairs{nullptr, WritePair, nullptr, nullptr};
+constexpr TDIUnicodeWriteMethods kWritePairs{nullptr, WritePair, nullptr, nullptr};
 
 // Holds one character back, in the state; calls are counted.
-std::vector<std::string> calls;
+std::vector<std::string> write_calls;
 void HoldInit(TDIUnicodeWriter& writer) {
   EXPECT_EQ(writer.State(), 0u);
-  calls.emplace_back("Init");
+  write_calls.emplace_back("Init");
 }
 bool HoldWriteChar(TDIUnicodeWriter& writer, char16_t ch) {
   if (writer.State() != 0) writer.WriteByte(static_cast<std::uint8_t>(writer.State()));
@@ -56,7 +56,7 @@ bool HoldWriteChar(TDIUnicodeWriter& writer, char16_t ch) {
   return true;
 }
 void HoldFlush(TDIUnicodeWriter& writer) { HoldWriteChar(writer, 0); }
-void HoldFinalize(TDIUnicodeWriter&) { calls.emplace_back("Finalize"); }
+void HoldFinalize(TDIUnicodeWriter&) { write_calls.emplace_back("Finalize"); }
 constexpr TDIUnicodeWriteMethods kHolding{HoldInit, HoldWriteChar, HoldFlush, HoldFinalize};
 
 TEST(TDIUnicodeWriter, BeginsEmpty) {
@@ -127,13 +127,13 @@ TEST(WriterSetDataSize, ShortensAndLengthens) {
 }
 
 TEST(WriterClear, ForgetsAllAndBeginsAnew) {
-  calls.clear();
+  write_calls.clear();
   TDIUnicodeWriter writer;
   writer.SetWriteMethods(kHolding);
   writer.WriteStrW(u"abc");
   writer.Clear();
   EXPECT_EQ(writer.DataCapacity(), 0u);
-  EXPECT_EQ(calls, (std::vector<std::string>{"Init", "Finalize", "Init"}));
+  EXPECT_EQ(write_calls, (std::vector<std::string>{"Init", "Finalize", "Init"}));
   writer.WriteStrW(u"de");
   writer.FlushDataBuffer();
   EXPECT_EQ(writer.DataToStrRaw(), "de");
@@ -152,7 +152,7 @@ TEST(WriterClear, KeepsTheBufferOfAStream) {
 }
 
 TEST(SetWriteMethods, InitialisesAndFinalises) {
-  calls.clear();
+  write_calls.clear();
   {
     TDIUnicodeWriter writer;
     writer.SetWriteMethods(kHolding);
@@ -160,12 +160,12 @@ TEST(SetWriteMethods, InitialisesAndFinalises) {
     writer.SetWriteMethods(writer.WriteMethods());
     EXPECT_EQ(writer.State(), 0u);
     writer.SetWriteMethods({HoldInit, nullptr, nullptr, nullptr});
-    EXPECT_EQ(calls, (std::vector<std::string>{"Init", "Finalize", "Init", "Finalize"}));
+    EXPECT_EQ(write_calls, (std::vector<std::string>{"Init", "Finalize", "Init", "Finalize"}));
     writer.WriteCharW(u'\xE8');
     EXPECT_EQ(writer.DataToStrRaw(), "\xE8");
     writer.SetWriteMethods(kHolding);
   }
-  EXPECT_EQ(calls.back(), "Finalize");
+  EXPECT_EQ(write_calls.back(), "Finalize");
 }
 
 TEST(SetDataStream, PassesBlocksOn) {
@@ -306,7 +306,7 @@ TEST(WriterDataToStr, ReadsTheDataAsUtf16) {
   const platform::ScopedMachine in_force(machine);
   TDIUnicodeWriter writer;
   EXPECT_EQ(writer.DataToStrW(), u"");
-  writer.SetWriteMethods(kPairs);
+  writer.SetWriteMethods(kWritePairs);
   writer.WriteStrW(u"a\x10D");
   writer.WriteByte(7);
   EXPECT_EQ(writer.DataToStr(), u"a\x10D");
@@ -435,7 +435,7 @@ TEST(WriterText, WritesTextsAndBreaks) {
   test::FakeMachine machine;
   const platform::ScopedMachine in_force(machine);
   TDIUnicodeWriter writer;
-  writer.SetWriteMethods(kPairs);
+  writer.SetWriteMethods(kWritePairs);
   EXPECT_TRUE(writer.WriteBufW(u"abcdef", 2));
   EXPECT_TRUE(writer.WriteBufW(nullptr, 0));
   EXPECT_TRUE(writer.WriteStrLineBreakW(u"\x10D"));

@@ -7,7 +7,7 @@ namespace ravo::DIUtils {
 namespace {
 
 // The parts of a name; each function has an 8-bit form that must agree.
-struct Parts {
+struct NameParts {
   std::u16string_view name;
   std::u16string_view path;
   std::u16string_view file;
@@ -15,7 +15,7 @@ struct Parts {
   std::u16string_view drive;
 };
 
-constexpr Parts kNames[] = {
+constexpr NameParts kNames[] = {
     {u"C:\\a\\b.txt", u"C:\\a\\", u"b.txt", u".txt", u"C:"},
     {u"C:b.txt", u"C:", u"b.txt", u".txt", u"C:"},
     {u"b.txt", u"", u"b.txt", u".txt", u""},
@@ -56,7 +56,7 @@ constexpr Parts kNames[] = {
 std::string Bytes(std::u16string_view text) { return ToUtf8(text); }
 
 TEST(ExtractFilePath, IsAllUpToTheLastDelimiter) {
-  for (const Parts& row : kNames) {
+  for (const NameParts& row : kNames) {
     EXPECT_EQ(ExtractFilePathW(row.name), row.path) << Bytes(row.name);
     EXPECT_EQ(ExtractFilePath(row.name), row.path) << Bytes(row.name);
     EXPECT_EQ(ExtractFilePathA(Bytes(row.name)), Bytes(row.path));
@@ -64,7 +64,7 @@ TEST(ExtractFilePath, IsAllUpToTheLastDelimiter) {
 }
 
 TEST(ExtractFileName, IsTheRest) {
-  for (const Parts& row : kNames) {
+  for (const NameParts& row : kNames) {
     EXPECT_EQ(ExtractFileNameW(row.name), row.file) << Bytes(row.name);
     EXPECT_EQ(ExtractFileName(row.name), row.file) << Bytes(row.name);
     EXPECT_EQ(ExtractFileNameA(Bytes(row.name)), Bytes(row.file));
@@ -72,7 +72,7 @@ TEST(ExtractFileName, IsTheRest) {
 }
 
 TEST(ExtractFileExt, BeginsAtTheLastPointOfTheName) {
-  for (const Parts& row : kNames) {
+  for (const NameParts& row : kNames) {
     EXPECT_EQ(ExtractFileExtW(row.name), row.extension) << Bytes(row.name);
     EXPECT_EQ(ExtractFileExt(row.name), row.extension) << Bytes(row.name);
     EXPECT_EQ(ExtractFileExtA(Bytes(row.name)), Bytes(row.extension));
@@ -80,7 +80,7 @@ TEST(ExtractFileExt, BeginsAtTheLastPointOfTheName) {
 }
 
 TEST(ExtractFileDrive, IsALetterOrAServerWithItsShare) {
-  for (const Parts& row : kNames) {
+  for (const NameParts& row : kNames) {
     EXPECT_EQ(ExtractFileDriveW(row.name), row.drive) << Bytes(row.name);
     EXPECT_EQ(ExtractFileDriveA(Bytes(row.name)), Bytes(row.drive));
   }

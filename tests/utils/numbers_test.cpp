@@ -14,13 +14,13 @@ constexpr std::int32_t kMax = std::numeric_limits<std::int32_t>::max();
 constexpr std::int64_t kMin64 = std::numeric_limits<std::int64_t>::min();
 constexpr std::int64_t kMax64 = std::numeric_limits<std::int64_t>::max();
 
-struct Row {
+struct NumberRow {
   const char* text;
   std::int32_t value;
   std::size_t error;
 };
 
-constexpr Row kRows[] = {
+constexpr NumberRow kNumberRows[] = {
     {"0", 0, 0},
     {"  42", 42, 0},
     {"-7", -7, 0},
@@ -53,7 +53,7 @@ constexpr Row kRows[] = {
 std::u16string Wide(std::string_view text) { return {text.begin(), text.end()}; }
 
 TEST(ValIntW, Rows) {
-  for (const Row& row : kRows) {
+  for (const NumberRow& row : kNumberRows) {
     const std::u16string text = Wide(row.text);
     std::size_t error = 99;
     EXPECT_EQ(ValIntW(text, error), row.value) << row.text;
@@ -71,7 +71,7 @@ TEST(ValIntW, NullAndForeignDigits) {
   EXPECT_EQ(error, 2u);
 }
 TEST(ValIntA, Rows) {
-  for (const Row& row : kRows) {
+  for (const NumberRow& row : kNumberRows) {
     std::size_t error = 99;
     EXPECT_EQ(ValIntA(row.text, error), row.value) << row.text;
     EXPECT_EQ(error, row.error) << row.text;

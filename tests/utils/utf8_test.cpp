@@ -10,12 +10,12 @@
 namespace ravo::DIUtils {
 namespace {
 
-struct Row {
+struct Utf8Row {
   std::string_view bytes;
   std::u16string_view text;
 };
 
-constexpr Row kRows[] = {
+constexpr Utf8Row kUtf8Rows[] = {
     {"", u""},
     {"K\xC4\x8D \xE2\x82\xAC", u"Kč €"},
     {"\x7F\xC2\x80\xDF\xBF\xE0\xA0\x80\xEF\xBF\xBF", u"\x7F\u0080\u07FF\u0800\uFFFF"},
@@ -40,7 +40,7 @@ constexpr Row kRows[] = {
 };
 
 TEST(StrDecodeUtf8, Rows) {
-  for (const Row& row : kRows) EXPECT_EQ(StrDecodeUtf8(row.bytes), row.text) << row.bytes;
+  for (const Utf8Row& row : kUtf8Rows) EXPECT_EQ(StrDecodeUtf8(row.bytes), row.text) << row.bytes;
 }
 TEST(StrDecodeUtf8, FourBytesAndMoreGiveOneReplacement) {
   EXPECT_EQ(StrDecodeUtf8("a\xF0\x9F\x98\x80z"), u"a\uFFFDz");
@@ -57,7 +57,7 @@ TEST(BufDecodeUtf8, TakesAPointerAndALength) {
   EXPECT_EQ(BufDecodeUtf8("a\0b", 3), std::u16string_view(u"a\0b", 3));
 }
 TEST(StrCountUtf8Chars, CountsWhatDecodingGives) {
-  for (const Row& row : kRows) EXPECT_EQ(StrCountUtf8Chars(row.bytes), row.text.size()) << row.bytes;
+  for (const Utf8Row& row : kUtf8Rows) EXPECT_EQ(StrCountUtf8Chars(row.bytes), row.text.size()) << row.bytes;
 }
 TEST(BufCountUtf8Chars, TakesAPointerAndALength) {
   EXPECT_EQ(BufCountUtf8Chars("\xC4\x8Dx", 3), 2u);

@@ -28,7 +28,7 @@ void Run(const AddressOptions& options, Outcome& outcome) {
   if (options.json) outcome.out = JsonText(answers);
 }
 
-constexpr const char* kFooter =
+constexpr const char* kAddressFooter =
     "A line an address: the street, a tab, the house number (empty where the last word is none).\n"
     "\n"
     "Examples:\n"
@@ -41,7 +41,7 @@ void AddAddressCommand(CLI::App& program, Outcome& outcome) {
   const auto options = std::make_shared<AddressOptions>();
   command->add_option("ADDRESS", options->addresses, "Addresses of one line")->required();
   command->add_flag("--json", options->json, "Write JSON");
-  command->footer(kFooter);
+  command->footer(kAddressFooter);
   command->callback([options, &outcome] { Run(*options, outcome); });
 }
 

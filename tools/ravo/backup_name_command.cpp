@@ -19,7 +19,7 @@ void Run(const BackupNameOptions& options, Outcome& outcome) {
   outcome.out = ravo::ToUtf8(name) + "\n";
 }
 
-constexpr const char* kFooter =
+constexpr const char* kBackupNameFooter =
     "Placeholders, in either case: %FIRMA% the company without the characters that a file name may not "
     "hold,\n"
     "%DATUM% today as yymmdd, %CAS% the time as hhmmss. No file is touched.\n"
@@ -34,7 +34,7 @@ void AddBackupNameCommand(CLI::App& program, Outcome& outcome) {
   const auto options = std::make_shared<BackupNameOptions>();
   command->add_option("TEMPLATE", options->name_template, "The name with placeholders")->required();
   command->add_option("COMPANY", options->company, "The company's name");
-  command->footer(kFooter);
+  command->footer(kBackupNameFooter);
   command->callback([options, &outcome] { Run(*options, outcome); });
 }
 

@@ -58,7 +58,7 @@ void Run(const CaptionsOptions& options, Outcome& outcome) {
   outcome.out = listing.Text();
 }
 
-constexpr const char* kFooter =
+constexpr const char* kCaptionsFooter =
     "Each line has the identifier in the string table, the name in the library and the text; \" / \" stands "
     "for\n"
     "the line break of a message. \"&\" marks the keyboard accelerator.\n"
@@ -75,7 +75,7 @@ void AddCaptionsCommand(CLI::App& program, Outcome& outcome) {
   const auto options = std::make_shared<CaptionsOptions>();
   command->add_flag("--plain", options->plain, "Without the marks of accelerators");
   command->add_flag("--json", options->json, "Write JSON: {group, items: {id, name, text}}");
-  command->footer(kFooter);
+  command->footer(kCaptionsFooter);
   command->callback([options, &outcome] { Run(*options, outcome); });
 }
 

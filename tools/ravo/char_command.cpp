@@ -154,7 +154,7 @@ void Run(const CharOptions& options, Outcome& outcome) {
   for (const Json& facts : all) outcome.out += (outcome.out.empty() ? "" : "\n") + Text(facts);
 }
 
-constexpr const char* kFooter =
+constexpr const char* kCharFooter =
     "Characters outside the plane of 65,536 are shown as the two halves that stand for them.\n"
     "\n"
     "Exit status: 0, or 2 wrong usage.\n"
@@ -173,7 +173,7 @@ void AddCharCommand(CLI::App& program, Outcome& outcome) {
   command->add_option("CHARACTER", options->characters, "Characters, or U+ and a hexadecimal number")
       ->required();
   command->add_flag("--json", options->json, "Write JSON");
-  command->footer(kFooter);
+  command->footer(kCharFooter);
   command->callback([options, &outcome] { Run(*options, outcome); });
 }
 

@@ -104,7 +104,7 @@ void Run(const CheckOptions& options, Outcome& outcome) {
   return file ? CheckWholeFile(options, outcome) : CheckValues(options, outcome);
 }
 
-std::string Footer() {
+std::string CheckFooter() {
   std::string text = "Kinds:\n";
   for (const CheckKind& kind : CheckKinds()) {
     text += "  " + std::string(kind.name) + std::string(8 - kind.name.size(), ' ') + std::string(kind.title) +
@@ -144,7 +144,7 @@ void AddCheckCommand(CLI::App& program, Outcome& outcome) {
       ->needs(file);
   command->add_flag("--allow-empty", options->allow_empty, "Pass over empty fields")->needs(file);
   command->add_flag("--json", options->json, "Write JSON");
-  command->footer(Footer());
+  command->footer(CheckFooter());
   command->callback([options, &outcome] { Run(*options, outcome); });
 }
 

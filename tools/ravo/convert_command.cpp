@@ -165,7 +165,7 @@ void Run(const ConvertOptions& options, Outcome& outcome) {
   if (!failure.empty()) Complain(outcome, options.output + ": " + failure, Answer::WrongUsage);
 }
 
-constexpr const char* kFooter =
+constexpr const char* kConvertFooter =
     "ENCODING is a name, an alias or a code page number of `ravo encodings`; -f auto goes by the byte-order "
     "mark,\n"
     "which is left out, and takes text without one for UTF-8. Several files become one. The output is there "
@@ -192,7 +192,7 @@ void AddConvertCommand(CLI::App& program, Outcome& outcome) {
   command->add_option("-o,--output", options->output, "The file to write; else standard output");
   command->add_option("--replace", options->replacement,
                       "The character to write for those that cannot be; without it they end the conversion");
-  command->footer(kFooter);
+  command->footer(kConvertFooter);
   command->callback([options, &outcome] { Run(*options, outcome); });
 }
 

@@ -1,6 +1,7 @@
 #include "csv_file.h"
 
 #include "foreign_text.h"
+#include "text_file.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -12,8 +13,6 @@ namespace tool {
 namespace {
 
 constexpr std::size_t kRowsBetweenShows = 4096;
-
-std::filesystem::path PathOf(const std::string& utf8) { return {std::u8string(utf8.begin(), utf8.end())}; }
 
 // 0 where it is not known.
 std::int64_t SizeOf(const std::string& name) {

@@ -134,7 +134,7 @@ void Run(const DateOptions& options, Outcome& outcome) {
   }
 }
 
-constexpr const char* kFooter =
+constexpr const char* kDateFooter =
     "Dates and times are shown as they are written into SQL statements. Holidays are those of the suite's\n"
     "list, which has German ones; Easter is exact for 1900 to 2099.\n"
     "\n"
@@ -165,7 +165,7 @@ void AddDateCommand(CLI::App& program, Outcome& outcome) {
   command->add_flag("--holidays", options->holidays, "List the year's holidays that are no Sundays too")
       ->excludes(calendar);
   command->add_flag("--json", options->json, "Write JSON")->excludes(calendar);
-  command->footer(kFooter);
+  command->footer(kDateFooter);
   command->callback([options, &outcome] { Run(*options, outcome); });
 }
 

@@ -22,7 +22,7 @@ std::string_view Ways(const EncodingRow& row) {
   return row.read == nullptr ? "writes" : "reads, writes";
 }
 
-std::string Line(const EncodingRow& row) {
+std::string RowText(const EncodingRow& row) {
   const std::string code_page = row.code_page == 0 ? "" : std::to_string(row.code_page);
   return std::string(row.name) + "\t" + std::string(row.label) + "\t" + code_page + "\t" +
          std::string(Ways(row)) + "\t" + std::string(row.aliases) + "\n";
@@ -53,7 +53,7 @@ void Run(const EncodingOptions& options, Outcome& outcome) {
   Json rows = Json::array();
   for (const EncodingRow& row : ravo::DIUnicode::EncodingRows()) {
     if (!options.wanted.empty() && &row != only) continue;
-    outcome.out += Line(row);
+    outcome.out += RowText(row);
     rows.push_back(RowJson(row));
   }
   if (rows.empty()) {
@@ -63,7 +63,7 @@ void Run(const EncodingOptions& options, Outcome& outcome) {
   if (options.json) outcome.out = JsonText(rows);
 }
 
-constexpr const char* kFooter =
+constexpr const char* kEncodingsFooter =
     "A line has the name, a label, the Windows code page number if there is one, whether the encoding is "
     "read\n"
     "and written, and other names. Names are found in any case, with or without what is no letter or digit.\n"
@@ -83,7 +83,7 @@ void AddEncodingsCommand(CLI::App& program, Outcome& outcome) {
       program.add_subcommand("encodings", "Lists the encodings that text is read and written in");
   command->add_option("NAME", options->wanted, "A name, another name or a code page number");
   command->add_flag("--json", options->json, "A JSON array with all that is known of them");
-  command->footer(kFooter);
+  command->footer(kEncodingsFooter);
   command->callback([options, &outcome] { Run(*options, outcome); });
 }
 

@@ -2,6 +2,7 @@
 
 #include "console.h"
 #include "progress.h"
+#include "text_file.h"
 #include <ravo/DIUtils.h>
 
 #include <filesystem>
@@ -17,8 +18,6 @@ namespace fs = std::filesystem;
 namespace utils = ravo::DIUtils;
 
 constexpr std::size_t kPiece = std::size_t{1} << 18;
-
-fs::path PathOf(const std::string& utf8) { return {std::u8string(utf8.begin(), utf8.end())}; }
 
 std::int64_t SizeOf(const fs::path& path) {
   std::error_code error;

@@ -31,7 +31,7 @@ void Run(const FormOptions& options, Outcome& outcome) {
   }
 }
 
-constexpr const char* kFooter =
+constexpr const char* kFormFooter =
     "The table (UTF-8 or Windows-1250) has a first row that names its columns: field, value and, if wanted,\n"
     "kind. Kinds are\n"
     "  text     a text with Czech characters; what a row without a kind is\n"
@@ -55,7 +55,7 @@ void AddFormCommand(CLI::App& program, Outcome& outcome) {
       ->add_option("--delimiter", options->delimiter, "What stands between columns; found out when not given")
       ->type_name("CHAR")
       ->check(CLI::IsMember({";", ",", "\t", "|"}));
-  command->footer(kFooter);
+  command->footer(kFormFooter);
   command->callback([options, &outcome] { Run(*options, outcome); });
 }
 

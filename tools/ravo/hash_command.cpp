@@ -139,7 +139,7 @@ void Run(const HashOptions& options, Outcome& outcome) {
   return options.check ? CheckLists(task, outcome) : Compute(task, options.json, outcome);
 }
 
-std::string Footer() {
+std::string HashFooter() {
   std::string text = "Sums:\n";
   for (const FileSumKind& kind : kFileSums)
     text += "  " + std::string(kind.name) + std::string(9 - kind.name.size(), ' ') + std::string(kind.title) +
@@ -168,7 +168,7 @@ void AddHashCommand(CLI::App& program, Outcome& outcome) {
   CLI::Option* check = command->add_flag(
       "--check", options->check, "The files are lists of sums; compare each with its file as it is now");
   command->add_flag("--json", options->json, "Write JSON")->excludes(check);
-  command->footer(Footer());
+  command->footer(HashFooter());
   command->callback([options, &outcome] { Run(*options, outcome); });
 }
 

@@ -127,7 +127,7 @@ void Run(const InterfaceOptions& options, Outcome& outcome) {
   if (options.json) outcome.out = JsonText(libraries);
 }
 
-constexpr const char* kFooter =
+constexpr const char* kInterfacesFooter =
     "A line of an interface has its name, kind, base, identifier and number of own operations; one of a\n"
     "factory class has its name, the interface that it returns and the identifier of the class.\n"
     "\n"
@@ -146,7 +146,7 @@ void AddInterfacesCommand(CLI::App& program, Outcome& outcome) {
   const auto options = std::make_shared<InterfaceOptions>();
   command->add_option("NAME|GUID", options->wanted, "Part of a name, or an identifier in any spelling");
   command->add_flag("--json", options->json, "Write JSON");
-  command->footer(kFooter);
+  command->footer(kInterfacesFooter);
   command->callback([options, &outcome] { Run(*options, outcome); });
 }
 

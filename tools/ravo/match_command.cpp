@@ -26,7 +26,7 @@ void Run(const MatchOptions& options, Outcome& outcome) {
   outcome.answer = Answer::No;
 }
 
-constexpr const char* kFooter =
+constexpr const char* kMatchFooter =
     "Prints the texts that match as a whole. * stands for any run of characters, ? for one.\n"
     "\n"
     "Exit status: 0 when one matches, 1 when none does, 2 wrong usage.\n"
@@ -43,7 +43,7 @@ void AddMatchCommand(CLI::App& program, Outcome& outcome) {
   command->add_option("MASK", options->mask, "The mask")->required();
   command->add_option("TEXT", options->texts, "Texts")->required();
   command->add_flag("--ignore-case", options->ignore_case, "Match without regard to case");
-  command->footer(kFooter);
+  command->footer(kMatchFooter);
   command->callback([options, &outcome] { Run(*options, outcome); });
 }
 

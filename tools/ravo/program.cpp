@@ -9,7 +9,7 @@
 namespace tool {
 namespace {
 
-constexpr const char* kFooter =
+constexpr const char* kProgramFooter =
     "Exit status: 0 yes, 1 no (such as a table that no module knows), 2 wrong usage or an unusable file.\n"
     "\n"
     "Examples:\n"
@@ -63,7 +63,7 @@ void Describe(CLI::App& program, Outcome& outcome) {
   program.description("The shared interface library of the accounting suite at the prompt");
   program.require_subcommand(1);
   program.set_version_flag("--version", "ravo " RAVO_VERSION, "Print the version and end");
-  program.footer(kFooter);
+  program.footer(kProgramFooter);
   for (const Theme& theme : Themes()) AddTheme(program, theme, outcome);
 }
 

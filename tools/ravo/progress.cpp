@@ -9,7 +9,7 @@ namespace tool {
 namespace {
 
 constexpr auto kPatience = std::chrono::seconds(1);
-constexpr auto kPace = std::chrono::milliseconds(100);
+constexpr auto kPause = std::chrono::milliseconds(100);
 constexpr std::size_t kWidth = 30;
 
 // A count where the whole is not known.
@@ -36,7 +36,7 @@ Progress::~Progress() {
 
 void Progress::Show(std::int64_t done) {
   if (!on_terminal_ || Clock::now() < next_) return;
-  next_ = Clock::now() + kPace;
+  next_ = Clock::now() + kPause;
   shown_ = true;
   static_cast<void>(Write(Channel::Err, "\r" + what_ + " " + Bar(done, whole_)));
 }

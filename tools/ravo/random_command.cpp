@@ -31,7 +31,7 @@ void Run(const RandomOptions& options, Outcome& outcome) {
   outcome.out = ravo::ToUtf8(text) + "\n";
 }
 
-constexpr const char* kFooter =
+constexpr const char* kRandomFooter =
     "The same seed, alphabet and count give the same text on every machine; no text made so is a secret. "
     "The\n"
     "seed counts as its bytes in UTF-8.\n"
@@ -57,7 +57,7 @@ void AddRandomCommand(CLI::App& program, Outcome& outcome) {
   command->add_option("--count", options->count, "How many characters")
       ->check(CLI::Range(std::size_t{0}, kMost))
       ->capture_default_str();
-  command->footer(kFooter);
+  command->footer(kRandomFooter);
   command->callback([options, &outcome] { Run(*options, outcome); });
 }
 

@@ -41,7 +41,7 @@ void Run(const ReportOptions& options, Outcome& outcome) {
   outcome.answer = Answer::WrongUsage;
 }
 
-constexpr const char* kFooter =
+constexpr const char* kReportFooter =
     "Exit status: 0 written, 2 wrong usage or a file that cannot be written.\n"
     "\n"
     "Examples:\n"
@@ -58,7 +58,7 @@ void AddReportCommand(CLI::App& program, Outcome& outcome) {
   command->add_flag("--business", options->business, "As the application layer sees it, not a client module");
   command->add_flag("--json", options->json, "Write JSON: nested {caption, value, items}");
   command->add_option("-o", options->file, "Write to this file, whole or not at all")->type_name("FILE");
-  command->footer(kFooter);
+  command->footer(kReportFooter);
   command->callback([options, &outcome] { Run(*options, outcome); });
 }
 

@@ -50,7 +50,7 @@ void Run(const RoundOptions& options, Outcome& outcome) {
   if (options.json) outcome.out = JsonText(answers);
 }
 
-constexpr const char* kFooter =
+constexpr const char* kRoundFooter =
     "Rules of VAT: H to hundredths, D to tenths, M to whole crowns, each with halves away from zero;\n"
     "P to the nearest 0.50; N to tenths away from zero.\n"
     "\n"
@@ -81,7 +81,7 @@ void AddRoundCommand(CLI::App& program, Outcome& outcome) {
       ->excludes(mode)
       ->excludes(decimals);
   command->add_flag("--json", options->json, "Write JSON");
-  command->footer(kFooter);
+  command->footer(kRoundFooter);
   command->callback([options, &outcome] { Run(*options, outcome); });
 }
 

@@ -18,8 +18,8 @@ namespace tool {
 namespace {
 
 namespace utils = ravo::DIUtils;
-using Line = std::u16string;
-using Lines = std::vector<Line>;
+using TextLine = std::u16string;
+using TextLines = std::vector<TextLine>;
 
 struct SortOptions {
   std::vector<std::string> files;
@@ -37,7 +37,7 @@ std::optional<std::string> BytesOf(const std::string& name) {
   return AllOf(file);
 }
 
-void AddLines(const std::string& bytes, Lines& lines) {
+void AddLines(const std::string& bytes, TextLines& lines) {
   const std::u16string text = ravo::FromUtf8(ForeignText(bytes));
   for (std::size_t start = 0; start < text.size();) {
     const std::size_t end = std::min(text.find(u'\n', start), text.size());
@@ -56,13 +56,13 @@ Order OrderOf(const SortOptions& options) {
 
 // A merge sort of our own: the natural order has circles, which the standard library's algorithms may not
 // meet.
-void Sort(std::span<Line> lines, Order order) {
+void Sort(std::span<TextLine> lines, Order order) {
   if (lines.size() < 2) return;
-  const std::span<Line> left = lines.first(lines.size() / 2);
-  const std::span<Line> right = lines.subspan(lines.size() / 2);
+  const std::span<TextLine> left = lines.first(lines.size() / 2);
+  const std::span<TextLine> right = lines.subspan(lines.size() / 2);
   Sort(left, order);
   Sort(right, order);
-  Lines merged;
+  TextLines merged;
   merged.reserve(lines.size());
   auto from_left = left.begin();
   auto from_right = right.begin();
@@ -75,7 +75,7 @@ void Sort(std::span<Line> lines, Order order) {
 }
 
 void Run(const SortOptions& options, Outcome& outcome) {
-  Lines lines;
+  TextLines lines;
   for (const std::string& name : options.files) {
     const std::optional<std::string> bytes = BytesOf(name);
     if (!bytes) {
@@ -86,10 +86,10 @@ void Run(const SortOptions& options, Outcome& outcome) {
     AddLines(*bytes, lines);
   }
   Sort(lines, OrderOf(options));
-  for (const Line& line : lines) outcome.out += ravo::ToUtf8(line) + "\n";
+  for (const TextLine& line : lines) outcome.out += ravo::ToUtf8(line) + "\n";
 }
 
-constexpr const char* kFooter =
+constexpr const char* kSortFooter =
     "Lines come out in UTF-8. Without an option they are sorted by the codes of their characters.\n"
     "\n"
     "Exit status: 0, or 2 wrong usage or an unusable file.\n"
@@ -107,7 +107,7 @@ void AddSortCommand(CLI::App& program, Outcome& outcome) {
       ->required();
   command->add_flag("--natural", options->natural, "Compare runs of digits by value");
   command->add_flag("--ignore-case", options->ignore_case, "Compare without regard to case");
-  command->footer(kFooter);
+  command->footer(kSortFooter);
   command->callback([options, &outcome] { Run(*options, outcome); });
 }
 

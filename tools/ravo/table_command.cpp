@@ -105,7 +105,7 @@ void Run(const TableOptions& options, Outcome& outcome) {
   throw CLI::RequiredError("table: an identifier, --module or --all");
 }
 
-constexpr const char* kFooter =
+constexpr const char* kTableFooter =
     "Exit status: 0 every table is known, 1 one is not, 2 wrong usage.\n"
     "\n"
     "Examples:\n"
@@ -124,7 +124,7 @@ void AddTableCommand(CLI::App& program, Outcome& outcome) {
       ->check(CLI::Validator(CheckModule, "NAME"));
   command->add_flag("--all", options->all, "List every table")->excludes(ids);
   command->add_flag("--json", options->json, "Write JSON");
-  command->footer(kFooter);
+  command->footer(kTableFooter);
   command->callback([options, &outcome] { Run(*options, outcome); });
 }
 

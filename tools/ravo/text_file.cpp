@@ -8,8 +8,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-fs::path PathOf(const std::string& utf8) { return {std::u8string(utf8.begin(), utf8.end())}; }
-
 // A name beside `target` that nobody else uses.
 fs::path Beside(const fs::path& target) {
   static constexpr char kLetters[] = "abcdefghijklmnopqrstuvwxyz234567";
@@ -29,6 +27,8 @@ fs::path Meant(const fs::path& path) {
 }
 
 }  // namespace
+
+fs::path PathOf(const std::string& utf8) { return {std::u8string(utf8.begin(), utf8.end())}; }
 
 WholeFile::WholeFile(const std::string& name) : target_(Meant(PathOf(name))) {
   std::error_code error;

@@ -10,6 +10,9 @@
 
 namespace tool {
 
+/// The system's name of the file that `utf8` names.
+[[nodiscard]] std::filesystem::path PathOf(const std::string& utf8);
+
 /// A file that is written as a whole: a reader of its name sees the old file or the new one, never a piece.
 /// The bytes go into a file beside it that takes its name in the end, and only then. What is there and is no
 /// ordinary file (a device, a pipe) is written to directly. The file beside it also goes where the program is

@@ -58,7 +58,7 @@ std::string Top(const std::string& text, std::size_t most) {
 }
 
 void Visit(const Stop& stop, const Colours& colours, Outcome& tour) {
-  const Outcome answer = Run(CLI::detail::split_up(stop.command));
+  const Outcome answer = tool::Run(CLI::detail::split_up(stop.command));
   tour.out += colours.heading + std::string("# ") + stop.why + colours.off + "\n";
   tour.out += colours.command + std::string("$ ravo ") + stop.command + colours.off + "\n";
   tour.out += Top(answer.out, stop.lines);
@@ -70,7 +70,7 @@ void Visit(const Stop& stop, const Colours& colours, Outcome& tour) {
   tour.answer = Answer::WrongUsage;
 }
 
-constexpr const char* kFooter =
+constexpr const char* kTourFooter =
     "Exit status: 0 once through, 2 wrong usage.\n"
     "\n"
     "Examples:\n"
@@ -93,7 +93,7 @@ void AddTourCommand(CLI::App& program, Outcome& outcome) {
   CLI::App* command = program.add_subcommand("tour", "Shows the commands at work, in a minute");
   const auto commands_only = std::make_shared<bool>(false);
   command->add_flag("--commands", *commands_only, "Only list what the tour runs");
-  command->footer(kFooter);
+  command->footer(kTourFooter);
   command->callback([commands_only, &outcome] { Walk(*commands_only, outcome); });
 }
 

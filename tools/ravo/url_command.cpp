@@ -28,7 +28,7 @@ std::string Decoded(const std::string& text) {
   return ravo::ToUtf8(ravo::FromUtf8(ravo::DIUtils::StrDecodeUrlA(text)));
 }
 
-constexpr const char* kFooter =
+constexpr const char* kUrlFooter =
     "Texts are encoded as forms are, by the bytes of their UTF-8; each gives a line.\n"
     "\n"
     "Exit status: 0, or 2 wrong usage.\n"
@@ -42,7 +42,7 @@ constexpr const char* kFooter =
 void AddUrlCommand(CLI::App& program, Outcome& outcome) {
   CLI::App* command = program.add_subcommand("url", "Encodes and decodes texts in addresses of the web");
   command->require_subcommand(1);
-  command->footer(kFooter);
+  command->footer(kUrlFooter);
   AddCoder(*command, "encode", "Encodes texts", Encoded, outcome);
   AddCoder(*command, "decode", "Decodes texts", Decoded, outcome);
 }

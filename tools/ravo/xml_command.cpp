@@ -133,7 +133,7 @@ CLI::App* AddWork(CLI::App& xml, const char* name, const char* what, Work work,
   return command;
 }
 
-constexpr const char* kFooter =
+constexpr const char* kXmlFooter =
     "The rules are the library's: comments are dropped, close tags close whatever is open, a line break in "
     "a\n"
     "text is written as <br/>. Bytes stay as they are; they are read as UTF-8 where the document says so, "
@@ -160,7 +160,7 @@ void AddXmlCommand(CLI::App& program, Outcome& outcome) {
   xml->require_subcommand(1);
   // A path may begin with "/" on every system.
   xml->allow_windows_style_options(false);
-  xml->footer(kFooter);
+  xml->footer(kXmlFooter);
   const auto options = std::make_shared<XmlOptions>();
   const auto add = [&](const char* name, const char* what, Work work) {
     return AddWork(*xml, name, what, work, options, outcome);

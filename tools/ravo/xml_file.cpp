@@ -2,6 +2,7 @@
 
 #include "foreign_text.h"
 #include "progress.h"
+#include "text_file.h"
 #include <ravo/RavoInterface.h>
 
 #include <array>
@@ -12,8 +13,6 @@
 
 namespace tool {
 namespace {
-
-std::filesystem::path PathOf(const std::string& utf8) { return {std::u8string(utf8.begin(), utf8.end())}; }
 
 // A file as a stream that shows how far it was read.
 class ShownFile final : public ravo::ByteStream {

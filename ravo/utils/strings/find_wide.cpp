@@ -30,8 +30,8 @@ RAVO_WIDE __m256i Candidates(const Char* text, const Char* last_text, __m256i fi
 
 // Two vectors of places at a time.
 template <class Char>
-RAVO_WIDE std::size_t PassOver(const Char* text, const Char* last_text, std::size_t places,
-                               const Char (&ends)[2]) {
+RAVO_WIDE std::size_t PassOverBlocks(const Char* text, const Char* last_text, std::size_t places,
+                                     const Char (&ends)[2]) {
   constexpr std::size_t kLanes = sizeof(__m256i) / sizeof(Char);
   const __m256i first = EverywhereWide(ends[0]);
   const __m256i last = EverywhereWide(ends[1]);
@@ -48,11 +48,11 @@ RAVO_WIDE std::size_t PassOver(const Char* text, const Char* last_text, std::siz
 
 std::size_t PassOverWidely(const char* text, const char* last_text, std::size_t places,
                            const char (&ends)[2]) noexcept {
-  return PassOver(text, last_text, places, ends);
+  return PassOverBlocks(text, last_text, places, ends);
 }
 std::size_t PassOverWidely(const char16_t* text, const char16_t* last_text, std::size_t places,
                            const char16_t (&ends)[2]) noexcept {
-  return PassOver(text, last_text, places, ends);
+  return PassOverBlocks(text, last_text, places, ends);
 }
 
 bool CanPassOverWidely() noexcept { return __builtin_cpu_supports("avx2") != 0; }

@@ -118,7 +118,6 @@ TEST(PosixMachineFiles, SizesAreOfSixtyFourBits) {
 
 TEST(PosixMachineFiles, TheLastWriteIsInLocalTime) {
   const test::ScopedEnvironment zone("TZ", "CET-1CEST,M3.5.0,M10.5.0/3");
-  tzset();
   const test::ScratchFolder folder;
   folder.Write("file", "");
   // 1 July 2024, 10:30:15.123 UTC.
