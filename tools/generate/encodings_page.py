@@ -9,7 +9,8 @@ they name: character maps of the C library (`glibc`, package `locales`), Perl's 
 ## What is decided
 
 - A byte that a single-byte encoding does not assign reads as U+FFFD; U+FFFD and every character without a byte are
-  refused in writing. Where several bytes mean one character, the lowest one is written.
+  refused in writing. If several bytes mean one character, the lowest one is written that is no variant in another
+  position or shape.
 - UTF-8: a sequence that is not the shortest, a byte that begins none and a sequence that ends early give one U+FFFD
   each; what does not continue a sequence is read as the next character. Surrogates pass as three bytes each.
 - UTF-16, UCS-2, UTF-32, UCS-4: bytes that do not make a whole unit at the end of the data are not read; a high
@@ -60,6 +61,19 @@ def unassigned(tables):
             yield f"| `{table.row['name']}` | {len(missing)} | {spans(missing)} |\n"
 
 
+def shared(tables):
+    yield ("\n## Several bytes for one character\n\nAll are read; the first of a row is written.\n\n"
+           "| name | characters | bytes | why |\n|---|---|---|---|\n")
+    for table in tables:
+        groups = {}
+        for char, keys, why in table.shared():
+            groups.setdefault(why, []).append((char, " ".join(key.hex().upper() for key in keys)))
+        for why, rows in groups.items():
+            for char, keys in rows[:1] if len(rows) > 12 else rows:
+                more = f" and {len(rows) - 1} more to {shown(rows[-1][0])}" if len(rows) > 12 else ""
+                yield f"| `{table.row['name']}` | {shown(char)}{more} | {keys} | {why} |\n"
+
+
 def differences(tables):
     yield ("\n## Where sources differ\n\nEach row has one choice; several bytes stand together where all is alike. "
            "\"None\" means that the source assigns nothing.\n\n| name | bytes | sources | chosen | why |\n|---|---|---|---|---|\n")
@@ -87,5 +101,5 @@ def difference_rows(table, rows, why):
 
 
 def render(rows, singles, chinese):
-    parts = [HEAD, *listing(rows), *unassigned(singles), *differences([*singles, chinese])]
+    parts = [HEAD, *listing(rows), *unassigned(singles), *shared(singles), *differences([*singles, chinese])]
     return "".join(parts)
