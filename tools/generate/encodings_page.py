@@ -26,6 +26,8 @@ they name: character maps of the C library (`glibc`, package `locales`), Perl's 
 - The record behind the state of UTF-7 has 12 bytes; the first is 0 outside base 64. Where methods are put in place
   without their `Init` (a source that is popped), the first character makes it. Where a source in UTF-7 ends on top of
   one in another encoding, the record goes with it.
+- A source in UTF-7 that is left inside base 64 leaves the next one inside it, and a source that is read anew too:
+  `SetReadMethods` begins outside.
 - GB 18030: a byte 80 or FF, four bytes without a character and four bytes of a character beyond U+FFFF are one U+FFFD;
   so is a sequence that ends early, and what does not continue it is read as the next character.
 """
