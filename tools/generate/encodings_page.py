@@ -30,6 +30,29 @@ they name: character maps of the C library (`glibc`, package `locales`), Perl's 
   `SetReadMethods` begins outside.
 - GB 18030: a byte 80 or FF, four bytes without a character and four bytes of a character beyond U+FFFF are one U+FFFD;
   so is a sequence that ends early, and what does not continue it is read as the next character.
+
+## Names
+
+An encoding is found by its exported name, each of its other names, its code page number with or without "cp", and its label
+with or without what it says in parentheses. Case does not count, nor does anything but letters and digits. A name that has a
+meaning keeps it: none is ever given to another encoding.
+
+The labels of the [Encoding Standard](https://encoding.spec.whatwg.org/) are all names, as far as their encodings are here. Some
+mean a larger encoding there; here they are the encoding that they name:
+
+| labels | here | in the Standard |
+|---|---|---|
+| `ascii`, `us-ascii`, `ansi_x3.4-1968` | `US_ASCII` | windows-1252 |
+| `iso-8859-1`, `latin1` and others of that encoding | `Iso_8859_1` | windows-1252 |
+| `iso-8859-9`, `latin5` and others of that encoding | `Iso_8859_9` | windows-1254 |
+| `tis-620` | `TIS_620` | windows-874 |
+| `koi8-ru` | `Koi8_RU` | KOI8-U |
+| `ucs-2`, `iso-10646-ucs-2`, `csunicode` | `UCS_2_BE` | UTF-16LE |
+| `utf-16` | `UTF_16_BE` | UTF-16LE |
+
+Labels of an encoding that is here under another name have the meaning of the Standard: `iso-8859-11` is `CP_874`, and
+`iso-8859-8-i` is `Iso_8859_8`, which differs from it in the direction of a page alone. Unknown are the labels of GBK, which reads
+80 as the euro sign and could be written, Big5, EUC-JP, ISO-2022-JP, Shift_JIS, EUC-KR, replacement and x-user-defined.
 """
 
 
