@@ -257,8 +257,9 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
   /// which is not collected. Reads a character first where none is current.
   void ReadTillEndOfLine();
   void SkipTillEndOfLine();
-  /// The same with emptied Data: the Data is the line then.
+  /// As `ReadTillEndOfLine` with emptied Data: the Data is the line then.
   void ReadLine();
+  /// As `SkipTillEndOfLine`: the Data stays as it is.
   void SkipLine();
   /// Passes over lines that have nothing but characters that pass the test. Collects characters, and empties
   /// the Data at each line break: in the end it has what stands in front on the line that is not empty.
