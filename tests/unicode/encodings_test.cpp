@@ -130,6 +130,15 @@ TEST(WriteSharedCharacters, TheLowestByte) {
   EXPECT_EQ(Write(Write_Mac_Hebrew, u"\u05B8"), "\xCB");
 }
 
+// The two differ in signs below A0 and, above, in one letter.
+TEST(ReadKoi8Ru, HasTheLettersOfKoi8UAndTheBelarusianOne) {
+  for (int byte = 0xA0; byte < 0x100; ++byte) {
+    const std::string bytes(1, static_cast<char>(byte));
+    const std::u16string wanted = byte == 0xAE ? u"ў" : byte == 0xBE ? u"Ў" : Read(Read_Koi8_U, bytes);
+    EXPECT_EQ(Read(Read_Koi8_RU, bytes), wanted) << byte;
+  }
+}
+
 TEST(WriteUtf8, SurrogatesAsThreeBytesEach) {
   EXPECT_EQ(Write(Write_UTF_8, u"\xD83D\xDE00"), "\xED\xA0\xBD\xED\xB8\x80");
   EXPECT_EQ(Write(Write_UTF_8, u"\x7F\x80\x7FF\x800\xFFFF"), "\x7F\xC2\x80\xDF\xBF\xE0\xA0\x80\xEF\xBF\xBF");
