@@ -68,9 +68,13 @@ struct EncodingRow {
 /// All encodings, in the order of their families.
 [[nodiscard]] RAVO_API std::span<const EncodingRow> EncodingRows() noexcept;
 
-/// The encoding of that exported name, alias or code page number, such as "Windows_1250", "windows-1250",
-/// "CP1250" or "1250". Case does not count, nor does anything but letters and digits of ASCII. Null where
+/// Returns the encoding of a name: an exported name, alias, code page number with or without "cp", or label,
+/// such as "Windows_1250", "windows-1250", "CP1250", "1250" or "Windows-1250 (Central European)". Null if
 /// there is none.
+///
+/// Case does not count, nor does anything but letters and digits of ASCII. Every label of the WHATWG's
+/// Encoding Standard whose encoding is here is a name; "latin1", "ascii" and others that mean a larger
+/// encoding there are the encoding that they name.
 [[nodiscard]] RAVO_API const EncodingRow* FindEncoding(std::string_view name) noexcept;
 
 /// The encoding of a Windows code page number; null where there is none, and for 0.

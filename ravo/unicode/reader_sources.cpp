@@ -23,6 +23,8 @@ void TDIUnicodeReader::ForgetChars() noexcept {
 }
 
 void TDIUnicodeReader::SetNewSource() noexcept {
+  // Kept: a new source begins in the state that the one before was left in, because only read methods reset
+  // it
   ForgetChars();
   FSourceBufferPosition = 0;
 }

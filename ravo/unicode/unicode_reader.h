@@ -158,7 +158,9 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
   void IncSourceBufferPosition();
 
   /// Reads from a stream, from its position on, in blocks of 4096 bytes; null: from no stream. The stream
-  /// before is not freed. The location goes on unless sources are stacked.
+  /// before is not freed. The location goes on unless sources are stacked. So does the state, as with every
+  /// new source: after a text in UTF-7 that was left inside base 64 the next one begins inside base 64. Set
+  /// the read methods anew before it.
   void SetSourceStream(ByteStream* AStream, std::u16string_view AFileName = {});
   /// Opens a file and reads from it. Unless the reader frees its streams by itself, `FreeSourceStream` closes
   /// it. Raises `StreamError` where it cannot be opened; all is as before then.
@@ -179,7 +181,9 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
   void SetAutoFreeSourceStreams(TAutoFreeSourceStreams Mode) noexcept { FAutoFreeSourceStreams = Mode; }
 
   /// Puts the current source on the stack, with its location and, if told to, its read methods, and reads
-  /// from nothing until another source is set. Peeked characters and the state are not saved.
+  /// from nothing until another source is set. Peeked characters and the state are not saved: pushed inside
+  /// base 64 of UTF-7, the next source begins inside it, and the one on the stack goes on as that one was
+  /// left. Push where the text is outside of base 64.
   void PushSource(bool StoreReadMethods);
   /// Goes on with the source on top of the stack; false where there is none. Happens by itself when a source
   /// ends. Read methods come back without `Init` or `Finalize`.
@@ -188,7 +192,8 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
   void ClearSourceStack();
   /// The source that waits on top; null for none.
   [[nodiscard]] PUnicodeReaderSource SourceStack() const noexcept { return FSourceStack; }
-  /// To the start of the source, of the stream from its first byte on.
+  /// To the start of the source, of the stream from its first byte on. The state stays: inside base 64 of
+  /// UTF-7 the first bytes are read as base 64 unless the read methods are set anew.
   void RewindSource();
   /// Goes over the buffered bytes again, as from the start of the source.
   void SourceStreamModified() noexcept;
@@ -252,8 +257,9 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
   /// which is not collected. Reads a character first where none is current.
   void ReadTillEndOfLine();
   void SkipTillEndOfLine();
-  /// The same with emptied Data: the Data is the line then.
+  /// As `ReadTillEndOfLine` with emptied Data: the Data is the line then.
   void ReadLine();
+  /// As `SkipTillEndOfLine`: the Data stays as it is.
   void SkipLine();
   /// Passes over lines that have nothing but characters that pass the test. Collects characters, and empties
   /// the Data at each line break: in the end it has what stands in front on the line that is not empty.

@@ -146,6 +146,12 @@ def check_conversions(program):
     several = program.run(["convert", "-f", "1250", "-t", "utf-8", source.name, "-", source.name])
     if (several.status, several.out, several.err) != (YES, "čč", ""):
         yield f"convert of two files and standard input: {several}"
+    source.write_bytes(b"+AGE")
+    target.write_bytes(b"AYg-c")
+    open_run = program.run(["convert", "-f", "utf-7", "-t", "utf-8", source.name, target.name])
+    if (open_run.status, open_run.out) != (YES, "aAYg-c"):
+        yield f"convert of a file that ends inside base 64 and another one: {open_run}"
+    source.write_bytes("č".encode("cp1250"))
     program.run(["convert", "-f", "1250", "-t", "utf-8", source.name, "-o", source.name])
     if source.read_bytes() != "č".encode():
         yield "convert of a file onto itself: another text"

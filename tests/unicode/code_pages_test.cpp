@@ -53,5 +53,26 @@ TEST(CodePages, ThatNobodyKnowsGiveNothing) {
   EXPECT_EQ(writer.DataSize(), 0u);
 }
 
+// The published table has nothing there; systems have controls.
+TEST(CodePages, FiveBytesOfWindows1250AreControlsOfTheSystemAlone) {
+  for (const char16_t control : {u'\u0081', u'\u0083', u'\u0088', u'\u0090', u'\u0098'}) {
+    const std::string byte(1, static_cast<char>(control));
+    const std::u16string text(1, control);
+    TDIUnicodeReader reader;
+    reader.AddStrW(text);
+    EXPECT_EQ(reader.DataAsStrA(1250), byte) << int{control};
+    TDIUnicodeWriter writer;
+    writer.SetWriteMethods(Write_UCS_2_LE);
+    EXPECT_TRUE(writer.WriteStrA(byte, 1250));
+    EXPECT_EQ(writer.DataToStrW(), text) << int{control};
+    reader.SetReadMethods(Read_Windows_1250);
+    reader.SetSourceBufferAsStrA(byte);
+    EXPECT_TRUE(reader.ReadChar());
+    EXPECT_EQ(reader.Char(), u'\uFFFD') << int{control};
+    writer.SetWriteMethods(Write_Windows_1250);
+    EXPECT_FALSE(writer.TryWriteCharW(control)) << int{control};
+  }
+}
+
 }  // namespace
 }  // namespace ravo::DIUnicode

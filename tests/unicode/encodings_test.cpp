@@ -12,6 +12,7 @@ namespace {
 using test::Read;
 using test::Write;
 using namespace std::string_literals;
+using namespace std::string_view_literals;
 
 TEST(EncodingRows, HaveDistinctNamesAndCodePages) {
   std::set<std::string_view> names;
@@ -104,6 +105,38 @@ TEST(ReadWindows1250, StatedCases) {
   EXPECT_EQ(Read(Read_Windows_1250, "\xD8\x80"), u"Ř€");
   EXPECT_EQ(Read(Read_Windows_1250, "a\x81z"), u"a\uFFFDz");
   EXPECT_EQ(Read(Read_Windows_1250, ""), u"");
+}
+
+// As in TIS 620, which the upper half of this encoding follows.
+TEST(WriteMacThai, AMarkAsItsOwnByteNotAsOneOfItsPositions) {
+  for (const char16_t mark : u"\u0E31\u0E34\u0E35\u0E36\u0E37\u0E47\u0E48\u0E49\u0E4A\u0E4B\u0E4C\u0E4D"sv) {
+    const std::u16string text(1, mark);
+    const std::string byte(1, static_cast<char>(mark - 0x0E00 + 0xA0));
+    EXPECT_EQ(Write(Write_Mac_Thai, text), byte) << static_cast<int>(mark);
+    EXPECT_EQ(Read(Read_Mac_Thai, byte), text) << static_cast<int>(mark);
+  }
+  EXPECT_EQ(Read(Read_Mac_Thai, "\x83\x88\x98\xE8"), u"\u0E48\u0E48\u0E48\u0E48");
+}
+
+// Where several bytes mean one character and none is a variant, the lowest is written.
+TEST(WriteSharedCharacters, TheLowestByte) {
+  for (unsigned char byte = 0x20; byte < 0x7F; ++byte) {
+    const std::string alone(1, static_cast<char>(byte));
+    for (const auto* const methods : {&Write_Mac_Hebrew, &Write_Mac_Arabic, &Write_Mac_Farsi}) {
+      EXPECT_EQ(Write(*methods, std::u16string(1, byte)), alone);
+    }
+  }
+  EXPECT_EQ(Write(Write_CP_1006, u"\uFE8E"), "\xB1");
+  EXPECT_EQ(Write(Write_Mac_Hebrew, u"\u05B8"), "\xCB");
+}
+
+// The two differ in signs below A0 and, above, in one letter.
+TEST(ReadKoi8Ru, HasTheLettersOfKoi8UAndTheBelarusianOne) {
+  for (int byte = 0xA0; byte < 0x100; ++byte) {
+    const std::string bytes(1, static_cast<char>(byte));
+    const std::u16string wanted = byte == 0xAE ? u"ў" : byte == 0xBE ? u"Ў" : Read(Read_Koi8_U, bytes);
+    EXPECT_EQ(Read(Read_Koi8_RU, bytes), wanted) << byte;
+  }
 }
 
 TEST(WriteUtf8, SurrogatesAsThreeBytesEach) {

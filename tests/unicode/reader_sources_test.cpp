@@ -353,6 +353,22 @@ TEST(PopSource, SkipsSourcesWithoutBytes) {
   EXPECT_EQ(Rest(reader), u"xstream") << "a stream of which nothing was read yet has bytes";
 }
 
+TEST(PopSource, AStreamGoesOnAfterItsBufferedBytes) {
+  std::string bytes(4098, 'x');
+  bytes[4097] = 'y';
+  MemoryStream long_stream = StreamOf(bytes);
+  TDIUnicodeReader reader;
+  reader.SetSourceBufferAsStrA("ab");
+  reader.ReadChar();
+  reader.PushSource(true);
+  reader.SetSourceStream(&long_stream);
+  while (reader.CharPos() < 4096) reader.ReadChar();
+  ASSERT_EQ(reader.SourceBufferPosition(), reader.SourceBufferSize());
+  reader.PushSource(true);
+  reader.SetSourceBufferAsStrA("c");
+  EXPECT_EQ(Rest(reader), u"cxyb");
+}
+
 TEST(ClearSourceStack, GoesToTheBottom) {
   TDIUnicodeReader reader;
   reader.SetSourceBufferAsStrA("ab", u"1");

@@ -7,6 +7,7 @@ namespace ravo::DIUnicode {
 namespace {
 
 using test::Write;
+using namespace std::string_view_literals;
 
 TEST(Utf7State, IsARecordWhoseFirstByteTellsBase64) {
   TDIUnicodeReader reader;
@@ -76,6 +77,79 @@ TEST(Utf7State, OfOthersIsTheirs) {
   reader.SetState(7);
   EXPECT_TRUE(reader.PopSource());
   EXPECT_EQ(reader.State(), 7U);
+}
+
+// A reader that has read "a" of the run "+AGEAYg-", two bits of the next unit included.
+constexpr std::string_view kRun = "+AGEAYg-";
+
+void ReadIntoARun(TDIUnicodeReader& reader) {
+  reader.SetReadMethods(Read_UTF_7);
+  reader.SetSourceBuffer(test::AsBytes(kRun));
+  ASSERT_TRUE(reader.ReadChar());
+  ASSERT_EQ(reader.Char(), u'a');
+}
+
+TEST(Utf7State, ANewSourceBeginsInsideTheRunThatWasLeft) {
+  TDIUnicodeReader buffers;
+  ReadIntoARun(buffers);
+  buffers.SetSourceBuffer(test::AsBytes("AYg-c"));
+  EXPECT_EQ(test::ReadAll(buffers), u"bc");
+
+  MemoryStream bytes(std::as_bytes(std::span("AYg-c"sv)));
+  TDIUnicodeReader streams;
+  ReadIntoARun(streams);
+  streams.SetSourceStream(&bytes);
+  EXPECT_EQ(test::ReadAll(streams), u"bc");
+
+  // The plus sign is 62, six bits of the unit: 00 111110 000000 00, 0110 000100 000000, twelve bits left
+  // over.
+  TDIUnicodeReader rewound;
+  ReadIntoARun(rewound);
+  rewound.RewindSource();
+  EXPECT_EQ(test::ReadAll(rewound), u"\u3E00\u6100\uFFFD");
+
+  for (const bool store : {false, true}) {
+    TDIUnicodeReader stacked;
+    ReadIntoARun(stacked);
+    stacked.PushSource(store);
+    stacked.SetSourceBuffer(test::AsBytes("AYg-c"));
+    EXPECT_EQ(test::ReadAll(stacked), u"bcAYg-") << "the one below goes on outside";
+  }
+}
+
+TEST(Utf7State, SetReadMethodsBeginsOutsideARun) {
+  TDIUnicodeReader reader;
+  ReadIntoARun(reader);
+  reader.SetReadMethods(Read_UTF_7);
+  reader.SetSourceBuffer(test::AsBytes("AYg-c"));
+  EXPECT_EQ(test::ReadAll(reader), u"AYg-c");
+  ReadIntoARun(reader);
+  reader.SetReadMethods(Read_UTF_7);
+  reader.RewindSource();
+  EXPECT_EQ(test::ReadAll(reader), u"ab");
+}
+
+// The end of all data ends a run: whoever reads a source to its end meets nothing of it in the next one.
+TEST(Utf7State, TheEndOfTheDataEndsARun) {
+  TDIUnicodeReader reader;
+  reader.SetReadMethods(Read_UTF_7);
+  reader.SetSourceBuffer(test::AsBytes("+AGE"));
+  EXPECT_EQ(test::ReadAll(reader), u"a");
+  reader.SetSourceBuffer(test::AsBytes("AYg"));
+  EXPECT_EQ(test::ReadAll(reader), u"AYg");
+}
+
+// A writer reads each stream from the start of an encoding.
+TEST(Utf7State, OfAStreamIsNotThatOfTheNextOneInAWriter) {
+  TDIUnicodeWriter writer;
+  writer.SetWriteMethods(Write_Windows_1250);
+  writer.SetOnInvalidChar([](TDIUnicodeWriter&, char16_t, char16_t&, std::uint32_t,
+                             TDIInvalidCharAction& action) { action = TDIInvalidCharAction::icAbort; });
+  MemoryStream first(std::as_bytes(std::span("+AGFOAABi-"sv)));
+  EXPECT_FALSE(writer.WriteStream(&first, Read_UTF_7)) << "U+4E00 is refused inside the run";
+  MemoryStream second(std::as_bytes(std::span("AYg-c"sv)));
+  EXPECT_TRUE(writer.WriteStream(&second, Read_UTF_7));
+  EXPECT_EQ(test::TextOf(writer.Data()), "aAYg-c");
 }
 
 TEST(WriteUtf7, HoldsBackUntilFlushed) {

@@ -29,6 +29,17 @@ CHOICES = {
     ("GB_18030", "a8bc"): (0x1E3F, FIRST_OF_2005),
     ("GB_18030", "8135f437"): (0xE7C7, FIRST_OF_2005),
 }
+# Why one of several bytes for a character is written.
+DIRECTIONS = "the two are for either direction of writing; the byte of ASCII is written"
+WRITTEN = {
+    "CP_1006": "Python reads both so; the International Components for Unicode have the final form of alef at B1 alone",
+    "Mac_Hebrew": DIRECTIONS,
+    "Mac_Arabic": DIRECTIONS,
+    "Mac_Farsi": DIRECTIONS,
+}
+VARIANT = "the others are variants of it: the source has a mark of Apple's behind the character"
+
+VARIANT_MARKS = "".join(map(chr, range(0xF870, 0xF880)))
 # Why the first source was preferred where others differ.
 ASCII_OF_APPLE = "Perl's tables of Apple's encodings lack bytes of ASCII"
 REASONS = {
@@ -45,6 +56,11 @@ REASONS = {
     "GB_18030": "in the edition of 2005 every sequence has a character of its own below U+10000, of private use where "
                 "later editions chose another one",
 }
+
+
+def plain(text):
+    """A text without Apple's own marks of a variant, which follow the character that they vary."""
+    return text.rstrip(VARIANT_MARKS) or text
 
 
 class Table:
@@ -65,11 +81,10 @@ class Table:
             return choice[0]
         if text is None:
             return self.choose_missing(key)
-        # Apple's own marks of a variant follow the character that they vary.
-        plain = text.rstrip("".join(map(chr, range(0xF870, 0xF880)))) or text
-        if len(plain) != 1:
+        char = plain(text)
+        if len(char) != 1:
             raise ValueError(f"{self.row['name']} {key.hex()}: several characters, {text!r}; a choice is needed")
-        return ord(plain) if ord(plain) < 0x10000 else UNASSIGNED
+        return ord(char) if ord(char) < 0x10000 else UNASSIGNED
 
     def choose_missing(self, key):
         """Perl's tables of Apple's encodings lack bytes that are those of ASCII."""
@@ -94,10 +109,24 @@ class Table:
     def unassigned(self):
         return [key for key in self.keys if self.chosen[key] == UNASSIGNED]
 
+    def variants(self):
+        """The bytes that the first source reads as the chosen character with the mark of a variant."""
+        text = self.sources[0]
+        return [key for key in self.keys if key in text and text[key] != plain(text[key]) == chr(self.chosen[key])]
 
-def numbers(values, width=8):
+    def shared(self):
+        """(character, bytes, why the first of them is written) of every character that several bytes mean."""
+        variants, bytes_of = self.variants(), {}
+        for key in sorted(self.keys, key=lambda key: (key in variants, key)):
+            bytes_of.setdefault(self.chosen[key], []).append(key)
+        for unit, keys in sorted(bytes_of.items()):
+            if len(keys) > 1 and unit != UNASSIGNED:
+                yield chr(unit), keys, VARIANT if keys[-1] in variants else WRITTEN[self.row["name"]]
+
+
+def numbers(values, width=8, digits=4):
     """Rows of C++ numbers."""
-    values = [f"0x{value:04X}" for value in values]
+    values = [f"0x{value:0{digits}X}" for value in values]
     return "".join("    " + ", ".join(values[at : at + width]) + ",\n" for at in range(0, len(values), width))
 
 
@@ -111,7 +140,15 @@ def render_single(tables):
         count = len(table.unassigned())
         parts.append(f"\n// {table.row['label']}; {' '.join(table.names)}; {256 - count} bytes assigned.\n")
         parts.append(f"inline constexpr ByteTable k{table.row['table']} = {{\n{numbers(table.chosen.values())}}};\n")
-    return "".join(parts) + "\n}  // namespace ravo::DIUnicode::tables\n"
+    parts.append("\n}  // namespace ravo::DIUnicode::tables\n\nnamespace ravo::DIUnicode {\n")
+    parts += [render_variants(table) for table in tables if table.variants()]
+    return "".join(parts) + "\n}  // namespace ravo::DIUnicode\n"
+
+
+def render_variants(table):
+    variants = [key[0] for key in table.variants()]
+    return (f"\ntemplate <>\ninline constexpr std::array<std::uint8_t, {len(variants)}> "
+            f"kVariants<tables::k{table.row['table']}> = {{\n{numbers(variants, 8, 2)}}};\n")
 
 
 # GB 18030.

@@ -81,7 +81,7 @@ void AddEncodingsCommand(CLI::App& program, Outcome& outcome) {
   const auto options = std::make_shared<EncodingOptions>();
   CLI::App* const command =
       program.add_subcommand("encodings", "Lists the encodings that text is read and written in");
-  command->add_option("NAME", options->wanted, "A name, another name or a code page number");
+  command->add_option("NAME", options->wanted, "A name, another name, a label or a code page number");
   command->add_flag("--json", options->json, "A JSON array with all that is known of them");
   command->footer(kEncodingsFooter);
   command->callback([options, &outcome] { Run(*options, outcome); });

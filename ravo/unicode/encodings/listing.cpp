@@ -36,6 +36,11 @@ bool SameName(std::string_view left, std::string_view right) {
   }
 }
 
+// A label with or without what it says in parentheses.
+bool HasLabel(const EncodingRow& row, std::string_view name) {
+  return SameName(row.label, name) || SameName(row.label.substr(0, row.label.find(" (")), name);
+}
+
 bool HasName(const EncodingRow& row, std::string_view name) {
   if (SameName(row.name, name)) return true;
   for (std::string_view rest = row.aliases; !rest.empty();) {
@@ -60,6 +65,14 @@ std::uint32_t NumberOf(std::string_view digits) {
     number = number * 10 + static_cast<std::uint32_t>(ch - '0');
   }
   return number;
+}
+
+// "cp" in any case and a separator, if there are any, taken off a number.
+std::string_view WithoutCp(std::string_view name) {
+  if (name.size() < 2 || (name[0] | 0x20) != 'c' || (name[1] | 0x20) != 'p') return name;
+  name.remove_prefix(2);
+  if (name.starts_with('-') || name.starts_with('_') || name.starts_with(' ')) name.remove_prefix(1);
+  return name;
 }
 
 using EncodeAlone = bool (*)(SpanTarget& target, char16_t ch);
@@ -94,8 +107,10 @@ std::span<const EncodingRow> EncodingRows() noexcept { return kRows; }
 
 const EncodingRow* FindEncoding(std::string_view name) noexcept {
   if (std::string_view rest = name; NextLetter(rest) == 0) return nullptr;
-  const EncodingRow* const named = FindRow([name](const EncodingRow& row) { return HasName(row, name); });
-  return named != nullptr ? named : FindEncodingByCodePage(NumberOf(name));
+  if (const auto* const row = FindRow([name](const EncodingRow& each) { return HasName(each, name); }))
+    return row;
+  if (const auto* const row = FindEncodingByCodePage(NumberOf(WithoutCp(name)))) return row;
+  return FindRow([name](const EncodingRow& row) { return HasLabel(row, name); });
 }
 
 const EncodingRow* FindEncodingByCodePage(std::uint32_t code_page) noexcept {

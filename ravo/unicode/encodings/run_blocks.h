@@ -45,8 +45,8 @@ struct RunKernel {
 
 /// All of them, the plain one first and the fastest last.
 [[nodiscard]] std::span<const RunKernel> RunKernels() noexcept;
-/// Chooses the fastest that runs here, unless one is chosen already; what gives runs to others does that
-/// first.
+/// Chooses the fastest that runs here when it is called for the first time; a call while another thread
+/// chooses does not wait. What gives runs to others calls it first.
 void ChooseRunKernel() noexcept;
 /// The chosen one; before, one that runs everywhere.
 extern constinit std::atomic<const RunKernel*> chosen_run_kernel;

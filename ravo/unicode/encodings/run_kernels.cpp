@@ -28,7 +28,9 @@ constexpr const RunKernel* kEverywhere = &kKernels[1];
 
 constinit std::atomic<const RunKernel*> chosen_run_kernel{kEverywhere};
 
-// Two threads that come first together choose the same.
+// The first caller alone chooses, and no other one waits for it: until the choice is stored, other threads
+// use the kernel that runs everywhere. All kernels give the same characters and bytes, each a prefix of what
+// could be done.
 void ChooseRunKernel() noexcept {
   static std::atomic<bool> is_chosen{false};
   if (is_chosen.exchange(true)) return;

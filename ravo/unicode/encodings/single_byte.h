@@ -13,9 +13,13 @@ namespace ravo::DIUnicode {
 
 using ByteTable = std::array<char16_t, 256>;
 
+/// The bytes of a table that mean a character in another position or shape, not the character itself.
+template <const ByteTable& table>
+inline constexpr std::array<std::uint8_t, 0> kVariants{};
+
 /// A table from characters to bytes. The first page is empty and stands for all pages without characters, the
-/// second is that of the characters below U+0100, the third that of the script. Where several bytes mean one
-/// character, the lowest stands for it.
+/// second is that of the characters below U+0100, the third that of the script. If several bytes mean one
+/// character, the lowest that is no variant stands for it.
 struct ReverseTable {
   const std::uint16_t* page_of;  ///< by the upper byte of the character: where its page begins
   const std::uint8_t* pages;     ///< 256 bytes each; 0 means none, but for the character 0
@@ -49,6 +53,22 @@ class Reversed {
     return static_cast<std::uint8_t>(std::max_element(counts.begin(), counts.end()) - counts.begin());
   }
 
+  static constexpr bool IsVariant(std::size_t byte) {
+    return std::find(kVariants<table>.begin(), kVariants<table>.end(), byte) != kVariants<table>.end();
+  }
+
+  // All bytes, the variants last.
+  static constexpr std::array<std::uint8_t, 256> InOrder() {
+    std::array<std::uint8_t, 256> bytes{};
+    std::size_t count = 0;
+    for (const bool variant : {false, true}) {
+      for (std::size_t byte = 0; byte < bytes.size(); ++byte) {
+        if (IsVariant(byte) == variant) bytes[count++] = static_cast<std::uint8_t>(byte);
+      }
+    }
+    return bytes;
+  }
+
   struct Stages {
     std::array<std::uint16_t, 256> page_of{};
     std::array<std::uint8_t, 256 * (CountPages() + 1)> pages{};
@@ -59,13 +79,13 @@ class Reversed {
     stages.page_of[0] = 256;
     if (Script() != 0) stages.page_of[Script()] = 512;
     std::uint16_t last = Script() != 0 ? 512 : 256;
-    for (std::size_t byte = 0; byte < table.size(); ++byte) {
+    for (const std::uint8_t byte : InOrder()) {
       const char16_t ch = table[byte];
       if (ch == kReplacement) continue;
       std::uint16_t& page = stages.page_of[ch >> 8];
       if (page == 0) page = last = static_cast<std::uint16_t>(last + 256);
       std::uint8_t& entry = stages.pages[page + (ch & 0xFFU)];
-      if (entry == 0) entry = static_cast<std::uint8_t>(byte);
+      if (entry == 0) entry = byte;
     }
     return stages;
   }

@@ -2239,3 +2239,19 @@ inline constexpr ByteTable kTIS_620 = {
 };
 
 }  // namespace ravo::DIUnicode::tables
+
+namespace ravo::DIUnicode {
+
+template <>
+inline constexpr std::array<std::uint8_t, 1> kVariants<tables::kMac_Hebrew> = {
+    0xDE,
+};
+
+template <>
+inline constexpr std::array<std::uint8_t, 22> kVariants<tables::kMac_Thai> = {
+    0x83, 0x84, 0x85, 0x86, 0x87, 0x88, 0x89, 0x8A,
+    0x8B, 0x8C, 0x8F, 0x92, 0x93, 0x94, 0x95, 0x96,
+    0x97, 0x98, 0x99, 0x9A, 0x9B, 0x9C,
+};
+
+}  // namespace ravo::DIUnicode
