@@ -3,8 +3,13 @@
 #include <ravo/runtime/byte_stream.h>
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
+
+namespace ravo::platform {
+class KeptInput;
+}  // namespace ravo::platform
 
 namespace ravo {
 
@@ -17,9 +22,12 @@ enum class FileMode : std::uint8_t {
 };
 
 /// A named file as a byte stream, 64-bit positions. The name is UTF-16; "\" and "/" both separate folders.
+///
+/// A file that cannot seek (a pipe, a terminal) is read like one that can: what it gave stays in memory.
+/// Opening and reading it wait for whoever writes it, and `Size` waits for its end.
 class RAVO_API FileStream final : public ByteStream {
  public:
-  /// Raises `StreamError` (open) with the name and the system's own words where the file cannot be opened.
+  /// Throws `StreamError` (open) with the name and the system's own words if the file cannot be opened.
   FileStream(std::u16string_view name, FileMode mode);
   ~FileStream() override;
 
@@ -30,9 +38,13 @@ class RAVO_API FileStream final : public ByteStream {
   [[nodiscard]] std::int64_t Size() const override;
 
  private:
+  explicit FileStream(std::intptr_t handle) noexcept;
+
   // A file descriptor or a Windows handle.
   std::intptr_t handle_;
   std::int64_t position_ = 0;
+  // Null for a file that can seek.
+  std::unique_ptr<platform::KeptInput> kept_;
 };
 
 }  // namespace ravo

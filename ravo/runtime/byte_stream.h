@@ -18,7 +18,7 @@ class RAVO_API ByteStream {
   virtual ~ByteStream();
 
   /// Reads up to `to.size()` bytes from the position on and moves it; answers how many were read, 0 at the
-  /// end.
+  /// end. Throws `StreamError` if the bytes cannot be read.
   [[nodiscard]] virtual std::size_t Read(std::span<std::byte> to) = 0;
 
   /// Writes up to `from.size()` bytes at the position and moves it; answers how many were written.

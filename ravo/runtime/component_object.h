@@ -10,6 +10,26 @@
 
 namespace ravo {
 
+/// Whether an identifier is that of `Interface` or of one of the platform's interfaces below it.
+template <class Interface>
+[[nodiscard]] constexpr bool Answers(const Guid& interface_id) noexcept {
+  // A copy keeps the constant of an exported interface out of the library's exports.
+  constexpr Guid own = Interface::kInterfaceId;
+  return interface_id == own || interface_id == IUnknown::kInterfaceId ||
+         (std::derived_from<Interface, IDispatch> && interface_id == IDispatch::kInterfaceId);
+}
+
+/// `QueryInterface` of an object whose interfaces are those that `Answers` names: they form one line, so that
+/// one pointer stands for all of them. `kNullPointer` where there is no place for the result.
+template <class Interface>
+[[nodiscard]] ResultCode AnswerQuery(Interface& self, const Guid& interface_id, void** object) noexcept {
+  if (!object) return result_code::kNullPointer;
+  *object = Answers<Interface>(interface_id) ? &self : nullptr;
+  if (!*object) return result_code::kNoInterface;
+  self.AddRef();
+  return result_code::kOk;
+}
+
 /// Identity and reference count of an object that implements `Interface`: it answers to that interface and to
 /// those of the platform below it, and ends with its last reference. Make one with `MakeComponent`.
 template <class Interface>
@@ -23,11 +43,7 @@ class ComponentObject : public Interface {
   /// `Interface` and the platform's interfaces below it; `kNullPointer` where there is no place for the
   /// result.
   ResultCode RAVO_STDCALL QueryInterface(const Guid& interface_id, void** object) noexcept override {
-    if (!object) return result_code::kNullPointer;
-    *object = Supports(interface_id) ? static_cast<Interface*>(this) : nullptr;
-    if (!*object) return result_code::kNoInterface;
-    AddRef();
-    return result_code::kOk;
+    return AnswerQuery<Interface>(*this, interface_id, object);
   }
 
   /// One reference more; answers how many there are.
@@ -41,12 +57,6 @@ class ComponentObject : public Interface {
   }
 
  private:
-  // The interfaces form one line, so that one pointer stands for all of them.
-  static constexpr bool Supports(const Guid& interface_id) noexcept {
-    return interface_id == Interface::kInterfaceId || interface_id == IUnknown::kInterfaceId ||
-           (std::derived_from<Interface, IDispatch> && interface_id == IDispatch::kInterfaceId);
-  }
-
   std::atomic<std::uint32_t> references_{1};
 };
 

@@ -29,16 +29,16 @@ bool ForceDirectories(std::u16string_view folder) { return ForceDirectoriesW(fol
 bool ForceDirectoriesA(std::string_view folder) { return ForceDirectoriesW(Wide(folder)); }
 bool ForceDirectoriesW(std::u16string_view folder) {
   // The folder before its parents: they are made in the opposite order.
-  std::vector<std::u16string> missing;
+  std::vector<std::u16string_view> missing;
   while (!DirectoryExistsW(folder)) {
     folder = utils::WithoutDelimiter(folder);
     const std::u16string_view parent = utils::PathOf(folder);
     if (folder.size() < kShortestFolder || parent.size() == folder.size()) break;
-    missing.emplace_back(folder);
+    missing.push_back(folder);
     folder = parent;
   }
   return std::all_of(missing.rbegin(), missing.rend(),
-                     [](const std::u16string& name) { return CurrentMachine().Files().CreateFolder(name); });
+                     [](std::u16string_view name) { return CurrentMachine().Files().CreateFolder(name); });
 }
 
 bool DeleteDirectory(std::u16string_view folder, bool with_folder) {

@@ -60,7 +60,7 @@ std::atomic<bool> registered = false;
 
 IECXMLParser::~IECXMLParser() = default;
 
-TECXMLParser::TECXMLParser(TComponent* AOwner) : TComponent(AOwner), FRoot(new TXMLItem) {
+TECXMLParser::TECXMLParser(TComponent* AOwner) : OwnedComponent(AOwner), FRoot(new TXMLItem) {
   FRoot->SetParser(this);
 }
 

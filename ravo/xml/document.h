@@ -3,7 +3,7 @@
 #include <ravo/runtime/byte_stream.h>
 #include <ravo/runtime/export.h>
 #include <ravo/runtime/guid.h>
-#include <ravo/runtime/owned_object.h>
+#include <ravo/runtime/owned_component.h>
 #include <ravo/xml/item.h>
 
 #include <array>
@@ -39,13 +39,16 @@ using TNotifyEvent = std::function<void(TComponent& Sender)>;
 /// What the interface is known by.
 inline constexpr Guid IID_IECXMLParser{"{6388C6AB-6393-4AD2-A4AF-22E2BC3F97BF}"};
 
-/// A document, however it is held.
-class RAVO_API IECXMLParser {
+/// A document, however it is held. Objects that have this interface give it to whoever asks for
+/// `IID_IECXMLParser`.
+class RAVO_API IECXMLParser : public IUnknown {
  public:
+  /// What `QueryInterface` finds it by.
+  static constexpr Guid kInterfaceId = IID_IECXMLParser;
+
   IECXMLParser() = default;
   IECXMLParser(const IECXMLParser&) = delete;
   IECXMLParser& operator=(const IECXMLParser&) = delete;
-  virtual ~IECXMLParser();
 
   /// The root item; never null.
   [[nodiscard]] virtual TXMLItem* GetRoot() = 0;
@@ -59,11 +62,14 @@ class RAVO_API IECXMLParser {
   virtual void LoadFromStream(ByteStream& Stream) = 0;
   /// Writes the document at the stream's position; `StreamError` where the stream does not take it all.
   virtual void SaveToStream(ByteStream& Stream, bool XSL) = 0;
+
+  // Last, so that the operations directly follow those of the base interface.
+  virtual ~IECXMLParser();
 };
 
 /// An XML document: the root item, which is the document's own for its whole life, and the names of encoding
 /// and style sheet. The encoding is a name alone: bytes are always those of the system's 8-bit code page.
-class RAVO_API TECXMLParser final : public TComponent, public IECXMLParser {
+class RAVO_API TECXMLParser final : public OwnedComponent<IECXMLParser> {
  public:
   /// The published properties in their order.
   static constexpr auto kPublished = std::to_array<std::string_view>(
@@ -138,13 +144,13 @@ class RAVO_API TECXMLParser final : public TComponent, public IECXMLParser {
 
 /// Another face of a document, so that several forms can share it. It holds a plain reference: the document
 /// must outlive its use. Every use without a document raises `Error`.
-class RAVO_API TXMLGhost final : public TComponent, public IECXMLParser {
+class RAVO_API TXMLGhost final : public OwnedComponent<IECXMLParser> {
  public:
   /// The published properties in their order.
   static constexpr auto kPublished = std::to_array<std::string_view>({"PrimaryDocument"});
 
   /// Without a document; `AOwner` frees it, null means the caller does.
-  explicit TXMLGhost(TComponent* AOwner = nullptr) : TComponent(AOwner) {}
+  explicit TXMLGhost(TComponent* AOwner = nullptr) : OwnedComponent(AOwner) {}
   ~TXMLGhost() override;
 
   /// As the document does.

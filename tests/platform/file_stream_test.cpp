@@ -1,3 +1,4 @@
+#include "support/guarded_buffer.h"
 #include "support/scratch_folder.h"
 #include <ravo/platform/file_stream.h>
 #include <ravo/runtime/error.h>
@@ -103,6 +104,24 @@ TEST(FileStream, AtTheEndThereIsNothingToRead) {
   stream.SetPosition(2);
   EXPECT_THROW(stream.ReadChecked(buffer), StreamError);
   EXPECT_EQ(stream.Read({}), 0U);
+}
+
+// The system refuses memory that nobody may write.
+TEST(FileStream, AFailedReadIsNoEnd) {
+  const ScratchFolder folder;
+  WriteFile(folder.File(u"a"), "text");
+  FileStream stream(folder.File(u"a"), FileMode::Read);
+  const test::GuardedBuffer buffer(BytesOf("x"));
+  const std::span unwritable(buffer.Bytes().data() + 1, 4);
+  try {
+    static_cast<void>(stream.Read(unwritable));
+    FAIL() << "read";
+  } catch (const StreamError& error) {
+    EXPECT_EQ(error.Operation(), StreamOperation::Read);
+    EXPECT_GT(error.Message().size(), std::u16string_view(u"Stream read error: ").size());
+  }
+  EXPECT_EQ(stream.Position(), 0);
+  EXPECT_EQ(ReadAll(stream), "text");
 }
 
 TEST(FileStream, OpenedForReadingItDoesNotWrite) {

@@ -4,6 +4,7 @@ import json
 import os
 import pathlib
 import subprocess
+import threading
 import zlib
 
 from harness import NO, WRONG_USAGE, YES, Row
@@ -176,6 +177,49 @@ def check_full_device(program):
         yield "report -o /dev/full: no failure"
     if not pathlib.Path("/dev/full").is_char_device():
         yield "report -o /dev/full: the device is gone"
+
+
+PIPED = {
+    ("xml", "show"): (b'\xef\xbb\xbf<?xml version="1.0"?>\n<a/>\n', YES),
+    ("xml", "format"): (b"<abc/>\n" * 20000, YES),
+    ("sort",): (b"b\na\n" * 40000, YES),
+    ("hash", "crc32"): (b"123456789" * 10000, YES),
+    ("hash", "crc32", "--check"): (b"00000000  gone\n" * 3, NO),
+    ("convert", "-f", "windows-1250", "-t", "utf-8"): ("účet\n".encode("cp1250") * 20000, YES),
+    ("check", "--column", "VS=vs", "--csv"): (b"VS\n" + b"0\n" * 40000, YES),
+}
+
+
+def check_pipes(program):
+    """A pipe that has a name is read like a file of the same bytes."""
+    if program.emulated or not hasattr(os, "mkfifo"):
+        return
+    file = program.folder / "piped"
+    for words, (content, status) in PIPED.items():
+        file.write_bytes(content)
+        wanted = program.run([*words, file.name])
+        file.unlink()
+        os.mkfifo(file)
+        writer = threading.Thread(target=file.write_bytes, args=(content,), daemon=True)
+        writer.start()
+        result = program.run([*words, file.name])
+        writer.join(timeout=60)
+        file.unlink()
+        if wanted.status != status or result != wanted:
+            yield f"{' '.join(words)} of a pipe: {result}, not {wanted}"
+
+
+def check_unreadable(program):
+    """What fails when it is read is no empty file. The memory of a process has nothing at its beginning."""
+    memory = pathlib.Path("/proc/self/mem")
+    if program.emulated or not memory.exists():
+        return
+    for words in PIPED:
+        result = program.run([*words, str(memory)])
+        if result.status != WRONG_USAGE or not result.err or result.out:
+            yield f"{' '.join(words)} {memory}: {result}"
+        if words[0] in ("sort", "hash", "convert") and program.run([*words, "-"], given=memory).status != WRONG_USAGE:
+            yield f"{' '.join(words)} - <{memory}: no failure"
 
 
 def check_colours(program):

@@ -12,8 +12,8 @@ import tempfile
 
 from command_rows import ROWS
 from document_checks import check_forms, check_xml, check_xml_encodings, check_xml_samples, check_xml_unreadable
-from file_checks import (check_colours, check_conversions, check_damaged_files, check_full_device, check_report_file, check_report_json,
-                         check_sorted_files, check_sums)
+from file_checks import (check_colours, check_conversions, check_damaged_files, check_full_device, check_pipes, check_report_file,
+                         check_report_json, check_sorted_files, check_sums, check_unreadable)
 from harness import NO, SKIPPED, YES, Program, Row, differs
 from long_work_checks import check_interruption, check_progress
 
@@ -37,6 +37,8 @@ CHECKS = (
     check_conversions,
     check_interruption,
     check_full_device,
+    check_pipes,
+    check_unreadable,
     check_colours,
     check_damaged_files,
     check_sorted_files,

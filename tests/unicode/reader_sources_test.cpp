@@ -3,9 +3,11 @@
 #include "support/error_text.h"
 #include "support/fake_stream.h"
 #include "support/guarded_buffer.h"
+#include "support/named_pipe.h"
 #include "support/scratch_folder.h"
 #include <ravo/DIUnicode.h>
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -218,6 +220,26 @@ TEST(SetSourceFile, OpensTheFile) {
   EXPECT_EQ(reader.SourceBuffer(), nullptr);
   EXPECT_FALSE(reader.ReadChar());
   reader.FreeSourceStream();
+}
+
+TEST(SetSourceFile, ReadsAPipe) {
+  const std::string text(10'000, 'x');
+  const test::NamedPipe pipe(text);
+  TDIUnicodeReader reader;
+  reader.SetSourceFile(pipe.Name());
+  EXPECT_EQ(Rest(reader).size(), text.size());
+  reader.RewindSource();
+  EXPECT_EQ(Rest(reader).size(), text.size());
+}
+
+// The memory of a process has nothing at its beginning that could be read.
+TEST(SetSourceFile, AFailedReadIsNoEnd) {
+  constexpr std::u16string_view unreadable = u"/proc/self/mem";
+  if (!std::filesystem::exists(unreadable))
+    GTEST_SKIP() << "this system has no file that fails when it is read";
+  TDIUnicodeReader reader;
+  reader.SetSourceFile(unreadable);
+  EXPECT_THROW(reader.ReadChar(), StreamError);
 }
 
 TEST(RewindSource, GoesToTheFirstByte) {

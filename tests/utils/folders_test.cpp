@@ -1,3 +1,4 @@
+#include "support/allocation_count.h"
 #include "support/fake_machine.h"
 #include "support/scratch_folder.h"
 #include "support/suite_name.h"
@@ -86,6 +87,18 @@ TEST(ForceDirectories, NestsAsDeepAsNamesGo) {
   std::u16string folder = u"C:";
   for (int i = 0; i < 3000; ++i) folder += u"\\a";
   EXPECT_FALSE(ForceDirectoriesW(folder));
+}
+
+// A copy of each missing level would need memory that is quadratic in the length of the name: 1.8 GB here.
+TEST(ForceDirectories, ALongNameCostsLittleMemory) {
+  if (!test::kAllocationsCounted) GTEST_SKIP() << "a sanitizer allocates";
+  const FakeMachine machine;
+  const platform::ScopedMachine scope(machine);
+  std::u16string folder = u"C:";
+  for (int i = 0; i < 30'000; ++i) folder += u"\\a";
+  const std::size_t before = test::AllocationCount();
+  EXPECT_FALSE(ForceDirectoriesW(folder));
+  EXPECT_LT(test::AllocationCount() - before, 100U);
 }
 
 void Fill(const ScratchFolder& scratch) {

@@ -1,9 +1,11 @@
 #include "support/fake_machine.h"
+#include "support/named_pipe.h"
 #include "support/scratch_folder.h"
 #include "support/suite_name.h"
 #include <ravo/DIUtils.h>
 #include <ravo/runtime/error.h>
 
+#include <filesystem>
 #include <fstream>
 
 #include <gtest/gtest.h>
@@ -180,6 +182,24 @@ TEST(LoadStrW, LeavesOutHalfAUnit) {
   EXPECT_EQ(text, u"A");
   EXPECT_TRUE(LoadStrWFromFileW(scratch.File(u"one"), text));
   EXPECT_EQ(text, u"");
+}
+
+TEST(LoadStr, ReadsAPipeToItsEnd) {
+  const std::string content(200'000, 'x');
+  const test::NamedPipe pipe(content);
+  std::string text;
+  EXPECT_TRUE(LoadStrAFromFileW(pipe.Name(), text));
+  EXPECT_TRUE(text == content);
+}
+
+// The memory of a process has nothing at its beginning that could be read.
+TEST(LoadStr, IsFalseForWhatFailsWhenItIsRead) {
+  constexpr std::u16string_view unreadable = u"/proc/self/mem";
+  if (!std::filesystem::exists(unreadable))
+    GTEST_SKIP() << "this system has no file that fails when it is read";
+  std::string text = "before";
+  EXPECT_FALSE(LoadStrAFromFileW(unreadable, text));
+  EXPECT_EQ(text, "before");
 }
 
 TEST(LoadStr, EveryLengthAroundABufferComesBack) {

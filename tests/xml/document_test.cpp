@@ -1,3 +1,4 @@
+#include "support/named_pipe.h"
 #include "support/scratch_folder.h"
 #include "xml_text.h"
 #include <ravo/ECXMLParser.h>
@@ -323,6 +324,41 @@ TEST(Files, AreLoadedAndSaved) {
   }
   parser.SaveToFile(folder.File(u"xsl"));
   EXPECT_EQ(FileText(folder, u"xsl"), std::string(kHead) + reference + body);
+}
+
+// More than the tokenizer's buffer holds, so that it is filled several times.
+TEST(Files, MayBePipes) {
+  std::string text = std::string(kHead) + "<a>\n";
+  for (int i = 0; i < 20'000; ++i) text += "<b/>\n";
+  const NamedPipe pipe(text + "</a>");
+  TECXMLParser parser;
+  parser.LoadFromFile(pipe.Name());
+  EXPECT_EQ(parser.Root()->Name(), u"a");
+  EXPECT_EQ(parser.Root()->SubItemCount(), 20'000);
+  EXPECT_EQ(parser.Encoding(), u"windows-1250");
+}
+
+TEST(Files, MayBePipesForTheLargeTokenizer) {
+  const NamedPipe pipe(std::string(kHead) + "<a>\n<b/>\n</a>\n");
+  FileStream stream(pipe.Name(), FileMode::Read);
+  TECXMLParser parser;
+  parser.Root()->LoadFromLargeStream(stream);
+  EXPECT_EQ(parser.Root()->Name(), u"a");
+  EXPECT_EQ(parser.Root()->SubItemCount(), 1);
+}
+
+// The memory of a process has nothing at its beginning that could be read.
+TEST(Files, ThatCannotBeReadAreNoEmptyDocuments) {
+  constexpr std::u16string_view unreadable = u"/proc/self/mem";
+  if (!std::filesystem::exists(unreadable))
+    GTEST_SKIP() << "this system has no file that fails when it is read";
+  TECXMLParser parser;
+  try {
+    parser.LoadFromFile(unreadable);
+    FAIL() << "loaded";
+  } catch (const StreamError& error) {
+    EXPECT_EQ(error.Operation(), StreamOperation::Read);
+  }
 }
 
 // A name without folder and extension is one of the current folder, and no style sheet.

@@ -317,9 +317,22 @@ TEST(Nesting, OfAMillionLevelsCostsNoStack) {
 }
 
 TEST(Nesting, OfAMillionNewItemsCostsNoStack) {
+  constexpr int kDepth = 1'000'000;
+  TECXMLParser parser;
   TXMLItem item;
   TXMLItem* at = &item;
-  for (int i = 0; i < 1'000'000; ++i) at = at->New();
+  for (int i = 0; i < kDepth; ++i) at = at->New();
+  item.SetCrLfInAsString(false);
+  item.SetParser(&parser);
+  EXPECT_EQ(at->Parser(), &parser);
+  int levels = 0;
+  for (; at != &item; at = at->Parent()) levels += at->Parent()->IndexOf(at) == 0 ? 1 : 0;
+  EXPECT_EQ(levels, kDepth);
+  // The innermost item stands alone.
+  EXPECT_EQ(item.XMLItemAsString(0).size(), kDepth * std::string_view("<></>").size() + 3U);
+  item.Clear();
+  EXPECT_EQ(item.SubItemCount(), 0);
+  EXPECT_EQ(item.New()->SubItemCount(), 0);
 }
 
 TEST(Breadth, StaysLinear) {

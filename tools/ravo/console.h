@@ -18,6 +18,9 @@ enum class Channel { Out, Err };
 /// False where not all of it could be written.
 [[nodiscard]] bool Write(Channel channel, std::string_view utf8);
 
+/// The name that stands for standard input.
+inline constexpr std::string_view kInputName = "-";
+
 /// Reads bytes of standard input as they stand; gives how many, 0 at the end. Raises `std::runtime_error`
 /// where it cannot be read.
 [[nodiscard]] std::size_t ReadInput(std::span<std::byte> to);

@@ -26,9 +26,6 @@ inline constexpr std::array<FileSumKind, 3> kFileSums = {
 
 using FileSums = std::array<std::uint32_t, kFileSums.size()>;
 
-/// The name that stands for standard input.
-inline constexpr std::string_view kInputName = "-";
-
 /// The sums of a file, or of standard input, in one reading, of whatever size, or `only` one of them (the
 /// others are then anything). `name` is UTF-8. No value where it cannot be read.
 [[nodiscard]] std::optional<FileSums> SumsOfFile(const std::string& name, const FileSumKind* only);

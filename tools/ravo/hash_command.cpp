@@ -1,11 +1,11 @@
 #include "commands.h"
+#include "console.h"
 #include "file_hash.h"
 #include "json_text.h"
+#include "whole_input.h"
 
-#include <filesystem>
-#include <fstream>
-#include <iostream>
 #include <memory>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -119,15 +119,10 @@ void Report(const std::string& name, const Tally& tally, Outcome& outcome) {
 }
 
 void CheckList(const HashTask& task, const std::string& name, Outcome& outcome) {
-  const std::filesystem::path path(std::u8string(name.begin(), name.end()));
-  const bool is_input = name == kInputName;
-  std::error_code error;
-  std::ifstream file;
-  if (!is_input) file.open(path, std::ios::binary);
-  if (!file || std::filesystem::is_directory(path, error))
-    Complain(outcome, name, "cannot be read", Answer::WrongUsage);
-  else
-    Report(name, CheckLines(is_input ? std::cin : file, task.kind, outcome), outcome);
+  const auto text = ReadWhole(name);
+  if (!text) return Complain(outcome, name, "cannot be read", Answer::WrongUsage);
+  std::istringstream list(*text);
+  Report(name, CheckLines(list, task.kind, outcome), outcome);
 }
 
 void CheckLists(const HashTask& task, Outcome& outcome) {

@@ -1,12 +1,10 @@
 #include "commands.h"
 #include "foreign_text.h"
+#include "whole_input.h"
 #include <ravo/DIUtils.h>
 #include <ravo/RavoInterface.h>
 
 #include <algorithm>
-#include <filesystem>
-#include <fstream>
-#include <iostream>
 #include <iterator>
 #include <memory>
 #include <optional>
@@ -26,16 +24,6 @@ struct SortOptions {
   bool natural = false;
   bool ignore_case = false;
 };
-
-std::string AllOf(std::istream& stream) { return {std::istreambuf_iterator<char>(stream), {}}; }
-
-std::optional<std::string> BytesOf(const std::string& name) {
-  if (name == "-") return AllOf(std::cin);
-  const std::filesystem::path path(ravo::FromUtf8(name));
-  std::ifstream file(path, std::ios::binary);
-  if (std::filesystem::is_directory(path) || !file) return {};
-  return AllOf(file);
-}
 
 void AddLines(const std::string& bytes, TextLines& lines) {
   const std::u16string text = ravo::FromUtf8(ForeignText(bytes));
@@ -77,7 +65,7 @@ void Sort(std::span<TextLine> lines, Order order) {
 void Run(const SortOptions& options, Outcome& outcome) {
   TextLines lines;
   for (const std::string& name : options.files) {
-    const std::optional<std::string> bytes = BytesOf(name);
+    const std::optional<std::string> bytes = ReadWhole(name);
     if (!bytes) {
       outcome.err += "ravo: " + name + ": cannot be read\n";
       outcome.answer = Answer::WrongUsage;

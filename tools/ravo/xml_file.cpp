@@ -5,11 +5,12 @@
 #include "text_file.h"
 #include <ravo/RavoInterface.h>
 
-#include <array>
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <span>
 #include <stdexcept>
+#include <utility>
 
 namespace tool {
 namespace {
@@ -22,10 +23,21 @@ class ShownFile final : public ravo::ByteStream {
     if (!file_) throw std::runtime_error("cannot be read");
   }
 
+  // Steps over the mark of UTF-8 that some programs begin a file with; false if there is none. The bytes that
+  // are no mark are kept: a pipe does not go back to them.
+  [[nodiscard]] bool StepOverMark() {
+    while (kept_.size() < kMark.size()) {
+      char byte = 0;
+      if (ReadOn(std::as_writable_bytes(std::span(&byte, 1))) == 0) break;
+      kept_ += byte;
+    }
+    if (kept_ != kMark) return false;
+    position_ += std::ssize(std::exchange(kept_, std::string()));
+    return true;
+  }
+
   [[nodiscard]] std::size_t Read(std::span<std::byte> to) override {
-    file_.read(reinterpret_cast<char*>(to.data()), static_cast<std::streamsize>(to.size()));
-    if (file_.bad()) throw std::runtime_error("cannot be read to its end");
-    const auto count = static_cast<std::size_t>(file_.gcount());
+    const std::size_t count = kept_.empty() ? ReadOn(to) : TakeKept(to);
     position_ += static_cast<std::int64_t>(count);
     progress_.Show(position_);
     return count;
@@ -40,6 +52,20 @@ class ShownFile final : public ravo::ByteStream {
   [[nodiscard]] std::int64_t Size() const override { return size_; }
 
  private:
+  static constexpr std::string_view kMark = "\xEF\xBB\xBF";
+
+  std::size_t ReadOn(std::span<std::byte> to) {
+    file_.read(reinterpret_cast<char*>(to.data()), static_cast<std::streamsize>(to.size()));
+    if (file_.bad()) throw std::runtime_error("cannot be read to its end");
+    return static_cast<std::size_t>(file_.gcount());
+  }
+  std::size_t TakeKept(std::span<std::byte> to) {
+    const std::size_t count = std::min(to.size(), kept_.size());
+    std::ranges::copy(std::as_bytes(std::span(kept_)).first(count), to.begin());
+    kept_.erase(0, count);
+    return count;
+  }
+
   static std::int64_t SizeOf(const std::string& name) {
     std::error_code error;
     if (std::filesystem::is_directory(PathOf(name), error)) throw std::runtime_error("is a folder");
@@ -48,6 +74,7 @@ class ShownFile final : public ravo::ByteStream {
   }
 
   std::ifstream file_;
+  std::string kept_;
   std::int64_t size_;
   std::int64_t position_ = 0;
   Progress progress_;
@@ -61,20 +88,6 @@ auto WithFile(const std::string& name, Work work) {
   } catch (const std::exception& error) {
     throw std::runtime_error(name + ": " + error.what());
   }
-}
-
-// Steps over the mark of UTF-8 that some programs begin a file with; false where there is none.
-bool StepOverMark(ShownFile& file) {
-  std::array<char, 3> beginning{};
-  std::size_t size = 0;
-  while (size < beginning.size()) {
-    const std::size_t count = file.Read(std::as_writable_bytes(std::span(beginning).subspan(size)));
-    if (count == 0) break;
-    size += count;
-  }
-  const bool marked = std::string_view(beginning.data(), size) == "\xEF\xBB\xBF";
-  if (!marked) file.SetPosition(0);
-  return marked;
 }
 
 }  // namespace
@@ -95,7 +108,7 @@ std::u16string XmlWords::Kept(const std::string& utf8) const {
 
 XmlWords LoadXmlFile(const std::string& name, ravo::ECXMLParser::TECXMLParser& parser) {
   return WithFile(name, [&](ShownFile& file) {
-    const bool marked = StepOverMark(file);
+    const bool marked = file.StepOverMark();
     parser.Root()->LoadFromStream(file);
     return XmlWords(marked || ravo::SameAsciiText(parser.Encoding(), u"utf-8"));
   });

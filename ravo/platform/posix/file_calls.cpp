@@ -20,8 +20,9 @@ int FlagsOf(FilePurpose purpose) {
       return always | O_RDONLY;
     case FilePurpose::Save:
       return always | O_WRONLY | O_CREAT | O_TRUNC;
+    // A pipe without a reader is not waited for: it has no date to be set.
     case FilePurpose::Date:
-      return always | O_WRONLY;
+      return always | O_WRONLY | O_NONBLOCK;
     case FilePurpose::DateFolder:
       return always | O_RDONLY | O_DIRECTORY;
   }

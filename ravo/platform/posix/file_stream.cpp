@@ -1,6 +1,6 @@
-#include <ravo/platform/file_stream.h>
 #include <ravo/platform/posix/paths.h>
 #include <ravo/platform/posix/uninterrupted.h>
+#include <ravo/platform/stream_calls.h>
 #include <ravo/runtime/error.h>
 #include <ravo/runtime/text.h>
 
@@ -11,18 +11,17 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace ravo {
+namespace ravo::platform {
 namespace {
 
 static_assert(sizeof(off_t) == 8, "files are larger than 2 GiB");
 
-using platform::posix::Uninterrupted;
+using posix::Uninterrupted;
 
 constexpr mode_t kNewFileRights = 0666;
 
-// A pipe without a writer must not hold up whoever asks for its version: opening waits for nobody.
 int FlagsOf(FileMode mode) {
-  constexpr int always = O_CLOEXEC | O_NOCTTY | O_NONBLOCK;
+  constexpr int always = O_CLOEXEC | O_NOCTTY;
   switch (mode) {
     case FileMode::Read:
       return always | O_RDONLY;
@@ -46,8 +45,22 @@ bool IsFolder(int descriptor) {
   return fstat(descriptor, &facts) == 0 && S_ISDIR(facts.st_mode);
 }
 
-int OpenFile(std::u16string_view name, FileMode mode) {
-  const auto path = platform::posix::HostPath(name);
+int Descriptor(FileHandle file) { return static_cast<int>(file); }
+
+[[noreturn]] void RaiseReadError(int code) {
+  throw StreamError(StreamOperation::Read,
+                    u"Stream read error: " + FromUtf8(std::generic_category().message(code)));
+}
+
+std::size_t Moved(ssize_t count) {
+  if (count < 0) RaiseReadError(errno);
+  return static_cast<std::size_t>(count);
+}
+
+}  // namespace
+
+FileHandle OpenStream(std::u16string_view name, FileMode mode) {
+  const auto path = posix::HostPath(name);
   if (!path) RaiseOpenError(name, ENOENT);
   const int descriptor = Uninterrupted([&] { return open(path->c_str(), FlagsOf(mode), kNewFileRights); });
   if (descriptor == -1) RaiseOpenError(name, errno);
@@ -56,38 +69,29 @@ int OpenFile(std::u16string_view name, FileMode mode) {
   RaiseOpenError(name, EISDIR);
 }
 
-int Descriptor(std::intptr_t handle) { return static_cast<int>(handle); }
+void CloseStream(FileHandle file) noexcept { close(Descriptor(file)); }
 
-}  // namespace
+bool CanSeek(FileHandle file) noexcept { return lseek(Descriptor(file), 0, SEEK_CUR) != -1; }
 
-FileStream::FileStream(std::u16string_view name, FileMode mode) : handle_(OpenFile(name, mode)) {}
+std::size_t ReadAt(FileHandle file, std::int64_t position, std::span<std::byte> to) {
+  return Moved(Uninterrupted([&] { return pread(Descriptor(file), to.data(), to.size(), position); }));
+}
 
-FileStream::~FileStream() { close(Descriptor(handle_)); }
+std::size_t ReadNext(FileHandle file, std::span<std::byte> to) {
+  return Moved(Uninterrupted([&] { return read(Descriptor(file), to.data(), to.size()); }));
+}
 
-std::size_t FileStream::Read(std::span<std::byte> to) {
+// The checked operations of streams raise where nothing was moved.
+std::size_t WriteAt(FileHandle file, std::int64_t position, std::span<const std::byte> from) {
   const auto count =
-      Uninterrupted([&] { return pread(Descriptor(handle_), to.data(), to.size(), position_); });
-  if (count <= 0) return 0;
-  position_ += count;
-  return static_cast<std::size_t>(count);
+      Uninterrupted([&] { return pwrite(Descriptor(file), from.data(), from.size(), position); });
+  return count < 0 ? 0 : static_cast<std::size_t>(count);
 }
 
-std::size_t FileStream::Write(std::span<const std::byte> from) {
-  const auto count =
-      Uninterrupted([&] { return pwrite(Descriptor(handle_), from.data(), from.size(), position_); });
-  if (count <= 0) return 0;
-  position_ += count;
-  return static_cast<std::size_t>(count);
-}
-
-void FileStream::SetPosition(std::int64_t position) {
-  if (position < 0) throw RangeError(u"Range check error");
-  position_ = position;
-}
-
-std::int64_t FileStream::Size() const {
+std::int64_t StreamSize(FileHandle file) {
   struct stat facts {};
-  return fstat(Descriptor(handle_), &facts) == 0 ? facts.st_size : 0;
+  if (fstat(Descriptor(file), &facts) != 0) RaiseReadError(errno);
+  return facts.st_size;
 }
 
-}  // namespace ravo
+}  // namespace ravo::platform

@@ -11,6 +11,16 @@
 #include <sys/stat.h>
 
 namespace ravo::platform::posix {
+namespace {
+
+// Opening a pipe would wait for whoever writes it.
+bool IsOrdinaryFile(std::u16string_view name) {
+  const auto path = HostPath(name);
+  struct stat facts {};
+  return path && stat(path->c_str(), &facts) == 0 && S_ISREG(facts.st_mode);
+}
+
+}  // namespace
 
 std::optional<FileFacts> PosixMachine::FindFile(std::u16string_view name) const {
   const auto path = FirstFound(HostPath(name, root_).value_or(""));
@@ -22,6 +32,7 @@ std::optional<FileFacts> PosixMachine::FindFile(std::u16string_view name) const 
 }
 
 std::unique_ptr<VersionResource> PosixMachine::OpenVersionResource(std::u16string_view name) const {
+  if (!IsOrdinaryFile(name)) return nullptr;
   try {
     FileStream file(name, FileMode::Read);
     auto resource = ReadVersionResource(file);

@@ -64,7 +64,7 @@ bool PosixFileSystem::DeleteFolder(std::u16string_view folder, FolderPart part) 
   if (part == FolderPart::Contents)
     return DeleteEntriesOf(open(path->c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   const std::string itself = WithoutDelimiters(*path);
-  return IsThere(itself) && DeleteEntry(AT_FDCWD, itself.c_str());
+  return IsThere(itself) && DeleteEntry(itself.c_str());
 }
 
 bool PosixFileSystem::RemoveFile(std::u16string_view name) const {

@@ -48,8 +48,9 @@ std::optional<std::int64_t> Win32FileSystem::SizeOf(FileHandle file) const {
 
 std::optional<std::size_t> Win32FileSystem::Read(FileHandle file, std::span<std::byte> to) const {
   DWORD moved = 0;
-  if (!ReadFile(HandleOf(file), to.data(), Portion(to.size()), &moved, nullptr)) return std::nullopt;
-  return moved;
+  if (ReadFile(HandleOf(file), to.data(), Portion(to.size()), &moved, nullptr)) return moved;
+  // The end of a pipe.
+  return GetLastError() == ERROR_BROKEN_PIPE ? std::optional(std::size_t{0}) : std::nullopt;
 }
 
 std::optional<std::size_t> Win32FileSystem::Write(FileHandle file, std::span<const std::byte> from) const {

@@ -1,4 +1,4 @@
-#include <ravo/platform/file_stream.h>
+#include <ravo/platform/stream_calls.h>
 #include <ravo/platform/win32/handles.h>
 #include <ravo/platform/win32/system_error.h>
 #include <ravo/platform/win32/wide.h>
@@ -6,60 +6,69 @@
 
 #include <windows.h>
 
-namespace ravo {
+namespace ravo::platform {
 namespace {
 
-using platform::HandleOf;
-using platform::Portion;
+[[noreturn]] void RaiseReadError() {
+  throw StreamError(StreamOperation::Read, u"Stream read error: " + SystemErrorText(GetLastError()));
+}
 
-std::intptr_t Open(std::u16string_view name, FileMode mode) {
-  const auto system_name = platform::SystemName(name);
+// Reading at the end of a file fails, and so does reading from a pipe whose writer has closed it.
+bool IsAtEnd() {
+  const DWORD code = GetLastError();
+  return code == ERROR_HANDLE_EOF || code == ERROR_BROKEN_PIPE;
+}
+
+std::size_t Read(FileHandle file, std::span<std::byte> to, OVERLAPPED* position) {
+  DWORD moved = 0;
+  const bool is_read = ReadFile(HandleOf(file), to.data(), Portion(to.size()), &moved, position) != 0;
+  if (!is_read && !IsAtEnd()) RaiseReadError();
+  return moved;
+}
+
+OVERLAPPED At(std::int64_t position) {
+  OVERLAPPED at{};
+  at.Offset = static_cast<DWORD>(position);
+  at.OffsetHigh = static_cast<DWORD>(position >> 32);
+  return at;
+}
+
+}  // namespace
+
+FileHandle OpenStream(std::u16string_view name, FileMode mode) {
+  const auto system_name = SystemName(name);
   if (!system_name) throw StreamError(StreamOperation::Open, name);
   const bool reads_only = mode == FileMode::Read;
   const HANDLE file =
       CreateFileW(system_name->c_str(), reads_only ? GENERIC_READ : GENERIC_READ | GENERIC_WRITE,
                   reads_only ? FILE_SHARE_READ : 0, nullptr,
                   mode == FileMode::Create ? CREATE_ALWAYS : OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
-  if (file != INVALID_HANDLE_VALUE) return reinterpret_cast<std::intptr_t>(file);
-  throw StreamError(StreamOperation::Open,
-                    std::u16string(name) + u": " + platform::SystemErrorText(GetLastError()));
+  if (file != INVALID_HANDLE_VALUE) return reinterpret_cast<FileHandle>(file);
+  throw StreamError(StreamOperation::Open, std::u16string(name) + u": " + SystemErrorText(GetLastError()));
 }
 
-[[noreturn]] void ThrowLastError() { throw Error(platform::SystemErrorText(GetLastError())); }
+void CloseStream(FileHandle file) noexcept { CloseHandle(HandleOf(file)); }
 
-}  // namespace
+bool CanSeek(FileHandle file) noexcept { return GetFileType(HandleOf(file)) == FILE_TYPE_DISK; }
 
-FileStream::FileStream(std::u16string_view name, FileMode mode) : handle_(Open(name, mode)) {}
+std::size_t ReadAt(FileHandle file, std::int64_t position, std::span<std::byte> to) {
+  OVERLAPPED at = At(position);
+  return Read(file, to, &at);
+}
 
-FileStream::~FileStream() { CloseHandle(HandleOf(handle_)); }
+std::size_t ReadNext(FileHandle file, std::span<std::byte> to) { return Read(file, to, nullptr); }
 
-// A failed transfer has moved nothing: the checked operations of the base class raise then.
-std::size_t FileStream::Read(std::span<std::byte> to) {
+// The checked operations of streams raise where nothing was moved.
+std::size_t WriteAt(FileHandle file, std::int64_t position, std::span<const std::byte> from) {
+  OVERLAPPED at = At(position);
   DWORD moved = 0;
-  if (!ReadFile(HandleOf(handle_), to.data(), Portion(to.size()), &moved, nullptr)) return 0;
-  position_ += moved;
-  return moved;
+  return WriteFile(HandleOf(file), from.data(), Portion(from.size()), &moved, &at) ? moved : 0;
 }
 
-std::size_t FileStream::Write(std::span<const std::byte> from) {
-  DWORD moved = 0;
-  if (!WriteFile(HandleOf(handle_), from.data(), Portion(from.size()), &moved, nullptr)) return 0;
-  position_ += moved;
-  return moved;
-}
-
-void FileStream::SetPosition(std::int64_t position) {
-  if (position < 0) throw RangeError(u"Range check error");
-  LARGE_INTEGER target{};
-  target.QuadPart = position;
-  if (!SetFilePointerEx(HandleOf(handle_), target, nullptr, FILE_BEGIN)) ThrowLastError();
-  position_ = position;
-}
-
-std::int64_t FileStream::Size() const {
+std::int64_t StreamSize(FileHandle file) {
   LARGE_INTEGER size{};
-  if (!GetFileSizeEx(HandleOf(handle_), &size)) ThrowLastError();
+  if (!GetFileSizeEx(HandleOf(file), &size)) RaiseReadError();
   return size.QuadPart;
 }
 
-}  // namespace ravo
+}  // namespace ravo::platform

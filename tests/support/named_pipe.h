@@ -1,0 +1,34 @@
+#pragma once
+
+#include "support/scratch_folder.h"
+
+#include <atomic>
+#include <string>
+#include <thread>
+
+namespace ravo::test {
+
+/// A pipe that files are opened by the name of. A thread writes `bytes` to the first reader and closes the
+/// pipe.
+class NamedPipe {
+ public:
+  explicit NamedPipe(std::string bytes);
+  NamedPipe(const NamedPipe&) = delete;
+  NamedPipe& operator=(const NamedPipe&) = delete;
+  /// Reads what nobody has read, so that the writer ends.
+  ~NamedPipe();
+
+  [[nodiscard]] const std::u16string& Name() const noexcept { return name_; }
+
+ private:
+  void Write(const std::string& bytes);
+  void Drain() const;
+
+  ScratchFolder folder_;
+  std::u16string name_;
+  void* server_ = nullptr;
+  std::atomic<bool> is_written_ = false;
+  std::thread writer_;
+};
+
+}  // namespace ravo::test

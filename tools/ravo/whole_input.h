@@ -1,0 +1,12 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace tool {
+
+/// Returns all bytes of a file, or of standard input for `kInputName`; no value if it cannot be read to its
+/// end. `name` is UTF-8.
+[[nodiscard]] std::optional<std::string> ReadWhole(const std::string& name);
+
+}  // namespace tool
