@@ -70,14 +70,16 @@ std::u16string Grouped(const std::u16string& whole, std::u16string_view thousand
 
 }  // namespace
 
+std::u16string ExactText(const DecimalNumber& number, char16_t decimal_separator) {
+  return std::u16string(SignOf(number)) + ShortestPlainText(number, decimal_separator);
+}
+
 std::u16string GeneralText(const DecimalNumber& number, char16_t decimal_separator) {
   const DecimalNumber rounded = RoundedToDigits(number, kPrecision);
   if (rounded.digits.empty()) return u"0";
   const bool is_plain = rounded.point >= kLowestPlainPoint && rounded.point <= kPrecision;
-  std::u16string text(SignOf(rounded));
-  text +=
-      is_plain ? ShortestPlainText(rounded, decimal_separator) : ScientificText(rounded, decimal_separator);
-  return text;
+  if (is_plain) return ExactText(rounded, decimal_separator);
+  return std::u16string(SignOf(rounded)) + ScientificText(rounded, decimal_separator);
 }
 
 std::u16string GeneralText(Extended value, char16_t decimal_separator) {

@@ -15,6 +15,10 @@ namespace ravo {
 /// The same of a float; an infinity reads "INF" or "-INF", what is no number "NAN".
 [[nodiscard]] RAVO_API std::u16string GeneralText(Extended value, char16_t decimal_separator);
 
+/// Every significant digit in plain notation, without trailing zeros; "-" for negative values, "0" for both
+/// zeros.
+[[nodiscard]] RAVO_API std::u16string ExactText(const DecimalNumber& number, char16_t decimal_separator);
+
 /// The fixed format: exactly `decimals` digits behind the decimal point (none for negative `decimals`), at
 /// most 15 significant digits (zeros stand for those beyond), halves rounded away from zero, no thousands
 /// separators. A value that rounds to zero has no sign.

@@ -77,6 +77,14 @@ TEST(FloatText, GeneralTextUsesTheSeparator) {
   EXPECT_EQ(GeneralText({true, "5", std::numeric_limits<int>::min()}, u','), u"-5E-2147483649");
 }
 
+TEST(FloatText, ExactTextKeepsEveryDigit) {
+  EXPECT_EQ(ExactText({false, "9223372036854775807", 15}, u','), u"922337203685477,5807");
+  EXPECT_EQ(ExactText({true, "12", 20}, u','), u"-12000000000000000000");
+  EXPECT_EQ(ExactText({false, "12", -6}, u','), u"0,00000012");
+  EXPECT_EQ(ExactText({false, "", 0}, u','), u"0");
+  EXPECT_EQ(ExactText({true, "", 0}, u','), u"0");
+}
+
 TEST(FloatText, FixedText) {
   struct Row {
     Decimal number;
