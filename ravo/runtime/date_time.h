@@ -40,6 +40,10 @@ struct DateTimeParts {
 /// is no number.
 [[nodiscard]] RAVO_API DateTimeParts SplitDateTime(DateTime value);
 
+/// The time of day alone, rounded as `SplitDateTime` rounds it: a day that fills up is midnight. Takes days
+/// outside the calendar too; `ConvertError` for infinities and what is no number.
+[[nodiscard]] RAVO_API TimeParts TimeOfDay(DateTime value);
+
 /// The day number of a date. Raises `ConvertError` for a year outside 1 to 9999, a month outside 1 to 12, or
 /// a day that the month has not.
 [[nodiscard]] RAVO_API DateTime EncodeDate(int year, int month, int day);
