@@ -1,5 +1,6 @@
 #include <ravo/runtime/checked.h>
 #include <ravo/utils/random.h>
+#include <ravo/utils/text_length.h>
 
 #include <algorithm>
 
@@ -28,13 +29,14 @@ std::uint32_t Scrambled(std::uint32_t word) { return word ^ (word >> 30); }
 
 template <class Text>
 Text RandomText(std::string_view seed, std::basic_string_view<typename Text::value_type> alphabet,
-                std::size_t count) {
+                std::ptrdiff_t count) {
   Text text;
-  if (count == 0) return text;
+  const std::size_t length = utils::CheckedLength<typename Text::value_type>(count);
+  if (length == 0) return text;
   TMT19937 generator(seed);
   if (alphabet.empty()) throw DivisionByZero(u"Division by zero");
-  text.reserve(count);
-  for (std::size_t i = 0; i < count; ++i) text += alphabet[generator.genrand_int32() % alphabet.size()];
+  text.reserve(length);
+  for (std::size_t i = 0; i < length; ++i) text += alphabet[generator.genrand_int32() % alphabet.size()];
   return text;
 }
 
@@ -113,20 +115,20 @@ std::int64_t TMT19937::genrand_int64() {
 }
 
 double TMT19937::genrand_res53() noexcept {
-  const std::uint32_t a = genrand_int32() >> 5;
+  const std::uint64_t a = genrand_int32() >> 5;
   const std::uint32_t b = genrand_int32() >> 6;
   return (a * 67108864.0 + b) / 9007199254740992.0;
 }
 
-std::string StrRandomA(std::string_view seed, std::string_view alphabet, std::size_t count) {
+std::string StrRandomA(std::string_view seed, std::string_view alphabet, std::ptrdiff_t count) {
   return RandomText<std::string>(seed, alphabet, count);
 }
 
-std::u16string StrRandomW(std::string_view seed, std::u16string_view alphabet, std::size_t count) {
+std::u16string StrRandomW(std::string_view seed, std::u16string_view alphabet, std::ptrdiff_t count) {
   return RandomText<std::u16string>(seed, alphabet, count);
 }
 
-std::u16string StrRandom(std::string_view seed, std::u16string_view alphabet, std::size_t count) {
+std::u16string StrRandom(std::string_view seed, std::u16string_view alphabet, std::ptrdiff_t count) {
   return StrRandomW(seed, alphabet, count);
 }
 

@@ -72,13 +72,14 @@ class RAVO_API TMT19937 {
   std::array<std::uint32_t, kWords> tempered_;
 };
 
-/// `count` characters of the alphabet, drawn by a generator that `seed` seeds. `RangeError` for an empty
-/// seed, `DivisionByZero` for an empty alphabet; neither where `count` is 0.
+/// `count` characters of the alphabet, drawn by a generator that `seed` seeds. `RangeError` for a negative
+/// count, for one that no text can have and for an empty seed, `DivisionByZero` for an empty alphabet;
+/// neither where `count` is 0.
 [[nodiscard]] RAVO_API std::string StrRandomA(std::string_view seed, std::string_view alphabet,
-                                              std::size_t count);
+                                              std::ptrdiff_t count);
 [[nodiscard]] RAVO_API std::u16string StrRandomW(std::string_view seed, std::u16string_view alphabet,
-                                                 std::size_t count);
+                                                 std::ptrdiff_t count);
 [[nodiscard]] RAVO_API std::u16string StrRandom(std::string_view seed, std::u16string_view alphabet,
-                                                std::size_t count);
+                                                std::ptrdiff_t count);
 
 }  // namespace ravo::DIUtils
