@@ -49,12 +49,13 @@ class RAVO_API TMT19937 {
   /// up to that one are gone.
   [[nodiscard]] std::int64_t genrand_int64();
 
-  /// [0, 1] in steps of 1 / (2^32 - 1).
-  [[nodiscard]] double genrand_real1() noexcept { return genrand_int32() / 4294967295.0; }
+  /// [0, 1] in steps of 1 / (2^32 - 1), each as the nearest double. The real numbers are put together from
+  /// integers: the precision and rounding mode of the caller's processor have no say.
+  [[nodiscard]] double genrand_real1() noexcept;
   /// [0, 1) in steps of 2^-32.
-  [[nodiscard]] double genrand_real2() noexcept { return genrand_int32() / 4294967296.0; }
+  [[nodiscard]] double genrand_real2() noexcept;
   /// (0, 1) in steps of 2^-32.
-  [[nodiscard]] double genrand_real3() noexcept { return (genrand_int32() + 0.5) / 4294967296.0; }
+  [[nodiscard]] double genrand_real3() noexcept;
   /// [0, 1) in steps of 2^-53, from two draws.
   [[nodiscard]] double genrand_res53() noexcept;
 
