@@ -27,7 +27,7 @@ enum class SystemFamily : std::uint32_t { Win32s = 0, Windows9x = 1, WindowsNt =
 /// What kind of Windows product it is, with the numbers of the version record.
 enum class ProductType : std::uint8_t { Unknown = 0, Workstation = 1, DomainController = 2, Server = 3 };
 
-/// The extended version record.
+/// The version record, basic or extended.
 struct SystemVersion {
   SystemFamily family = SystemFamily::Other;  ///< the kind of system
   std::uint32_t major = 0;                    ///< of the version
@@ -35,8 +35,10 @@ struct SystemVersion {
   std::uint32_t build = 0;                    ///< number of the build
   /// At most 127 units.
   std::u16string service_pack;
-  std::uint16_t suite_mask = 0;                     ///< bits of the product suites, as Windows numbers them
-  ProductType product_type = ProductType::Unknown;  ///< client or server
+  /// Bits of the product suites, as Windows numbers them; in the extended record alone.
+  std::uint16_t suite_mask = 0;
+  /// Client or server; in the extended record alone.
+  ProductType product_type = ProductType::Unknown;
 };
 
 /// Processor architectures with the numbers that Windows gives them; only one of them decides anything.
@@ -158,10 +160,12 @@ class RAVO_API Machine {
   virtual ~Machine();
 
   // System.
-  /// The version record; on Linux from the kernel's release.
+  /// The extended version record; on Linux from the kernel's release. The oldest kinds of Windows have none.
   [[nodiscard]] virtual SystemVersion Version() const = 0;
   /// Whether the system calls itself the second release of its server edition.
   [[nodiscard]] virtual bool IsServerR2() const = 0;
+  /// The basic version record, which every kind of Windows has; on Linux as the extended one.
+  [[nodiscard]] virtual SystemVersion BasicVersion() const = 0;
   /// With the number that Windows gives it.
   [[nodiscard]] virtual std::uint16_t ProcessorArchitecture() const = 0;
   /// A folder of at most 259 units, with the trailing delimiter where the system itself gives one (the
