@@ -75,6 +75,8 @@ struct DiskSpace {
   std::int64_t total = 0;  ///< free or not
   /// What the caller may still use.
   std::int64_t available = 0;
+  /// What is free, whoever may use it.
+  std::int64_t free = 0;
 };
 
 /// What a directory search tells of a file.
@@ -162,10 +164,10 @@ class RAVO_API Machine {
   // System.
   /// The extended version record; on Linux from the kernel's release. The oldest kinds of Windows have none.
   [[nodiscard]] virtual SystemVersion Version() const = 0;
-  /// Whether the system calls itself the second release of its server edition.
-  [[nodiscard]] virtual bool IsServerR2() const = 0;
   /// The basic version record, which every kind of Windows has; on Linux as the extended one.
   [[nodiscard]] virtual SystemVersion BasicVersion() const = 0;
+  /// Whether the system calls itself the second release of its server edition.
+  [[nodiscard]] virtual bool IsServerR2() const = 0;
   /// With the number that Windows gives it.
   [[nodiscard]] virtual std::uint16_t ProcessorArchitecture() const = 0;
   /// A folder of at most 259 units, with the trailing delimiter where the system itself gives one (the
