@@ -2,6 +2,8 @@
 
 /// The main module: what is common to all modules of the library. Texts, errors and lists of objects,
 /// resource strings, and the listings of tables, captions and interfaces.
+#include <ravo/runtime/language.h>
+
 #include <ravo/catalogue/captions.h>
 #include <ravo/catalogue/table_catalogue.h>
 #include <ravo/frame/resource_string.h>

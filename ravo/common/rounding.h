@@ -2,6 +2,7 @@
 
 #include <ravo/common/rounding_step.h>
 #include <ravo/runtime/currency.h>
+#include <ravo/runtime/error.h>
 #include <ravo/runtime/export.h>
 
 #include <cstdint>

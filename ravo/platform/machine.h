@@ -4,6 +4,7 @@
 #include <ravo/runtime/byte_stream.h>
 #include <ravo/runtime/component_factory.h>
 #include <ravo/runtime/date_time.h>
+#include <ravo/runtime/error.h>
 #include <ravo/runtime/export.h>
 #include <ravo/runtime/format_settings.h>
 

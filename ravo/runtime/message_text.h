@@ -1,6 +1,7 @@
 #pragma once
 
 #include <ravo/runtime/currency.h>
+#include <ravo/runtime/error.h>
 #include <ravo/runtime/extended.h>
 #include <ravo/runtime/format_settings.h>
 

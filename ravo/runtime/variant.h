@@ -2,6 +2,7 @@
 
 #include <ravo/runtime/currency.h>
 #include <ravo/runtime/date_time.h>
+#include <ravo/runtime/error.h>
 #include <ravo/runtime/export.h>
 #include <ravo/runtime/format_settings.h>
 
