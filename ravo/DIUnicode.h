@@ -1,6 +1,8 @@
 #pragma once
 
 /// The Unicode text library: the character database, reader and writer, and the encodings that they take.
+#include <ravo/runtime/language.h>
+
 #include <ravo/unicode/characters.h>
 #include <ravo/unicode/encodings.h>
 #include <ravo/unicode/messages.h>

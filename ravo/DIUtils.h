@@ -2,6 +2,8 @@
 
 /// General utilities: strings and buffers, calendar, checksums, hashes, random numbers, files
 /// and folders, the environment.
+#include <ravo/runtime/language.h>
+
 #include <ravo/utils/ansi_upper.h>
 #include <ravo/utils/calendar.h>
 #include <ravo/utils/checksums.h>

@@ -1,6 +1,8 @@
 #pragma once
 
 /// The accounting helpers that every module must apply alike.
+#include <ravo/runtime/language.h>
+
 #include <ravo/catalogue/table_catalogue.h>
 #include <ravo/common/accounts.h>
 #include <ravo/common/backup_name.h>

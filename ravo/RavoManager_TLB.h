@@ -2,6 +2,8 @@
 
 /// The host's object model: the interfaces of sessions, tables, fields, business objects, rights, plug-ins
 /// and reports, and what a module needs to call or to implement them.
+#include <ravo/runtime/language.h>
+
 #include <ravo/hostapi/interfaces.h>
 #include <ravo/hostapi/operations.h>
 #include <ravo/runtime/component_object.h>

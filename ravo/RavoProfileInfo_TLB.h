@@ -2,6 +2,8 @@
 
 /// The profile-information reader: the interfaces of a profile's modules, packages, plug-ins and operations,
 /// and the factories of its classes.
+#include <ravo/runtime/language.h>
+
 #include <ravo/hostapi/co_classes.h>
 #include <ravo/hostapi/interfaces.h>
 #include <ravo/hostapi/operations.h>

@@ -1,6 +1,8 @@
 #pragma once
 
 /// The archive packer: its interfaces, and the factory of its class.
+#include <ravo/runtime/language.h>
+
 #include <ravo/hostapi/co_classes.h>
 #include <ravo/hostapi/interfaces.h>
 #include <ravo/hostapi/operations.h>

@@ -48,7 +48,7 @@ std::u16string DateToSQLString(DateTime value) {
 
 std::u16string TimeToSQLString(DateTime value) {
   std::u16string text;
-  AppendTime(text, SplitDateTime(value).time);
+  AppendTime(text, TimeOfDay(value));
   return text;
 }
 

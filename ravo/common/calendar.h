@@ -1,19 +1,22 @@
 #pragma once
 
 #include <ravo/runtime/date_time.h>
+#include <ravo/runtime/error.h>
 #include <ravo/runtime/export.h>
 
 #include <cstdint>
 #include <string>
 
-/// Months, years and the compact texts in which dates and times are written into SQL statements. Splitting a
-/// date-time raises `ConvertError` outside the years 1 to 9999.
+/// Months, years and the compact texts in which dates and times are written into SQL statements. Date-times
+/// are rounded to the millisecond before they are split, so the last half millisecond of a day belongs to the
+/// next one. What names a date raises `ConvertError` outside the years 1 to 9999.
 namespace ravo::RavoInterfaceCommon {
 
-/// "YYYYMMDD". The time of day is ignored, once it is rounded to the millisecond.
+/// "YYYYMMDD". The time of day is ignored.
 [[nodiscard]] RAVO_API std::u16string DateToSQLString(DateTime value);
 
-/// "HH:MM:SS:mmm", a colon before the milliseconds too. The date is ignored.
+/// "HH:MM:SS:mmm", a colon before the milliseconds too. The date is ignored, also one outside the calendar;
+/// `ConvertError` for infinities and what is no number.
 [[nodiscard]] RAVO_API std::u16string TimeToSQLString(DateTime value);
 
 /// "YYYYMMDD HH:MM:SS:mmm".

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <ravo/runtime/error.h>
 #include <ravo/runtime/export.h>
 #include <ravo/runtime/variant.h>
 

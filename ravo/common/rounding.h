@@ -2,6 +2,7 @@
 
 #include <ravo/common/rounding_step.h>
 #include <ravo/runtime/currency.h>
+#include <ravo/runtime/error.h>
 #include <ravo/runtime/export.h>
 
 #include <cstdint>
@@ -48,7 +49,9 @@ using enum TRoundType;
 ///     P  to the nearest 0.50, quarters away from zero  N  to tenths, away from zero
 ///     M  to whole crowns, halves away from zero
 ///
-/// Any other letter, lower case included, returns `Value` unchanged.
+/// Any other letter, lower case included, returns `Value` unchanged. "N" counts tenths in 32 bits, as
+/// `RoundValue` does: above a magnitude of 214748364.7 it wraps silently. `FloatError` where the rounded
+/// amount, or for "N" ten times the amount, leaves 64 bits; "P" has no limit.
 [[nodiscard]] inline Currency RoundDPH(Currency Value, char16_t Kind);
 
 // Implementation. The amounts of documents are rounded here, in a few instructions that a loop can overlap;

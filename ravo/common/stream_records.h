@@ -1,6 +1,7 @@
 #pragma once
 
 #include <ravo/runtime/byte_stream.h>
+#include <ravo/runtime/error.h>
 #include <ravo/runtime/export.h>
 #include <ravo/runtime/variant.h>
 
@@ -17,8 +18,8 @@ RAVO_API void StringToStream(ByteStream* stream, std::string_view text);
 
 /// Reads a string record at the stream's position and leaves the position behind its terminator, which is not
 /// read. Where the record promises more bytes than the stream has, the text is as long as promised and zero
-/// bytes stand for those that are missing; the position still moves one byte on from the end. `RangeError`
-/// for a negative length.
+/// bytes stand for those that are missing, so a false record takes the memory that it promises, up to 2 GiB;
+/// the position still moves one byte on from the end. `RangeError` for a negative length.
 [[nodiscard]] RAVO_API std::string StringFromStream(ByteStream* stream);
 
 /// Writes the bytes of a byte array and nothing else; an empty or null value writes nothing. `VariantError`

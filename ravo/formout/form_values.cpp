@@ -1,17 +1,15 @@
 #include <ravo/formout/form_values.h>
 #include <ravo/runtime/date_text.h>
 
-#include <cmath>
 #include <string_view>
 
 namespace ravo::RavoFileCommon {
 namespace {
 
-// Patterns of numbers and literal signs, so no locale is asked. Without the time of day a moment before
-// midnight is not rounded into the next day.
+// Patterns of numbers and literal signs, so no locale is asked.
 std::u16string DateText(std::u16string_view pattern, DateTime date) {
   if (date == 0) return {};
-  return FormatDateTime(pattern, std::trunc(date), FormatSettings());
+  return FormatDateTime(pattern, date, FormatSettings());
 }
 
 }  // namespace

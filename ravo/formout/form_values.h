@@ -1,12 +1,14 @@
 #pragma once
 
 #include <ravo/runtime/date_time.h>
+#include <ravo/runtime/error.h>
 #include <ravo/runtime/export.h>
 
 #include <string>
 
-/// Dates and flags as statutory forms want them. The time of day is ignored, the locale has no say, and the
-/// empty date 0 gives an empty text. `ConvertError` for a date outside the years 1 to 9999.
+/// Dates and flags as statutory forms want them. The time of day is ignored, once it is rounded to the
+/// millisecond: the last half of one belongs to the next day. The locale has no say, and the empty date 0
+/// gives an empty text. `ConvertError` for a date outside the years 1 to 9999.
 namespace ravo::RavoFileCommon {
 
 /// Year, month and day with hyphens: 2024-12-31.

@@ -2,6 +2,7 @@
 
 #include <ravo/hostapi/interfaces.h>
 #include <ravo/runtime/component_ptr.h>
+#include <ravo/runtime/error.h>
 #include <ravo/runtime/export.h>
 
 #include <string_view>

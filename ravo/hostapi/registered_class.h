@@ -1,6 +1,7 @@
 #pragma once
 
 #include <ravo/runtime/component_factory.h>
+#include <ravo/runtime/error.h>
 #include <ravo/runtime/export.h>
 #include <ravo/runtime/guid.h>
 

@@ -4,6 +4,7 @@
 #include <ravo/runtime/byte_stream.h>
 #include <ravo/runtime/component_factory.h>
 #include <ravo/runtime/date_time.h>
+#include <ravo/runtime/error.h>
 #include <ravo/runtime/export.h>
 #include <ravo/runtime/format_settings.h>
 
@@ -27,7 +28,7 @@ enum class SystemFamily : std::uint32_t { Win32s = 0, Windows9x = 1, WindowsNt =
 /// What kind of Windows product it is, with the numbers of the version record.
 enum class ProductType : std::uint8_t { Unknown = 0, Workstation = 1, DomainController = 2, Server = 3 };
 
-/// The extended version record.
+/// The version record, basic or extended.
 struct SystemVersion {
   SystemFamily family = SystemFamily::Other;  ///< the kind of system
   std::uint32_t major = 0;                    ///< of the version
@@ -35,8 +36,10 @@ struct SystemVersion {
   std::uint32_t build = 0;                    ///< number of the build
   /// At most 127 units.
   std::u16string service_pack;
-  std::uint16_t suite_mask = 0;                     ///< bits of the product suites, as Windows numbers them
-  ProductType product_type = ProductType::Unknown;  ///< client or server
+  /// Bits of the product suites, as Windows numbers them; in the extended record alone.
+  std::uint16_t suite_mask = 0;
+  /// Client or server; in the extended record alone.
+  ProductType product_type = ProductType::Unknown;
 };
 
 /// Processor architectures with the numbers that Windows gives them; only one of them decides anything.
@@ -73,6 +76,8 @@ struct DiskSpace {
   std::int64_t total = 0;  ///< free or not
   /// What the caller may still use.
   std::int64_t available = 0;
+  /// What is free, whoever may use it.
+  std::int64_t free = 0;
 };
 
 /// What a directory search tells of a file.
@@ -158,8 +163,10 @@ class RAVO_API Machine {
   virtual ~Machine();
 
   // System.
-  /// The version record; on Linux from the kernel's release.
+  /// The extended version record; on Linux from the kernel's release. The oldest kinds of Windows have none.
   [[nodiscard]] virtual SystemVersion Version() const = 0;
+  /// The basic version record, which every kind of Windows has; on Linux as the extended one.
+  [[nodiscard]] virtual SystemVersion BasicVersion() const = 0;
   /// Whether the system calls itself the second release of its server edition.
   [[nodiscard]] virtual bool IsServerR2() const = 0;
   /// With the number that Windows gives it.

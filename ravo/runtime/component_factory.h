@@ -1,6 +1,7 @@
 #pragma once
 
 #include <ravo/runtime/component_ptr.h>
+#include <ravo/runtime/error.h>
 
 #include <functional>
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <ravo/runtime/component.h>
+#include <ravo/runtime/error.h>
 
 #include <concepts>
 #include <cstddef>

@@ -33,8 +33,9 @@ Wide Product(std::uint64_t left, std::uint32_t right) {
   return {high >> 32, (high << 32) | (low & 0xFFFFFFFF)};
 }
 
-// The low 64 bits of value >> bits, for 1 to 127 bits.
+// The low 64 bits of value >> bits, for 0 to 127 bits.
 std::uint64_t ShiftedRight(const Wide& value, int bits) {
+  if (bits == 0) return value.low;
   if (bits >= 64) return value.high >> (bits - 64);
   return (value.high << (64 - bits)) | (value.low >> bits);
 }
@@ -43,7 +44,7 @@ int TrailingZeros(const Wide& value) {
   return value.low != 0 ? std::countr_zero(value.low) : 64 + std::countr_zero(value.high);
 }
 
-// value / 2^bits to the nearest integer, ties to even, for 2 to 127 bits and results that fit.
+// value / 2^bits to the nearest integer, ties to even, for 1 to 127 bits and results that fit.
 std::uint64_t RoundedQuotient(const Wide& value, int bits) {
   const std::uint64_t halves = ShiftedRight(value, bits - 1);
   const bool is_tie_or_exact = TrailingZeros(value) >= bits - 1;
@@ -61,19 +62,33 @@ std::uint32_t MillisecondsOf(std::uint64_t mantissa, int bits) {
   return static_cast<std::uint32_t>(RoundedQuotient(Product(mantissa, kMillisecondsPerDay), bits));
 }
 
-// Takes the double apart by its bits, so that no rounding mode has a say. What is 2^22 days or more away has
-// too large an exponent for any date.
-Moment MomentOf(DateTime value) {
+// Takes the double apart by its bits, so that no rounding mode has a say.
+BinaryFloat Finite(DateTime value) {
   using Bits = FloatBits<double>;
   if (Bits::Kind(value) != FloatKind::Finite) RaiseNoDate();
-  const BinaryFloat parts = Bits::Split(value);
-  constexpr int kLargestExponent = 22 - Bits::kFormat.bits;
+  return Bits::Split(value);
+}
+
+// Whole days of a finite value below 2^64, without its sign.
+std::uint64_t WholeDays(const BinaryFloat& parts) {
+  return parts.exponent > -64 ? parts.mantissa >> -parts.exponent : 0;
+}
+
+// The time of any day, up to a full day.
+std::uint32_t RoundedTime(const BinaryFloat& parts) {
+  if (parts.exponent >= 0) return 0;
+  const std::uint64_t days = WholeDays(parts);
+  const std::uint64_t fraction = days == 0 ? parts.mantissa : parts.mantissa - (days << -parts.exponent);
+  return MillisecondsOf(fraction, -parts.exponent);
+}
+
+// What is 2^22 days or more away has too large an exponent for any date.
+Moment MomentOf(DateTime value) {
+  const BinaryFloat parts = Finite(value);
+  constexpr int kLargestExponent = 22 - FloatBits<double>::kFormat.bits;
   if (parts.exponent > kLargestExponent) RaiseNoDate();
-  const int bits = -parts.exponent;
-  const std::uint64_t days = bits < 64 ? parts.mantissa >> bits : 0;
-  const std::uint64_t fraction = bits < 64 ? parts.mantissa - (days << bits) : parts.mantissa;
-  const auto day = static_cast<std::int32_t>(days);
-  Moment moment{parts.negative ? -day : day, MillisecondsOf(fraction, bits)};
+  const auto day = static_cast<std::int32_t>(WholeDays(parts));
+  Moment moment{parts.negative ? -day : day, RoundedTime(parts)};
   if (moment.milliseconds == kMillisecondsPerDay) moment = {moment.day + 1, 0};
   if (moment.day < kFirstDay || moment.day > kLastDay) RaiseNoDate();
   return moment;
@@ -147,6 +162,8 @@ DateTimeParts SplitDateTime(DateTime value) {
   const Moment moment = MomentOf(value);
   return {DateOf(moment.day), TimeOf(moment.milliseconds)};
 }
+
+TimeParts TimeOfDay(DateTime value) { return TimeOf(RoundedTime(Finite(value)) % kMillisecondsPerDay); }
 
 DateTime EncodeDate(int year, int month, int day) { return DayNumber({year, month, day}); }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <ravo/runtime/error.h>
 #include <ravo/runtime/export.h>
 
 #include <cstdint>
@@ -39,6 +40,10 @@ struct DateTimeParts {
 /// `ConvertError` where the result lies outside 1 January 1 to 31 December 9999, and for infinities and what
 /// is no number.
 [[nodiscard]] RAVO_API DateTimeParts SplitDateTime(DateTime value);
+
+/// The time of day alone, rounded as `SplitDateTime` rounds it: a day that fills up is midnight. Takes days
+/// outside the calendar too; `ConvertError` for infinities and what is no number.
+[[nodiscard]] RAVO_API TimeParts TimeOfDay(DateTime value);
 
 /// The day number of a date. Raises `ConvertError` for a year outside 1 to 9999, a month outside 1 to 12, or
 /// a day that the month has not.

@@ -5,12 +5,12 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <cstdlib>
 #include <utility>
 
 namespace ravo {
 namespace {
 
-constexpr int kPrecision = 15;
 constexpr int kLowestPlainPoint = -4;
 constexpr int kGroup = 3;
 
@@ -46,7 +46,7 @@ std::u16string ShortestPlainText(const DecimalNumber& number, char16_t decimal_s
   return PlainText(number, decimals, decimal_separator);
 }
 
-std::u16string ScientificText(DecimalNumber number, char16_t decimal_separator) {
+std::u16string ShortestScientificText(DecimalNumber number, char16_t decimal_separator) {
   const std::int64_t exponent = std::int64_t{number.point} - 1;
   number.point = 1;
   return ShortestPlainText(number, decimal_separator) + u'E' + ToText(exponent);
@@ -55,8 +55,8 @@ std::u16string ScientificText(DecimalNumber number, char16_t decimal_separator) 
 // Rounds once, at whichever of the two limits comes first: rounding twice could carry a half upwards that is
 // none.
 DecimalNumber RoundedForFixed(const DecimalNumber& number, int decimals) {
-  return std::int64_t{number.point} + decimals > kPrecision ? RoundedToDigits(number, kPrecision)
-                                                            : RoundedToPlaces(number, decimals);
+  return std::int64_t{number.point} + decimals > kFloatDigits ? RoundedToDigits(number, kFloatDigits)
+                                                              : RoundedToPlaces(number, decimals);
 }
 
 std::u16string Grouped(const std::u16string& whole, std::u16string_view thousands_separator) {
@@ -70,14 +70,26 @@ std::u16string Grouped(const std::u16string& whole, std::u16string_view thousand
 
 }  // namespace
 
-std::u16string GeneralText(const DecimalNumber& number, char16_t decimal_separator) {
-  const DecimalNumber rounded = RoundedToDigits(number, kPrecision);
+std::u16string ExactText(const DecimalNumber& number, char16_t decimal_separator) {
+  return std::u16string(SignOf(number)) + ShortestPlainText(number, decimal_separator);
+}
+
+std::u16string GeneralText(const DecimalNumber& number, char16_t decimal_separator, int digits) {
+  const DecimalNumber rounded = RoundedToDigits(number, digits);
   if (rounded.digits.empty()) return u"0";
-  const bool is_plain = rounded.point >= kLowestPlainPoint && rounded.point <= kPrecision;
-  std::u16string text(SignOf(rounded));
-  text +=
-      is_plain ? ShortestPlainText(rounded, decimal_separator) : ScientificText(rounded, decimal_separator);
-  return text;
+  const bool is_plain = rounded.point >= kLowestPlainPoint && rounded.point <= digits;
+  if (is_plain) return ExactText(rounded, decimal_separator);
+  return std::u16string(SignOf(rounded)) + ShortestScientificText(rounded, decimal_separator);
+}
+
+std::u16string ScientificText(const DecimalNumber& number, int digits, char16_t decimal_separator) {
+  digits = std::max(digits, 1);
+  DecimalNumber rounded = RoundedToDigits(number, digits);
+  const int exponent = rounded.digits.empty() ? 0 : rounded.point - 1;
+  rounded.point = 1;
+  const std::u16string size = ToText(std::int64_t{std::abs(exponent)});
+  return std::u16string(SignOf(rounded)) + PlainText(rounded, digits - 1, decimal_separator) +
+         (exponent < 0 ? u"E-" : u"E+") + std::u16string(size.size() < 3 ? 3 - size.size() : 0, u'0') + size;
 }
 
 std::u16string GeneralText(Extended value, char16_t decimal_separator) {

@@ -17,7 +17,7 @@ struct TextOf {
   std::u16string operator()(std::int64_t value) const { return ToText(value); }
   std::u16string operator()(double value) const { return GeneralText(value, settings.decimal_separator); }
   std::u16string operator()(Currency value) const {
-    return GeneralText(ToDecimal(value.raw, Currency::kPlaces), settings.decimal_separator);
+    return ExactText(ToDecimal(value.raw, Currency::kPlaces), settings.decimal_separator);
   }
   std::u16string operator()(DateValue date) const { return DateTimeText(date.value, settings); }
   std::u16string operator()(const std::u16string& text) const { return text; }

@@ -2,6 +2,7 @@
 
 #include <ravo/runtime/currency.h>
 #include <ravo/runtime/date_time.h>
+#include <ravo/runtime/error.h>
 #include <ravo/runtime/export.h>
 #include <ravo/runtime/format_settings.h>
 
@@ -80,8 +81,9 @@ class RAVO_API Variant {
 };
 
 /// The text of a value: nothing for empty and null, digits for integers, the general float format for floats
-/// and amounts with the locale's decimal separator, the locale's date and time for dates (`ConvertError` for
-/// what is no date), "True" or "False". Bytes have no text: `VariantError`.
+/// (15 significant digits), every digit of amounts without trailing zeros, both with the locale's decimal
+/// separator, the locale's date and time for dates (`ConvertError` for what is no date), "True" or "False".
+/// Bytes have no text: `VariantError`.
 [[nodiscard]] RAVO_API std::u16string VariantToText(const Variant& value, const FormatSettings& settings);
 
 /// The sum of two values. Null with anything is null. Bytes have no sum: `VariantError`. Empty counts as

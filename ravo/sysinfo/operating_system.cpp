@@ -56,7 +56,7 @@ std::u16string NumbersOf(const platform::SystemVersion& version) {
 }  // namespace
 
 void TRavoSystemInfo::AddOS(std::u16string_view Indent) {
-  const platform::SystemVersion version = CurrentMachine().Version();
+  const platform::SystemVersion version = CurrentMachine().BasicVersion();
   const auto key = CurrentMachine().OpenKey(RegistryRoot::LocalMachine, CurrentVersionPath(OSVersion_));
   const ServicePack pack =
       key ? ServicePackOf(OSVersion_, version.service_pack) : ServicePack{version.service_pack, {}};

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <ravo/runtime/byte_stream.h>
+#include <ravo/runtime/error.h>
 #include <ravo/unicode/unicode_base.h>
 
 #include <array>

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <ravo/runtime/date_time.h>
+#include <ravo/runtime/error.h>
 #include <ravo/runtime/export.h>
 
 #include <cstdint>

@@ -14,6 +14,11 @@ constexpr std::size_t kShortestFolder = 3;
 // "C:", and what no system can delete without what is on it.
 bool IsDrive(std::u16string_view folder) { return folder.size() == 2 && folder.back() == u':'; }
 
+std::int64_t SpaceOf(std::u16string_view folder, std::int64_t platform::DiskSpace::*part) {
+  const auto space = platform::CurrentMachine().SpaceOfFolder(folder);
+  return space ? *space.*part : -1;
+}
+
 }  // namespace
 
 using platform::CurrentMachine;
@@ -56,8 +61,11 @@ bool DeleteDirectoryW(std::u16string_view folder, bool with_folder) {
 
 std::int64_t DiskFreeA(std::string_view folder) { return DiskFreeW(Wide(folder)); }
 std::int64_t DiskFreeW(std::u16string_view folder) {
-  const auto space = CurrentMachine().SpaceOfFolder(folder);
-  return space ? space->available : -1;
+  return SpaceOf(folder, &platform::DiskSpace::available);
+}
+std::int64_t DiskSizeA(std::string_view folder) { return SpaceOf(Wide(folder), &platform::DiskSpace::total); }
+std::int64_t DiskTotalFreeA(std::string_view folder) {
+  return SpaceOf(Wide(folder), &platform::DiskSpace::free);
 }
 
 }  // namespace ravo::DIUtils

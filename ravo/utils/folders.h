@@ -34,6 +34,10 @@ RAVO_API bool DeleteDirectoryW(std::u16string_view folder, bool with_folder);
 /// The bytes that the caller may still use on the disk of a folder, or -1.
 [[nodiscard]] RAVO_API std::int64_t DiskFreeA(std::string_view folder);
 [[nodiscard]] RAVO_API std::int64_t DiskFreeW(std::u16string_view folder);
+/// All the bytes of that disk, or -1.
+[[nodiscard]] RAVO_API std::int64_t DiskSizeA(std::string_view folder);
+/// The free bytes of that disk, those that the caller may not use too, or -1.
+[[nodiscard]] RAVO_API std::int64_t DiskTotalFreeA(std::string_view folder);
 
 /// The current folder of the process, without a "\" at its end unless it is the root of a drive; empty where
 /// the system does not tell.

@@ -1,7 +1,9 @@
 #include <ravo/runtime/checked.h>
 #include <ravo/utils/random.h>
+#include <ravo/utils/text_length.h>
 
 #include <algorithm>
+#include <bit>
 
 namespace ravo::DIUtils {
 namespace {
@@ -24,17 +26,32 @@ constexpr std::uint32_t Tempered(std::uint32_t word) {
 
 std::uint32_t Scrambled(std::uint32_t word) { return word ^ (word >> 30); }
 
+// mantissa * 2^exponent for a mantissa of 53 bits, or of 2^53 after a carry, as the stored form of a normal
+// double: its hidden bit adds one to the exponent.
+double Real(std::uint64_t mantissa, int exponent) {
+  constexpr int kBias = 1074;
+  return std::bit_cast<double>((static_cast<std::uint64_t>(exponent + kBias) << 52) + mantissa);
+}
+
+// value / 2^bits, exactly, for values of at most 53 bits.
+double Fraction(std::uint64_t value, int bits) {
+  if (value == 0) return 0;
+  const int shift = std::countl_zero(value) - 11;
+  return Real(value << shift, -bits - shift);
+}
+
 [[noreturn]] void ThrowNoKeys() { throw RangeError(u"Range check error"); }
 
 template <class Text>
 Text RandomText(std::string_view seed, std::basic_string_view<typename Text::value_type> alphabet,
-                std::size_t count) {
+                std::ptrdiff_t count) {
   Text text;
-  if (count == 0) return text;
+  const std::size_t length = utils::CheckedLength<typename Text::value_type>(count);
+  if (length == 0) return text;
   TMT19937 generator(seed);
   if (alphabet.empty()) throw DivisionByZero(u"Division by zero");
-  text.reserve(count);
-  for (std::size_t i = 0; i < count; ++i) text += alphabet[generator.genrand_int32() % alphabet.size()];
+  text.reserve(length);
+  for (std::size_t i = 0; i < length; ++i) text += alphabet[generator.genrand_int32() % alphabet.size()];
   return text;
 }
 
@@ -112,21 +129,35 @@ std::int64_t TMT19937::genrand_int64() {
   return high << 32 | low;
 }
 
-double TMT19937::genrand_res53() noexcept {
-  const std::uint32_t a = genrand_int32() >> 5;
-  const std::uint32_t b = genrand_int32() >> 6;
-  return (a * 67108864.0 + b) / 9007199254740992.0;
+// The quotient by 2^32 - 1 repeats the 32 bits of the draw for ever, so no tie can be among the bits that
+// are cut off.
+double TMT19937::genrand_real1() noexcept {
+  const std::uint64_t draw = genrand_int32();
+  if (draw == 0) return 0;
+  const int zeros = std::countl_zero(draw) - 32;
+  const std::uint64_t bits = ((draw << 32 | draw) << zeros) | (draw >> (32 - zeros));
+  return Real((bits >> 11) + (bits >> 10 & 1), -53 - zeros);
 }
 
-std::string StrRandomA(std::string_view seed, std::string_view alphabet, std::size_t count) {
+double TMT19937::genrand_real2() noexcept { return Fraction(genrand_int32(), 32); }
+
+double TMT19937::genrand_real3() noexcept { return Fraction(std::uint64_t{genrand_int32()} << 1 | 1, 33); }
+
+double TMT19937::genrand_res53() noexcept {
+  const std::uint64_t a = genrand_int32() >> 5;
+  const std::uint32_t b = genrand_int32() >> 6;
+  return Fraction(a << 26 | b, 53);
+}
+
+std::string StrRandomA(std::string_view seed, std::string_view alphabet, std::ptrdiff_t count) {
   return RandomText<std::string>(seed, alphabet, count);
 }
 
-std::u16string StrRandomW(std::string_view seed, std::u16string_view alphabet, std::size_t count) {
+std::u16string StrRandomW(std::string_view seed, std::u16string_view alphabet, std::ptrdiff_t count) {
   return RandomText<std::u16string>(seed, alphabet, count);
 }
 
-std::u16string StrRandom(std::string_view seed, std::u16string_view alphabet, std::size_t count) {
+std::u16string StrRandom(std::string_view seed, std::u16string_view alphabet, std::ptrdiff_t count) {
   return StrRandomW(seed, alphabet, count);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <ravo/runtime/error.h>
 #include <ravo/runtime/export.h>
 
 #include <array>
@@ -49,12 +50,13 @@ class RAVO_API TMT19937 {
   /// up to that one are gone.
   [[nodiscard]] std::int64_t genrand_int64();
 
-  /// [0, 1] in steps of 1 / (2^32 - 1).
-  [[nodiscard]] double genrand_real1() noexcept { return genrand_int32() / 4294967295.0; }
+  /// [0, 1] in steps of 1 / (2^32 - 1), each as the nearest double. The real numbers are put together from
+  /// integers: the precision and rounding mode of the caller's processor have no say.
+  [[nodiscard]] double genrand_real1() noexcept;
   /// [0, 1) in steps of 2^-32.
-  [[nodiscard]] double genrand_real2() noexcept { return genrand_int32() / 4294967296.0; }
+  [[nodiscard]] double genrand_real2() noexcept;
   /// (0, 1) in steps of 2^-32.
-  [[nodiscard]] double genrand_real3() noexcept { return (genrand_int32() + 0.5) / 4294967296.0; }
+  [[nodiscard]] double genrand_real3() noexcept;
   /// [0, 1) in steps of 2^-53, from two draws.
   [[nodiscard]] double genrand_res53() noexcept;
 
@@ -72,13 +74,14 @@ class RAVO_API TMT19937 {
   std::array<std::uint32_t, kWords> tempered_;
 };
 
-/// `count` characters of the alphabet, drawn by a generator that `seed` seeds. `RangeError` for an empty
-/// seed, `DivisionByZero` for an empty alphabet; neither where `count` is 0.
+/// `count` characters of the alphabet, drawn by a generator that `seed` seeds. `RangeError` for a negative
+/// count, for one that no text can have and for an empty seed, `DivisionByZero` for an empty alphabet;
+/// neither where `count` is 0.
 [[nodiscard]] RAVO_API std::string StrRandomA(std::string_view seed, std::string_view alphabet,
-                                              std::size_t count);
+                                              std::ptrdiff_t count);
 [[nodiscard]] RAVO_API std::u16string StrRandomW(std::string_view seed, std::u16string_view alphabet,
-                                                 std::size_t count);
+                                                 std::ptrdiff_t count);
 [[nodiscard]] RAVO_API std::u16string StrRandom(std::string_view seed, std::u16string_view alphabet,
-                                                std::size_t count);
+                                                std::ptrdiff_t count);
 
 }  // namespace ravo::DIUtils

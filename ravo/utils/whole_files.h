@@ -1,6 +1,7 @@
 #pragma once
 
 #include <ravo/platform/file_system.h>
+#include <ravo/runtime/error.h>
 #include <ravo/runtime/export.h>
 
 #include <cstddef>

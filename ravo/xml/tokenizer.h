@@ -3,6 +3,7 @@
 #include <ravo/runtime/byte_stream.h>
 #include <ravo/runtime/export.h>
 #include <ravo/runtime/extended.h>
+#include <ravo/runtime/message_text.h>
 #include <ravo/xml/parser_error.h>
 
 #include <cstddef>
@@ -82,7 +83,8 @@ class RAVO_API TXMLTokenizer {
 
   /// Raises a message with the current line.
   [[noreturn]] void Error(std::u16string_view Ident) const;
-  /// Fills the places "%s" and "%d" of a message and raises it.
+  /// Fills the places of a message with arguments, as `FormatMessageText` does with the separators of the
+  /// locale, and raises it with the current line. `ConvertError` where a place does not fit its argument.
   [[noreturn]] void ErrorFmt(std::u16string_view Ident, std::span<const MessageArgument> Args) const;
   /// Raises a message with the current line.
   [[noreturn]] void ErrorStr(std::u16string_view Message) const;

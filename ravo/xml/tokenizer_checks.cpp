@@ -84,12 +84,12 @@ void TXMLTokenizer::HexToBinary(ByteStream& /*Stream*/) {
 void TXMLTokenizer::Error(std::u16string_view Ident) const { ErrorStr(Ident); }
 
 void TXMLTokenizer::ErrorFmt(std::u16string_view Ident, std::span<const MessageArgument> Args) const {
-  ErrorStr(FormatMessageText(Ident, Args));
+  ErrorStr(FormatMessageText(Ident, Args, platform::CurrentMachine().Locale()));
 }
 
 void TXMLTokenizer::ErrorStr(std::u16string_view Message) const {
   const std::array<MessageArgument, 2> parts = {std::u16string(Message), std::int64_t{FSourceLine}};
-  throw EParserError(FormatMessageText(kParseError, parts));
+  throw EParserError(FormatMessageText(kParseError, parts, {}));
 }
 
 }  // namespace ravo::ECXMLTokenizer

@@ -29,6 +29,20 @@ TEST(TimeToSQLString, SetsMillisecondsOffByAColon) {
   EXPECT_EQ(TimeToSQLString(-1.25), u"06:00:00:000");
 }
 
+TEST(TimeToSQLString, IgnoresTheDayWhateverItIs) {
+  EXPECT_EQ(TimeToSQLString(2958466.75), u"18:00:00:000");  // 1 January 10000
+  EXPECT_EQ(TimeToSQLString(-693594.25), u"06:00:00:000");  // 31 December of the year before 1
+  EXPECT_EQ(TimeToSQLString(2958465.9999999999), u"00:00:00:000");
+  EXPECT_EQ(TimeToSQLString(4194304.5), u"12:00:00:000");  // 2^22 days
+  EXPECT_EQ(TimeToSQLString(-4503599627370495.5), u"12:00:00:000");
+  EXPECT_EQ(TimeToSQLString(9007199254740993.0), u"00:00:00:000");
+  EXPECT_EQ(TimeToSQLString(-1e300), u"00:00:00:000");
+  using Limits = std::numeric_limits<double>;
+  for (const double value : {Limits::quiet_NaN(), Limits::infinity(), -Limits::infinity()}) {
+    EXPECT_THROW(static_cast<void>(TimeToSQLString(value)), ConvertError);
+  }
+}
+
 TEST(DateTimeToSQLString, JoinsBothWithABlank) {
   EXPECT_EQ(DateTimeToSQLString(At(2010, 12, 31, 13, 5, 9, 7)), u"20101231 13:05:09:007");
 }

@@ -3,6 +3,8 @@
 #include <ravo/common/identifiers.h>
 #include <ravo/runtime/error.h>
 
+#include <limits>
+
 #include <gtest/gtest.h>
 
 namespace ravo::RavoInterfaceCommon {
@@ -18,6 +20,14 @@ TEST(UIDToString, Unquoted) {
   EXPECT_EQ(UIDToString(42, false), u"42");
   EXPECT_EQ(UIDToString(1.5, false), u"1,5");
   EXPECT_EQ(UIDToString(true, false), u"True");
+}
+
+TEST(UIDToString, AmountsAreExact) {
+  test::FakeMachine machine;
+  machine.locale = test::CzechSettings();
+  const platform::ScopedMachine in_force(machine);
+  EXPECT_EQ(UIDToString(Currency{std::numeric_limits<std::int64_t>::max()}, false), u"922337203685477,5807");
+  EXPECT_EQ(UIDToString(Currency{std::numeric_limits<std::int64_t>::min()}, false), u"-922337203685477,5808");
 }
 
 TEST(UIDToString, Quoted) {

@@ -151,6 +151,27 @@ TEST(RoundDPH, Rows) {
   for (const Row& row : rows) EXPECT_EQ(RoundDPH({row.raw}, row.kind).raw, row.result) << row.raw;
 }
 
+// A ceiling of 2147483648 tenths is -2147483648 in 32 bits.
+TEST(RoundDPH, TenthsUpwardsWrapAt32Bits) {
+  EXPECT_EQ(RoundDPH({2147483647000}, u'N').raw, 2147483647000);
+  EXPECT_EQ(RoundDPH({2147483646001}, u'N').raw, 2147483647000);
+  EXPECT_EQ(RoundDPH({2147483647001}, u'N').raw, -2147483648000);
+  EXPECT_EQ(RoundDPH({-2147483647001}, u'N').raw, 2147483648000);
+  EXPECT_EQ(RoundDPH({2147483647001}, u'D').raw, 2147483647000);
+}
+
+TEST(RoundDPH, AmountsThatLeave64BitsRaise) {
+  for (const std::int64_t raw : {kMost, kLeast}) {
+    for (const char16_t kind : {u'D', u'N', u'M'}) {
+      EXPECT_THROW(static_cast<void>(RoundDPH({raw}, kind)), FloatError) << raw;
+    }
+  }
+  EXPECT_EQ(RoundDPH({kMost}, u'H').raw, 9223372036854775800);
+  EXPECT_EQ(RoundDPH({kLeast}, u'H').raw, -9223372036854775800);
+  EXPECT_NO_THROW(static_cast<void>(RoundDPH({922337203685477580}, u'N')));
+  EXPECT_THROW(static_cast<void>(RoundDPH({922337203685477581}, u'N')), FloatError);
+}
+
 TEST(RoundDPH, OnlyTheFiveUpperCaseLettersRound) {
   for (unsigned unit = 0; unit <= 0xFFFF; ++unit) {
     const auto kind = static_cast<char16_t>(unit);

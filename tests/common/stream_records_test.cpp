@@ -68,6 +68,13 @@ TEST(StringFromStream, RecordThatPromisesTooMuchIsFilledWithZeros) {
   EXPECT_EQ(stream.Position(), 7);
 }
 
+TEST(StringFromStream, APromiseOfFarMoreIsKept) {
+  MemoryStream stream(Bytes({0, 0, 0, 4, 'a', 'b'}));
+  const std::string text = StringFromStream(&stream);
+  EXPECT_EQ(text.size(), std::size_t{64} << 20);
+  EXPECT_EQ(text.substr(0, 3), std::string_view("ab\0", 3));
+}
+
 TEST(StringFromStream, EveryCutOfARecord) {
   const auto whole = Bytes({3, 0, 0, 0, 'a', 'b', 'c', 0});
   for (std::size_t cut = 0; cut <= whole.size(); ++cut) {

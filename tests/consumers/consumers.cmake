@@ -60,3 +60,9 @@ foreach(source ${refused})
     message(FATAL_ERROR "${source}: say with which words a compiler refuses it")
   endif()
 endforeach()
+
+# Each public header by itself.
+ravo_find_python(python)
+add_test(NAME consumers.public_headers
+  COMMAND ${python} -B ${CMAKE_CURRENT_LIST_DIR}/public_headers.py ${prefix}/${CMAKE_INSTALL_INCLUDEDIR} ${CMAKE_CXX_COMPILER})
+set_tests_properties(consumers.public_headers PROPERTIES FIXTURES_REQUIRED ravo_installed)

@@ -1,5 +1,6 @@
 #include "support/fake_machine.h"
 #include <ravo/RavoFileCommon.h>
+#include <ravo/common/calendar.h>
 #include <ravo/runtime/error.h>
 
 #include <limits>
@@ -19,10 +20,23 @@ TEST(Date2XML, WritesYearMonthAndDay) {
 }
 
 TEST(Date2XML, IgnoresTheTimeOfDay) {
-  EXPECT_EQ(Date2XML(EncodeDate(2024, 12, 31) + 0.999999999), u"2024-12-31");
-  EXPECT_EQ(Date2XML(-1.999999999), u"1899-12-29");
   EXPECT_EQ(Date2XML(0.5), u"1899-12-30");
   EXPECT_EQ(Date2XML(-0.5), u"1899-12-30");
+  EXPECT_EQ(Date2XML(-1.25), u"1899-12-29");
+}
+
+// 4 tenths of a millisecond before midnight and 6 tenths.
+TEST(FormDates, AreTheDaysOfSqlTexts) {
+  constexpr double kDay = 86'400'000;
+  const DateTime last_moment = EncodeDate(2024, 12, 31) + (kDay - 0.4) / kDay;
+  EXPECT_EQ(Date2XML(last_moment), u"2025-01-01");
+  EXPECT_EQ(Date2PDF(last_moment, false, false), u"1.1.2025");
+  EXPECT_EQ(RavoInterfaceCommon::DateToSQLString(last_moment), u"20250101");
+  const DateTime moment_before = EncodeDate(2024, 12, 31) + (kDay - 0.6) / kDay;
+  EXPECT_EQ(Date2XML(moment_before), u"2024-12-31");
+  EXPECT_EQ(Date2PDF(moment_before, false, false), u"31.12.2024");
+  EXPECT_EQ(RavoInterfaceCommon::DateToSQLString(moment_before), u"20241231");
+  EXPECT_EQ(Date2XML(-1.999999999), u"1899-12-30");
 }
 
 TEST(Date2XML, IsEmptyForTheEmptyDate) {
@@ -32,6 +46,7 @@ TEST(Date2XML, IsEmptyForTheEmptyDate) {
 
 TEST(Date2XML, RaisesForWhatIsNoDate) {
   EXPECT_THROW(static_cast<void>(Date2XML(EncodeDate(9999, 12, 31) + 1)), ConvertError);
+  EXPECT_THROW(static_cast<void>(Date2XML(EncodeDate(9999, 12, 31) + 0.9999999999)), ConvertError);
   EXPECT_THROW(static_cast<void>(Date2XML(EncodeDate(1, 1, 1) - 1)), ConvertError);
   EXPECT_THROW(static_cast<void>(Date2XML(std::numeric_limits<double>::quiet_NaN())), ConvertError);
   EXPECT_THROW(static_cast<void>(Date2XML(std::numeric_limits<double>::infinity())), ConvertError);

@@ -33,6 +33,18 @@ TEST(Win32System, VersionIsOfTheNtFamily) {
   EXPECT_EQ(CurrentMachine().IsServerR2(), GetSystemMetrics(89) != 0);
 }
 
+TEST(Win32System, TheBasicVersionHasWhatBothRecordsHave) {
+  const SystemVersion expected = CurrentMachine().Version();
+  const SystemVersion version = CurrentMachine().BasicVersion();
+  EXPECT_EQ(version.family, expected.family);
+  EXPECT_EQ(version.major, expected.major);
+  EXPECT_EQ(version.minor, expected.minor);
+  EXPECT_EQ(version.build, expected.build);
+  EXPECT_EQ(version.service_pack, expected.service_pack);
+  EXPECT_EQ(version.suite_mask, 0);
+  EXPECT_EQ(version.product_type, ProductType::Unknown);
+}
+
 TEST(Win32System, ArchitectureIsThatOfThisProgram) {
   EXPECT_EQ(CurrentMachine().ProcessorArchitecture(),
             sizeof(void*) == 8 ? kArchitectureAmd64 : kArchitectureIntel);

@@ -16,10 +16,13 @@
 
 namespace ravo {
 
+std::ostream& operator<<(std::ostream& out, const TimeParts& time) {
+  return out << time.hour << ':' << time.minute << ':' << time.second << '.' << time.millisecond;
+}
+
 std::ostream& operator<<(std::ostream& out, const DateTimeParts& parts) {
   const auto& [date, time] = parts;
-  return out << date.year << '-' << date.month << '-' << date.day << ' ' << time.hour << ':' << time.minute
-             << ':' << time.second << '.' << time.millisecond;
+  return out << date.year << '-' << date.month << '-' << date.day << ' ' << time;
 }
 
 namespace {
@@ -85,6 +88,32 @@ TEST(DateTime, AFullDayCarries) {
   for (const Row& row : rows) EXPECT_EQ(SplitDateTime(row.value), (DateTimeParts{row.date, {}})) << row.value;
   EXPECT_EQ(DayOfWeek(45291.9999999999), DayOfWeek(45292));
   EXPECT_THROW((void)SplitDateTime(kLastDay + 0.9999999999), ConvertError);
+}
+
+// What is left of doubles of 2^50 days and more are quarters, halves and whole days.
+TEST(DateTime, TimeOfDayOfAnyDay) {
+  struct Row {
+    double value;
+    TimeParts time;
+  };
+  const Row rows[] = {
+      {kLastDay + 1.25, {6, 0, 0, 0}},
+      {kFirstDay - 1.25, {6, 0, 0, 0}},
+      {kLastDay + 0.9999999999, {}},
+      {-0.9999999999, {}},
+      {kMillisecond * 1.4, {0, 0, 0, 1}},
+      {std::ldexp(1.0, 50) + 0.75, {18, 0, 0, 0}},
+      {-std::ldexp(1.0, 51) - 0.5, {12, 0, 0, 0}},
+      {std::ldexp(1.0, 52) + 1, {}},
+      {std::ldexp(1.0, 53), {}},
+      {1e300, {}},
+      {std::numeric_limits<double>::denorm_min(), {}},
+  };
+  for (const Row& row : rows) EXPECT_EQ(TimeOfDay(row.value), row.time) << row.value;
+  using Limits = std::numeric_limits<double>;
+  for (const double value : {Limits::infinity(), -Limits::infinity(), Limits::quiet_NaN()}) {
+    EXPECT_THROW((void)TimeOfDay(value), ConvertError) << value;
+  }
 }
 
 TEST(DateTime, SplitRefusesWhatIsNoDate) {

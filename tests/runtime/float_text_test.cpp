@@ -77,6 +77,32 @@ TEST(FloatText, GeneralTextUsesTheSeparator) {
   EXPECT_EQ(GeneralText({true, "5", std::numeric_limits<int>::min()}, u','), u"-5E-2147483649");
 }
 
+TEST(FloatText, GeneralTextOfFewerDigits) {
+  EXPECT_EQ(GeneralText({false, "123456", 6}, u'.', 3), u"1.23E5");
+  EXPECT_EQ(GeneralText({true, "123456", 2}, u'.', 3), u"-12.3");
+  EXPECT_EQ(GeneralText({false, "9996", 3}, u'.', 3), u"1E3");
+}
+
+// Witness: "%.*e" of the C library, but for the exponent's least number of digits.
+TEST(FloatText, ScientificText) {
+  EXPECT_EQ(ScientificText({false, "15", 1}, 4, u','), u"1,500E+000");
+  EXPECT_EQ(ScientificText({true, "15", 1}, 1, u','), u"-2E+000");
+  EXPECT_EQ(ScientificText({false, "99951", 5}, 4, u'.'), u"9.995E+004");
+  EXPECT_EQ(ScientificText({false, "99996", 5}, 4, u'.'), u"1.000E+005");
+  EXPECT_EQ(ScientificText({false, "125", -9}, 3, u'.'), u"1.25E-010");
+  EXPECT_EQ(ScientificText({false, "1", 1234}, 2, u'.'), u"1.0E+1233");
+  EXPECT_EQ(ScientificText({true, "", 0}, 3, u'.'), u"0.00E+000");
+  EXPECT_EQ(ScientificText({false, "7", 1}, 0, u'.'), u"7E+000");
+}
+
+TEST(FloatText, ExactTextKeepsEveryDigit) {
+  EXPECT_EQ(ExactText({false, "9223372036854775807", 15}, u','), u"922337203685477,5807");
+  EXPECT_EQ(ExactText({true, "12", 20}, u','), u"-12000000000000000000");
+  EXPECT_EQ(ExactText({false, "12", -6}, u','), u"0,00000012");
+  EXPECT_EQ(ExactText({false, "", 0}, u','), u"0");
+  EXPECT_EQ(ExactText({true, "", 0}, u','), u"0");
+}
+
 TEST(FloatText, FixedText) {
   struct Row {
     Decimal number;

@@ -53,6 +53,8 @@ struct FakeDrive {
 class FakeMachine : public platform::Machine {
  public:
   platform::SystemVersion version;
+  /// As the extended record where it has no value of its own.
+  std::optional<platform::SystemVersion> basic_version;
   bool is_server_r2 = false;
   std::uint16_t architecture = platform::kArchitectureIntel;
   std::map<platform::SystemFolder, std::u16string> folders;
@@ -109,6 +111,9 @@ class FakeMachine : public platform::Machine {
   FakeRegistryKey& Key(platform::RegistryRoot root, std::u16string_view path);
 
   [[nodiscard]] platform::SystemVersion Version() const override { return version; }
+  [[nodiscard]] platform::SystemVersion BasicVersion() const override {
+    return basic_version.value_or(version);
+  }
   [[nodiscard]] bool IsServerR2() const override { return is_server_r2; }
   [[nodiscard]] std::uint16_t ProcessorArchitecture() const override { return architecture; }
   [[nodiscard]] std::u16string Folder(platform::SystemFolder folder) const override;

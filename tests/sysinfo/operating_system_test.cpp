@@ -164,6 +164,19 @@ TEST_F(OperatingSystem, AMachineWithoutAnswersHasEveryRow) {
                   u"\t\t\tAvailPageFile: 0 B"));
 }
 
+// Windows NT 4 before its last service packs does not know the extended record.
+TEST_F(OperatingSystem, VersionIsThatOfTheBasicRecord) {
+  platform::SystemVersion basic;
+  basic.family = platform::SystemFamily::WindowsNt;
+  basic.major = 4;
+  basic.build = 1381;
+  basic.service_pack = u"Service Pack 5";
+  machine.basic_version = basic;
+  EXPECT_EQ(TRavoSystemInfo().OSVersion(), osUnknown);
+  EXPECT_EQ(Section(kHeading).at(1), u"\t\tVerze: 4.0.1381");
+  EXPECT_EQ(Csd(), u"\t\tCSD: Service Pack 5");
+}
+
 TEST_F(OperatingSystem, MemoryIsUnsigned) {
   machine.memory.total_physical = 0xFFFFFFFF;
   EXPECT_EQ(Section(u"\t\tPaměť").at(0), u"\t\t\tCelková fyzická paměť: 4\u00A0096,0 MB (4294967295 B)");

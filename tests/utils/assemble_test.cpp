@@ -1,5 +1,10 @@
 #include <ravo/utils/strings/assemble.h>
 
+#include <cstddef>
+#include <limits>
+#include <string>
+#include <utility>
+
 #include <gtest/gtest.h>
 
 namespace ravo::DIUtils {
@@ -23,6 +28,28 @@ TEST(PadRightA, Rows) {
 TEST(PadRightW, Rows) {
   EXPECT_EQ(PadRightW(u"č", 3, u'ř'), u"čřř");
   EXPECT_EQ(PadRightW(u"", 0), u"");
+}
+
+TEST(Padding, ANegativeLengthReturnsTheText) {
+  for (const std::ptrdiff_t length : {std::ptrdiff_t{-1}, std::numeric_limits<std::ptrdiff_t>::min()}) {
+    EXPECT_EQ(PadLeftA("42", length, '0'), "42");
+    EXPECT_EQ(PadLeftW(u"42", length, u'0'), u"42");
+    EXPECT_EQ(PadRightA("42", length, '0'), "42");
+    EXPECT_EQ(PadRightW(u"42", length, u'0'), u"42");
+    EXPECT_EQ(PadRightW(u"", length), u"");
+  }
+}
+
+// The standard library raises `std::length_error` and, on 32 bits, an 8-bit text may be as long as a
+// `std::ptrdiff_t` goes.
+TEST(Padding, ALengthThatNoTextHasIsARangeError) {
+  constexpr auto kMost = std::numeric_limits<std::ptrdiff_t>::max();
+  EXPECT_THROW(static_cast<void>(PadLeftW(u"42", kMost)), RangeError);
+  EXPECT_THROW(static_cast<void>(PadRightW(u"42", kMost)), RangeError);
+  if (std::cmp_greater(kMost, std::string().max_size())) {
+    EXPECT_THROW(static_cast<void>(PadLeftA("42", kMost)), RangeError);
+    EXPECT_THROW(static_cast<void>(PadRightA("42", kMost)), RangeError);
+  }
 }
 
 TEST(ConCatBuf, IsTheWideMember) {

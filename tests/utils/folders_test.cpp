@@ -189,5 +189,26 @@ TEST(DiskFree, Has64Bits) {
   EXPECT_EQ(DiskFreeW(u"C:"), INT64_MAX - 1);
 }
 
+TEST(DiskFree, ItsHelpersTellTheOtherNumbersOfTheDisk) {
+  FakeMachine machine;
+  machine.drives[u"C:"].space = platform::DiskSpace{INT64_MAX, 5, INT64_MAX - 1};
+  {
+    const platform::ScopedMachine scope(machine);
+    EXPECT_EQ(DiskFreeA("C:"), 5);
+    EXPECT_EQ(DiskSizeA("C:"), INT64_MAX);
+    EXPECT_EQ(DiskTotalFreeA("C:"), INT64_MAX - 1);
+    EXPECT_EQ(DiskSizeA("D:"), -1);
+    EXPECT_EQ(DiskTotalFreeA("D:"), -1);
+  }
+  const ScratchFolder scratch;
+  const std::string folder = platform::CurrentMachine().ToCodePage(SuiteName(scratch.Path()));
+  const auto space = std::filesystem::space(scratch.Path());
+  EXPECT_EQ(DiskSizeA(folder), static_cast<std::int64_t>(space.capacity));
+  // Others write too.
+  EXPECT_NEAR(static_cast<double>(DiskTotalFreeA(folder)), static_cast<double>(space.free), 4e9);
+  EXPECT_EQ(DiskSizeA("missing"), -1);
+  EXPECT_EQ(DiskTotalFreeA(""), -1);
+}
+
 }  // namespace
 }  // namespace ravo::DIUtils

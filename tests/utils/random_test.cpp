@@ -2,10 +2,12 @@
 #include <ravo/utils/random.h>
 
 #include <algorithm>
+#include <limits>
 #include <numeric>
 #include <random>
 #include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -217,6 +219,21 @@ TEST(StrRandomW, IsAPureFunctionOfItsArguments) {
   EXPECT_EQ(StrRandomW("seed", u"áčďéěíň", 10), text.substr(0, 10));
   const std::string narrow = StrRandomA("seed", "0123456", 1000);
   for (std::size_t i = 0; i < text.size(); ++i) ASSERT_EQ(text[i], u"áčďéěíň"[narrow[i] - '0']);
+}
+
+TEST(StrRandomA, RaisesForACountThatNoTextHas) {
+  constexpr auto kMost = std::numeric_limits<std::ptrdiff_t>::max();
+  for (const std::ptrdiff_t count : {std::ptrdiff_t{-1}, std::numeric_limits<std::ptrdiff_t>::min()}) {
+    EXPECT_THROW(static_cast<void>(StrRandomA("seed", "abc", count)), RangeError);
+    EXPECT_THROW(static_cast<void>(StrRandomW("seed", u"abc", count)), RangeError);
+    EXPECT_THROW(static_cast<void>(StrRandom("seed", u"abc", count)), RangeError);
+    EXPECT_THROW(static_cast<void>(StrRandomA("seed", "", count)), RangeError);
+  }
+  EXPECT_THROW(static_cast<void>(StrRandomW("seed", u"abc", kMost)), RangeError);
+  EXPECT_THROW(static_cast<void>(StrRandom("seed", u"abc", kMost)), RangeError);
+  if (std::cmp_greater(kMost, std::string().max_size())) {
+    EXPECT_THROW(static_cast<void>(StrRandomA("seed", "abc", kMost)), RangeError);
+  }
 }
 
 TEST(StrRandomA, RaisesOnlyWhereItDraws) {

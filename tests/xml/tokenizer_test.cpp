@@ -1,4 +1,5 @@
 #include "plain_tokens.h"
+#include "support/czech_settings.h"
 #include "support/fake_machine.h"
 #include "support/fake_stream.h"
 #include "support/guarded_buffer.h"
@@ -306,6 +307,17 @@ TEST(TXMLTokenizer, RaisesWhatItIsTold) {
   EXPECT_THROW(tokenizer->ErrorFmt(u"%s %s %s", arguments), ConvertError);
   EXPECT_THROW(tokenizer->ErrorFmt(u"%x", arguments), ConvertError);
   EXPECT_THROW(tokenizer->ErrorFmt(u"%", arguments), ConvertError);
+}
+
+TEST(TXMLTokenizer, FormatsMessagesByTheLocale) {
+  FakeMachine machine;
+  machine.locale = test::CzechSettings();
+  const platform::ScopedMachine scope(machine);
+  TokenizerOf tokenizer("<a>");
+  const std::array<MessageArgument, 4> arguments = {std::u16string(u"Sum"), Currency{12345600},
+                                                    std::int64_t{254}, Extended{0.5}};
+  EXPECT_EQ(Raised([&] { tokenizer->ErrorFmt(u"%-5s|%9.2n|%.4x|%g", arguments); }),
+            "Sum  | 1\u00A0234,56|00FE|0,5 on line 1");
 }
 
 TEST(TXMLLargeTokenizer, WantsALineFeed) {

@@ -71,8 +71,8 @@ std::optional<DiskSpace> PosixMachine::SpaceOfFolder(std::u16string_view folder)
   const auto path = HostPath(folder, root_);
   struct statvfs facts {};
   if (!path || !IsFolder(*path) || statvfs(path->c_str(), &facts) != 0) return std::nullopt;
-  return DiskSpace{SizeOfBlocks(facts.f_blocks, facts.f_frsize),
-                   SizeOfBlocks(facts.f_bavail, facts.f_frsize)};
+  return DiskSpace{SizeOfBlocks(facts.f_blocks, facts.f_frsize), SizeOfBlocks(facts.f_bavail, facts.f_frsize),
+                   SizeOfBlocks(facts.f_bfree, facts.f_frsize)};
 }
 
 }  // namespace ravo::platform::posix

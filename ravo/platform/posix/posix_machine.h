@@ -14,6 +14,7 @@ class PosixMachine final : public Machine {
   ~PosixMachine() override;
 
   [[nodiscard]] SystemVersion Version() const override;
+  [[nodiscard]] SystemVersion BasicVersion() const override;
   [[nodiscard]] bool IsServerR2() const override { return false; }
   [[nodiscard]] std::uint16_t ProcessorArchitecture() const override;
   [[nodiscard]] std::u16string Folder(SystemFolder folder) const override;

@@ -57,6 +57,8 @@ SystemVersion PosixMachine::Version() const {
   return uname(&names) == 0 ? VersionFromRelease(names.release) : SystemVersion();
 }
 
+SystemVersion PosixMachine::BasicVersion() const { return Version(); }
+
 std::uint16_t PosixMachine::ProcessorArchitecture() const {
   utsname names{};
   return uname(&names) == 0 ? ArchitectureFromMachineName(names.machine) : kUnknownArchitecture;

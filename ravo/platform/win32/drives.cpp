@@ -15,9 +15,11 @@ DriveKind Win32Machine::KindOfDrive(std::u16string_view drive) const {
 std::optional<DiskSpace> Win32Machine::SpaceOfFolder(std::u16string_view folder) const {
   ULARGE_INTEGER available{};
   ULARGE_INTEGER total{};
+  ULARGE_INTEGER free{};
   const auto name = SystemName(folder);
-  if (!name || !GetDiskFreeSpaceExW(name->c_str(), &available, &total, nullptr)) return std::nullopt;
-  return DiskSpace{static_cast<std::int64_t>(total.QuadPart), static_cast<std::int64_t>(available.QuadPart)};
+  if (!name || !GetDiskFreeSpaceExW(name->c_str(), &available, &total, &free)) return std::nullopt;
+  return DiskSpace{static_cast<std::int64_t>(total.QuadPart), static_cast<std::int64_t>(available.QuadPart),
+                   static_cast<std::int64_t>(free.QuadPart)};
 }
 
 }  // namespace ravo::platform

@@ -23,6 +23,19 @@ ProductType ProductOf(BYTE product) {
   return product <= VER_NT_SERVER ? static_cast<ProductType>(product) : ProductType::Unknown;
 }
 
+// What both records have.
+template <class Info>
+SystemVersion RecordOf(const Info& info) {
+  SystemVersion version;
+  version.family = FamilyOf(info.dwPlatformId);
+  version.major = info.dwMajorVersion;
+  version.minor = info.dwMinorVersion;
+  version.build = info.dwBuildNumber;
+  version.service_pack =
+      FromWide(UpToZero(std::wstring_view(info.szCSDVersion, std::size(info.szCSDVersion))));
+  return version;
+}
+
 // Fills the buffer by a call that answers the length, or with a buffer too small the size that it needs.
 template <typename Call>
 std::u16string Filled(Call call) {
@@ -50,16 +63,16 @@ SystemVersion Win32Machine::Version() const {
   OSVERSIONINFOEXW info{};
   info.dwOSVersionInfoSize = sizeof info;
   if (!GetVersionExW(reinterpret_cast<OSVERSIONINFOW*>(&info))) return {};
-  SystemVersion version;
-  version.family = FamilyOf(info.dwPlatformId);
-  version.major = info.dwMajorVersion;
-  version.minor = info.dwMinorVersion;
-  version.build = info.dwBuildNumber;
-  version.service_pack =
-      FromWide(UpToZero(std::wstring_view(info.szCSDVersion, std::size(info.szCSDVersion))));
+  SystemVersion version = RecordOf(info);
   version.suite_mask = info.wSuiteMask;
   version.product_type = ProductOf(info.wProductType);
   return version;
+}
+
+SystemVersion Win32Machine::BasicVersion() const {
+  OSVERSIONINFOW info{};
+  info.dwOSVersionInfoSize = sizeof info;
+  return GetVersionExW(&info) ? RecordOf(info) : SystemVersion();
 }
 
 bool Win32Machine::IsServerR2() const { return GetSystemMetrics(SM_SERVERR2) != 0; }

@@ -1,6 +1,9 @@
 #include <ravo/utils/strings/assemble.h>
 #include <ravo/utils/strings/char_search.h>
 #include <ravo/utils/strings/text_kind.h>
+#include <ravo/utils/text_length.h>
+
+#include <utility>
 
 namespace ravo::DIUtils {
 namespace {
@@ -9,12 +12,12 @@ using strings::String;
 using strings::View;
 
 template <class Char>
-std::size_t Missing(View<Char> text, std::size_t length) {
-  return length > text.size() ? length - text.size() : 0;
+std::size_t Missing(View<Char> text, std::ptrdiff_t length) {
+  return std::cmp_greater(length, text.size()) ? utils::CheckedLength<Char>(length) - text.size() : 0;
 }
 
 template <class Char>
-String<Char> PaddedLeft(View<Char> text, std::size_t length, Char fill) {
+String<Char> PaddedLeft(View<Char> text, std::ptrdiff_t length, Char fill) {
   String<Char> result;
   const std::size_t missing = Missing(text, length);
   result.reserve(text.size() + missing);
@@ -22,7 +25,7 @@ String<Char> PaddedLeft(View<Char> text, std::size_t length, Char fill) {
 }
 
 template <class Char>
-String<Char> PaddedRight(View<Char> text, std::size_t length, Char fill) {
+String<Char> PaddedRight(View<Char> text, std::ptrdiff_t length, Char fill) {
   String<Char> result;
   const std::size_t missing = Missing(text, length);
   result.reserve(text.size() + missing);
@@ -38,16 +41,16 @@ String<Char> EndingWith(View<Char> text, Char c) {
 
 }  // namespace
 
-std::string PadLeftA(std::string_view text, std::size_t length, char fill) {
+std::string PadLeftA(std::string_view text, std::ptrdiff_t length, char fill) {
   return PaddedLeft(text, length, fill);
 }
-std::u16string PadLeftW(std::u16string_view text, std::size_t length, char16_t fill) {
+std::u16string PadLeftW(std::u16string_view text, std::ptrdiff_t length, char16_t fill) {
   return PaddedLeft(text, length, fill);
 }
-std::string PadRightA(std::string_view text, std::size_t length, char fill) {
+std::string PadRightA(std::string_view text, std::ptrdiff_t length, char fill) {
   return PaddedRight(text, length, fill);
 }
-std::u16string PadRightW(std::u16string_view text, std::size_t length, char16_t fill) {
+std::u16string PadRightW(std::u16string_view text, std::ptrdiff_t length, char16_t fill) {
   return PaddedRight(text, length, fill);
 }
 

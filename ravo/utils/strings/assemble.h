@@ -1,5 +1,6 @@
 #pragma once
 
+#include <ravo/runtime/error.h>
 #include <ravo/runtime/export.h>
 
 #include <cstddef>
@@ -9,14 +10,14 @@
 /// Texts put together: padding, appending, quoting, and how long a text is.
 namespace ravo::DIUtils {
 
-/// `text` filled up with `fill` on the left to `length` characters; a text at least as long
-/// is returned as it is.
-[[nodiscard]] RAVO_API std::string PadLeftA(std::string_view text, std::size_t length, char fill = ' ');
-[[nodiscard]] RAVO_API std::u16string PadLeftW(std::u16string_view text, std::size_t length,
+/// `text` filled up with `fill` on the left to `length` characters; a text at least as long is returned as it
+/// is, so any negative length returns it. `RangeError` for a length that no text can have.
+[[nodiscard]] RAVO_API std::string PadLeftA(std::string_view text, std::ptrdiff_t length, char fill = ' ');
+[[nodiscard]] RAVO_API std::u16string PadLeftW(std::u16string_view text, std::ptrdiff_t length,
                                                char16_t fill = u' ');
 /// The same on the right.
-[[nodiscard]] RAVO_API std::string PadRightA(std::string_view text, std::size_t length, char fill = ' ');
-[[nodiscard]] RAVO_API std::u16string PadRightW(std::u16string_view text, std::size_t length,
+[[nodiscard]] RAVO_API std::string PadRightA(std::string_view text, std::ptrdiff_t length, char fill = ' ');
+[[nodiscard]] RAVO_API std::u16string PadRightW(std::u16string_view text, std::ptrdiff_t length,
                                                 char16_t fill = u' ');
 
 /// Appends a buffer to `target`; a null pointer is none. The buffer may be the text itself.

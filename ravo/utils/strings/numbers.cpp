@@ -39,9 +39,7 @@ std::int32_t HexValue(View<Char> text, std::int32_t default_value) {
 }
 
 // There may be more zeros than the sixteen digits of the largest value.
-std::u16string PaddedHex(std::uint64_t value, int digits) {
-  return PadLeftW(ToHex(value, 1), static_cast<std::size_t>(std::max(digits, 0)), u'0');
-}
+std::u16string PaddedHex(std::uint64_t value, int digits) { return PadLeftW(ToHex(value, 1), digits, u'0'); }
 
 // Digits are of ASCII.
 std::string Narrowed(const std::u16string& digits) {

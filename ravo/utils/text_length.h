@@ -1,0 +1,21 @@
+#pragma once
+
+#include <ravo/runtime/error.h>
+
+#include <cstddef>
+#include <string>
+#include <utility>
+
+namespace ravo::utils {
+
+/// `length` as the length of a text; `RangeError` where no text of that kind has it. The standard library's
+/// own error for that is none of ours.
+template <class Char>
+[[nodiscard]] std::size_t CheckedLength(std::ptrdiff_t length) {
+  if (length < 0 || std::cmp_greater(length, std::basic_string<Char>().max_size())) {
+    throw RangeError(u"Length out of range");
+  }
+  return static_cast<std::size_t>(length);
+}
+
+}  // namespace ravo::utils
