@@ -84,17 +84,18 @@ constexpr RavoPackageDescription kDescription = {
     RAVO_TYPE_LIBRARY_LOCALE, kVersionStrings.size(), kVersionStrings.data(),
 };
 
+constexpr RavoPackageInfoTable kTable = {kUnits.size(),
+                                         kUnits.data(),
+                                         {0, nullptr, kUnitNames.size(), kUnitNames.data()},
+                                         &kDescription,
+                                         &library_module};
+
 }  // namespace
 }  // namespace ravo::frame
 
 const RavoPackageInfoTable* GetPackageInfoTable() {
-  using namespace ravo::frame;
-  static const RavoPackageInfoTable table = {kUnits.size(),
-                                             kUnits.data(),
-                                             {0, nullptr, kUnitNames.size(), kUnitNames.data()},
-                                             &kDescription,
-                                             &LibraryModule()};
-  return &table;
+  static_cast<void>(ravo::frame::LibraryModule());
+  return &ravo::frame::kTable;
 }
 
 void Initialize() { ravo::frame::StartUnits(ravo::frame::kUnits); }
