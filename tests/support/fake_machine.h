@@ -109,6 +109,7 @@ class FakeMachine : public platform::Machine {
   FakeRegistryKey& Key(platform::RegistryRoot root, std::u16string_view path);
 
   [[nodiscard]] platform::SystemVersion Version() const override { return version; }
+  [[nodiscard]] platform::SystemNumbers VersionNumbers() const noexcept override { return version; }
   [[nodiscard]] bool IsServerR2() const override { return is_server_r2; }
   [[nodiscard]] std::uint16_t ProcessorArchitecture() const override { return architecture; }
   [[nodiscard]] std::u16string Folder(platform::SystemFolder folder) const override;

@@ -19,6 +19,16 @@ SystemFamily FamilyOf(DWORD platform_id) {
   return platform_id <= VER_PLATFORM_WIN32_NT ? static_cast<SystemFamily>(platform_id) : SystemFamily::Other;
 }
 
+bool Fill(OSVERSIONINFOEXW& info) {
+  info = {};
+  info.dwOSVersionInfoSize = sizeof info;
+  return GetVersionExW(reinterpret_cast<OSVERSIONINFOW*>(&info)) != 0;
+}
+
+SystemNumbers NumbersOf(const OSVERSIONINFOEXW& info) {
+  return {FamilyOf(info.dwPlatformId), info.dwMajorVersion, info.dwMinorVersion, info.dwBuildNumber};
+}
+
 ProductType ProductOf(BYTE product) {
   return product <= VER_NT_SERVER ? static_cast<ProductType>(product) : ProductType::Unknown;
 }
@@ -47,19 +57,20 @@ std::uint32_t Clamped(SIZE_T bytes) {
 }  // namespace
 
 SystemVersion Win32Machine::Version() const {
-  OSVERSIONINFOEXW info{};
-  info.dwOSVersionInfoSize = sizeof info;
-  if (!GetVersionExW(reinterpret_cast<OSVERSIONINFOW*>(&info))) return {};
+  OSVERSIONINFOEXW info;
+  if (!Fill(info)) return {};
   SystemVersion version;
-  version.family = FamilyOf(info.dwPlatformId);
-  version.major = info.dwMajorVersion;
-  version.minor = info.dwMinorVersion;
-  version.build = info.dwBuildNumber;
+  static_cast<SystemNumbers&>(version) = NumbersOf(info);
   version.service_pack =
       FromWide(UpToZero(std::wstring_view(info.szCSDVersion, std::size(info.szCSDVersion))));
   version.suite_mask = info.wSuiteMask;
   version.product_type = ProductOf(info.wProductType);
   return version;
+}
+
+SystemNumbers Win32Machine::VersionNumbers() const noexcept {
+  OSVERSIONINFOEXW info;
+  return Fill(info) ? NumbersOf(info) : SystemNumbers();
 }
 
 bool Win32Machine::IsServerR2() const { return GetSystemMetrics(SM_SERVERR2) != 0; }

@@ -9,6 +9,7 @@ namespace ravo::platform {
 class Win32Machine final : public Machine {
  public:
   [[nodiscard]] SystemVersion Version() const override;
+  [[nodiscard]] SystemNumbers VersionNumbers() const noexcept override;
   [[nodiscard]] bool IsServerR2() const override;
   [[nodiscard]] std::uint16_t ProcessorArchitecture() const override;
   [[nodiscard]] std::u16string Folder(SystemFolder folder) const override;
