@@ -20,6 +20,7 @@ CONDITIONS = {
     "RAVO_STATIC": (EVERY, EVERY),  # each preset builds the library shared and static
     "RAVO_BUILDING": (EVERY, EVERY),  # the library itself and whoever uses it
     "RAVO_STATIC || _WIN32": (EVERY, EVERY),
+    "__clang__": ("linux-clang", EVERY),
     "__cplusplus": (EVERY, EVERY),  # the tests load the package from C too
     "RC_INVOKED": ("windows-32", EVERY),
     "LDBL_MANT_DIG == 64": (EVERY, None),
