@@ -24,29 +24,11 @@ ModuleEntry* ModuleIndex::Holding(const RavoModule& record) const noexcept {
 
 ModuleEntry& ModuleIndex::Make(void* instance) {
   if (ModuleEntry* const known = Find(instance)) return *known;
-  ModuleEntry* const former = head_.load(std::memory_order_relaxed);
-  ModuleEntry* const entry = former ? new ModuleEntry : &first_;
+  ModuleEntry* const entry = used_ < room_.size() ? &room_[used_++] : new ModuleEntry;
   entry->instance = instance;
-  entry->next = former;
+  entry->next = head_.load(std::memory_order_relaxed);
   head_.store(entry, std::memory_order_release);
   return *entry;
-}
-
-// The first entry ends the chain and belongs to the index itself.
-void ModuleIndex::Prune() noexcept {
-  ModuleEntry* chain = nullptr;
-  ModuleEntry** end = &chain;
-  for (ModuleEntry* entry = head_.load(std::memory_order_relaxed); entry;) {
-    ModuleEntry* const next = entry->next;
-    if (entry == &first_ || entry->record.load(std::memory_order_relaxed)) {
-      *end = entry;
-      end = &entry->next;
-    } else {
-      delete entry;
-    }
-    entry = next;
-  }
-  head_.store(chain, std::memory_order_relaxed);
 }
 
 }  // namespace ravo::frame

@@ -31,7 +31,7 @@ class ListLock {
 constinit ListLock list_lock;
 constinit RavoModule* first_module = nullptr;
 constinit frame::ModuleIndex index;
-// Null while the library has no record.
+// Null until the library has a record.
 constinit std::atomic<const frame::ModuleEntry*> library_entry{nullptr};
 constinit bool inside_library = false;
 
@@ -164,9 +164,6 @@ void LibraryAttached(ModuleHandle library) noexcept {
 void LibraryDetached() noexcept {
   UnregisterModule(frame::library_module);
   Unload(ExchangeResources(nullptr));
-  const Guard guard(list_lock);
-  library_entry.store(nullptr, std::memory_order_relaxed);
-  index.Prune();
 }
 
 }  // namespace ravo::platform

@@ -9,7 +9,7 @@ namespace ravo {
 
 /// Puts a module's record into the process-wide list; one that is already there stays once. The record must
 /// live, and keep its instance, until it is taken out. Throws `std::bad_alloc`, and nothing changed, where
-/// memory is short.
+/// memory is short and more than 128 instances were listed so far.
 RAVO_API void RegisterModule(RavoModule& module);
 
 /// Takes a record out of the list; nothing happens where it is not there.

@@ -11,4 +11,8 @@ enum class ChildEnd { Success, Failure, Hang };
 /// child is ended then. The wait is long enough for any machine.
 ChildEnd RunChild(const std::string& program, const std::string& argument);
 
+/// Has the end of this process take a moment longer after the libraries had theirs; nothing where the other
+/// threads are gone by then.
+void LingerAtTheEnd();
+
 }  // namespace ravo::test

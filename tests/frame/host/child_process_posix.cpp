@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <csignal>
+#include <cstdio>
 #include <thread>
 
 #include <sys/wait.h>
@@ -38,6 +39,16 @@ ChildEnd RunChild(const std::string& program, const std::string& argument) {
     _exit(127);
   }
   return WaitFor(child);
+}
+
+// The last thing that a process does is to write what its open files still hold.
+void LingerAtTheEnd() {
+  constexpr auto write_slowly = [](void*, const char*, std::size_t size) {
+    std::this_thread::sleep_for(kStep * 10);
+    return static_cast<ssize_t>(size);
+  };
+  std::FILE* const file = fopencookie(nullptr, "w", {nullptr, write_slowly, nullptr, nullptr});
+  if (file) std::fputs("held", file);
 }
 
 }  // namespace ravo::test

@@ -33,4 +33,6 @@ ChildEnd RunChild(const std::string& program, const std::string& argument) {
   return end;
 }
 
+void LingerAtTheEnd() {}
+
 }  // namespace ravo::test

@@ -1,6 +1,6 @@
 // A process ends while its threads read texts: it always comes to its end. The program runs itself as a
-// child, many times, since only some ends meet a thread at the wrong moment. usage: process_end_test PROGRAM
-// LANGUAGE-MODULE
+// child, many times, since only some ends meet a thread at the wrong moment.
+// usage: process_end_test PROGRAM LANGUAGE-MODULE
 #include "child_process.h"
 #include <ravo/frame/module_record.h>
 #include <ravo/frame/resource_string.h>
@@ -25,7 +25,7 @@ std::atomic<int> reading{0};
 
 [[noreturn]] void ReadForEver() {
   for (bool is_first = true;; is_first = false) {
-    if (kInvoice.Text().empty()) std::abort();
+    if (kInvoice.Text().front() != u'&') std::abort();
     if (is_first) ++reading;
   }
 }
@@ -33,6 +33,7 @@ std::atomic<int> reading{0};
 [[noreturn]] void EndWhileTextsAreRead(std::string_view language) {
   if (language != kNoLanguage && !ravo::AttachResourceModule(ravo::FromUtf8(language))) std::exit(1);
   for (int i = 0; i < kThreads; ++i) std::thread(ReadForEver).detach();
+  ravo::test::LingerAtTheEnd();
   while (reading < kThreads) std::this_thread::yield();
   std::exit(0);
 }
