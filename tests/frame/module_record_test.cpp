@@ -6,6 +6,7 @@
 #include <functional>
 #include <memory>
 #include <thread>
+#include <vector>
 
 #include <gtest/gtest.h>
 #include <support/fake_machine.h>
@@ -69,6 +70,17 @@ TEST(ModuleList, LinksTheRecordsThatWereListedBefore) {
   EXPECT_EQ(second.Next, &frame::LibraryModule());
   EXPECT_EQ(first.Next, nullptr);
   UnregisterModule(second);
+}
+
+// More than there is room for without memory.
+TEST(ModuleList, HoldsAnyNumberOfRecords) {
+  static int many_places[300];
+  std::vector<RavoModule> modules;
+  for (int& place : many_places) modules.push_back(RecordOf(&place));
+  for (RavoModule& module : modules) RegisterModule(module);
+  for (RavoModule& module : modules) EXPECT_EQ(FindModule(module.Instance), &module);
+  for (RavoModule& module : modules) UnregisterModule(module);
+  for (RavoModule& module : modules) EXPECT_EQ(FindModule(module.Instance), nullptr);
 }
 
 // Lists and unlists a record that does not live longer than that.
