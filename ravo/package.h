@@ -85,12 +85,12 @@ typedef struct RavoPackageDescription {
 /** A loaded module as the process-wide list keeps it. `ResInstance` is where resource strings are looked up
  * first: the module itself, or a language module that was attached to it. A language module that a host puts
  * there belongs to the record from then on: it is unloaded with the library, or when another one takes its
- * place. */
+ * place. At the end of a process on Windows both are left to the system. */
 typedef struct RavoModule {
   struct RavoModule* Next; /**< the module that was loaded before it, or null */
   void* Instance;          /**< the module itself */
-  void* CodeInstance;      /**< the same */
-  void* DataInstance;      /**< the same */
+  void* CodeInstance;      /**< null: the entry point clears it */
+  void* DataInstance;      /**< null: the entry point clears it */
   void* ResInstance;       /**< where resource strings are looked up */
 } RavoModule;
 
@@ -119,8 +119,9 @@ typedef void (*RavoPackageProcedure)(void);
 /** The module table; it lives as long as the library stays loaded. */
 RAVO_API const RavoPackageInfoTable* GetPackageInfoTable(void);
 
-/** Starts all modules, from the first slot to the last. Starts are counted for each module: only the first of
- * nested ones does work. The counters are not locked: a host starts and stops from one thread at a time. */
+/** Starts all modules, from the first slot to the last; needs no memory and cannot fail. Starts are counted
+ * for each module: only the first of nested ones does work. The counters are not locked: a host starts and
+ * stops from one thread at a time. */
 RAVO_API void Initialize(void);
 
 /** Stops all modules, from the last slot to the first; only the stop that answers the first start does work.

@@ -1,30 +1,53 @@
+#include <ravo/frame/module_index.h>
 #include <ravo/frame/module_record.h>
 #include <ravo/platform/library_entry.h>
 
-#include <cstddef>
+#include <atomic>
 #include <mutex>
-#include <new>
+#include <thread>
 #include <utility>
 
 namespace ravo {
+
+constinit RavoModule frame::library_module{};
+
 namespace {
 
-// Initialised as constants, and the lock at its first use: the entry point runs before or after other
-// initialisers as it pleases. The lock is never destroyed, since the entry point may come last too.
+using frame::library_module;
+
+// Held by writers of the list alone and for a moment. It is ready before any initialiser runs, is never
+// destroyed and needs no memory: the entry point takes it first and last.
+class ListLock {
+ public:
+  void lock() noexcept {
+    while (flag_.test_and_set(std::memory_order_acquire)) std::this_thread::yield();
+  }
+  void unlock() noexcept { flag_.clear(std::memory_order_release); }
+
+ private:
+  std::atomic_flag flag_;
+};
+
+constinit ListLock list_lock;
 constinit RavoModule* first_module = nullptr;
-constinit RavoModule library_module{};
+constinit frame::ModuleIndex index;
+// Null until the library has a record.
+constinit std::atomic<const frame::ModuleEntry*> library_entry{nullptr};
 constinit bool inside_library = false;
 
-std::mutex& ListLock() noexcept {
-  alignas(std::mutex) static std::byte place[sizeof(std::mutex)];
-  static std::mutex& lock = *new (place) std::mutex;
-  return lock;
-}
+using Guard = std::scoped_lock<ListLock>;
 
-using Guard = std::scoped_lock<std::mutex>;
+// A child process must not inherit the lock from a thread that it does not have.
+[[maybe_unused]] const bool held_by_who_forks =
+    (platform::CallAroundFork([]() noexcept { list_lock.lock(); }, []() noexcept { list_lock.unlock(); }),
+     true);
 
-// The link that leads to the first record for which `is_it` holds, or the last link. The caller holds the
-// lock.
+// The host may write the field too.
+std::atomic_ref<void*> ResourcesOf(RavoModule& module) { return std::atomic_ref<void*>(module.ResInstance); }
+
+// What follows up to the public functions wants the lock held.
+
+// The link that leads to the first record for which `is_it` holds, or the last link.
 template <typename Predicate>
 RavoModule** LinkTo(Predicate is_it) {
   RavoModule** link = &first_module;
@@ -36,37 +59,46 @@ RavoModule** LinkTo(const RavoModule& module) {
   return LinkTo([&](const RavoModule& listed) { return &listed == &module; });
 }
 
-RavoModule** LinkToInstance(const void* instance) {
-  return LinkTo([=](const RavoModule& listed) { return listed.Instance == instance; });
+// Shows readers the record that was listed last of those with the entry's instance.
+void Publish(frame::ModuleEntry& entry) {
+  RavoModule* const record =
+      *LinkTo([&](const RavoModule& listed) { return listed.Instance == entry.instance; });
+  entry.record.store(record, std::memory_order_release);
 }
 
 void Link(RavoModule& module) {
-  if (RavoModule** link = LinkTo(module); !*link) {
-    module.Next = std::exchange(first_module, &module);
-  }
+  if (*LinkTo(module)) return;
+  frame::ModuleEntry& entry = index.Make(module.Instance);
+  module.Next = std::exchange(first_module, &module);
+  Publish(entry);
 }
 
 void Unlink(RavoModule& module) {
-  if (RavoModule** link = LinkTo(module); *link) *link = std::exchange(module.Next, nullptr);
+  RavoModule** const link = LinkTo(module);
+  if (!*link) return;
+  *link = std::exchange(module.Next, nullptr);
+  if (frame::ModuleEntry* const entry = index.Holding(module)) Publish(*entry);
 }
 
 void Attach(platform::ModuleHandle library) {
-  library_module = {library_module.Next, library, nullptr, nullptr, library};
+  Unlink(library_module);
+  library_module = {nullptr, library, nullptr, nullptr, library};
   Link(library_module);
+  library_entry.store(index.Find(library), std::memory_order_release);
 }
 
-// The library's record, registered. The caller holds the lock.
+// The library's record, registered before any other: so the first entry of the index is its own.
 RavoModule& Registered() {
-  if (!library_module.Instance) Attach(platform::ThisModule());
+  if (!library_entry.load(std::memory_order_relaxed)) Attach(platform::ThisModule());
   return library_module;
 }
 
 // Puts `resources` (null for the library itself) in force; gives the separate module that was, or null.
 platform::ModuleHandle ExchangeResources(platform::ModuleHandle resources) {
-  const Guard guard(ListLock());
+  const Guard guard(list_lock);
   RavoModule& module = Registered();
   const platform::ModuleHandle former =
-      std::exchange(module.ResInstance, resources ? resources : module.Instance);
+      ResourcesOf(module).exchange(resources ? resources : module.Instance, std::memory_order_acq_rel);
   return former == module.Instance ? nullptr : former;
 }
 
@@ -76,19 +108,20 @@ void Unload(platform::ModuleHandle resources) noexcept {
 
 }  // namespace
 
-void RegisterModule(RavoModule& module) noexcept {
-  const Guard guard(ListLock());
+void RegisterModule(RavoModule& module) {
+  const Guard guard(list_lock);
+  Registered();
   Link(module);
 }
 
 void UnregisterModule(RavoModule& module) noexcept {
-  const Guard guard(ListLock());
+  const Guard guard(list_lock);
   Unlink(module);
 }
 
 RavoModule* FindModule(const void* instance) noexcept {
-  const Guard guard(ListLock());
-  return *LinkToInstance(instance);
+  const frame::ModuleEntry* const entry = index.Find(instance);
+  return entry ? entry->record.load(std::memory_order_acquire) : nullptr;
 }
 
 bool AttachResourceModule(std::u16string_view file) {
@@ -105,15 +138,15 @@ void DetachResourceModule() noexcept { Unload(ExchangeResources(nullptr)); }
 namespace ravo::frame {
 
 RavoModule& LibraryModule() noexcept {
-  const Guard guard(ListLock());
+  const Guard guard(list_lock);
   return Registered();
 }
 
 ResourcePlaces CurrentResourcePlaces() noexcept {
-  const Guard guard(ListLock());
-  const platform::ModuleHandle own = Registered().Instance;
-  const RavoModule* listed = *LinkToInstance(own);
-  return {own, listed ? listed->ResInstance : nullptr};
+  if (!library_entry.load(std::memory_order_relaxed)) static_cast<void>(LibraryModule());
+  const ModuleEntry& own = *library_entry.load(std::memory_order_acquire);
+  RavoModule* const listed = own.record.load(std::memory_order_acquire);
+  return {own.instance, listed ? ResourcesOf(*listed).load(std::memory_order_acquire) : nullptr};
 }
 
 bool InsideLibrary() noexcept { return inside_library; }
@@ -123,13 +156,13 @@ bool InsideLibrary() noexcept { return inside_library; }
 namespace ravo::platform {
 
 void LibraryAttached(ModuleHandle library) noexcept {
-  const Guard guard(ListLock());
+  const Guard guard(list_lock);
   inside_library = true;
   Attach(library);
 }
 
 void LibraryDetached() noexcept {
-  UnregisterModule(library_module);
+  UnregisterModule(frame::library_module);
   Unload(ExchangeResources(nullptr));
 }
 

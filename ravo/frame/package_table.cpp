@@ -4,6 +4,7 @@
 #include <ravo/frame/project_version.h>
 #include <ravo/frame/unit_walk.h>
 #include <ravo/package.h>
+#include <ravo/runtime/utf16_units.h>
 
 #include <algorithm>
 #include <array>
@@ -11,21 +12,13 @@
 namespace ravo::frame {
 namespace {
 
-// Texts of the C structures, whose units are of another type than those of C++ literals.
-template <std::size_t size>
-consteval std::array<std::uint16_t, size> Units(const char16_t (&text)[size]) {
-  std::array<std::uint16_t, size> units{};
-  std::ranges::copy(text, units.begin());
-  return units;
-}
-
 #define RAVO_UTF16(text) u##text
 
-constexpr auto kText = Units(u"" RAVO_DESCRIPTION_TEXT);
-constexpr auto kTypeLibraryName = Units(u"" RAVO_TYPE_LIBRARY_NAME);
-constexpr auto kTypeLibraryHelp = Units(u"" RAVO_TYPE_LIBRARY_HELP);
+constexpr auto kText = Utf16Units(u"" RAVO_DESCRIPTION_TEXT);
+constexpr auto kTypeLibraryName = Utf16Units(u"" RAVO_TYPE_LIBRARY_NAME);
+constexpr auto kTypeLibraryHelp = Utf16Units(u"" RAVO_TYPE_LIBRARY_HELP);
 
-#define RAVO_VERSION_STRING(key, text) constexpr auto k##key = Units(RAVO_UTF16(text));
+#define RAVO_VERSION_STRING(key, text) constexpr auto k##key = Utf16Units(RAVO_UTF16(text));
 #include <ravo/frame/version.inc>
 #undef RAVO_VERSION_STRING
 
@@ -84,17 +77,18 @@ constexpr RavoPackageDescription kDescription = {
     RAVO_TYPE_LIBRARY_LOCALE, kVersionStrings.size(), kVersionStrings.data(),
 };
 
+constexpr RavoPackageInfoTable kTable = {kUnits.size(),
+                                         kUnits.data(),
+                                         {0, nullptr, kUnitNames.size(), kUnitNames.data()},
+                                         &kDescription,
+                                         &library_module};
+
 }  // namespace
 }  // namespace ravo::frame
 
 const RavoPackageInfoTable* GetPackageInfoTable() {
-  using namespace ravo::frame;
-  static const RavoPackageInfoTable table = {kUnits.size(),
-                                             kUnits.data(),
-                                             {0, nullptr, kUnitNames.size(), kUnitNames.data()},
-                                             &kDescription,
-                                             &LibraryModule()};
-  return &table;
+  static_cast<void>(ravo::frame::LibraryModule());
+  return &ravo::frame::kTable;
 }
 
 void Initialize() { ravo::frame::StartUnits(ravo::frame::kUnits); }

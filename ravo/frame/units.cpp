@@ -13,7 +13,7 @@ struct Bodies {
 constexpr auto kBodies = [] {
   std::array<Bodies, kModules.size()> bodies{};
   bodies[static_cast<std::size_t>(Module::DISystemCompat)] = {StartDISystemCompat, StopDISystemCompat};
-  bodies[static_cast<std::size_t>(Module::DIUtils)] = {StartDIUtils, StopDIUtils};
+  bodies[static_cast<std::size_t>(Module::DIUtils)] = {nullptr, StopDIUtils};
   return bodies;
 }();
 

@@ -11,10 +11,9 @@ namespace ravo::frame {
 [[nodiscard]] std::int32_t ModuleCounter(Module module) noexcept;
 
 // The bodies of the modules that have something to do. The rooms of these modules define them: the frame lies
-// below all rooms and includes none.
+// below all rooms and includes none. A start needs no memory and cannot fail.
 void StartDISystemCompat() noexcept;
 void StopDISystemCompat() noexcept;
-void StartDIUtils() noexcept;
 void StopDIUtils() noexcept;
 
 }  // namespace ravo::frame

@@ -9,6 +9,10 @@ namespace ravo::platform {
 void LibraryAttached(ModuleHandle library) noexcept;
 void LibraryDetached() noexcept;
 
+/// Has `before` run in the process that forks before each fork, and `after` in parent and child after it, for
+/// as long as this code is mapped. Nothing on systems without fork.
+void CallAroundFork(void (*before)() noexcept, void (*after)() noexcept) noexcept;
+
 /// The module that this code was linked into: the shared library, or the program of a static build.
 [[nodiscard]] ModuleHandle ThisModule() noexcept;
 

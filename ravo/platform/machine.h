@@ -28,12 +28,16 @@ enum class SystemFamily : std::uint32_t { Win32s = 0, Windows9x = 1, WindowsNt =
 /// What kind of Windows product it is, with the numbers of the version record.
 enum class ProductType : std::uint8_t { Unknown = 0, Workstation = 1, DomainController = 2, Server = 3 };
 
-/// The version record, basic or extended.
-struct SystemVersion {
+/// The numbers of the version record.
+struct SystemNumbers {
   SystemFamily family = SystemFamily::Other;  ///< the kind of system
   std::uint32_t major = 0;                    ///< of the version
   std::uint32_t minor = 0;                    ///< of the version
   std::uint32_t build = 0;                    ///< number of the build
+};
+
+/// The version record, basic or extended.
+struct SystemVersion : SystemNumbers {
   /// At most 127 units.
   std::u16string service_pack;
   /// Bits of the product suites, as Windows numbers them; in the extended record alone.
@@ -167,6 +171,8 @@ class RAVO_API Machine {
   [[nodiscard]] virtual SystemVersion Version() const = 0;
   /// The basic version record, which every kind of Windows has; on Linux as the extended one.
   [[nodiscard]] virtual SystemVersion BasicVersion() const = 0;
+  /// Its numbers alone, which need no memory.
+  [[nodiscard]] virtual SystemNumbers VersionNumbers() const noexcept = 0;
   /// Whether the system calls itself the second release of its server edition.
   [[nodiscard]] virtual bool IsServerR2() const = 0;
   /// With the number that Windows gives it.

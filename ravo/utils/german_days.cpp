@@ -4,30 +4,23 @@
 namespace ravo::DIUtils {
 namespace {
 
-struct DayNames {
-  std::array<std::string, 7> narrow;
-  std::array<std::u16string, 7> wide;
-};
+constinit std::array<std::string_view, 7> narrow_names{"So", "Mo", "Di", "Mi", "Do", "Fr", "Sa"};
+constinit std::array<std::u16string_view, 7> wide_names{u"So", u"Mo", u"Di", u"Mi", u"Do", u"Fr", u"Sa"};
 
-// No name is long enough to need memory of its own, so that a start cannot fail.
-DayNames Filled() {
-  return {{"So", "Mo", "Di", "Mi", "Do", "Fr", "Sa"}, {u"So", u"Mo", u"Di", u"Mi", u"Do", u"Fr", u"Sa"}};
+void ReleaseNames() noexcept {
+  narrow_names = {};
+  wide_names = {};
 }
-
-DayNames names = Filled();
 
 }  // namespace
 
-const std::array<std::string, 7>& ShortGermanDaysA() noexcept { return names.narrow; }
-const std::array<std::u16string, 7>& ShortGermanDaysW() noexcept { return names.wide; }
+const std::array<std::string_view, 7>& ShortGermanDaysA() noexcept { return narrow_names; }
+const std::array<std::u16string_view, 7>& ShortGermanDaysW() noexcept { return wide_names; }
 
 }  // namespace ravo::DIUtils
 
 namespace ravo::frame {
 
-// A start after a stop in the same mapping of the library finds the tables as the first one did.
-void StartDIUtils() noexcept { DIUtils::names = DIUtils::Filled(); }
-
-void StopDIUtils() noexcept { DIUtils::names = {}; }
+void StopDIUtils() noexcept { DIUtils::ReleaseNames(); }
 
 }  // namespace ravo::frame

@@ -21,7 +21,7 @@ const SystemRecord& RecordedSystem() noexcept { return record; }
 namespace ravo::frame {
 
 void StartDISystemCompat() noexcept {
-  const platform::SystemVersion version = platform::CurrentMachine().Version();
+  const platform::SystemNumbers version = platform::CurrentMachine().VersionNumbers();
   DISystemCompat::record = {static_cast<std::uint32_t>(version.family), version.major, version.minor};
 }
 

@@ -20,6 +20,7 @@ CONDITIONS = {
     "RAVO_STATIC": (EVERY, EVERY),  # each preset builds the library shared and static
     "RAVO_BUILDING": (EVERY, EVERY),  # the library itself and whoever uses it
     "RAVO_STATIC || _WIN32": (EVERY, EVERY),
+    "__clang__": ("linux-clang", EVERY),
     "__cplusplus": (EVERY, EVERY),  # the tests load the package from C too
     "__cplusplus < 202002L": (None, EVERY),  # what must not compile is tried by the test consumers.public_headers
     "RC_INVOKED": ("windows-32", EVERY),

@@ -2,6 +2,12 @@
 #include <ravo/frame/resource_string.h>
 #include <ravo/platform/library_entry.h>
 
+#include <atomic>
+#include <functional>
+#include <memory>
+#include <thread>
+#include <vector>
+
 #include <gtest/gtest.h>
 #include <support/fake_machine.h>
 
@@ -36,6 +42,77 @@ TEST(ModuleList, RegisteringTwiceListsOnce) {
   RegisterModule(module);
   UnregisterModule(module);
   EXPECT_EQ(FindModule(&places[0]), nullptr);
+}
+
+TEST(ModuleList, OfTwoRecordsOfOneInstanceTheLaterOneIsFound) {
+  RavoModule earlier = RecordOf(&places[0]);
+  RavoModule later = RecordOf(&places[0]);
+  RegisterModule(earlier);
+  RegisterModule(later);
+  EXPECT_EQ(FindModule(&places[0]), &later);
+  UnregisterModule(later);
+  EXPECT_EQ(FindModule(&places[0]), &earlier);
+  RegisterModule(later);
+  UnregisterModule(earlier);
+  EXPECT_EQ(FindModule(&places[0]), &later);
+  UnregisterModule(later);
+  EXPECT_EQ(FindModule(&places[0]), nullptr);
+}
+
+TEST(ModuleList, LinksTheRecordsThatWereListedBefore) {
+  RavoModule first = RecordOf(&places[0]);
+  RavoModule second = RecordOf(&places[1]);
+  RegisterModule(first);
+  RegisterModule(second);
+  EXPECT_EQ(second.Next, &first);
+  EXPECT_EQ(first.Next, &frame::LibraryModule());
+  UnregisterModule(first);
+  EXPECT_EQ(second.Next, &frame::LibraryModule());
+  EXPECT_EQ(first.Next, nullptr);
+  UnregisterModule(second);
+}
+
+// More than there is room for without memory.
+TEST(ModuleList, HoldsAnyNumberOfRecords) {
+  static int many_places[300];
+  std::vector<RavoModule> modules;
+  for (int& place : many_places) modules.push_back(RecordOf(&place));
+  for (RavoModule& module : modules) RegisterModule(module);
+  for (RavoModule& module : modules) EXPECT_EQ(FindModule(module.Instance), &module);
+  for (RavoModule& module : modules) UnregisterModule(module);
+  for (RavoModule& module : modules) EXPECT_EQ(FindModule(module.Instance), nullptr);
+}
+
+// Lists and unlists a record that does not live longer than that.
+void ComeAndGo(int& place) {
+  for (int i = 0; i < 2000; ++i) {
+    const auto module = std::make_unique<RavoModule>(RecordOf(&place));
+    RegisterModule(*module);
+    UnregisterModule(*module);
+  }
+}
+
+TEST(ModuleList, IsReadWhileItChanges) {
+  RavoModule steady = RecordOf(&places[0]);
+  RegisterModule(steady);
+  std::atomic<bool> is_over{false};
+  std::atomic<int> misses{0};
+  const auto read = [&] {
+    while (!is_over) {
+      misses += FindModule(&places[0]) != &steady;
+      misses += FindModule(frame::LibraryModule().Instance) != &frame::LibraryModule();
+      misses += ResourceString{65478, u"&Závazek"}.View() != u"&Závazek";
+      static_cast<void>(FindModule(&places[1]));
+    }
+  };
+  std::thread readers[] = {std::thread(read), std::thread(read)};
+  std::thread writers[] = {std::thread(ComeAndGo, std::ref(places[1])),
+                           std::thread(ComeAndGo, std::ref(places[2]))};
+  for (std::thread& writer : writers) writer.join();
+  is_over = true;
+  for (std::thread& reader : readers) reader.join();
+  UnregisterModule(steady);
+  EXPECT_EQ(misses, 0);
 }
 
 TEST(ModuleList, HoldsTheRecordOfTheLibrary) {

@@ -4,9 +4,11 @@
 #include <ravo/utils/system_compat.h>
 
 #include <map>
+#include <string_view>
 #include <vector>
 
 #include <gtest/gtest.h>
+#include <support/allocation_count.h>
 #include <support/fake_machine.h>
 
 namespace ravo::frame {
@@ -148,10 +150,9 @@ std::vector<std::int32_t> Counters() {
   return counters;
 }
 
-// What the two modules with something to do have done: "started" or "released" is read off their data.
-bool DaysAreThere() {
-  return DIUtils::ShortGermanDaysA()[0] == "So" && DIUtils::ShortGermanDaysW()[6] == u"Sa";
-}
+// As they were when the program began: once they are released nothing brings them back.
+const auto kNarrowDays = DIUtils::ShortGermanDaysA();
+const auto kWideDays = DIUtils::ShortGermanDaysW();
 
 bool DaysAreReleased() {
   const auto is_empty = [](const auto& name) { return name.empty(); };
@@ -161,12 +162,13 @@ bool DaysAreReleased() {
 
 TEST(Initialize, StartedTwiceAndStoppedOnceLeavesEveryModuleStarted) {
   EXPECT_EQ(Counters(), std::vector<std::int32_t>(28, 0));
+  const auto days = DIUtils::ShortGermanDaysA();
   Initialize();
   Initialize();
   EXPECT_EQ(Counters(), std::vector<std::int32_t>(28, -2));
   Finalize();
   EXPECT_EQ(Counters(), std::vector<std::int32_t>(28, -1));
-  EXPECT_TRUE(DaysAreThere());
+  EXPECT_EQ(DIUtils::ShortGermanDaysA(), days);
   Finalize();
   EXPECT_EQ(Counters(), std::vector<std::int32_t>(28, 0));
   EXPECT_TRUE(DaysAreReleased());
@@ -192,6 +194,28 @@ TEST(Initialize, RecordsTheSystemAtTheFirstStartOnly) {
   Finalize();
 }
 
+TEST(Initialize, NeedsNoMemory) {
+  test::FakeMachine machine;
+  machine.version.service_pack = u"a text too long for a string without memory of its own";
+  for (const platform::Machine* asked :
+       {static_cast<const platform::Machine*>(&machine), &platform::RealMachine()}) {
+    const platform::ScopedMachine scoped(*asked);
+    const std::size_t before = test::AllocationCount();
+    Initialize();
+    Finalize();
+    EXPECT_EQ(test::AllocationCount(), before);
+  }
+}
+
+// What is counted above would be seen.
+TEST(Initialize, WouldBeSeenToNeedMemory) {
+  test::FakeMachine machine;
+  machine.version.service_pack = u"a text too long for a string without memory of its own";
+  const std::size_t before = test::AllocationCount();
+  static_cast<void>(machine.Version());
+  EXPECT_EQ(test::AllocationCount() > before, test::kAllocationsCounted);
+}
+
 TEST(Initialize, StartsOneModuleOnItsOwn) {
   DIUtils_Initialize();
   EXPECT_EQ(ModuleCounter(Module::DIUtils), -1);
@@ -200,16 +224,22 @@ TEST(Initialize, StartsOneModuleOnItsOwn) {
   EXPECT_EQ(ModuleCounter(Module::DIUtils), 0);
 }
 
-TEST(Finalize, ReleasesTheGermanDayNamesUntilTheNextStart) {
+TEST(Finalize, ReleasesTheGermanDayNamesThatWereThereAtFirst) {
+  EXPECT_EQ(kNarrowDays, (std::array<std::string_view, 7>{"So", "Mo", "Di", "Mi", "Do", "Fr", "Sa"}));
+  EXPECT_EQ(kWideDays, (std::array<std::u16string_view, 7>{u"So", u"Mo", u"Di", u"Mi", u"Do", u"Fr", u"Sa"}));
   DIUtils_Initialize();
-  EXPECT_EQ(DIUtils::ShortGermanDaysA(),
-            (std::array<std::string, 7>{"So", "Mo", "Di", "Mi", "Do", "Fr", "Sa"}));
-  EXPECT_EQ(DIUtils::ShortGermanDaysW(),
-            (std::array<std::u16string, 7>{u"So", u"Mo", u"Di", u"Mi", u"Do", u"Fr", u"Sa"}));
   DIUtils_Finalize();
   EXPECT_TRUE(DaysAreReleased());
+}
+
+// The module has work at its stop alone.
+TEST(Initialize, DoesNotBringTheGermanDayNamesBack) {
+  for (int i = 0; i < 2; ++i) {
+    DIUtils_Initialize();
+    DIUtils_Finalize();
+  }
   DIUtils_Initialize();
-  EXPECT_TRUE(DaysAreThere());
+  EXPECT_TRUE(DaysAreReleased());
   DIUtils_Finalize();
 }
 

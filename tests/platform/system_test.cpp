@@ -11,6 +11,11 @@ TEST(System, VersionIsSane) {
   EXPECT_LE(version.family, SystemFamily::Other);
   EXPECT_GT(version.major, 0U);
   EXPECT_LE(version.service_pack.size(), 127U);
+  const SystemNumbers numbers = CurrentMachine().VersionNumbers();
+  EXPECT_EQ(numbers.family, version.family);
+  EXPECT_EQ(numbers.major, version.major);
+  EXPECT_EQ(numbers.minor, version.minor);
+  EXPECT_EQ(numbers.build, version.build);
 }
 
 TEST(System, FoldersFitTheirBuffer) {

@@ -114,6 +114,7 @@ class FakeMachine : public platform::Machine {
   [[nodiscard]] platform::SystemVersion BasicVersion() const override {
     return basic_version.value_or(version);
   }
+  [[nodiscard]] platform::SystemNumbers VersionNumbers() const noexcept override { return version; }
   [[nodiscard]] bool IsServerR2() const override { return is_server_r2; }
   [[nodiscard]] std::uint16_t ProcessorArchitecture() const override { return architecture; }
   [[nodiscard]] std::u16string Folder(platform::SystemFolder folder) const override;

@@ -1,16 +1,13 @@
 #pragma once
 
+#include <ravo/catalogue/class_identifiers.h>
 #include <ravo/runtime/export.h>
-#include <ravo/runtime/guid.h>
 
 #include <cstdint>
 #include <string>
 #include <string_view>
 
 namespace ravo::RavoBaseConstants {
-
-/// Class identifier of the shared base's factory of business objects.
-inline constexpr Guid sClassFactoryBaseGUID("{DFF3DC22-6B28-4056-B9F5-7263A892C698}");
 
 /// The description of table `id` where that table belongs to this module; empty for every other identifier.
 [[nodiscard]] RAVO_API std::u16string GetBaseTableDescription(std::int32_t id);

@@ -11,6 +11,7 @@ namespace ravo::platform::posix {
 /// below `root`.
 class PosixFileSystem final : public FileSystem {
  public:
+  constexpr PosixFileSystem() = default;
   explicit PosixFileSystem(std::string root) : root_(std::move(root)) {}
   ~PosixFileSystem() override;
 

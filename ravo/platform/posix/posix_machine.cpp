@@ -1,7 +1,5 @@
 #include <ravo/platform/posix/posix_machine.h>
-
-#include <cstddef>
-#include <new>
+#include <ravo/runtime/undestroyed.h>
 
 namespace ravo::platform {
 namespace posix {
@@ -10,11 +8,12 @@ PosixMachine::~PosixMachine() = default;
 
 }  // namespace posix
 
-const Machine& RealMachine() noexcept {
-  // Never destroyed: it is asked while the process ends, too.
-  alignas(posix::PosixMachine) static std::byte place[sizeof(posix::PosixMachine)];
-  static const Machine* const machine = new (place) posix::PosixMachine;
-  return *machine;
-}
+namespace {
+
+constinit const Undestroyed<posix::PosixMachine> real_machine;
+
+}  // namespace
+
+const Machine& RealMachine() noexcept { return real_machine.value; }
 
 }  // namespace ravo::platform

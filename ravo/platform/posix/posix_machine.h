@@ -9,12 +9,14 @@ namespace ravo::platform::posix {
 /// one unless a test gives another; each question reads anew.
 class PosixMachine final : public Machine {
  public:
+  constexpr PosixMachine() = default;
   /// `root` has no "/" at its end; empty is the real one.
-  explicit PosixMachine(std::string root = {}) : root_(std::move(root)), files_(root_) {}
+  explicit PosixMachine(std::string root) : root_(std::move(root)), files_(root_) {}
   ~PosixMachine() override;
 
   [[nodiscard]] SystemVersion Version() const override;
   [[nodiscard]] SystemVersion BasicVersion() const override;
+  [[nodiscard]] SystemNumbers VersionNumbers() const noexcept override;
   [[nodiscard]] bool IsServerR2() const override { return false; }
   [[nodiscard]] std::uint16_t ProcessorArchitecture() const override;
   [[nodiscard]] std::u16string Folder(SystemFolder folder) const override;

@@ -2,6 +2,8 @@
 #include <ravo/platform/posix/paths.h>
 #include <ravo/platform/posix/posix_machine.h>
 
+#include <atomic>
+
 #include <dlfcn.h>
 #include <link.h>
 
@@ -48,9 +50,24 @@ void PosixMachine::UnloadResources(ModuleHandle module) const {
 
 }  // namespace posix
 
-ModuleHandle ThisModule() noexcept {
+namespace {
+
+ModuleHandle AskedForThisModule() noexcept {
   Dl_info facts{};
   return dladdr(reinterpret_cast<void*>(&ThisModule), &facts) != 0 ? facts.dli_fbase : nullptr;
+}
+
+}  // namespace
+
+// Each look-up of a text asks this; the loader, which locks, is asked until it has answered.
+ModuleHandle ThisModule() noexcept {
+  constinit static std::atomic<ModuleHandle> known{nullptr};
+  ModuleHandle module = known.load(std::memory_order_relaxed);
+  if (!module) {
+    module = AskedForThisModule();
+    known.store(module, std::memory_order_relaxed);
+  }
+  return module;
 }
 
 }  // namespace ravo::platform

@@ -27,19 +27,26 @@ std::uint32_t TakeNumber(std::string_view& rest) {
   return result.ec == std::errc::result_out_of_range ? std::numeric_limits<std::uint32_t>::max() : number;
 }
 
-}  // namespace
-
-SystemVersion VersionFromRelease(std::string_view release) {
-  SystemVersion version;
-  for (std::uint32_t* part : {&version.major, &version.minor, &version.build}) {
+// Takes up to three numbers off the front.
+SystemNumbers TakeNumbers(std::string_view& release) {
+  SystemNumbers numbers;
+  for (std::uint32_t* part : {&numbers.major, &numbers.minor, &numbers.build}) {
     if (!StartsWithDigit(release)) break;
     *part = TakeNumber(release);
-    if (part != &version.build && release.starts_with('.') && StartsWithDigit(release.substr(1))) {
+    if (part != &numbers.build && release.starts_with('.') && StartsWithDigit(release.substr(1))) {
       release.remove_prefix(1);
     } else {
       break;
     }
   }
+  return numbers;
+}
+
+}  // namespace
+
+SystemVersion VersionFromRelease(std::string_view release) {
+  SystemVersion version;
+  static_cast<SystemNumbers&>(version) = TakeNumbers(release);
   if (release.starts_with('-')) release.remove_prefix(1);
   version.service_pack = FromUtf8(release).substr(0, kMostServicePackUnits);
   return version;
@@ -58,6 +65,12 @@ SystemVersion PosixMachine::Version() const {
 }
 
 SystemVersion PosixMachine::BasicVersion() const { return Version(); }
+SystemNumbers PosixMachine::VersionNumbers() const noexcept {
+  utsname names{};
+  if (uname(&names) != 0) return {};
+  std::string_view release(names.release);
+  return TakeNumbers(release);
+}
 
 std::uint16_t PosixMachine::ProcessorArchitecture() const {
   utsname names{};

@@ -2,9 +2,11 @@
 
 #include <windows.h>
 
-// Windows calls this when it maps and unmaps the library; it never refuses a load.
-extern "C" BOOL WINAPI DllMain(HINSTANCE library, DWORD reason, LPVOID) {
+// Windows calls this when it maps and unmaps the library; it never refuses a load. At the end of the process
+// (`reserved` is not null) the other threads are gone with whatever they held: the system takes back the
+// rest.
+extern "C" BOOL WINAPI DllMain(HINSTANCE library, DWORD reason, LPVOID reserved) {
   if (reason == DLL_PROCESS_ATTACH) ravo::platform::LibraryAttached(library);
-  if (reason == DLL_PROCESS_DETACH) ravo::platform::LibraryDetached();
+  if (reason == DLL_PROCESS_DETACH && !reserved) ravo::platform::LibraryDetached();
   return TRUE;
 }

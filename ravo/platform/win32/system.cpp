@@ -19,6 +19,19 @@ SystemFamily FamilyOf(DWORD platform_id) {
   return platform_id <= VER_PLATFORM_WIN32_NT ? static_cast<SystemFamily>(platform_id) : SystemFamily::Other;
 }
 
+// Fills the basic or the extended record.
+template <class Info>
+bool Fill(Info& info) {
+  info = {};
+  info.dwOSVersionInfoSize = sizeof info;
+  return GetVersionExW(reinterpret_cast<OSVERSIONINFOW*>(&info)) != 0;
+}
+
+template <class Info>
+SystemNumbers NumbersOf(const Info& info) {
+  return {FamilyOf(info.dwPlatformId), info.dwMajorVersion, info.dwMinorVersion, info.dwBuildNumber};
+}
+
 ProductType ProductOf(BYTE product) {
   return product <= VER_NT_SERVER ? static_cast<ProductType>(product) : ProductType::Unknown;
 }
@@ -27,10 +40,7 @@ ProductType ProductOf(BYTE product) {
 template <class Info>
 SystemVersion RecordOf(const Info& info) {
   SystemVersion version;
-  version.family = FamilyOf(info.dwPlatformId);
-  version.major = info.dwMajorVersion;
-  version.minor = info.dwMinorVersion;
-  version.build = info.dwBuildNumber;
+  static_cast<SystemNumbers&>(version) = NumbersOf(info);
   version.service_pack =
       FromWide(UpToZero(std::wstring_view(info.szCSDVersion, std::size(info.szCSDVersion))));
   return version;
@@ -60,9 +70,8 @@ std::uint32_t Clamped(SIZE_T bytes) {
 }  // namespace
 
 SystemVersion Win32Machine::Version() const {
-  OSVERSIONINFOEXW info{};
-  info.dwOSVersionInfoSize = sizeof info;
-  if (!GetVersionExW(reinterpret_cast<OSVERSIONINFOW*>(&info))) return {};
+  OSVERSIONINFOEXW info;
+  if (!Fill(info)) return {};
   SystemVersion version = RecordOf(info);
   version.suite_mask = info.wSuiteMask;
   version.product_type = ProductOf(info.wProductType);
@@ -70,9 +79,13 @@ SystemVersion Win32Machine::Version() const {
 }
 
 SystemVersion Win32Machine::BasicVersion() const {
-  OSVERSIONINFOW info{};
-  info.dwOSVersionInfoSize = sizeof info;
-  return GetVersionExW(&info) ? RecordOf(info) : SystemVersion();
+  OSVERSIONINFOW info;
+  return Fill(info) ? RecordOf(info) : SystemVersion();
+}
+
+SystemNumbers Win32Machine::VersionNumbers() const noexcept {
+  OSVERSIONINFOW info;
+  return Fill(info) ? NumbersOf(info) : SystemNumbers();
 }
 
 bool Win32Machine::IsServerR2() const { return GetSystemMetrics(SM_SERVERR2) != 0; }

@@ -1,15 +1,18 @@
 #include <ravo/platform/win32/wide.h>
 #include <ravo/platform/win32/win32_machine.h>
+#include <ravo/runtime/undestroyed.h>
 
 #include <windows.h>
 
 namespace ravo::platform {
 
-const Machine& RealMachine() noexcept {
-  // Never destroyed: the library's own shut-down may still ask after static objects are gone.
-  static const Machine& machine = *new Win32Machine;
-  return machine;
-}
+namespace {
+
+constinit const Undestroyed<Win32Machine> real_machine;
+
+}  // namespace
+
+const Machine& RealMachine() noexcept { return real_machine.value; }
 
 void Win32Machine::DebugOutput(std::u16string_view text) const { OutputDebugStringW(ToWide(text).c_str()); }
 

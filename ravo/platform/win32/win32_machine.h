@@ -10,6 +10,7 @@ class Win32Machine final : public Machine {
  public:
   [[nodiscard]] SystemVersion Version() const override;
   [[nodiscard]] SystemVersion BasicVersion() const override;
+  [[nodiscard]] SystemNumbers VersionNumbers() const noexcept override;
   [[nodiscard]] bool IsServerR2() const override;
   [[nodiscard]] std::uint16_t ProcessorArchitecture() const override;
   [[nodiscard]] std::u16string Folder(SystemFolder folder) const override;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <ravo/constants.h>
 #include <ravo/package.h>
 
 /* What the host needs of the operating system, and the checks that only one system has. */
