@@ -15,7 +15,7 @@
 namespace ravo::DIUtils {
 namespace {
 
-constexpr int kDraws = 2000;
+constexpr int kFloatDraws = 2000;
 
 using Draw = double (TMT19937::*)();
 
@@ -23,7 +23,7 @@ template <class Number>
 std::vector<std::uint64_t> Bits(Number number) {
   TMT19937 generator(5489);
   std::vector<std::uint64_t> bits;
-  for (int i = 0; i < kDraws; ++i) bits.push_back(std::bit_cast<std::uint64_t>(number(generator)));
+  for (int i = 0; i < kFloatDraws; ++i) bits.push_back(std::bit_cast<std::uint64_t>(number(generator)));
   return bits;
 }
 

@@ -8,12 +8,9 @@ PosixMachine::~PosixMachine() = default;
 
 }  // namespace posix
 
-namespace {
-
-constinit const Undestroyed<posix::PosixMachine> real_machine;
-
-}  // namespace
-
-const Machine& RealMachine() noexcept { return real_machine.value; }
+const Machine& RealMachine() noexcept {
+  static const Undestroyed<posix::PosixMachine> machine;
+  return machine.value;
+}
 
 }  // namespace ravo::platform
