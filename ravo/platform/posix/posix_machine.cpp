@@ -8,12 +8,16 @@ PosixMachine::~PosixMachine() = default;
 
 }  // namespace posix
 
+const Machine& RealMachine() noexcept {
+  static const Undestroyed<posix::PosixMachine> machine;
+  return machine.value;
+}
+
 namespace {
 
-constinit const Undestroyed<posix::PosixMachine> real_machine;
+// A process forked while another thread asked for the first time would wait for that thread for ever.
+[[maybe_unused]] const Machine& made_at_load = RealMachine();
 
 }  // namespace
-
-const Machine& RealMachine() noexcept { return real_machine.value; }
 
 }  // namespace ravo::platform
