@@ -11,7 +11,6 @@ namespace ravo::platform::posix {
 /// below `root`.
 class PosixFileSystem final : public FileSystem {
  public:
-  constexpr PosixFileSystem() = default;
   explicit PosixFileSystem(std::string root) : root_(std::move(root)) {}
   ~PosixFileSystem() override;
 

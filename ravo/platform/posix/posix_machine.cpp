@@ -13,4 +13,11 @@ const Machine& RealMachine() noexcept {
   return machine.value;
 }
 
+namespace {
+
+// A process forked while another thread asked for the first time would wait for that thread for ever.
+[[maybe_unused]] const Machine& made_at_load = RealMachine();
+
+}  // namespace
+
 }  // namespace ravo::platform

@@ -9,9 +9,8 @@ namespace ravo::platform::posix {
 /// one unless a test gives another; each question reads anew.
 class PosixMachine final : public Machine {
  public:
-  constexpr PosixMachine() = default;
   /// `root` has no "/" at its end; empty is the real one.
-  explicit PosixMachine(std::string root) : root_(std::move(root)), files_(root_) {}
+  explicit PosixMachine(std::string root = {}) : root_(std::move(root)), files_(root_) {}
   ~PosixMachine() override;
 
   [[nodiscard]] SystemVersion Version() const override;
