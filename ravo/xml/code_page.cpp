@@ -2,8 +2,8 @@
 #include <ravo/xml/code_page.h>
 
 #include <algorithm>
+#include <atomic>
 #include <memory>
-#include <mutex>
 
 namespace ravo::xml {
 namespace {
@@ -46,15 +46,17 @@ bool CodePage::IsSame(const CodePage& other) const {
 }
 
 const CodePage& CodePage::Current() {
-  static std::mutex guard;
-  static auto& known = *new std::vector<std::unique_ptr<const CodePage>>;
-  std::unique_ptr<const CodePage> page(new CodePage);
-  const std::lock_guard lock(guard);
-  for (const auto& old : known) {
-    if (old->IsSame(*page)) return *old;
-  }
-  known.push_back(std::move(page));
-  return *known.back();
+  // A list that only grows needs no lock, which a forked process could inherit for ever.
+  constinit static std::atomic<const CodePage*> newest{nullptr};
+  std::unique_ptr<CodePage> page(new CodePage);
+  page->next_ = newest.load(std::memory_order_acquire);
+  do {
+    for (const CodePage* known = page->next_; known; known = known->next_) {
+      if (known->IsSame(*page)) return *known;
+    }
+  } while (!newest.compare_exchange_weak(page->next_, page.get(), std::memory_order_acq_rel,
+                                         std::memory_order_acquire));
+  return *page.release();
 }
 
 bool CodePage::IsFaithful(std::string_view bytes) const {

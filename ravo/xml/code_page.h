@@ -34,6 +34,8 @@ class CodePage {
   [[nodiscard]] bool IsSame(const CodePage& other) const;
   [[nodiscard]] const Mapping* Find(char16_t unit) const;
 
+  // The one that was in force before.
+  const CodePage* next_ = nullptr;
   std::uint32_t number_;
   // False where a byte alone is not a character; the machine is asked then.
   bool by_table_ = true;

@@ -1,5 +1,6 @@
-// Processes that were forked while other threads read texts and changed the list of modules can read and
-// change them too. usage: fork_test LANGUAGE-MODULE
+// Processes that were forked while other threads read texts, changed the list of modules and made documents can
+// do so too. usage: fork_test LANGUAGE-MODULE
+#include <ravo/ECXMLParser.h>
 #include <ravo/frame/module_record.h>
 #include <ravo/frame/resource_string.h>
 #include <ravo/runtime/text.h>
@@ -39,11 +40,22 @@ void Change() {
   while (!is_over) ListsAModule();
 }
 
+// Whether an item keeps a text, which it does in the code page in force.
+bool MakesADocument() {
+  ravo::ECXMLParser::TXMLItem item;
+  item.SetText(u"Účet");
+  return item.Text() == u"Účet";
+}
+
+void MakeDocuments() {
+  while (!is_over) MakesADocument();
+}
+
 bool ChildWorks(std::u16string_view expected) {
   const pid_t child = fork();
   if (child == 0) {
     alarm(kSeconds);
-    _exit(kInvoice.Text() == expected && ListsAModule() ? 0 : 1);
+    _exit(kInvoice.Text() == expected && ListsAModule() && MakesADocument() ? 0 : 1);
   }
   int status = 1;
   return child > 0 && waitpid(child, &status, 0) == child && status == 0;
@@ -61,7 +73,7 @@ bool ChildrenWork(const char* what, std::u16string_view expected) {
 template <typename Check>
 bool WhileThreadsWork(Check check) {
   is_over = false;
-  std::thread threads[] = {std::thread(Read), std::thread(Change)};
+  std::thread threads[] = {std::thread(Read), std::thread(Change), std::thread(MakeDocuments)};
   const bool result = check();
   is_over = true;
   for (std::thread& thread : threads) thread.join();
