@@ -33,7 +33,8 @@ TEST(TextOutOfMemory, FurtherStringFunctions) {
   ExpectSurvivesScarceMemory([] { static_cast<void>(StrDecodeUrlA(StrEncodeUrlA(kLongBytes))); });
   ExpectSurvivesScarceMemory([] { static_cast<void>(StrExtractUriFragmentW(u"x#" + kLongText)); });
   ExpectSurvivesScarceMemory([] { static_cast<void>(ExtractWordA(kLongBytes, ", ")); });
-  ExpectSurvivesScarceMemory([] { static_cast<void>(ExtractWordStartsW(ReplaceAll(kLongText, u"č", u"č "))); });
+  ExpectSurvivesScarceMemory(
+      [] { static_cast<void>(ExtractWordStartsW(ReplaceAll(kLongText, u"č", u"č "))); });
   ExpectSurvivesScarceMemory([] { static_cast<void>(StrTrimCharsW(kLongText, u" ")); });
   ExpectSurvivesScarceMemory([] { static_cast<void>(StrRandomA("seed", "abc", 100)); });
 }
