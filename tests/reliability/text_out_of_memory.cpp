@@ -14,7 +14,7 @@ using test::ExpectSurvivesScarceMemory;
 
 const std::u16string kLongText(300, u'č');
 const std::u16string kWords = u"Faktura č. 12 za žluťoučkého koně a za dva další koně ";
-const std::string kLongBytes(300, '\xE8');
+const std::string kManyBytes(300, '\xE8');
 
 TEST(TextOutOfMemory, StringFunctions) {
   using namespace DIUtils;
@@ -30,9 +30,9 @@ TEST(TextOutOfMemory, StringFunctions) {
 TEST(TextOutOfMemory, FurtherStringFunctions) {
   using namespace DIUtils;
   ExpectSurvivesScarceMemory([] { static_cast<void>(StrDecodeUtf8(StrEncodeUtf8(kLongText))); });
-  ExpectSurvivesScarceMemory([] { static_cast<void>(StrDecodeUrlA(StrEncodeUrlA(kLongBytes))); });
+  ExpectSurvivesScarceMemory([] { static_cast<void>(StrDecodeUrlA(StrEncodeUrlA(kManyBytes))); });
   ExpectSurvivesScarceMemory([] { static_cast<void>(StrExtractUriFragmentW(u"x#" + kLongText)); });
-  ExpectSurvivesScarceMemory([] { static_cast<void>(ExtractWordA(kLongBytes, ", ")); });
+  ExpectSurvivesScarceMemory([] { static_cast<void>(ExtractWordA(kManyBytes, ", ")); });
   ExpectSurvivesScarceMemory(
       [] { static_cast<void>(ExtractWordStartsW(ReplaceAll(kLongText, u"č", u"č "))); });
   ExpectSurvivesScarceMemory([] { static_cast<void>(StrTrimCharsW(kLongText, u" ")); });
@@ -58,7 +58,7 @@ TEST(TextOutOfMemory, Reader) {
     ExpectSurvivesScarceMemory([methods] {
       TDIUnicodeReader reader;
       reader.SetReadMethods(*methods);
-      reader.SetSourceBufferAsStrA(kLongBytes);
+      reader.SetSourceBufferAsStrA(kManyBytes);
       reader.ReadLine();
       static_cast<void>(reader.DataAsStrW());
       static_cast<void>(reader.DataAsStr8());
@@ -70,7 +70,7 @@ TEST(TextOutOfMemory, Reader) {
 TEST(TextOutOfMemory, AReaderStaysUsable) {
   DIUnicode::TDIUnicodeReader reader;
   reader.SetReadMethods(DIUnicode::Read_Windows_1250);
-  reader.SetSourceBufferAsStrA(kLongBytes);
+  reader.SetSourceBufferAsStrA(kManyBytes);
   for (std::int64_t requests = 0; requests < 5; ++requests) {
     const test::FailingMemory memory(requests);
     try {
@@ -88,7 +88,7 @@ TEST(TextOutOfMemory, AReaderStaysUsable) {
 
 TEST(TextOutOfMemory, Sources) {
   ExpectSurvivesScarceMemory([] {
-    MemoryStream stream(std::as_bytes(std::span(kLongBytes)));
+    MemoryStream stream(std::as_bytes(std::span(kManyBytes)));
     DIUnicode::TDIUnicodeReader reader;
     reader.SetSourceStream(&stream, u"a name that is longer than a short text");
     reader.PushSource(true);
@@ -105,7 +105,7 @@ TEST(TextOutOfMemory, Writer) {
       TDIUnicodeWriter writer;
       writer.SetWriteMethods(*methods);
       writer.WriteStrW(kLongText);
-      writer.WriteStrA(kLongBytes, 1250);
+      writer.WriteStrA(kManyBytes, 1250);
       writer.FlushDataBuffer();
       static_cast<void>(writer.DataToStrRaw());
     });
