@@ -230,6 +230,7 @@ TEST(SetSourceFile, ReadsAPipe) {
   EXPECT_EQ(Rest(reader).size(), text.size());
   reader.RewindSource();
   EXPECT_EQ(Rest(reader).size(), text.size());
+  reader.FreeSourceStream();
 }
 
 // The memory of a process has nothing at its beginning that could be read.
@@ -240,6 +241,7 @@ TEST(SetSourceFile, AFailedReadIsNoEnd) {
   TDIUnicodeReader reader;
   reader.SetSourceFile(unreadable);
   EXPECT_THROW(reader.ReadChar(), StreamError);
+  reader.FreeSourceStream();
 }
 
 TEST(RewindSource, GoesToTheFirstByte) {
