@@ -21,6 +21,11 @@ function(ravo_own_target target)
     $<$<CXX_COMPILER_ID:Clang>:-Wreserved-identifier>
     # GCC 12 sees overlapping copies in std::basic_string's operator+ where there are none (GCC bug 105651).
     $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
+  # For Windows, GCC trusts the registers that its own copy of an inline function leaves alone, also where the linker keeps
+  # another source's copy, compiled with other options.
+  if(MINGW)
+    target_compile_options(${target} PRIVATE -fno-ipa-ra)
+  endif()
   if(RAVO_WARNINGS_AS_ERRORS)
     target_compile_options(${target} PRIVATE -Werror)
   endif()

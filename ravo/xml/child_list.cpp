@@ -55,11 +55,13 @@ void ChildList::Remove(std::uint32_t index) noexcept {
 
 void ChildList::Move(std::uint32_t from, std::uint32_t to) noexcept {
   Item** const first = slots_->First();
+  Item* const moved = first[from];
   if (from < to) {
-    std::rotate(first + from, first + from + 1, first + to + 1);
+    std::move(first + from + 1, first + to + 1, first + from);
   } else {
-    std::rotate(first + to, first + from, first + from + 1);
+    std::move_backward(first + to, first + from, first + from + 1);
   }
+  first[to] = moved;
 }
 
 }  // namespace ravo::xml
