@@ -109,7 +109,8 @@ def check_arrows(graph):
 
 
 def check_circles(graph):
-    done, path = set(), []
+    done = set()
+    path: list[str] = []
 
     def walk(name):
         if name in path:
