@@ -10,6 +10,7 @@ import shutil
 import subprocess
 import sys
 import tempfile
+from collections.abc import Iterator
 
 from source_tree import main
 
@@ -25,17 +26,17 @@ BEFORE = "b0a0318da01ed16220cb4ecf07edef74587d2d6a"
 RULES = [("--no-merges", CHANGE, "room: verb what"), ("--merges", MERGE, "Merge branch 'name': what it brings")]
 
 
-def git(root, *arguments):
-    return subprocess.run(["git", "-C", root, *arguments], capture_output=True, text=True, check=False)
+def git(root: pathlib.Path, *arguments: str) -> subprocess.CompletedProcess[str]:
+    return subprocess.run(["git", "-C", str(root), *arguments], capture_output=True, text=True, check=False)
 
 
-def commits(root, kind, before):
+def commits(root: pathlib.Path, kind: str, before: str) -> list[list[str]]:
     """(short hash, subject) of the commits after one."""
     log = git(root, "log", kind, "--format=%h%x09%s", f"{before}..HEAD").stdout
     return [line.split("\t", 1) for line in log.splitlines()]
 
 
-def faults(subject, pattern, form):
+def faults(subject: str, pattern: re.Pattern[str], form: str) -> Iterator[str]:
     match = pattern.fullmatch(subject)
     verb = match and match.groupdict().get("verb")
     if not match:
@@ -46,7 +47,7 @@ def faults(subject, pattern, form):
         yield f"has {len(subject)} characters, more than {LONGEST}"
 
 
-def check(root, before=BEFORE):
+def check(root: pathlib.Path, before: str = BEFORE) -> list[str]:
     if not shutil.which("git") or git(root, "merge-base", "--is-ancestor", before, "HEAD").returncode:
         print(f"no history since {before[:7]}: passed over")
         return []
@@ -76,10 +77,10 @@ PLANTED = [
 ]
 
 
-def history(root, subject):
+def history(root: pathlib.Path, subject: str) -> str:
     """A new history with a commit before the rules, which breaks them, and one after it. Returns the first."""
 
-    def commit(text, *parents):
+    def commit(text: str, *parents: str) -> str:
         made = git(root, "-c", "user.name=a", "-c", "user.email=a@b", "commit-tree", "-m", text,
                    *(word for parent in parents for word in ("-p", parent)), tree)
         assert made.returncode == 0, made.stderr
@@ -93,16 +94,20 @@ def history(root, subject):
     return first
 
 
-def self_test():
+def planted(subject: str) -> list[str]:
+    with tempfile.TemporaryDirectory() as folder:
+        root = pathlib.Path(folder)
+        return check(root, history(root, subject))
+
+
+def self_test() -> Iterator[str]:
     for subject, wanted in PLANTED:
-        with tempfile.TemporaryDirectory() as folder:
-            findings = check(folder, history(folder, subject))
+        findings = planted(subject)
         if len(findings) != (wanted is not None) or wanted and wanted not in findings[0]:
             yield f"self-test '{subject}': wanted {wanted}, found {findings}"
     with tempfile.TemporaryDirectory() as folder:
-        history(folder, "Not ours.")
-        if check(folder) or check(pathlib.Path(folder) / "not there"):
-            yield "self-test: found something in a history that is not this one"
+        if check(pathlib.Path(folder)):
+            yield "self-test: found something where there is no history"
 
 
 if __name__ == "__main__":

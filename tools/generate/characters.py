@@ -159,7 +159,7 @@ def leaf(cluster, low, high):
     return f"return Within(c, 0x{start:04X}, 0x{end:04X});"
 
 
-def weight(low, high):
+def weight(low: int, high: int) -> int:
     """How often a code unit from `low` to `high` is asked about: all alike, but half of all text is Latin."""
     latin = max(0, min(high, LATIN_END - 1) - low + 1)
     return high - low + 1 + latin * (UNITS // LATIN_END)
