@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Shows coverage by room, how often the tests' expectations were evaluated, and what no test runs and nobody explains.
 
-usage: coverage_report.py PROJECT COVERAGE.json UNCOVERED.txt [--write]
+usage: coverage.py COVERAGE.json UNCOVERED.txt [--write]
 """
 
 import bisect
@@ -9,12 +9,12 @@ import collections
 import json
 import pathlib
 import re
-import sys
+
+from page import ROOT, command_line, with_block, write
+from source_tree import read
 
 KINDS = ("functions", "lines", "branches")
 PAGE = "docs/coverage.md"
-BEGIN = "<!-- written by scripts/coverage; do not edit -->\n"
-END = "<!-- end of what is written -->\n"
 EXPECTATION = re.compile(r"\b(?:EXPECT|ASSERT)_[A-Z_]+\(")
 
 
@@ -91,8 +91,7 @@ def evaluated(project, name, file):
     return stand, times
 
 
-def main():
-    project, coverage, listing = pathlib.Path(sys.argv[1]), pathlib.Path(sys.argv[2]), pathlib.Path(sys.argv[3])
+def report(project, coverage, listing, is_written):
     data = json.loads(coverage.read_text(encoding="utf-8"))["data"][0]
     ours = {file["filename"].removeprefix(f"{project}/"): file for file in data["files"]}
     library = {name: file for name, file in sorted(ours.items()) if name.startswith("ravo/")}
@@ -101,16 +100,39 @@ def main():
     explained = explanations(page)
     findings = list(unexplained(project, library, explained))
     places = [finding for finding in findings if not finding.startswith(PAGE)]
-    text = (f"\n{rooms_table(library)}\nThe tests evaluate {sum(times for _, times in tests):,} expectations; "
+    text = (f"{rooms_table(library)}\nThe tests evaluate {sum(times for _, times in tests):,} expectations; "
             f"{sum(stand for stand, _ in tests):,} stand in their sources.\n\n"
-            f"{len(explained)} explanations below; {len(places)} places that no test runs and nobody explains.\n\n")
+            f"{len(explained)} explanations below; {len(places)} places that no test runs and nobody explains.\n")
     listing.write_text("\n".join(findings) + "\n", encoding="utf-8")
     print(text)
     print(f"what nobody explains, and what needs no explanation any more: {listing}")
-    if "--write" in sys.argv[4:]:
-        before, rest = page.split(BEGIN)
-        (project / PAGE).write_text(before + BEGIN + text + END + rest.split(END)[1], encoding="utf-8")
+    if is_written:
+        write(project, {PAGE: with_block(page, text)})
 
+
+def check(root):
+    page = read(root / PAGE)
+    explained = explanations(page)
+    findings = [f"{PAGE}: no line of {name} has '{piece}'" for name, piece in explained
+                if not (root / name).is_file() or piece not in read(root / name)]
+    rows = len(re.findall(r"^\| `ravo/.*\.(?:h|cpp|inc)` \|", page, re.MULTILINE))
+    if rows != len(explained):
+        findings.append(f"{PAGE}: {rows - len(explained)} rows are not of the form | `file` | `line` | why |")
+    return findings
+
+
+def _tree(row):
+    return {PAGE: f"| `ravo/xml` | 1 of 2 |\n\n| file | line | why |\n|---|---|---|\n{row}\n", "ravo/a.cpp": "if (a || b) return;\n"}
+
+
+PLANTINGS = [
+    ("a good tree", _tree("| `ravo/a.cpp` | `(a \\|\\| b)` | because |"), None),
+    ("a line that is gone", _tree("| `ravo/a.cpp` | `while` | because |"), "no line of ravo/a.cpp has 'while'"),
+    ("a file that is gone", _tree("| `ravo/b.cpp` | `if` | because |"), "no line of ravo/b.cpp"),
+    ("a row without a reason", _tree("| `ravo/a.cpp` | `if` |"), "not of the form"),
+]
 
 if __name__ == "__main__":
-    main()
+    order = command_line(check, PLANTINGS)
+    coverage, listing = map(pathlib.Path, order.inputs)
+    report(ROOT, coverage, listing, order.write)
