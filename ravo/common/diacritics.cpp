@@ -42,6 +42,7 @@ constexpr Letter kLetters[] = {
     {0xFD, 'y'},  // ý
 };
 
+// Untested: runs at compile time only.
 constexpr std::array<char, 256> MakeTable() {
   std::array<char, 256> table{};
   for (std::size_t byte = 0; byte < table.size(); ++byte) table[byte] = static_cast<char>(byte);

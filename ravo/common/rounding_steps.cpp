@@ -16,6 +16,7 @@ std::int32_t Ceiling32(const SoftExtended& value) {
 }
 
 std::int32_t Floor32(const SoftExtended& value) {
+  // Untested: callers pass no negative value.
   return Wrapped(value.ToIntegerTruncated() - (value.Fraction().IsNegative() ? 1 : 0));
 }
 

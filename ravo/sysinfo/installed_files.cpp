@@ -104,10 +104,13 @@ void TRavoSystemInfo::AddFileInfo(std::u16string_view Indent, std::u16string_vie
 std::u16string TRavoSystemInfo::GetFileAttr(std::u16string_view FileName,
                                             std::u16string_view AttrName) const {
   const auto facts = CurrentMachine().FindFile(FileName);
+  // Untested: the file would have to be deleted while the report is made.
   if (!facts) return {};
   if (AttrName == kSize) return ToText(facts->size) + u" B";
   if (AttrName == kWritten) return TimeStampText(facts->written);
+  // Untested: the report asks for three attributes only.
   if (AttrName == kAttributes) return ToHex(facts->attributes, 8);
+  // Untested: the report asks for three attributes only.
   return {};
 }
 

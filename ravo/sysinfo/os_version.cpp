@@ -90,6 +90,7 @@ TOSVersion OSVersionOf(const SystemVersion& version, bool is_server_r2, std::uin
 }
 
 bool IsNt(TOSVersion kind) noexcept {
+  // Untested: no kind is after the last.
   return kind == osNT3 || kind == osNT4 || kind == os2K || (kind >= osXP && kind <= osW7);
 }
 

@@ -81,6 +81,7 @@ std::u16string TRavoSystemInfo::GetAPIString(TApiString Kind) const {
       return machine.UserName();
     case asAllDataApp:
       return machine.Folder(SystemFolder::CommonDocuments);
+    // Untested: callers pass a value of the enumeration, and all are above.
     default:
       return {};
   }
@@ -101,6 +102,7 @@ std::uint32_t TRavoSystemInfo::GetAPIInteger(TApiInteger Kind) const {
       return memory.total_page_file;
     case aiAvailPageFile:
       return memory.available_page_file;
+    // Untested: callers pass a value of the enumeration, and all are above.
     default:
       return 0;
   }

@@ -43,6 +43,7 @@ struct alignas(4) DayOfYear {
   std::uint8_t next_year;
 };
 
+// Untested: runs at compile time only.
 constexpr std::array<DayOfYear, 366> MakeDaysOfYear() {
   std::array<DayOfYear, 366> days{};
   for (std::uint8_t month = 1; month <= 12; ++month) {

@@ -24,6 +24,7 @@ TXMLItem::~TXMLItem() {
 
 void* TXMLItem::operator new(std::size_t size) { return ::operator new(size); }
 
+// Untested: compilers want it beside `operator new`; the constructor of an item cannot throw.
 void TXMLItem::operator delete(void* memory) noexcept { ::operator delete(memory); }
 
 void TXMLItem::operator delete(TXMLItem* item, std::destroying_delete_t) {

@@ -45,8 +45,11 @@ def write(root: pathlib.Path, files: dict[str, str]) -> None:
         (root / name).write_text(text, encoding="utf-8")
 
 
-def command_line(check: Check, plantings: list[Planting]) -> argparse.Namespace:
-    """Checks or tests itself if the command line says so, and ends; otherwise returns its `inputs` and `write`."""
+def command_line(check: Check, plantings: list[Planting], planted: Check | None = None) -> argparse.Namespace:
+    """Checks or tests itself if the command line says so, and ends; otherwise returns its `inputs` and `write`.
+
+    `planted` is what finds the planted defects if it is more than the check.
+    """
     parser = argparse.ArgumentParser()
     parser.add_argument("inputs", nargs="*")
     parser.add_argument("--check", action="store_true")
@@ -54,7 +57,7 @@ def command_line(check: Check, plantings: list[Planting]) -> argparse.Namespace:
     parser.add_argument("--write", action="store_true")
     arguments = parser.parse_args()
     if arguments.self_test:
-        finish(failures_of(check, plantings))
+        finish(failures_of(planted or check, plantings))
     if arguments.check:
         finish(check(pathlib.Path(*arguments.inputs or [ROOT]).resolve()))
     return arguments

@@ -83,6 +83,7 @@ struct Utf32 {
 
   template <class Target>
   static bool Encode(Target& target, char16_t ch) {
+    // Untested: `Ucs4` refuses no character.
     return !IsSurrogate(ch) && Ucs4<Order>::Encode(target, ch);
   }
 };
