@@ -1,5 +1,5 @@
 # The two commands of the README, and what helps while working. Everything else is CMake's: see CMakePresets.json.
-.PHONY: run check bench coverage reliability reference guide pictures package check-packages format clean
+.PHONY: run check bench coverage reliability reference guide quirks pictures package check-packages format clean
 
 run:            ## Build for this machine and show the library at its work
 	@scripts/run
@@ -21,6 +21,9 @@ reference:      ## Make the reference of every public name: build/reference/html
 
 guide:          ## Copy the code of the examples and what they print into docs/guide.md and README.md
 	@scripts/guide
+
+quirks:         ## Write docs/quirks.md from the comments `// Kept:` of the sources
+	@/usr/bin/env python3 -B tools/pages/quirks.py --write
 
 pictures:       ## Draw docs/structure.svg and the charts of docs/performance.md anew
 	@/usr/bin/env python3 -B tools/pages/structure.py --write

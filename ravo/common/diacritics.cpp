@@ -12,8 +12,7 @@ struct Letter {
   char base;
 };
 
-// Kept: diacritics table without Ď ď Ó ó Ů, because texts that modules have stored and compare with were made
-// by it
+// Kept: the table lacks Ď ď Ó ó Ů; they stay as they are. Test: RemoveDiacritics.LettersThatTheTableLacksStay
 constexpr Letter kLetters[] = {
     {0x8A, 'S'},  // Š
     {0x8D, 'T'},  // Ť

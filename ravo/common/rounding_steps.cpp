@@ -3,7 +3,8 @@
 namespace ravo::RavoInterfaceCommon {
 namespace {
 
-// Kept: ceiling and floor wrap at 32 bits, because amounts stored so far were rounded that way
+// Kept: ceiling and floor wrap at 32 bits; stored amounts depend on it. Test:
+// RoundValue.CeilingAndFloorWrapAt32Bits
 std::int32_t Wrapped(std::int64_t units) {
   return static_cast<std::int32_t>(static_cast<std::uint32_t>(units));
 }

@@ -53,7 +53,8 @@ void TRavoSystemInfo::AddHDInfo(std::u16string_view Indent) {
   for (unsigned bit = 0; bit < 32; ++bit) {
     const std::u16string drive{static_cast<char16_t>(u'A' + bit), u':'};
     if (((drives >> bit) & 1) == 0 || machine.KindOfDrive(drive) != platform::DriveKind::Fixed) continue;
-    // Kept: numbers of the drive before where a query fails, because they are zeroed once and not per drive
+    // Kept: a drive whose query fails shows the numbers of the drive before it. Test:
+    // Drives.AFailedQueryRepeatsTheDriveBefore
     space = machine.SpaceOfFolder(drive).value_or(space);
     AddSubHeading(FStrings, Indent, drive);
     AddNestedRow(FStrings, Indent, _rSystemHDSpace.View(), BytesToStr(space.total, true));

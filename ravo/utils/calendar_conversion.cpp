@@ -112,7 +112,8 @@ std::uint16_t DayOfJulianDate(TJulianDate date) { return utils::PartsOf(date).da
 
 std::uint16_t MonthOfJulianDate(TJulianDate date) { return utils::PartsOf(date).month; }
 
-// Kept: the name YearOfJuilanDate, because modules import it with this spelling
+// Kept: the name `YearOfJuilanDate` has its letters swapped; modules import it so. Test:
+// YearOfJuilanDate.KeepsItsName
 std::int32_t YearOfJuilanDate(TJulianDate date) { return utils::PartsOf(date).year; }
 
 std::uint32_t YmdToIsoDate(std::int32_t year, std::uint16_t month, std::uint16_t day) {

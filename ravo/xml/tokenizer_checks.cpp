@@ -66,8 +66,7 @@ void TXMLTokenizer::CheckToken(std::uint8_t T) const {
   if (FToken == T) return;
   if (T == xtSymbol) Error(kIdentifierExpected);
   if (T == xtInteger || T == xtFloat) Error(kNumberExpected);
-  // Kept: a missing string is reported by the number of its kind, because callers have never seen other words
-  // for it.
+  // Kept: a missing string is reported by the number of its kind. Test: CheckToken.NamesAStringByItsNumber
   const std::array<MessageArgument, 1> kind = {std::u16string(1, char16_t{T})};
   ErrorFmt(kCharExpected, kind);
 }
@@ -79,8 +78,8 @@ void TXMLTokenizer::CheckTokenSymbol(std::string_view S) const {
   ErrorFmt(kSymbolExpected, symbol);
 }
 
-// Kept: hexadecimal text is skipped and not decoded, because the member only keeps its place in the
-// interface.
+// Kept: hexadecimal text is skipped and not decoded: the member only keeps its place in the interface. Test:
+// HexToBinary.SkipsAndDecodesNothing
 void TXMLTokenizer::HexToBinary(ByteStream& /*Stream*/) {
   SkipBlanks();
   NextToken();

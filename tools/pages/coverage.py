@@ -14,7 +14,7 @@ import re
 from collections.abc import Iterator
 from typing import Any
 
-from page import ROOT, command_line, has_block, table, with_block, write
+from page import ROOT, command_line, has_block, indentation, table, with_block, write
 from source_tree import Planting, code_files, read
 
 KINDS = ("functions", "lines", "branches")
@@ -64,10 +64,6 @@ def uncovered(file: File) -> Iterator[tuple[int, int, str]]:
     for (line, column), (true, false) in branches.items():
         if (true == 0) != (false == 0):
             yield line, column, f"never {'true' if true == 0 else 'false'}"
-
-
-def indentation(line: str) -> int:
-    return len(line) - len(line.lstrip())
 
 
 def end_of_statement(lines: list[str], first: int) -> int:

@@ -1,4 +1,4 @@
-"""What the writers of pages share: blocks between markers, tables, files, and one command line.
+"""What the writers of pages share: blocks between markers, tables, indentation, files, and one command line.
 
 usage of every page: PAGE.py --check [TREE]       fails where the page is not what its sources say
                      PAGE.py --self-test          fails where a planted defect is not found
@@ -26,6 +26,10 @@ def has_block(page: str) -> bool:
 def with_block(page: str, text: str) -> str:
     """The page with this text between its markers."""
     return BLOCK.sub(lambda _: f"\n{text}\n", page)
+
+
+def indentation(line: str) -> int:
+    return len(line) - len(line.lstrip())
 
 
 def table(head: Iterable[str], rows: Iterable[Iterable[object]]) -> str:

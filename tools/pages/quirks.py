@@ -1,120 +1,130 @@
 #!/usr/bin/env python3
-"""Every deliberate oddity: its comment in ravo/, its row in docs/quirks.md and its test agree."""
+"""Lists the deliberate oddities in docs/quirks.md, from the comments `// Kept: <what a caller sees>. Test: Suite.Name`."""
 
+import collections
+import dataclasses
+import pathlib
 import re
+from collections.abc import Iterator
 
-from page import command_line
-from source_tree import code_files, read
+from page import ROOT, command_line, has_block, indentation, outdated, table, with_block, write
+from source_tree import Planting, code_files, read
 
-DOCUMENT = "docs/quirks.md"
+PAGE = "docs/quirks.md"
 BEGIN = re.compile(r"^.*?//\s*Kept:\s*(.*)$")
 MORE = re.compile(r"^\s*//(?!/)\s*(.*)$")
-SOURCES = {".h", ".cpp", ".c", ".inc", ".rc", ".idl", ".in"}
+TEST = re.compile(r"\bTEST(?:_F|_P)?\(\s*(\w+)\s*,\s*(\w+)\s*\)")
+CONTROL = re.compile(r"\s*(?:if|for|while|switch|else|do|case|default)\b|\s*[}#]|.*[^:]:$")
+FUNCTION = re.compile(r"([\w:~]+)\(")
+VARIABLE = re.compile(r"(\w+)(?:\[\])? =")
 
 
-def kept_comments(text):
-    """(line number, words) of every comment that begins with "Kept:", following comment lines joined."""
-    lines = text.splitlines()
+@dataclasses.dataclass
+class Oddity:
+    file: str  # from the root
+    line: int
+    where: str  # function or constant; nothing if the comment speaks of the file
+    what: str
+    tests: list[str]
+
+
+def kept_comments(lines: list[str]) -> Iterator[tuple[int, int, str]]:
+    """(index, index past its last line, words) of every comment that begins with "Kept:"."""
     for index, line in enumerate(lines):
-        if not (begin := BEGIN.match(line)):
-            continue
-        words = [begin.group(1)]
-        for following in lines[index + 1 :]:
-            if BEGIN.match(following) or not (more := MORE.match(following)):
-                break
-            words.append(more.group(1))
-        yield index + 1, " ".join(" ".join(words).split())
+        if begin := BEGIN.match(line):
+            words, end = [begin.group(1)], index + 1
+            while end < len(lines) and not BEGIN.match(lines[end]) and (more := MORE.match(lines[end])):
+                words.append(more.group(1))
+                end += 1
+            yield index, end, " ".join(" ".join(words).split())
 
 
-def comments_of(root):
-    """((file, what) -> line, findings about comments that are not of the agreed form)."""
-    comments, findings = {}, []
-    for path in sorted(p for p in (root / "ravo").rglob("*") if p.suffix in SOURCES and p.is_file()):
-        name = path.relative_to(root).as_posix()
-        for line, words in kept_comments(read(path)):
-            what, comma, why = words.partition(", because ")
-            if comma and what and why:
-                comments[name, what] = line
-            else:
-                findings.append(f"{name}:{line}: not of the form 'Kept: <what>, because <why>': {words}")
-    return comments, findings
+def is_head(line: str) -> bool:
+    return not CONTROL.match(line) and (indentation(line) == 0 or line.endswith("{"))
 
 
-def plain(cell):
-    """A table cell without code marks and link marks."""
-    return re.sub(r"\[([^\]]*)\]\([^)]*\)", r"\1", cell).replace("`", "").strip()
+def name_in(line: str) -> str:
+    found = FUNCTION.search(line) or VARIABLE.search(line)
+    return found.group(1) if found else ""
 
 
-def rows_of(root):
-    """(line number, cells) of every row below the head of the document's table."""
-    table = False
-    for number, line in enumerate(read(root / DOCUMENT).splitlines(), 1):
-        if re.match(r"^\|[\s:|-]+\|$", line):
-            table = True
-        elif table and line.startswith("|"):
-            yield number, [plain(cell) for cell in line.strip().strip("|").split("|")]
+def place_of(lines: list[str], index: int) -> str:
+    """The function or constant before which, or in which, a comment ends at this index."""
+    while index < len(lines) and re.match(r"\s*(?://|template\b)", lines[index]):
+        index += 1
+    if index == len(lines) or not lines[index].strip() or lines[index].startswith("RAVO_"):
+        return ""
+    level = indentation(lines[index])
+    while index > 0 and not is_head(lines[index]):
+        index = next((i for i in range(index - 1, 0, -1) if lines[i].strip() and indentation(lines[i]) < level), 0)
+        level = indentation(lines[index])
+    return name_in(lines[index])
 
 
-def tests_of(root):
-    found = set()
-    for path in code_files(root, "tests"):
-        found |= {f"{suite}.{name}" for suite, name in re.findall(r"\bTEST(?:_F|_P)?\(\s*(\w+)\s*,\s*(\w+)\s*\)", read(path))}
-    return found
+def oddities(root: pathlib.Path) -> Iterator[Oddity]:
+    for path in code_files(root, "ravo"):
+        lines = read(path).splitlines()
+        for index, end, words in kept_comments(lines):
+            what, _, tests = words.partition(" Test: ")
+            yield Oddity(path.relative_to(root).as_posix(), index + 1, place_of(lines, end), what, re.findall(r"[\w.]+", tests))
 
 
-def check_row(number, cells, root, comments, tests):
-    if len(cells) != 4 or not all(cells):
-        yield f"{DOCUMENT}:{number}: wants four cells that say something: what, where, test, why"
-        return
-    what, where, names, _ = cells
-    if not (root / where).is_file():
-        yield f"{DOCUMENT}:{number}: there is no file {where}"
-    elif (where, what) not in comments:
-        yield f"{DOCUMENT}:{number}: {where} has no comment 'Kept: {what}, because ...'"
-    for name in re.split(r"\s*,\s*", names):
-        if name not in tests:
-            yield f"{DOCUMENT}:{number}: there is no test {name}"
+def room_of(oddity: Oddity) -> str:
+    return oddity.file.split("/")[1]
 
 
-def oddities(root):
-    return comments_of(root)[0]
+def cell(what: str) -> str:
+    return what[:1].upper() + what[1:].replace("<", "&lt;").replace("|", "\\|")
 
 
-def check(root):
-    comments, findings = comments_of(root)
-    tests, rows = tests_of(root), list(rows_of(root))
-    for number, cells in rows:
-        findings += check_row(number, cells, root, comments, tests)
-    described = {(cells[1], cells[0]) for _, cells in rows if len(cells) == 4}
-    for (name, what), line in sorted(comments.items()):
-        if (name, what) not in described:
-            findings.append(f"{name}:{line}: '{what}' has no row in {DOCUMENT}")
-    return findings
+def row(oddity: Oddity) -> tuple[str, str, str]:
+    names = [oddity.file.removeprefix(f"ravo/{room_of(oddity)}/"), oddity.where]
+    return cell(oddity.what), ": ".join(f"`{name}`" for name in names if name), ", ".join(f"`{test}`" for test in oddity.tests)
 
 
-_HEAD = "# Oddities\n\n| what | where | test | why |\n|---|---|---|---|\n"
-_ROW = "| odd thing | `ravo/common/a.cpp` | `Odd.Thing` | hosts rely on it |\n"
-_CODE = "int a = 1;  // Kept: odd thing, because hosts\n            // rely on it\n"
-_TEST = "TEST(Odd, Thing) {}\n"
+def render(root: pathlib.Path) -> dict[str, str]:
+    rooms: dict[str, list[tuple[str, str, str]]] = collections.defaultdict(list)
+    for oddity in oddities(root):
+        rooms[room_of(oddity)].append(row(oddity))
+    text = "\n".join(f"## {room}\n\n{table(('what', 'where', 'test'), rows)}" for room, rows in sorted(rooms.items()))
+    return {PAGE: with_block(read(root / PAGE), text)}
 
 
-def _tree(document=_HEAD + _ROW, code=_CODE, test=_TEST):
-    return {DOCUMENT: document, "ravo/common/a.cpp": code, "tests/common/a_test.cpp": test}
+def check(root: pathlib.Path) -> list[str]:
+    known = {f"{suite}.{name}" for path in code_files(root, "tests") for suite, name in TEST.findall(read(path))}
+    findings = [] if has_block(read(root / PAGE)) else [f"{PAGE}: wants one block that make quirks writes"]
+    for oddity in oddities(root):
+        at = f"{oddity.file}:{oddity.line}"
+        if not re.search(r"\w.*\.$", oddity.what) or not oddity.tests:
+            findings.append(f"{at}: not of the form 'Kept: <what a caller sees>. Test: Suite.Name'")
+        findings += [f"{at}: there is no test {name}" for name in oddity.tests if name not in known]
+    return findings + outdated(root, render(root), "make quirks")
 
 
-PLANTINGS = [
+_EMPTY = "# Oddities\n\n<!-- written by x; do not edit -->\n<!-- end of what is written -->\n"
+_ROWS = ("## common\n\n| what | where | test |\n|---|---|---|\n| Odd &lt;b> thing. | `a.cpp`: `X::F` | `Odd.Thing` |\n"
+         "| Other. | `a.cpp`: `kA` | `Odd.Thing`, `Odd.More` |\n")
+_CODE = ("int X::F(int a,\n         int b) {\n  if (a) {\n    // Kept: odd <b> thing. Test:\n    // Odd.Thing\n    g(b);\n  }\n}\n"
+         "// Kept: other. Test: Odd.Thing, Odd.More\nconstexpr int kA[] = {1};\n")
+_TEST = "TEST(Odd, Thing) {}\nTEST_F(Odd, More) {}\n"
+
+
+def _tree(page: str = with_block(_EMPTY, _ROWS), code: str = _CODE, test: str = _TEST) -> dict[str, str]:
+    return {PAGE: page, "ravo/common/a.cpp": code, "tests/common/a_test.cpp": test}
+
+
+PLANTINGS: list[Planting] = [
     ("a good tree", _tree(), None),
-    ("what runs over two lines", _tree(code="// Kept: odd\n// thing, because of hosts\n"), None),
-    ("two comments in a row", _tree(code="// Kept: odd thing, because x\n// Kept: other, because y\n"), "'other' has no row"),
-    ("an empty table", _tree(document=_HEAD, code=""), None),
-    ("a comment without row", _tree(document=_HEAD), "'odd thing' has no row"),
-    ("a row without comment", _tree(code=""), "has no comment 'Kept: odd thing"),
-    ("a comment in another file", {**_tree(code=""), "ravo/common/b.cpp": _CODE}, "has no comment 'Kept: odd thing"),
-    ("a comment without reason", _tree(code="// Kept: odd thing\nint a;\n"), "not of the form"),
-    ("a row of a missing file", _tree(document=_HEAD + _ROW.replace("a.cpp", "z.cpp")), "there is no file"),
-    ("a row without its test", _tree(test="TEST(Odd, Other) {}\n"), "there is no test Odd.Thing"),
-    ("a row with an empty cell", _tree(document=_HEAD + _ROW.replace("hosts rely on it", "")), "four cells"),
+    ("no oddity", _tree(with_block(_EMPTY, ""), ""), None),
+    ("a page of before", _tree(code=_CODE.replace("other", "another")), "make quirks writes it"),
+    ("a comment that is not on the page", _tree(code=_CODE + "// Kept: more. Test: Odd.More\n"), "make quirks writes it"),
+    ("a row without a comment", _tree(code=""), "make quirks writes it"),
+    ("a comment without a test", _tree(code=_CODE + "// Kept: more.\n"), "a.cpp:11: not of the form"),
+    ("a comment that says nothing", _tree(code=_CODE + "// Kept: Test: Odd.More\n"), "a.cpp:11: not of the form"),
+    ("a test that is not there", _tree(test="TEST(Odd, Thing) {}\n"), "there is no test Odd.More"),
+    ("no block", _tree("# Oddities\n"), "wants one block"),
 ]
 
 if __name__ == "__main__":
     command_line(check, PLANTINGS)
+    write(ROOT, render(ROOT))

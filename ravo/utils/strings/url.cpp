@@ -161,7 +161,7 @@ std::string StrDecodeUrlA(std::string_view text) {
   return result;
 }
 
-// Kept: the name StrTimUriFragmentA, because modules import it with this spelling
+// Kept: the name `StrTimUriFragmentA` lacks an r; modules import it so. Test: StrTimUriFragmentA.KeepsItsName
 std::string StrTimUriFragmentA(std::string_view uri) { return std::string(uri.substr(0, uri.find('#'))); }
 std::u16string StrTrimUriFragmentW(std::u16string_view uri) {
   return std::u16string(uri.substr(0, uri.find(u'#')));
