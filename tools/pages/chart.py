@@ -9,7 +9,7 @@ import math
 import pathlib
 import re
 
-from page import ROOT, command_line, outdated, write
+from common import ROOT, command_line, outdated, write
 from source_tree import Planting, read
 
 PAGE, PICTURES = "docs/performance.md", "docs/performance"

@@ -14,7 +14,7 @@ import re
 from collections.abc import Iterator
 from typing import Any
 
-from page import ROOT, command_line, has_block, indentation, table, with_block, write
+from common import ROOT, command_line, has_block, indentation, table, with_block, write
 from source_tree import Planting, code_files, read
 
 KINDS = ("functions", "lines", "branches")

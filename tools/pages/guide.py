@@ -22,7 +22,7 @@ import sys
 import textwrap
 from collections.abc import Callable
 
-from page import ROOT, command_line, write
+from common import ROOT, command_line, write
 from source_tree import Planting, read
 
 DOCUMENT = "docs/guide.md"

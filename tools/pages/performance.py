@@ -21,7 +21,7 @@ import tomllib
 from collections.abc import Iterator
 from typing import Any
 
-from page import ROOT, command_line, table, write
+from common import ROOT, command_line, table, write
 from source_tree import Planting, finish, read
 
 PAGE, DATA, GROWTH = "docs/performance.md", "bench/performance.toml", "growth_bench"

@@ -7,7 +7,7 @@ import pathlib
 import re
 from collections.abc import Iterator
 
-from page import ROOT, command_line, has_block, indentation, outdated, table, with_block, write
+from common import ROOT, command_line, has_block, indentation, outdated, table, with_block, write
 from source_tree import Planting, code_files, read
 
 PAGE = "docs/quirks.md"

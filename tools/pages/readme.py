@@ -4,7 +4,7 @@
 import pathlib
 import re
 
-from page import ROOT, command_line, outdated, write
+from common import ROOT, command_line, outdated, write
 from source_tree import Planting, read
 
 DOCUMENT, PROGRAM = "README.md", "examples/first_look.cpp"

@@ -16,7 +16,7 @@ import re
 import sys
 from collections.abc import Iterator
 
-from page import ROOT
+from common import ROOT
 from source_tree import read
 
 Macros = dict[str, tuple[list[str], str]]

@@ -11,7 +11,7 @@ import re
 from typing import Any
 
 import quirks
-from page import ROOT, command_line, has_block, table, with_block, write
+from common import ROOT, command_line, has_block, table, with_block, write
 from source_tree import Planting, read
 
 PAGE, COVERAGE, RUNS = "docs/reliability.md", "docs/coverage.md", "docs/long-runs.md"

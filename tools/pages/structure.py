@@ -7,7 +7,7 @@ An arrow that follows from others is left out: frame uses runtime by way of plat
 import pathlib
 from collections.abc import Iterator
 
-from page import ROOT, command_line, outdated, write
+from common import ROOT, command_line, outdated, write
 from layering import EXPORT_HEADER, HOST_HEADER, PUBLIC, UTILS_MESSAGES, Graph, include_graph, room_of
 from source_tree import Planting
 
