@@ -10,7 +10,7 @@ import subprocess
 import sys
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "checks"))
-from promised_errors import HOST_HEADER, errors_in, promised, reached, umbrellas  # noqa: E402
+from promised_errors import HOST_HEADERS, errors_in, promised, reached, umbrellas  # noqa: E402
 
 MESSAGE = "RavoInterface needs C++20"
 
@@ -42,8 +42,9 @@ def findings(folder, compiler):
             yield f"{header} as C++17: {lines[:1]}"
     if compiled(folder, compiler, "c++20", catching("ravo/DIUtils.h", ["NoSuchError"]))[0]:
         yield "an error that nobody declares was caught"
-    if not compiled(folder, compiler, "c++17", f"#include <{HOST_HEADER}>\n")[0]:
-        yield f"{HOST_HEADER} does not compile as C++17"
+    for header in HOST_HEADERS:
+        if not compiled(folder, compiler, "c++17", f"#include <{header}>\n")[0]:
+            yield f"{header} does not compile as C++17"
 
 
 def main(arguments):

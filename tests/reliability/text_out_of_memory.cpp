@@ -12,43 +12,44 @@ namespace {
 
 using test::ExpectSurvivesScarceMemory;
 
-const std::u16string kText(300, u'č');
+const std::u16string kLongText(300, u'č');
 const std::u16string kWords = u"Faktura č. 12 za žluťoučkého koně a za dva další koně ";
-const std::string kBytes(300, '\xE8');
+const std::string kManyBytes(300, '\xE8');
 
 TEST(TextOutOfMemory, StringFunctions) {
   using namespace DIUtils;
-  ExpectSurvivesScarceMemory([] { static_cast<void>(StrReplaceIW(kText, u"Č", u"cc")); });
-  ExpectSurvivesScarceMemory([] { static_cast<void>(StrReplaceLoopW(kText, u"čč", u"č")); });
-  ExpectSurvivesScarceMemory([] { static_cast<void>(StrToUpperW(kText)); });
-  ExpectSurvivesScarceMemory([] { static_cast<void>(ProperCaseW(kText)); });
-  ExpectSurvivesScarceMemory([] { static_cast<void>(PadLeftW(kText, 400)); });
-  ExpectSurvivesScarceMemory([] { static_cast<void>(WStrToAStr(kText)); });
-  ExpectSurvivesScarceMemory([] { static_cast<void>(QuotedStrW(kText)); });
+  ExpectSurvivesScarceMemory([] { static_cast<void>(StrReplaceIW(kLongText, u"Č", u"cc")); });
+  ExpectSurvivesScarceMemory([] { static_cast<void>(StrReplaceLoopW(kLongText, u"čč", u"č")); });
+  ExpectSurvivesScarceMemory([] { static_cast<void>(StrToUpperW(kLongText)); });
+  ExpectSurvivesScarceMemory([] { static_cast<void>(ProperCaseW(kLongText)); });
+  ExpectSurvivesScarceMemory([] { static_cast<void>(PadLeftW(kLongText, 400)); });
+  ExpectSurvivesScarceMemory([] { static_cast<void>(WStrToAStr(kLongText)); });
+  ExpectSurvivesScarceMemory([] { static_cast<void>(QuotedStrW(kLongText)); });
 }
 
 TEST(TextOutOfMemory, FurtherStringFunctions) {
   using namespace DIUtils;
-  ExpectSurvivesScarceMemory([] { static_cast<void>(StrDecodeUtf8(StrEncodeUtf8(kText))); });
-  ExpectSurvivesScarceMemory([] { static_cast<void>(StrDecodeUrlA(StrEncodeUrlA(kBytes))); });
-  ExpectSurvivesScarceMemory([] { static_cast<void>(StrExtractUriFragmentW(u"x#" + kText)); });
-  ExpectSurvivesScarceMemory([] { static_cast<void>(ExtractWordA(kBytes, ", ")); });
-  ExpectSurvivesScarceMemory([] { static_cast<void>(ExtractWordStartsW(ReplaceAll(kText, u"č", u"č "))); });
-  ExpectSurvivesScarceMemory([] { static_cast<void>(StrTrimCharsW(kText, u" ")); });
+  ExpectSurvivesScarceMemory([] { static_cast<void>(StrDecodeUtf8(StrEncodeUtf8(kLongText))); });
+  ExpectSurvivesScarceMemory([] { static_cast<void>(StrDecodeUrlA(StrEncodeUrlA(kManyBytes))); });
+  ExpectSurvivesScarceMemory([] { static_cast<void>(StrExtractUriFragmentW(u"x#" + kLongText)); });
+  ExpectSurvivesScarceMemory([] { static_cast<void>(ExtractWordA(kManyBytes, ", ")); });
+  ExpectSurvivesScarceMemory(
+      [] { static_cast<void>(ExtractWordStartsW(ReplaceAll(kLongText, u"č", u"č "))); });
+  ExpectSurvivesScarceMemory([] { static_cast<void>(StrTrimCharsW(kLongText, u" ")); });
   ExpectSurvivesScarceMemory([] { static_cast<void>(StrRandomA("seed", "abc", 100)); });
 }
 
 // A text that is changed in place is the old one or the new one.
 TEST(TextOutOfMemory, ATextStaysWhole) {
-  std::u16string target = kText;
+  std::u16string target = kLongText;
   target.shrink_to_fit();
   {
     const test::FailingMemory memory(0);
-    EXPECT_THROW(DIUtils::ConCatStrW(target, kText), std::bad_alloc);
+    EXPECT_THROW(DIUtils::ConCatStrW(target, kLongText), std::bad_alloc);
   }
-  EXPECT_EQ(target, kText);
-  DIUtils::ConCatStrW(target, kText);
-  EXPECT_EQ(target, kText + kText);
+  EXPECT_EQ(target, kLongText);
+  DIUtils::ConCatStrW(target, kLongText);
+  EXPECT_EQ(target, kLongText + kLongText);
 }
 
 TEST(TextOutOfMemory, Reader) {
@@ -57,7 +58,7 @@ TEST(TextOutOfMemory, Reader) {
     ExpectSurvivesScarceMemory([methods] {
       TDIUnicodeReader reader;
       reader.SetReadMethods(*methods);
-      reader.SetSourceBufferAsStrA(kBytes);
+      reader.SetSourceBufferAsStrA(kManyBytes);
       reader.ReadLine();
       static_cast<void>(reader.DataAsStrW());
       static_cast<void>(reader.DataAsStr8());
@@ -69,7 +70,7 @@ TEST(TextOutOfMemory, Reader) {
 TEST(TextOutOfMemory, AReaderStaysUsable) {
   DIUnicode::TDIUnicodeReader reader;
   reader.SetReadMethods(DIUnicode::Read_Windows_1250);
-  reader.SetSourceBufferAsStrA(kBytes);
+  reader.SetSourceBufferAsStrA(kManyBytes);
   for (std::int64_t requests = 0; requests < 5; ++requests) {
     const test::FailingMemory memory(requests);
     try {
@@ -87,7 +88,7 @@ TEST(TextOutOfMemory, AReaderStaysUsable) {
 
 TEST(TextOutOfMemory, Sources) {
   ExpectSurvivesScarceMemory([] {
-    MemoryStream stream(std::as_bytes(std::span(kBytes)));
+    MemoryStream stream(std::as_bytes(std::span(kManyBytes)));
     DIUnicode::TDIUnicodeReader reader;
     reader.SetSourceStream(&stream, u"a name that is longer than a short text");
     reader.PushSource(true);
@@ -103,8 +104,8 @@ TEST(TextOutOfMemory, Writer) {
     ExpectSurvivesScarceMemory([methods] {
       TDIUnicodeWriter writer;
       writer.SetWriteMethods(*methods);
-      writer.WriteStrW(kText);
-      writer.WriteStrA(kBytes, 1250);
+      writer.WriteStrW(kLongText);
+      writer.WriteStrA(kManyBytes, 1250);
       writer.FlushDataBuffer();
       static_cast<void>(writer.DataToStrRaw());
     });
@@ -118,7 +119,7 @@ TEST(TextOutOfMemory, AWriterStaysUsable) {
   writer.WriteStrW(u"č");
   {
     const test::FailingMemory memory(0);
-    EXPECT_THROW(writer.WriteStrW(kText + kText), std::bad_alloc);
+    EXPECT_THROW(writer.WriteStrW(kLongText + kLongText), std::bad_alloc);
   }
   EXPECT_EQ(writer.DataSize() % 2, 0U);
   writer.WriteStrW(u"ž");
@@ -139,7 +140,7 @@ TEST(TextOutOfMemory, FormFields) {
   for (const bool as_unicode : {false, true}) {
     ExpectSurvivesScarceMemory([as_unicode] {
       MemoryStream stream;
-      FillPDFField(stream, u"a name that is longer than a short text", kText, as_unicode);
+      FillPDFField(stream, u"a name that is longer than a short text", kLongText, as_unicode);
       FillPDFFieldAsInteger(stream, u"radne", 1);
     });
   }

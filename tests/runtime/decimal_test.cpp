@@ -208,7 +208,7 @@ TEST(Decimal, ToExtendedAtTheLowerEnd) {
   EXPECT_EQ(BytesOf(ToExtended(smallest)), BytesOf(Limits::denorm_min()));
   DecimalNumber half = Halved(smallest);
   EXPECT_EQ(BytesOf(ToExtended(half)), BytesOf(0));
-  half.digits += std::string(100'000, '0') + "1";
+  half.digits.append(100'000, '0').append("1");
   EXPECT_EQ(BytesOf(ToExtended(half)), BytesOf(Limits::denorm_min()));
   for (const int point : {-5000, -5001, std::numeric_limits<int>::min()}) {
     EXPECT_EQ(BytesOf(ToExtended({false, "1", point})), BytesOf(0)) << point;

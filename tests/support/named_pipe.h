@@ -26,7 +26,7 @@ class NamedPipe {
 
   ScratchFolder folder_;
   std::u16string name_;
-  void* server_ = nullptr;
+  [[maybe_unused]] void* server_ = nullptr;  // on Windows
   std::atomic<bool> is_written_ = false;
   std::thread writer_;
 };

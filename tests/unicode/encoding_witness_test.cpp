@@ -15,12 +15,12 @@
 namespace ravo::DIUnicode {
 namespace {
 
-using Lines = std::vector<std::string>;
+using TextLines = std::vector<std::string>;
 
-Lines LinesOf(const std::string& name) {
+TextLines LinesOf(const std::string& name) {
   std::ifstream file("unicode-data/" + name, std::ios::binary);
   EXPECT_TRUE(file.is_open()) << name << ": run from the folder of the test program";
-  Lines lines;
+  TextLines lines;
   for (std::string line; std::getline(file, line);) lines.push_back(line);
   return lines;
 }

@@ -12,7 +12,7 @@ namespace {
 struct RandomOptions {
   std::string seed;
   std::string alphabet = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789";
-  std::size_t count = 16;
+  std::ptrdiff_t count = 16;
 };
 
 // Characters are drawn unit by unit: half a pair of surrogates is none.
@@ -45,7 +45,7 @@ constexpr const char* kRandomFooter =
 }  // namespace
 
 void AddRandomCommand(CLI::App& program, Outcome& outcome) {
-  constexpr std::size_t kMost = 100'000'000;
+  constexpr std::ptrdiff_t kMost = 100'000'000;
   CLI::App* command = program.add_subcommand("random", "Writes a reproducible random text");
   const auto options = std::make_shared<RandomOptions>();
   command->add_option("--seed", options->seed, "What the text is drawn from")
@@ -55,7 +55,7 @@ void AddRandomCommand(CLI::App& program, Outcome& outcome) {
       ->check(CLI::Validator(CheckAlphabet, ""))
       ->capture_default_str();
   command->add_option("--count", options->count, "How many characters")
-      ->check(CLI::Range(std::size_t{0}, kMost))
+      ->check(CLI::Range(std::ptrdiff_t{0}, kMost))
       ->capture_default_str();
   command->footer(kRandomFooter);
   command->callback([options, &outcome] { Run(*options, outcome); });

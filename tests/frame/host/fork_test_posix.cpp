@@ -1,5 +1,5 @@
-// Processes that were forked while other threads read texts, changed the list of modules and made documents can
-// do so too. usage: fork_test LANGUAGE-MODULE
+// Processes that were forked while other threads read texts, changed the list of modules and made documents
+// can do so too. usage: fork_test LANGUAGE-MODULE
 #include <ravo/ECXMLParser.h>
 #include <ravo/frame/module_record.h>
 #include <ravo/frame/resource_string.h>
