@@ -1,5 +1,5 @@
 # The two commands of the README, and what helps while working. Everything else is CMake's: see CMakePresets.json.
-.PHONY: run check bench coverage reliability reference guide pictures package check-packages format clean
+.PHONY: run check bench coverage reliability reference guide quirks pictures package check-packages format clean
 
 run:            ## Build for this machine and show the library at its work
 	@scripts/run
@@ -19,12 +19,15 @@ reliability:    ## Sum up what the tests try and put it into docs/reliability.md
 reference:      ## Make the reference of every public name: build/reference/html/index.html
 	@scripts/reference
 
-guide:          ## Copy the code of the examples and what they print into docs/guide.md
+guide:          ## Copy the code of the examples and what they print into docs/guide.md and README.md
 	@scripts/guide
 
+quirks:         ## Write docs/quirks.md from the comments `// Kept:` of the sources
+	@/usr/bin/env python3 -B tools/pages/quirks.py --write
+
 pictures:       ## Draw docs/structure.svg and the charts of docs/performance.md anew
-	@/usr/bin/env python3 -B scripts/structure.py --write
-	@/usr/bin/env python3 -B scripts/chart.py --write
+	@/usr/bin/env python3 -B tools/pages/structure.py --write
+	@/usr/bin/env python3 -B tools/pages/chart.py --write
 
 package:        ## Make the packages of a release in build/packages
 	@scripts/package

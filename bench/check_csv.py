@@ -60,7 +60,7 @@ def main(ravo, folder, report_file):
         "mawk, the same columns": ["mawk", "-F;", "{ %s }" % assignments, file],
         "mawk, counting fields": ["mawk", "-F;", "{ n += NF }", file],
     }
-    times = {name: [] for name in commands}
+    times: dict[str, list[float]] = {name: [] for name in commands}
     for run in range(RUNS + 1):
         for name, command in commands.items():
             taken = seconds(command)

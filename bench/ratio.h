@@ -15,7 +15,7 @@
 /// Benchmarks that compare: each job runs on our routine and on its rivals in one run, and the run ends with
 /// a table of the medians and their ratios. Register with names of the form "job/ravo" and "job/rival" and
 /// let `RunWithRatios` be the whole of `main`. The counter "items" tells how many things one run works on.
-/// scripts/performance.py makes the page of figures from the report that `--benchmark_out` writes.
+/// tools/pages/performance.py makes the page of figures from the report that `--benchmark_out` writes.
 namespace ravo::bench {
 
 inline constexpr std::string_view kOurs = "ravo";

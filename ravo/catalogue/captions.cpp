@@ -15,6 +15,7 @@ constexpr auto kLines = std::to_array<CaptionRow>({
 #undef RAVO_STRING
 });
 
+// Untested: runs at compile time only.
 constexpr bool IsCaption(const CaptionRow& line) { return !line.name.empty(); }
 
 consteval auto MakeCaptionRows() {

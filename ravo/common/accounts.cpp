@@ -27,7 +27,8 @@ bool IsNumbers(std::u16string_view text) noexcept {
 
 bool ValidSU(std::u16string_view text) noexcept { return text.size() == 3 && IsNumbers(text); }
 
-// Kept: the empty analytic account is valid, because an account may have no analytic part
+// Kept: an empty analytic account is valid, because an account may have no analytic part. Test:
+// ValidAU.IsUpToThreeDigitsAndMayBeEmpty
 bool ValidAU(std::u16string_view text) noexcept {
   return text.empty() || (text.size() <= 3 && IsNumbers(text));
 }
@@ -64,8 +65,8 @@ bool ValidVS(std::u16string_view text) {
   return digits_alone && CheckedSum(sum) % 10 == 0;
 }
 
-// Kept: prefix and base number form one weighted sum, because accounts in stored documents were accepted by
-// it
+// Kept: prefix and base number form one weighted sum: 1-9 is valid although neither part is. Test:
+// UcetMod11.PrefixAndBaseNumberFormOneSum
 bool UcetMod11(std::u16string_view text) {
   // 2^1, 2^2, ... modulo 11, from the right; they repeat.
   constexpr std::array<std::int32_t, 10> kWeights{2, 4, 8, 5, 10, 9, 7, 3, 6, 1};
@@ -100,7 +101,8 @@ bool IsEanLength(std::size_t length) { return length == 7 || length == 8 || leng
 
 }  // namespace
 
-// Kept: the two check digits are not compared, because the same call completes codes that have none
+// Kept: the check digit of the code and the computed one are not compared; the caller gets both. Test:
+// CalculateEAN.CompletesAndComparesCodes
 bool CalculateEAN(std::u16string_view code, std::u16string& OldCheck, std::u16string& NewCheck,
                   std::u16string& FullCode) {
   const std::u16string_view trimmed = Trimmed(code);

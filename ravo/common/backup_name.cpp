@@ -37,8 +37,8 @@ std::u16string ClockText(std::u16string_view pattern) {
 std::u16string ParseZalohaFile(std::u16string_view Template, std::u16string_view Firma) {
   std::u16string name = Filled(Template, u"%FIRMA%", FileNamePart(Firma));
   name = Filled(name, u"%DATUM%", ClockText(u"yymmdd"));
-  // Kept: the clock is read twice, because names made across midnight have always paired the new time with
-  // the old date
+  // Kept: the clock is read twice: a name made at midnight can pair the old date with the new time. Test:
+  // ParseZalohaFileTest.ReadsTheClockTwiceAcrossMidnight
   return Filled(name, u"%CAS%", ClockText(u"hhmmss"));
 }
 

@@ -28,7 +28,8 @@ void AppendTime(std::u16string& text, const TimeParts& time) {
   AppendPadded(text, time.minute, 2);
   text += u':';
   AppendPadded(text, time.second, 2);
-  // Kept: a colon before the milliseconds, because the database server reads them so
+  // Kept: milliseconds follow a colon, not a point: 13:05:09:007. Test:
+  // TimeToSQLString.SetsMillisecondsOffByAColon
   text += u':';
   AppendPadded(text, time.millisecond, 3);
 }
@@ -63,7 +64,8 @@ std::u16string DateTimeToSQLString(DateTime value) {
 
 DateTime ChangeMonth(DateTime value, std::int32_t step) {
   const DateParts date = SplitDateTime(value).date;
-  // Kept: only the sign of a step counts, because accounting periods have always been stepped one at a time
+  // Kept: only the sign of `step` counts: 3 moves one month forward, and 0 one month back. Test:
+  // ChangeMonth.StepOfThreeMovesOneMonth
   const int months = date.year * 12 + date.month - 1 + (step > 0 ? 1 : -1);
   return EncodeClamped(months / 12, months % 12 + 1, date.day);
 }

@@ -12,8 +12,7 @@ struct Letter {
   char base;
 };
 
-// Kept: diacritics table without Ď ď Ó ó Ů, because texts that modules have stored and compare with were made
-// by it
+// Kept: the table lacks Ď ď Ó ó Ů; they stay as they are. Test: RemoveDiacritics.LettersThatTheTableLacksStay
 constexpr Letter kLetters[] = {
     {0x8A, 'S'},  // Š
     {0x8D, 'T'},  // Ť
@@ -42,6 +41,7 @@ constexpr Letter kLetters[] = {
     {0xFD, 'y'},  // ý
 };
 
+// Untested: runs at compile time only.
 constexpr std::array<char, 256> MakeTable() {
   std::array<char, 256> table{};
   for (std::size_t byte = 0; byte < table.size(); ++byte) table[byte] = static_cast<char>(byte);

@@ -33,6 +33,7 @@ Currency RoundDPHOutOfLine(Currency value, char16_t kind) {
       return RoundValueReference(value, rtUp, 1);
     case u'M':
       return RoundValueReference(value, rtMath, 0);
+    // Untested: the inline form handles every other letter.
     default:
       return value;
   }

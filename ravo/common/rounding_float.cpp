@@ -9,14 +9,14 @@ double FromUnits(std::int64_t units, const SoftExtended& power) { return (Scaled
 
 double RoundUp(double value, const SoftExtended& scaled, const SoftExtended& power) {
   const double result = FromUnits(Ceiling32(SoftExtended::FromDouble(scaled.ToDouble())), power);
-  // Kept: the ceiling of a negative double comes back with its sign flipped, because stored results were made
-  // so
+  // Kept: the ceiling of a negative double has its sign flipped, unlike in `RoundValue`: -1.234 to 2 places
+  // gives 1.23. Stored results depend on it. Test: RoundValueFloat.CeilingOfANegativeValueFlipsItsSign
   return value >= 0 ? result : -result;
 }
 
 double RoundDown(const SoftExtended& scaled, const SoftExtended& power) {
-  // Kept: doubles that are exact already may go down one unit, because the floor is a rounding of the value
-  // less one half
+  // Kept: the floor of a double that is exact may be one unit lower: 3.0 gives 2.0, 2.0 gives 2.0. Stored
+  // results depend on it. Test: RoundValueFloat.FloorLowersWhatIsExactAlready
   return FromUnits((scaled - Scaled(1) / Scaled(2)).ToIntegerRounded(), power);
 }
 

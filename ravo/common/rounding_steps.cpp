@@ -3,7 +3,8 @@
 namespace ravo::RavoInterfaceCommon {
 namespace {
 
-// Kept: ceiling and floor wrap at 32 bits, because amounts stored so far were rounded that way
+// Kept: ceiling and floor wrap at 32 bits; stored amounts depend on it. Test:
+// RoundValue.CeilingAndFloorWrapAt32Bits
 std::int32_t Wrapped(std::int64_t units) {
   return static_cast<std::int32_t>(static_cast<std::uint32_t>(units));
 }
@@ -16,6 +17,7 @@ std::int32_t Ceiling32(const SoftExtended& value) {
 }
 
 std::int32_t Floor32(const SoftExtended& value) {
+  // Untested: callers pass no negative value.
   return Wrapped(value.ToIntegerTruncated() - (value.Fraction().IsNegative() ? 1 : 0));
 }
 

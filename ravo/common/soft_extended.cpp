@@ -54,6 +54,7 @@ SoftExtended SoftExtended::Truncated() const noexcept {
   if (exponent_ >= 0) return *this;
   if (exponent_ <= -64) return {};
   const std::uint64_t whole = mantissa_ >> -exponent_ << -exponent_;
+  // Untested: the top bit of a mantissa is always set and survives the cut.
   return whole == 0 ? SoftExtended() : SoftExtended(negative_, whole, exponent_);
 }
 
@@ -94,6 +95,7 @@ double SoftExtended::ToDouble() const noexcept {
     bits = exponent == 1 && kept < std::uint64_t{1} << 52
                ? kept
                : (static_cast<std::uint64_t>(exponent - 1) << 52) + kept;
+    // Untested: results of rounding stay far below the largest double.
     if (exponent >= 0x7FF || bits >= std::uint64_t{0x7FF} << 52) bits = std::uint64_t{0x7FF} << 52;
   }
   return std::bit_cast<double>(bits | (negative_ ? kTopBit : 0));
@@ -134,7 +136,9 @@ SoftExtended::Wide SoftExtended::ShiftedRight(std::uint64_t mantissa, int bits) 
 
 // value * 2^exponent, rounded to a 64-bit mantissa.
 SoftExtended SoftExtended::Rounded(bool negative, Wide value, int exponent) noexcept {
+  // Untested: operands are normalized, so `low` is 0 if `high` is.
   if (value.high == 0 && value.low == 0) return {};
+  // Untested: operands are normalized, so only 0 has no bit in `high`.
   if (value.high == 0) {
     value.high = value.low;
     value.low = 0;

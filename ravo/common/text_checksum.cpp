@@ -8,8 +8,7 @@
 namespace ravo::RavoInterfaceCommon {
 
 void CalcCRC32(std::string_view text, std::uint32_t& crc) {
-  // Kept: checksums of at most 65535 bytes, because the count is held in 16 bits and modules rely on the
-  // error
+  // Kept: a text over 65,535 bytes throws `RangeError`. Test: CalcCRC32.TakesAtMost65535Bytes
   const auto count = CheckedCast<std::uint16_t>(text.size());
   crc = Crc32(std::as_bytes(std::span(text.data(), count)));
 }

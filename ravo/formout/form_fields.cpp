@@ -21,7 +21,10 @@ void Write(ByteStream& stream, std::string_view bytes) {
 
 void WriteByteOrderMark(DIUnicode::TDIUnicodeWriter& writer) { writer.WriteCharW(u'\uFEFF'); }
 
-// Kept: in a form only the byte 0D of č is escaped, because the suite's forms were always filled so.
+// Kept: the low byte 0D of č is written as `\r`, because readers of PDF would change it to a line feed.
+// Nothing else is escaped: parentheses, backslashes and carriage returns are the caller's to keep out. Test:
+// Win1250ToPDFDocEncoding.EscapesOneByteOfOneCharacter, Win1250ToPDFDocEncoding.EscapesNothingElse,
+// FillPDFField.EscapesNeitherNameNorValue
 void WriteCharacter(DIUnicode::TDIUnicodeWriter& writer, char16_t ch) {
   if (ch != kSmallCWithCaron) {
     writer.WriteCharW(ch);

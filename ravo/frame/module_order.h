@@ -54,6 +54,7 @@ using PlacedModules = std::array<bool, kMostModules>;
 /// Fills `order` with the numbers of all rows so that each comes after the ones that it uses, and otherwise
 /// in the order of the rows. False where that is impossible: a circle, a name that no row has, too many rows.
 [[nodiscard]] constexpr bool OrderModules(std::span<const ModuleRow> rows, std::span<std::size_t> order) {
+  // Untested: the library calls it at compile time only, with lists that fit.
   if (rows.size() > kMostModules || order.size() != rows.size()) return false;
   PlacedModules placed{};
   for (std::size_t& index : order) {

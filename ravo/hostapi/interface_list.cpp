@@ -9,6 +9,7 @@
 namespace ravo {
 namespace {
 
+// Untested: runs at compile time only.
 template <class Interface>
 constexpr InterfaceKind KindOf() {
   return std::derived_from<Interface, IDispatch> ? InterfaceKind::Dual : InterfaceKind::Custom;

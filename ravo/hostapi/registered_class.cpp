@@ -9,6 +9,7 @@ namespace ravo {
 RegisteredClass::RegisteredClass(const Guid& class_id, ComponentFactory factory)
     : machine_(platform::CurrentMachine()) {
   const ResultCode code = machine_.OfferComponent(class_id, std::move(factory), registration_);
+  // Untested: the platform refuses a class only if memory runs out.
   if (Failed(code)) throw ComponentError(code, machine_.ComponentErrorText(code));
 }
 

@@ -53,6 +53,7 @@ std::optional<Bytes> ReadAt(ByteStream& file, std::int64_t offset, std::size_t s
   file.SetPosition(offset);
   for (std::size_t done = 0; done < size;) {
     const std::size_t count = file.Read(std::span(bytes).subspan(done));
+    // Untested: the file would have to shrink while it is read.
     if (count == 0) return std::nullopt;
     done += count;
   }

@@ -15,6 +15,7 @@ template <class Interface>
 [[nodiscard]] constexpr bool Answers(const Guid& interface_id) noexcept {
   // A copy keeps the constant of an exported interface out of the library's exports.
   constexpr Guid own = Interface::kInterfaceId;
+  // Untested: `derived_from` is a constant of each instance.
   return interface_id == own || interface_id == IUnknown::kInterfaceId ||
          (std::derived_from<Interface, IDispatch> && interface_id == IDispatch::kInterfaceId);
 }

@@ -35,7 +35,7 @@ struct DateValue {
 };
 
 /// A tagged value: empty, null, integer, float, currency, date, text, boolean or bytes.
-class RAVO_API Variant {
+class Variant {
  public:
   /// What a variant may hold, one kind at a time.
   using Value = std::variant<EmptyValue, NullValue, std::int32_t, std::int64_t, double, Currency, DateValue,

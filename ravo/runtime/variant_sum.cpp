@@ -31,6 +31,7 @@ struct KindOf {
   SumKind operator()(const std::u16string&) const { return SumKind::Float; }
   SumKind operator()(Currency) const { return SumKind::Amount; }
   SumKind operator()(DateValue) const { return SumKind::Date; }
+  // Untested: these kinds are refused or joined before their number is read.
   template <class Other>
   SumKind operator()(const Other&) const {
     RaiseNoSum();
@@ -41,6 +42,7 @@ struct AsInteger {
   std::int64_t operator()(std::int32_t value) const { return value; }
   std::int64_t operator()(std::int64_t value) const { return value; }
   std::int64_t operator()(bool value) const { return value ? -1 : 0; }
+  // Untested: these kinds are refused or joined before their number is read.
   template <class Other>
   std::int64_t operator()(const Other&) const {
     RaiseNoSum();
@@ -61,6 +63,7 @@ struct AsDecimal {
     if (!number) RaiseNoNumber(text);
     return *std::move(number);
   }
+  // Untested: these kinds are refused or joined before their number is read.
   template <class Other>
   DecimalNumber operator()(const Other&) const {
     RaiseNoSum();
@@ -119,6 +122,7 @@ Variant SumOfNumbers(const Variant& left, const Variant& right, char16_t decimal
     case SumKind::Date:
       return DateValue{SumOfFloats(number(left), number(right))};
   }
+  // Untested: every kind with a sum returned above.
   RaiseNoSum();
 }
 

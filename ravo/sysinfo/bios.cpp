@@ -31,8 +31,8 @@ void TRavoSystemInfo::AddBios(std::u16string_view Indent) {
   AddHeading(FStrings, Indent, _rSystemBIOS.View());
   AddRow(FStrings, Indent, _rSystemBIOSName.View(), TextOf(key, u"Identifier"));
   AddRow(FStrings, Indent, _rSystemBIOSDate.View(), TextOf(key, u"SystemBiosDate"));
-  // Kept: BIOS version under the copyright caption, because readers of the report know it there; the caption
-  // for versions has no row and the extended row no value
+  // Kept: the BIOS version is under the copyright caption; the caption for versions has no row, and the
+  // extended row no value. Test: Bios.VersionStandsUnderTheCopyrightCaption
   AddRow(FStrings, Indent, _rSystemBIOSCopyright.View(), key ? BiosVersion(*key) : std::u16string());
   AddRow(FStrings, Indent, _rSystemBIOSExtendedInfo.View(), u"");
 }

@@ -43,7 +43,7 @@ inline constexpr auto kVisualFiles = std::to_array<std::u16string_view>({
     u"RavoMazani.bpl",
     u"RavoKontrola.bpl",
     u"RavoKorespondence.bpl",
-    // Kept: component files named jpg, because that is the extension they are installed under
+    // Kept: component files have names that end in .jpg. Test: InstalledFiles.ComponentFilesEndInJpg
     u"eqtld5.jpg",
     u"dxcomnd5.jpg",
     u"dxedtrd5.jpg",

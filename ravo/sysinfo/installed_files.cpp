@@ -36,8 +36,8 @@ std::u16string FolderOf(std::u16string_view name) {
   return std::u16string(folder) + CurrentMachine().PathDelimiter();
 }
 
-// Kept: client files looked for in the current folder, because modules run with their own folder as the
-// current one; the folder of the running program does not count
+// Kept: client files are looked for in the current folder, not in that of the running program. Test:
+// InstalledFiles.ClientFilesAreLookedForInTheCurrentFolder
 std::u16string CurrentFolder() { return FolderOf(CurrentMachine().FullPath(u"Ravo.exe")); }
 
 // A time stamp that no calendar date can name must not cost the user the whole report.
@@ -104,10 +104,13 @@ void TRavoSystemInfo::AddFileInfo(std::u16string_view Indent, std::u16string_vie
 std::u16string TRavoSystemInfo::GetFileAttr(std::u16string_view FileName,
                                             std::u16string_view AttrName) const {
   const auto facts = CurrentMachine().FindFile(FileName);
+  // Untested: the file would have to be deleted while the report is made.
   if (!facts) return {};
   if (AttrName == kSize) return ToText(facts->size) + u" B";
   if (AttrName == kWritten) return TimeStampText(facts->written);
+  // Untested: the report asks for three attributes only.
   if (AttrName == kAttributes) return ToHex(facts->attributes, 8);
+  // Untested: the report asks for three attributes only.
   return {};
 }
 
@@ -116,12 +119,13 @@ std::u16string TRavoSystemInfo::GetFileInfo(std::u16string_view FileName, std::u
   const auto translation = version ? version->FirstTranslation() : std::nullopt;
   if (!translation) return {};
   std::u16string text = version->String(TableName(*translation), Key).value_or(std::u16string());
-  // Kept: version string of one character shown as empty, because such a value says nothing to support
+  // Kept: a version string of one character is shown as empty. Test:
+  // InstalledFiles.AVersionOfOneCharacterIsEmpty
   return text.size() <= 1 ? std::u16string() : text;
 }
 
-// Kept: root of the current drive for an unregistered server, because the opening of its key is not checked
-// and its path reads as empty
+// Kept: for an unregistered server the result is the root of the current drive. Test:
+// InstalledFiles.AnUnregisteredServerMeansTheRootOfTheDrive
 std::u16string TRavoSystemInfo::GetBusinessPath() const {
   const auto key = CurrentMachine().OpenKey(platform::RegistryRoot::ClassesRoot, kBusinessServerPath);
   return FolderOf(TextOf(key, u""));

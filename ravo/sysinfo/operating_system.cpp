@@ -17,8 +17,8 @@ std::u16string_view CurrentVersionPath(TOSVersion kind) {
                     : u"\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion";
 }
 
-// Kept: hot-fix key in WindowsNT without a blank, because it stands so in the suite, although the system's
-// own key has one
+// Kept: the key of the hot-fix has "WindowsNT" without a blank; the system's own key has one. Test:
+// OperatingSystem.HotfixKeyHasNoBlank
 constexpr std::u16string_view kServicePack6aPath =
     u"\\SOFTWARE\\Microsoft\\WindowsNT\\CurrentVersion\\Hotfix\\Q246009";
 

@@ -18,8 +18,8 @@ bool HasLetter(const SystemVersion& version, std::u16string_view letter) {
 
 TOSVersion Server2003Kind(const SystemVersion& version, bool is_server_r2, std::uint16_t architecture) {
   if (IsWorkstation(version) && architecture == platform::kArchitectureAmd64) return osXP64;
-  // Kept: home server only as a second release, because the test for the first release comes later and
-  // overwrites it
+  // Kept: a home server is found only as a second release; a first release is reported as Windows Server
+  // 2003. Test: GetOS.HomeServerOnlyAsSecondRelease
   if (!is_server_r2) return osS2003;
   return (version.suite_mask & kSuiteHomeServer) != 0 ? osHS : osS2003R2;
 }
@@ -90,6 +90,7 @@ TOSVersion OSVersionOf(const SystemVersion& version, bool is_server_r2, std::uin
 }
 
 bool IsNt(TOSVersion kind) noexcept {
+  // Untested: no kind is after the last.
   return kind == osNT3 || kind == osNT4 || kind == os2K || (kind >= osXP && kind <= osW7);
 }
 

@@ -53,7 +53,8 @@ void TRavoSystemInfo::AddHDInfo(std::u16string_view Indent) {
   for (unsigned bit = 0; bit < 32; ++bit) {
     const std::u16string drive{static_cast<char16_t>(u'A' + bit), u':'};
     if (((drives >> bit) & 1) == 0 || machine.KindOfDrive(drive) != platform::DriveKind::Fixed) continue;
-    // Kept: numbers of the drive before where a query fails, because they are zeroed once and not per drive
+    // Kept: a drive whose query fails shows the numbers of the drive before it. Test:
+    // Drives.AFailedQueryRepeatsTheDriveBefore
     space = machine.SpaceOfFolder(drive).value_or(space);
     AddSubHeading(FStrings, Indent, drive);
     AddNestedRow(FStrings, Indent, _rSystemHDSpace.View(), BytesToStr(space.total, true));
@@ -81,6 +82,7 @@ std::u16string TRavoSystemInfo::GetAPIString(TApiString Kind) const {
       return machine.UserName();
     case asAllDataApp:
       return machine.Folder(SystemFolder::CommonDocuments);
+    // Untested: callers pass a value of the enumeration, and all are above.
     default:
       return {};
   }
@@ -101,6 +103,7 @@ std::uint32_t TRavoSystemInfo::GetAPIInteger(TApiInteger Kind) const {
       return memory.total_page_file;
     case aiAvailPageFile:
       return memory.available_page_file;
+    // Untested: callers pass a value of the enumeration, and all are above.
     default:
       return 0;
   }

@@ -34,6 +34,7 @@ std::u16string FromCodePage(std::string_view bytes, std::uint32_t code_page) {
   if (code_page == kSystemCodePage) return machine.FromCodePage(bytes);
   if (auto text = machine.DecodeCodePage(code_page, bytes)) return *std::move(text);
   const EncodingRow* const encoding = DIUnicode::FindEncodingByCodePage(code_page);
+  // Untested: every encoding with a code page can be read.
   return encoding != nullptr && encoding->read != nullptr ? Decode(*encoding, bytes) : std::u16string();
 }
 

@@ -58,6 +58,7 @@ constexpr bool kIsTill<Not<OneOf<count>>> = true;
 // Whether the first byte that does not belong can be found among the bytes: what ends the run is ASCII.
 template <class Belongs>
 bool EndsByAscii(const Belongs& belongs) {
+  // Untested: discarded in the other instances.
   if constexpr (kIsTill<Belongs>)
     return belongs.What().IsAscii();
   else
@@ -66,6 +67,7 @@ bool EndsByAscii(const Belongs& belongs) {
 
 template <class Unit, class Belongs>
 std::size_t LengthIn(std::span<const Unit> run, const Belongs& belongs) {
+  // Untested: discarded in the other instances.
   if constexpr (kIsTill<Belongs>)
     return unicode::LengthBefore(run, belongs.What());
   else

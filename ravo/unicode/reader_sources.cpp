@@ -23,8 +23,8 @@ void TDIUnicodeReader::ForgetChars() noexcept {
 }
 
 void TDIUnicodeReader::SetNewSource() noexcept {
-  // Kept: a new source begins in the state that the one before was left in, because only read methods reset
-  // it
+  // Kept: a new source begins in the decoder state of the previous one; `SetReadMethods` resets it. Test:
+  // Utf7State.ANewSourceBeginsInsideTheRunThatWasLeft, Utf7State.SetReadMethodsBeginsOutsideARun
   ForgetChars();
   FSourceBufferPosition = 0;
 }
@@ -97,7 +97,8 @@ void TDIUnicodeReader::SetSourceStream(ByteStream* AStream, std::u16string_view 
   FSourceStream = AStream;
   FSourceBufferSize = 0;
   SetNewSource();
-  // Kept: a new stream goes on with the lines of the one before, because several streams may make one text
+  // Kept: a new stream continues the line numbers of the previous one; `RewindSource` and `ResetCharLocation`
+  // reset them. Test: SetSourceStream.ANewStreamContinuesTheLocation
   if (FSourceStack != nullptr) ResetCharLocation();
 }
 
@@ -136,7 +137,8 @@ void TDIUnicodeReader::RewindSource() {
 }
 
 void TDIUnicodeReader::SourceStreamModified() noexcept {
-  // Kept: SourceStreamModified goes over the buffered bytes again, because only RewindSource moves the stream
+  // Kept: `SourceStreamModified` reads the buffered bytes again; only `RewindSource` drops them and moves the
+  // stream. Test: SourceStreamModified.GoesOverTheBufferedBytesAgain
   SetNewSource();
   ResetCharLocation();
 }

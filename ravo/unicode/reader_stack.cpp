@@ -28,7 +28,8 @@ bool TDIUnicodeReader::PopSource() {
   if (FAutoFreeSourceStreams != TAutoFreeSourceStreams::afNone) delete FSourceStream;
   const std::unique_ptr<TUnicodeReaderSource> entry(FSourceStack);
   FSourceStack = entry->Next;
-  // Kept: the last character of a source counts for the one that goes on, because only the location is saved
+  // Kept: the last character of an included source counts for the including one: a line feed at its end
+  // starts a new line there. Test: PushSource.TheLastCharacterOfASourceCountsForTheNext
   FCharPos = entry->CharPos;
   FCharLine = entry->CharLine;
   FCharCol = entry->CharCol;

@@ -10,7 +10,8 @@ TDIUnicodeReader::TDIUnicodeReader(TComponent* AOwner) : TDIUnicodeBase(AOwner) 
 TDIUnicodeReader::~TDIUnicodeReader() {
   ClearSourceStack();
   if (FReadMethods.Finalize != nullptr) FReadMethods.Finalize(*this);
-  // Kept: a reader that goes leaves its first stream, because the program that set it may still use it
+  // Kept: the destructor does not free the first stream, whatever `AutoFreeSourceStreams` is. Test:
+  // AutoFreeSourceStreams.LeavesTheFirstStreamOfAReaderThatGoes
   if (FSourceStream != nullptr) DropStreamBuffer();
 }
 

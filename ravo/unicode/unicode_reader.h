@@ -398,19 +398,19 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
   enum class Passed : std::uint8_t { Nothing, Some, All };
 
   template <class Unit>
-  void AddRun(std::span<Unit> run);
+  RAVO_LOCAL void AddRun(std::span<Unit> run);
   template <class Unit>
-  void CountRun(std::span<const Unit> run, Lines lines) noexcept;
+  RAVO_LOCAL void CountRun(std::span<const Unit> run, Lines lines) noexcept;
   template <class Belongs>
-  bool PassAscii(const Belongs& belongs, bool store);
+  RAVO_LOCAL bool PassAscii(const Belongs& belongs, bool store);
   template <class Belongs>
-  Passed PassTill(std::span<char16_t> room, const Belongs& belongs, bool store);
+  RAVO_LOCAL Passed PassTill(std::span<char16_t> room, const Belongs& belongs, bool store);
   template <class Belongs>
-  std::size_t PassDecoded(std::span<char16_t> room, const Belongs& belongs, bool store);
+  RAVO_LOCAL std::size_t PassDecoded(std::span<char16_t> room, const Belongs& belongs, bool store);
   template <class Belongs>
-  bool PassRuns(const Belongs& belongs, bool store);
+  RAVO_LOCAL bool PassRuns(const Belongs& belongs, bool store);
   template <class Belongs>
-  void PassOver(const Belongs& belongs, bool store);
+  RAVO_LOCAL void PassOver(const Belongs& belongs, bool store);
   bool PassBufferedBreak();
   void BeginLine(std::uint8_t first, std::uint32_t count, char16_t before);
   void PassLine(bool store);

@@ -43,6 +43,7 @@ struct alignas(4) DayOfYear {
   std::uint8_t next_year;
 };
 
+// Untested: runs at compile time only.
 constexpr std::array<DayOfYear, 366> MakeDaysOfYear() {
   std::array<DayOfYear, 366> days{};
   for (std::uint8_t month = 1; month <= 12; ++month) {
@@ -111,7 +112,8 @@ std::uint16_t DayOfJulianDate(TJulianDate date) { return utils::PartsOf(date).da
 
 std::uint16_t MonthOfJulianDate(TJulianDate date) { return utils::PartsOf(date).month; }
 
-// Kept: the name YearOfJuilanDate, because modules import it with this spelling
+// Kept: the name `YearOfJuilanDate` has its letters swapped; modules import it so. Test:
+// YearOfJuilanDate.KeepsItsName
 std::int32_t YearOfJuilanDate(TJulianDate date) { return utils::PartsOf(date).year; }
 
 std::uint32_t YmdToIsoDate(std::int32_t year, std::uint16_t month, std::uint16_t day) {

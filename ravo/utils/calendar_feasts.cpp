@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::array<std::uint16_t, 12> kQuarters = {1, 1, 1, 2, 2, 2, 3, 3, 3, 4, 4, 4};
 
-// Kept: the holidays with 24 and 31 December, because due dates were computed with this list
+// Kept: 24 and 31 December are holidays. Test: IsHolidayInGermany.Has24And31December
 bool IsFixedHoliday(const utils::Ymd& date) {
   switch (date.month) {
     case 1:
@@ -41,8 +41,8 @@ TJulianDate EasterSunday(std::int32_t year) {
   // The paschal full moon, in days from the end of February.
   std::int32_t moon = Modulo(234 - 11 * Modulo(year, 19), 30) + 21;
   if (moon > 48) --moon;
-  // Kept: Easter without century terms, because the formula is meant for 1900 to 2099 and its values stand in
-  // stored plans
+  // Kept: Easter has no century terms: it is exact from 1900 to 2099, and 27 March for 2100. Test:
+  // EasterSunday.IsTheBareFormulaOutside
   const std::int32_t years_and_leap_days = CheckedAdd(year, year / 4);
   const std::int32_t weekday = Modulo(CheckedAdd(years_and_leap_days, moon + 1), 7);
   return YmdToJulianDate(year, 3, 1) + moon + 6 - weekday;

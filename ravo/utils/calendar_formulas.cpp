@@ -7,8 +7,8 @@ namespace ravo::utils {
 std::int32_t JulianDateByFormula(std::int32_t year, std::int32_t month, std::int32_t day) {
   const std::int32_t a = (month - 14) / 12;
   const std::int32_t years = CheckedAdd(CheckedAdd(year, 4800), a);
-  // Kept: January and February of -4800 one day late, because the formula truncates toward zero and dates
-  // were computed by it
+  // Kept: January and February of -4800 are one day late: the formula truncates toward zero. Test:
+  // YmdToJulianDate.JanuaryAndFebruaryOfMinus4800AreOneDayLate
   const std::int32_t days_of_years = CheckedMultiply(1461, years) / 4;
   const std::int32_t days_of_months = 367 * (month - 2 - 12 * a) / 12;
   const std::int32_t days_of_centuries = 3 * ((years + 100) / 100) / 4;

@@ -16,6 +16,7 @@ using Block = std::uint64_t __attribute__((vector_size(16)));
 constexpr std::size_t kBlock = sizeof(Block);
 constexpr std::size_t kLine = 64;  // of the cache: the less that is loaded across two, the better
 
+// Untested: runs at compile time only.
 constexpr std::size_t RoundedUp(std::size_t count) { return (count + kBlock - 1) / kBlock * kBlock; }
 
 // What a window leaves of a text has at least so many bytes, and fewer than a block more.

@@ -11,6 +11,7 @@ template <std::size_t count>
 using Crc32Slices = std::array<std::array<std::uint32_t, 256>, count>;
 
 /// Table k carries a register over its lowest byte, which `first` + k more bytes follow.
+// Untested: runs at compile time only.
 template <std::size_t first, std::size_t count>
 constexpr Crc32Slices<count> MakeCrc32Slices() {
   constexpr std::uint32_t polynomial = 0xEDB88320;

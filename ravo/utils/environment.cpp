@@ -28,8 +28,8 @@ std::u16string RegReadStrDefW(RegistryRoot root, std::u16string_view key, std::u
   const auto open = CurrentMachine().OpenKey(root, key);
   auto text = open ? open->StoredText(value) : std::nullopt;
   if (!text) return std::u16string(fallback);
-  // Kept: the last unit of a registry text cut off unseen, because it is its terminating zero as the system
-  // stores texts, and the length is worked out before the text is read
+  // Kept: the last unit of the stored text is cut off unseen; it is the terminating zero of a text that the
+  // system stored. Test: RegReadStrDef.CutsTheLastUnitOffWhateverItIs
   if (!text->empty()) text->pop_back();
   return std::move(*text);
 }

@@ -95,7 +95,8 @@ void TMT19937::init_by_array(std::span<const std::uint32_t> keys) {
 void TMT19937::init_by_StrA(std::string_view seed) {
   if (seed.empty()) ThrowNoKeys();
   const std::span keys(reinterpret_cast<const unsigned char*>(seed.data()), seed.size());
-  // Kept: one step more than its bytes for a long seed text, because stored sequences were seeded so
+  // Kept: a seed of 624 bytes or more gets one step more than it has bytes. Test:
+  // InitByStrA.GetsOneStepMoreFrom624BytesOn
   SeedByKeys(keys, std::max<std::size_t>(kWords, seed.size() + 1));
 }
 
@@ -114,16 +115,16 @@ void TMT19937::Regenerate() noexcept {
 }
 
 std::int64_t TMT19937::genrand_int63() {
-  // Kept: a range error for a low half with its highest bit set, because halves are signed and callers know
-  // it
+  // Kept: a low half with its highest bit set throws `RangeError`. Test:
+  // GenrandInt63.RaisesWhereTheFirstDrawHasBit31
   const auto low = CheckedCast<std::int32_t>(genrand_int32());
   const std::int64_t high = genrand_int31();
   return high << 32 | low;
 }
 
 std::int64_t TMT19937::genrand_int64() {
-  // Kept: a range error for either half with its highest bit set, because halves are signed and callers know
-  // it
+  // Kept: either half with its highest bit set throws `RangeError`. Test:
+  // GenrandInt64.RaisesWhereEitherDrawHasBit31
   const auto low = CheckedCast<std::int32_t>(genrand_int32());
   const std::int64_t high = CheckedCast<std::int32_t>(genrand_int32());
   return high << 32 | low;

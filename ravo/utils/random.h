@@ -65,7 +65,7 @@ class RAVO_API TMT19937 {
   static constexpr std::uint32_t kNeverSeeded = kWords + 1;
 
   template <class Key>
-  void SeedByKeys(std::span<const Key> keys, std::size_t steps) noexcept;
+  RAVO_LOCAL void SeedByKeys(std::span<const Key> keys, std::size_t steps) noexcept;
   void Regenerate() noexcept;
 
   std::array<std::uint32_t, kWords> state_;

@@ -27,6 +27,7 @@ void StartDISystemCompat() noexcept {
 
 void StopDISystemCompat() noexcept {
   const platform::ModuleHandle library = std::exchange(DISystemCompat::system_library, nullptr);
+  // Untested: nothing in this library loads such a module.
   if (library) platform::CurrentMachine().UnloadResources(library);
 }
 

@@ -43,6 +43,7 @@ bool ReadAll(FileHandle file, std::int64_t size, std::basic_string<Char>& text) 
     if (used == room.size()) {
       std::byte behind{};
       const auto more = files.Read(file, std::span(&behind, 1));
+      // Untested: the file would have to fail at exactly its size.
       if (!more) return false;
       if (*more == 0) break;
       room = Room(text, GrownFrom(static_cast<std::int64_t>(used)));

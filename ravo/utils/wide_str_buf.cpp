@@ -23,6 +23,7 @@ std::uint32_t Grown(std::uint32_t capacity, std::size_t count) {
 std::size_t BlockSize(std::uint32_t capacity) {
   const std::uint64_t step = std::max(std::bit_floor(capacity) / 4, std::uint32_t{1});
   const std::uint64_t bytes = (capacity + step - 1) / step * step * sizeof(char16_t);
+  // Untested: needs 32-bit addresses.
   if (bytes > std::numeric_limits<std::ptrdiff_t>::max()) throw OverflowError(u"Integer overflow");
   return static_cast<std::size_t>(bytes);
 }

@@ -29,7 +29,8 @@ class RAVO_API TWideStrBuf {
 
   /// Grows also where the text would fill the capacity to the last unit.
   void AddStr(std::u16string_view text) {
-    // Kept: a growth where a text just fits, because the stated capacities count on it
+    // Kept: the buffer grows also if the text just fits. Test:
+    // TWideStrBuf.AddStrGrowsAlsoWhereTheTextJustFits
     if (Free() <= text.size()) GrowBuffer(text.size());
     Append(text.data(), text.size());
   }

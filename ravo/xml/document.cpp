@@ -16,9 +16,10 @@ bool BeginsWithMark(std::string_view bytes) {
 }
 
 // Whether what the stream gives next looks like a document.
-// Kept: a declaration in single quotes is passed over, because only the one form has ever been looked for.
-// Kept: a declaration behind a byte-order mark is passed over, because the mark would become text of the
-// root.
+// Kept: a stream whose declaration has single quotes is ignored without an error. Test:
+// LoadFromStream.PassesOverSingleQuotesInSilence
+// Kept: a stream with a byte-order mark is ignored without an error, unless it has "<rss" near its start.
+// Test: LoadFromStream.PassesOverAMarkOfByteOrderInSilence
 bool LooksLikeXml(ByteStream& stream) {
   std::string beginning(kLookedAt, '\0');
   std::size_t size = 0;
@@ -87,9 +88,10 @@ void TECXMLParser::SaveToFile(std::u16string_view FileName) {
   SaveToStream(stream, SameAsciiText(ExtensionOf(FileName), u".xsl"));
 }
 
-// Kept: a blank stands before the end of the declaration and none before that of the style sheet, because
-// documents are compared as they were always written.
-// Kept: the encoding is a name alone, because the bytes are those of the 8-bit code page whatever it says.
+// Kept: a blank precedes the end of the declaration, and none that of the style sheet. Test:
+// SaveToStream.BlankBeforeTheEndOfTheDeclarationAlone
+// Kept: the encoding is only a name: the bytes are in the 8-bit code page. Test:
+// SaveToStream.WritesTheCodePageWhateverTheEncodingIsCalled
 void TECXMLParser::SaveToStream(ByteStream& Stream, bool XSL) {
   if (!Allowed(FBeforeSave, *this)) return;
   std::u16string header = u"<?xml version=\"1.0\" encoding=\"" + FEncoding + u"\" ?>\r\n";

@@ -24,6 +24,7 @@ TXMLItem::~TXMLItem() {
 
 void* TXMLItem::operator new(std::size_t size) { return ::operator new(size); }
 
+// Untested: compilers want it beside `operator new`; the constructor of an item cannot throw.
 void TXMLItem::operator delete(void* memory) noexcept { ::operator delete(memory); }
 
 void TXMLItem::operator delete(TXMLItem* item, std::destroying_delete_t) {
@@ -91,7 +92,7 @@ std::int32_t TXMLItem::IndexOfName(std::u16string_view ItemName, std::int32_t In
   return -1;
 }
 
-// Kept: a look-up of a missing name adds an item, because callers read and build documents by the same calls.
+// Kept: a look-up of a missing name adds an item with that name. Test: GetNamedItem.AddsWhatIsMissing
 TXMLItem* TXMLItem::GetNamedItem(std::u16string_view Name) {
   const std::int32_t index = IndexOfName(Name, 0);
   if (index >= 0) return SubItems(index);
@@ -140,7 +141,8 @@ void TXMLItem::SetParams(const StringList& Value) {
   DoChanged();
 }
 
-// Kept: an item given its own parent once more is listed twice, because the list takes what it is given.
+// Kept: an item given its own parent again is listed twice; it is freed once. Test:
+// SetParent.OfTheSameParentListsTheItemTwice
 void TXMLItem::SetParent(TXMLItem* Value) {
   for (const TXMLItem* above = Value; above != nullptr; above = above->FParent) {
     if (above == this) throw Error(u"An item cannot stand below itself");

@@ -28,6 +28,7 @@ void ItemAccess::TellOutside(Item& item) {
 }
 
 void ItemAccess::Append(Item& parent, Item* child) {
+  // Untested: needs 2,147,483,647 children.
   if (parent.children_.Count() >= INT32_MAX) throw RangeError(u"Too many items");
   parent.children_.Append(child);
   if (parent.Has(Item::kArenaBorn)) TellOutside(parent);

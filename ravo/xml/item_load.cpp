@@ -110,7 +110,8 @@ void TakeHeader(ECXMLParser::TECXMLParser* parser, std::u16string_view header) {
   if (const auto name = Quoted(header, u"encoding='", u'\'')) parser->SetEncoding(*name);
 }
 
-// Kept: a CDATA section in small letters keeps its markers, because only the tokenizer ignores their case.
+// Kept: a CDATA section in lower case keeps its markers; only the tokenizer ignores their case. Test:
+// LoadFromStream.CDataInSmallLettersKeepsItsMarkers
 std::string_view TextOfToken(std::string_view token) noexcept {
   constexpr std::string_view kMarker = "<![CDATA[";
   constexpr std::size_t kEnd = 3;

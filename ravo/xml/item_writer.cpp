@@ -124,8 +124,8 @@ class Writer {
     std::uint32_t next;
   };
 
-  // Kept: without line breaks each tag still has the blanks of the first level before it, because only the
-  // level stays as it is.
+  // Kept: without line breaks each tag still has two blanks before it. Test:
+  // SaveToStream.WithoutLineBreaksKeepsTwoBlanksBeforeEachTag
   void Indent(std::int64_t more) {
     const std::int64_t blanks = level_ + more;
     if (blanks > 0) sink_.Blanks(static_cast<std::size_t>(blanks));

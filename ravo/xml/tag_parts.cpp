@@ -74,7 +74,8 @@ std::string_view AttributesOfTag(std::string_view tag) {
   return end > blank ? tag.substr(blank + 1, end - blank - 1) : std::string_view();
 }
 
-// Kept: blanks between single quotes end an attribute, because only double quotes protect them.
+// Kept: blanks between single quotes end an attribute; only double quotes protect them. Test:
+// LoadFromStream.BlanksBetweenSingleQuotesEndAnAttribute
 std::string WithBreaksForBlanks(std::string_view attributes) {
   std::string text;
   bool in_quotes = false;
@@ -101,8 +102,8 @@ std::vector<std::string> Lines(std::string_view text) {
   return lines;
 }
 
-// Kept: a value of two characters keeps its quotes, because an empty quoted value has always been read as the
-// two quotes.
+// Kept: a value of two characters keeps its quotes: an empty value is read as its two quotes. Test:
+// LoadFromStream.AnEmptyValueKeepsItsQuotes
 std::string ValueOf(std::string_view written) {
   constexpr std::size_t kShortestQuoted = 3;
   std::string_view value = TrimmedBytes(written);
@@ -130,7 +131,8 @@ class NamedLines {
     }
   }
 
-  // Kept: the values of a repeated attribute land in its first one, because values are stored by name.
+  // Kept: the values of a repeated attribute go to its first occurrence, where the last one stays; the others
+  // keep theirs as written, with quotes. Test: LoadFromStream.ValuesOfARepeatedAttributeLandInTheFirst
   std::vector<std::string> WithValues() {
     for (std::size_t i = 0; i < lines_.size(); ++i) {
       if (!lines_[i]) continue;

@@ -123,7 +123,7 @@ std::uint8_t TXMLTokenizer::NextToken() {
   return FToken;
 }
 
-// Kept: line feeds inside a token are not counted, because lines are counted where blanks are skipped.
+// Kept: line feeds inside a token do not count in line numbers. Test: TXMLTokenizer.CountsNoLinesInsideTokens
 void TXMLTokenizer::ScanText() {
   char* end = xml::FindEither(FSourcePtr, '<', '\0');
   while (xml::IsBlankByte(end[-1])) --end;
@@ -153,9 +153,12 @@ void TXMLTokenizer::ScanTag() {
   FToken = KindOfTag();
 }
 
-// Kept: a comment ends at its first greater-than sign, because every tag does; what follows is text and tags.
-// Kept: a close tag with a slash at its end stands alone, because the end of a tag is looked at first.
-// Kept: declarations of document types are open tags, because only comments and headers are known by name.
+// Kept: a comment ends at its first ">"; what follows is text and tags. Test:
+// TXMLTokenizer.EndsACommentAtItsFirstGreaterThan
+// Kept: a close tag with a slash at its end is a stand-alone tag: it adds an element. Test:
+// TXMLTokenizer.TakesACloseTagWithASlashAtItsEndAsStandAlone
+// Kept: a document type declaration is an open tag: it makes an element whose name begins with "!". Test:
+// TXMLTokenizer.TakesADocumentTypeAsAnOpenTag
 std::uint8_t TXMLTokenizer::KindOfTag() const {
   if (FTokenPtr[1] == '?' && TokenStarts("<?xml")) return xtHeader;
   if (FTokenPtr[1] == '!' && TokenStarts("<!--")) return xtComment;
@@ -163,8 +166,8 @@ std::uint8_t TXMLTokenizer::KindOfTag() const {
   return FTokenPtr[1] == '/' ? xtCloseTag : xtOpenTag;
 }
 
-// Kept: a CDATA section ends one byte behind its first two closing brackets, because that byte is taken for
-// the ">" unseen; of "]]]>" the ">" is text.
+// Kept: a CDATA section ends one byte after its first "]]", whatever that byte is; of "]]]>" the ">" is text.
+// Test: LoadFromStream.ThirdBracketOfCDataIsSkipped
 void TXMLTokenizer::ScanCData() {
   constexpr std::size_t kBehindBrackets = 2;
   std::size_t done = kCData.size();
@@ -225,7 +228,8 @@ void TXMLTokenizer::GrowBuffer() {
   room_ = doubled;
 }
 
-// Kept: a document of one line is too long for the large tokenizer, because its buffer comes back full.
+// Kept: a document without a line feed is too long for the large tokenizer; the other one loads it. Test:
+// TXMLLargeTokenizer.WantsALineFeed
 TXMLLargeTokenizer::TXMLLargeTokenizer(ByteStream& Stream)
     : TXMLTokenizer(Stream, CheckedCast<std::size_t>(Stream.Size())) {
   if (Stream.Size() == 0) Error(kEmptyStream);

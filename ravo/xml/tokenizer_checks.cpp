@@ -16,11 +16,13 @@ constexpr std::u16string_view kCharExpected = u"'%s' expected";
 constexpr std::u16string_view kSymbolExpected = u"%s expected";
 constexpr std::u16string_view kParseError = u"%s on line %d";
 
+// Untested: the scanner never finds a symbol, so no check gets this far.
 bool IsLetter(char ch) {
   const char lower = xml::LowerByte(ch);
   return (lower >= 'a' && lower <= 'z') || ch == '_';
 }
 
+// Untested: the scanner never finds a symbol, so no check gets this far.
 bool IsLetterOrDigit(char ch) { return IsLetter(ch) || (ch >= '0' && ch <= '9'); }
 
 std::u16string Widened(std::string_view bytes) { return platform::CurrentMachine().FromCodePage(bytes); }
@@ -44,12 +46,14 @@ Extended TXMLTokenizer::TokenFloat() const {
 }
 
 bool TXMLTokenizer::TokenSymbolIs(std::string_view S) const {
+  // Untested: the scanner never finds a symbol, so no check gets this far.
   return FToken == xtSymbol && SameAsciiText(Widened(TokenString()), Widened(S));
 }
 
 std::string TXMLTokenizer::TokenComponentIdent() {
   CheckToken(xtSymbol);
   char* at = FSourcePtr;
+  // Untested: the scanner never finds a symbol, so no check gets this far.
   while (*at == '.') {
     if (!IsLetter(*++at)) Error(kIdentifierExpected);
     while (IsLetterOrDigit(*at)) ++at;
@@ -62,20 +66,20 @@ void TXMLTokenizer::CheckToken(std::uint8_t T) const {
   if (FToken == T) return;
   if (T == xtSymbol) Error(kIdentifierExpected);
   if (T == xtInteger || T == xtFloat) Error(kNumberExpected);
-  // Kept: a missing string is reported by the number of its kind, because callers have never seen other words
-  // for it.
+  // Kept: a missing string is reported by the number of its kind. Test: CheckToken.NamesAStringByItsNumber
   const std::array<MessageArgument, 1> kind = {std::u16string(1, char16_t{T})};
   ErrorFmt(kCharExpected, kind);
 }
 
 void TXMLTokenizer::CheckTokenSymbol(std::string_view S) const {
+  // Untested: the scanner never finds a symbol, so no check gets this far.
   if (TokenSymbolIs(S)) return;
   const std::array<MessageArgument, 1> symbol = {Widened(S)};
   ErrorFmt(kSymbolExpected, symbol);
 }
 
-// Kept: hexadecimal text is skipped and not decoded, because the member only keeps its place in the
-// interface.
+// Kept: hexadecimal text is skipped and not decoded: the member only keeps its place in the interface. Test:
+// HexToBinary.SkipsAndDecodesNothing
 void TXMLTokenizer::HexToBinary(ByteStream& /*Stream*/) {
   SkipBlanks();
   NextToken();

@@ -76,12 +76,13 @@ void TreeLoader::TakeOpenTag() {
   ItemAccess::SetTag(*item, tokenizer_.TokenBytes(), *arena_);
 }
 
-// Kept: a stand-alone tag is a child even where it comes first, because only an open tag names the root.
+// Kept: a stand-alone tag is a child even if it comes first; only an open tag names the root. Test:
+// LoadFromStream.AStandAloneTagIsAChildEvenFirst
 void TreeLoader::TakeStandAloneTag() {
   ItemAccess::SetTag(*NewChild(Current()), tokenizer_.TokenBytes(), *arena_);
 }
 
-// Kept: any close tag closes the innermost element, because its name is never looked at.
+// Kept: any close tag closes the innermost element, whatever its name. Test: LoadFromStream.AnyCloseTagCloses
 void TreeLoader::TakeCloseTag() {
   Item* const above = Current().item->Parent();
   CloseFrame();
@@ -142,8 +143,8 @@ void TreeLoader::TakeText() {
   ItemAccess::SetTextBytes(*frame.item, Unescaped(text), *arena_);
 }
 
-// Kept: text that is joined by more text is unescaped once more, because documents hold what was escaped that
-// often.
+// Kept: text that is joined by more text is unescaped again. Test:
+// LoadFromStream.JoinedTextIsUnescapedOnceMore
 void TreeLoader::JoinText(Frame& frame, std::string_view text) {
   if (const auto* wide = ItemAccess::WideText(*frame.item)) {
     const std::u16string joined = *wide + u"\r\n" + arena_->Page().Widened(text);

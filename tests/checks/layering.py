@@ -5,8 +5,10 @@ import pathlib
 import re
 import sys
 
-from source_tree import code_files, includes, main, read, without_comments
+from source_tree import Planting, code_files, includes, main, read, without_comments
 
+# File -> [(line, file of this tree that it includes)].
+Graph = dict[str, list[tuple[int, str]]]
 ANYTHING = None
 PUBLIC = "ravo/*.h"
 HOST_HEADER = "ravo/package.h"
@@ -24,7 +26,7 @@ UNSAID = {
 }
 
 # The arrows. docs/architecture.md shows the same table to people; check_document holds the two together.
-MAY_USE = {
+MAY_USE: dict[str, set[str] | None] = {
     PUBLIC: ANYTHING,
     HOST_HEADER: {"runtime", "frame"},
     EXPORT_HEADER: set(),
@@ -54,7 +56,7 @@ SYSTEM_SOURCE = re.compile(r"^(ravo/platform/|tests/platform/|tests/support/|tes
 C_STANDARD = {"stddef.h", "stdint.h"}
 
 
-def room_of(name):
+def room_of(name: str) -> str | None:
     """The room of a file, named by its path from the root; None outside every room."""
     if name in (HOST_HEADER, EXPORT_HEADER, UTILS_MESSAGES):
         return name
@@ -67,7 +69,7 @@ def room_of(name):
     return max(rooms, key=len) if rooms else None
 
 
-def target_of(root, source, quote, name):
+def target_of(root: pathlib.Path, source: pathlib.Path, quote: str, name: str) -> str | None:
     """The file of this tree that an #include line names; None for anything else."""
     places = [root / name] if quote == "<" else [source.parent / name, root / name]
     for place in places:
@@ -76,16 +78,15 @@ def target_of(root, source, quote, name):
     return None
 
 
-def allowed(source_room, target_room):
-    if source_room == target_room or MAY_USE[source_room] is ANYTHING:
+def allowed(source_room: str, target_room: str) -> bool:
+    uses = MAY_USE[source_room]
+    if source_room == target_room or uses is ANYTHING:
         return True
     short = target_room.removeprefix("ravo/") if target_room != PUBLIC else PUBLIC
-    uses = MAY_USE[source_room]
     return short in uses or short.split("/")[0] in uses or (target_room == HOST_HEADER and PUBLIC in uses)
 
 
-def include_graph(root):
-    """File -> [(line, file of this tree)], for everything that is scanned."""
+def include_graph(root: pathlib.Path) -> Graph:
     return {
         path.relative_to(root).as_posix(): [
             (line, target)
@@ -109,7 +110,8 @@ def check_arrows(graph):
 
 
 def check_circles(graph):
-    done, path = set(), []
+    done = set()
+    path: list[str] = []
 
     def walk(name):
         if name in path:
@@ -138,7 +140,7 @@ def check_system_names(root):
                 yield f"{name}:{number}: <{header}> belongs to ravo/platform alone"
 
 
-def public_files(graph):
+def public_files(graph: Graph) -> list[str]:
     """What a program can reach from the public face, in a fixed order."""
     reached, waiting = set(), [name for name in graph if room_of(name) in (PUBLIC, HOST_HEADER)]
     while waiting:
@@ -227,7 +229,7 @@ def _tree(files, changed=None):
     return {**base, **files}
 
 
-PLANTINGS = [
+PLANTINGS: list[Planting] = [
     ("a good tree", _tree({"ravo/common/c.cpp": "#include <ravo/runtime/a.h>\n#include <vector>\n"}), None),
     ("an upward arrow", _tree({"ravo/runtime/c.h": "\n#include <ravo/common/b.h>\n"}), "runtime/c.h:2: ravo/runtime may not"),
     ("a quoted upward arrow", _tree({"ravo/runtime/c.h": '#include "../common/b.h"\n'}), "ravo/runtime may not"),

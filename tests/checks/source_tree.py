@@ -10,7 +10,11 @@ import pathlib
 import re
 import sys
 import tempfile
+from collections.abc import Callable, Iterable, Iterator
+from typing import NoReturn
 
+Check = Callable[[pathlib.Path], list[str]]
+Planting = tuple[str, dict[str, str], str | None]
 CODE = {".h", ".cpp", ".c", ".inc"}
 
 _TOKEN = re.compile(
@@ -20,20 +24,20 @@ _TOKEN = re.compile(
 _INCLUDE = re.compile(r'^[ \t]*#[ \t]*include[ \t]*([<"])([^>"\n]+)[>"]', re.MULTILINE)
 
 
-def code_files(root, *folders):
+def code_files(root: pathlib.Path, *folders: str) -> Iterator[pathlib.Path]:
     """The sources below the given folders of a tree, in a fixed order."""
     for folder in folders:
         yield from sorted(p for p in (root / folder).rglob("*") if p.suffix in CODE and p.is_file())
 
 
-def read(path):
+def read(path: pathlib.Path) -> str:
     return path.read_text(encoding="utf-8")
 
 
-def without_comments(text, keep_strings=False):
+def without_comments(text: str, keep_strings: bool = False) -> str:
     """Code with comments, and unless they are kept literals, made blank; lines keep their numbers."""
 
-    def blank(match):
+    def blank(match: re.Match[str]) -> str:
         token = match.group(0)
         if token[0] != "/":
             return token if keep_strings else '""'
@@ -42,21 +46,22 @@ def without_comments(text, keep_strings=False):
     return _TOKEN.sub(blank, text)
 
 
-def includes(path):
+def includes(path: pathlib.Path) -> Iterator[tuple[int, str, str]]:
     """(line number, "<" or the quote, name) of every #include line of a file that is no comment."""
     text = without_comments(read(path), keep_strings=True)
     for match in _INCLUDE.finditer(text):
         yield text.count("\n", 0, match.start()) + 1, match.group(1), match.group(2)
 
 
-def plant(root, files):
+def plant(root: pathlib.Path, files: dict[str, str]) -> None:
     for name, text in files.items():
         path = root / name
         path.parent.mkdir(parents=True, exist_ok=True)
         path.write_text(text, encoding="utf-8")
 
 
-def _failures_of(check, plantings):
+def failures_of(check: Check, plantings: list[Planting]) -> Iterator[str]:
+    """What the check does not find, or finds without cause, in the planted trees."""
     for title, files, wanted in plantings:
         with tempfile.TemporaryDirectory() as folder:
             root = pathlib.Path(folder)
@@ -68,13 +73,18 @@ def _failures_of(check, plantings):
             yield f"self-test '{title}': missed '{wanted}', found only {findings}"
 
 
-def main(check, plantings):
+def finish(findings: Iterable[str]) -> NoReturn:
+    """Prints the findings and ends; the status is 1 if there is one."""
+    found = list(findings)
+    print("\n".join(found), end="\n" if found else "")
+    sys.exit(1 if found else 0)
+
+
+def main(check: Check, plantings: list[Planting]) -> NoReturn:
     """The command line of every check: the tree's root, or --self-test. Exits 1 on findings."""
     parser = argparse.ArgumentParser()
     parser.add_argument("root", nargs="?", type=pathlib.Path, default=pathlib.Path(__file__).parents[2])
+    parser.add_argument("--check", action="store_true", help="look for findings; what happens without options too")
     parser.add_argument("--self-test", action="store_true", help="prove that planted defects are found")
     arguments = parser.parse_args()
-    findings = list(_failures_of(check, plantings)) if arguments.self_test else check(arguments.root.resolve())
-    for finding in findings:
-        print(finding)
-    sys.exit(1 if findings else 0)
+    finish(failures_of(check, plantings) if arguments.self_test else check(arguments.root.resolve()))

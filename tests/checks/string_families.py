@@ -14,7 +14,7 @@ DECLARATION = re.compile(r"\bRAVO_(?:INLINE_)?API\s+[\w:]+\s+(\w+)\s*\(")
 
 
 def declared(root):
-    names = {}
+    names: dict[str, str] = {}
     for path in code_files(root, *HEADERS):
         if path.suffix == ".h":
             for name in DECLARATION.findall(without_comments(read(path))):

@@ -35,7 +35,7 @@ def bottom(row):
 def make_form(rows):
     """A form as a form designer makes it: a text field for each text, a box with the state 1 or the choices 1 to 4
     for each number."""
-    from reportlab.pdfgen import canvas
+    from reportlab.pdfgen import canvas  # type: ignore[import]
 
     made = io.BytesIO()
     page = canvas.Canvas(made, pagesize=(595, PAGE_HEIGHT), pageCompression=0)
@@ -73,6 +73,7 @@ def drawn_rows(pdf, folder, count):
     run(["pdftoppm", "-r", 72 * DOTS_PER_POINT, "-gray", "-singlefile", pdf, folder / "page"])
     image = (folder / "page.pgm").read_bytes()
     header = re.match(rb"P5\s+(\d+)\s+(\d+)\s+255\s", image)
+    assert header, image[:20]
     width, height = int(header[1]), int(header[2])
     dots = image[header.end():]
     result = []

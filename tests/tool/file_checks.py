@@ -26,7 +26,8 @@ def outline_of_text(report):
 
 def check_report_json(program):
     """The JSON of the report has every line of its text: at its depth, in its order."""
-    for layer in ([], ["--business"]):
+    layers: tuple[list[str], ...] = ([], ["--business"])
+    for layer in layers:
         text = list(outline_of_text(program.run(["report", *layer]).out))
         nested = list(outline(json.loads(program.run(["report", "--json", *layer]).out)))
         if text != nested:

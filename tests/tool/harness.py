@@ -19,11 +19,11 @@ EMULATOR_FALL = re.compile(r"^wine: Unhandled page fault .* starting debugger\.\
 class Row:
     """A command line and what must come of it. Texts are looked for; `exact` is the whole standard output."""
 
-    arguments: list
+    arguments: list[str]
     status: int = YES
-    out: tuple = ()
+    out: tuple[str, ...] = ()
     exact: Optional[str] = None
-    err: tuple = ()
+    err: tuple[str, ...] = ()
     # Gives a remark about what is wrong, or something false.
     holds: Optional[Callable[[str], object]] = None
     # A no that is said on standard output alone.

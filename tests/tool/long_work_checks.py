@@ -87,6 +87,7 @@ def check_interruption(program):
         target.write_bytes(b"old")
         command = program.command + ["convert", "-f", "1250", "-t", "utf-8", "-o", target.name]
         with subprocess.Popen(command, cwd=program.folder, stdin=subprocess.PIPE, stderr=subprocess.PIPE) as running:
+            assert running.stdin
             running.stdin.write(piece)
             running.stdin.flush()
             # In the middle of it: some of the text is in a file, and more is to come.

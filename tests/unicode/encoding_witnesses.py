@@ -154,7 +154,7 @@ def gb_18030(out):
         text = key.decode("gb18030", "replace")
         return text if len(text) == 1 and ord(text) < 0x10000 else "\ufffd"
 
-    rows = {}
+    rows: dict[bytes, list[bytes]] = {}
     for key in gb_keys():
         rows.setdefault((key[:1] if len(key) == 2 else key[:2]), []).append(key)
     for keys in rows.values():

@@ -52,15 +52,17 @@ class Data:
     """What the text files say of each code unit."""
 
     def __init__(self):
-        self.version = re.search(r"-([\d.]+)\.txt", (SOURCE / "CaseFolding.txt").read_text(encoding="utf-8"))[1]
+        version = re.search(r"-([\d.]+)\.txt", (SOURCE / "CaseFolding.txt").read_text(encoding="utf-8"))
+        assert version, "CaseFolding.txt names no version"
+        self.version = version[1]
         self.category, self.combining_class = {}, {}
         self.upper, self.lower, self.title = {}, {}, {}
         self.mapping = {}  # code point -> (is compatible, code points), one step
-        first = None
+        first = 0
         for row in fields("UnicodeData.txt"):
             code = int(row[0], 16)
             start = first if row[1].endswith(", Last>") else code
-            first = code if row[1].endswith(", First>") else None
+            first = code
             for unit in range(start, code + 1):
                 self.read(unit, row)
         self.fold = {
@@ -92,7 +94,7 @@ class Data:
         codes = self.expanded(code, compatible)
         if codes == [code]:
             return None
-        ordered = []
+        ordered: list[int] = []
         for one in codes:
             at = len(ordered)
             weight = self.combining_class.get(one, 0)
@@ -119,7 +121,7 @@ def trees(data):
 
 
 def ranges_of(units):
-    ranges = []
+    ranges: list[list[int]] = []
     for unit in sorted(units):
         if ranges and unit == ranges[-1][1] + 1:
             ranges[-1][1] = unit
@@ -130,7 +132,7 @@ def ranges_of(units):
 
 def clusters_of(ranges):
     """Neighbours that lie within one constant, together; a longer range alone."""
-    clusters = []
+    clusters: list[list[list[int]]] = []
     for one in ranges:
         if clusters and one[1] - clusters[-1][0][0] < SPAN and clusters[-1][0][0] >= LATIN_END <= one[0]:
             clusters[-1].append(one)
@@ -157,7 +159,7 @@ def leaf(cluster, low, high):
     return f"return Within(c, 0x{start:04X}, 0x{end:04X});"
 
 
-def weight(low, high):
+def weight(low: int, high: int) -> int:
     """How often a code unit from `low` to `high` is asked about: all alike, but half of all text is Latin."""
     latin = max(0, min(high, LATIN_END - 1) - low + 1)
     return high - low + 1 + latin * (UNITS // LATIN_END)
@@ -285,7 +287,7 @@ def head(data, what):
 def document(data, functions, tables, pools):
     lines = [
         "# Character tables", "",
-        f"Figures of the character database (`ravo/unicode/characters/`), written by `tools/generate/characters.py` from",
+        "Figures of the character database (`ravo/unicode/characters/`), written by `tools/generate/characters.py` from",
         f"Unicode {data.version}. Only the code units of UTF-16 are described; unassigned ones are of no category.", "",
         "## Decision trees", "",
         "| function | code units | ranges | leaves |", "|---|---|---|---|",
@@ -309,7 +311,10 @@ def table_remarks(tables):
 
 def files():
     data = Data()
-    functions, mappings, decompositions, pools = [], [], [], []
+    functions: list[tuple[str, int, int, int]] = []
+    mappings: list[tuple[str, int, int, int]] = []
+    decompositions: list[tuple[str, int, int, int]] = []
+    pools: list[tuple[str, int, int, int, int]] = []
     tree_lines = render_trees(data, functions)
     mapping_lines = render_mappings(data, mappings)
     decomposition_lines = render_decompositions(data, decompositions, pools)

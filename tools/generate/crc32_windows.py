@@ -57,7 +57,7 @@ def find(count, nearest):
     """The first `count` distances in the order of the farthest one."""
     half = count // 2
     power = []
-    sums = {}  # of `half` distances, with the set that reaches least far
+    sums: dict[int, tuple[int, ...]] = {}  # of `half` distances, with the set that reaches least far
     for farthest, value in enumerate(powers()):
         power.append(value)
         if farthest < nearest:

@@ -19,7 +19,7 @@ for my $key (@keys) {
 
 
 def glibc(name, _keys):
-    found = {}
+    found: dict[bytes, str] = {}
     with gzip.open(CHARMAPS / f"{name}.gz", "rt", encoding="latin-1") as lines:
         for line in lines:
             # Ranges stand for characters beyond U+FFFF alone.

@@ -116,7 +116,8 @@ class Table:
 
     def shared(self):
         """(character, bytes, why the first of them is written) of every character that several bytes mean."""
-        variants, bytes_of = self.variants(), {}
+        variants = self.variants()
+        bytes_of: dict[int, list[bytes]] = {}
         for key in sorted(self.keys, key=lambda key: (key in variants, key)):
             bytes_of.setdefault(self.chosen[key], []).append(key)
         for unit, keys in sorted(bytes_of.items()):
@@ -168,7 +169,7 @@ def quad_key(linear):
 
 def ranges(units):
     """(number, character) wherever the characters do not go on by one; unassigned numbers stay U+FFFD."""
-    before = None
+    before: int | None = None
     for number, unit in enumerate(units):
         goes_on = before is not None and unit == (before if before == UNASSIGNED else before + 1)
         if not goes_on:

@@ -90,7 +90,7 @@ def shared(tables):
     yield ("\n## Several bytes for one character\n\nAll are read; the first of a row is written.\n\n"
            "| name | characters | bytes | why |\n|---|---|---|---|\n")
     for table in tables:
-        groups = {}
+        groups: dict[str, list[tuple[str, str]]] = {}
         for char, keys, why in table.shared():
             groups.setdefault(why, []).append((char, " ".join(key.hex().upper() for key in keys)))
         for why, rows in groups.items():
@@ -103,7 +103,7 @@ def differences(tables):
     yield ("\n## Where sources differ\n\nEach row has one choice; several bytes stand together where all is alike. "
            "\"None\" means that the source assigns nothing.\n\n| name | bytes | sources | chosen | why |\n|---|---|---|---|---|\n")
     for table in tables:
-        groups = {}
+        groups: dict[tuple[str, str], list[tuple[bytes, list[str], str]]] = {}
         for key, texts, chosen in table.differences():
             groups.setdefault(kind(key, texts, chosen, table), []).append((key, texts, chosen))
         for (_, why), rows in groups.items():

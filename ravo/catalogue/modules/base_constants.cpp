@@ -15,8 +15,8 @@ struct CachedFields {
 // The first row of a name counts.
 constexpr CachedFields kCachedFields[] = {
     {u"Mena", u"STAT_UID"},
-    // Kept: the second row of "Mena", because the suite's list has it; the first one hides it from every
-    // look-up.
+    // Kept: no look-up finds the second row of "Mena": the first one hides it. Test:
+    // GetBaseTableCachedFields.AnswersMenaWithItsFirstRow
     {u"Mena", u"ZADAT_FIRMU,SKUPINA_DPH_UID"},
     {u"Doklad", u"PZ,ZADAT_PAR_ZNAK,ZADAT_DOKLAD2,DOKLAD_POSTFIX,MENA_UID"},
     {u"SkupinaDPH", u"UCET_DPH_Z,UCET_DPH_S,JED_DAN_DOKLAD"},
@@ -35,8 +35,8 @@ std::u16string GetBaseTableCachedFields(std::u16string_view table) {
   return result;
 }
 
-// Kept: cached fields of an unknown table leave the output as it is, because callers preset it with their own
-// default.
+// Kept: for an unknown table the result keeps the text that the caller passed in. Test:
+// GetBaseTableCachedFields.LeavesTheOutputOfAnUnknownTableAsItIs
 void GetBaseTableCachedFields(std::u16string_view table, std::u16string& result) {
   const auto* row = std::ranges::find(kCachedFields, table, &CachedFields::table);
   if (row != std::end(kCachedFields)) result = row->fields;

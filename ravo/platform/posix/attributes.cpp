@@ -25,6 +25,7 @@ bool IsFolder(const std::string& path) {
 
 std::uint32_t AttributesOf(const std::string& path, bool is_folder) {
   std::uint32_t attributes = is_folder ? kFolderAttribute : kArchiveAttribute;
+  // Untested: root may write everywhere; the test of read-only files skips itself for root.
   if (access(path.c_str(), W_OK) != 0) attributes |= kReadOnlyAttribute;
   if (IsHidden(path)) attributes |= kHiddenAttribute;
   return attributes;

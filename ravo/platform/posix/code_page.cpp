@@ -63,6 +63,7 @@ std::string PosixMachine::ToCodePage(std::u16string_view text) const {
 bool PosixMachine::SameText(std::u16string_view left, std::u16string_view right) const {
   static const locale_t characters = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
   const auto folded = [](char16_t unit) {
+    // Untested: the C library always has the locale C.UTF-8.
     if (unit < kAscii || characters == nullptr) return AsciiLower(unit);
     return static_cast<char16_t>(towlower_l(unit, characters));
   };

@@ -25,6 +25,7 @@ bool IsMarkedRemovable(const std::string& root, std::string_view device) {
 
 std::int64_t SizeOfBlocks(std::uint64_t count, std::uint64_t size) {
   constexpr auto most = static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max());
+  // Untested: needs a disk over eight exbibytes.
   return static_cast<std::int64_t>(size != 0 && count > most / size ? most : count * size);
 }
 
@@ -70,6 +71,7 @@ DriveKind PosixMachine::KindOfDrive(std::u16string_view drive) const {
 std::optional<DiskSpace> PosixMachine::SpaceOfFolder(std::u16string_view folder) const {
   const auto path = HostPath(folder, root_);
   struct statvfs facts {};
+  // Untested: the folder would have to be deleted between two calls.
   if (!path || !IsFolder(*path) || statvfs(path->c_str(), &facts) != 0) return std::nullopt;
   return DiskSpace{SizeOfBlocks(facts.f_blocks, facts.f_frsize), SizeOfBlocks(facts.f_bavail, facts.f_frsize),
                    SizeOfBlocks(facts.f_bfree, facts.f_frsize)};

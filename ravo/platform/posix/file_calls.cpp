@@ -26,6 +26,7 @@ int FlagsOf(FilePurpose purpose) {
     case FilePurpose::DateFolder:
       return always | O_RDONLY | O_DIRECTORY;
   }
+  // Untested: `purpose` is never outside its enumeration.
   return always | O_RDONLY;
 }
 
@@ -50,6 +51,7 @@ bool PosixFileSystem::Close(FileHandle file) const { return close(Descriptor(fil
 
 std::optional<std::int64_t> PosixFileSystem::SizeOf(FileHandle file) const {
   struct stat facts {};
+  // Untested: the call fails only if the system is broken.
   if (fstat(Descriptor(file), &facts) != 0) return std::nullopt;
   return facts.st_size;
 }

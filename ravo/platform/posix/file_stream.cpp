@@ -30,6 +30,7 @@ int FlagsOf(FileMode mode) {
     case FileMode::Create:
       return always | O_RDWR | O_CREAT | O_TRUNC;
   }
+  // Untested: `mode` is never outside its enumeration.
   return always | O_RDONLY;
 }
 
@@ -42,6 +43,7 @@ int FlagsOf(FileMode mode) {
 // The system opens folders for reading, but they have no bytes.
 bool IsFolder(int descriptor) {
   struct stat facts {};
+  // Untested: the call fails only if the system is broken.
   return fstat(descriptor, &facts) == 0 && S_ISDIR(facts.st_mode);
 }
 
@@ -90,6 +92,7 @@ std::size_t WriteAt(FileHandle file, std::int64_t position, std::span<const std:
 
 std::int64_t StreamSize(FileHandle file) {
   struct stat facts {};
+  // Untested: the call fails only if the system is broken.
   if (fstat(Descriptor(file), &facts) != 0) RaiseReadError(errno);
   return facts.st_size;
 }

@@ -25,6 +25,7 @@ bool IsOrdinaryFile(std::u16string_view name) {
 std::optional<FileFacts> PosixMachine::FindFile(std::u16string_view name) const {
   const auto path = FirstFound(HostPath(name, root_).value_or(""));
   struct stat facts {};
+  // Untested: the file would have to be deleted between two calls.
   if (!path || stat(path->c_str(), &facts) != 0) return std::nullopt;
   const bool is_folder = S_ISDIR(facts.st_mode);
   return FileFacts{is_folder ? 0 : std::int64_t{facts.st_size}, LocalDateTime(facts.st_mtim),

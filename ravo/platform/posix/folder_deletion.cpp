@@ -35,6 +35,7 @@ std::optional<std::vector<std::string>> NamesIn(DIR* folder) {
 
 OpenFolder Opened(int folder) {
   OpenFolder open(folder == -1 ? nullptr : fdopendir(folder));
+  // Untested: the C library would have to run out of memory.
   if (!open && folder != -1) close(folder);
   return open;
 }
@@ -49,6 +50,7 @@ struct Identity {
 
 std::optional<Identity> IdentityOf(const OpenFolder& folder) {
   struct stat facts {};
+  // Untested: the call fails only if the system is broken.
   if (fstat(dirfd(folder.get()), &facts) != 0) return std::nullopt;
   return Identity{facts.st_dev, facts.st_ino};
 }
@@ -66,8 +68,10 @@ struct Level {
 enum class Step { Gone, Stays, IsFolder };
 
 Step Unlink(int parent, const char* name) {
+  // Untested: the name would have to be deleted between two calls.
   if (unlinkat(parent, name, 0) == 0 || errno == ENOENT) return Step::Gone;
   // Systems call it one or the other that something is a folder.
+  // Untested: Linux reports EISDIR.
   return errno == EISDIR || errno == EPERM ? Step::IsFolder : Step::Stays;
 }
 
@@ -119,6 +123,7 @@ class Deletion {
     path_.pop_back();
     if (path_.empty()) return true;
     Level& parent = path_.back();
+    // Untested: another program would have to move the folder while it is deleted.
     if (!Reopen(parent, left)) return false;
     Finish(RemoveFolder(parent.Descriptor(), parent.names.back().c_str()));
     return true;
@@ -128,6 +133,7 @@ class Deletion {
     if (level.open) return true;
     level.open = Opened(openat(dirfd(child.get()), "..", kFolderItself));
     // Another program may have moved the child elsewhere.
+    // Untested: another program would have to move the folder while it is deleted.
     return level.open && level.identity && IdentityOf(level.open) == level.identity;
   }
 

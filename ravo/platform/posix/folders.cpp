@@ -32,6 +32,7 @@ std::string FolderBytes(SystemFolder folder) {
     case SystemFolder::CommonDocuments:
       return PublicFolder();
   }
+  // Untested: `folder` is never outside its enumeration.
   return {};
 }
 
@@ -41,6 +42,7 @@ std::string HomeFolder() {
   std::string home = EnvironmentText("HOME");
   if (!home.empty()) return home;
   const auto user = CurrentUser();
+  // Untested: needs an account that the system does not list.
   return user ? user->home : std::string();
 }
 

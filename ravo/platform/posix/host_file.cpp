@@ -16,11 +16,13 @@ std::optional<std::string> ReadHostFile(const std::string& path) {
   std::string text;
   std::array<char, 4096> chunk{};
   // These files have no size to go by.
+  // Untested: the file would have to fail while it is read.
   while (file && text.size() < kMostBytes) {
     file.read(chunk.data(), chunk.size());
     text.append(chunk.data(), static_cast<std::size_t>(file.gcount()));
   }
   // At its end a file has failed, but not badly; one that was never opened is not at its end.
+  // Untested: the file would have to fail while it is read.
   if (file.bad() || (file.fail() && !file.eof())) return std::nullopt;
   return text;
 }

@@ -49,6 +49,7 @@ std::u16string FromThreadCharset(std::string_view bytes) {
   constexpr auto second_unit = static_cast<std::size_t>(-3);
   std::u16string text;
   std::mbstate_t state{};
+  // Untested: locale texts are well-formed UTF-8 without characters past U+FFFF.
   while (!bytes.empty() || !std::mbsinit(&state)) {
     char16_t unit = u'\xFFFD';
     std::size_t count = std::mbrtoc16(&unit, bytes.data(), bytes.size(), &state);
@@ -69,10 +70,12 @@ std::u16string NamedLocale::Text(nl_item item) const {
   return FromThreadCharset(Fact(item));
 }
 
+// Untested: the tests set no locale C.UTF-8.
 bool IsOfNoCountry(std::string_view name) { return name == "C" || name == "POSIX" || name.starts_with("C."); }
 
 void SetNumberFacts(FormatSettings& settings, const NamedLocale& locale) {
   const std::u16string point = locale.Text(RADIXCHAR);
+  // Untested: every locale has a decimal separator.
   if (!point.empty()) settings.decimal_separator = point.front();
   settings.thousands_separator = locale.Text(THOUSEP);
 }
@@ -84,6 +87,7 @@ void SetNames(std::array<std::u16string, Count>& names, const NamedLocale& local
 
 void SetPattern(std::u16string& pattern, const NamedLocale& locale, nl_item item) {
   std::u16string converted = PatternFromLocale(locale.Text(item));
+  // Untested: the installed locales have no pattern that cannot be converted.
   if (!converted.empty()) pattern = std::move(converted);
 }
 
@@ -109,6 +113,7 @@ FormatSettings PosixMachine::Locale() const {
   const auto set = [&](nl_item category_name, const auto& set_facts) {
     const std::string name = environment.Fact(category_name);
     const NamedLocale locale(name);
+    // Untested: needs a locale that the system names and cannot open.
     if (locale && !IsOfNoCountry(name)) set_facts(settings, locale);
   };
   set(NL_LOCALE_NAME(LC_NUMERIC), SetNumberFacts);

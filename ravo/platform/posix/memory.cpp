@@ -23,6 +23,7 @@ std::uint64_t BytesOf(std::string_view text, std::string_view name) {
     const std::string_view figure = TrimmedBytes(line.substr(name.size() + 1));
     std::uint64_t kilobytes = 0;
     const auto result = std::from_chars(figure.data(), figure.data() + figure.size(), kilobytes);
+    // Untested: needs a machine with over 16 exbibytes.
     return result.ec == std::errc::result_out_of_range || kilobytes > most / 1024 ? most : kilobytes * 1024;
   }
   return 0;
@@ -37,7 +38,9 @@ std::uint64_t Rest(std::uint64_t total, std::uint64_t used) { return total - std
 
 std::uint64_t AddressSpace() {
   rlimit limit{};
+  // Untested: the tests run without a limit of the address space.
   const bool is_limited = getrlimit(RLIMIT_AS, &limit) == 0 && limit.rlim_cur != RLIM_INFINITY;
+  // Untested: the tests run without a limit of the address space.
   return is_limited ? std::min<std::uint64_t>(limit.rlim_cur, kUserSpace) : kUserSpace;
 }
 

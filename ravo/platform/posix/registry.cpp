@@ -18,6 +18,7 @@ std::string FirmwareText(const std::string& root, std::string_view name) {
 
 // Both with a blank between them, or the one that there is.
 std::string Pair(const std::string& first, const std::string& second) {
+  // Untested: needs firmware with the second fact and not the first.
   return first.empty() || second.empty() ? first + second : first + " " + second;
 }
 
@@ -31,6 +32,7 @@ std::string SystemName(const std::string& root) {
 
 std::string MachineName() {
   utsname names{};
+  // Untested: the call fails only if the system is broken.
   return uname(&names) == 0 ? names.machine : "";
 }
 

@@ -23,8 +23,10 @@ const ResourceRow* TableOf(ModuleHandle module) {
   link_map* owner = nullptr;
   link_map* asked = nullptr;
   Dl_info facts{};
+  // Untested: the call fails only if the system is broken.
   const bool is_known = table && dlinfo(module, RTLD_DI_LINKMAP, &asked) == 0 &&
                         dladdr1(table, &facts, reinterpret_cast<void**>(&owner), RTLD_DL_LINKMAP) != 0;
+  // Untested: the call fails only if the system is broken.
   return is_known && owner == asked ? static_cast<const ResourceRow*>(table) : nullptr;
 }
 
@@ -54,6 +56,7 @@ namespace {
 
 ModuleHandle AskedForThisModule() noexcept {
   Dl_info facts{};
+  // Untested: the call fails only if the system is broken.
   return dladdr(reinterpret_cast<void*>(&ThisModule), &facts) != 0 ? facts.dli_fbase : nullptr;
 }
 

@@ -36,6 +36,7 @@ const NamedFolder* FolderOf(std::span<const NamedFolder> folders, std::int32_t n
   return at == folders.end() ? nullptr : &*at;
 }
 
+// Untested: needs an account that the system does not list.
 std::string Below(const std::string& home, const char* place) { return home.empty() ? home : home + place; }
 
 std::string FolderUnder(std::int32_t number) {

@@ -30,6 +30,7 @@ std::uint32_t TakeNumber(std::string_view& rest) {
 // Takes up to three numbers off the front.
 SystemNumbers TakeNumbers(std::string_view& release) {
   SystemNumbers numbers;
+  // Untested: the loop ends at the third number.
   for (std::uint32_t* part : {&numbers.major, &numbers.minor, &numbers.build}) {
     if (!StartsWithDigit(release)) break;
     *part = TakeNumber(release);
@@ -61,12 +62,14 @@ std::uint16_t ArchitectureFromMachineName(std::string_view name) {
 
 SystemVersion PosixMachine::Version() const {
   utsname names{};
+  // Untested: the call fails only if the system is broken.
   return uname(&names) == 0 ? VersionFromRelease(names.release) : SystemVersion();
 }
 
 SystemVersion PosixMachine::BasicVersion() const { return Version(); }
 SystemNumbers PosixMachine::VersionNumbers() const noexcept {
   utsname names{};
+  // Untested: the call fails only if the system is broken.
   if (uname(&names) != 0) return {};
   std::string_view release(names.release);
   return TakeNumbers(release);
@@ -74,12 +77,14 @@ SystemNumbers PosixMachine::VersionNumbers() const noexcept {
 
 std::uint16_t PosixMachine::ProcessorArchitecture() const {
   utsname names{};
+  // Untested: the call fails only if the system is broken.
   return uname(&names) == 0 ? ArchitectureFromMachineName(names.machine) : kUnknownArchitecture;
 }
 
 std::u16string PosixMachine::ComputerName() const {
   // Linux allows 64 bytes; a name cut short need not be terminated.
   char name[256] = {};
+  // Untested: the call fails only if the system is broken.
   return gethostname(name, sizeof name - 1) == 0 ? FromUtf8(name) : std::u16string();
 }
 

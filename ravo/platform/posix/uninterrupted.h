@@ -9,6 +9,7 @@ template <class Call>
 auto Uninterrupted(Call call) {
   for (;;) {
     const auto result = call();
+    // Untested: a signal would have to arrive during the call.
     if (result != -1 || errno != EINTR) return result;
   }
 }

@@ -12,6 +12,7 @@ namespace {
 
 constexpr std::size_t kMostRecordBytes = 1 << 20;
 
+// Untested: the fields of an account are never null on Linux.
 std::string TextOrEmpty(const char* text) { return text ? text : ""; }
 
 }  // namespace
@@ -20,10 +21,12 @@ std::optional<User> CurrentUser() {
   std::vector<char> buffer(1024);
   passwd record{};
   passwd* found = nullptr;
+  // Untested: the record of the account fits the first buffer.
   while (getpwuid_r(geteuid(), &record, buffer.data(), buffer.size(), &found) == ERANGE &&
          buffer.size() < kMostRecordBytes) {
     buffer.resize(2 * buffer.size());
   }
+  // Untested: needs an account that the system does not list.
   if (!found) return std::nullopt;
   return User{TextOrEmpty(record.pw_name), std::string(FullNameOf(TextOrEmpty(record.pw_gecos))),
               TextOrEmpty(record.pw_dir)};

@@ -21,6 +21,7 @@ char* BlockOf(const char16_t* text) {
 }  // namespace
 
 char16_t* AllocateWideText(const char16_t* text, std::size_t units) noexcept {
+  // Untested: needs a text of two gigabytes.
   if (units > kMostUnits) return nullptr;
   const auto bytes = static_cast<ByteLength>(units * sizeof(char16_t));
   auto* block = static_cast<char*>(std::malloc(sizeof(ByteLength) + bytes + sizeof(char16_t)));

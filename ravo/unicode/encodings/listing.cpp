@@ -58,6 +58,7 @@ const EncodingRow* FindRow(Test test) {
 }
 
 std::uint32_t NumberOf(std::string_view digits) {
+  // Untested: a name without a letter or digit is refused before.
   if (digits.empty() || digits.size() > 6) return 0;
   std::uint32_t number = 0;
   for (const char ch : digits) {
@@ -77,6 +78,7 @@ std::string_view WithoutCp(std::string_view name) {
 
 using EncodeAlone = bool (*)(SpanTarget& target, char16_t ch);
 
+// Untested: runs at compile time only.
 template <class Codec>
 constexpr EncodeAlone EncodeAloneBy() {
   if constexpr (codecs::HasState<Codec>) {

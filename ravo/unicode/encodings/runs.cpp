@@ -45,6 +45,7 @@ template <const ByteTable& table>
 struct Blocks<SingleByte<table>> {
   static Run Decode(ByteSpan bytes, TextRoom text) {
     if constexpr (!HasAscii(table)) return DecodeSingleByteBlocks(table, bytes, text);
+    // Untested: unreachable in the instances without ASCII.
     return ChosenRunKernel().decode_single_byte(table, bytes, text);
   }
   static Run Encode(TextSpan text, ByteRoom bytes) {
@@ -105,6 +106,7 @@ Run EncodeWith(TextSpan text, ByteRoom bytes) {
   return Alternate(text, bytes, Blocks<Codec>::Encode, singly);
 }
 
+// Untested: runs at compile time only.
 template <class Codec>
 constexpr DecodeRun DecodeBy() {
   if constexpr (codecs::HasState<Codec>)
@@ -113,6 +115,7 @@ constexpr DecodeRun DecodeBy() {
     return DecodeWith<Codec>;
 }
 
+// Untested: runs at compile time only.
 template <class Codec>
 constexpr EncodeRun EncodeBy() {
   if constexpr (codecs::HasState<Codec>)

@@ -39,6 +39,7 @@ class Reversed {
   }
 
  private:
+  // Untested: runs at compile time only.
   static constexpr std::size_t CountPages() {
     std::array<bool, 256> used{};
     for (const char16_t ch : table) used[ch >> 8] = used[ch >> 8] || ch != kReplacement;
@@ -74,6 +75,7 @@ class Reversed {
     std::array<std::uint8_t, 256 * (CountPages() + 1)> pages{};
   };
 
+  // Untested: runs at compile time only.
   static constexpr Stages Make() {
     Stages stages;
     stages.page_of[0] = 256;
@@ -102,6 +104,7 @@ constexpr bool HasAscii(const ByteTable& table) noexcept {
 }
 
 /// Whether no other byte is a character of ASCII, besides.
+// Untested: runs at compile time only.
 constexpr bool KeepsAscii(const ByteTable& table) noexcept {
   for (std::size_t byte = 0x80; byte < table.size(); ++byte) {
     if (table[byte] < 0x80) return false;

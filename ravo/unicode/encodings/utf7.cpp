@@ -12,6 +12,7 @@ constexpr std::string_view kAlways = "'(),-./:? \t\r\n";
 constexpr std::string_view kOptional = "!\"#$%&*;<=>@[]^_`{|}";
 constexpr std::string_view kBase64 = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
 
+// Untested: runs at compile time only.
 constexpr std::size_t Place(char ch) { return static_cast<unsigned char>(ch); }
 
 consteval auto MakeKinds() {

@@ -29,7 +29,8 @@ struct Utf8 {
       target.WriteByte(static_cast<std::uint8_t>(0xC0 | ch >> 6));
       target.WriteByte(Continuation(ch));
     } else {
-      // Kept: surrogates as three bytes each, because the library knows no character beyond a unit of UTF-16
+      // Kept: a surrogate is written as three bytes, because the library has no code point past U+FFFF. Test:
+      // WriteUtf8.SurrogatesAsThreeBytesEach
       target.WriteByte(static_cast<std::uint8_t>(0xE0 | ch >> 12));
       target.WriteByte(Continuation(static_cast<char16_t>(ch >> 6)));
       target.WriteByte(Continuation(ch));
@@ -62,8 +63,8 @@ struct Utf8 {
       source.SkipByte();
       value = value << 6 | (byte & 0x3F);
     }
-    // Kept: a sequence of four to six bytes as one U+FFFD, because the library knows no character beyond a
-    // unit of UTF-16
+    // Kept: a sequence of four to six bytes is read as one U+FFFD, because the library has no code point past
+    // U+FFFF. Test: ReadUtf8.FourBytesAreOneReplacement
     const bool fits = count == 1 || count == 2;
     return fits && value >= kLeast[static_cast<std::size_t>(count)] ? static_cast<char16_t>(value)
                                                                     : kReplacement;

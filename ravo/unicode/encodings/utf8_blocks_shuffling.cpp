@@ -18,6 +18,7 @@ constexpr std::uint8_t kNothing = 0x80;
 using Shuffle = std::array<std::uint8_t, kBlock>;
 
 // Moves those of eight units to the front whose bit is set.
+// Untested: runs at compile time only.
 constexpr Shuffle KeepUnits(unsigned mask) {
   Shuffle shuffle{};
   shuffle.fill(kNothing);
@@ -31,6 +32,7 @@ constexpr Shuffle KeepUnits(unsigned mask) {
 }
 
 // Of eight pairs of bytes, leaves out the second one where the bit is set.
+// Untested: runs at compile time only.
 constexpr Shuffle KeepFirstBytes(unsigned mask) {
   Shuffle shuffle{};
   shuffle.fill(kNothing);
@@ -42,6 +44,7 @@ constexpr Shuffle KeepFirstBytes(unsigned mask) {
   return shuffle;
 }
 
+// Untested: runs at compile time only.
 template <Shuffle (*make)(unsigned)>
 constexpr auto MakeShuffles() {
   std::array<Shuffle, 256> shuffles{};

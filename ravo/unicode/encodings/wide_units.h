@@ -33,10 +33,10 @@ struct Utf16 {
   static bool Decode(Source& source, char16_t& ch) {
     if (!Order::Next(source, ch)) return false;
     if (!IsSurrogate(ch)) return true;
-    // Kept: a low surrogate ends the data, because a text that begins in the middle of a pair is not read on
+    // Kept: a low surrogate ends the data. Test: ReadUtf16.LowSurrogateEndsTheData
     if (ch >= 0xDC00) return false;
-    // Kept: a high surrogate takes the next two bytes with it, because the library knows no character beyond
-    // a unit of UTF-16: a pair is one U+FFFD
+    // Kept: a high surrogate takes the next two bytes with it: a pair is one U+FFFD, because the library has
+    // no code point past U+FFFF. Test: ReadUtf16.SurrogatePairIsOneReplacement
     char16_t second = 0;
     static_cast<void>(Order::Next(source, second));
     ch = kReplacement;
@@ -83,6 +83,7 @@ struct Utf32 {
 
   template <class Target>
   static bool Encode(Target& target, char16_t ch) {
+    // Untested: `Ucs4` refuses no character.
     return !IsSurrogate(ch) && Ucs4<Order>::Encode(target, ch);
   }
 };

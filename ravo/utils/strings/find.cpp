@@ -40,11 +40,13 @@ class Wanted {
 template <class Fold>
 std::size_t PassOverByKernel(const char* text, const char* last_text, std::size_t places,
                              const char (&ends)[2]) {
+  // Untested: `kIsExact` is a constant of each instance.
   return Fold::kIsExact ? ChosenKernel().pass_over_bytes(text, last_text, places, ends) : 0;
 }
 template <class Fold>
 std::size_t PassOverByKernel(const char16_t* text, const char16_t* last_text, std::size_t places,
                              const char16_t (&ends)[2]) {
+  // Untested: `kIsExact` is a constant of each instance.
   return Fold::kIsExact ? ChosenKernel().pass_over_units(text, last_text, places, ends) : 0;
 }
 

@@ -23,6 +23,7 @@ struct Escape {
 };
 static_assert(sizeof(Escape) == 4);
 
+// Untested: runs at compile time only.
 constexpr Escape EscapeOf(unsigned byte) {
   const auto c = static_cast<char>(byte);
   if (c == ' ') return {{'+', 0, 0}, 1};
@@ -30,6 +31,7 @@ constexpr Escape EscapeOf(unsigned byte) {
   return {{'%', kHexDigits[byte >> 4], kHexDigits[byte & 15]}, 3};
 }
 
+// Untested: runs at compile time only.
 constexpr std::array<Escape, 256> Escapes() {
   std::array<Escape, 256> escapes{};
   for (unsigned byte = 0; byte < escapes.size(); ++byte) escapes[byte] = EscapeOf(byte);
@@ -39,6 +41,7 @@ constexpr std::array<Escape, 256> Escapes() {
 // Where a byte is no digit; digits leave these bits alone.
 constexpr unsigned kNoDigit = 0x100;
 
+// Untested: runs at compile time only.
 constexpr std::array<std::uint16_t, 256> DigitValues(unsigned weight) {
   std::array<std::uint16_t, 256> values{};
   for (unsigned byte = 0; byte < values.size(); ++byte) {
@@ -158,7 +161,7 @@ std::string StrDecodeUrlA(std::string_view text) {
   return result;
 }
 
-// Kept: the name StrTimUriFragmentA, because modules import it with this spelling
+// Kept: the name `StrTimUriFragmentA` lacks an r; modules import it so. Test: StrTimUriFragmentA.KeepsItsName
 std::string StrTimUriFragmentA(std::string_view uri) { return std::string(uri.substr(0, uri.find('#'))); }
 std::u16string StrTrimUriFragmentW(std::u16string_view uri) {
   return std::u16string(uri.substr(0, uri.find(u'#')));

@@ -89,10 +89,10 @@ char16_t TakeUtf8Unit(std::string_view& rest) noexcept {
   if (lead < 0xC0) return kReplacement;
   const unsigned trails = TrailsOf(lead);
   unsigned value = lead & (0x3FU >> trails);
-  // Kept: four bytes and more give one U+FFFD, because texts hold no characters outside the plane of 65,536.
+  // Kept: a sequence of four bytes or more gives one U+FFFD, because the library has no code point past
+  // U+FFFF. Test: StrDecodeUtf8.FourBytesAndMoreGiveOneReplacement
   if (!TakeTrails(rest, trails, value) || trails > 2) return kReplacement;
-  // Kept: surrogates are taken from UTF-8, because texts with halves of pairs were written so and must come
-  // back.
+  // Kept: a surrogate in UTF-8 is decoded as it is. Test: StrDecodeUtf8.SurrogatesAreTakenAsTheyAre
   const bool is_over_long = value < (trails == 1 ? 0x80U : 0x800U);
   return is_over_long ? kReplacement : static_cast<char16_t>(value);
 }

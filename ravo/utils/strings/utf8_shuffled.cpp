@@ -18,9 +18,11 @@ using Shuffle = std::array<std::uint8_t, kVectorBytes>;
 using Shuffles = std::array<Shuffle, 256>;
 constexpr std::size_t kUnits = kVectorBytes / sizeof(char16_t);
 
+// Untested: runs at compile time only.
 constexpr unsigned Bit(unsigned bits, std::size_t i) { return bits >> i & 1; }
 
 // By one bit for each of eight units: those whose bit is set, side by side.
+// Untested: runs at compile time only.
 constexpr Shuffles KeepingUnits() {
   Shuffles shuffles{};
   for (unsigned bits = 0; bits < shuffles.size(); ++bits) {
@@ -35,6 +37,7 @@ constexpr Shuffles KeepingUnits() {
 }
 
 // By one bit for each of eight units: the lower byte alone of those whose bit is set, both of the others.
+// Untested: runs at compile time only.
 constexpr Shuffles KeepingLowerBytes() {
   Shuffles shuffles{};
   for (unsigned bits = 0; bits < shuffles.size(); ++bits) {

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Prints a public header or a page as the API reference reads it; Doxygen calls this for each one.
 
-usage: reference_filter.py HEADER|PAGE | --self-test
+usage: reference.py HEADER|PAGE | --self-test
 
 - Rows of an .inc file become the declarations that the compiler makes of them, with the comment `/** ... */` of the
   macro, in which `#text` is what the row has for the parameter `text`.
@@ -14,8 +14,12 @@ usage: reference_filter.py HEADER|PAGE | --self-test
 import pathlib
 import re
 import sys
+from collections.abc import Iterator
 
-ROOT = pathlib.Path(__file__).resolve().parents[1]
+from common import ROOT
+from source_tree import read
+
+Macros = dict[str, tuple[list[str], str]]
 DEFINE = re.compile(r"^[ \t]*#define (RAVO_\w+)\(([^)]*)\)((?:.*\\\n)*.*)\n", re.MULTILINE)
 ROWS = re.compile(r"^[ \t]*#include <(ravo/[\w/]+\.inc)>\n", re.MULTILINE)
 STRING = r'"(?:\\.|[^"\\])*"'
@@ -25,19 +29,19 @@ COMMENT_LINE = re.compile(r"^ *(///|/\*\*|\*)")
 FUNCTION = re.compile(r"(~?\w+|operator\S+?) ?\(")
 
 
-def arguments_of(text):
+def arguments_of(text: str) -> list[str]:
     return [" ".join(piece.split()) for piece in ARGUMENT.findall(text)]
 
 
-def instance(parameters, body, arguments):
+def instance(parameters: list[str], body: str, arguments: list[str]) -> str:
     """A macro's body with its arguments in place, stringified and pasted as the preprocessor does."""
     values = dict(zip(parameters, arguments))
 
-    def word(match):
+    def word(match: re.Match[str]) -> str:
         value = values.get(match["name"], match["name"])
         return '"' + value.replace('"', '\\"') + '"' if match["hash"] and match["name"] in values else value
 
-    def piece(text):
+    def piece(text: str) -> str:
         if text.startswith("/**"):
             return re.sub(r"#(\w+)", lambda match: values.get(match.group(1), match.group(0)), text)
         return re.sub(r"\s*##\s*", "", re.sub(r"(?P<hash>(?<!#)#)?\b(?P<name>[A-Za-z]\w*)\b", word, text))
@@ -45,10 +49,10 @@ def instance(parameters, body, arguments):
     return "".join(map(piece, re.split(r"(/\*\*.*?\*/)", re.sub(r"\s*\\\n", "\n", body), flags=re.DOTALL)))
 
 
-def expanded(text, macros):
+def expanded(text: str, macros: Macros) -> str:
     """What the macros make of every call in a text; calls of other macros are left out."""
 
-    def made(name, arguments):
+    def made(name: str, arguments: str) -> str:
         text = instance(*macros[name], arguments_of(arguments))
         # A row may choose one of several macros by pasting a name together.
         return CALL.sub(lambda call: expanded(call.group(0), macros), text)
@@ -56,20 +60,19 @@ def expanded(text, macros):
     return "\n".join(made(name, arguments) for name, arguments in CALL.findall(text) if name in macros)
 
 
-def with_rows(header):
+def with_rows(header: str) -> str:
     """The header with every #include of rows replaced by what its macros make of them."""
     macros = {name: ([p.strip() for p in parameters.split(",")], body) for name, parameters, body in DEFINE.findall(header)}
 
-    def rows(match):
-        text = (ROOT / match.group(1)).read_text(encoding="utf-8")
-        return expanded(re.sub(r"^ *//[^\n]*|^#[^\n]*", "", text, flags=re.MULTILINE), macros) + "\n"
+    def rows(match: re.Match[str]) -> str:
+        return expanded(re.sub(r"^ *//[^\n]*|^#[^\n]*", "", read(ROOT / match.group(1)), flags=re.MULTILINE), macros) + "\n"
 
     return ROWS.sub(rows, header)
 
 
-def declarations(lines):
+def declarations(lines: list[str]) -> Iterator[list[str]]:
     """Pieces of a header: runs of lines that end a declaration, a comment, or stand alone."""
-    piece = []
+    piece: list[str] = []
     for line in lines:
         piece.append(line)
         code = re.sub(r"\s*///<.*$|\s*//(?!/).*$", "", line).rstrip()
@@ -81,7 +84,7 @@ def declarations(lines):
         yield piece
 
 
-def name_of(piece):
+def name_of(piece: list[str]) -> str:
     """The function that a piece declares; nothing for any other piece."""
     code = " ".join(line.strip() for line in piece)
     if code.startswith(("#", "//", "/*", "*", "using ", "return ", "if ", "for ", "static_assert", ":")):
@@ -91,13 +94,15 @@ def name_of(piece):
     return found.group(1) if found and "=" not in code[: found.start()] else ""
 
 
-def same_family(left, right):
+def same_family(left: str, right: str) -> bool:
     bare = [re.sub(r"^(Set)?(Get|First|Last|Buf|Str|Read|Skip)?|(ByRef|InPlace|Ymd|Ym|A|W|I)+$", "", name) for name in (left, right)]
     return left == right or bare[0] == bare[1] != ""
 
 
-def with_family_comments(header):
-    comment, family, fresh, printed = [], "", False, []
+def with_family_comments(header: str) -> str:
+    comment: list[str] = []
+    printed: list[str] = []
+    family, fresh = "", False
     for piece in declarations(header.splitlines()):
         first = piece[0]
         name = name_of(piece)
@@ -118,16 +123,16 @@ def with_family_comments(header):
     return "\n".join(printed) + "\n"
 
 
-def with_anchors(page):
-    def heading(match):
+def with_anchors(page: str) -> str:
+    def heading(match: re.Match[str]) -> str:
         words = re.sub(r"[^\w -]", "", match.group(2).lower()).strip().replace(" ", "-")
         return f"{match.group(0)} {{#{words}}}"
 
     return re.sub(r"^(##+) (.*)$", heading, page, flags=re.MULTILINE)
 
 
-def filtered(name):
-    text = pathlib.Path(name).read_text(encoding="utf-8")
+def filtered(name: str) -> str:
+    text = read(pathlib.Path(name))
     return with_anchors(text) if name.endswith(".md") else with_family_comments(with_rows(text))
 
 
@@ -143,12 +148,12 @@ CASES = [
 ]
 
 
-def self_test():
+def self_test() -> None:
     for given, wanted in CASES:
         assert with_family_comments(given) == wanted, (given, with_family_comments(given))
     assert with_anchors("# A\n## The host's: B, c\n") == "# A\n## The host's: B, c {#the-hosts-b-c}\n"
-    macro = DEFINE.match('#define RAVO_A(name, text) /** name #text, #name. */ \\\n  T name##_x{u##text};\n')
-    made = instance(["name", "text"], macro.group(3), arguments_of('one, "a, (b)"'))
+    macro = DEFINE.findall('#define RAVO_A(name, text) /** name #text, #name. */ \\\n  T name##_x{u##text};\n')
+    made = instance(["name", "text"], macro[0][2], arguments_of('one, "a, (b)"'))
     assert made.split() == '/** name "a, (b)", one. */ T one_x{u"a, (b)"};'.split(), made
     assert CALL.findall('RAVO_A(x, "a) \\" b",\n  3)\n') == [("RAVO_A", 'x, "a) \\" b",\n  3')]
     header = "#define RAVO_ONE(name) int name;\n#define RAVO_ROW(name, ways) RAVO_##ways(name)\n"
@@ -160,5 +165,4 @@ if __name__ == "__main__":
     if sys.argv[1:] == ["--self-test"]:
         self_test()
     else:
-        sys.stdout.reconfigure(encoding="utf-8")
-        print(filtered(sys.argv[1]), end="")
+        sys.stdout.buffer.write(filtered(sys.argv[1]).encode("utf-8"))

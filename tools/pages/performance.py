@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Makes docs/performance.md from the reports of the benchmarks.
 
-usage: performance.py PROJECT FOLDER LOAD [--write]
+usage: performance.py FOLDER LOAD [--write]
 (FOLDER: a report in JSON of every benchmark program; LOAD: the machine's load before the run)
 
 Prints what was missed and what was noisy; exits 1 where bench/performance.toml speaks of what was not measured.
@@ -10,18 +10,26 @@ Prints what was missed and what was noisy; exits 1 where bench/performance.toml 
 import collections
 import dataclasses
 import fnmatch
+import itertools
 import json
 import os
 import pathlib
 import re
 import statistics
 import subprocess
-import sys
 import tomllib
+from collections.abc import Iterator
+from typing import Any
+
+from common import ROOT, command_line, table, write
+from source_tree import Planting, finish, read
 
 PAGE, DATA, GROWTH = "docs/performance.md", "bench/performance.toml", "growth_bench"
 OURS = "ravo"
 NOISY = 0.1
+# What a report, the data and one of its sections are: as they stand in their files.
+Report = dict[str, Any]
+Section = dict[str, Any]
 UNITS = ((1e9, "s"), (1e6, "ms"), (1e3, "µs"), (1, "ns"))
 
 
@@ -32,12 +40,15 @@ class Figure:
     noisy: bool
     is_time: bool
 
-    def __str__(self):
+    def __str__(self) -> str:
         mark = "~" if self.noisy else ""
         if not self.is_time:
             return f"{mark}{self.value:.1f}"
         size, unit = next((u for u in UNITS if self.value >= u[0]), UNITS[-1])
         return f"{mark}{self.value / size:.3g} {unit}" if self.value / size < 1000 else f"{mark}{self.value / size:.0f} {unit}"
+
+
+Jobs = dict[str, dict[str, Figure]]
 
 
 @dataclasses.dataclass
@@ -49,28 +60,29 @@ class Row:
     wanted: float | None
 
     @property
-    def ratio(self):
+    def ratio(self) -> float:
         return round(self.theirs.value / self.ours.value, 2)
 
     @property
-    def met(self):
+    def met(self) -> bool:
         return self.wanted is None or self.ratio >= self.wanted
 
-    def cells(self):
+    def cells(self) -> tuple[object, ...]:
         wanted = ("", "") if self.wanted is None else (f"{self.wanted:g}x", "met" if self.met else "**missed**")
         return (f"`{self.job}`", self.ours, f"`{self.rival}`", self.theirs, f"{self.ratio:.2f}x", *wanted)
 
 
-def figures(report):
+def figures(report: Report) -> Jobs:
     """{job: {name: Figure}} of a report; the repetitions of one run stand in it one by one."""
-    values, timed = collections.defaultdict(list), {}
+    values: dict[tuple[str, str], list[float]] = collections.defaultdict(list)
+    timed = {}
     for run in report["benchmarks"]:
         if run["run_type"] != "iteration":
             continue
         job, name = re.sub(r"/(iterations|repeats):\d+", "", run["run_name"]).rsplit("/", 1)
         timed[job, name] = "figure" not in run
         values[job, name].append(run.get("figure", run["cpu_time"] / run.get("items", 1)))
-    jobs = collections.defaultdict(dict)
+    jobs: Jobs = collections.defaultdict(dict)
     for (job, name), all_runs in values.items():
         median = statistics.median(all_runs)
         lower, _, upper = statistics.quantiles(all_runs, n=4) if len(all_runs) > 1 else [median] * 3
@@ -78,7 +90,7 @@ def figures(report):
     return jobs
 
 
-def rows_of(section, jobs):
+def rows_of(section: Section, jobs: Jobs) -> list[Row]:
     rows = []
     for job, names in sorted(jobs.items()):
         for rival in sorted(set(names) - {OURS}):
@@ -89,61 +101,53 @@ def rows_of(section, jobs):
     return rows
 
 
-def strays(section, rows):
+def strays(section: Section, rows: list[Row]) -> Iterator[str]:
     """Targets that no comparison answers to."""
     for job, rival, _ in section["targets"]:
         if not any(fnmatch.fnmatchcase(row.job, job) and fnmatch.fnmatchcase(row.rival, rival) for row in rows):
             yield f"{DATA}: no comparison of {section['program']} answers to the target {job} / {rival}"
 
 
-def unknown_rivals(data, rows):
+def unknown_rivals(data: Report, rows: list[Row]) -> Iterator[str]:
     known = " ".join(data["rivals"])
     for rival in sorted({row.rival for row in rows}):
         if not re.search(rf"[(,;] ?{re.escape(rival)}[,;)]", known):
             yield f"{DATA}: does not know the rival {rival}"
 
 
-def table(head, rows):
-    return "\n".join(["| " + " | ".join(head) + " |", "|" + "---|" * len(head),
-                      *("| " + " | ".join(map(str, row)) + " |" for row in rows)]) + "\n"
-
-
-def workload(project, program):
+def workload(program: str) -> str:
     """The comment at the head of a benchmark, or the first sentence of a script's."""
-    path = project / "bench" / f"{program}.cpp"
+    path = ROOT / "bench" / f"{program}.cpp"
     if path.is_file():
-        head = re.match(r"(?://[^\n]*\n)+", path.read_text(encoding="utf-8")).group(0)
-        return " ".join(line[2:].strip() for line in head.splitlines())
-    text = path.with_suffix(".py").read_text(encoding="utf-8")
-    return re.search(r'"""(.*?)\n', text).group(1)
+        return " ".join(line[2:].strip() for line in itertools.takewhile(lambda line: line.startswith("//"), read(path).splitlines()))
+    return read(path.with_suffix(".py")).split('"""')[1].splitlines()[0]
 
 
-def output_of(*command):
+def output_of(*command: str) -> str:
     return subprocess.run(command, capture_output=True, text=True, check=False).stdout.strip()
 
 
-def version_of(package):
+def version_of(package: str) -> str:
     return output_of("dpkg-query", "-W", "-f", "${Version}", package) or "not installed as a package"
 
 
-def library_flags(project):
+def library_flags() -> str:
     """What our own objects were compiled with, warnings aside."""
-    text = (project / "build/linux-gcc/build.ninja").read_text(encoding="utf-8")
-    flags = re.search(r"^build ravo/CMakeFiles/ravo_objects\.dir/\S+\.o:.*?^  FLAGS = ([^\n]*)", text, re.DOTALL | re.MULTILINE)
-    return " ".join(flag for flag in flags.group(1).split() if not flag.startswith("-W"))
+    text = read(ROOT / "build/linux-gcc/build.ninja")
+    flags = re.findall(r"^build ravo/CMakeFiles/ravo_objects\.dir/\S+\.o:.*?^  FLAGS = ([^\n]*)", text, re.DOTALL | re.MULTILINE)
+    return " ".join(flag for flag in flags[0].split() if not flag.startswith("-W"))
 
 
-def machine_lines(project, reports, load):
-    cpu = pathlib.Path("/proc/cpuinfo").read_text(encoding="utf-8")
-    name = re.search(r"^model name\s*: (.*)$", cpu, re.MULTILINE)
+def machine_lines(reports: dict[str, Report], load: str) -> list[str]:
+    name = re.search(r"^model name\s*: (.*)$", read(pathlib.Path("/proc/cpuinfo")), re.MULTILINE)
     kernels = reports.get(GROWTH, {}).get("context", {}).get("kernels", "not told")
     return [f"- processor: {name.group(1) if name else 'not told'}, {os.cpu_count()} in use",
             f"- kernels in use: {kernels}",
-            f"- compiler: {output_of('g++', '--version').splitlines()[0]}, `{library_flags(project)}`",
+            f"- compiler: {output_of('g++', '--version').splitlines()[0]}, `{library_flags()}`",
             f"- load before the run: {load}"]
 
 
-def growth_table(jobs):
+def growth_table(jobs: Jobs) -> str:
     """Cost of one item for 1, 10 and 100 times the work; the last column is what linear work keeps at 1."""
     rows = []
     for job, sizes in sorted(jobs.items()):
@@ -152,7 +156,7 @@ def growth_table(jobs):
     return table(("job, for each", "1 times the work", "10 times", "100 times", "100 times to 1"), rows)
 
 
-def target_lines(sections):
+def target_lines(sections: list[tuple[Section, list[Row]]]) -> Iterator[str]:
     wanted = [(section, row) for section, rows in sections for row in rows if row.wanted is not None]
     missed = [(section, row) for section, row in wanted if not row.met]
     yield "## Targets\n"
@@ -163,51 +167,51 @@ def target_lines(sections):
                     [(section["title"], f"`{row.job}`", f"`{row.rival}`", f"{row.ratio:.2f}x", f"{row.wanted:g}x") for section, row in missed])
 
 
-def section_lines(project, section, rows):
+def section_lines(section: Section, rows: list[Row]) -> Iterator[str]:
     program = section["program"]
     yield f"## {section['title']}\n"
-    yield f"{workload(project, program)} (`{program}`)\n"
+    yield f"{workload(program)} (`{program}`)\n"
     yield f"![the ratios of this table as bars](performance/{program}.svg)\n"
     yield table(("job", "ours", "rival", "its", "ratio", "wanted", ""), [row.cells() for row in rows])
 
 
-def growth_lines(project, reports):
+def growth_lines(reports: dict[str, Report]) -> Iterator[str]:
     yield "## Growth\n"
-    yield f"{workload(project, GROWTH)} (`{GROWTH}`)\n"
+    yield f"{workload(GROWTH)} (`{GROWTH}`)\n"
     yield f"![the cost of an item as the work grows](performance/{GROWTH}.svg)\n"
     yield growth_table(figures(reports[GROWTH]))
 
 
-def noise(reports):
+def noise(reports: dict[str, Report]) -> tuple[int, int]:
     """How many medians there are, and how many of them are noisy."""
     all_figures = [figure for report in reports.values() for job in figures(report).values() for figure in job.values()]
     return len(all_figures), sum(figure.noisy for figure in all_figures)
 
 
-def page(project, data, reports, sections, load):
+def page(data: Report, reports: dict[str, Report], sections: list[tuple[Section, list[Row]]], load: str) -> str:
     measured, noisy = noise(reports)
     lines = ["# Performance\n",
-             "Written by `scripts/bench --write`; do not edit. Medians of nine runs of each job and its rivals, all in one process and in\n"
+             "Written by `make bench`; do not edit. Medians of nine runs of each job and its rivals, all in one process and in\n"
              "random order. Times are of one call or one item, of the processor and not of the clock on the wall (whole programs aside); a\n"
              "ratio above 1 means that ours is faster, or needs less. Charts show the same figures: green where ours is ahead, brown where it\n"
              "is behind, a black line where the target is.\n",
-             "\n".join(machine_lines(project, reports, load)),
+             "\n".join(machine_lines(reports, load)),
              f"- noise: {noisy} of {measured} medians come from runs whose middle half is more than {NOISY:.0%} apart; they are marked with ~\n",
              *target_lines(sections)]
     for section, rows in sections:
-        lines += section_lines(project, section, rows)
-    lines += growth_lines(project, reports)
+        lines += section_lines(section, rows)
+    lines += growth_lines(reports)
     lines += ["## Rivals\n",
               table(("rival, and its names above", "packages"),
                     [(rival, ", ".join(f"{p} {version_of(p)}" for p in packages)) for rival, packages in data["rivals"].items()]),
-              (project / "docs/long-runs.md").read_text(encoding="utf-8")]
+              read(ROOT / "docs/long-runs.md")]
     return "\n".join(lines)
 
 
-def main():
-    project, folder, load = pathlib.Path(sys.argv[1]), pathlib.Path(sys.argv[2]), sys.argv[3]
-    data = tomllib.loads((project / DATA).read_text(encoding="utf-8"))
-    reports = {path.stem: json.loads(path.read_text(encoding="utf-8")) for path in sorted(folder.glob("*.json"))}
+def report(folder: str, load: str, is_written: bool) -> list[str]:
+    """Prints what was missed and what was noisy, writes the page, and returns what the data says of nothing measured."""
+    data = tomllib.loads(read(ROOT / DATA))
+    reports = {path.stem: json.loads(read(path)) for path in sorted(pathlib.Path(folder).glob("*.json"))}
     listed = [section["program"] for section in data["section"]] + [GROWTH]
     findings = [f"{DATA}: has no section of {name}" for name in reports if name not in listed]
     findings += [f"{name} left no report in {folder}" for name in listed if name not in reports]
@@ -220,11 +224,34 @@ def main():
     measured, noisy = noise(reports)
     if noisy:
         print(f"{noisy} of {measured} figures are noisy: their runs are more than {NOISY:.0%} apart")
-    print("\n".join(findings))
-    if "--write" in sys.argv[4:] and not findings:
-        (project / PAGE).write_text(page(project, data, reports, sections, load), encoding="utf-8")
-    sys.exit(1 if findings else 0)
+    if is_written and not findings:
+        write(ROOT, {PAGE: page(data, reports, sections, load)})
+    return findings
 
+
+def check(root: pathlib.Path) -> list[str]:
+    """Every benchmark has its section, and every section its benchmark."""
+    sections = [section["program"] for section in tomllib.loads(read(root / DATA))["section"]]
+    programs = {path.stem for path in (root / "bench").glob("*_bench.cpp")} - {GROWTH}
+    findings = [f"{DATA}: has no section of bench/{name}.cpp" for name in sorted(programs - set(sections))]
+    for name in sections:
+        if name not in programs and not (root / "bench" / f"{name}.py").is_file():
+            findings.append(f"{DATA}: there is no benchmark {name}")
+    return findings
+
+
+def _tree(*names: str) -> dict[str, str]:
+    sections = "".join(f'[[section]]\nprogram = "{name}"\n' for name in names)
+    return {DATA: sections, "bench/a_bench.cpp": "", "bench/b.py": "", f"bench/{GROWTH}.cpp": ""}
+
+
+PLANTINGS: list[Planting] = [
+    ("a good tree", _tree("a_bench", "b"), None),
+    ("a benchmark without a section", _tree("b"), "no section of bench/a_bench.cpp"),
+    ("a section without a benchmark", _tree("a_bench", "c_bench"), "no benchmark c_bench"),
+]
 
 if __name__ == "__main__":
-    main()
+    order = command_line(check, PLANTINGS)
+    folder, load = order.inputs
+    finish(report(folder, load, order.write))

@@ -1,50 +1,54 @@
 #!/usr/bin/env python3
 """Draws who uses whom among the rooms, from the #include lines, as docs/structure.svg.
 
-usage: structure.py --write | --print
-
 An arrow that follows from others is left out: frame uses runtime by way of platform.
 """
 
 import pathlib
-import sys
+from collections.abc import Iterator
 
-ROOT = pathlib.Path(__file__).resolve().parents[1]
-sys.path.insert(0, str(ROOT / "tests/checks"))
-from layering import EXPORT_HEADER, HOST_HEADER, PUBLIC, UTILS_MESSAGES, include_graph, room_of  # noqa: E402
+from common import ROOT, command_line, outdated, write
+from layering import EXPORT_HEADER, HOST_HEADER, PUBLIC, UTILS_MESSAGES, Graph, include_graph, room_of
+from source_tree import Planting
 
 PICTURE = "docs/structure.svg"
 # The host's header is the frame's face; what exports are, and rows of messages, are no use of anybody.
 SAME = {HOST_HEADER: "ravo/frame", EXPORT_HEADER: None, UTILS_MESSAGES: None}
+# Room -> the rooms that it uses; a room, or a bend of an arrow: its ends and the level that it passes.
+Uses = dict[str, set[str]]
+Node = str | tuple[str, str, int]
+Chain = list[Node]
+Places = dict[Node, tuple[int, int]]
 NAMES = {PUBLIC: "public face"}
 WIDTH, HEIGHT, GAP, RISE, BEND = 132, 34, 22, 66, 6
 
 
-def arrows(root):
+def arrows(graph: Graph) -> Uses:
     """Room -> the rooms that its files include."""
-    uses = {}
-    for source, edges in include_graph(root).items():
-        here = SAME.get(room_of(source), room_of(source))
-        if here is None:
-            continue
-        found = uses.setdefault(here, set())
-        found |= {SAME.get(room_of(target), room_of(target)) for _, target in edges}
-    return {room: targets - {room, None} for room, targets in uses.items()}
+
+    def room(name: str) -> str | None:
+        return SAME.get(found, found) if (found := room_of(name)) else None
+
+    uses: Uses = {}
+    for source, edges in graph.items():
+        if here := room(source):
+            uses.setdefault(here, set()).update(there for _, target in edges if (there := room(target)) and there != here)
+    return uses
 
 
-def reach(uses, room):
+def reach(uses: Uses, room: str) -> set[str]:
     return set().union(*({target} | reach(uses, target) for target in uses.get(room, ())))
 
 
-def reduced(uses):
+def reduced(uses: Uses) -> Uses:
     """The arrows without those that follow from others."""
     return {room: {t for t in targets if not any(t in reach(uses, other) for other in targets - {t})} for room, targets in uses.items()}
 
 
-def levels(uses):
-    level = {}
+def levels(uses: Uses) -> dict[str, int]:
+    level: dict[str, int] = {}
 
-    def of(room):
+    def of(room: str) -> int:
         if room not in level:
             level[room] = 1 + max((of(target) for target in uses.get(room, ())), default=-1)
         return level[room]
@@ -54,7 +58,7 @@ def levels(uses):
     return level
 
 
-def chains(uses):
+def chains(uses: Uses) -> Iterator[Chain]:
     """Every arrow with the bends at which it passes the levels between its ends: [(room, bend ..., target)]."""
     level = levels(uses)
     for room in sorted(uses):
@@ -62,16 +66,17 @@ def chains(uses):
             yield [room, *((room, target, n) for n in range(level[room] - 1, level[target], -1)), target]
 
 
-def rows_of(uses):
+def rows_of(uses: Uses) -> list[Chain]:
     """Rooms and bends by level, from the lowest; in a row each stands over the middle of what it leads to."""
     level = levels(uses)
-    below, rows = {}, [[] for _ in range(max(level.values()) + 1)]
+    below: dict[Node, list[Node]] = {}
+    rows: list[Chain] = [[] for _ in range(max(level.values()) + 1)]
     for chain in chains(uses):
         for upper, lower in zip(chain, chain[1:]):
             below.setdefault(upper, []).append(lower)
     for node in {*level, *below}:
         rows[level[node] if isinstance(node, str) else node[2]].append(node)
-    order = {}
+    order: dict[Node, float] = {}
     for row in rows:
         wish = {node: sum(order[b] for b in below[node]) / len(below[node]) if node in below else 0.5 for node in row}
         row.sort(key=lambda node: (wish[node], str(node)))
@@ -79,9 +84,10 @@ def rows_of(uses):
     return rows
 
 
-def places(uses):
+def places(uses: Uses) -> tuple[Places, int, int]:
     """Room or bend -> (x, y); width; height."""
-    rows, at = rows_of(uses), {}
+    rows = rows_of(uses)
+    at: Places = {}
     wide = [sum((WIDTH if isinstance(node, str) else BEND) + GAP for node in row) for row in rows]
     for n, row in enumerate(rows):
         x = (max(wide) - wide[n]) // 2
@@ -92,7 +98,7 @@ def places(uses):
     return at, max(wide), (len(rows) - 1) * RISE + 2 * HEIGHT
 
 
-def line(chain, at):
+def line(chain: Chain, at: Places) -> str:
     half = HEIGHT // 2
     points = [(x, y + half) for x, y in [at[chain[0]]]] + [at[bend] for bend in chain[1:-1]] + [(x, y - half) for x, y in [at[chain[-1]]]]
     path = "M{} {}".format(*points[0])
@@ -102,8 +108,8 @@ def line(chain, at):
     return f'<path d="{path}" fill="none" stroke="#789" marker-end="url(#end)"/>'
 
 
-def drawing(root):
-    uses = reduced(arrows(root))
+def drawing(graph: Graph) -> str:
+    uses = reduced(arrows(graph))
     if not uses:
         return ""
     at, width, height = places(uses)
@@ -119,10 +125,24 @@ def drawing(root):
     return "\n".join([*lines, "</svg>", ""])
 
 
+def render(root: pathlib.Path) -> dict[str, str]:
+    return {PICTURE: drawing(include_graph(root))}
+
+
+def check(root: pathlib.Path) -> list[str]:
+    if reduced({"a": {"b", "c"}, "b": {"c"}, "c": set()}) != {"a": {"b"}, "b": {"c"}, "c": set()}:
+        return ["an arrow that follows from others is drawn"]
+    return outdated(root, render(root), "make pictures")
+
+
+_FILES = {"ravo/runtime/a.h": "", "ravo/xml/b.h": "#include <ravo/runtime/a.h>\n"}
+_DRAWN = {PICTURE: drawing({"ravo/runtime/a.h": [], "ravo/xml/b.h": [(1, "ravo/runtime/a.h")]})}
+PLANTINGS: list[Planting] = [
+    ("a good tree", {**_FILES, **_DRAWN}, None),
+    ("a picture of before", {**_FILES, **_DRAWN, "ravo/frame/c.h": "#include <ravo/xml/b.h>\n"}, "is not what"),
+    ("no picture", _FILES, "is not what"),
+]
+
 if __name__ == "__main__":
-    if sys.argv[1:] == ["--write"]:
-        (ROOT / PICTURE).write_text(drawing(ROOT), encoding="utf-8")
-    elif sys.argv[1:] == ["--print"]:
-        print(drawing(ROOT), end="")
-    else:
-        sys.exit(__doc__)
+    command_line(check, PLANTINGS)
+    write(ROOT, render(ROOT))
