@@ -14,6 +14,9 @@ namespace {
 
 using Bytes = std::vector<std::uint8_t>;
 using namespace ravo::DIUnicode;
+using ravo::codec::Run;
+using ravo::unicode::DecodeRunOf;
+using ravo::unicode::EncodeRunOf;
 
 constexpr std::size_t kSize = 1024 * 1024;
 constexpr std::size_t kPiece = 4096;

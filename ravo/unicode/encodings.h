@@ -35,7 +35,7 @@ namespace ravo::DIUnicode {
 
 #define RAVO_ENCODING(name, label, code_page, aliases, engine, ways, table, sources, notes) \
   RAVO_DECLARE_##ways(name)
-#include <ravo/unicode/encodings/rows.inc>
+#include <ravo/codec/rows.inc>
 #undef RAVO_ENCODING
 #undef RAVO_DECLARE_Both
 #undef RAVO_DECLARE_WriteOnly

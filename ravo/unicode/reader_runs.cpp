@@ -1,9 +1,9 @@
 // The families that read and skip, each from one loop. Where the encoding decodes whole runs, what belongs is
 // passed over at once, and the reader stands as if it had read the characters one by one.
+#include <ravo/codec/kernels/run_search.h>
+#include <ravo/codec/runs.h>
 #include <ravo/unicode/characters/character_kinds.h>
-#include <ravo/unicode/encodings/run_till.h>
 #include <ravo/unicode/predicates.h>
-#include <ravo/unicode/run_search.h>
 #include <ravo/unicode/unicode_reader.h>
 
 #include <algorithm>
@@ -13,8 +13,12 @@
 namespace ravo::DIUnicode {
 namespace {
 
-using unicode::Not;
-using unicode::OneOf;
+using codec::EndBytes;
+using codec::Lines;
+using codec::Not;
+using codec::OneOf;
+using codec::Run;
+using codec::RunUntil;
 using unicode::OrWhiteSpace;
 
 constexpr std::size_t kLongestRun = 1024;
@@ -43,7 +47,7 @@ struct PassingBut {
 };
 
 struct WhiteSpace {
-  bool operator()(char16_t c) const { return unicode::PlainWhite{}(c) || (c > 0x7F && CharIsWhiteSpaceW(c)); }
+  bool operator()(char16_t c) const { return codec::PlainWhite{}(c) || (c > 0x7F && CharIsWhiteSpaceW(c)); }
 };
 
 struct NoWhiteSpace {
@@ -69,7 +73,7 @@ template <class Unit, class Belongs>
 std::size_t LengthIn(std::span<const Unit> run, const Belongs& belongs) {
   // Untested: discarded in the other instances.
   if constexpr (kIsTill<Belongs>)
-    return unicode::LengthBefore(run, belongs.What());
+    return codec::LengthBefore(run, belongs.What());
   else
     return static_cast<std::size_t>(std::ranges::find_if_not(run, belongs) - run.begin());
 }
@@ -79,7 +83,7 @@ template <class Belongs>
 std::size_t AsciiLengthIn(std::span<const std::uint8_t> bytes, const Belongs& belongs) {
   std::size_t length = 0;
   if constexpr (std::same_as<Belongs, WhiteSpace>) {
-    length = unicode::LengthBefore(bytes, Not(unicode::PlainWhite{}));
+    length = codec::LengthBefore(bytes, Not(codec::PlainWhite{}));
   } else {
     while (length < bytes.size() && bytes[length] < 0x80 && belongs(bytes[length])) ++length;
   }
@@ -107,7 +111,7 @@ void TDIUnicodeReader::AddRun(std::span<Unit> run) {
 template <class Unit>
 void TDIUnicodeReader::CountRun(std::span<const Unit> run, Lines lines) noexcept {
   if (run.empty()) return;
-  const auto starts = unicode::FindLineStarts(FChar, lines == Lines::MayBeMore ? run : run.first(1));
+  const auto starts = codec::FindLineStarts(FChar, lines == Lines::MayBeMore ? run : run.first(1));
   const auto size = static_cast<std::uint32_t>(run.size());
   const char16_t before = size > 1 ? static_cast<char16_t>(run[size - 2]) : FChar;
   FChar = run.back();
@@ -141,7 +145,7 @@ inline auto TDIUnicodeReader::PassTill(std::span<char16_t> room, const Belongs& 
   const auto to = in_place ? RoomInData() : room;
   const EndBytes ends = EndsOf(belongs);
   const auto unread = UnreadBytes();
-  const RunTill run = FDecodeTill(unread, to, ends);
+  const RunUntil run = FDecodeUntil(unread, to, ends);
   if (in_place)
     CountAsData(run.made);
   else if (store)
@@ -156,7 +160,7 @@ inline auto TDIUnicodeReader::PassTill(std::span<char16_t> room, const Belongs& 
   }
   ++FSourceBufferPosition;
   const std::uint8_t last = run.taken != 0 ? unread[run.taken - 1] : 0;
-  if (run.lines == Lines::One && last != '\r' && last != '\n' && !unicode::kLineBreaks(FChar)) {
+  if (run.lines == Lines::One && last != '\r' && last != '\n' && !codec::kLineBreaks(FChar)) {
     FCharPos += run.made + 1;
     FCharCol += run.made + 1;
     FChar = unread[run.taken];
@@ -192,13 +196,13 @@ template <class Belongs>
 bool TDIUnicodeReader::PassRuns(const Belongs& belongs, bool store) {
   if (FDecodeRun == nullptr || FPeekedCount != 0) return false;
   std::array<char16_t, kLongestRun> room;
-  if (FDecodeTill != nullptr && EndsByAscii(belongs)) {
+  if (FDecodeUntil != nullptr && EndsByAscii(belongs)) {
     if constexpr (kIsTill<Belongs>) {
       Passed passed = Passed::Some;
       while (passed == Passed::Some) passed = PassTill(room, belongs, store);
       return passed == Passed::All;
     }
-  } else if (FDecodeTill != nullptr && !kIsTill<Belongs>) {
+  } else if (FDecodeUntil != nullptr && !kIsTill<Belongs>) {
     while (PassAscii(belongs, store)) {
     }
   } else {
@@ -274,7 +278,7 @@ void TDIUnicodeReader::ReadCharsTillWhiteSpace() { PassOver(NoWhiteSpace{}, true
 // for.
 inline bool TDIUnicodeReader::PassBufferedBreak() {
   const auto unread = UnreadBytes();
-  if (FDecodeTill == nullptr || FPeekedCount != 0 || unread.size() < 2) return false;
+  if (FDecodeUntil == nullptr || FPeekedCount != 0 || unread.size() < 2) return false;
   if (FChar == u'\r' && unread[0] == '\n') [[likely]]
     BeginLine(unread[1], 2, u'\n');
   else
@@ -300,7 +304,7 @@ inline void TDIUnicodeReader::BeginLine(std::uint8_t first, std::uint32_t count,
 
 void TDIUnicodeReader::PassLine(bool store) {
   if (!FCharOK) ReadChar();
-  PassOver(Not(unicode::kLineBreaks), store);
+  PassOver(Not(codec::kLineBreaks), store);
   if (!FCharOK || PassBufferedBreak()) return;
   const bool pair_may_follow = FChar == u'\r';
   ReadChar();
@@ -317,10 +321,10 @@ void TDIUnicodeReader::SkipLine() { PassLine(false); }
 
 void TDIUnicodeReader::SkipEmptyLines(CharPredicate Validate) {
   const CharPredicate validate = OrWhiteSpace(Validate);
-  const auto stays_on_line = [validate](char16_t c) { return !unicode::kLineBreaks(c) && validate(c); };
+  const auto stays_on_line = [validate](char16_t c) { return !codec::kLineBreaks(c) && validate(c); };
   for (;;) {
     PassOver(stays_on_line, true);
-    if (!FCharOK || !unicode::kLineBreaks(FChar)) return;
+    if (!FCharOK || !codec::kLineBreaks(FChar)) return;
     ZeroDataSize();
     ReadChar();
   }

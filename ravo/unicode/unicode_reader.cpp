@@ -1,5 +1,5 @@
 #include <ravo/unicode/encodings.h>
-#include <ravo/unicode/encodings/run_till.h>
+#include <ravo/unicode/encodings/runs.h>
 #include <ravo/unicode/unicode_reader.h>
 
 #include <algorithm>
@@ -22,8 +22,8 @@ void TDIUnicodeReader::UseReadMethods(const TDIUnicodeReadMethods& methods) {
     FReadMethods.Init = nullptr;
     FReadMethods.ReadChar = Read_Iso_8859_1_ReadChar;
   }
-  FDecodeRun = DecodeRunOf(FReadMethods);
-  FDecodeTill = DecodeTillOf(FReadMethods);
+  FDecodeRun = unicode::DecodeRunOf(FReadMethods);
+  FDecodeUntil = unicode::DecodeUntilOf(FReadMethods);
 }
 
 void TDIUnicodeReader::SetReadMethods(const TDIUnicodeReadMethods& methods) {

@@ -12,13 +12,16 @@
 #include <string>
 #include <string_view>
 
+namespace ravo::codec {
+struct Run;
+struct RunUntil;
+class EndBytes;
+enum class Lines : std::uint32_t;
+}  // namespace ravo::codec
+
 namespace ravo::DIUnicode {
 
 class TDIUnicodeReader;
-struct Run;
-struct RunTill;
-class EndBytes;
-enum class Lines : std::uint32_t;
 
 /// What a byte-order mark at the start of a source says.
 enum class TDIBOM : std::uint8_t { bomUnknown, bomUtf8, bomutf16be, bomutf16le, bomutf32be, bomutf32le };
@@ -361,7 +364,7 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
 
   /// A byte that is its own character needs no decoder.
   bool TakePlainByte() noexcept {
-    if (FDecodeTill == nullptr || FPeekedCount != 0 || FSourceBufferPosition >= FSourceBufferSize)
+    if (FDecodeUntil == nullptr || FPeekedCount != 0 || FSourceBufferPosition >= FSourceBufferSize)
       return false;
     const std::uint8_t byte = FSourceBuffer[FSourceBufferPosition];
     if (byte >= 0x80) return false;
@@ -400,7 +403,7 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
   template <class Unit>
   RAVO_LOCAL void AddRun(std::span<Unit> run);
   template <class Unit>
-  RAVO_LOCAL void CountRun(std::span<const Unit> run, Lines lines) noexcept;
+  RAVO_LOCAL void CountRun(std::span<const Unit> run, codec::Lines lines) noexcept;
   template <class Belongs>
   RAVO_LOCAL bool PassAscii(const Belongs& belongs, bool store);
   template <class Belongs>
@@ -459,10 +462,10 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
   /// Where the peeked characters begin in their array: taking one moves none.
   std::uint32_t FPeekedStart = 0;
   /// The run beside the read methods in force, or null.
-  Run (*FDecodeRun)(std::span<const std::uint8_t> bytes, std::span<char16_t> text) = nullptr;
+  codec::Run (*FDecodeRun)(std::span<const std::uint8_t> bytes, std::span<char16_t> text) = nullptr;
   /// The same up to a byte of ASCII; null also where bytes below 0x80 are more or less than ASCII.
-  RunTill (*FDecodeTill)(std::span<const std::uint8_t> bytes, std::span<char16_t> text,
-                         EndBytes ends) = nullptr;
+  codec::RunUntil (*FDecodeUntil)(std::span<const std::uint8_t> bytes, std::span<char16_t> text,
+                                  codec::EndBytes ends) = nullptr;
 };
 
 }  // namespace ravo::DIUnicode

@@ -30,7 +30,7 @@ void TDIUnicodeWriter::UseWriteMethods(const TDIUnicodeWriteMethods& methods) {
     FWriteMethods.Init = nullptr;
     FWriteMethods.WriteChar = Write_Iso_8859_1_WriteChar;
   }
-  FEncodeRun = EncodeRunOf(FWriteMethods);
+  FEncodeRun = unicode::EncodeRunOf(FWriteMethods);
 }
 
 void TDIUnicodeWriter::SetWriteMethods(const TDIUnicodeWriteMethods& methods) {

@@ -200,7 +200,7 @@ class RAVO_API TDIUnicodeWriter : public TDIUnicodeBase {
   TDIInvalidCharEvent FOnInvalidChar;
 
   /// The run beside the write methods in force, or null.
-  Run (*FEncodeRun)(std::span<const char16_t> text, std::span<std::uint8_t> bytes) = nullptr;
+  codec::Run (*FEncodeRun)(std::span<const char16_t> text, std::span<std::uint8_t> bytes) = nullptr;
 };
 
 }  // namespace ravo::DIUnicode

@@ -30,7 +30,7 @@ std::uint64_t Magnitude(std::int64_t number) {
 std::size_t TDIUnicodeWriter::WriteRun(std::u16string_view text) {
   if (FEncodeRun == nullptr) return 0;
   const std::span room(FData.get() + FDataSize, FDataCapacity - FDataSize);
-  const Run run = FEncodeRun(text, room);
+  const codec::Run run = FEncodeRun(text, room);
   FDataSize += static_cast<std::uint32_t>(run.made);
   return run.taken;
 }

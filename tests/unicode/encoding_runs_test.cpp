@@ -1,7 +1,8 @@
 // Whole runs against single characters, with sources and room that end at a guard page.
 #include "encoding_texts.h"
 #include "support/guarded_buffer.h"
-#include <ravo/unicode/encodings/run_blocks.h>
+#include <ravo/codec/kernels/kernel_set.h>
+#include <ravo/unicode/encodings/runs.h>
 
 #include <algorithm>
 #include <random>
@@ -11,6 +12,16 @@
 
 namespace ravo::DIUnicode {
 namespace {
+
+using codec::EndBytes;
+using codec::KernelSet;
+using codec::KernelSets;
+using codec::Lines;
+using codec::RunUntil;
+using codec::ScopedKernels;
+using unicode::DecodeRunOf;
+using unicode::DecodeUntilOf;
+using unicode::EncodeRunOf;
 
 using test::Read;
 using test::Write;
@@ -61,14 +72,14 @@ std::string_view AlphabetOf(const EncodingRow& row) {
 }
 
 // Each test that decodes or encodes runs once with every kernel.
-class EncodingRunsOfKernel : public ::testing::TestWithParam<RunKernel> {
+class EncodingRunsOfKernel : public ::testing::TestWithParam<KernelSet> {
  protected:
   void SetUp() override {
     if (!GetParam().runs_here()) GTEST_SKIP() << "not on this processor";
   }
 
  private:
-  ScopedRunKernel chosen_{GetParam()};
+  ScopedKernels chosen_{GetParam()};
 };
 
 TEST_P(EncodingRunsOfKernel, DecodeWhatSingleCharactersDecode) {
@@ -85,13 +96,13 @@ TEST_P(EncodingRunsOfKernel, DecodeWhatSingleCharactersDecode) {
 
 // A run up to an end is what single characters give in front of the end, or some of it; bytes and room end at
 // guard pages.
-void ExpectRunTill(const EncodingRow& row, const Bytes& bytes, std::size_t room, EndBytes ends) {
+void ExpectRunUntil(const EncodingRow& row, const Bytes& bytes, std::size_t room, EndBytes ends) {
   const test::GuardedBuffer source(std::as_bytes(std::span(bytes)));
   const std::vector<std::byte> empty(2 * room);
   const test::GuardedBuffer target(empty);
   const std::span from(reinterpret_cast<const std::uint8_t*>(source.Bytes().data()), bytes.size());
   const std::span to(reinterpret_cast<char16_t*>(target.Bytes().data()), room);
-  const RunTill run = DecodeTillOf(*row.read)(from, to, ends);
+  const RunUntil run = DecodeUntilOf(*row.read)(from, to, ends);
   const std::size_t end = static_cast<std::size_t>(
       std::ranges::find_if(bytes, [ends](std::uint8_t byte) { return ends.Has(byte); }) - bytes.begin());
   ASSERT_LE(run.taken, end) << row.name;
@@ -106,7 +117,7 @@ void ExpectRunTill(const EncodingRow& row, const Bytes& bytes, std::size_t room,
 TEST_P(EncodingRunsOfKernel, EndBeforeAByte) {
   std::mt19937 random(4);
   for (const EncodingRow& row : EncodingRows()) {
-    if (row.read == nullptr || DecodeTillOf(*row.read) == nullptr) continue;
+    if (row.read == nullptr || DecodeUntilOf(*row.read) == nullptr) continue;
     for (int i = 0; i < 150; ++i) {
       Bytes bytes = RandomBytes(random, AlphabetOf(row));
       for (const char byte : {'\n', '\r', ';'}) {
@@ -116,7 +127,7 @@ TEST_P(EncodingRunsOfKernel, EndBeforeAByte) {
       const EndBytes ends = i % 3 == 0   ? EndBytes('\r', '\n', '\n')
                             : i % 3 == 1 ? EndBytes(';', ';', ';')
                                          : EndBytes('\n', 'q', 0);
-      ASSERT_NO_FATAL_FAILURE(ExpectRunTill(row, bytes, random() % 400, ends));
+      ASSERT_NO_FATAL_FAILURE(ExpectRunUntil(row, bytes, random() % 400, ends));
     }
   }
 }
@@ -133,12 +144,12 @@ TEST_P(EncodingRunsOfKernel, TakeSequencesAcrossBlocks) {
         std::string text = std::string(before, 'x').append(piece).append(behind, 'y');
         const Bytes bytes(text.begin(), text.end());
         ASSERT_EQ(ByRuns(row, bytes, 300), Read(Read_UTF_8, text)) << before << ' ' << behind;
-        ASSERT_NO_FATAL_FAILURE(ExpectRunTill(row, bytes, 300, EndBytes('y', '\n', '\n')));
+        ASSERT_NO_FATAL_FAILURE(ExpectRunUntil(row, bytes, 300, EndBytes('y', '\n', '\n')));
         // The blocks of others than ASCII.
         text.insert(0, "\xC5\xBE");
         const Bytes mixed(text.begin(), text.end());
         ASSERT_EQ(ByRuns(row, mixed, 300), Read(Read_UTF_8, text)) << before << ' ' << behind;
-        ASSERT_NO_FATAL_FAILURE(ExpectRunTill(row, mixed, 300, EndBytes('y', '\n', '\n')));
+        ASSERT_NO_FATAL_FAILURE(ExpectRunUntil(row, mixed, 300, EndBytes('y', '\n', '\n')));
       }
     }
   }
@@ -182,16 +193,16 @@ TEST_P(EncodingRunsOfKernel, EncodeWhatSingleCharactersEncode) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Kernels, EncodingRunsOfKernel,
-                         ::testing::ValuesIn(RunKernels().begin(), RunKernels().end()),
+                         ::testing::ValuesIn(KernelSets().begin(), KernelSets().end()),
                          [](const auto& kernel) { return std::string(kernel.param.name); });
 
 TEST(EncodingRuns, TillAnEndOnlyWhereAsciiIsKeptApart) {
-  EXPECT_NE(DecodeTillOf(Read_UTF_8), nullptr);
-  EXPECT_NE(DecodeTillOf(Read_Windows_1250), nullptr);
-  EXPECT_EQ(DecodeTillOf(Read_UTF_16_LE), nullptr);
-  EXPECT_EQ(DecodeTillOf(Read_GB_18030), nullptr);
-  EXPECT_EQ(DecodeTillOf(Read_UTF_7), nullptr);
-  EXPECT_EQ(DecodeTillOf(Read_CP_424), nullptr);
+  EXPECT_NE(DecodeUntilOf(Read_UTF_8), nullptr);
+  EXPECT_NE(DecodeUntilOf(Read_Windows_1250), nullptr);
+  EXPECT_EQ(DecodeUntilOf(Read_UTF_16_LE), nullptr);
+  EXPECT_EQ(DecodeUntilOf(Read_GB_18030), nullptr);
+  EXPECT_EQ(DecodeUntilOf(Read_UTF_7), nullptr);
+  EXPECT_EQ(DecodeUntilOf(Read_CP_424), nullptr);
   for (const EncodingRow& row : EncodingRows()) {
     if (row.engine != "SingleByte" || row.read == nullptr) continue;
     bool kept = true;
@@ -199,7 +210,7 @@ TEST(EncodingRuns, TillAnEndOnlyWhereAsciiIsKeptApart) {
       const std::u16string text = Read(*row.read, std::string(1, static_cast<char>(byte)));
       kept = kept && (byte < 0x80 ? text[0] == byte : text[0] >= 0x80);
     }
-    EXPECT_EQ(DecodeTillOf(*row.read) != nullptr, kept) << row.name;
+    EXPECT_EQ(DecodeUntilOf(*row.read) != nullptr, kept) << row.name;
   }
 }
 

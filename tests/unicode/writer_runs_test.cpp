@@ -11,6 +11,8 @@
 namespace ravo::DIUnicode {
 namespace {
 
+using unicode::EncodeRunOf;
+
 std::u16string RandomUnits(std::mt19937& random, std::size_t size) {
   std::u16string text;
   while (text.size() < size) {

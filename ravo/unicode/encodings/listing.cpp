@@ -1,6 +1,6 @@
+#include <ravo/codec/codecs.h>
 #include <ravo/runtime/text.h>
 #include <ravo/unicode/encodings.h>
-#include <ravo/unicode/encodings/codecs.h>
 
 #include <algorithm>
 #include <array>
@@ -8,13 +8,16 @@
 namespace ravo::DIUnicode {
 namespace {
 
+namespace codecs = codec::codecs;
+using codec::SpanTarget;
+
 #define RAVO_METHODS_Both(name) &Read_##name, &Write_##name
 #define RAVO_METHODS_ReadOnly(name) &Read_##name, nullptr
 #define RAVO_METHODS_WriteOnly(name) nullptr, &Write_##name
 #define RAVO_ENCODING(name, label, code_page, aliases, engine, ways, table, sources, notes) \
   {#name, label, code_page, aliases, #engine, notes, RAVO_METHODS_##ways(name)},
 constexpr EncodingRow kRows[] = {
-#include <ravo/unicode/encodings/rows.inc>
+#include <ravo/codec/rows.inc>
 };
 #undef RAVO_ENCODING
 
@@ -83,7 +86,7 @@ template <class Codec>
 constexpr EncodeAlone EncodeAloneBy() {
   if constexpr (codecs::HasState<Codec>) {
     return [](SpanTarget& target, char16_t ch) {
-      Utf7State state;
+      codec::Utf7State state;
       Codec::Encode(target, state, ch);
       Codec::Flush(target, state);
       return true;
@@ -99,7 +102,7 @@ constexpr EncodeAlone EncodeAloneBy() {
 #define RAVO_ENCODING(name, label, code_page, aliases, engine, ways, table, sources, notes) \
   RAVO_ALONE_##ways(name)
 constexpr EncodeAlone kEncodeAlone[] = {
-#include <ravo/unicode/encodings/rows.inc>
+#include <ravo/codec/rows.inc>
 };
 #undef RAVO_ENCODING
 

@@ -1,197 +1,41 @@
+#include <ravo/codec/kernels/kernel_set.h>
 #include <ravo/unicode/encodings.h>
-#include <ravo/unicode/encodings/codecs.h>
-#include <ravo/unicode/encodings/run_blocks.h>
+#include <ravo/unicode/encodings/runs.h>
 
-#include <algorithm>
-#include <bit>
-
-namespace ravo::DIUnicode {
+namespace ravo::unicode {
 namespace {
 
-// Character by character: what the routines of a reader or writer do, over memory.
-template <class Codec>
-Run DecodeSingly(ByteSpan bytes, TextRoom text) {
-  Run run;
-  for (; run.made < text.size(); ++run.made) {
-    SpanSource source(bytes.subspan(run.taken));
-    char16_t ch = 0;
-    if (!Codec::Decode(source, ch) || source.Exhausted()) break;
-    text[run.made] = ch;
-    run.taken += source.Position();
-  }
-  return run;
-}
-
-template <class Codec>
-Run EncodeSingly(TextSpan text, ByteRoom bytes) {
-  SpanTarget target(bytes);
-  Run run;
-  while (run.taken < text.size() && target.Room() >= Codec::kMostBytes &&
-         Codec::Encode(target, text[run.taken])) {
-    ++run.taken;
-  }
-  run.made = target.Count();
-  return run;
-}
-
-// The blocks that an engine has; none unless said below.
-template <class Codec>
-struct Blocks {
-  static Run Decode(ByteSpan, TextRoom) { return {}; }
-  static Run Encode(TextSpan, ByteRoom) { return {}; }
-};
-
-template <const ByteTable& table>
-struct Blocks<SingleByte<table>> {
-  static Run Decode(ByteSpan bytes, TextRoom text) {
-    if constexpr (!HasAscii(table)) return DecodeSingleByteBlocks(table, bytes, text);
-    // Untested: unreachable in the instances without ASCII.
-    return ChosenRunKernel().decode_single_byte(table, bytes, text);
-  }
-  static Run Encode(TextSpan text, ByteRoom bytes) {
-    return EncodeSingleByteBlocks(Reversed<table>::Table(), HasAscii(table), text, bytes);
-  }
-};
-
-template <>
-struct Blocks<Utf8> {
-  static Run Decode(ByteSpan bytes, TextRoom text) { return ChosenRunKernel().decode_utf8(bytes, text); }
-  static Run Encode(TextSpan text, ByteRoom bytes) { return ChosenRunKernel().encode_utf8(text, bytes); }
-};
-
-template <class Order, bool plain_only>
-struct UnitBlocks {
-  static constexpr bool kSwap = Order::kUpperHalfFirst == (std::endian::native == std::endian::little);
-  static Run Decode(ByteSpan bytes, TextRoom text) {
-    return DecodeUnitBlocks(kSwap, plain_only, bytes, text);
-  }
-  static Run Encode(TextSpan text, ByteRoom bytes) {
-    return EncodeUnitBlocks(kSwap, plain_only, text, bytes);
-  }
-};
-template <class Order>
-struct Blocks<Utf16<Order>> : UnitBlocks<Order, true> {};
-template <class Order>
-struct Blocks<Ucs2<Order>> : UnitBlocks<Order, false> {};
-
-// Blocks as far as they go, then some characters singly, until neither gets on.
-template <class Source, class Target, class InBlocks, class Singly>
-Run Alternate(Source source, Target target, InBlocks in_blocks, Singly singly) {
-  constexpr std::size_t kSome = 16;
-  Run run;
-  for (;;) {
-    const Run blocks = in_blocks(source.subspan(run.taken), target.subspan(run.made));
-    run.taken += blocks.taken;
-    run.made += blocks.made;
-    const Run some = singly(source.subspan(run.taken), target.subspan(run.made), kSome);
-    if (some.taken == 0) return run;
-    run.taken += some.taken;
-    run.made += some.made;
-  }
-}
-
-template <class Codec>
-Run DecodeWith(ByteSpan bytes, TextRoom text) {
-  const auto singly = [](ByteSpan from, TextRoom to, std::size_t count) {
-    return DecodeSingly<Codec>(from, to.first(std::min(to.size(), count)));
-  };
-  return Alternate(bytes, text, Blocks<Codec>::Decode, singly);
-}
-
-template <class Codec>
-Run EncodeWith(TextSpan text, ByteRoom bytes) {
-  const auto singly = [](TextSpan from, ByteRoom to, std::size_t count) {
-    return EncodeSingly<Codec>(from.first(std::min(from.size(), count)), to);
-  };
-  return Alternate(text, bytes, Blocks<Codec>::Encode, singly);
-}
-
-// Untested: runs at compile time only.
-template <class Codec>
-constexpr DecodeRun DecodeBy() {
-  if constexpr (codecs::HasState<Codec>)
-    return nullptr;
-  else
-    return DecodeWith<Codec>;
-}
-
-// Untested: runs at compile time only.
-template <class Codec>
-constexpr EncodeRun EncodeBy() {
-  if constexpr (codecs::HasState<Codec>)
-    return nullptr;
-  else
-    return EncodeWith<Codec>;
-}
-
-// Runs that end before a byte, where bytes below 0x80 are ASCII and nothing else is. UTF-8 has been made so.
-template <class Codec>
-struct Till {
-  static constexpr DecodeTill kDecode = nullptr;
-};
-
-template <const ByteTable& table>
-struct Till<SingleByte<table>> {
-  static RunTill Decode(ByteSpan bytes, TextRoom text, EndBytes ends) {
-    const auto till = ChosenRunKernel().till_single_byte;
-    return till != nullptr ? till(table, bytes, text, ends)
-                           : DecodeTillByBlocks(DecodeWith<SingleByte<table>>, bytes, text, ends);
-  }
-  static constexpr DecodeTill kDecode = KeepsAscii(table) ? Decode : nullptr;
-};
-
-template <>
-struct Till<Utf8> {
-  static RunTill Decode(ByteSpan bytes, TextRoom text, EndBytes ends) {
-    const auto till = ChosenRunKernel().till_utf8;
-    return till != nullptr ? till(bytes, text, ends)
-                           : DecodeTillByBlocks(DecodeWith<Utf8>, bytes, text, ends);
-  }
-  static constexpr DecodeTill kDecode = Decode;
-};
-
-struct Runs {
-  DecodeRun decode;
-  DecodeTill decode_till;
-  EncodeRun encode;
-};
-
-#define RAVO_RUNS_Both(name) \
-  {DecodeBy<codecs::name>(), Till<codecs::name>::kDecode, EncodeBy<codecs::name>()},
-#define RAVO_RUNS_ReadOnly(name) {DecodeBy<codecs::name>(), Till<codecs::name>::kDecode, nullptr},
-#define RAVO_RUNS_WriteOnly(name) {nullptr, nullptr, EncodeBy<codecs::name>()},
-#define RAVO_ENCODING(name, label, code_page, aliases, engine, ways, table, sources, notes) \
-  RAVO_RUNS_##ways(name)
-// In the order of `EncodingRows`.
-constexpr Runs kRuns[] = {
-#include <ravo/unicode/encodings/rows.inc>
-};
-#undef RAVO_ENCODING
-
-constexpr Runs kNone = {nullptr, nullptr, nullptr};
-
-const Runs& RunsOf(const TDIUnicodeReadMethods& methods) noexcept {
-  ChooseRunKernel();
-  const auto rows = EncodingRows();
+template <class Test>
+codec::Runs RunsWhere(Test test) noexcept {
+  codec::ChooseKernels();
+  const auto rows = DIUnicode::EncodingRows();
   for (std::size_t i = 0; i < rows.size(); ++i) {
-    if (rows[i].read != nullptr && rows[i].read->ReadChar == methods.ReadChar) return kRuns[i];
+    if (test(rows[i])) return codec::RunsOfEncodings()[i];
   }
-  return kNone;
+  return {};
+}
+
+codec::Runs RunsOf(const DIUnicode::TDIUnicodeReadMethods& methods) noexcept {
+  return RunsWhere([&methods](const DIUnicode::EncodingRow& row) {
+    return row.read != nullptr && row.read->ReadChar == methods.ReadChar;
+  });
 }
 
 }  // namespace
 
-DecodeRun DecodeRunOf(const TDIUnicodeReadMethods& methods) noexcept { return RunsOf(methods).decode; }
-
-DecodeTill DecodeTillOf(const TDIUnicodeReadMethods& methods) noexcept { return RunsOf(methods).decode_till; }
-
-EncodeRun EncodeRunOf(const TDIUnicodeWriteMethods& methods) noexcept {
-  ChooseRunKernel();
-  const auto rows = EncodingRows();
-  for (std::size_t i = 0; i < rows.size(); ++i) {
-    if (rows[i].write != nullptr && rows[i].write->WriteChar == methods.WriteChar) return kRuns[i].encode;
-  }
-  return nullptr;
+codec::DecodeRun DecodeRunOf(const DIUnicode::TDIUnicodeReadMethods& methods) noexcept {
+  return RunsOf(methods).decode;
 }
 
-}  // namespace ravo::DIUnicode
+codec::DecodeUntil DecodeUntilOf(const DIUnicode::TDIUnicodeReadMethods& methods) noexcept {
+  return RunsOf(methods).decode_until;
+}
+
+codec::EncodeRun EncodeRunOf(const DIUnicode::TDIUnicodeWriteMethods& methods) noexcept {
+  return RunsWhere([&methods](const DIUnicode::EncodingRow& row) {
+           return row.write != nullptr && row.write->WriteChar == methods.WriteChar;
+         })
+      .encode;
+}
+
+}  // namespace ravo::unicode

@@ -1,17 +1,25 @@
 #pragma once
 
-#include <ravo/unicode/encodings/runs.h>
-
 #include <cstddef>
 #include <cstdint>
 #include <span>
 
-/// Runs that end before a given character, for encodings whose bytes below 0x80 are ASCII wherever they
-/// stand, and only these: the end is found among the bytes.
-namespace ravo::DIUnicode {
+/// What engines and kernels take and give: spans of bytes and of UTF-16 units, and how much was done.
+namespace ravo::codec {
+
+using ByteSpan = std::span<const std::uint8_t>;
+using TextSpan = std::span<const char16_t>;
+using ByteRoom = std::span<std::uint8_t>;
+using TextRoom = std::span<char16_t>;
+
+/// How much of a run was done.
+struct Run {
+  std::size_t taken = 0;  ///< units of the source
+  std::size_t made = 0;   ///< units of the result
+};
 
 /// The characters of ASCII that end a run, some of them repeated. One number, which is passed in a register:
-/// what is put together in memory would be waited for.
+/// a struct in memory would stall on store forwarding.
 class EndBytes {
  public:
   constexpr EndBytes(std::uint8_t first, std::uint8_t second, std::uint8_t third) noexcept
@@ -37,21 +45,11 @@ class EndBytes {
 /// Whether more than the last character of a run can be a line break.
 enum class Lines : std::uint32_t { One, MayBeMore };
 
-/// How much of a run was done. It fits in two registers.
-struct RunTill {
+/// How much of a run was done that ends before a byte. It fits in two registers.
+struct RunUntil {
   std::size_t taken = 0;   ///< bytes
-  std::uint32_t made = 0;  ///< characters, not more than a source has bytes
+  std::uint32_t made = 0;  ///< units, at most as many as bytes
   Lines lines = Lines::One;
 };
 
-/// Decodes as `DecodeRun`, up to the first of `ends`, which stays.
-using DecodeTill = RunTill (*)(std::span<const std::uint8_t> bytes, std::span<char16_t> text, EndBytes ends);
-
-/// Null where the encoding has no runs or does not keep ASCII apart.
-[[nodiscard]] DecodeTill DecodeTillOf(const TDIUnicodeReadMethods& methods) noexcept;
-
-/// By the blocks of an encoding's own run.
-[[nodiscard]] RunTill DecodeTillByBlocks(DecodeRun decode, std::span<const std::uint8_t> bytes,
-                                         std::span<char16_t> text, EndBytes ends);
-
-}  // namespace ravo::DIUnicode
+}  // namespace ravo::codec

@@ -1,7 +1,7 @@
-#include <ravo/unicode/encodings/run_blocks.h>
-#include <ravo/unicode/encodings/vector_block.h>
+#include <ravo/codec/kernels/kernel_set.h>
+#include <ravo/codec/kernels/vector_block.h>
 
-namespace ravo::DIUnicode {
+namespace ravo::codec {
 Run DecodeUtf8Ascii(ByteSpan bytes, TextRoom text) noexcept {
   const std::size_t end = WholeBlocks(bytes.size(), text.size());
   std::size_t at = 0;
@@ -16,4 +16,4 @@ Run EncodeUtf8Ascii(TextSpan text, ByteRoom bytes) noexcept {
   return {at, at};
 }
 
-}  // namespace ravo::DIUnicode
+}  // namespace ravo::codec

@@ -1,17 +1,13 @@
-#include <ravo/unicode/encodings/run_till.h>
-#include <ravo/unicode/run_search.h>
+#include <ravo/codec/kernels/run_search.h>
+#include <ravo/codec/run_until.h>
 
 #include <algorithm>
 #include <bit>
 
-namespace ravo::DIUnicode {
+namespace ravo::codec {
 namespace {
 
-using unicode::kSearchBlock;
-using unicode::OneOf;
 using Ends = OneOf<3>;
-using ByteSpan = std::span<const std::uint8_t>;
-using TextRoom = std::span<char16_t>;
 
 std::size_t WholeBlocksOf(std::size_t length) {
   return (length + kSearchBlock - 1) / kSearchBlock * kSearchBlock;
@@ -22,7 +18,7 @@ std::size_t WidenAsciiBefore(ByteSpan bytes, TextRoom to, const Ends& ends) {
   const std::size_t most = std::min(bytes.size(), to.size());
   std::size_t at = 0;
   for (; most - at >= kSearchBlock; at += kSearchBlock) {
-    const unicode::UnitBlock<std::uint8_t> block(bytes.data() + at);
+    const UnitBlock<std::uint8_t> block(bytes.data() + at);
     block.Widen(to.data() + at);
     if (const unsigned hits = ends.HitsIn(block) | block.NoAscii(); hits != 0)
       return at + static_cast<std::size_t>(std::countr_zero(hits));
@@ -35,17 +31,17 @@ std::size_t WidenAsciiBefore(ByteSpan bytes, TextRoom to, const Ends& ends) {
 // makes whole blocks; they do not count: among the last characters, the first one that ends it is the end.
 Run DecodeMixedBefore(DecodeRun decode, ByteSpan bytes, TextRoom to, const Ends& ends) {
   const auto within = bytes.first(std::min(bytes.size(), to.size()));
-  const std::size_t length = unicode::LengthBefore(within, ends);
+  const std::size_t length = LengthBefore(within, ends);
   const Run run = decode(within.first(std::min(WholeBlocksOf(length), within.size())), to);
   if (run.taken <= length) return run;
   if (run.taken == run.made) return {length, length};
   const auto last = std::span<const char16_t>(to.first(run.made)).last(std::min(run.made, kSearchBlock));
-  return {length, run.made - last.size() + unicode::LengthBefore(last, ends)};
+  return {length, run.made - last.size() + LengthBefore(last, ends)};
 }
 
 }  // namespace
 
-RunTill DecodeTillByBlocks(DecodeRun decode, ByteSpan bytes, TextRoom text, EndBytes end_bytes) {
+RunUntil DecodeUntilByBlocks(DecodeRun decode, ByteSpan bytes, TextRoom text, EndBytes end_bytes) {
   const Ends ends(char16_t{end_bytes.First()}, char16_t{end_bytes.Second()}, char16_t{end_bytes.Third()});
   const std::size_t ascii = WidenAsciiBefore(bytes, text, ends);
   Run mixed;
@@ -55,4 +51,4 @@ RunTill DecodeTillByBlocks(DecodeRun decode, ByteSpan bytes, TextRoom text, EndB
           end_bytes.HasBreaks() ? Lines::One : Lines::MayBeMore};
 }
 
-}  // namespace ravo::DIUnicode
+}  // namespace ravo::codec

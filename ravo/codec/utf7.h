@@ -1,12 +1,11 @@
 #pragma once
 
-#include <ravo/unicode/encodings/byte_spans.h>
+#include <ravo/codec/byte_spans.h>
 
 #include <cstdint>
 
-/// UTF-7 of RFC 2152. What a reader or a writer must remember between characters stands in a record of its
-/// own, to which their `State` points.
-namespace ravo::DIUnicode {
+/// UTF-7 of RFC 2152. The caller keeps what is remembered between characters.
+namespace ravo::codec {
 
 struct Utf7State {
   bool in_base64 = false;
@@ -18,20 +17,6 @@ struct Utf7State {
 };
 static_assert(sizeof(Utf7State) == 12);
 
-/// The record behind the state of a reader or writer, made where there is none: a source that was popped
-/// brings its routines back without their `Init`.
-template <class Holder>
-Utf7State& Utf7StateOf(Holder& holder) {
-  if (holder.State() == 0) holder.SetState(reinterpret_cast<std::uintptr_t>(new Utf7State));
-  return *reinterpret_cast<Utf7State*>(holder.State());
-}
-
-template <class Holder>
-void FreeUtf7State(Holder& holder) {
-  delete reinterpret_cast<Utf7State*>(holder.State());
-  holder.SetState(0);
-}
-
 /// The characters that may stand as they are, by RFC 2152.
 enum class Utf7Direct : std::uint8_t { Always, Optional, Never };
 [[nodiscard]] Utf7Direct Utf7DirectKind(char16_t ch) noexcept;
@@ -42,11 +27,6 @@ enum class Utf7Direct : std::uint8_t { Always, Optional, Never };
 
 struct Utf7Decoder {
   static constexpr bool kHasState = true;
-
-  template <class Source>
-  static bool Decode(Source& source, char16_t& ch) {
-    return Decode(source, Utf7StateOf(source), ch);
-  }
 
   template <class Source>
   static bool Decode(Source& source, Utf7State& state, char16_t& ch) {
@@ -106,11 +86,6 @@ struct Utf7Encoder {
   static constexpr bool kHasState = true;
 
   template <class Target>
-  static bool Encode(Target& target, char16_t ch) {
-    return Encode(target, Utf7StateOf(target), ch);
-  }
-
-  template <class Target>
   static bool Encode(Target& target, Utf7State& state, char16_t ch) {
     if (Utf7DirectKind(ch) <= most) {
       if (state.in_base64)
@@ -154,4 +129,4 @@ struct Utf7 : Utf7Decoder, Utf7Encoder<Utf7Direct::Always> {
   using Utf7Decoder::kHasState;
 };
 
-}  // namespace ravo::DIUnicode
+}  // namespace ravo::codec

@@ -1,22 +1,15 @@
 #pragma once
 
-#include <ravo/unicode/encodings/run_till.h>
-#include <ravo/unicode/encodings/single_byte.h>
+#include <ravo/codec/run.h>
+#include <ravo/codec/single_byte.h>
 
 #include <atomic>
-#include <cstddef>
-#include <cstdint>
 #include <span>
 #include <string_view>
 
 /// Fast paths of whole runs: blocks of characters at once. Each does as many blocks as it can, gives what the
 /// engine of one character gives, and leaves what it does not take, and the end, to that.
-namespace ravo::DIUnicode {
-
-using ByteSpan = std::span<const std::uint8_t>;
-using TextSpan = std::span<const char16_t>;
-using ByteRoom = std::span<std::uint8_t>;
-using TextRoom = std::span<char16_t>;
+namespace ravo::codec {
 
 /// Any table, and one with ASCII.
 [[nodiscard]] Run DecodeSingleByteBlocks(const ByteTable& table, ByteSpan bytes, TextRoom text) noexcept;
@@ -31,39 +24,43 @@ using TextRoom = std::span<char16_t>;
 [[nodiscard]] Run DecodeUnitBlocks(bool swap, bool plain_only, ByteSpan bytes, TextRoom text) noexcept;
 [[nodiscard]] Run EncodeUnitBlocks(bool swap, bool plain_only, TextSpan text, ByteRoom bytes) noexcept;
 
-/// One way to do blocks. `till_...` may be null: by the blocks, then.
-struct RunKernel {
+/// One way to do blocks. A null `..._until` means: by the blocks of the other function.
+struct KernelSet {
   std::string_view name;
   bool (*runs_here)() noexcept;
   Run (*decode_utf8)(ByteSpan bytes, TextRoom text) noexcept;
   Run (*encode_utf8)(TextSpan text, ByteRoom bytes) noexcept;
   /// For tables with ASCII.
   Run (*decode_single_byte)(const ByteTable& table, ByteSpan bytes, TextRoom text) noexcept;
-  RunTill (*till_utf8)(ByteSpan bytes, TextRoom text, EndBytes ends) noexcept;
-  RunTill (*till_single_byte)(const ByteTable& table, ByteSpan bytes, TextRoom text, EndBytes ends) noexcept;
+  Run (*encode_single_byte)(const ReverseTable& table, bool ascii, TextSpan text, ByteRoom bytes) noexcept;
+  Run (*decode_units)(bool swap, bool plain_only, ByteSpan bytes, TextRoom text) noexcept;
+  Run (*encode_units)(bool swap, bool plain_only, TextSpan text, ByteRoom bytes) noexcept;
+  RunUntil (*decode_utf8_until)(ByteSpan bytes, TextRoom text, EndBytes ends) noexcept;
+  RunUntil (*decode_single_byte_until)(const ByteTable& table, ByteSpan bytes, TextRoom text,
+                                       EndBytes ends) noexcept;
 };
 
 /// All of them, the plain one first and the fastest last.
-[[nodiscard]] std::span<const RunKernel> RunKernels() noexcept;
+[[nodiscard]] std::span<const KernelSet> KernelSets() noexcept;
 /// Chooses the fastest that runs here when it is called for the first time; a call while another thread
 /// chooses does not wait. What gives runs to others calls it first.
-void ChooseRunKernel() noexcept;
+void ChooseKernels() noexcept;
 /// The chosen one; before, one that runs everywhere.
-extern constinit std::atomic<const RunKernel*> chosen_run_kernel;
-[[nodiscard]] inline const RunKernel& ChosenRunKernel() noexcept {
-  return *chosen_run_kernel.load(std::memory_order_relaxed);
+extern constinit std::atomic<const KernelSet*> chosen_kernels;
+[[nodiscard]] inline const KernelSet& ChosenKernels() noexcept {
+  return *chosen_kernels.load(std::memory_order_relaxed);
 }
 
 /// Makes a kernel the chosen one while it lives. For tests, one at a time.
-class ScopedRunKernel {
+class ScopedKernels {
  public:
-  explicit ScopedRunKernel(const RunKernel& kernel) noexcept;
-  ~ScopedRunKernel();
-  ScopedRunKernel(const ScopedRunKernel&) = delete;
-  ScopedRunKernel& operator=(const ScopedRunKernel&) = delete;
+  explicit ScopedKernels(const KernelSet& kernel) noexcept;
+  ~ScopedKernels();
+  ScopedKernels(const ScopedKernels&) = delete;
+  ScopedKernels& operator=(const ScopedKernels&) = delete;
 
  private:
-  const RunKernel* previous_;
+  const KernelSet* previous_;
 };
 
 /// Blocks of ASCII.
@@ -79,9 +76,9 @@ class ScopedRunKernel {
 /// ASCII.
 [[nodiscard]] Run DecodeUtf8Wide(ByteSpan bytes, TextRoom text) noexcept;
 [[nodiscard]] Run DecodeSingleByteWide(const ByteTable& table, ByteSpan bytes, TextRoom text) noexcept;
-[[nodiscard]] RunTill DecodeUtf8TillWide(ByteSpan bytes, TextRoom text, EndBytes ends) noexcept;
-[[nodiscard]] RunTill DecodeSingleByteTillWide(const ByteTable& table, ByteSpan bytes, TextRoom text,
-                                               EndBytes ends) noexcept;
+[[nodiscard]] RunUntil DecodeUtf8UntilWide(ByteSpan bytes, TextRoom text, EndBytes ends) noexcept;
+[[nodiscard]] RunUntil DecodeSingleByteUntilWide(const ByteTable& table, ByteSpan bytes, TextRoom text,
+                                                 EndBytes ends) noexcept;
 [[nodiscard]] bool HasWideBlocks() noexcept;
 
-}  // namespace ravo::DIUnicode
+}  // namespace ravo::codec

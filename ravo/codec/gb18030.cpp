@@ -1,15 +1,15 @@
-#include <ravo/unicode/encodings/gb18030.h>
+#include <ravo/codec/gb18030.h>
 
 #include <algorithm>
 #include <array>
 #include <iterator>
 
-namespace ravo::DIUnicode {
+namespace ravo::codec {
 namespace {
 
 constexpr std::size_t kTrails = 190;
 constexpr char16_t kTwoBytes[126 * kTrails] = {
-#include <ravo/unicode/encodings/generated/gb18030_two_bytes.inc>
+#include <ravo/codec/generated/gb18030_two_bytes.inc>
 };
 
 // Characters go on by one up to the next run; U+FFFD stands for a run of numbers without character.
@@ -19,7 +19,7 @@ struct RunOfFour {
 };
 
 constexpr RunOfFour kFourBytes[] = {
-#include <ravo/unicode/encodings/generated/gb18030_four_bytes.inc>
+#include <ravo/codec/generated/gb18030_four_bytes.inc>
 };
 
 }  // namespace
@@ -37,4 +37,4 @@ char16_t Gb18030OfFour(std::uint32_t number) noexcept {
   return run.ch == kReplacement ? kReplacement : static_cast<char16_t>(run.ch + (number - run.number));
 }
 
-}  // namespace ravo::DIUnicode
+}  // namespace ravo::codec

@@ -1,13 +1,13 @@
 #pragma once
 
-#include <ravo/unicode/encodings/byte_order.h>
-#include <ravo/unicode/encodings/byte_spans.h>
+#include <ravo/codec/byte_order.h>
+#include <ravo/codec/byte_spans.h>
 
 #include <cstddef>
 #include <utility>
 
 /// The encodings of two and of four bytes. A unit that the end of the data cuts short ends the data.
-namespace ravo::DIUnicode {
+namespace ravo::codec {
 
 template <class Order>
 struct Ucs2 {
@@ -88,4 +88,4 @@ struct Utf32 {
   }
 };
 
-}  // namespace ravo::DIUnicode
+}  // namespace ravo::codec

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <ravo/unicode/encodings/byte_spans.h>
+#include <ravo/codec/byte_spans.h>
 
 #include <cstdint>
 
-namespace ravo::DIUnicode {
+namespace ravo::codec {
 
 /// The character of two bytes, 81 to FE and 40 to FE without 7F.
 [[nodiscard]] char16_t Gb18030OfTwo(std::uint8_t lead, std::uint8_t trail) noexcept;
@@ -49,4 +49,4 @@ struct Gb18030 {
   }
 };
 
-}  // namespace ravo::DIUnicode
+}  // namespace ravo::codec

@@ -1,9 +1,9 @@
-#include <ravo/unicode/encodings/run_blocks.h>
-#include <ravo/unicode/encodings/vector_block.h>
+#include <ravo/codec/kernels/kernel_set.h>
+#include <ravo/codec/kernels/vector_block.h>
 
 #include <array>
 
-namespace ravo::DIUnicode {
+namespace ravo::codec {
 namespace {
 
 // In a text of words with accents hardly so many characters in a row are ASCII: whether they are is foreseen
@@ -112,4 +112,4 @@ Run EncodeSingleByteBlocks(const ReverseTable& table, bool ascii, TextSpan text,
   return {end, end};
 }
 
-}  // namespace ravo::DIUnicode
+}  // namespace ravo::codec

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-namespace ravo::DIUnicode {
+namespace ravo::codec {
 
 struct BigEndian {
   template <class Source>
@@ -40,4 +40,4 @@ struct LittleEndian {
   static constexpr bool kUpperHalfFirst = false;
 };
 
-}  // namespace ravo::DIUnicode
+}  // namespace ravo::codec

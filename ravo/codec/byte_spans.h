@@ -5,7 +5,7 @@
 #include <span>
 
 /// Bytes in memory in the place of a reader's source and of a writer's data, for the engines of encodings.
-namespace ravo::DIUnicode {
+namespace ravo::codec {
 
 /// What every engine gives for bytes that mean nothing to it.
 inline constexpr char16_t kReplacement = 0xFFFD;
@@ -56,4 +56,4 @@ class SpanTarget {
   std::size_t count_ = 0;
 };
 
-}  // namespace ravo::DIUnicode
+}  // namespace ravo::codec

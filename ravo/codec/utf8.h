@@ -1,11 +1,11 @@
 #pragma once
 
-#include <ravo/unicode/encodings/byte_spans.h>
+#include <ravo/codec/byte_spans.h>
 
 #include <array>
 #include <cstdint>
 
-namespace ravo::DIUnicode {
+namespace ravo::codec {
 
 /// UTF-8 of units of UTF-16, each by itself.
 struct Utf8 {
@@ -71,4 +71,4 @@ struct Utf8 {
   }
 };
 
-}  // namespace ravo::DIUnicode
+}  // namespace ravo::codec

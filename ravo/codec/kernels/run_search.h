@@ -14,7 +14,7 @@
 
 /// How far units of some kind go at the front of a run, sixteen at a time. A unit is a UTF-16 unit, or a byte
 /// of a text whose bytes below 0x80 are ASCII.
-namespace ravo::unicode {
+namespace ravo::codec {
 
 inline constexpr std::size_t kSearchBlock = 16;
 
@@ -212,4 +212,4 @@ template <class Unit, class Kind>
   return at;
 }
 
-}  // namespace ravo::unicode
+}  // namespace ravo::codec

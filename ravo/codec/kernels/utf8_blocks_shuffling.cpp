@@ -1,5 +1,5 @@
-#include <ravo/unicode/encodings/run_blocks.h>
-#include <ravo/unicode/encodings/vector_block.h>
+#include <ravo/codec/kernels/kernel_set.h>
+#include <ravo/codec/kernels/vector_block.h>
 
 // Text whose characters have one or two bytes, as that of European languages: the bytes or units that mean
 // nothing are shuffled out of a block. Vectors of 128 bits only: the stack of a 64-bit Windows program aligns
@@ -11,7 +11,7 @@
 
 #define RAVO_SHUFFLING __attribute__((target("ssse3,popcnt")))
 
-namespace ravo::DIUnicode {
+namespace ravo::codec {
 namespace {
 
 constexpr std::uint8_t kNothing = 0x80;
@@ -146,16 +146,16 @@ bool HasByteShuffle() noexcept {
   return __builtin_cpu_supports("ssse3") != 0 && __builtin_cpu_supports("popcnt") != 0;
 }
 
-}  // namespace ravo::DIUnicode
+}  // namespace ravo::codec
 
 #else
 
-namespace ravo::DIUnicode {
+namespace ravo::codec {
 
 Run DecodeUtf8Shuffling(ByteSpan, TextRoom) noexcept { return {}; }
 Run EncodeUtf8Shuffling(TextSpan, ByteRoom) noexcept { return {}; }
 bool HasByteShuffle() noexcept { return false; }
 
-}  // namespace ravo::DIUnicode
+}  // namespace ravo::codec
 
 #endif

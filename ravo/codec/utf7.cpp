@@ -1,9 +1,9 @@
-#include <ravo/unicode/encodings/utf7.h>
+#include <ravo/codec/utf7.h>
 
 #include <array>
 #include <string_view>
 
-namespace ravo::DIUnicode {
+namespace ravo::codec {
 namespace {
 
 constexpr std::string_view kLettersAndDigits =
@@ -48,4 +48,4 @@ std::uint8_t Base64Byte(std::uint32_t six_bits) noexcept {
   return static_cast<std::uint8_t>(kBase64[six_bits & 0x3F]);
 }
 
-}  // namespace ravo::DIUnicode
+}  // namespace ravo::codec

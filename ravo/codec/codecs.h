@@ -1,14 +1,14 @@
 #pragma once
 
-#include <ravo/unicode/encodings/gb18030.h>
-#include <ravo/unicode/encodings/generated/single_byte_tables.h>
-#include <ravo/unicode/encodings/utf7.h>
-#include <ravo/unicode/encodings/utf8.h>
-#include <ravo/unicode/encodings/wide_units.h>
+#include <ravo/codec/gb18030.h>
+#include <ravo/codec/generated/single_byte_tables.h>
+#include <ravo/codec/utf7.h>
+#include <ravo/codec/utf8.h>
+#include <ravo/codec/wide_units.h>
 
 /// The codec of every encoding, under its name: its engine over its table. A codec has `Decode` over a source
 /// of bytes, `Encode` over a target, or both; `kHasState` where it keeps something between characters.
-namespace ravo::DIUnicode::codecs {
+namespace ravo::codec::codecs {
 
 #define RAVO_CODEC_SingleByte(table) SingleByte<tables::k##table>
 #define RAVO_CODEC_Utf8(table) Utf8
@@ -24,7 +24,7 @@ namespace ravo::DIUnicode::codecs {
 // NOLINTBEGIN(bugprone-macro-parentheses)
 #define RAVO_ENCODING(name, label, code_page, aliases, engine, ways, table, sources, notes) \
   using name = RAVO_CODEC_##engine(table);
-#include <ravo/unicode/encodings/rows.inc>
+#include <ravo/codec/rows.inc>
 #undef RAVO_ENCODING
 // NOLINTEND(bugprone-macro-parentheses)
 
@@ -43,4 +43,4 @@ concept HasState = requires {
   Codec::kHasState;
 };
 
-}  // namespace ravo::DIUnicode::codecs
+}  // namespace ravo::codec::codecs

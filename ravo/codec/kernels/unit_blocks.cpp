@@ -1,8 +1,8 @@
-#include <ravo/unicode/encodings/byte_spans.h>
-#include <ravo/unicode/encodings/run_blocks.h>
-#include <ravo/unicode/encodings/vector_block.h>
+#include <ravo/codec/byte_spans.h>
+#include <ravo/codec/kernels/kernel_set.h>
+#include <ravo/codec/kernels/vector_block.h>
 
-namespace ravo::DIUnicode {
+namespace ravo::codec {
 namespace {
 
 constexpr std::size_t kUnits = 8;
@@ -64,4 +64,4 @@ Run EncodeUnitBlocks(bool swap, bool plain_only, TextSpan text, ByteRoom bytes) 
   return run;
 }
 
-}  // namespace ravo::DIUnicode
+}  // namespace ravo::codec

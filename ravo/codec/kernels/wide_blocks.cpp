@@ -1,4 +1,4 @@
-#include <ravo/unicode/encodings/run_blocks.h>
+#include <ravo/codec/kernels/kernel_set.h>
 
 // Sixty-four bytes at once, by the vectors of 512 bits: every mix of characters of one to three bytes takes
 // the same way, and what ends a run is found on it.
@@ -10,7 +10,7 @@
 
 #define RAVO_WIDE __attribute__((target("avx512f,avx512bw,avx512vl,avx512vbmi2,bmi,bmi2,popcnt")))
 
-namespace ravo::DIUnicode {
+namespace ravo::codec {
 namespace {
 
 constexpr std::size_t kWide = 64;
@@ -310,7 +310,7 @@ RAVO_WIDE inline void WidenAll(const std::uint8_t* from, std::size_t length, cha
 }
 
 template <class Maker>
-RAVO_WIDE inline RunTill DecodeTillEnd(Maker make_engine, ByteSpan bytes, TextRoom text, EndBytes ends) {
+RAVO_WIDE inline RunUntil DecodeUntilEnd(Maker make_engine, ByteSpan bytes, TextRoom text, EndBytes ends) {
   const End end = EndSearch(ends).In(bytes.first(std::min(bytes.size(), text.size())));
   const std::size_t touched = end.at + 2 * kWide;
   const bool free = touched <= bytes.size() && touched <= text.size();
@@ -333,13 +333,13 @@ RAVO_WIDE Run DecodeUtf8Wide(ByteSpan bytes, TextRoom text) noexcept {
   return DecodeBlocks<false>(WideUtf8{}, bytes, std::min(bytes.size(), text.size()), text);
 }
 
-RAVO_WIDE RunTill DecodeSingleByteTillWide(const ByteTable& table, ByteSpan bytes, TextRoom text,
-                                           EndBytes ends) noexcept {
-  return DecodeTillEnd(WideSingleByte::Maker{table}, bytes, text, ends);
+RAVO_WIDE RunUntil DecodeSingleByteUntilWide(const ByteTable& table, ByteSpan bytes, TextRoom text,
+                                             EndBytes ends) noexcept {
+  return DecodeUntilEnd(WideSingleByte::Maker{table}, bytes, text, ends);
 }
 
-RAVO_WIDE RunTill DecodeUtf8TillWide(ByteSpan bytes, TextRoom text, EndBytes ends) noexcept {
-  return DecodeTillEnd(WideUtf8::Maker{}, bytes, text, ends);
+RAVO_WIDE RunUntil DecodeUtf8UntilWide(ByteSpan bytes, TextRoom text, EndBytes ends) noexcept {
+  return DecodeUntilEnd(WideUtf8::Maker{}, bytes, text, ends);
 }
 
 bool HasWideBlocks() noexcept {
@@ -349,18 +349,18 @@ bool HasWideBlocks() noexcept {
          __builtin_cpu_supports("bmi2") != 0 && __builtin_cpu_supports("popcnt") != 0;
 }
 
-}  // namespace ravo::DIUnicode
+}  // namespace ravo::codec
 
 #else
 
-namespace ravo::DIUnicode {
+namespace ravo::codec {
 
 Run DecodeSingleByteWide(const ByteTable&, ByteSpan, TextRoom) noexcept { return {}; }
 Run DecodeUtf8Wide(ByteSpan, TextRoom) noexcept { return {}; }
-RunTill DecodeSingleByteTillWide(const ByteTable&, ByteSpan, TextRoom, EndBytes) noexcept { return {}; }
-RunTill DecodeUtf8TillWide(ByteSpan, TextRoom, EndBytes) noexcept { return {}; }
+RunUntil DecodeSingleByteUntilWide(const ByteTable&, ByteSpan, TextRoom, EndBytes) noexcept { return {}; }
+RunUntil DecodeUtf8UntilWide(ByteSpan, TextRoom, EndBytes) noexcept { return {}; }
 bool HasWideBlocks() noexcept { return false; }
 
-}  // namespace ravo::DIUnicode
+}  // namespace ravo::codec
 
 #endif

@@ -9,7 +9,7 @@
 #endif
 
 /// Sixteen characters at once, by SSE2 where the compiler has it.
-namespace ravo::DIUnicode {
+namespace ravo::codec {
 
 inline constexpr std::size_t kBlock = 16;
 
@@ -78,4 +78,4 @@ constexpr std::size_t WholeBlocks(std::size_t source, std::size_t room, std::siz
   return (source < room ? source : room) / block * block;
 }
 
-}  // namespace ravo::DIUnicode
+}  // namespace ravo::codec

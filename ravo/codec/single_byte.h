@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ravo/unicode/encodings/byte_spans.h>
+#include <ravo/codec/byte_spans.h>
 
 #include <algorithm>
 #include <array>
@@ -9,7 +9,7 @@
 
 /// The engine of the single-byte encodings: a table of 256 characters, and its reverse, made from it when
 /// the library is compiled.
-namespace ravo::DIUnicode {
+namespace ravo::codec {
 
 using ByteTable = std::array<char16_t, 256>;
 
@@ -134,4 +134,4 @@ struct SingleByte {
   }
 };
 
-}  // namespace ravo::DIUnicode
+}  // namespace ravo::codec
