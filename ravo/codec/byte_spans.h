@@ -1,23 +1,20 @@
 #pragma once
 
+#include <ravo/codec/run.h>
+
 #include <cstddef>
 #include <cstdint>
-#include <span>
 
-/// Bytes in memory in the place of a reader's source and of a writer's data, for the engines of encodings.
+/// Bytes in memory as what engines read from and write to.
+///
+/// An engine reads from a source (`PeekByte`, `SkipByte`, `NextByte`) and writes to a target (`WriteByte`):
+/// these two, or a caller's own that refills and flushes on the way.
 namespace ravo::codec {
 
-/// What every engine gives for bytes that mean nothing to it.
-inline constexpr char16_t kReplacement = 0xFFFD;
-
-[[nodiscard]] constexpr bool IsSurrogate(std::uint32_t unit) noexcept {
-  return (unit & 0xFFFFF800) == 0xD800;
-}
-
-/// A source as `TDIUnicodeReader` is one. It remembers whether somebody asked for a byte behind the end.
+/// A source that remembers whether a byte past the end was asked for.
 class SpanSource {
  public:
-  explicit SpanSource(std::span<const std::uint8_t> bytes) noexcept : bytes_(bytes) {}
+  explicit SpanSource(ByteSpan bytes) noexcept : bytes_(bytes) {}
 
   [[nodiscard]] bool PeekByte(std::uint8_t& byte) noexcept {
     if (position_ == bytes_.size()) {
@@ -37,22 +34,22 @@ class SpanSource {
   [[nodiscard]] bool Exhausted() const noexcept { return exhausted_; }
 
  private:
-  std::span<const std::uint8_t> bytes_;
+  ByteSpan bytes_;
   std::size_t position_ = 0;
   bool exhausted_ = false;
 };
 
-/// A target as `TDIUnicodeWriter` is one; whoever fills it sees to the room.
+/// A target with room for what is written; the caller sees to that.
 class SpanTarget {
  public:
-  explicit SpanTarget(std::span<std::uint8_t> bytes) noexcept : bytes_(bytes) {}
+  explicit SpanTarget(ByteRoom bytes) noexcept : bytes_(bytes) {}
 
   void WriteByte(std::uint8_t byte) noexcept { bytes_[count_++] = byte; }
   [[nodiscard]] std::size_t Count() const noexcept { return count_; }
   [[nodiscard]] std::size_t Room() const noexcept { return bytes_.size() - count_; }
 
  private:
-  std::span<std::uint8_t> bytes_;
+  ByteRoom bytes_;
   std::size_t count_ = 0;
 };
 

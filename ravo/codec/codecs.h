@@ -2,6 +2,7 @@
 
 #include <ravo/codec/gb18030.h>
 #include <ravo/codec/generated/single_byte_tables.h>
+#include <ravo/codec/single_byte.h>
 #include <ravo/codec/utf7.h>
 #include <ravo/codec/utf8.h>
 #include <ravo/codec/wide_units.h>

@@ -12,11 +12,27 @@ using TextSpan = std::span<const char16_t>;
 using ByteRoom = std::span<std::uint8_t>;
 using TextRoom = std::span<char16_t>;
 
+/// What every engine gives for bytes that mean nothing to it.
+inline constexpr char16_t kReplacement = 0xFFFD;
+
+[[nodiscard]] constexpr bool IsSurrogate(std::uint32_t unit) noexcept {
+  return (unit & 0xFFFFF800) == 0xD800;
+}
+
 /// How much of a run was done.
 struct Run {
   std::size_t taken = 0;  ///< units of the source
   std::size_t made = 0;   ///< units of the result
 };
+
+/// Decodes characters from `bytes` into `text` while they are whole and there is room, U+FFFD for what is
+/// malformed. Needs no state. May write beyond what it made, within `text`. May stop at any character
+/// boundary, also at once.
+using DecodeRun = Run (*)(ByteSpan bytes, TextRoom text);
+
+/// Encodes `text` into `bytes` while the encoding has the characters and there is room for its longest one.
+/// May write beyond what it made, within `bytes`.
+using EncodeRun = Run (*)(TextSpan text, ByteRoom bytes);
 
 /// The characters of ASCII that end a run, some of them repeated. One number, which is passed in a register:
 /// a struct in memory would stall on store forwarding.
@@ -51,5 +67,8 @@ struct RunUntil {
   std::uint32_t made = 0;  ///< units, at most as many as bytes
   Lines lines = Lines::One;
 };
+
+/// Decodes as `DecodeRun`, up to the first of `ends`, which stays.
+using DecodeUntil = RunUntil (*)(ByteSpan bytes, TextRoom text, EndBytes ends);
 
 }  // namespace ravo::codec

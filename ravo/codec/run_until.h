@@ -1,12 +1,11 @@
 #pragma once
 
-#include <ravo/codec/runs.h>
+#include <ravo/codec/run.h>
 
-/// Runs that end before a given character, for encodings whose bytes below 0x80 are ASCII wherever they
-/// stand, and only these: the end is found among the bytes.
 namespace ravo::codec {
 
-/// By the blocks of an encoding's own run.
+/// Decodes as `DecodeRun`, up to the first of `ends`, which stays: by the blocks of `decode`. For encodings
+/// whose bytes below 0x80 are ASCII wherever they are, and only these.
 [[nodiscard]] RunUntil DecodeUntilByBlocks(DecodeRun decode, ByteSpan bytes, TextRoom text, EndBytes ends);
 
 }  // namespace ravo::codec

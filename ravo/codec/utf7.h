@@ -1,21 +1,12 @@
 #pragma once
 
 #include <ravo/codec/byte_spans.h>
+#include <ravo/codec/utf7_state.h>
 
 #include <cstdint>
 
 /// UTF-7 of RFC 2152. The caller keeps what is remembered between characters.
 namespace ravo::codec {
-
-struct Utf7State {
-  bool in_base64 = false;
-  bool empty = false;          ///< the run has had no byte of base 64 yet
-  std::uint8_t bit_count = 0;  ///< of `bits`, those that make no whole unit or byte yet
-  std::uint8_t unused = 0;
-  std::uint32_t bits = 0;
-  std::uint32_t unused_too = 0;
-};
-static_assert(sizeof(Utf7State) == 12);
 
 /// The characters that may stand as they are, by RFC 2152.
 enum class Utf7Direct : std::uint8_t { Always, Optional, Never };

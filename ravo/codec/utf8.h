@@ -1,18 +1,18 @@
 #pragma once
 
 #include <ravo/codec/byte_spans.h>
+#include <ravo/codec/policies.h>
 
 #include <array>
 #include <cstdint>
 
 namespace ravo::codec {
 
-/// UTF-8 of units of UTF-16, each by itself.
-struct Utf8 {
+/// UTF-8 of units of UTF-16, each by itself, by one of the policies of policies.h.
+template <class Policy>
+struct Utf8Engine {
   static constexpr std::size_t kMostBytes = 3;
 
-  /// A sequence that is cut short or not the shortest, a byte that begins none, and every sequence of four to
-  /// six bytes give U+FFFD. What does not continue a sequence is left for the next character.
   template <class Source>
   static bool Decode(Source& source, char16_t& ch) {
     std::uint8_t lead = 0;
@@ -48,7 +48,7 @@ struct Utf8 {
     if (lead < 0xF0) return 2;
     if (lead < 0xF8) return 3;
     if (lead < 0xFC) return 4;
-    return lead < 0xFE ? 5 : 0;
+    return lead < 0xFE ? 5 : Policy::kTrailsOfLastLeads;
   }
 
   template <class Source>
@@ -70,5 +70,7 @@ struct Utf8 {
                                                                     : kReplacement;
   }
 };
+
+using Utf8 = Utf8Engine<Utf8OfEncodings>;
 
 }  // namespace ravo::codec

@@ -1,7 +1,7 @@
 // The families that read and skip, each from one loop. Where the encoding decodes whole runs, what belongs is
 // passed over at once, and the reader stands as if it had read the characters one by one.
 #include <ravo/codec/kernels/run_search.h>
-#include <ravo/codec/runs.h>
+#include <ravo/codec/run.h>
 #include <ravo/unicode/characters/character_kinds.h>
 #include <ravo/unicode/predicates.h>
 #include <ravo/unicode/unicode_reader.h>

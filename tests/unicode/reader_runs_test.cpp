@@ -2,7 +2,7 @@
 // kind of source.
 #include "decoded_sources.h"
 #include <ravo/codec/kernels/kernel_set.h>
-#include <ravo/unicode/encodings/runs.h>
+#include <ravo/unicode/encodings/encoding_of.h>
 
 #include <array>
 #include <functional>
@@ -18,7 +18,7 @@ namespace {
 using codec::KernelSet;
 using codec::KernelSets;
 using codec::ScopedKernels;
-using unicode::DecodeRunOf;
+using unicode::EncodingOf;
 
 using Reader = TDIUnicodeReader;
 using Way = test::SourceUnderTest::Way;
@@ -191,8 +191,8 @@ std::string BytesFor(const Encoding& encoding, std::mt19937& random, std::size_t
 TEST(WholeRuns, AreKnownForTheseEncodings) {
   for (const Encoding& encoding : kEncodings) {
     if (encoding.name == "GB_18030") continue;
-    EXPECT_NE(DecodeRunOf(encoding.known), nullptr) << encoding.name;
-    EXPECT_EQ(DecodeRunOf(encoding.unknown), nullptr) << encoding.name;
+    EXPECT_NE(EncodingOf(encoding.known), nullptr) << encoding.name;
+    EXPECT_EQ(EncodingOf(encoding.unknown), nullptr) << encoding.name;
   }
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <ravo/codec/run.h>
-#include <ravo/codec/single_byte.h>
+#include <ravo/codec/single_byte_table.h>
 
 #include <atomic>
 #include <span>

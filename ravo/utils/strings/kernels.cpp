@@ -1,7 +1,5 @@
 #include <ravo/utils/strings/find_wide.h>
 #include <ravo/utils/strings/kernels.h>
-#include <ravo/utils/strings/utf8_kernels.h>
-#include <ravo/utils/strings/utf8_shuffled.h>
 
 #include <algorithm>
 #include <array>
@@ -17,11 +15,9 @@ std::size_t PassNothingOver(const Char*, const Char*, std::size_t, const Char (&
   return 0;
 }
 
-constexpr std::array<StringKernel, 3> kKernels = {{
-    {"everywhere", RunsEverywhere, PassNothingOver<char>, PassNothingOver<char16_t>, DecodeUtf8, EncodeUtf8},
-    {"shuffles", CanShuffle, PassNothingOver<char>, PassNothingOver<char16_t>, DecodeUtf8Shuffled,
-     EncodeUtf8Shuffled},
-    {"wide", CanPassOverWidely, PassOverWidely, PassOverWidely, DecodeUtf8Shuffled, EncodeUtf8Shuffled},
+constexpr std::array<StringKernel, 2> kKernels = {{
+    {"everywhere", RunsEverywhere, PassNothingOver<char>, PassNothingOver<char16_t>},
+    {"wide", CanPassOverWidely, PassOverWidely, PassOverWidely},
 }};
 
 // Two threads that come first together choose the same.

@@ -20,10 +20,6 @@ struct StringKernel {
   bool (*runs_here)() noexcept;
   PassOver<char> pass_over_bytes;
   PassOver<char16_t> pass_over_units;
-  /// Decodes UTF-8 into `out`, which has room for one unit per byte; gives the end of what was written.
-  char16_t* (*decode_utf8)(std::string_view bytes, char16_t* out) noexcept;
-  /// Encodes into `out`, which has room for three bytes per unit; gives the end as above.
-  char* (*encode_utf8)(std::u16string_view text, char* out) noexcept;
 };
 
 /// All of them, the one that runs everywhere first.

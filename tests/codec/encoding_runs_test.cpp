@@ -1,8 +1,7 @@
 // Whole runs against single characters, with sources and room that end at a guard page.
-#include "encoding_texts.h"
+#include "one_by_one.h"
 #include "support/guarded_buffer.h"
 #include <ravo/codec/kernels/kernel_set.h>
-#include <ravo/unicode/encodings/runs.h>
 
 #include <algorithm>
 #include <random>
@@ -10,26 +9,16 @@
 
 #include <gtest/gtest.h>
 
-namespace ravo::DIUnicode {
+namespace ravo::codec {
 namespace {
 
-using codec::EndBytes;
-using codec::KernelSet;
-using codec::KernelSets;
-using codec::Lines;
-using codec::RunUntil;
-using codec::ScopedKernels;
-using unicode::DecodeRunOf;
-using unicode::DecodeUntilOf;
-using unicode::EncodeRunOf;
-
-using test::Read;
-using test::Write;
+using test::ReadOneByOne;
+using test::WriteOneByOne;
 
 using Bytes = std::vector<std::uint8_t>;
 
 // Runs as far as they go, a single character where they stop, as a reader does it. Room at a guard page.
-std::u16string ByRuns(const EncodingRow& row, const Bytes& bytes, std::size_t room) {
+std::u16string ByRuns(const Encoding& row, const Bytes& bytes, std::size_t room) {
   const test::GuardedBuffer source(std::as_bytes(std::span(bytes)));
   const std::vector<std::byte> empty(2 * room);
   const test::GuardedBuffer target(empty);
@@ -37,11 +26,11 @@ std::u16string ByRuns(const EncodingRow& row, const Bytes& bytes, std::size_t ro
   const std::span to(reinterpret_cast<char16_t*>(target.Bytes().data()), room);
   std::u16string text;
   for (std::size_t at = 0;;) {
-    const auto run = DecodeRunOf(*row.read)(from.subspan(at), to);
+    const auto run = row.decode_run(from.subspan(at), to);
     text.append(to.data(), run.made);
     at += run.taken;
     if (run.made > 0) continue;
-    const std::u16string rest = Read(*row.read, test::TextOf(from.subspan(at)));
+    const std::u16string rest = ReadOneByOne(row, test::TextOf(from.subspan(at)));
     return text + rest;
   }
 }
@@ -60,7 +49,7 @@ Bytes RandomBytes(std::mt19937& random, std::string_view alphabet) {
   return bytes;
 }
 
-std::string_view AlphabetOf(const EncodingRow& row) {
+std::string_view AlphabetOf(const Encoding& row) {
   static const std::string all = [] {
     std::string bytes;
     for (int byte = 0; byte < 256; ++byte) bytes += static_cast<char>(byte);
@@ -84,11 +73,11 @@ class EncodingRunsOfKernel : public ::testing::TestWithParam<KernelSet> {
 
 TEST_P(EncodingRunsOfKernel, DecodeWhatSingleCharactersDecode) {
   std::mt19937 random(1);
-  for (const EncodingRow& row : EncodingRows()) {
-    if (row.read == nullptr || DecodeRunOf(*row.read) == nullptr) continue;
+  for (const Encoding& row : Encodings()) {
+    if (row.decode_run == nullptr) continue;
     for (int i = 0; i < 60; ++i) {
       const Bytes bytes = RandomBytes(random, AlphabetOf(row));
-      ASSERT_EQ(ByRuns(row, bytes, 1 + random() % 200), Read(*row.read, test::TextOf(bytes)))
+      ASSERT_EQ(ByRuns(row, bytes, 1 + random() % 200), ReadOneByOne(row, test::TextOf(bytes)))
           << row.name << ' ' << i;
     }
   }
@@ -96,18 +85,18 @@ TEST_P(EncodingRunsOfKernel, DecodeWhatSingleCharactersDecode) {
 
 // A run up to an end is what single characters give in front of the end, or some of it; bytes and room end at
 // guard pages.
-void ExpectRunUntil(const EncodingRow& row, const Bytes& bytes, std::size_t room, EndBytes ends) {
+void ExpectRunUntil(const Encoding& row, const Bytes& bytes, std::size_t room, EndBytes ends) {
   const test::GuardedBuffer source(std::as_bytes(std::span(bytes)));
   const std::vector<std::byte> empty(2 * room);
   const test::GuardedBuffer target(empty);
   const std::span from(reinterpret_cast<const std::uint8_t*>(source.Bytes().data()), bytes.size());
   const std::span to(reinterpret_cast<char16_t*>(target.Bytes().data()), room);
-  const RunUntil run = DecodeUntilOf(*row.read)(from, to, ends);
+  const RunUntil run = row.decode_until(from, to, ends);
   const std::size_t end = static_cast<std::size_t>(
       std::ranges::find_if(bytes, [ends](std::uint8_t byte) { return ends.Has(byte); }) - bytes.begin());
   ASSERT_LE(run.taken, end) << row.name;
   const std::u16string text(to.data(), run.made);
-  ASSERT_EQ(text, Read(*row.read, test::TextOf(bytes).substr(0, run.taken))) << row.name;
+  ASSERT_EQ(text, ReadOneByOne(row, test::TextOf(bytes).substr(0, run.taken))) << row.name;
   const std::size_t breaks = text.find_first_of(u"\r\n");
   if (breaks < text.size() - 1 && !text.empty()) {
     ASSERT_EQ(run.lines, Lines::MayBeMore) << row.name;
@@ -116,8 +105,8 @@ void ExpectRunUntil(const EncodingRow& row, const Bytes& bytes, std::size_t room
 
 TEST_P(EncodingRunsOfKernel, EndBeforeAByte) {
   std::mt19937 random(4);
-  for (const EncodingRow& row : EncodingRows()) {
-    if (row.read == nullptr || DecodeUntilOf(*row.read) == nullptr) continue;
+  for (const Encoding& row : Encodings()) {
+    if (row.decode_until == nullptr) continue;
     for (int i = 0; i < 150; ++i) {
       Bytes bytes = RandomBytes(random, AlphabetOf(row));
       for (const char byte : {'\n', '\r', ';'}) {
@@ -135,7 +124,7 @@ TEST_P(EncodingRunsOfKernel, EndBeforeAByte) {
 // Sequences at every place of the blocks, whole, cut short and overlong.
 TEST_P(EncodingRunsOfKernel, TakeSequencesAcrossBlocks) {
   using namespace std::string_view_literals;
-  const EncodingRow& row = *FindEncoding("UTF_8");
+  const Encoding& row = *FindEncoding("UTF_8");
   for (const std::string_view piece :
        {"\xC4\x8D"sv, "\xE2\x82\xAC"sv, "\xE2\x82"sv, "\xE2"sv, "\xC4"sv, "\x8D"sv, "\xE0\x9F\xBF"sv,
         "\xE0\xA0\x80"sv, "\xC1\xBF"sv, "\xF0\x9F\x98\x80"sv, "\xED\xA0\x80"sv, "\xE2\x82\xC4\x8D"sv}) {
@@ -143,19 +132,19 @@ TEST_P(EncodingRunsOfKernel, TakeSequencesAcrossBlocks) {
       for (const std::size_t behind : {0U, 1U, 2U, 3U, 70U}) {
         std::string text = std::string(before, 'x').append(piece).append(behind, 'y');
         const Bytes bytes(text.begin(), text.end());
-        ASSERT_EQ(ByRuns(row, bytes, 300), Read(Read_UTF_8, text)) << before << ' ' << behind;
+        ASSERT_EQ(ByRuns(row, bytes, 300), ReadOneByOne(row, text)) << before << ' ' << behind;
         ASSERT_NO_FATAL_FAILURE(ExpectRunUntil(row, bytes, 300, EndBytes('y', '\n', '\n')));
         // The blocks of others than ASCII.
         text.insert(0, "\xC5\xBE");
         const Bytes mixed(text.begin(), text.end());
-        ASSERT_EQ(ByRuns(row, mixed, 300), Read(Read_UTF_8, text)) << before << ' ' << behind;
+        ASSERT_EQ(ByRuns(row, mixed, 300), ReadOneByOne(row, text)) << before << ' ' << behind;
         ASSERT_NO_FATAL_FAILURE(ExpectRunUntil(row, mixed, 300, EndBytes('y', '\n', '\n')));
       }
     }
   }
 }
 
-std::u16string RandomText(std::mt19937& random, const EncodingRow& row) {
+std::u16string RandomText(std::mt19937& random, const Encoding& row) {
   std::u16string text;
   const std::size_t words = random() % 8;
   for (std::size_t word = 0; word < words; ++word) {
@@ -173,20 +162,21 @@ std::u16string RandomText(std::mt19937& random, const EncodingRow& row) {
 // A run stops at the first refused character or where the room ends, and has the bytes of single characters.
 TEST_P(EncodingRunsOfKernel, EncodeWhatSingleCharactersEncode) {
   std::mt19937 random(2);
-  for (const EncodingRow& row : EncodingRows()) {
-    if (row.write == nullptr || EncodeRunOf(*row.write) == nullptr) continue;
+  for (const Encoding& row : Encodings()) {
+    if (row.encode_run == nullptr) continue;
     for (int i = 0; i < 120; ++i) {
       std::u16string text = RandomText(random, row);
       // Every other time only what the encoding has.
-      if (i % 2 == 0) std::erase_if(text, [&](char16_t ch) { return EncodedCharacter(row, ch).empty(); });
+      if (i % 2 == 0)
+        std::erase_if(text, [&](char16_t ch) { return !WriteOneByOne(row, std::u16string_view(&ch, 1)); });
       const std::vector<std::byte> empty(random() % 700);
       const test::GuardedBuffer target(empty);
       const std::span to(reinterpret_cast<std::uint8_t*>(target.Bytes().data()), empty.size());
-      const auto run = EncodeRunOf(*row.write)(text, to);
-      ASSERT_EQ(Write(*row.write, text.substr(0, run.taken)), test::TextOf(to.first(run.made))) << row.name;
+      const auto run = row.encode_run(text, to);
+      ASSERT_EQ(WriteOneByOne(row, text.substr(0, run.taken)), test::TextOf(to.first(run.made))) << row.name;
       const bool stopped_by_room = to.size() - run.made < 4;
       if (run.taken < text.size() && !stopped_by_room) {
-        ASSERT_TRUE(EncodedCharacter(row, text[run.taken]).empty()) << row.name;
+        ASSERT_TRUE(WriteOneByOne(row, text.substr(run.taken, 1)) == std::nullopt) << row.name;
       }
     }
   }
@@ -196,31 +186,27 @@ INSTANTIATE_TEST_SUITE_P(Kernels, EncodingRunsOfKernel,
                          ::testing::ValuesIn(KernelSets().begin(), KernelSets().end()),
                          [](const auto& kernel) { return std::string(kernel.param.name); });
 
-TEST(EncodingRuns, TillAnEndOnlyWhereAsciiIsKeptApart) {
-  EXPECT_NE(DecodeUntilOf(Read_UTF_8), nullptr);
-  EXPECT_NE(DecodeUntilOf(Read_Windows_1250), nullptr);
-  EXPECT_EQ(DecodeUntilOf(Read_UTF_16_LE), nullptr);
-  EXPECT_EQ(DecodeUntilOf(Read_GB_18030), nullptr);
-  EXPECT_EQ(DecodeUntilOf(Read_UTF_7), nullptr);
-  EXPECT_EQ(DecodeUntilOf(Read_CP_424), nullptr);
-  for (const EncodingRow& row : EncodingRows()) {
-    if (row.engine != "SingleByte" || row.read == nullptr) continue;
+TEST(EncodingRuns, UntilAnEndOnlyIfAsciiIsKeptApart) {
+  for (const char* name : {"UTF_8", "Windows_1250"})
+    EXPECT_NE(FindEncoding(name)->decode_until, nullptr) << name;
+  for (const char* name : {"UTF_16_LE", "GB_18030", "UTF_7", "CP_424"})
+    EXPECT_EQ(FindEncoding(name)->decode_until, nullptr) << name;
+  for (const Encoding& row : Encodings()) {
+    if (row.engine != "SingleByte") continue;
     bool kept = true;
     for (int byte = 0; byte < 256; ++byte) {
-      const std::u16string text = Read(*row.read, std::string(1, static_cast<char>(byte)));
+      const std::u16string text = ReadOneByOne(row, std::string(1, static_cast<char>(byte)));
       kept = kept && (byte < 0x80 ? text[0] == byte : text[0] >= 0x80);
     }
-    EXPECT_EQ(DecodeUntilOf(*row.read) != nullptr, kept) << row.name;
+    EXPECT_EQ(row.decode_until != nullptr, kept) << row.name;
   }
 }
 
-TEST(EncodingRuns, NoneForForeignRoutinesAndForUtf7) {
-  const auto foreign = [](TDIUnicodeReader&, char16_t&) { return false; };
-  EXPECT_EQ(DecodeRunOf({nullptr, foreign, nullptr}), nullptr);
-  EXPECT_EQ(DecodeRunOf(Read_UTF_7), nullptr);
-  EXPECT_EQ(EncodeRunOf(Write_UTF_7), nullptr);
-  EXPECT_EQ(EncodeRunOf({}), nullptr);
+TEST(EncodingRuns, NoneForEncodingsWithState) {
+  EXPECT_EQ(FindEncoding("UTF_7")->decode_run, nullptr);
+  EXPECT_EQ(FindEncoding("UTF_7")->encode_run, nullptr);
+  EXPECT_EQ(FindEncoding("UTF_7_ODC")->encode_run, nullptr);
 }
 
 }  // namespace
-}  // namespace ravo::DIUnicode
+}  // namespace ravo::codec

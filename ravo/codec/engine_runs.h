@@ -1,15 +1,19 @@
-#include <ravo/codec/codecs.h>
+#pragma once
+
 #include <ravo/codec/kernels/kernel_set.h>
 #include <ravo/codec/run_until.h>
-#include <ravo/codec/runs.h>
+#include <ravo/codec/single_byte.h>
+#include <ravo/codec/utf8.h>
+#include <ravo/codec/wide_units.h>
 
 #include <algorithm>
 #include <bit>
+#include <cstddef>
 
+/// An engine over spans: kernels as far as they go, single characters where those stop.
 namespace ravo::codec {
-namespace {
 
-// Character by character: what the routines of a reader or writer do, over memory.
+/// Character by character, while each is whole.
 template <class Codec>
 Run DecodeSingly(ByteSpan bytes, TextRoom text) {
   Run run;
@@ -35,7 +39,7 @@ Run EncodeSingly(TextSpan text, ByteRoom bytes) {
   return run;
 }
 
-// The blocks that an engine has; none unless said below.
+/// The kernels of an engine; none unless said below.
 template <class Codec>
 struct Blocks {
   static Run Decode(ByteSpan, TextRoom) { return {}; }
@@ -54,8 +58,8 @@ struct Blocks<SingleByte<table>> {
   }
 };
 
-template <>
-struct Blocks<Utf8> {
+template <class Policy>
+struct Blocks<Utf8Engine<Policy>> {
   static Run Decode(ByteSpan bytes, TextRoom text) { return ChosenKernels().decode_utf8(bytes, text); }
   static Run Encode(TextSpan text, ByteRoom bytes) { return ChosenKernels().encode_utf8(text, bytes); }
 };
@@ -75,7 +79,7 @@ struct Blocks<Utf16<Order>> : UnitBlocks<Order, true> {};
 template <class Order>
 struct Blocks<Ucs2<Order>> : UnitBlocks<Order, false> {};
 
-// Blocks as far as they go, then some characters singly, until neither gets on.
+/// Blocks as far as they go, then some characters singly, until neither makes progress.
 template <class Source, class Target, class InBlocks, class Singly>
 Run Alternate(Source source, Target target, InBlocks in_blocks, Singly singly) {
   constexpr std::size_t kSome = 16;
@@ -107,25 +111,7 @@ Run EncodeWith(TextSpan text, ByteRoom bytes) {
   return Alternate(text, bytes, Blocks<Codec>::Encode, singly);
 }
 
-// Untested: runs at compile time only.
-template <class Codec>
-constexpr DecodeRun DecodeBy() {
-  if constexpr (codecs::HasState<Codec>)
-    return nullptr;
-  else
-    return DecodeWith<Codec>;
-}
-
-// Untested: runs at compile time only.
-template <class Codec>
-constexpr EncodeRun EncodeBy() {
-  if constexpr (codecs::HasState<Codec>)
-    return nullptr;
-  else
-    return EncodeWith<Codec>;
-}
-
-// Runs that end before a byte, where bytes below 0x80 are ASCII and nothing else is. UTF-8 has been made so.
+/// Runs that end before a byte, if bytes below 0x80 are ASCII and no others are.
 template <class Codec>
 struct Until {
   static constexpr DecodeUntil kDecode = nullptr;
@@ -141,29 +127,14 @@ struct Until<SingleByte<table>> {
   static constexpr DecodeUntil kDecode = KeepsAscii(table) ? Decode : nullptr;
 };
 
-template <>
-struct Until<Utf8> {
+template <class Policy>
+struct Until<Utf8Engine<Policy>> {
   static RunUntil Decode(ByteSpan bytes, TextRoom text, EndBytes ends) {
     const auto until = ChosenKernels().decode_utf8_until;
     return until != nullptr ? until(bytes, text, ends)
-                            : DecodeUntilByBlocks(DecodeWith<Utf8>, bytes, text, ends);
+                            : DecodeUntilByBlocks(DecodeWith<Utf8Engine<Policy>>, bytes, text, ends);
   }
   static constexpr DecodeUntil kDecode = Decode;
 };
-
-#define RAVO_RUNS_Both(name) \
-  {DecodeBy<codecs::name>(), Until<codecs::name>::kDecode, EncodeBy<codecs::name>()},
-#define RAVO_RUNS_ReadOnly(name) {DecodeBy<codecs::name>(), Until<codecs::name>::kDecode, nullptr},
-#define RAVO_RUNS_WriteOnly(name) {nullptr, nullptr, EncodeBy<codecs::name>()},
-#define RAVO_ENCODING(name, label, code_page, aliases, engine, ways, table, sources, notes) \
-  RAVO_RUNS_##ways(name)
-constexpr Runs kRuns[] = {
-#include <ravo/codec/rows.inc>
-};
-#undef RAVO_ENCODING
-
-}  // namespace
-
-std::span<const Runs> RunsOfEncodings() noexcept { return kRuns; }
 
 }  // namespace ravo::codec
