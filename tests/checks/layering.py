@@ -44,7 +44,7 @@ MAY_USE: dict[str, set[str] | None] = {
     "ravo/xml": {"runtime", "codec", "platform", "frame"},
     "ravo/formout": {"runtime", "codec", "platform", "frame", "unicode"},
     "ravo/hostapi": {"runtime", "platform", "frame"},
-    "tools/ravo": {PUBLIC},
+    "tools/ravo": {PUBLIC, "codec"},
 }
 SCANNED = ("ravo", "tools/ravo")
 
@@ -176,9 +176,8 @@ def arrows_of(cell):
     """The rooms that a cell names before its first ";", what follows being a remark."""
     if cell == "everything":
         return ANYTHING
-    if cell == "the public face":
-        return {PUBLIC}
-    return set(re.findall(r"`([^`]+)`", cell.split(";")[0]))
+    face = {PUBLIC} if cell.startswith("the public face") else set()
+    return face | set(re.findall(r"`([^`]+)`", cell.split(";")[0]))
 
 
 def check_document(root):
@@ -214,9 +213,8 @@ def _document(changed=None):
     def cell(room, uses):
         if uses is ANYTHING:
             return "everything"
-        if uses == {PUBLIC}:
-            return "the public face"
-        words = ", ".join(f"`{use}`" for use in sorted(uses - UNSAID.get(room, set())))
+        named = sorted(uses - UNSAID.get(room, set()), key=lambda use: (use != PUBLIC, use))
+        words = ", ".join("the public face" if use == PUBLIC else f"`{use}`" for use in named)
         remark = "; its `characters` use `runtime/export.h` alone" if room == "ravo/unicode" else ""
         return (words or "nothing of ours") + remark
 
