@@ -1,9 +1,10 @@
 // The ways to do one thing: by vectors and plainly, with identical results.
 #include "support/guarded_buffer.h"
+#include <ravo/codec/kernels/kernel_set.h>
 #include <ravo/utils/strings/find.h>
 #include <ravo/utils/strings/first_letters.h>
-#include <ravo/utils/strings/kernels.h>
 #include <ravo/utils/strings/mismatch.h>
+#include <ravo/utils/strings/utf8.h>
 #include <ravo/utils/strings/utf8_kernels.h>
 
 #include <algorithm>
@@ -66,14 +67,17 @@ TEST(StringKernels, FoldedSearchAcrossItsPieces) {
 }
 
 // Every set of kernels that this processor runs.
-class StringsOfKernel : public testing::TestWithParam<StringKernel> {
+class StringsOfKernel : public testing::TestWithParam<codec::KernelSet> {
  protected:
   void SetUp() override {
     if (!GetParam().runs_here()) GTEST_SKIP() << "this processor does not run it";
   }
+
+ private:
+  const codec::ScopedKernels scoped_{GetParam()};
 };
 INSTANTIATE_TEST_SUITE_P(Kernels, StringsOfKernel,
-                         testing::ValuesIn(StringKernels().begin(), StringKernels().end()),
+                         testing::ValuesIn(codec::KernelSets().begin(), codec::KernelSets().end()),
                          [](const auto& row) { return std::string(row.param.name); });
 
 template <class Char>
@@ -98,7 +102,6 @@ void ExpectSameLongSearch(std::mt19937& random) {
 }
 
 TEST_P(StringsOfKernel, SearchesLongTextsAsThePlainOne) {
-  const ScopedStringKernel scoped(GetParam());
   std::mt19937 random(29);
   for (int round = 0; round < 3000; ++round) {
     ExpectSameLongSearch<char>(random);
@@ -108,7 +111,6 @@ TEST_P(StringsOfKernel, SearchesLongTextsAsThePlainOne) {
 
 // One hit in a text of nothing else, at every place and so at every alignment.
 TEST_P(StringsOfKernel, FindsAHitAtEveryPlace) {
-  const ScopedStringKernel scoped(GetParam());
   for (std::size_t size = 1; size < 700; size += 1 + size / 40) {
     std::u16string text(size, u'.');
     for (std::size_t at = 0; at + 2 <= size; ++at) {
@@ -192,23 +194,25 @@ TEST(StringKernels, LettersOfLatinFoldAsThePlainOne) {
   }
 }
 
-template <class Write, class Char>
-auto Written(Write write, View<Char> from, std::size_t room) {
-  using Out = std::remove_pointer_t<decltype(write(from, nullptr))>;
-  // Nothing may be written behind the room either.
-  const String<Out> empty(room, Out{});
-  const test::GuardedBuffer buffer(BytesOf(empty));
-  Out* const out = reinterpret_cast<Out*>(buffer.Bytes().data());
-  return String<Out>(out, write(from, out));
+std::u16string PlainlyDecoded(std::string_view bytes) {
+  std::u16string text(bytes.size(), u'\0');
+  text.resize(static_cast<std::size_t>(DecodeUtf8Plainly(bytes, text.data()) - text.data()));
+  return text;
 }
 
-void ExpectSameUtf8(const StringKernel& kernel, const std::string& bytes) {
+std::string PlainlyEncoded(std::u16string_view text) {
+  std::string bytes(3 * text.size(), '\0');
+  bytes.resize(static_cast<std::size_t>(EncodeUtf8Plainly(text, bytes.data()) - bytes.data()));
+  return bytes;
+}
+
+void ExpectSameUtf8(const std::string& bytes) {
   const test::GuardedBuffer buffer(BytesOf(bytes));
-  const std::u16string text = Written(kernel.decode_utf8, In<char>(buffer), bytes.size());
-  ASSERT_EQ(text, Written(DecodeUtf8Plainly, In<char>(buffer), bytes.size()));
+  const std::u16string text = DIUtils::StrDecodeUtf8(In<char>(buffer));
+  ASSERT_EQ(text, PlainlyDecoded(bytes));
+  ASSERT_EQ(DIUtils::StrCountUtf8Chars(In<char>(buffer)), text.size());
   const test::GuardedBuffer units(BytesOf(text));
-  ASSERT_EQ(Written(kernel.encode_utf8, In<char16_t>(units), 3 * text.size()),
-            Written(EncodeUtf8Plainly, In<char16_t>(units), 3 * text.size()));
+  ASSERT_EQ(DIUtils::StrEncodeUtf8(In<char16_t>(units)), PlainlyEncoded(text));
 }
 
 TEST_P(StringsOfKernel, TreatsRandomBytesAsThePlainOne) {
@@ -219,7 +223,7 @@ TEST_P(StringsOfKernel, TreatsRandomBytesAsThePlainOne) {
     const auto most = 1 + random() % 255;
     while (bytes.size() < length)
       bytes.push_back(static_cast<char>(random() % 8 == 0 ? random() : random() % most));
-    ExpectSameUtf8(GetParam(), bytes);
+    ExpectSameUtf8(bytes);
   }
 }
 
@@ -233,13 +237,19 @@ TEST_P(StringsOfKernel, TreatsTextsAsThePlainOne) {
     const std::size_t kinds = random() % 4 == 0 ? std::size(kPieces) : 6;
     for (std::size_t count = random() % 90; count > 0; --count) bytes += kPieces[random() % kinds];
     if (random() % 2 == 0 && !bytes.empty()) bytes += kPieces[6 + random() % 7];
-    ExpectSameUtf8(GetParam(), bytes);
+    ExpectSameUtf8(bytes);
   }
 }
 
-std::u16string Decoded(char16_t* (*decode)(std::string_view, char16_t*) noexcept, const std::string& bytes) {
-  std::vector<char16_t> room(bytes.size());
-  return {room.data(), decode(bytes, room.data())};
+// Longer than what is converted on the stack, with a unit of each length at the end of every piece.
+TEST_P(StringsOfKernel, TreatsLongTextsAsThePlainOne) {
+  for (std::size_t size = 480; size < 560; ++size) {
+    for (const std::u16string_view end : {u"x", u"č", u"€", u"\xD800"}) {
+      std::u16string text(size, u'a');
+      text.append(end).append(size, u'ř').append(end).append(size, u'„').append(end);
+      ExpectSameUtf8(PlainlyEncoded(text));
+    }
+  }
 }
 
 // Each two bytes, at each place of a vector and of the border between two.
@@ -249,9 +259,9 @@ TEST_P(StringsOfKernel, TreatsEveryTwoBytesAsThePlainOne) {
     const std::size_t at = pair % 35;
     bytes[at] = static_cast<char>(pair >> 8);
     bytes[at + 1] = static_cast<char>(pair);
-    ASSERT_EQ(Decoded(GetParam().decode_utf8, bytes), Decoded(DecodeUtf8Plainly, bytes));
+    ASSERT_EQ(DIUtils::StrDecodeUtf8(bytes), PlainlyDecoded(bytes));
     const std::string more = "č" + bytes.substr(0, 14) + bytes.substr(at, 2) + "čč" + bytes;
-    ASSERT_EQ(Decoded(GetParam().decode_utf8, more), Decoded(DecodeUtf8Plainly, more));
+    ASSERT_EQ(DIUtils::StrDecodeUtf8(more), PlainlyDecoded(more));
   }
 }
 

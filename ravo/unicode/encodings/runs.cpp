@@ -7,7 +7,6 @@ namespace {
 
 template <class Test>
 codec::Runs RunsWhere(Test test) noexcept {
-  codec::ChooseKernels();
   const auto rows = DIUnicode::EncodingRows();
   for (std::size_t i = 0; i < rows.size(); ++i) {
     if (test(rows[i])) return codec::RunsOfEncodings()[i];

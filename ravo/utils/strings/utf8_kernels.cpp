@@ -1,5 +1,4 @@
 #include <ravo/utils/strings/utf8_kernels.h>
-#include <ravo/utils/strings/vector.h>
 
 namespace ravo::strings {
 namespace {
@@ -27,43 +26,6 @@ bool TakeTrails(std::string_view& rest, unsigned count, unsigned& value) {
   }
   return true;
 }
-
-// Characters that are treated one by one between two looks for a run of ASCII.
-constexpr std::size_t kFew = 16;
-
-#ifdef __SSE2__
-
-// Copies vectors of ASCII while they last; gives how many characters that were.
-std::size_t WidenAscii(std::string_view bytes, char16_t* out) noexcept {
-  std::size_t at = 0;
-  for (; bytes.size() - at >= kVectorBytes; at += kVectorBytes) {
-    const __m128i vector = LoadVector(bytes.data() + at);
-    if (BitsOf(vector) != 0) break;
-    StoreVector(out + at, _mm_unpacklo_epi8(vector, _mm_setzero_si128()));
-    StoreVector(out + at + kVectorBytes / 2, _mm_unpackhi_epi8(vector, _mm_setzero_si128()));
-  }
-  return at;
-}
-
-std::size_t NarrowAscii(std::u16string_view text, char* out) noexcept {
-  const __m128i beyond = Everywhere(char16_t{0xFF80});
-  std::size_t at = 0;
-  for (; text.size() - at >= kVectorBytes; at += kVectorBytes) {
-    const __m128i low = LoadVector(text.data() + at);
-    const __m128i high = LoadVector(text.data() + at + kVectorBytes / 2);
-    const __m128i outside = _mm_and_si128(_mm_or_si128(low, high), beyond);
-    if (BitsOf(_mm_cmpeq_epi16(outside, _mm_setzero_si128())) != 0xFFFF) break;
-    StoreVector(out + at, _mm_packus_epi16(low, high));
-  }
-  return at;
-}
-
-#else
-
-std::size_t WidenAscii(std::string_view, char16_t*) noexcept { return 0; }
-std::size_t NarrowAscii(std::u16string_view, char*) noexcept { return 0; }
-
-#endif
 
 char* PutUtf8Unit(unsigned unit, char* out) noexcept {
   if (unit < 0x80) {
@@ -121,28 +83,6 @@ char16_t* DecodeUtf8Plainly(std::string_view bytes, char16_t* out) noexcept {
 
 char* EncodeUtf8Plainly(std::u16string_view text, char* out) noexcept {
   for (const char16_t unit : text) out = PutUtf8Unit(unit, out);
-  return out;
-}
-
-char16_t* DecodeUtf8(std::string_view bytes, char16_t* out) noexcept {
-  while (!bytes.empty()) {
-    const std::size_t ascii = WidenAscii(bytes, out);
-    bytes.remove_prefix(ascii);
-    out += ascii;
-    out = DecodeFewUtf8(bytes, out);
-  }
-  return out;
-}
-
-char* EncodeUtf8(std::u16string_view text, char* out) noexcept {
-  while (!text.empty()) {
-    const std::size_t ascii = NarrowAscii(text, out);
-    text.remove_prefix(ascii);
-    out += ascii;
-    const std::u16string_view few = text.substr(0, kFew);
-    out = EncodeUtf8Plainly(few, out);
-    text.remove_prefix(few.size());
-  }
   return out;
 }
 
