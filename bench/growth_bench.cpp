@@ -9,7 +9,6 @@
 #include <ravo/codec/kernels/kernel_set.h>
 #include <ravo/runtime/byte_stream.h>
 #include <ravo/utils/crc32_kernels.h>
-#include <ravo/utils/strings/kernels.h>
 
 #include <functional>
 #include <memory>
@@ -123,8 +122,7 @@ std::string LastThatRuns(const Kernels& kernels) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  benchmark::AddCustomContext("kernels", "CRC-32 " + LastThatRuns(utils::Crc32Kernels()) + ", strings " +
-                                             LastThatRuns(strings::StringKernels()) + ", encodings " +
+  benchmark::AddCustomContext("kernels", "CRC-32 " + LastThatRuns(utils::Crc32Kernels()) + ", text " +
                                              LastThatRuns(codec::KernelSets()));
   for (const std::size_t times : kTimes) {
     Register("XML: load and free, a byte", times, XmlLoad);

@@ -102,7 +102,6 @@ bool EncodeNext(const Encoding& encoding, State& state, char16_t unit, ByteRoom 
 std::span<const Encoding> Encodings() noexcept { return kEncodings; }
 
 Step Decode(const Encoding& encoding, State& state, ByteSpan bytes, TextRoom text, Input input) noexcept {
-  ChooseKernels();
   Step step;
   do {
     if (encoding.decode_run != nullptr) {
@@ -120,7 +119,6 @@ Step Decode(const Encoding& encoding, State& state, ByteSpan bytes, TextRoom tex
 }
 
 Step Encode(const Encoding& encoding, State& state, TextSpan text, ByteRoom bytes) noexcept {
-  ChooseKernels();
   Step step;
   do {
     if (encoding.encode_run != nullptr) {

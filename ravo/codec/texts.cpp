@@ -1,7 +1,9 @@
 #include <ravo/codec/codecs.h>
 #include <ravo/codec/engine_runs.h>
 #include <ravo/codec/texts.h>
+#include <ravo/runtime/overwrite.h>
 
+#include <algorithm>
 #include <array>
 
 namespace ravo::codec {
@@ -12,7 +14,8 @@ constexpr ByteTable kWindows1250OfSystem = WithControls(tables::kWindows_1250);
 using StringUtf8 = Utf8Engine<Utf8OfStrings>;
 using System1250 = SingleByte<kWindows1250OfSystem>;
 
-// Units or bytes that are looked at together, so that they stay in the nearest cache.
+// Texts up to this length are encoded on the stack: faster than to count their bytes before.
+constexpr std::size_t kShort = 512;
 constexpr std::size_t kPiece = 4096;
 
 ByteSpan BytesOf(std::string_view bytes) {
@@ -23,46 +26,54 @@ void Append(std::string& to, ByteSpan bytes) {
   to.append(reinterpret_cast<const char*>(bytes.data()), bytes.size());
 }
 
-// Runs, and single characters between them; a sequence that the end cuts short is one too.
+// Decodes the front of `bytes`, which it takes off: all of it if there is room. Runs, and single characters
+// between them; a sequence that the end cuts short is one too.
 template <class Engine>
-std::size_t DecodeAll(ByteSpan bytes, TextRoom text) {
-  ChooseKernels();
+std::size_t DecodeFront(ByteSpan& bytes, TextRoom text) {
   std::size_t made = 0;
   for (;;) {
     const Run run = DecodeWith<Engine>(bytes, text.subspan(made));
     made += run.made;
     bytes = bytes.subspan(run.taken);
+    if (bytes.empty() || made == text.size()) return made;
     SpanSource source(bytes);
-    if (bytes.empty() || !Engine::Decode(source, text[made])) return made;
-    ++made;
+    static_cast<void>(Engine::Decode(source, text[made++]));
     bytes = bytes.subspan(source.Position());
   }
 }
 
-// Every engine with one or more bytes for each unit.
+// No engine here makes more units than it takes bytes.
 template <class Engine>
 std::u16string DecodedBy(std::string_view bytes) {
-  std::u16string text(bytes.size(), u'\0');
-  text.resize(DecodeAll<Engine>(BytesOf(bytes), text));
-  return text;
+  return Written<char16_t>(bytes.size(), [bytes](char16_t* to, std::size_t room) {
+    ByteSpan rest = BytesOf(bytes);
+    return DecodeFront<Engine>(rest, {to, room});
+  });
 }
 
-// In pieces, whose bytes are appended: the result needs no memory for the worst case before.
+// Encodes into room that is long enough, with "?" for what the encoding lacks.
 template <class Engine>
-std::string EncodedBy(std::u16string_view text) {
-  ChooseKernels();
-  std::array<std::uint8_t, Engine::kMostBytes * kPiece> piece;
-  std::string result;
-  if (text.size() > kPiece) result.reserve(Engine::kMostBytes * text.size());
-  while (!text.empty()) {
-    const Run run = EncodeWith<Engine>(text.substr(0, kPiece), piece);
-    Append(result, std::span(piece).first(run.made));
-    text.remove_prefix(run.taken);
-    if (run.taken != 0 || text.empty()) continue;
-    result += '?';
-    text.remove_prefix(1);
+std::size_t EncodeAll(TextSpan text, ByteRoom bytes) {
+  std::size_t made = 0;
+  for (;;) {
+    const Run run = EncodeWith<Engine>(text, bytes.subspan(made));
+    made += run.made;
+    text = text.subspan(run.taken);
+    if (text.empty()) return made;
+    std::array<std::uint8_t, Engine::kMostBytes> one{'?'};
+    SpanTarget target(one);
+    const std::size_t count = Engine::Encode(target, text.front()) ? target.Count() : 1;
+    std::copy_n(one.begin(), count, bytes.begin() + static_cast<std::ptrdiff_t>(made));
+    made += count;
+    text = text.subspan(1);
   }
-  return result;
+}
+
+template <class Engine>
+std::string EncodedBy(std::u16string_view text, std::size_t size) {
+  return Written<char>(size, [text](char* to, std::size_t room) {
+    return EncodeAll<Engine>(text, {reinterpret_cast<std::uint8_t*>(to), room});
+  });
 }
 
 }  // namespace
@@ -98,16 +109,23 @@ std::string Encoded(const Encoding& encoding, std::u16string_view text) {
 std::u16string DecodedUtf8OfStrings(std::string_view bytes) { return DecodedBy<StringUtf8>(bytes); }
 
 std::size_t CountUtf8OfStrings(std::string_view bytes) noexcept {
+  std::array<char16_t, kShort> text;
   std::size_t count = 0;
-  SpanSource source(BytesOf(bytes));
-  for (char16_t ch = 0; StringUtf8::Decode(source, ch);) ++count;
+  for (ByteSpan rest = BytesOf(bytes); !rest.empty();) count += DecodeFront<StringUtf8>(rest, text);
   return count;
 }
 
-std::string EncodedUtf8OfStrings(std::u16string_view text) { return EncodedBy<StringUtf8>(text); }
+std::string EncodedUtf8OfStrings(std::u16string_view text) {
+  if (text.size() > kShort) return EncodedBy<StringUtf8>(text, ChosenKernels().utf8_length(text));
+  std::array<std::uint8_t, StringUtf8::kMostBytes * kShort> bytes;
+  const std::size_t size = EncodeAll<StringUtf8>(text, bytes);
+  return {reinterpret_cast<const char*>(bytes.data()), size};
+}
 
 std::u16string DecodedWindows1250OfSystem(std::string_view bytes) { return DecodedBy<System1250>(bytes); }
 
-std::string EncodedWindows1250OfSystem(std::u16string_view text) { return EncodedBy<System1250>(text); }
+std::string EncodedWindows1250OfSystem(std::u16string_view text) {
+  return EncodedBy<System1250>(text, text.size());
+}
 
 }  // namespace ravo::codec

@@ -74,6 +74,7 @@ void ExpectSameUtf8(const KernelSet& kernels, const std::string& bytes) {
   };
   const std::u16string text = by(kernels);
   ASSERT_EQ(text, by(KernelSets().front()));
+  ASSERT_EQ(CountUtf8OfStrings(guarded), text.size());
   const test::GuardedBuffer units(std::as_bytes(std::span(text)));
   const std::u16string_view guarded_units(reinterpret_cast<const char16_t*>(units.Bytes().data()),
                                           text.size());
@@ -107,6 +108,17 @@ TEST_P(TextsOfKernels, AreAlikeForTextsWithBrokenPieces) {
     for (std::size_t count = random() % 90; count > 0; --count) bytes += kPieces[random() % kinds];
     if (random() % 2 == 0 && !bytes.empty()) bytes += kPieces[6 + random() % 7];
     ExpectSameUtf8(GetParam(), bytes);
+  }
+}
+
+// Longer than what is converted on the stack, with a unit of each length at the end of every piece.
+TEST_P(TextsOfKernels, AreAlikeForLongTexts) {
+  for (std::size_t size = 480; size < 560; ++size) {
+    for (const std::u16string_view end : {u"x", u"č", u"€", u"\xD800"}) {
+      std::u16string text(size, u'a');
+      text.append(end).append(size, u'ř').append(end).append(size, u'„').append(end);
+      ExpectSameUtf8(GetParam(), *test::WriteOneByOne(*FindEncoding("UTF_8"), text));
+    }
   }
 }
 

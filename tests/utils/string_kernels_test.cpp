@@ -1,8 +1,8 @@
 // The ways to do one thing: by vectors and plainly, with identical results.
 #include "support/guarded_buffer.h"
+#include <ravo/codec/kernels/kernel_set.h>
 #include <ravo/utils/strings/find.h>
 #include <ravo/utils/strings/first_letters.h>
-#include <ravo/utils/strings/kernels.h>
 #include <ravo/utils/strings/mismatch.h>
 
 #include <algorithm>
@@ -65,14 +65,17 @@ TEST(StringKernels, FoldedSearchAcrossItsPieces) {
 }
 
 // Every set of kernels that this processor runs.
-class StringsOfKernel : public testing::TestWithParam<StringKernel> {
+class StringsOfKernel : public testing::TestWithParam<codec::KernelSet> {
  protected:
   void SetUp() override {
     if (!GetParam().runs_here()) GTEST_SKIP() << "this processor does not run it";
   }
+
+ private:
+  const codec::ScopedKernels scoped_{GetParam()};
 };
 INSTANTIATE_TEST_SUITE_P(Kernels, StringsOfKernel,
-                         testing::ValuesIn(StringKernels().begin(), StringKernels().end()),
+                         testing::ValuesIn(codec::KernelSets().begin(), codec::KernelSets().end()),
                          [](const auto& row) { return std::string(row.param.name); });
 
 template <class Char>
@@ -97,7 +100,6 @@ void ExpectSameLongSearch(std::mt19937& random) {
 }
 
 TEST_P(StringsOfKernel, SearchesLongTextsAsThePlainOne) {
-  const ScopedStringKernel scoped(GetParam());
   std::mt19937 random(29);
   for (int round = 0; round < 3000; ++round) {
     ExpectSameLongSearch<char>(random);
@@ -107,7 +109,6 @@ TEST_P(StringsOfKernel, SearchesLongTextsAsThePlainOne) {
 
 // One hit in a text of nothing else, at every place and so at every alignment.
 TEST_P(StringsOfKernel, FindsAHitAtEveryPlace) {
-  const ScopedStringKernel scoped(GetParam());
   for (std::size_t size = 1; size < 700; size += 1 + size / 40) {
     std::u16string text(size, u'.');
     for (std::size_t at = 0; at + 2 <= size; ++at) {

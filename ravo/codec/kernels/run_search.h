@@ -1,5 +1,7 @@
 #pragma once
 
+#include <ravo/codec/kernels/block.h>
+
 #include <algorithm>
 #include <array>
 #include <bit>
@@ -7,10 +9,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <span>
-
-#if defined(__SSE2__)
-#include <emmintrin.h>
-#endif
 
 /// How far units of some kind go at the front of a run, sixteen at a time. A unit is a UTF-16 unit, or a byte
 /// of a text whose bytes below 0x80 are ASCII.
@@ -22,88 +20,47 @@ inline constexpr std::size_t kSearchBlock = 16;
 template <class Unit>
 class UnitBlock;
 
-#if defined(__SSE2__)
-
 template <>
 class UnitBlock<std::uint8_t> {
  public:
-  explicit UnitBlock(const std::uint8_t* units) noexcept
-      : units_(_mm_loadu_si128(reinterpret_cast<const __m128i*>(units))) {}
+  explicit UnitBlock(const std::uint8_t* units) noexcept : units_(Block<std::uint8_t>::Load(units)) {}
 
   [[nodiscard]] unsigned EqualTo(std::uint8_t unit) const noexcept {
-    return Bits(_mm_cmpeq_epi8(units_, _mm_set1_epi8(static_cast<char>(unit))));
+    return units_.EqualTo(unit).AsHits().Bits();
   }
   [[nodiscard]] unsigned From(std::uint8_t first, std::uint8_t last) const noexcept {
-    const __m128i offsets = _mm_sub_epi8(units_, _mm_set1_epi8(static_cast<char>(first)));
-    const __m128i beyond = _mm_subs_epu8(offsets, _mm_set1_epi8(static_cast<char>(last - first)));
-    return Bits(_mm_cmpeq_epi8(beyond, _mm_setzero_si128()));
+    return units_.Within(first, last).AsHits().Bits();
   }
   /// Bytes from 0x80 on.
-  [[nodiscard]] unsigned NoAscii() const noexcept { return Bits(units_); }
-  /// Writes each byte as a character.
+  [[nodiscard]] unsigned NoAscii() const noexcept { return units_.AsHits().Bits(); }
+  /// Writes each byte as a unit.
   void Widen(char16_t* to) const noexcept {
-    const __m128i zero = _mm_setzero_si128();
-    _mm_storeu_si128(reinterpret_cast<__m128i*>(to), _mm_unpacklo_epi8(units_, zero));
-    _mm_storeu_si128(reinterpret_cast<__m128i*>(to + 8), _mm_unpackhi_epi8(units_, zero));
+    WidenedLow(units_).Store(to);
+    WidenedHigh(units_).Store(to + kSearchBlock / 2);
   }
 
  private:
-  static unsigned Bits(__m128i hits) noexcept { return static_cast<unsigned>(_mm_movemask_epi8(hits)); }
-
-  __m128i units_;
+  Block<std::uint8_t> units_;
 };
 
 template <>
 class UnitBlock<char16_t> {
  public:
   explicit UnitBlock(const char16_t* units) noexcept
-      : low_(_mm_loadu_si128(reinterpret_cast<const __m128i*>(units))),
-        high_(_mm_loadu_si128(reinterpret_cast<const __m128i*>(units + 8))) {}
+      : low_(Block<char16_t>::Load(units)), high_(Block<char16_t>::Load(units + kSearchBlock / 2)) {}
 
   [[nodiscard]] unsigned EqualTo(char16_t unit) const noexcept {
-    const __m128i wanted = _mm_set1_epi16(static_cast<short>(unit));
-    return Bits(_mm_cmpeq_epi16(low_, wanted), _mm_cmpeq_epi16(high_, wanted));
+    const Block<char16_t> wanted(unit);
+    return NarrowedLanes(low_.EqualTo(wanted), high_.EqualTo(wanted)).AsHits().Bits();
   }
   [[nodiscard]] unsigned From(char16_t first, char16_t last) const noexcept {
-    const auto within = [&](__m128i units) {
-      const __m128i offsets = _mm_sub_epi16(units, _mm_set1_epi16(static_cast<short>(first)));
-      const __m128i beyond = _mm_subs_epu16(offsets, _mm_set1_epi16(static_cast<short>(last - first)));
-      return _mm_cmpeq_epi16(beyond, _mm_setzero_si128());
-    };
-    return Bits(within(low_), within(high_));
+    return NarrowedLanes(low_.Within(first, last), high_.Within(first, last)).AsHits().Bits();
   }
 
  private:
-  static unsigned Bits(__m128i low, __m128i high) noexcept {
-    return static_cast<unsigned>(_mm_movemask_epi8(_mm_packs_epi16(low, high)));
-  }
-
-  __m128i low_;
-  __m128i high_;
+  Block<char16_t> low_;
+  Block<char16_t> high_;
 };
-
-#else
-
-template <class Unit>
-class UnitBlock {
- public:
-  explicit UnitBlock(const Unit* units) noexcept : units_(units) {}
-
-  [[nodiscard]] unsigned EqualTo(Unit unit) const noexcept { return From(unit, unit); }
-  [[nodiscard]] unsigned From(Unit first, Unit last) const noexcept {
-    unsigned bits = 0;
-    for (std::size_t i = 0; i < kSearchBlock; ++i)
-      bits |= (units_[i] >= first && units_[i] <= last ? 1U : 0U) << i;
-    return bits;
-  }
-  [[nodiscard]] unsigned NoAscii() const noexcept { return From(0x80, 0xFF); }
-  void Widen(char16_t* to) const noexcept { std::copy_n(units_, kSearchBlock, to); }
-
- private:
-  const Unit* units_;
-};
-
-#endif
 
 /// Units equal to one of those given.
 template <std::size_t kCount>

@@ -1,13 +1,14 @@
-#include <ravo/codec/kernels/kernel_set.h>
-#include <ravo/codec/kernels/vector_block.h>
+#include <ravo/codec/kernels/ascii_blocks.h>
+#include <ravo/codec/kernels/kernels.h>
 
 #include <array>
 
 namespace ravo::codec {
 namespace {
 
-// In a text of words with accents hardly so many characters in a row are ASCII: whether they are is foreseen
-// by the processor for either kind of text.
+constexpr std::size_t kBlock = 16;
+// So many ASCII characters in a row are rare in Czech text, so the branch on them is predicted for either
+// kind of text.
 constexpr std::size_t kAsciiBlocks = 4;
 constexpr std::size_t kBig = kAsciiBlocks * kBlock;
 
@@ -28,17 +29,14 @@ bool EncodeAny(const ReverseTable& table, const char16_t* from, std::uint8_t* to
   return WriteBytes(bytes, to);
 }
 
-#if defined(__SSE2__)
-
-// Places of eight characters in the second and third page; false where one is elsewhere.
+// Places of eight characters in the second and third page; false if one is elsewhere.
 bool PlacesOf(std::uint8_t script, const char16_t* from, std::uint16_t* places) {
-  const Vector text = LoadVector(from);
-  const Vector upper = _mm_srli_epi16(text, 8);
-  const Vector low = _mm_cmpeq_epi16(upper, _mm_setzero_si128());
-  const Vector known = _mm_or_si128(low, _mm_cmpeq_epi16(upper, _mm_set1_epi16(script)));
-  const Vector in_page = _mm_and_si128(text, _mm_set1_epi16(0xFF));
-  StoreVector(places, _mm_or_si128(in_page, _mm_andnot_si128(low, _mm_set1_epi16(0x100))));
-  return Mask(known) == 0xFFFF;
+  using Units = Block<char16_t>;
+  const Units text = Units::Load(from);
+  const Units page = text.Right(8);
+  const Units is_low = page.EqualTo(u'\0');
+  ((text & Units(char16_t{0xFF})) | Units(char16_t{0x100}).Without(is_low)).Store(places);
+  return (is_low | page.EqualTo(char16_t{script})).AsHits().All();
 }
 
 // Eight bytes as one number, the first in its lowest bits.
@@ -48,27 +46,18 @@ std::uint64_t EightBytes(const std::uint8_t* pages, const std::uint16_t* places)
   return bytes;
 }
 
-// Most characters stand in two pages: one look-up each.
+// Most characters are in two pages: one look-up each.
 bool EncodeBlock(const ReverseTable& table, const char16_t* from, std::uint8_t* to) {
-  alignas(Vector) Indices places;
+  alignas(kBlockBytes) Indices places;
   const bool first = PlacesOf(table.script, from, places.data());
   const bool second = PlacesOf(table.script, from + 8, places.data() + 8);
   if (!first || !second) return EncodeAny(table, from, to);
   const std::uint8_t* const pages = table.pages + 256;
-  const std::uint64_t low = EightBytes(pages, places.data());
-  const std::uint64_t high = EightBytes(pages, places.data() + 8);
-  const Vector bytes = _mm_set_epi64x(static_cast<long long>(high), static_cast<long long>(low));
-  StoreVector(to, bytes);
-  return Mask(_mm_cmpeq_epi8(bytes, _mm_setzero_si128())) == 0;
+  const auto bytes =
+      Block<std::uint8_t>::OfHalves(EightBytes(pages, places.data()), EightBytes(pages, places.data() + 8));
+  bytes.Store(to);
+  return bytes.EqualTo(0).AsHits().None();
 }
-
-#else
-
-bool EncodeBlock(const ReverseTable& table, const char16_t* from, std::uint8_t* to) {
-  return EncodeAny(table, from, to);
-}
-
-#endif
 
 // So few that the compiler writes the look-ups out.
 void DecodeBlock(const ByteTable& table, const std::uint8_t* from, char16_t* to) {

@@ -1,46 +1,24 @@
 #include <ravo/codec/byte_spans.h>
-#include <ravo/codec/kernels/kernel_set.h>
-#include <ravo/codec/kernels/vector_block.h>
+#include <ravo/codec/kernels/block.h>
+#include <ravo/codec/kernels/kernels.h>
 
 namespace ravo::codec {
 namespace {
 
-constexpr std::size_t kUnits = 8;
+using Units = Block<char16_t>;
+constexpr std::size_t kUnits = Units::kUnits;
 
-#if defined(__SSE2__)
+Units Exchanged(Units units) { return units.Left(8) | units.Right(8); }
 
-// Copies eight units; false, with nothing written, where one is a surrogate and `plain_only`.
+// Copies eight units; false, with nothing written, if one is a surrogate and `plain_only`.
 bool CopyUnits(bool swap_before, bool swap_after, bool plain_only, const void* from, void* to) {
-  const auto exchanged = [](Vector units) {
-    return _mm_or_si128(_mm_slli_epi16(units, 8), _mm_srli_epi16(units, 8));
-  };
-  Vector units = LoadVector(from);
-  if (swap_before) units = exchanged(units);
-  const Vector top = _mm_and_si128(units, _mm_set1_epi16(-0x800));
-  const Vector surrogates = _mm_cmpeq_epi16(top, _mm_set1_epi16(-0x2800));
-  if (plain_only && Mask(surrogates) != 0) return false;
-  StoreVector(to, swap_after ? exchanged(units) : units);
+  Units units = Units::Load(from);
+  if (swap_before) units = Exchanged(units);
+  const Units surrogates = (units & Units(char16_t{0xF800})).EqualTo(char16_t{0xD800});
+  if (plain_only && !surrogates.AsHits().None()) return false;
+  (swap_after ? Exchanged(units) : units).Store(to);
   return true;
 }
-
-#else
-
-bool CopyUnits(bool swap_before, bool swap_after, bool plain_only, const void* from, void* to) {
-  char16_t units[kUnits];
-  std::memcpy(units, from, sizeof(units));
-  const auto exchange = [&units] {
-    for (char16_t& unit : units) unit = static_cast<char16_t>(unit << 8 | unit >> 8);
-  };
-  if (swap_before) exchange();
-  bool plain = true;
-  for (const char16_t unit : units) plain = plain && !IsSurrogate(unit);
-  if (plain_only && !plain) return false;
-  if (swap_after) exchange();
-  std::memcpy(to, units, sizeof(units));
-  return true;
-}
-
-#endif
 
 }  // namespace
 

@@ -1,4 +1,3 @@
-#include <ravo/codec/kernels/kernel_set.h>
 #include <ravo/unicode/encodings.h>
 #include <ravo/unicode/encodings/encoding_of.h>
 
@@ -10,7 +9,6 @@ namespace {
 // Both lists are in the order of rows.inc.
 template <class Test>
 const codec::Encoding* EncodingWhere(Test test) noexcept {
-  codec::ChooseKernels();
   const auto rows = DIUnicode::EncodingRows();
   const auto row = std::ranges::find_if(rows, test);
   return row == rows.end() ? nullptr : &codec::Encodings()[static_cast<std::size_t>(row - rows.begin())];

@@ -6,8 +6,7 @@
 
 namespace ravo::unicode {
 
-/// Returns the encoding whose routines those methods have; null if they are not of this library. Kernels are
-/// chosen then.
+/// Returns the encoding whose routines those methods have; null if they are not of this library.
 [[nodiscard]] const codec::Encoding* EncodingOf(const DIUnicode::TDIUnicodeReadMethods& methods) noexcept;
 [[nodiscard]] const codec::Encoding* EncodingOf(const DIUnicode::TDIUnicodeWriteMethods& methods) noexcept;
 
