@@ -90,6 +90,15 @@ TEST_P(Kernels, EncodeAPrefixOfUtf8) {
   }
 }
 
+// More than a lane can count.
+TEST_P(Kernels, CountTheBytesOfLongTexts) {
+  constexpr std::size_t kSize = 1'100'007;
+  EXPECT_EQ(GetParam().utf8_length(std::u16string(kSize, u'a')), kSize);
+  EXPECT_EQ(GetParam().utf8_length(std::u16string(kSize, u'č')), 2 * kSize);
+  EXPECT_EQ(GetParam().utf8_length(std::u16string(kSize, u'€')), 3 * kSize);
+  EXPECT_EQ(GetParam().utf8_length(std::u16string(kSize, u'\xD800')), 3 * kSize);
+}
+
 TEST_P(Kernels, EncodeEveryUnit) {
   for (unsigned first = 0; first < 0x10000; first += 256) {
     std::u16string text;

@@ -1,6 +1,10 @@
 #include <ravo/codec/kernels/ascii_blocks.h>
 #include <ravo/codec/kernels/kernels.h>
 
+#include <algorithm>
+#include <array>
+#include <numeric>
+
 namespace ravo::codec {
 
 Run DecodeUtf8Ascii(ByteSpan bytes, TextRoom text) noexcept {
@@ -19,27 +23,38 @@ Run EncodeUtf8Ascii(TextSpan text, ByteRoom bytes) noexcept {
 
 namespace {
 
-// How many of sixteen units have any of `bits`.
-std::size_t CountWith(Block<char16_t> low, Block<char16_t> high, char16_t bits) {
-  const Block<char16_t> any(bits);
-  const Block<char16_t> none;
-  const auto without = NarrowedLanes((low & any).EqualTo(none), (high & any).EqualTo(none)).AsHits();
-  return 16 - static_cast<std::size_t>(std::popcount(without.Bits()));
+using Units = Block<char16_t>;
+
+Units HaveNone(Units units, char16_t bits) { return (units & Units(bits)).EqualTo(u'\0'); }
+
+std::size_t SumOf(Units counts) {
+  std::array<char16_t, Units::kUnits> lanes;
+  counts.Store(lanes.data());
+  return std::accumulate(lanes.begin(), lanes.end(), std::size_t{0});
+}
+
+// How many bytes fewer than three each there are in whole blocks.
+std::size_t CountSaved(const char16_t* from, std::size_t blocks) {
+  Units counts;
+  for (; blocks > 0; --blocks, from += Units::kUnits) {
+    const Units units = Units::Load(from);
+    // Lanes of ones are -1.
+    counts = counts - HaveNone(units, 0xFF80) - HaveNone(units, 0xF800);
+  }
+  return SumOf(counts);
 }
 
 }  // namespace
 
 std::size_t Utf8Length(TextSpan text) noexcept {
-  using Units = Block<char16_t>;
-  std::size_t length = text.size();
-  std::size_t at = 0;
-  for (; text.size() - at >= 2 * Units::kUnits; at += 2 * Units::kUnits) {
-    const Units low = Units::Load(text.data() + at);
-    const Units high = Units::Load(text.data() + at + Units::kUnits);
-    if (AreAscii(low | high)) continue;
-    length += CountWith(low, high, 0xFF80) + CountWith(low, high, 0xF800);
+  constexpr std::size_t kMostBlocks = 0x7FFF;  // two for each lane of a block
+  std::size_t length = 3 * text.size();
+  while (text.size() >= Units::kUnits) {
+    const std::size_t blocks = std::min(text.size() / Units::kUnits, kMostBlocks);
+    length -= CountSaved(text.data(), blocks);
+    text = text.subspan(blocks * Units::kUnits);
   }
-  for (; at < text.size(); ++at) length += (text[at] >= 0x80 ? 1U : 0U) + (text[at] >= 0x800 ? 1U : 0U);
+  for (const char16_t unit : text) length -= (unit < 0x80 ? 1U : 0U) + (unit < 0x800 ? 1U : 0U);
   return length;
 }
 
