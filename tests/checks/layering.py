@@ -55,6 +55,9 @@ SYSTEM_HEADER = re.compile(r"^(windows|winver|unistd|dlfcn|sys/.*|win(base|nt|us
 # Sources that CMake picks by the target's system say so in their name; tests mirror the library.
 SYSTEM_SOURCE = re.compile(r"^(ravo/platform/|tests/platform/|tests/support/|tests/\w+/(posix|win32|windows_names)/)|^ravo/runtime/export\.h$|_(win32|posix)\.(cpp|c|h)$")
 C_STANDARD = {"stddef.h", "stdint.h"}
+# Vector instructions have one home, and the one job elsewhere that is made of nothing else.
+VECTOR_HEADER = re.compile(r"^([a-z0-9]*intrin|arm_neon|cpuid)\.h$")
+VECTOR_SOURCE = re.compile(r"^ravo/codec/kernels/|^ravo/utils/crc32_carryless\.cpp$")
 
 
 def room_of(name: str) -> str | None:
@@ -141,6 +144,14 @@ def check_system_names(root):
                 yield f"{name}:{number}: <{header}> belongs to ravo/platform alone"
 
 
+def check_vector_headers(root):
+    for path in code_files(root, "ravo", "tools"):
+        name = path.relative_to(root).as_posix()
+        for number, quote, header in includes(path):
+            if quote == "<" and VECTOR_HEADER.match(header) and not VECTOR_SOURCE.search(name):
+                yield f"{name}:{number}: <{header}> belongs to ravo/codec/kernels alone"
+
+
 def public_files(graph: Graph) -> list[str]:
     """What a program can reach from the public face, in a fixed order."""
     reached, waiting = set(), [name for name in graph if room_of(name) in (PUBLIC, HOST_HEADER)]
@@ -202,6 +213,7 @@ def check(root):
         *check_arrows(graph),
         *check_circles(graph),
         *check_system_names(root),
+        *check_vector_headers(root),
         *check_public_headers(root, graph),
         *check_document(root),
     ]
@@ -254,6 +266,9 @@ PLANTINGS: list[Planting] = [
     ("a system's macro in words", _tree({"ravo/xml/a.cpp": '// _WIN32\nauto a = "_WIN32";\n'}), None),
     ("a system's header", _tree({"tests/xml/a.cpp": "#include <windows.h>\n"}), "<windows.h> belongs"),
     ("the system where it belongs", _tree({"ravo/platform/win32/a.cpp": "#include <windows.h>\n#ifdef _WIN32\n#endif\n"}), None),
+    ("vectors", _tree({"ravo/xml/a.h": "#include <emmintrin.h>\n"}), "xml/a.h:1: <emmintrin.h> belongs"),
+    ("vectors in the program", _tree({"tools/ravo/a.cpp": "#include <immintrin.h>\n"}), "<immintrin.h> belongs"),
+    ("vectors where they belong", _tree({"ravo/codec/kernels/a.h": "#include <immintrin.h>\n", "ravo/utils/crc32_carryless.cpp": "#include <immintrin.h>\n"}), None),
     ("a public header", _tree({"ravo/P.h": "#include <sys/stat.h>\n"}), "reaches the system header sys/stat.h"),
     (
         "a public header at second hand",

@@ -10,7 +10,7 @@
 #include <cstdint>
 #include <span>
 
-/// How far units of some kind go at the front of a run, sixteen at a time. A unit is a UTF-16 unit, or a byte
+/// Searches a run for the first unit of a kind, sixteen units at a time. A unit is a UTF-16 unit, or a byte
 /// of a text whose bytes below 0x80 are ASCII.
 namespace ravo::codec {
 
@@ -121,25 +121,25 @@ class Not {
   Kind kind_;
 };
 
-/// Where lines start among units: a unit starts one behind a line feed, and behind a carriage return unless
-/// it is a line feed itself.
+/// The line starts among units: a unit after a line feed, or after a carriage return unless it is a line feed
+/// itself.
 struct LineStarts {
   std::size_t count = 0;
   std::size_t last = 0;  ///< the last of them
 };
 
-/// `before` stands in front of the units. The last block overlaps the one before.
+/// `before` is the unit before the first one.
 template <class Unit>
 [[nodiscard]] LineStarts FindLineStarts(char16_t before, std::span<const Unit> run) {
   LineStarts starts;
   unsigned feed = before == u'\n' ? 1 : 0;
   unsigned carriage = before == u'\r' ? 1 : 0;
   const auto add = [&](unsigned feeds, unsigned carriages, std::size_t at, std::size_t size) {
-    const unsigned behind_feeds = feeds << 1 | feed;
-    const unsigned behind_carriages = carriages << 1 | carriage;
+    const unsigned after_feeds = feeds << 1 | feed;
+    const unsigned after_carriages = carriages << 1 | carriage;
     feed = feeds >> (size - 1) & 1;
     carriage = carriages >> (size - 1) & 1;
-    const unsigned found = (behind_feeds | (behind_carriages & ~feeds)) & ((1U << size) - 1);
+    const unsigned found = (after_feeds | (after_carriages & ~feeds)) & ((1U << size) - 1);
     if (found == 0) return;
     for (unsigned rest = found; rest != 0; rest &= rest - 1) ++starts.count;
     starts.last = at + static_cast<std::size_t>(std::bit_width(found)) - 1;
@@ -153,7 +153,7 @@ template <class Unit>
   return starts;
 }
 
-/// How many units stand before the first one of a kind. The last block overlaps the one before.
+/// Returns how many units there are before the first one of a kind. The last block overlaps the one before.
 template <class Unit, class Kind>
 [[nodiscard]] std::size_t LengthBefore(std::span<const Unit> run, const Kind& kind) {
   std::size_t at = 0;
