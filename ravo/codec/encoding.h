@@ -75,16 +75,16 @@ struct Encoding {
 [[nodiscard]] std::span<const Encoding> Encodings() noexcept;
 
 /// Returns the encoding of a name: a row's name, alias, code page number with or without "cp", or label,
-/// whatever its case, letters and digits of ASCII alone. Null if there is none.
+/// whatever its case, letters and digits of ASCII alone. Null if it is unknown.
 [[nodiscard]] const Encoding* FindEncoding(std::string_view name) noexcept;
-/// Returns the encoding of a Windows code page; null if there is none, and for 0.
+/// Returns the encoding of a Windows code page; null if it is unknown, and for 0.
 [[nodiscard]] const Encoding* FindEncoding(std::uint32_t code_page) noexcept;
 
 /// Decodes from `bytes` into `text`. What is malformed gives U+FFFD.
 ///
-/// At most the last eight bytes stay with `Stop::CutShort`, and only if `Input::MoreFollows`; give them again
-/// with what follows them. May write beyond what it made, within `text`. `Stop::EndOfData` never comes from
-/// more than one encoding: UTF-16 has low surrogates that end the data; a next call goes on after them.
+/// At most the last eight bytes stay with `Stop::CutShort`, and only if `Input::MoreFollows`: give them again
+/// with what follows them. `Stop::EndOfData` comes from UTF-16 alone, after a low surrogate; the next call
+/// goes on after it. May write beyond what it made, within `text`.
 [[nodiscard]] Step Decode(const Encoding& encoding, State& state, ByteSpan bytes, TextRoom text,
                           Input input) noexcept;
 

@@ -24,7 +24,7 @@ struct ReverseTable {
   const std::uint8_t* pages;     ///< 256 bytes each; 0 means none, but for the character 0
   std::uint8_t script;           ///< the upper byte of most other characters; 0 where there are none
 
-  /// The byte of `ch`; 0 where there is none or the byte is 0, which is the byte of U+0000 in every table.
+  /// The byte of `ch`; 0 if it has no byte. U+0000 has the byte 0 in every table.
   [[nodiscard]] constexpr std::uint8_t operator[](char16_t ch) const noexcept {
     return pages[page_of[ch >> 8] + (ch & 0xFFU)];
   }

@@ -66,6 +66,7 @@ struct Utf8Engine {
     // Kept: a sequence of four to six bytes is read as one U+FFFD, because the library has no code point past
     // U+FFFF. Test: ReadUtf8.FourBytesAreOneReplacement
     const bool fits = count == 1 || count == 2;
+    // Kept: a surrogate in UTF-8 is decoded as it is. Test: StrDecodeUtf8.SurrogatesAreTakenAsTheyAre
     return fits && value >= kLeast[static_cast<std::size_t>(count)] ? static_cast<char16_t>(value)
                                                                     : kReplacement;
   }

@@ -39,7 +39,7 @@ bool TDIUnicodeReader::PopSource() {
   FSourceFile = std::move(entry->SourceFile);
   FSourceStream = entry->SourceStream;
   if (entry->ReadMethods.ReadChar != nullptr) {
-    // A record of ours that nobody would ask for any more. What others keep in the state is theirs.
+    // Frees our record, which has no user any more. What others keep in the state is theirs.
     if (FReadMethods.Finalize == Read_UTF_7_Finalize && entry->ReadMethods.Finalize != Read_UTF_7_Finalize)
       unicode::FreeUtf7State(*this);
     UseReadMethods(entry->ReadMethods);

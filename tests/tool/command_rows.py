@@ -41,8 +41,8 @@ ZIPPER_LINES = (
     "\tCoRavoZipper\tclass\tIRavoZip\t{2FE78C5D-7DB0-46C4-9512-DAACCF23EBCE}\n"
 )
 
-ROWS = pathlib.Path(__file__).resolve().parents[2] / "ravo/codec/rows.inc"
-ENCODINGS = len(re.findall(r"^RAVO_ENCODING\(", ROWS.read_text(encoding="utf-8"), re.M))
+ENCODING_ROWS = pathlib.Path(__file__).resolve().parents[2] / "ravo/codec/rows.inc"
+ENCODINGS = len(re.findall(r"^RAVO_ENCODING\(", ENCODING_ROWS.read_text(encoding="utf-8"), re.M))
 WINDOWS_1250 = "Windows_1250\tWindows-1250 (Central European)\t1250\treads, writes\tcp1250 1250 win1250 x-cp1250 ms-ee\n"
 
 

@@ -37,7 +37,7 @@ std::string_view AsText(std::span<const std::uint8_t> bytes) {
 struct Converter::Input {
   explicit Input(const Read& from) : read(from) {}
 
-  // Reads more behind the bytes that are left.
+  // Reads more after the bytes that are left.
   void Fill() {
     std::memmove(block.data(), block.data() + begin, end - begin);
     end -= std::exchange(begin, 0);

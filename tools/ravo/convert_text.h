@@ -26,7 +26,7 @@ struct Conversion {
 /// Where a conversion ended before the end, and why: "3:14: U+4E00 cannot be written in Windows_1250".
 using Refusal = std::optional<std::string>;
 
-/// Converts texts one after the other into one, block by block: the memory does not grow with them.
+/// Converts several texts into one, block by block: the memory does not grow with them.
 class Converter {
  public:
   /// Reads bytes into a block; gives how many, 0 at the end.

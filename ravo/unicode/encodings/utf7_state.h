@@ -7,7 +7,8 @@
 /// What UTF-7 remembers between characters, in a record to which the `State` of a reader or writer points.
 namespace ravo::unicode {
 
-/// The record, made if there is none: a source that was popped brings its routines back without their `Init`.
+/// Returns the record, and makes it first if `State` is 0: a source that was popped brings its routines back
+/// without their `Init`.
 template <class Holder>
 codec::Utf7State& Utf7StateOf(Holder& holder) {
   if (holder.State() == 0) holder.SetState(reinterpret_cast<std::uintptr_t>(new codec::Utf7State));

@@ -6,8 +6,7 @@
 namespace ravo::DIUtils {
 
 // Kept: a sequence of four bytes or more gives one U+FFFD, because the library has no code point past U+FFFF.
-// Test: StrDecodeUtf8.FourBytesAndMoreGiveOneReplacement Kept: a surrogate in UTF-8 is decoded as it is.
-// Test: StrDecodeUtf8.SurrogatesAreTakenAsTheyAre
+// Test: StrDecodeUtf8.FourBytesAndMoreGiveOneReplacement
 std::u16string StrDecodeUtf8(std::string_view bytes) { return codec::DecodedUtf8OfStrings(bytes); }
 std::u16string BufDecodeUtf8(const char* buffer, std::size_t length) {
   return StrDecodeUtf8(strings::Buffer(buffer, length));
