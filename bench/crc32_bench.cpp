@@ -36,7 +36,7 @@ std::uint32_t OurCrc(std::uint32_t crc, const Bytes& bytes) {
 }
 
 std::uint32_t PlainCrc(std::uint32_t crc, const Bytes& bytes) {
-  return ravo::utils::UpdateCrc32Carried(crc, std::as_bytes(std::span(bytes)));
+  return ravo::utils::UpdateCrc32Braided(crc, std::as_bytes(std::span(bytes)));
 }
 
 std::uint32_t ZlibCrc(std::uint32_t crc, const Bytes& bytes) {

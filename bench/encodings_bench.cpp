@@ -1,7 +1,7 @@
 // Whole texts between encodings and UTF-16, beside ICU's converters and the C library's iconv.
 #include "ratio.h"
 #include <ravo/DIUnicode.h>
-#include <ravo/unicode/encodings/runs.h>
+#include <ravo/unicode/encodings/encoding_of.h>
 
 #include <cerrno>
 #include <random>
@@ -14,6 +14,8 @@ namespace {
 
 using Bytes = std::vector<std::uint8_t>;
 using namespace ravo::DIUnicode;
+using ravo::codec::Run;
+using ravo::unicode::EncodingOf;
 
 constexpr std::size_t kSize = 1024 * 1024;
 constexpr std::size_t kPiece = 4096;
@@ -85,7 +87,7 @@ std::u16string TextOf(std::span<const std::u16string_view> words, std::size_t si
 
 Bytes BytesOf(const TDIUnicodeWriteMethods& methods, std::u16string_view text) {
   Bytes bytes(4 * text.size() + 4);
-  const Run run = EncodeRunOf(methods)(text, bytes);
+  const Run run = EncodingOf(methods)->encode_run(text, bytes);
   if (run.taken != text.size()) std::abort();
   bytes.resize(run.made);
   return bytes;
@@ -168,11 +170,11 @@ auto InPieces(Convert convert, Source source, Target target) {
 }
 
 auto Decode(const TDIUnicodeReadMethods& methods, const Bytes& bytes, std::size_t room) {
-  return InPieces(DecodeRunOf(methods), bytes, std::u16string(room, u'\0'));
+  return InPieces(EncodingOf(methods)->decode_run, bytes, std::u16string(room, u'\0'));
 }
 
 auto Encode(const TDIUnicodeWriteMethods& methods, const std::u16string& text, std::size_t room) {
-  return InPieces(EncodeRunOf(methods), text, Bytes(room));
+  return InPieces(EncodingOf(methods)->encode_run, text, Bytes(room));
 }
 
 std::string AsChars(const Bytes& bytes) { return {bytes.begin(), bytes.end()}; }

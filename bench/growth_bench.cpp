@@ -6,10 +6,9 @@
 #include <ravo/DIUnicode.h>
 #include <ravo/DIUtils.h>
 #include <ravo/ECXMLParser.h>
+#include <ravo/codec/kernels/kernel_set.h>
 #include <ravo/runtime/byte_stream.h>
-#include <ravo/unicode/encodings/run_blocks.h>
 #include <ravo/utils/crc32_kernels.h>
-#include <ravo/utils/strings/kernels.h>
 
 #include <functional>
 #include <memory>
@@ -123,9 +122,8 @@ std::string LastThatRuns(const Kernels& kernels) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  benchmark::AddCustomContext("kernels", "CRC-32 " + LastThatRuns(utils::Crc32Kernels()) + ", strings " +
-                                             LastThatRuns(strings::StringKernels()) + ", encodings " +
-                                             LastThatRuns(DIUnicode::RunKernels()));
+  benchmark::AddCustomContext("kernels", "CRC-32 " + LastThatRuns(utils::Crc32Kernels()) + ", text " +
+                                             LastThatRuns(codec::KernelSets()));
   for (const std::size_t times : kTimes) {
     Register("XML: load and free, a byte", times, XmlLoad);
     Register("XML: save, a byte", times, XmlSave);

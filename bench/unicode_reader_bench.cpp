@@ -1,4 +1,5 @@
-// Texts through reader and writer, beside the C library's iconv and std::getline.
+// Texts through reader and writer, beside the C library's iconv; lines beside std::getline with and without
+// ICU's conversion of each line to UTF-16.
 #include "ratio.h"
 #include <ravo/DIUnicode.h>
 
@@ -8,6 +9,7 @@
 #include <sstream>
 
 #include <iconv.h>
+#include <unicode/ucnv.h>
 
 namespace {
 
@@ -144,11 +146,36 @@ std::function<std::size_t()> Lines(const std::shared_ptr<const std::string>& sou
   };
 }
 
+// The same work as a reader: each line is UTF-16 in the end.
+std::function<std::size_t()> LinesByIcu(const std::shared_ptr<const std::string>& source, char end,
+                                        const char* encoding) {
+  const auto stream = std::make_shared<std::istringstream>(*source);
+  UErrorCode error = U_ZERO_ERROR;
+  const std::shared_ptr<UConverter> converter(ucnv_open(encoding, &error), ucnv_close);
+  if (U_FAILURE(error)) std::abort();
+  return [stream, end, converter] {
+    stream->clear();
+    stream->seekg(0);
+    std::size_t sum = 0;
+    std::u16string text;
+    for (std::string line; std::getline(*stream, line, end);) {
+      UErrorCode status = U_ZERO_ERROR;
+      text.resize(std::max(text.size(), line.size() + 1));
+      const int size = ucnv_toUChars(converter.get(), text.data(), static_cast<int>(text.size()), line.data(),
+                                     static_cast<int>(line.size()), &status);
+      if (U_FAILURE(status)) std::abort();
+      sum += static_cast<std::size_t>(size);
+    }
+    return sum;
+  };
+}
+
 void RegisterSteps(const std::string& job, const std::string& text, const TDIUnicodeReadMethods& from,
-                   char end, Step step) {
+                   char end, Step step, const char* icu_name = nullptr) {
   const auto source = std::make_shared<const std::string>(text);
   Register(job + "/ravo", text.size(), Steps(source, from, step));
   Register(job + "/getline", text.size(), Lines(source, end));
+  if (icu_name != nullptr) Register(job + "/getline+icu", text.size(), LinesByIcu(source, end, icu_name));
 }
 
 // Blocks of code lines: indentation, empty lines, blanks.
@@ -170,16 +197,19 @@ void RegisterReading() {
     reader.ReadChar();
   };
   const std::string ascii = Encoded(TextOf(kAscii, kLongText), Write_US_ASCII);
-  RegisterSteps("read_line_ascii", ascii, Read_Windows_1250, '\n', read_line);
-  RegisterSteps("read_chars_till_ascii", ascii, Read_Windows_1250, '\n', [](TDIUnicodeReader& reader) {
-    reader.ZeroDataSize();
-    reader.ReadCharsTill(u'\n');
-    reader.ReadChar();
-  });
-  RegisterSteps("read_line_utf8", utf8, Read_UTF_8, '\n', read_line);
-  RegisterSteps("read_line_windows_1250", windows, Read_Windows_1250, '\n', read_line);
-  RegisterSteps("read_chars_till_utf8", utf8, Read_UTF_8, ';', read_till);
-  RegisterSteps("read_chars_till_1250", windows, Read_Windows_1250, ';', read_till);
+  RegisterSteps("read_line_ascii", ascii, Read_Windows_1250, '\n', read_line, "windows-1250");
+  RegisterSteps(
+      "read_chars_till_ascii", ascii, Read_Windows_1250, '\n',
+      [](TDIUnicodeReader& reader) {
+        reader.ZeroDataSize();
+        reader.ReadCharsTill(u'\n');
+        reader.ReadChar();
+      },
+      "windows-1250");
+  RegisterSteps("read_line_utf8", utf8, Read_UTF_8, '\n', read_line, "UTF-8");
+  RegisterSteps("read_line_windows_1250", windows, Read_Windows_1250, '\n', read_line, "windows-1250");
+  RegisterSteps("read_chars_till_utf8", utf8, Read_UTF_8, ';', read_till, "UTF-8");
+  RegisterSteps("read_chars_till_1250", windows, Read_Windows_1250, ';', read_till, "windows-1250");
   RegisterSteps("skip_white_space_utf8", WhiteText(kLongText), Read_UTF_8, '\n',
                 [](TDIUnicodeReader& reader) { reader.SkipWhiteSpace(); });
 }

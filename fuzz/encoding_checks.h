@@ -1,7 +1,8 @@
 #pragma once
 
 #include <ravo/DIUnicode.h>
-#include <ravo/unicode/encodings/run_blocks.h>
+#include <ravo/codec/kernels/kernel_set.h>
+#include <ravo/unicode/encodings/encoding_of.h>
 
 #include <cstdlib>
 #include <memory>
@@ -55,13 +56,13 @@ inline std::u16string ReadInTwo(const DIUnicode::TDIUnicodeReadMethods& methods,
 /// Whole runs into room of that many characters, single characters where they stop.
 inline std::u16string ReadByRuns(const DIUnicode::TDIUnicodeReadMethods& methods, Bytes bytes,
                                  std::size_t room) {
-  const DIUnicode::DecodeRun decode = DIUnicode::DecodeRunOf(methods);
+  const codec::DecodeRun decode = unicode::EncodingOf(methods)->decode_run;
   if (decode == nullptr) return Read(methods, bytes);
   const auto copy = Copy(bytes);
   const auto target = std::make_unique<char16_t[]>(room);
   std::u16string text;
   for (Bytes rest(copy.get(), bytes.size());;) {
-    const DIUnicode::Run run = decode(rest, std::span(target.get(), room));
+    const codec::Run run = decode(rest, std::span(target.get(), room));
     Require(run.taken <= rest.size() && run.made <= room);
     if (run.made == 0) return text + Read(methods, rest);
     text.append(target.get(), run.made);
@@ -82,25 +83,25 @@ inline std::vector<std::uint8_t> Write(const DIUnicode::TDIUnicodeWriteMethods& 
 /// Whole runs of encoding, a single character where they stop for want of room.
 inline void CheckEncodeRuns(const DIUnicode::EncodingRow& encoding, std::u16string_view text,
                             Bytes expected) {
-  const DIUnicode::EncodeRun encode = DIUnicode::EncodeRunOf(*encoding.write);
+  const codec::EncodeRun encode = unicode::EncodingOf(*encoding.write)->encode_run;
   if (encode == nullptr) return;
   const auto target = std::make_unique<std::uint8_t[]>(expected.size());
-  const DIUnicode::Run run = encode(text, std::span(target.get(), expected.size()));
+  const codec::Run run = encode(text, std::span(target.get(), expected.size()));
   Require(run.made <= expected.size() && expected.size() - run.made < 8);
   Require(std::equal(target.get(), target.get() + run.made, expected.begin()));
 }
 
 /// Runs up to an end, by every kernel, and single characters where they stop.
-inline void CheckRunsTill(const DIUnicode::TDIUnicodeReadMethods& methods, Bytes bytes, std::size_t room,
-                          std::u16string_view expected) {
-  const DIUnicode::DecodeTill till = DIUnicode::DecodeTillOf(methods);
-  if (till == nullptr) return;
-  const DIUnicode::EndBytes ends(bytes.empty() ? 'a' : bytes[bytes.size() / 2] & 0x7F, '\r', '\n');
+inline void CheckRunsUntil(const DIUnicode::TDIUnicodeReadMethods& methods, Bytes bytes, std::size_t room,
+                           std::u16string_view expected) {
+  const codec::DecodeUntil until = unicode::EncodingOf(methods)->decode_until;
+  if (until == nullptr) return;
+  const codec::EndBytes ends(bytes.empty() ? 'a' : bytes[bytes.size() / 2] & 0x7F, '\r', '\n');
   const auto copy = Copy(bytes);
   const auto target = std::make_unique<char16_t[]>(room);
   std::u16string text;
   for (Bytes rest(copy.get(), bytes.size());;) {
-    const DIUnicode::RunTill run = till(rest, std::span(target.get(), room), ends);
+    const codec::RunUntil run = until(rest, std::span(target.get(), room), ends);
     Require(run.taken <= rest.size() && run.made <= room);
     const std::u16string_view made(target.get(), run.made);
     for (const char16_t end : {ends.First(), ends.Second(), ends.Third()})
@@ -119,6 +120,30 @@ inline void CheckRunsTill(const DIUnicode::TDIUnicodeReadMethods& methods, Bytes
   Require(text == expected);
 }
 
+/// Steps over blocks of bytes, each into room of that many units, as a program converts a file.
+inline std::u16string ReadInSteps(const DIUnicode::TDIUnicodeReadMethods& methods, Bytes bytes,
+                                  std::size_t block, std::size_t room) {
+  const codec::Encoding& encoding = *unicode::EncodingOf(methods);
+  const auto copy = Copy(bytes);
+  const auto target = std::make_unique<char16_t[]>(room);
+  codec::State state;
+  std::u16string text;
+  std::size_t end = std::min(block, bytes.size());
+  for (std::size_t at = 0;;) {
+    const codec::Input input = end == bytes.size() ? codec::Input::IsLast : codec::Input::MoreFollows;
+    const codec::Step step = codec::Decode(encoding, state, Bytes(copy.get() + at, end - at),
+                                           std::span(target.get(), room), input);
+    Require(step.taken <= end - at && step.made <= room);
+    text.append(target.get(), step.made);
+    at += step.taken;
+    if (step.stop == codec::Stop::EndOfData) return text;
+    if (step.stop == codec::Stop::RoomUsed) continue;
+    Require(end - at <= codec::kMostBytesAtOnce);
+    if (input == codec::Input::IsLast) return text;
+    end = std::min(end + block, bytes.size());
+  }
+}
+
 /// Reading ends, alike however the bytes come, with no more characters than bytes; what can be written of it
 /// is read again.
 inline void CheckEncoding(const DIUnicode::EncodingRow& encoding, Bytes bytes, std::size_t cut,
@@ -128,11 +153,12 @@ inline void CheckEncoding(const DIUnicode::EncodingRow& encoding, Bytes bytes, s
   const std::u16string text = Read(read, bytes);
   Require(text.size() <= bytes.size());
   Require(ReadInTwo(read, bytes, bytes.empty() ? 0 : cut % bytes.size()) == text);
-  for (const DIUnicode::RunKernel& kernel : DIUnicode::RunKernels()) {
+  for (const codec::KernelSet& kernel : codec::KernelSets()) {
     if (!kernel.runs_here()) continue;
-    const DIUnicode::ScopedRunKernel chosen(kernel);
+    const codec::ScopedKernels chosen(kernel);
     Require(ReadByRuns(read, bytes, room % 257 + 1) == text);
-    CheckRunsTill(read, bytes, room % 257 + 1, text);
+    Require(ReadInSteps(read, bytes, cut % 61 + 1, room % 257 + 1) == text);
+    CheckRunsUntil(read, bytes, room % 257 + 1, text);
   }
   if (encoding.write == nullptr) return;
   std::u16string encodable = text;

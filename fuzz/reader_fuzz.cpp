@@ -1,8 +1,8 @@
 // A reader driven by a script of operations over any bytes, twice at once: with the encoding's whole runs,
 // and by single characters alone. Both stand alike after each operation.
 #include <ravo/DIUnicode.h>
+#include <ravo/codec/kernels/kernel_set.h>
 #include <ravo/runtime/error.h>
-#include <ravo/unicode/encodings/run_blocks.h>
 
 #include <algorithm>
 #include <cstdint>
@@ -14,6 +14,7 @@
 namespace {
 
 using namespace ravo::DIUnicode;
+using namespace ravo::codec;
 using Bytes = std::vector<std::uint8_t>;
 
 void Require(bool condition) {
@@ -250,9 +251,9 @@ void RequireSame(const TDIUnicodeReader& one, const TDIUnicodeReader& other) {
 }
 
 // One of those that run here.
-const RunKernel& KernelOf(std::uint8_t choice) {
-  std::vector<const RunKernel*> kernels;
-  for (const RunKernel& kernel : RunKernels()) {
+const KernelSet& KernelOf(std::uint8_t choice) {
+  std::vector<const KernelSet*> kernels;
+  for (const KernelSet& kernel : KernelSets()) {
     if (kernel.runs_here()) kernels.push_back(&kernel);
   }
   return *kernels[choice % kernels.size()];
@@ -270,7 +271,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   if (size < kHead) return 0;
   const Methods first = MethodsOf<0>(data[0]);
   const Methods second = MethodsOf<1>(data[1]);
-  const ScopedRunKernel kernel(KernelOf(data[2] / 8));
+  const ScopedKernels kernel(KernelOf(data[2] / 8));
   const std::size_t pairs = std::min<std::size_t>(data[3], (size - kHead) / 2);
   const auto* const script = data + kHead;
   // A block of its own, so that a byte too many is found.

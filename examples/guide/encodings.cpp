@@ -32,6 +32,5 @@ int main() {
   // [/write]
   // [names]
   if (const EncodingRow* encoding = FindEncoding("latin2")) std::cout << encoding->label << "\n";
-  std::cout << EncodingRows().size() << " encodings\n";
   // [/names]
 }

@@ -1,5 +1,6 @@
 #include <ravo/catalogue/generated/table_hash.h>
 #include <ravo/catalogue/table_catalogue.h>
+#include <ravo/catalogue/table_index.h>
 
 #include <algorithm>
 #include <array>
@@ -90,7 +91,7 @@ consteval auto MakeTableRows() {
 constexpr auto kTableRows = MakeTableRows();
 
 consteval Index MakeIndex() {
-  Index index{.slots = {}, .pool = kPool.data(), .multiplier = kTableHashMultiplier};
+  Index index;
   for (const TableRow& row : kTableRows) {
     const auto text_at = static_cast<std::uint16_t>(row.description.data() - kPool.data());
     const auto text_length = static_cast<std::uint8_t>(row.description.size());
@@ -101,9 +102,17 @@ consteval Index MakeIndex() {
   return index;
 }
 
-}  // namespace
+constexpr Index kIndex = MakeIndex();
 
-constexpr Index table_index::kIndex = MakeIndex();
+const table_index::Slot& SlotOf(std::int32_t id) { return kIndex.slots[Place(id, kTableHashMultiplier)]; }
+
+// The description in `slot`, or nothing if that is not a hit. The two differ in the length alone, by a
+// product: a choice would become a jump, which mixed hits and misses mispredict every other time.
+std::u16string_view TextOf(const table_index::Slot& slot, bool hit) {
+  return {kPool.data() + slot.text_at, slot.text_length * std::size_t{hit}};
+}
+
+}  // namespace
 
 std::span<const TableRow> TableRows() noexcept { return kTableRows; }
 
@@ -115,6 +124,16 @@ std::string_view TableModuleName(TableModule module) noexcept {
 
 std::string_view TableModuleKey(TableModule module) noexcept {
   return kModuleKeys[static_cast<std::size_t>(module)];
+}
+
+std::u16string_view TableDescription(TableModule module, std::int32_t id) noexcept {
+  const table_index::Slot& slot = SlotOf(id);
+  return TextOf(slot, (slot.id == id) & (slot.module == module));
+}
+
+std::u16string_view RavoInterfaceCommon::TableDescription(std::int32_t id) noexcept {
+  const table_index::Slot& slot = SlotOf(id);
+  return TextOf(slot, slot.id == id);
 }
 
 // The modules are not asked one after another: no identifier belongs to two of them, so that the first answer

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <ravo/catalogue/table_index.h>
 #include <ravo/runtime/export.h>
 
 #include <cstdint>
@@ -40,10 +39,7 @@ struct TableRow {
 
 /// The description of table `id` where that table belongs to `module`; empty for every other identifier. The
 /// text lives as long as the library.
-[[nodiscard]] inline std::u16string_view TableDescription(TableModule module, std::int32_t id) noexcept {
-  const table_index::Slot& slot = table_index::SlotOf(id);
-  return table_index::TextOf(slot, (slot.id == id) & (slot.module == module));
-}
+[[nodiscard]] RAVO_API std::u16string_view TableDescription(TableModule module, std::int32_t id) noexcept;
 
 namespace RavoInterfaceCommon {
 
@@ -51,10 +47,7 @@ namespace RavoInterfaceCommon {
 [[nodiscard]] RAVO_API std::u16string GetTableDescription(std::int32_t id);
 
 /// As `GetTableDescription`, without a copy: the text lives as long as the library.
-[[nodiscard]] inline std::u16string_view TableDescription(std::int32_t id) noexcept {
-  const table_index::Slot& slot = table_index::SlotOf(id);
-  return table_index::TextOf(slot, slot.id == id);
-}
+[[nodiscard]] RAVO_API std::u16string_view TableDescription(std::int32_t id) noexcept;
 
 }  // namespace RavoInterfaceCommon
 }  // namespace ravo

@@ -35,7 +35,7 @@ namespace ravo::DIUnicode {
 
 #define RAVO_ENCODING(name, label, code_page, aliases, engine, ways, table, sources, notes) \
   RAVO_DECLARE_##ways(name)
-#include <ravo/unicode/encodings/rows.inc>
+#include <ravo/codec/rows.inc>
 #undef RAVO_ENCODING
 #undef RAVO_DECLARE_Both
 #undef RAVO_DECLARE_WriteOnly
@@ -70,14 +70,14 @@ struct EncodingRow {
 
 /// Returns the encoding of a name: an exported name, alias, code page number with or without "cp", or label,
 /// such as "Windows_1250", "windows-1250", "CP1250", "1250" or "Windows-1250 (Central European)". Null if
-/// there is none.
+/// it is unknown.
 ///
 /// Case does not count, nor does anything but letters and digits of ASCII. Every label of the WHATWG's
 /// Encoding Standard whose encoding is here is a name; "latin1", "ascii" and others that mean a larger
 /// encoding there are the encoding that they name.
 [[nodiscard]] RAVO_API const EncodingRow* FindEncoding(std::string_view name) noexcept;
 
-/// The encoding of a Windows code page number; null where there is none, and for 0.
+/// Returns the encoding of a Windows code page number; null if it is unknown, and for 0.
 [[nodiscard]] RAVO_API const EncodingRow* FindEncodingByCodePage(std::uint32_t code_page) noexcept;
 
 /// The bytes that stand for `ch` alone in an encoding, with what UTF-7 needs around it; none where the

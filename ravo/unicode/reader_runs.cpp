@@ -1,9 +1,9 @@
-// The families that read and skip, each from one loop. Where the encoding decodes whole runs, what belongs is
-// passed over at once, and the reader stands as if it had read the characters one by one.
+// The families that read and skip, each from one loop. If the encoding decodes whole runs, what belongs is
+// taken at once, and the reader is then as if it had read the characters one by one.
+#include <ravo/codec/kernels/run_search.h>
+#include <ravo/codec/run.h>
 #include <ravo/unicode/characters/character_kinds.h>
-#include <ravo/unicode/encodings/run_till.h>
 #include <ravo/unicode/predicates.h>
-#include <ravo/unicode/run_search.h>
 #include <ravo/unicode/unicode_reader.h>
 
 #include <algorithm>
@@ -13,16 +13,20 @@
 namespace ravo::DIUnicode {
 namespace {
 
-using unicode::Not;
-using unicode::OneOf;
+using codec::EndBytes;
+using codec::Lines;
+using codec::Not;
+using codec::OneOf;
+using codec::Run;
+using codec::RunUntil;
 using unicode::OrWhiteSpace;
 
 constexpr std::size_t kLongestRun = 1024;
-// Where characters are decoded to be looked at, most words and numbers are shorter than the first run; each
-// full one is followed by a longer one.
+// Most words and numbers are shorter than the first run that is decoded to be searched; a longer run follows
+// each full one.
 constexpr std::size_t kFirstRun = 32;
 
-// A test that somebody brought.
+// A caller's test.
 struct Passing {
   CharPredicate validate;
 
@@ -43,7 +47,7 @@ struct PassingBut {
 };
 
 struct WhiteSpace {
-  bool operator()(char16_t c) const { return unicode::PlainWhite{}(c) || (c > 0x7F && CharIsWhiteSpaceW(c)); }
+  bool operator()(char16_t c) const { return codec::PlainWhite{}(c) || (c > 0x7F && CharIsWhiteSpaceW(c)); }
 };
 
 struct NoWhiteSpace {
@@ -51,15 +55,15 @@ struct NoWhiteSpace {
 };
 
 template <class Belongs>
-constexpr bool kIsTill = false;
+constexpr bool kIsUntil = false;
 template <std::size_t count>
-constexpr bool kIsTill<Not<OneOf<count>>> = true;
+constexpr bool kIsUntil<Not<OneOf<count>>> = true;
 
 // Whether the first byte that does not belong can be found among the bytes: what ends the run is ASCII.
 template <class Belongs>
 bool EndsByAscii(const Belongs& belongs) {
   // Untested: discarded in the other instances.
-  if constexpr (kIsTill<Belongs>)
+  if constexpr (kIsUntil<Belongs>)
     return belongs.What().IsAscii();
   else
     return false;
@@ -68,8 +72,8 @@ bool EndsByAscii(const Belongs& belongs) {
 template <class Unit, class Belongs>
 std::size_t LengthIn(std::span<const Unit> run, const Belongs& belongs) {
   // Untested: discarded in the other instances.
-  if constexpr (kIsTill<Belongs>)
-    return unicode::LengthBefore(run, belongs.What());
+  if constexpr (kIsUntil<Belongs>)
+    return codec::LengthBefore(run, belongs.What());
   else
     return static_cast<std::size_t>(std::ranges::find_if_not(run, belongs) - run.begin());
 }
@@ -79,7 +83,7 @@ template <class Belongs>
 std::size_t AsciiLengthIn(std::span<const std::uint8_t> bytes, const Belongs& belongs) {
   std::size_t length = 0;
   if constexpr (std::same_as<Belongs, WhiteSpace>) {
-    length = unicode::LengthBefore(bytes, Not(unicode::PlainWhite{}));
+    length = codec::LengthBefore(bytes, Not(codec::PlainWhite{}));
   } else {
     while (length < bytes.size() && bytes[length] < 0x80 && belongs(bytes[length])) ++length;
   }
@@ -102,12 +106,12 @@ void TDIUnicodeReader::AddRun(std::span<Unit> run) {
   std::ranges::copy(run, ExtendData(run.size()).begin());
 }
 
-// The current character becomes the last one of the run, with the location that it has then. In one line only
-// the character before the run can be a break that others follow.
+// Advances position, line and column past the run; its last unit becomes the current character. In one line,
+// only the character before the run can be a break that others follow.
 template <class Unit>
 void TDIUnicodeReader::CountRun(std::span<const Unit> run, Lines lines) noexcept {
   if (run.empty()) return;
-  const auto starts = unicode::FindLineStarts(FChar, lines == Lines::MayBeMore ? run : run.first(1));
+  const auto starts = codec::FindLineStarts(FChar, lines == Lines::MayBeMore ? run : run.first(1));
   const auto size = static_cast<std::uint32_t>(run.size());
   const char16_t before = size > 1 ? static_cast<char16_t>(run[size - 2]) : FChar;
   FChar = run.back();
@@ -117,13 +121,13 @@ void TDIUnicodeReader::CountRun(std::span<const Unit> run, Lines lines) noexcept
     FCharLine += static_cast<std::uint32_t>(starts.count);
     FCharCol = size - static_cast<std::uint32_t>(starts.last);
   }
-  // The line feed of a pair stands in the column of the carriage return.
+  // The line feed of a pair has the column of the carriage return.
   if (FChar == u'\n' && before == u'\r') --FCharCol;
 }
 
 // ASCII that belongs, from its bytes. Answers whether there may be more.
 template <class Belongs>
-bool TDIUnicodeReader::PassAscii(const Belongs& belongs, bool store) {
+bool TDIUnicodeReader::TakeAscii(const Belongs& belongs, bool store) {
   const auto unread = UnreadBytes().first(std::min(UnreadBytes().size(), kLongestRun));
   const auto run = unread.first(AsciiLengthIn(unread, belongs));
   if (store) AddRun(run);
@@ -132,16 +136,16 @@ bool TDIUnicodeReader::PassAscii(const Belongs& belongs, bool store) {
   return !run.empty() && run.size() == unread.size();
 }
 
-// Everything before a character that ends it, decoded in its place in the Data or, where there is none, in
-// `room`, and that character, which becomes the current one. Nothing where something else is in between.
+// Takes everything before a character that ends it, decoded in its place in the Data or, without Data, in
+// `room`, and that character, which becomes the current one. Nothing if something else is in between.
 template <class Belongs>
-inline auto TDIUnicodeReader::PassTill(std::span<char16_t> room, const Belongs& belongs, bool store)
-    -> Passed {
+inline auto TDIUnicodeReader::TakeUntil(std::span<char16_t> room, const Belongs& belongs, bool store)
+    -> Taken {
   const bool in_place = store && FData != nullptr;
   const auto to = in_place ? RoomInData() : room;
   const EndBytes ends = EndsOf(belongs);
   const auto unread = UnreadBytes();
-  const RunTill run = FDecodeTill(unread, to, ends);
+  const RunUntil run = FDecodeUntil(unread, to, ends);
   if (in_place)
     CountAsData(run.made);
   else if (store)
@@ -152,29 +156,28 @@ inline auto TDIUnicodeReader::PassTill(std::span<char16_t> room, const Belongs& 
   FSourceBufferPosition += static_cast<std::uint32_t>(run.taken);
   if (run.taken == unread.size() || !ends.Has(unread[run.taken])) {
     CountRun(chars, run.lines);
-    return run.taken != 0 && run.taken != unread.size() ? Passed::Some : Passed::Nothing;
+    return run.taken != 0 && run.taken != unread.size() ? Taken::Some : Taken::Nothing;
   }
   ++FSourceBufferPosition;
   const std::uint8_t last = run.taken != 0 ? unread[run.taken - 1] : 0;
-  if (run.lines == Lines::One && last != '\r' && last != '\n' && !unicode::kLineBreaks(FChar)) {
+  if (run.lines == Lines::One && last != '\r' && last != '\n' && !codec::kLineBreaks(FChar)) {
     FCharPos += run.made + 1;
     FCharCol += run.made + 1;
     FChar = unread[run.taken];
   } else {
-    // Characters that were just stored are there for the processor only after a while, their bytes are there
-    // now.
+    // Reading units that were just stored would stall on store forwarding; their bytes are at hand.
     if (run.made == run.taken)
       CountRun(unread.first(run.taken), run.lines);
     else
       CountRun(chars, run.lines);
     CountRun(unread.subspan(run.taken, 1), Lines::One);
   }
-  return Passed::All;
+  return Taken::All;
 }
 
-// What belongs among decoded characters.
+// Takes what belongs among decoded characters.
 template <class Belongs>
-std::size_t TDIUnicodeReader::PassDecoded(std::span<char16_t> room, const Belongs& belongs, bool store) {
+std::size_t TDIUnicodeReader::TakeDecoded(std::span<char16_t> room, const Belongs& belongs, bool store) {
   const auto unread = UnreadBytes();
   Run run = FDecodeRun(unread, room);
   const std::size_t length = LengthIn(std::span<const char16_t>(room.first(run.made)), belongs);
@@ -189,31 +192,31 @@ std::size_t TDIUnicodeReader::PassDecoded(std::span<char16_t> room, const Belong
 
 // Whether the character that ends it all is the current one already.
 template <class Belongs>
-bool TDIUnicodeReader::PassRuns(const Belongs& belongs, bool store) {
+bool TDIUnicodeReader::TakeRuns(const Belongs& belongs, bool store) {
   if (FDecodeRun == nullptr || FPeekedCount != 0) return false;
   std::array<char16_t, kLongestRun> room;
-  if (FDecodeTill != nullptr && EndsByAscii(belongs)) {
-    if constexpr (kIsTill<Belongs>) {
-      Passed passed = Passed::Some;
-      while (passed == Passed::Some) passed = PassTill(room, belongs, store);
-      return passed == Passed::All;
+  if (FDecodeUntil != nullptr && EndsByAscii(belongs)) {
+    if constexpr (kIsUntil<Belongs>) {
+      Taken taken = Taken::Some;
+      while (taken == Taken::Some) taken = TakeUntil(room, belongs, store);
+      return taken == Taken::All;
     }
-  } else if (FDecodeTill != nullptr && !kIsTill<Belongs>) {
-    while (PassAscii(belongs, store)) {
+  } else if (FDecodeUntil != nullptr && !kIsUntil<Belongs>) {
+    while (TakeAscii(belongs, store)) {
     }
   } else {
     std::size_t next = kFirstRun;
-    while (PassDecoded(std::span(room).first(next), belongs, store) == next)
+    while (TakeDecoded(std::span(room).first(next), belongs, store) == next)
       next = std::min(2 * next, kLongestRun);
   }
   return false;
 }
 
 template <class Belongs>
-void TDIUnicodeReader::PassOver(const Belongs& belongs, bool store) {
+void TDIUnicodeReader::TakeWhile(const Belongs& belongs, bool store) {
   while (FCharOK && belongs(FChar)) {
     if (store) AddChar(FChar);
-    if (PassRuns(belongs, store)) return;
+    if (TakeRuns(belongs, store)) return;
     ReadChar();
   }
 }
@@ -229,52 +232,53 @@ std::size_t TDIUnicodeReader::ReadRun(std::span<char16_t> room) {
   return 1;
 }
 
-void TDIUnicodeReader::ReadChars(char16_t c) { PassOver(OneOf(c), true); }
-void TDIUnicodeReader::SkipChars(char16_t c) { PassOver(OneOf(c), false); }
-void TDIUnicodeReader::ReadChars(char16_t c, char16_t c2) { PassOver(OneOf(c, c2), true); }
-void TDIUnicodeReader::SkipChars(char16_t c, char16_t c2) { PassOver(OneOf(c, c2), false); }
+void TDIUnicodeReader::ReadChars(char16_t c) { TakeWhile(OneOf(c), true); }
+void TDIUnicodeReader::SkipChars(char16_t c) { TakeWhile(OneOf(c), false); }
+void TDIUnicodeReader::ReadChars(char16_t c, char16_t c2) { TakeWhile(OneOf(c, c2), true); }
+void TDIUnicodeReader::SkipChars(char16_t c, char16_t c2) { TakeWhile(OneOf(c, c2), false); }
 
-void TDIUnicodeReader::ReadChars(CharPredicate Validate) { PassOver(Passing{OrWhiteSpace(Validate)}, true); }
-void TDIUnicodeReader::SkipChars(CharPredicate Validate) { PassOver(Passing{OrWhiteSpace(Validate)}, false); }
+void TDIUnicodeReader::ReadChars(CharPredicate Validate) { TakeWhile(Passing{OrWhiteSpace(Validate)}, true); }
+void TDIUnicodeReader::SkipChars(CharPredicate Validate) {
+  TakeWhile(Passing{OrWhiteSpace(Validate)}, false);
+}
 void TDIUnicodeReader::ReadChars(CharPredicate Validate, char16_t c) {
-  PassOver(PassingBut{OrWhiteSpace(Validate), c}, true);
+  TakeWhile(PassingBut{OrWhiteSpace(Validate), c}, true);
 }
 void TDIUnicodeReader::SkipChars(CharPredicate Validate, char16_t c) {
-  PassOver(PassingBut{OrWhiteSpace(Validate), c}, false);
+  TakeWhile(PassingBut{OrWhiteSpace(Validate), c}, false);
 }
 
-void TDIUnicodeReader::ReadCharsTill(char16_t c) { PassOver(Not(OneOf(c)), true); }
-void TDIUnicodeReader::SkipCharsTill(char16_t c) { PassOver(Not(OneOf(c)), false); }
-void TDIUnicodeReader::ReadCharsTill(char16_t c, char16_t c2) { PassOver(Not(OneOf(c, c2)), true); }
-void TDIUnicodeReader::SkipCharsTill(char16_t c, char16_t c2) { PassOver(Not(OneOf(c, c2)), false); }
+void TDIUnicodeReader::ReadCharsTill(char16_t c) { TakeWhile(Not(OneOf(c)), true); }
+void TDIUnicodeReader::SkipCharsTill(char16_t c) { TakeWhile(Not(OneOf(c)), false); }
+void TDIUnicodeReader::ReadCharsTill(char16_t c, char16_t c2) { TakeWhile(Not(OneOf(c, c2)), true); }
+void TDIUnicodeReader::SkipCharsTill(char16_t c, char16_t c2) { TakeWhile(Not(OneOf(c, c2)), false); }
 void TDIUnicodeReader::ReadCharsTill(char16_t c, char16_t c2, char16_t c3) {
-  PassOver(Not(OneOf(c, c2, c3)), true);
+  TakeWhile(Not(OneOf(c, c2, c3)), true);
 }
 void TDIUnicodeReader::SkipCharsTill(char16_t c, char16_t c2, char16_t c3) {
-  PassOver(Not(OneOf(c, c2, c3)), false);
+  TakeWhile(Not(OneOf(c, c2, c3)), false);
 }
 
 void TDIUnicodeReader::ReadCharsTill(CharPredicate Validate) {
-  PassOver(Failing{OrWhiteSpace(Validate)}, true);
+  TakeWhile(Failing{OrWhiteSpace(Validate)}, true);
 }
 void TDIUnicodeReader::SkipCharsTill(CharPredicate Validate) {
-  PassOver(Failing{OrWhiteSpace(Validate)}, false);
+  TakeWhile(Failing{OrWhiteSpace(Validate)}, false);
 }
 
-void TDIUnicodeReader::ReadDigits() { PassOver(Passing{CharIsDigitW}, true); }
-void TDIUnicodeReader::SkipDigits() { PassOver(Passing{CharIsDigitW}, false); }
-void TDIUnicodeReader::ReadHexDigits() { PassOver(Passing{CharIsHexDigitW}, true); }
-void TDIUnicodeReader::SkipHexDigits() { PassOver(Passing{CharIsHexDigitW}, false); }
-void TDIUnicodeReader::ReadWhiteSpace() { PassOver(WhiteSpace{}, true); }
-void TDIUnicodeReader::SkipWhiteSpace() { PassOver(WhiteSpace{}, false); }
-void TDIUnicodeReader::ReadCharsTillWhiteSpace() { PassOver(NoWhiteSpace{}, true); }
+void TDIUnicodeReader::ReadDigits() { TakeWhile(Passing{CharIsDigitW}, true); }
+void TDIUnicodeReader::SkipDigits() { TakeWhile(Passing{CharIsDigitW}, false); }
+void TDIUnicodeReader::ReadHexDigits() { TakeWhile(Passing{CharIsHexDigitW}, true); }
+void TDIUnicodeReader::SkipHexDigits() { TakeWhile(Passing{CharIsHexDigitW}, false); }
+void TDIUnicodeReader::ReadWhiteSpace() { TakeWhile(WhiteSpace{}, true); }
+void TDIUnicodeReader::SkipWhiteSpace() { TakeWhile(WhiteSpace{}, false); }
+void TDIUnicodeReader::ReadCharsTillWhiteSpace() { TakeWhile(NoWhiteSpace{}, true); }
 
-// The rest of the line break that is the current character, and the character behind it, from the buffer: as
-// `ReadChar`. Which of the two ways it goes can be foreseen; a number in its place would have to be waited
-// for.
-inline bool TDIUnicodeReader::PassBufferedBreak() {
+// Reads the rest of the line break that is the current character, and the character after it, from the
+// buffer, as `ReadChar` does. A branch can be predicted; a computed count would be a dependency chain.
+inline bool TDIUnicodeReader::TakeBufferedBreak() {
   const auto unread = UnreadBytes();
-  if (FDecodeTill == nullptr || FPeekedCount != 0 || unread.size() < 2) return false;
+  if (FDecodeUntil == nullptr || FPeekedCount != 0 || unread.size() < 2) return false;
   if (FChar == u'\r' && unread[0] == '\n') [[likely]]
     BeginLine(unread[1], 2, u'\n');
   else
@@ -282,7 +286,7 @@ inline bool TDIUnicodeReader::PassBufferedBreak() {
   return true;
 }
 
-// `first` is `count` bytes away, behind a break that ends in `before`.
+// `first` is `count` bytes away, after a break that ends in `before`.
 inline void TDIUnicodeReader::BeginLine(std::uint8_t first, std::uint32_t count, char16_t before) {
   if (first < 0x80) [[likely]] {
     FSourceBufferPosition += count;
@@ -298,29 +302,29 @@ inline void TDIUnicodeReader::BeginLine(std::uint8_t first, std::uint32_t count,
   }
 }
 
-void TDIUnicodeReader::PassLine(bool store) {
+void TDIUnicodeReader::TakeLine(bool store) {
   if (!FCharOK) ReadChar();
-  PassOver(Not(unicode::kLineBreaks), store);
-  if (!FCharOK || PassBufferedBreak()) return;
+  TakeWhile(Not(codec::kLineBreaks), store);
+  if (!FCharOK || TakeBufferedBreak()) return;
   const bool pair_may_follow = FChar == u'\r';
   ReadChar();
   if (pair_may_follow && FCharOK && FChar == u'\n') ReadChar();
 }
 
-void TDIUnicodeReader::ReadTillEndOfLine() { PassLine(true); }
-void TDIUnicodeReader::SkipTillEndOfLine() { PassLine(false); }
+void TDIUnicodeReader::ReadTillEndOfLine() { TakeLine(true); }
+void TDIUnicodeReader::SkipTillEndOfLine() { TakeLine(false); }
 void TDIUnicodeReader::ReadLine() {
   ZeroDataSize();
-  PassLine(true);
+  TakeLine(true);
 }
-void TDIUnicodeReader::SkipLine() { PassLine(false); }
+void TDIUnicodeReader::SkipLine() { TakeLine(false); }
 
 void TDIUnicodeReader::SkipEmptyLines(CharPredicate Validate) {
   const CharPredicate validate = OrWhiteSpace(Validate);
-  const auto stays_on_line = [validate](char16_t c) { return !unicode::kLineBreaks(c) && validate(c); };
+  const auto stays_on_line = [validate](char16_t c) { return !codec::kLineBreaks(c) && validate(c); };
   for (;;) {
-    PassOver(stays_on_line, true);
-    if (!FCharOK || !unicode::kLineBreaks(FChar)) return;
+    TakeWhile(stays_on_line, true);
+    if (!FCharOK || !codec::kLineBreaks(FChar)) return;
     ZeroDataSize();
     ReadChar();
   }

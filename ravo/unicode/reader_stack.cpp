@@ -1,6 +1,6 @@
 // Sources on top of each other, and how the bytes of the next one come.
 #include <ravo/unicode/encodings.h>
-#include <ravo/unicode/encodings/utf7.h>
+#include <ravo/unicode/encodings/utf7_state.h>
 #include <ravo/unicode/source_buffer.h>
 #include <ravo/unicode/unicode_reader.h>
 
@@ -39,9 +39,9 @@ bool TDIUnicodeReader::PopSource() {
   FSourceFile = std::move(entry->SourceFile);
   FSourceStream = entry->SourceStream;
   if (entry->ReadMethods.ReadChar != nullptr) {
-    // A record of ours that nobody would ask for any more. What others keep in the state is theirs.
+    // Frees our record, which has no user any more. What others keep in the state is theirs.
     if (FReadMethods.Finalize == Read_UTF_7_Finalize && entry->ReadMethods.Finalize != Read_UTF_7_Finalize)
-      FreeUtf7State(*this);
+      unicode::FreeUtf7State(*this);
     UseReadMethods(entry->ReadMethods);
   }
   return true;

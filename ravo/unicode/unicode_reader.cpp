@@ -1,5 +1,5 @@
 #include <ravo/unicode/encodings.h>
-#include <ravo/unicode/encodings/run_till.h>
+#include <ravo/unicode/encodings/encoding_of.h>
 #include <ravo/unicode/unicode_reader.h>
 
 #include <algorithm>
@@ -22,8 +22,9 @@ void TDIUnicodeReader::UseReadMethods(const TDIUnicodeReadMethods& methods) {
     FReadMethods.Init = nullptr;
     FReadMethods.ReadChar = Read_Iso_8859_1_ReadChar;
   }
-  FDecodeRun = DecodeRunOf(FReadMethods);
-  FDecodeTill = DecodeTillOf(FReadMethods);
+  const codec::Encoding* const encoding = unicode::EncodingOf(FReadMethods);
+  FDecodeRun = encoding != nullptr ? encoding->decode_run : nullptr;
+  FDecodeUntil = encoding != nullptr ? encoding->decode_until : nullptr;
 }
 
 void TDIUnicodeReader::SetReadMethods(const TDIUnicodeReadMethods& methods) {

@@ -12,13 +12,16 @@
 #include <string>
 #include <string_view>
 
+namespace ravo::codec {
+struct Run;
+struct RunUntil;
+class EndBytes;
+enum class Lines : std::uint32_t;
+}  // namespace ravo::codec
+
 namespace ravo::DIUnicode {
 
 class TDIUnicodeReader;
-struct Run;
-struct RunTill;
-class EndBytes;
-enum class Lines : std::uint32_t;
 
 /// What a byte-order mark at the start of a source says.
 enum class TDIBOM : std::uint8_t { bomUnknown, bomUtf8, bomutf16be, bomutf16le, bomutf32be, bomutf32le };
@@ -143,13 +146,13 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
   [[nodiscard]] std::u16string SourceBufferAsStr() const { return SourceBufferAsStrW(); }
   [[nodiscard]] std::u16string SourceBufferAsStrW() const;
   [[nodiscard]] std::string SourceBufferAsStrA() const;
-  /// Null where there is none.
+  /// Null without a buffer.
   [[nodiscard]] const std::uint8_t* SourceBuffer() const noexcept { return FSourceBuffer; }
   /// In bytes.
   [[nodiscard]] std::uint32_t SourceBufferSize() const noexcept { return FSourceBufferSize; }
   /// The byte that is decoded next, from 0.
   [[nodiscard]] std::uint32_t SourceBufferPosition() const noexcept { return FSourceBufferPosition; }
-  /// The caller's buffer has another size now. A position behind it becomes its end; peeked characters are
+  /// Changes the size of the caller's buffer. A position past it becomes its end; peeked characters are
   /// forgotten and no character is current. Raises in stream mode and without a buffer.
   void SetSourceBufferSize(std::uint32_t Size);
   /// Goes on at another byte of the buffer, whose size is the largest position. Peeked characters are
@@ -186,8 +189,8 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
   /// base 64 of UTF-7, the next source begins inside it, and the one on the stack goes on as that one was
   /// left. Push where the text is outside of base 64.
   void PushSource(bool StoreReadMethods);
-  /// Goes on with the source on top of the stack; false where there is none. Happens by itself when a source
-  /// ends. Read methods come back without `Init` or `Finalize`.
+  /// Goes on with the source on top of the stack; false if the stack is empty. Happens by itself when a
+  /// source ends. Read methods come back without `Init` or `Finalize`.
   bool PopSource();
   /// Forgets all waiting sources, and frees their streams where it is told to.
   void ClearSourceStack();
@@ -263,7 +266,7 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
   /// As `SkipTillEndOfLine`: the Data stays as it is.
   void SkipLine();
   /// Passes over lines that have nothing but characters that pass the test. Collects characters, and empties
-  /// the Data at each line break: in the end it has what stands in front on the line that is not empty.
+  /// the Data at each line break: in the end it has the front of the line that is not empty.
   void SkipEmptyLines(CharPredicate Validate = nullptr);
 
   // The Data: the collected characters.
@@ -274,9 +277,9 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
   [[nodiscard]] std::uint32_t DataSize() const noexcept { return FDataSize; }
   /// How many fit without more memory.
   [[nodiscard]] std::uint32_t DataCapacity() const noexcept { return FDataCapacity; }
-  /// Whether none is collected.
+  /// True without collected characters.
   [[nodiscard]] bool DataIsEmpty() const noexcept { return FDataSize == 0; }
-  /// Whether any is collected.
+  /// True with collected characters.
   [[nodiscard]] bool DataIsNotEmpty() const noexcept { return FDataSize != 0; }
 
   /// Adds the current character, or the given one.
@@ -310,8 +313,7 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
 
   /// Takes characters that pass the test off the end.
   void TrimDataRight(CharPredicate Validate = nullptr);
-  /// The Data without characters that pass the test at both ends, at the front, at the end: how long it is,
-  /// and where it stands in the Data.
+  /// The length of the Data without characters that pass the test at both ends.
   [[nodiscard]] std::uint32_t TrimmedDataLength(CharPredicate Validate = nullptr) const;
   /// How long the Data is without characters that pass the test at its end.
   [[nodiscard]] std::uint32_t TrimmedRightDataLength(CharPredicate Validate = nullptr) const;
@@ -361,7 +363,7 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
 
   /// A byte that is its own character needs no decoder.
   bool TakePlainByte() noexcept {
-    if (FDecodeTill == nullptr || FPeekedCount != 0 || FSourceBufferPosition >= FSourceBufferSize)
+    if (FDecodeUntil == nullptr || FPeekedCount != 0 || FSourceBufferPosition >= FSourceBufferSize)
       return false;
     const std::uint8_t byte = FSourceBuffer[FSourceBufferPosition];
     if (byte >= 0x80) return false;
@@ -395,34 +397,34 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
   [[nodiscard]] std::span<const std::uint8_t> UnreadBytes() const noexcept {
     return {FSourceBuffer + FSourceBufferPosition, FSourceBufferSize - FSourceBufferPosition};
   }
-  enum class Passed : std::uint8_t { Nothing, Some, All };
+  enum class Taken : std::uint8_t { Nothing, Some, All };
 
   template <class Unit>
   RAVO_LOCAL void AddRun(std::span<Unit> run);
   template <class Unit>
-  RAVO_LOCAL void CountRun(std::span<const Unit> run, Lines lines) noexcept;
+  RAVO_LOCAL void CountRun(std::span<const Unit> run, codec::Lines lines) noexcept;
   template <class Belongs>
-  RAVO_LOCAL bool PassAscii(const Belongs& belongs, bool store);
+  RAVO_LOCAL bool TakeAscii(const Belongs& belongs, bool store);
   template <class Belongs>
-  RAVO_LOCAL Passed PassTill(std::span<char16_t> room, const Belongs& belongs, bool store);
+  RAVO_LOCAL Taken TakeUntil(std::span<char16_t> room, const Belongs& belongs, bool store);
   template <class Belongs>
-  RAVO_LOCAL std::size_t PassDecoded(std::span<char16_t> room, const Belongs& belongs, bool store);
+  RAVO_LOCAL std::size_t TakeDecoded(std::span<char16_t> room, const Belongs& belongs, bool store);
   template <class Belongs>
-  RAVO_LOCAL bool PassRuns(const Belongs& belongs, bool store);
+  RAVO_LOCAL bool TakeRuns(const Belongs& belongs, bool store);
   template <class Belongs>
-  RAVO_LOCAL void PassOver(const Belongs& belongs, bool store);
-  bool PassBufferedBreak();
+  RAVO_LOCAL void TakeWhile(const Belongs& belongs, bool store);
+  bool TakeBufferedBreak();
   void BeginLine(std::uint8_t first, std::uint32_t count, char16_t before);
-  void PassLine(bool store);
+  void TakeLine(bool store);
   /// The next characters, as many as come at once; 0 at the end of all data.
   std::size_t ReadRun(std::span<char16_t> room);
 
-  /// Characters behind the capacity of the Data, so that whole blocks can be written at its end.
+  /// Characters past the capacity of the Data, so that whole blocks can be written at its end.
   static constexpr std::size_t kRoomBeyondData = 256;
 
   void GrowData(std::uint64_t needed, std::uint32_t filled);
   std::span<char16_t> ExtendData(std::size_t count);
-  /// Where characters can be put before they count: what is left of the Data, and the room beyond it.
+  /// The room for characters that do not count yet: what is left of the Data, and the room beyond it.
   [[nodiscard]] std::span<char16_t> RoomInData() const noexcept {
     return {FData.get() + FDataSize, FDataCapacity - FDataSize + kRoomBeyondData};
   }
@@ -459,10 +461,10 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
   /// Where the peeked characters begin in their array: taking one moves none.
   std::uint32_t FPeekedStart = 0;
   /// The run beside the read methods in force, or null.
-  Run (*FDecodeRun)(std::span<const std::uint8_t> bytes, std::span<char16_t> text) = nullptr;
+  codec::Run (*FDecodeRun)(std::span<const std::uint8_t> bytes, std::span<char16_t> text) = nullptr;
   /// The same up to a byte of ASCII; null also where bytes below 0x80 are more or less than ASCII.
-  RunTill (*FDecodeTill)(std::span<const std::uint8_t> bytes, std::span<char16_t> text,
-                         EndBytes ends) = nullptr;
+  codec::RunUntil (*FDecodeUntil)(std::span<const std::uint8_t> bytes, std::span<char16_t> text,
+                                  codec::EndBytes ends) = nullptr;
 };
 
 }  // namespace ravo::DIUnicode

@@ -1,5 +1,5 @@
 #include <ravo/unicode/encodings.h>
-#include <ravo/unicode/encodings/runs.h>
+#include <ravo/unicode/encodings/encoding_of.h>
 #include <ravo/unicode/messages.h>
 #include <ravo/unicode/unicode_writer.h>
 
@@ -30,7 +30,8 @@ void TDIUnicodeWriter::UseWriteMethods(const TDIUnicodeWriteMethods& methods) {
     FWriteMethods.Init = nullptr;
     FWriteMethods.WriteChar = Write_Iso_8859_1_WriteChar;
   }
-  FEncodeRun = EncodeRunOf(FWriteMethods);
+  const codec::Encoding* const encoding = unicode::EncodingOf(FWriteMethods);
+  FEncodeRun = encoding != nullptr ? encoding->encode_run : nullptr;
 }
 
 void TDIUnicodeWriter::SetWriteMethods(const TDIUnicodeWriteMethods& methods) {

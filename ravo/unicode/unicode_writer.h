@@ -72,7 +72,7 @@ class RAVO_API TDIUnicodeWriter : public TDIUnicodeBase {
   /// What is written in the place of a character that the encoding lacks.
   [[nodiscard]] char16_t ReplacementChar() const noexcept { return FReplacementChar; }
   void SetReplacementChar(char16_t c) noexcept { FReplacementChar = c; }
-  /// Who decides about a character that the encoding lacks; empty for nobody.
+  /// The handler of a character that the encoding lacks; may be empty.
   [[nodiscard]] const TDIInvalidCharEvent& OnInvalidChar() const noexcept { return FOnInvalidChar; }
   void SetOnInvalidChar(TDIInvalidCharEvent Handler) { FOnInvalidChar = std::move(Handler); }
 
@@ -96,7 +96,7 @@ class RAVO_API TDIUnicodeWriter : public TDIUnicodeBase {
   [[nodiscard]] std::uint32_t DataSize() const noexcept { return FDataSize; }
   /// How many bytes fit without more memory.
   [[nodiscard]] std::uint32_t DataCapacity() const noexcept { return FDataCapacity; }
-  /// One byte more, as it stands in the buffer. Raises without a buffer ("Data is not assigned") and where it
+  /// Adds the next byte of the buffer as it is. Raises without a buffer ("Data is not assigned") and where it
   /// is full ("DataSize out of bounds").
   void IncDataSize();
   /// Shortens the Data, or lengthens it by zeros. With a stream, raises beyond the capacity ("DataSize out of
@@ -118,7 +118,7 @@ class RAVO_API TDIUnicodeWriter : public TDIUnicodeBase {
   /// The bytes as they are.
   void WriteStrRaw(std::string_view Value);
 
-  // Characters. False where one could be encoded in no way; those behind it are not written.
+  // Characters. False if one could be encoded in no way; those after it are not written.
 
   /// Encodes a character; what the encoding lacks goes to `WriteInvalidChar`.
   bool WriteCharW(char16_t c) { return FWriteMethods.WriteChar(*this, c) || WriteInvalidChar(c); }
@@ -200,7 +200,7 @@ class RAVO_API TDIUnicodeWriter : public TDIUnicodeBase {
   TDIInvalidCharEvent FOnInvalidChar;
 
   /// The run beside the write methods in force, or null.
-  Run (*FEncodeRun)(std::span<const char16_t> text, std::span<std::uint8_t> bytes) = nullptr;
+  codec::Run (*FEncodeRun)(std::span<const char16_t> text, std::span<std::uint8_t> bytes) = nullptr;
 };
 
 }  // namespace ravo::DIUnicode

@@ -1,9 +1,9 @@
 // Texts, numbers, files and streams through a writer. Where the encoding encodes whole runs, those go at
 // once; a character that needs a decision goes by itself.
+#include <ravo/codec/run.h>
 #include <ravo/platform/file_stream.h>
 #include <ravo/runtime/checked.h>
 #include <ravo/runtime/text.h>
-#include <ravo/unicode/encodings/runs.h>
 #include <ravo/unicode/unicode_writer.h>
 
 #include <algorithm>
@@ -30,7 +30,7 @@ std::uint64_t Magnitude(std::int64_t number) {
 std::size_t TDIUnicodeWriter::WriteRun(std::u16string_view text) {
   if (FEncodeRun == nullptr) return 0;
   const std::span room(FData.get() + FDataSize, FDataCapacity - FDataSize);
-  const Run run = FEncodeRun(text, room);
+  const codec::Run run = FEncodeRun(text, room);
   FDataSize += static_cast<std::uint32_t>(run.made);
   return run.taken;
 }

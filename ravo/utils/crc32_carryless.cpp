@@ -131,7 +131,7 @@ bool CanMultiplyCarryless() noexcept {
 namespace ravo::utils {
 
 std::uint32_t UpdateCrc32Carryless(std::uint32_t crc, std::span<const std::byte> bytes) noexcept {
-  return UpdateCrc32Carried(crc, bytes);
+  return UpdateCrc32Braided(crc, bytes);
 }
 
 bool CanMultiplyCarryless() noexcept { return false; }

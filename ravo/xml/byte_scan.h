@@ -1,71 +1,51 @@
 #pragma once
 
+#include <ravo/codec/kernels/block.h>
+
 #include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
 
-#ifdef __SSE2__
-#include <emmintrin.h>
-#endif
-
 /// Loops over bytes that the scanner and the tree spend their time in.
 namespace ravo::xml {
 
-/// How many readable bytes must stand behind the end of what `FindEither` looks through.
-inline constexpr std::size_t kReadAhead = 16;
+/// How many readable bytes must follow the end of what `FindEither` searches.
+inline constexpr std::size_t kReadAhead = codec::kBlockBytes;
 
-/// The first `one` or `two` from `at` on. One of them must occur, and `kReadAhead` readable bytes behind it.
+/// The first `one` or `two` from `at` on. One of them must occur, and `kReadAhead` readable bytes after it.
 [[nodiscard]] inline char* FindEither(char* at, char one, char two) noexcept {
-#ifdef __SSE2__
-  const __m128i ones = _mm_set1_epi8(one);
-  const __m128i twos = _mm_set1_epi8(two);
-  for (;; at += 16) {
-    const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
-    const int found =
-        _mm_movemask_epi8(_mm_or_si128(_mm_cmpeq_epi8(bytes, ones), _mm_cmpeq_epi8(bytes, twos)));
-    if (found != 0) return at + __builtin_ctz(static_cast<unsigned>(found));
+  using Bytes = codec::Block<char>;
+  const Bytes ones(one);
+  const Bytes twos(two);
+  for (;; at += codec::kBlockBytes) {
+    const Bytes bytes = Bytes::Load(at);
+    const auto found = (bytes.EqualTo(ones) | bytes.EqualTo(twos)).AsHits();
+    if (!found.None()) return at + found.First();
   }
-#else
-  while (*at != one && *at != two) ++at;
-  return at;
-#endif
 }
 
 /// The first byte from `at` on, at the latest `end`, that is a control character, an "&", "<", ">" or double
-/// quote, or the second of two blanks; a blank in front of `at` does not count. `kReadAhead` readable bytes
-/// must stand behind `end`.
+/// quote, or the second of two blanks; a blank before `at` does not count. `kReadAhead` readable bytes
+/// must follow `end`.
 [[nodiscard]] inline const char* EndOfOrdinary(const char* at, const char* end) noexcept {
-#ifdef __SSE2__
+  using Bytes = codec::Block<char>;
   unsigned blank_before = 0;
-  for (; at < end; at += 16) {
-    const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
-    const auto is = [&](char ch) { return _mm_cmpeq_epi8(bytes, _mm_set1_epi8(ch)); };
-    const __m128i control = _mm_cmpeq_epi8(_mm_max_epu8(bytes, _mm_set1_epi8(0x1F)), _mm_set1_epi8(0x1F));
+  for (; at < end; at += codec::kBlockBytes) {
+    const Bytes bytes = Bytes::Load(at);
     // "<" and ">" differ in one bit, and so do the double quote and "&" in another.
-    const __m128i brackets = _mm_cmpeq_epi8(_mm_or_si128(bytes, _mm_set1_epi8(2)), _mm_set1_epi8('>'));
-    const __m128i quotes = _mm_cmpeq_epi8(_mm_or_si128(bytes, _mm_set1_epi8(4)), _mm_set1_epi8('&'));
-    const auto blanks = static_cast<unsigned>(_mm_movemask_epi8(is(' ')));
-    const auto ends =
-        static_cast<unsigned>(_mm_movemask_epi8(_mm_or_si128(control, _mm_or_si128(brackets, quotes)))) |
-        (blanks & (blanks << 1 | blank_before));
+    const Bytes brackets = (bytes | Bytes('\x02')).EqualTo('>');
+    const Bytes quotes = (bytes | Bytes('\x04')).EqualTo('&');
+    const Bytes special = bytes.Within('\0', '\x1F') | brackets | quotes;
+    const unsigned blanks = bytes.EqualTo(' ').AsHits().Bits();
+    const codec::Hits<char> ends(special.AsHits().Bits() | (blanks & (blanks << 1 | blank_before)));
     blank_before = blanks >> 15;
-    if (ends != 0) {
-      const char* const found = at + __builtin_ctz(ends);
+    if (!ends.None()) {
+      const char* const found = at + ends.First();
       return found < end ? found : end;
     }
   }
   return end;
-#else
-  for (bool after_blank = false; at != end; ++at) {
-    const char ch = *at;
-    const bool special =
-        static_cast<unsigned char>(ch) < 0x20 || ch == '&' || ch == '<' || ch == '>' || ch == '"';
-    if (special || (ch == ' ' && after_blank)) break;
-    after_blank = ch == ' ';
-  }
-  return at;
-#endif
 }
 
 /// Whether a token's text stands as it is: no line break of two bytes, no two blanks.

@@ -25,7 +25,7 @@ CONDITIONS = {
     "__cplusplus < 202002L": (None, EVERY),  # what must not compile is tried by the test consumers.public_headers
     "RC_INVOKED": ("windows-32", EVERY),
     "LDBL_MANT_DIG == 64": (EVERY, None),
-    "__x86_64__": (EVERY, "windows-32"),
+    "__SSE2__ && __x86_64__": (EVERY, "windows-32"),
     "__x86_64__ || __i386__": (EVERY, None),  # processors of another kind: nobody tests them
 }
 # What a file of rows or a header asks for its own sake: "is my own macro defined yet?"

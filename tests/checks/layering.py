@@ -32,18 +32,19 @@ MAY_USE: dict[str, set[str] | None] = {
     EXPORT_HEADER: set(),
     UTILS_MESSAGES: set(),
     "ravo/runtime": {"runtime/export.h"},
-    "ravo/platform": {"runtime"},
+    "ravo/codec": {"runtime"},
+    "ravo/platform": {"runtime", "codec"},
     "ravo/frame": {"runtime", "platform", "package.h"},
     "ravo/catalogue": {"runtime", "platform", "frame"},
-    "ravo/unicode": {"runtime", "platform", "frame", "unicode/characters", "utils/messages.inc"},
+    "ravo/unicode": {"runtime", "codec", "platform", "frame", "unicode/characters", "utils/messages.inc"},
     CHARACTERS: {"runtime/export.h"},
-    "ravo/utils": {"runtime", "platform", "frame", "unicode/characters", "utils/messages.inc"},
+    "ravo/utils": {"runtime", "codec", "platform", "frame", "unicode/characters", "utils/messages.inc"},
     "ravo/common": {"runtime", "platform", "frame", "catalogue", "utils"},
     "ravo/sysinfo": {"runtime", "platform", "frame", "common"},
-    "ravo/xml": {"runtime", "platform", "frame"},
-    "ravo/formout": {"runtime", "platform", "frame", "unicode"},
+    "ravo/xml": {"runtime", "codec", "platform", "frame"},
+    "ravo/formout": {"runtime", "codec", "platform", "frame", "unicode"},
     "ravo/hostapi": {"runtime", "platform", "frame"},
-    "tools/ravo": {PUBLIC},
+    "tools/ravo": {PUBLIC, "codec"},
 }
 SCANNED = ("ravo", "tools/ravo")
 
@@ -54,6 +55,9 @@ SYSTEM_HEADER = re.compile(r"^(windows|winver|unistd|dlfcn|sys/.*|win(base|nt|us
 # Sources that CMake picks by the target's system say so in their name; tests mirror the library.
 SYSTEM_SOURCE = re.compile(r"^(ravo/platform/|tests/platform/|tests/support/|tests/\w+/(posix|win32|windows_names)/)|^ravo/runtime/export\.h$|_(win32|posix)\.(cpp|c|h)$")
 C_STANDARD = {"stddef.h", "stdint.h"}
+# Vector instructions have one home, and the one job elsewhere that is made of nothing else.
+VECTOR_HEADER = re.compile(r"^([a-z0-9]*intrin|arm_neon|cpuid)\.h$")
+VECTOR_SOURCE = re.compile(r"^ravo/codec/kernels/|^ravo/utils/crc32_carryless\.cpp$")
 
 
 def room_of(name: str) -> str | None:
@@ -140,6 +144,14 @@ def check_system_names(root):
                 yield f"{name}:{number}: <{header}> belongs to ravo/platform alone"
 
 
+def check_vector_headers(root):
+    for path in code_files(root, "ravo", "tools"):
+        name = path.relative_to(root).as_posix()
+        for number, quote, header in includes(path):
+            if quote == "<" and VECTOR_HEADER.match(header) and not VECTOR_SOURCE.search(name):
+                yield f"{name}:{number}: <{header}> belongs to ravo/codec/kernels alone"
+
+
 def public_files(graph: Graph) -> list[str]:
     """What a program can reach from the public face, in a fixed order."""
     reached, waiting = set(), [name for name in graph if room_of(name) in (PUBLIC, HOST_HEADER)]
@@ -175,9 +187,8 @@ def arrows_of(cell):
     """The rooms that a cell names before its first ";", what follows being a remark."""
     if cell == "everything":
         return ANYTHING
-    if cell == "the public face":
-        return {PUBLIC}
-    return set(re.findall(r"`([^`]+)`", cell.split(";")[0]))
+    face = {PUBLIC} if cell.startswith("the public face") else set()
+    return face | set(re.findall(r"`([^`]+)`", cell.split(";")[0]))
 
 
 def check_document(root):
@@ -202,6 +213,7 @@ def check(root):
         *check_arrows(graph),
         *check_circles(graph),
         *check_system_names(root),
+        *check_vector_headers(root),
         *check_public_headers(root, graph),
         *check_document(root),
     ]
@@ -213,9 +225,8 @@ def _document(changed=None):
     def cell(room, uses):
         if uses is ANYTHING:
             return "everything"
-        if uses == {PUBLIC}:
-            return "the public face"
-        words = ", ".join(f"`{use}`" for use in sorted(uses - UNSAID.get(room, set())))
+        named = sorted(uses - UNSAID.get(room, set()), key=lambda use: (use != PUBLIC, use))
+        words = ", ".join("the public face" if use == PUBLIC else f"`{use}`" for use in named)
         remark = "; its `characters` use `runtime/export.h` alone" if room == "ravo/unicode" else ""
         return (words or "nothing of ours") + remark
 
@@ -255,6 +266,9 @@ PLANTINGS: list[Planting] = [
     ("a system's macro in words", _tree({"ravo/xml/a.cpp": '// _WIN32\nauto a = "_WIN32";\n'}), None),
     ("a system's header", _tree({"tests/xml/a.cpp": "#include <windows.h>\n"}), "<windows.h> belongs"),
     ("the system where it belongs", _tree({"ravo/platform/win32/a.cpp": "#include <windows.h>\n#ifdef _WIN32\n#endif\n"}), None),
+    ("vectors", _tree({"ravo/xml/a.h": "#include <emmintrin.h>\n"}), "xml/a.h:1: <emmintrin.h> belongs"),
+    ("vectors in the program", _tree({"tools/ravo/a.cpp": "#include <immintrin.h>\n"}), "<immintrin.h> belongs"),
+    ("vectors where they belong", _tree({"ravo/codec/kernels/a.h": "#include <immintrin.h>\n", "ravo/utils/crc32_carryless.cpp": "#include <immintrin.h>\n"}), None),
     ("a public header", _tree({"ravo/P.h": "#include <sys/stat.h>\n"}), "reaches the system header sys/stat.h"),
     (
         "a public header at second hand",

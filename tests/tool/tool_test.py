@@ -16,7 +16,7 @@ from document_checks import check_forms, check_xml, check_xml_encodings, check_x
 from file_checks import (check_colours, check_conversions, check_damaged_files, check_full_device, check_pipes, check_report_file,
                          check_report_json, check_sorted_files, check_sums, check_unreadable)
 from harness import NO, SKIPPED, YES, Program, Row, differs
-from long_work_checks import check_interruption, check_progress
+from long_work_checks import check_interruption, check_progress, check_streaming
 
 # What the harness itself must find wrong, each for the named reason.
 MUST_FAIL = [
@@ -37,6 +37,7 @@ CHECKS = (
     check_progress,
     check_conversions,
     check_interruption,
+    check_streaming,
     check_full_device,
     check_pipes,
     check_unreadable,

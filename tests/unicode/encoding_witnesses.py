@@ -12,29 +12,15 @@ Lines of FILE, fields separated by blanks:
 import ctypes
 import ctypes.util
 import errno
+import pathlib
 import random
 import subprocess
 import sys
 
-# Exported name -> names for iconv, Perl and Python; empty where the witness does not know it.
-ISO = {f"Iso_8859_{n}": (f"ISO-8859-{n}", f"iso-8859-{n}", f"iso8859-{n}") for n in (*range(1, 11), 13, 14, 15, 16)}
-WINDOWS = {f"Windows_{n}": (f"CP{n}", f"cp{n}", f"cp{n}") for n in range(1250, 1259)}
-DOS = {f"CP_{n}": (f"CP{n}", f"cp{n}", f"cp{n}")
-       for n in (424, 437, 737, 775, 850, 852, 855, 857, 860, 861, 862, 863, 864, 865, 866, 869, 874)}
-ENCODINGS = {
-    **ISO, **WINDOWS,
-    "Koi8_R": ("KOI8-R", "koi8-r", "koi8-r"), "Koi8_RU": ("KOI8-RU", "", ""), "Koi8_U": ("KOI8-U", "koi8-u", "koi8-u"),
-    **DOS, "CP_856": ("CP856", "", "cp856"), "CP_1006": ("", "cp1006", "cp1006"),
-    "Mac_Roman": ("MACINTOSH", "MacRoman", "mac-roman"),
-    "Mac_CentralEurope": ("MAC-CENTRALEUROPE", "MacCentralEurRoman", "mac-latin2"),
-    "Mac_Dingbats": ("", "MacDingbats", ""), "Mac_Iceland": ("MAC-IS", "MacIcelandic", "mac-iceland"),
-    "Mac_Croatian": ("", "MacCroatian", "mac-croatian"), "Mac_Romania": ("", "MacRomanian", "mac-romanian"),
-    "Mac_Cyrillic": ("MAC-CYRILLIC", "MacCyrillic", "mac-cyrillic"), "Mac_Greek": ("", "MacGreek", "mac-greek"),
-    "Mac_Turkish": ("", "MacTurkish", "mac-turkish"), "Mac_Hebrew": ("", "MacHebrew", ""),
-    "Mac_Arabic": ("", "MacArabic", "mac-arabic"), "Mac_Thai": ("", "MacThai", ""), "Mac_Farsi": ("", "MacFarsi", "mac-farsi"),
-    "NextStep": ("NEXTSTEP", "nextstep", ""), "US_ASCII": ("ASCII", "ascii", "ascii"),
-    "JIS_X0201": ("JIS_X0201", "jis0201-raw", ""), "TIS_620": ("TIS-620", "", "tis-620"),
-}
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+sys.path.append(str(ROOT / "tools/generate"))
+import encoding_sources  # noqa: E402
+
 UNITS = [unit for unit in range(0x10000) if not 0xD800 <= unit < 0xE000]
 
 libc = ctypes.CDLL(ctypes.util.find_library("c"), use_errno=True)
@@ -111,16 +97,23 @@ def written(read, encode):
 
 
 def single_bytes(out):
-    for name, names in ENCODINGS.items():
-        for witness, by, theirs in zip(("iconv", "perl", "python"), (by_iconv, by_perl, by_python), names):
-            answer = theirs and by(theirs)
-            if not answer:
-                continue
-            read, write = answer
-            values = ("-" if text is None else "+".join(f"{ord(unit):04X}" for unit in text) for text in read)
-            out.write(f"read {name} {witness} {' '.join(values)}\n")
-            bytes_ = (f"{data.hex()}:{ord(unit):04X}" for unit, data in sorted(write.items()))
-            out.write(f"write {name} {witness} {' '.join(bytes_)}\n")
+    """The libraries that a row names as its sources are asked: glibc by its converter, not by its character map."""
+    witnesses = {"glibc": ("iconv", by_iconv), "perl": ("perl", by_perl), "python": ("python", by_python)}
+    rows = encoding_sources.rows((ROOT / "ravo/codec/rows.inc").read_text(encoding="utf-8"))
+    for row in (row for row in rows if row["engine"] == "SingleByte"):
+        for source in row["sources"].split():
+            library, _, theirs = source.partition(":")
+            witness, by = witnesses[library]
+            if answer := by(theirs):
+                write_answer(out, row["name"], witness, answer)
+
+
+def write_answer(out, name, witness, answer):
+    read, write = answer
+    values = ("-" if text is None else "+".join(f"{ord(unit):04X}" for unit in text) for text in read)
+    out.write(f"read {name} {witness} {' '.join(values)}\n")
+    bytes_ = (f"{data.hex()}:{ord(unit):04X}" for unit, data in sorted(write.items()))
+    out.write(f"write {name} {witness} {' '.join(bytes_)}\n")
 
 
 def hex_units(text):

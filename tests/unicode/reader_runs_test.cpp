@@ -1,7 +1,8 @@
 // Whole runs give what single characters give: each operation on the same bytes by both paths, from every
 // kind of source.
 #include "decoded_sources.h"
-#include <ravo/unicode/encodings/run_blocks.h>
+#include <ravo/codec/kernels/kernel_set.h>
+#include <ravo/unicode/encodings/encoding_of.h>
 
 #include <array>
 #include <functional>
@@ -13,6 +14,11 @@
 
 namespace ravo::DIUnicode {
 namespace {
+
+using codec::KernelSet;
+using codec::KernelSets;
+using codec::ScopedKernels;
+using unicode::EncodingOf;
 
 using Reader = TDIUnicodeReader;
 using Way = test::SourceUnderTest::Way;
@@ -127,10 +133,10 @@ void RunBothHere(const Encoding& encoding, std::string_view bytes, Way way, std:
 // With every kernel.
 void RunBoth(const Encoding& encoding, std::string_view bytes, Way way, std::uint32_t seed,
              std::size_t cut = 0) {
-  for (const RunKernel& kernel : RunKernels()) {
+  for (const KernelSet& kernel : KernelSets()) {
     if (!kernel.runs_here()) continue;
     SCOPED_TRACE(kernel.name);
-    const ScopedRunKernel chosen(kernel);
+    const ScopedKernels chosen(kernel);
     ASSERT_NO_FATAL_FAILURE(RunBothHere(encoding, bytes, way, seed, cut));
   }
 }
@@ -185,8 +191,8 @@ std::string BytesFor(const Encoding& encoding, std::mt19937& random, std::size_t
 TEST(WholeRuns, AreKnownForTheseEncodings) {
   for (const Encoding& encoding : kEncodings) {
     if (encoding.name == "GB_18030") continue;
-    EXPECT_NE(DecodeRunOf(encoding.known), nullptr) << encoding.name;
-    EXPECT_EQ(DecodeRunOf(encoding.unknown), nullptr) << encoding.name;
+    EXPECT_NE(EncodingOf(encoding.known), nullptr) << encoding.name;
+    EXPECT_EQ(EncodingOf(encoding.unknown), nullptr) << encoding.name;
   }
 }
 

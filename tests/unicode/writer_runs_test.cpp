@@ -1,6 +1,6 @@
 // Whole runs through a writer give what single characters give, invalid ones included.
 #include <ravo/DIUnicode.h>
-#include <ravo/unicode/encodings/runs.h>
+#include <ravo/unicode/encodings/encoding_of.h>
 
 #include <random>
 #include <string>
@@ -10,6 +10,8 @@
 
 namespace ravo::DIUnicode {
 namespace {
+
+using unicode::EncodingOf;
 
 std::u16string RandomUnits(std::mt19937& random, std::size_t size) {
   std::u16string text;
@@ -68,7 +70,7 @@ TEST(WriterRuns, GiveWhatSingleCharactersGive) {
   for (const EncodingRow& row : EncodingRows()) {
     if (row.write == nullptr || row.write->Init != nullptr) continue;
     hidden = row.write;
-    ASSERT_EQ(EncodeRunOf({nullptr, WriteHidden, nullptr, nullptr}), nullptr);
+    ASSERT_EQ(EncodingOf(TDIUnicodeWriteMethods{nullptr, WriteHidden, nullptr, nullptr}), nullptr);
     for (unsigned round = 0; round < 24; ++round) {
       std::vector<std::u16string> texts;
       for (int i = 0; i < 4; ++i)

@@ -1,7 +1,6 @@
 #include "support/guarded_buffer.h"
 #include <ravo/utils/crc32.h>
 #include <ravo/utils/crc32_kernels.h>
-#include <ravo/utils/generated/crc32_windows.h>
 
 #include <random>
 #include <string>
@@ -100,7 +99,7 @@ TEST_P(Crc32OfKernel, EveryLengthAroundATurn) {
   const std::vector<std::byte> bytes = RandomBytes(40000);
   std::vector<std::uint32_t> expected = {kCrc32Start};
   for (const std::byte byte : bytes) expected.push_back(PlainUpdate(expected.back(), std::span(&byte, 1)));
-  for (const std::size_t turn : {1024u, 4096u + 528u, 3 * 4096u + 528u, 32768u, 3 * 8192u + 4032u}) {
+  for (const std::size_t turn : {160u, 1024u, 32768u}) {
     for (std::size_t count = turn - 40; count <= turn + 40; ++count) {
       const auto front = std::span(bytes).first(count);
       const test::GuardedBuffer buffer(front);
@@ -132,38 +131,14 @@ INSTANTIATE_TEST_SUITE_P(Kernels, Crc32OfKernel,
                          ::testing::ValuesIn(utils::Crc32Kernels().begin(), utils::Crc32Kernels().end()),
                          [](const auto& kernel) { return std::string(kernel.param.name); });
 
-// A byte that is carried over the distances of a window goes without a trace, wherever it stands.
-template <std::size_t count>
-void ExpectLeavesNoTrace(const std::array<std::size_t, count>& window) {
-  std::vector<std::byte> bytes(window.back() + 1);
-  bytes[0] = std::byte{0x53};
-  for (const std::size_t distance : window) bytes[distance] ^= std::byte{0x53};
-  for (const std::size_t behind : {0u, 1u, 500u}) {
-    bytes.resize(window.back() + 1 + behind);
-    EXPECT_EQ(PlainUpdate(0, bytes), 0u) << count << " distances";
-  }
-  bytes[1] ^= std::byte{1};
-  EXPECT_NE(PlainUpdate(0, bytes), 0u);
-}
-
-TEST(Crc32Windows, CarryABytesPartInTheChecksum) {
-  ExpectLeavesNoTrace(utils::kCrc32LongWindow);
-  ExpectLeavesNoTrace(utils::kCrc32MiddleWindow);
-  ExpectLeavesNoTrace(utils::kCrc32ShortWindow);
-}
-
 TEST(Crc32Kernels, BeginWithTheReference) {
   const auto kernels = utils::Crc32Kernels();
-  ASSERT_EQ(kernels.size(), 5u);
+  ASSERT_EQ(kernels.size(), 3u);
   EXPECT_EQ(kernels[0].name, "bytewise");
-  EXPECT_EQ(kernels[1].name, "sliced");
-  EXPECT_EQ(kernels[2].name, "braided");
-  EXPECT_EQ(kernels[3].name, "carried");
-  EXPECT_EQ(kernels[4].name, "carryless");
+  EXPECT_EQ(kernels[1].name, "braided");
+  EXPECT_EQ(kernels[2].name, "carryless");
   EXPECT_TRUE(kernels[0].runs_here());
   EXPECT_TRUE(kernels[1].runs_here());
-  EXPECT_TRUE(kernels[2].runs_here());
-  EXPECT_TRUE(kernels[3].runs_here());
 }
 
 // A kernel that no other could be mistaken for.

@@ -1,10 +1,9 @@
 // The ways to do one thing: by vectors and plainly, with identical results.
 #include "support/guarded_buffer.h"
+#include <ravo/codec/kernels/kernel_set.h>
 #include <ravo/utils/strings/find.h>
 #include <ravo/utils/strings/first_letters.h>
-#include <ravo/utils/strings/kernels.h>
 #include <ravo/utils/strings/mismatch.h>
-#include <ravo/utils/strings/utf8_kernels.h>
 
 #include <algorithm>
 #include <random>
@@ -66,14 +65,17 @@ TEST(StringKernels, FoldedSearchAcrossItsPieces) {
 }
 
 // Every set of kernels that this processor runs.
-class StringsOfKernel : public testing::TestWithParam<StringKernel> {
+class StringsOfKernel : public testing::TestWithParam<codec::KernelSet> {
  protected:
   void SetUp() override {
     if (!GetParam().runs_here()) GTEST_SKIP() << "this processor does not run it";
   }
+
+ private:
+  const codec::ScopedKernels scoped_{GetParam()};
 };
 INSTANTIATE_TEST_SUITE_P(Kernels, StringsOfKernel,
-                         testing::ValuesIn(StringKernels().begin(), StringKernels().end()),
+                         testing::ValuesIn(codec::KernelSets().begin(), codec::KernelSets().end()),
                          [](const auto& row) { return std::string(row.param.name); });
 
 template <class Char>
@@ -98,7 +100,6 @@ void ExpectSameLongSearch(std::mt19937& random) {
 }
 
 TEST_P(StringsOfKernel, SearchesLongTextsAsThePlainOne) {
-  const ScopedStringKernel scoped(GetParam());
   std::mt19937 random(29);
   for (int round = 0; round < 3000; ++round) {
     ExpectSameLongSearch<char>(random);
@@ -108,7 +109,6 @@ TEST_P(StringsOfKernel, SearchesLongTextsAsThePlainOne) {
 
 // One hit in a text of nothing else, at every place and so at every alignment.
 TEST_P(StringsOfKernel, FindsAHitAtEveryPlace) {
-  const ScopedStringKernel scoped(GetParam());
   for (std::size_t size = 1; size < 700; size += 1 + size / 40) {
     std::u16string text(size, u'.');
     for (std::size_t at = 0; at + 2 <= size; ++at) {
@@ -189,69 +189,6 @@ TEST(StringKernels, LettersOfLatinFoldAsThePlainOne) {
       const std::size_t wanted = MismatchPlainly<Folded>(here.data(), there.data(), 0, 8);
       ASSERT_EQ((Mismatch<Folded>(here.data(), there.data(), 8)), wanted) << left << ' ' << right;
     }
-  }
-}
-
-template <class Write, class Char>
-auto Written(Write write, View<Char> from, std::size_t room) {
-  using Out = std::remove_pointer_t<decltype(write(from, nullptr))>;
-  // Nothing may be written behind the room either.
-  const String<Out> empty(room, Out{});
-  const test::GuardedBuffer buffer(BytesOf(empty));
-  Out* const out = reinterpret_cast<Out*>(buffer.Bytes().data());
-  return String<Out>(out, write(from, out));
-}
-
-void ExpectSameUtf8(const StringKernel& kernel, const std::string& bytes) {
-  const test::GuardedBuffer buffer(BytesOf(bytes));
-  const std::u16string text = Written(kernel.decode_utf8, In<char>(buffer), bytes.size());
-  ASSERT_EQ(text, Written(DecodeUtf8Plainly, In<char>(buffer), bytes.size()));
-  const test::GuardedBuffer units(BytesOf(text));
-  ASSERT_EQ(Written(kernel.encode_utf8, In<char16_t>(units), 3 * text.size()),
-            Written(EncodeUtf8Plainly, In<char16_t>(units), 3 * text.size()));
-}
-
-TEST_P(StringsOfKernel, TreatsRandomBytesAsThePlainOne) {
-  std::mt19937 random(23);
-  for (int round = 0; round < 4000; ++round) {
-    std::string bytes;
-    const std::size_t length = random() % 100;
-    const auto most = 1 + random() % 255;
-    while (bytes.size() < length)
-      bytes.push_back(static_cast<char>(random() % 8 == 0 ? random() : random() % most));
-    ExpectSameUtf8(GetParam(), bytes);
-  }
-}
-
-// Well formed for the most part, so that runs are long, with a broken piece now and then.
-TEST_P(StringsOfKernel, TreatsTextsAsThePlainOne) {
-  constexpr std::string_view kPieces[] = {"a",        "bc",   "č",    "ř",        "\xDF\xBF", "\xC2\x80", "€",
-                                          "\xC1\xBF", "\xC4", "\x8D", "\xE2\x82", "😀",        "\xFF"};
-  std::mt19937 random(31);
-  for (int round = 0; round < 4000; ++round) {
-    std::string bytes;
-    const std::size_t kinds = random() % 4 == 0 ? std::size(kPieces) : 6;
-    for (std::size_t count = random() % 90; count > 0; --count) bytes += kPieces[random() % kinds];
-    if (random() % 2 == 0 && !bytes.empty()) bytes += kPieces[6 + random() % 7];
-    ExpectSameUtf8(GetParam(), bytes);
-  }
-}
-
-std::u16string Decoded(char16_t* (*decode)(std::string_view, char16_t*) noexcept, const std::string& bytes) {
-  std::vector<char16_t> room(bytes.size());
-  return {room.data(), decode(bytes, room.data())};
-}
-
-// Each two bytes, at each place of a vector and of the border between two.
-TEST_P(StringsOfKernel, TreatsEveryTwoBytesAsThePlainOne) {
-  for (unsigned pair = 0; pair < 0x10000; ++pair) {
-    std::string bytes(36, 'a');
-    const std::size_t at = pair % 35;
-    bytes[at] = static_cast<char>(pair >> 8);
-    bytes[at + 1] = static_cast<char>(pair);
-    ASSERT_EQ(Decoded(GetParam().decode_utf8, bytes), Decoded(DecodeUtf8Plainly, bytes));
-    const std::string more = "č" + bytes.substr(0, 14) + bytes.substr(at, 2) + "čč" + bytes;
-    ASSERT_EQ(Decoded(GetParam().decode_utf8, more), Decoded(DecodeUtf8Plainly, more));
   }
 }
 

@@ -2,7 +2,7 @@
 
 HEAD = """# Encodings
 
-Written by `tools/generate/encodings.py` from the rows of `ravo/unicode/encodings/rows.inc` and from the sources that
+Written by `tools/generate/encodings.py` from the rows of `ravo/codec/rows.inc` and from the sources that
 they name: character maps of the C library (`glibc`, package `locales`), Perl's Encode (`perl`), Python's codecs
 (`python`). A new single-byte encoding is a row there and a run of that script.
 

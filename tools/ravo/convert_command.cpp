@@ -3,10 +3,13 @@
 #include "convert_text.h"
 #include "progress.h"
 #include "text_file.h"
+#include <ravo/codec/texts.h>
 
 #include <filesystem>
 #include <fstream>
 #include <memory>
+#include <optional>
+#include <span>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -14,7 +17,7 @@
 namespace tool {
 namespace {
 
-using namespace ravo::DIUnicode;
+namespace codec = ravo::codec;
 
 struct ConvertOptions {
   std::string from;
@@ -24,113 +27,76 @@ struct ConvertOptions {
   std::string replacement;
 };
 
-// A source that is read from its start to its end.
-class Source : public ravo::ByteStream {
- public:
-  [[nodiscard]] std::size_t Write(std::span<const std::byte>) override { return 0; }
-  [[nodiscard]] std::int64_t Position() const override { return position_; }
-  void SetPosition(std::int64_t) override {}
-  [[nodiscard]] std::int64_t Size() const override { return 0; }
-
- protected:
-  std::size_t Advance(std::size_t count) {
-    position_ += static_cast<std::int64_t>(count);
-    return count;
-  }
-
- private:
-  std::int64_t position_ = 0;
-};
-
-class InputSource final : public Source {
- public:
-  [[nodiscard]] std::size_t Read(std::span<std::byte> to) override { return Advance(ReadInput(to)); }
-};
-
-class FileSource final : public Source {
- public:
-  explicit FileSource(std::ifstream file) : file_(std::move(file)) {}
-
-  [[nodiscard]] std::size_t Read(std::span<std::byte> to) override {
-    file_.read(reinterpret_cast<char*>(to.data()), static_cast<std::streamsize>(to.size()));
-    if (file_.bad()) throw std::runtime_error("cannot be read");
-    return Advance(static_cast<std::size_t>(file_.gcount()));
-  }
-
- private:
-  std::ifstream file_;
-};
-
-// Where the bytes go: to a file, or, to be shown at the end, into a text.
-class Target final : public ravo::ByteStream {
+// Where the bytes go: to a file that is there once it is whole, or on to standard output.
+class Target {
  public:
   explicit Target(const std::string& name) {
-    if (!name.empty()) file_ = std::make_unique<WholeFile>(name);
+    if (!name.empty()) file_.emplace(name);
   }
 
-  [[nodiscard]] std::size_t Write(std::span<const std::byte> from) override {
-    const std::string_view bytes(reinterpret_cast<const char*>(from.data()), from.size());
-    // What the file does not take is told in the end.
-    if (file_ != nullptr)
+  void Write(std::string_view bytes) {
+    // `Finish` tells what the file did not take.
+    if (file_)
       static_cast<void>(file_->Write(bytes));
-    else
+    else if (shown_)
       text_ += bytes;
-    return from.size();
+    else if (!tool::Write(Channel::Out, bytes))
+      throw std::runtime_error("the output cannot be written");
   }
-  [[nodiscard]] std::size_t Read(std::span<std::byte>) override { return 0; }
-  [[nodiscard]] std::int64_t Position() const override { return 0; }
-  void SetPosition(std::int64_t) override {}
-  [[nodiscard]] std::int64_t Size() const override { return 0; }
 
   // An empty text, or why it failed.
   [[nodiscard]] std::string Finish(Outcome& outcome) {
-    if (file_ != nullptr) return file_->Finish();
+    if (file_) return file_->Finish();
     outcome.out = std::move(text_);
     return {};
   }
 
  private:
-  std::unique_ptr<WholeFile> file_;
+  std::optional<WholeFile> file_;
+  // A console takes characters, not bytes: they are shown together.
+  bool shown_ = IsTerminal(Channel::Out);
   std::string text_;
 };
 
-const EncodingRow& Named(const std::string& name) {
-  const EncodingRow* const row = FindEncoding(name);
+const codec::Encoding& Named(const std::string& name) {
+  const codec::Encoding* const row = codec::FindEncoding(std::string_view(name));
   if (row == nullptr) throw CLI::ValidationError("convert: no encoding " + name + "; see ravo encodings");
   return *row;
 }
 
 char16_t SingleUnit(const std::string& utf8) {
-  TDIUnicodeReader reader;
-  reader.SetReadMethods(Read_UTF_8);
-  reader.SetSourceBufferAsStrA(utf8);
-  const bool one = reader.ReadChar() && reader.Char() != 0xFFFD && !reader.PeekChars(1);
-  if (!one) throw CLI::ValidationError("convert: --replace wants one character up to U+FFFF");
-  return reader.Char();
+  const std::u16string text = codec::Decoded(Named("UTF_8"), utf8);
+  if (text.size() != 1 || text[0] == codec::kReplacement)
+    throw CLI::ValidationError("convert: --replace wants one character up to U+FFFF");
+  return text[0];
 }
 
 Conversion ConversionOf(const ConvertOptions& options) {
   Conversion conversion;
   conversion.from = options.from == "auto" ? nullptr : &Named(options.from);
   conversion.to = &Named(options.to);
-  if (conversion.from != nullptr && conversion.from->read == nullptr)
+  if (conversion.from != nullptr && conversion.from->decode_one == nullptr)
     throw CLI::ValidationError("convert: " + options.from + " cannot be read");
-  if (conversion.to->write == nullptr)
+  if (conversion.to->encode_one == nullptr)
     throw CLI::ValidationError("convert: " + options.to + " cannot be written");
   if (!options.replacement.empty()) conversion.replacement = SingleUnit(options.replacement);
   return conversion;
 }
 
-// Null where the file cannot be read.
-std::unique_ptr<ravo::ByteStream> Open(const std::string& name, std::int64_t& size) {
-  if (name == "-") return std::make_unique<InputSource>();
-  const std::filesystem::path path(std::u8string(name.begin(), name.end()));
+// How the bytes of a file are read; empty if it cannot be.
+Converter::Read Open(const std::string& name, std::int64_t& size) {
+  if (name == kInputName) return [](std::span<std::byte> to) { return ReadInput(to); };
+  const std::filesystem::path path = PathOf(name);
   std::error_code error;
-  std::ifstream file(path, std::ios::binary);
-  if (!file || std::filesystem::is_directory(path, error)) return {};
+  const auto file = std::make_shared<std::ifstream>(path, std::ios::binary);
+  if (!*file || std::filesystem::is_directory(path, error)) return {};
   const auto bytes = std::filesystem::file_size(path, error);
   size = error ? 0 : static_cast<std::int64_t>(bytes);
-  return std::make_unique<FileSource>(std::move(file));
+  return [file](std::span<std::byte> to) {
+    file->read(reinterpret_cast<char*>(to.data()), static_cast<std::streamsize>(to.size()));
+    if (file->bad()) throw std::runtime_error("cannot be read");
+    return static_cast<std::size_t>(file->gcount());
+  };
 }
 
 bool Complain(Outcome& outcome, const std::string& what, Answer answer) {
@@ -139,28 +105,25 @@ bool Complain(Outcome& outcome, const std::string& what, Answer answer) {
   return false;
 }
 
-bool ConvertFile(const Conversion& conversion, const std::string& name, TDIUnicodeWriter& writer,
-                 Outcome& outcome) {
+bool ConvertFile(Converter& converter, const std::string& name, Outcome& outcome) {
   std::int64_t size = 0;
-  const auto source = Open(name, size);
-  if (source == nullptr) return Complain(outcome, name + ": cannot be read", Answer::WrongUsage);
+  const Converter::Read read = Open(name, size);
+  if (!read) return Complain(outcome, name + ": cannot be read", Answer::WrongUsage);
   Progress progress(name, size);
-  const auto show = [&progress](std::int64_t done) { progress.Show(done); };
-  const Refusal refusal = Convert(conversion, *source, writer, show);
+  const Refusal refusal = converter.Convert(read, [&progress](std::int64_t done) { progress.Show(done); });
   return refusal ? Complain(outcome, name + ":" + *refusal, Answer::No) : true;
 }
 
 void Run(const ConvertOptions& options, Outcome& outcome) {
   const Conversion conversion = ConversionOf(options);
-  const auto files = options.files.empty() ? std::vector<std::string>{"-"} : options.files;
+  const auto files =
+      options.files.empty() ? std::vector<std::string>{std::string(kInputName)} : options.files;
   Target target(options.output);
-  TDIUnicodeWriter writer;
-  writer.SetWriteMethods(*conversion.to->write);
-  writer.SetDataStream(&target);
+  Converter converter(conversion, [&target](std::string_view bytes) { target.Write(bytes); });
   for (const std::string& file : files) {
-    if (!ConvertFile(conversion, file, writer, outcome)) return;
+    if (!ConvertFile(converter, file, outcome)) return;
   }
-  writer.FlushDataBuffer();
+  converter.Finish();
   const std::string failure = target.Finish(outcome);
   if (!failure.empty()) Complain(outcome, options.output + ": " + failure, Answer::WrongUsage);
 }
@@ -168,10 +131,11 @@ void Run(const ConvertOptions& options, Outcome& outcome) {
 constexpr const char* kConvertFooter =
     "ENCODING is a name, an alias or a code page number of `ravo encodings`; -f auto goes by the byte-order "
     "mark,\n"
-    "which is left out, and takes text without one for UTF-8. Several files become one. The output is there "
-    "only\n"
+    "which is left out, and takes text without one for UTF-8. Several files become one. The file of -o is "
+    "there only\n"
     "once all of it is right: until then, and wherever the conversion ends early, an old file stays as it "
     "was.\n"
+    "Standard output gets the text as it is converted, up to what ends it.\n"
     "\n"
     "Exit status: 0, 1 something cannot be read or written in these encodings (with line and column), 2 "
     "wrong\n"

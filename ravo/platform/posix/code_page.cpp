@@ -1,9 +1,8 @@
+#include <ravo/codec/texts.h>
 #include <ravo/platform/posix/posix_machine.h>
 #include <ravo/runtime/text.h>
 
 #include <algorithm>
-#include <array>
-#include <iterator>
 
 #include <locale.h>  // NOLINT(modernize-deprecated-headers): newlocale is not in <clocale>
 #include <wctype.h>  // NOLINT(modernize-deprecated-headers): towlower_l is not in <cwctype>
@@ -13,50 +12,18 @@ namespace {
 
 constexpr std::uint32_t kWindows1250 = 1250;
 constexpr std::uint32_t kUtf8 = 65001;
-constexpr std::size_t kAscii = 0x80;
-
-constexpr std::uint16_t kUpperHalf[] = {
-#include <ravo/platform/posix/generated/windows_1250.inc>
-};
-static_assert(std::size(kUpperHalf) == 128);
-
-struct Mapping {
-  char16_t unit = 0;
-  char byte = 0;
-};
-
-constexpr auto kByUnit = [] {
-  std::array<Mapping, 128> rows{};
-  for (std::size_t i = 0; i < rows.size(); ++i) rows[i] = {kUpperHalf[i], static_cast<char>(kAscii + i)};
-  std::ranges::sort(rows, {}, &Mapping::unit);
-  return rows;
-}();
-
-char16_t UnitOf(char ch) {
-  const auto byte = static_cast<unsigned char>(ch);
-  return byte < kAscii ? char16_t{byte} : char16_t{kUpperHalf[byte - kAscii]};
-}
-
-char ByteOf(char16_t unit) {
-  if (unit < kAscii) return static_cast<char>(unit);
-  const auto at = std::ranges::lower_bound(kByUnit, unit, {}, &Mapping::unit);
-  return at != kByUnit.end() && at->unit == unit ? at->byte : '?';
-}
+constexpr char16_t kAscii = 0x80;
 
 }  // namespace
 
 std::uint32_t PosixMachine::CodePage() const { return kWindows1250; }
 
 std::u16string PosixMachine::FromCodePage(std::string_view bytes) const {
-  std::u16string text(bytes.size(), u'\0');
-  std::ranges::transform(bytes, text.begin(), UnitOf);
-  return text;
+  return codec::DecodedWindows1250OfSystem(bytes);
 }
 
 std::string PosixMachine::ToCodePage(std::u16string_view text) const {
-  std::string bytes(text.size(), '\0');
-  std::ranges::transform(text, bytes.begin(), ByteOf);
-  return bytes;
+  return codec::EncodedWindows1250OfSystem(text);
 }
 
 // Case belongs to characters here, not to languages.

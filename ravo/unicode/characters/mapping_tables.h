@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-/// The tables behind the mappings, for loops that cannot afford a call for every unit. A block number of 0 or
+/// The tables of the mappings, for loops that cannot afford a call for every unit. A block number of 0 or
 /// an entry of 0 means that the unit stays as it is.
 namespace ravo::DIUnicode {
 

@@ -17,16 +17,15 @@ namespace ravo::DIUnicode {
 /// The form of a first letter: the upper case, but U+01C5 for U+01C4 to U+01C6 and the like.
 [[nodiscard]] RAVO_INLINE_API char16_t CharToTitleW(char16_t c) noexcept;
 
-/// The canonical combining class: 0 for what starts a sequence, the order of marks behind it otherwise (230
-/// for most marks above a letter).
+/// The canonical combining class: 0 for what starts a sequence, otherwise the order of marks (230 for most
+/// marks above a letter).
 [[nodiscard]] RAVO_INLINE_API std::uint8_t CharCanonicalCombiningClassW(char16_t c) noexcept;
 
-// Implementation. A look-up is shorter than a call, so it stands with its user; the tables stay in the
-// library.
+// Implementation. A look-up is shorter than a call, so it is inline; the tables stay in the library.
 
 namespace detail {
 
-/// The entry of `c`, or `fallback` where that is 0. Block 0 stands in front of the others and holds zeros.
+/// The entry of `c`, or `fallback` where that is 0. Block 0 is the first one and holds zeros.
 template <unsigned block_bits, class Entry, class Default>
 [[nodiscard]] inline Default LookUp(const std::uint8_t* blocks, const Entry* entries, char16_t c,
                                     Default fallback) noexcept {

@@ -1,7 +1,7 @@
+#include <ravo/codec/kernels/block.h>
+#include <ravo/codec/kernels/kernel_set.h>
 #include <ravo/utils/strings/find.h>
 #include <ravo/utils/strings/first_letters.h>
-#include <ravo/utils/strings/kernels.h>
-#include <ravo/utils/strings/vector.h>
 
 #include <algorithm>
 #include <array>
@@ -9,49 +9,45 @@
 namespace ravo::strings {
 namespace {
 
-#ifdef __SSE2__
+using codec::Block;
+using codec::Hits;
 
-// Vectors with the characters that one character of a search text may stand for.
+// Blocks with the characters that one character of a search text may stand for.
 template <class Fold, class Char>
 class Wanted {
  public:
   explicit Wanted(Char c) {
     if constexpr (Fold::kIsExact) {
-      lanes_[0] = Everywhere(c);
+      blocks_[0] = Block<Char>(c);
     } else {
       const Variants<Char> variants = VariantsOf(c);
-      std::transform(variants.begin(), variants.end(), lanes_,
-                     [](Char variant) { return Everywhere(variant); });
+      std::transform(variants.begin(), variants.end(), blocks_,
+                     [](Char variant) { return Block<Char>(variant); });
     }
   }
 
-  __m128i In(const Char* text) const {
-    const __m128i units = LoadVector(text);
-    __m128i found = SameLanes<Char>(units, lanes_[0]);
-    for (std::size_t i = 1; i < kCount; ++i) found = _mm_or_si128(found, SameLanes<Char>(units, lanes_[i]));
+  Block<Char> In(const Char* text) const {
+    const Block<Char> units = Block<Char>::Load(text);
+    Block<Char> found = units.EqualTo(blocks_[0]);
+    for (std::size_t i = 1; i < kCount; ++i) found = found | units.EqualTo(blocks_[i]);
     return found;
   }
 
  private:
   static constexpr std::size_t kCount = Fold::kIsExact ? 1 : std::tuple_size_v<Variants<Char>>;
-  __m128i lanes_[kCount];
+  Block<Char> blocks_[kCount];
 };
 
-template <class Fold>
-std::size_t PassOverByKernel(const char* text, const char* last_text, std::size_t places,
-                             const char (&ends)[2]) {
-  // Untested: `kIsExact` is a constant of each instance.
-  return Fold::kIsExact ? ChosenKernel().pass_over_bytes(text, last_text, places, ends) : 0;
+std::size_t SkipByKernel(const char* text, const char* last_text, std::size_t places, const char (&ends)[2]) {
+  return codec::ChosenKernels().skip_bytes(text, last_text, places, ends);
 }
-template <class Fold>
-std::size_t PassOverByKernel(const char16_t* text, const char16_t* last_text, std::size_t places,
-                             const char16_t (&ends)[2]) {
-  // Untested: `kIsExact` is a constant of each instance.
-  return Fold::kIsExact ? ChosenKernel().pass_over_units(text, last_text, places, ends) : 0;
+std::size_t SkipByKernel(const char16_t* text, const char16_t* last_text, std::size_t places,
+                         const char16_t (&ends)[2]) {
+  return codec::ChosenKernels().skip_units(text, last_text, places, ends);
 }
 
-// Looks for the first and the last character of `search` at their distance, a vector of places at a time;
-// only where both stand it looks at what is between.
+// Searches for the first and the last character of `search` at their distance, a block of places at a time;
+// compares what is between only if both are there.
 template <class Fold, class Char>
 class Finder {
  public:
@@ -62,16 +58,16 @@ class Finder {
     if (places - from < kLanes) return FindPlainly<Fold>(search_, text, from);
     unsigned empty = 0;
     for (; places - from >= 2 * kLanes; from += 2 * kLanes) {
-      const unsigned low = Candidates(text.data() + from);
-      const unsigned high = Candidates(text.data() + from + kLanes);
-      if ((low | high) == 0) {
-        if (++empty % kManyEmpty == 0) from += PassedOver(text, from + 2 * kLanes, places);
+      const Hits<Char> low = Candidates(text.data() + from);
+      const Hits<Char> high = Candidates(text.data() + from + kLanes);
+      if ((low | high).None()) {
+        if (++empty % kManyEmpty == 0) from += Skipped(text, from + 2 * kLanes, places);
         continue;
       }
       if (const std::size_t at = Among(text, from, low); at != kNone) return at;
       if (const std::size_t at = Among(text, from + kLanes, high); at != kNone) return at;
     }
-    // What remains is looked at again together with some places before it.
+    // The last block overlaps the one before it.
     for (; from < places; from += kLanes) {
       from = std::min(from, places - kLanes);
       if (const std::size_t at = Among(text, from, Candidates(text.data() + from)); at != kNone) return at;
@@ -80,31 +76,28 @@ class Finder {
   }
 
  private:
-  static constexpr std::size_t kLanes = kVectorBytes / sizeof(Char);
-  // Behind so many vectors without a candidate there are likely to be more.
+  static constexpr std::size_t kLanes = Block<Char>::kUnits;
+  // After so many pairs of blocks without a candidate, more such are likely.
   static constexpr unsigned kManyEmpty = 4;
   // Fewer are not worth the call.
   static constexpr std::size_t kManyPlaces = 16 * kLanes;
 
-  std::size_t PassedOver(View<Char> text, std::size_t from, std::size_t places) const {
+  std::size_t Skipped(View<Char> text, std::size_t from, std::size_t places) const {
     if (!Fold::kIsExact || places - from < kManyPlaces) return 0;
     const Char* const place = text.data() + from;
     const Char ends[2] = {search_.front(), search_.back()};
-    return PassOverByKernel<Fold>(place, place + search_.size() - 1, places - from, ends);
+    return SkipByKernel(place, place + search_.size() - 1, places - from, ends);
   }
 
-  unsigned Candidates(const Char* place) const {
-    return BitsOf(_mm_and_si128(first_.In(place), last_.In(place + search_.size() - 1)));
+  Hits<Char> Candidates(const Char* place) const {
+    return (first_.In(place) & last_.In(place + search_.size() - 1)).AsHits();
   }
 
-  // The first of the candidates, one bit per byte, that is a whole hit.
-  std::size_t Among(View<Char> text, std::size_t from, unsigned candidates) const {
-    constexpr unsigned kLane = (1U << sizeof(Char)) - 1;
-    while (candidates != 0) {
-      const unsigned bit = LowestBit(candidates);
-      const std::size_t at = from + bit / sizeof(Char);
+  // The first of the candidates that is a whole hit.
+  std::size_t Among(View<Char> text, std::size_t from, Hits<Char> candidates) const {
+    for (; !candidates.None(); candidates = candidates.WithoutFirst()) {
+      const std::size_t at = from + candidates.First();
       if (IsHit(text.data() + at)) return at;
-      candidates &= ~(kLane << bit);
     }
     return kNone;
   }
@@ -121,19 +114,10 @@ class Finder {
 };
 
 template <class Fold, class Char>
-std::size_t FindByVectors(View<Char> search, View<Char> text, std::size_t from) {
+std::size_t FindByBlocks(View<Char> search, View<Char> text, std::size_t from) {
   if (search.empty() || from >= text.size() || search.size() > text.size() - from) return kNone;
   return Finder<Fold, Char>(search).In(text, from);
 }
-
-#else
-
-template <class Fold, class Char>
-std::size_t FindByVectors(View<Char> search, View<Char> text, std::size_t from) {
-  return FindPlainly<Fold>(search, text, from);
-}
-
-#endif
 
 constexpr std::size_t kPiece = 512;
 constexpr std::size_t kLongestFolded = 128;
@@ -141,20 +125,17 @@ constexpr std::size_t kLongestFolded = 128;
 template <std::size_t size>
 View<char16_t> FoldedInto(std::array<char16_t, size>& buffer, View<char16_t> text) {
   std::size_t at = 0;
-#ifdef __SSE2__
-  // ASCII by vectors, what else there is one by one.
-  constexpr std::size_t kLanes = kVectorBytes / sizeof(char16_t);
-  for (; text.size() - at >= kLanes; at += kLanes) {
-    const __m128i units = LoadVector(text.data() + at);
-    StoreVector(buffer.data() + at, LowerLanes<char16_t>(units));
-    const __m128i high = _mm_and_si128(units, Everywhere(char16_t{0xFF80}));
-    for (unsigned bits = ~BitsOf(_mm_cmpeq_epi16(high, _mm_setzero_si128())) & 0xFFFF; bits != 0;) {
-      const unsigned bit = LowestBit(bits);
-      buffer[at + bit / 2] = Folded::Of(text[at + bit / 2]);
-      bits &= ~(3U << bit);
+  // ASCII by blocks, other units one by one.
+  using Units = Block<char16_t>;
+  for (; text.size() - at >= Units::kUnits; at += Units::kUnits) {
+    const Units units = Units::Load(text.data() + at);
+    codec::AsciiLowered(units).Store(buffer.data() + at);
+    auto others = ~(units & Units(char16_t{0xFF80})).EqualTo(u'\0').AsHits();
+    for (; !others.None(); others = others.WithoutFirst()) {
+      const std::size_t other = at + others.First();
+      buffer[other] = Folded::Of(text[other]);
     }
   }
-#endif
   for (; at < text.size(); ++at) buffer[at] = Folded::Of(text[at]);
   return {buffer.data(), text.size()};
 }
@@ -180,17 +161,17 @@ bool AreEndsKnown(View<char16_t> search) {
 }  // namespace
 
 std::size_t FindExactly(View<char> search, View<char> text, std::size_t from) noexcept {
-  return FindByVectors<Exact>(search, text, from);
+  return FindByBlocks<Exact>(search, text, from);
 }
 std::size_t FindExactly(View<char16_t> search, View<char16_t> text, std::size_t from) noexcept {
-  return FindByVectors<Exact>(search, text, from);
+  return FindByBlocks<Exact>(search, text, from);
 }
 
 std::size_t FindFolded(View<char> search, View<char> text, std::size_t from) noexcept {
-  return FindByVectors<Folded>(search, text, from);
+  return FindByBlocks<Folded>(search, text, from);
 }
 std::size_t FindFolded(View<char16_t> search, View<char16_t> text, std::size_t from) noexcept {
-  return AreEndsKnown(search) ? FindByVectors<Folded>(search, text, from) : FindInFolded(search, text, from);
+  return AreEndsKnown(search) ? FindByBlocks<Folded>(search, text, from) : FindInFolded(search, text, from);
 }
 
 }  // namespace ravo::strings

@@ -1,8 +1,8 @@
+#include <ravo/codec/kernels/block.h>
 #include <ravo/runtime/text.h>
 #include <ravo/utils/strings/in_pieces.h>
 #include <ravo/utils/strings/text_kind.h>
 #include <ravo/utils/strings/url.h>
-#include <ravo/utils/strings/vector.h>
 
 #include <array>
 #include <cstdint>
@@ -55,60 +55,37 @@ constexpr std::array<Escape, 256> kEscapes = Escapes();
 constexpr std::array<std::uint16_t, 256> kHighDigit = DigitValues(16);
 constexpr std::array<std::uint16_t, 256> kLowDigit = DigitValues(1);
 
-// Bytes that are looked at together.
-constexpr std::size_t kBlock = 16;
-// And one by one where escapes are close together.
+constexpr std::size_t kBlock = codec::kBlockBytes;
+// Bytes that are decoded one by one if escapes are close together.
 constexpr std::size_t kMany = 64;
 
-#ifdef __SSE2__
+using Bytes = codec::Block<char>;
 
-using strings::Everywhere;
-using strings::LoadVector;
-
-__m128i Between(__m128i text, char low, char high) {
-  return _mm_and_si128(_mm_cmpgt_epi8(text, Everywhere(static_cast<char>(low - 1))),
-                       _mm_cmpgt_epi8(Everywhere(static_cast<char>(high + 1)), text));
+Bytes ArePlain(Bytes text) {
+  const Bytes letters = codec::AsciiLowered(text).Within('a', 'z');
+  const Bytes marks = text.EqualTo('@') | text.EqualTo('*') | text.Within('-', '.') | text.EqualTo('_');
+  return letters | marks | text.Within('0', '9');
 }
 
-__m128i AreOne(__m128i text, char c) { return _mm_cmpeq_epi8(text, Everywhere(c)); }
-
-__m128i ArePlain(__m128i text) {
-  const __m128i letters = Between(strings::LowerLanes<char>(text), 'a', 'z');
-  const __m128i marks = _mm_or_si128(_mm_or_si128(AreOne(text, '@'), AreOne(text, '*')),
-                                     _mm_or_si128(Between(text, '-', '.'), AreOne(text, '_')));
-  return _mm_or_si128(_mm_or_si128(letters, marks), Between(text, '0', '9'));
-}
-
-__m128i WithOneForAnother(__m128i text, __m128i lanes, char c) {
-  return _mm_or_si128(_mm_andnot_si128(lanes, text), _mm_and_si128(lanes, Everywhere(c)));
-}
-
-// Sixteen bytes that are plain or blanks; false where others are among them.
+// Sixteen bytes that are plain or blanks; false if others are among them.
 bool EncodePlain(const char* text, char* out) {
-  const __m128i bytes = LoadVector(text);
-  const __m128i blanks = AreOne(bytes, ' ');
-  strings::StoreVector(out, WithOneForAnother(bytes, blanks, '+'));
-  return strings::BitsOf(_mm_or_si128(ArePlain(bytes), blanks)) == 0xFFFF;
+  const Bytes bytes = Bytes::Load(text);
+  const Bytes blanks = bytes.EqualTo(' ');
+  Choose(blanks, Bytes('+'), bytes).Store(out);
+  return (ArePlain(bytes) | blanks).AsHits().All();
 }
 
 // How many bytes from the front are no escapes, as far as whole blocks go; they are in `out` then.
 std::size_t DecodePlain(std::string_view text, char* out) {
   std::size_t at = 0;
   for (; text.size() - at >= kBlock; at += kBlock) {
-    const __m128i bytes = LoadVector(text.data() + at);
-    strings::StoreVector(out + at, WithOneForAnother(bytes, AreOne(bytes, '+'), ' '));
-    const unsigned escapes = strings::BitsOf(AreOne(bytes, '%'));
-    if (escapes != 0) return at + strings::LowestBit(escapes);
+    const Bytes bytes = Bytes::Load(text.data() + at);
+    Choose(bytes.EqualTo('+'), Bytes(' '), bytes).Store(out + at);
+    const auto escapes = bytes.EqualTo('%').AsHits();
+    if (!escapes.None()) return at + escapes.First();
   }
   return at;
 }
-
-#else
-
-bool EncodePlain(const char*, char*) { return false; }
-std::size_t DecodePlain(std::string_view, char*) { return 0; }
-
-#endif
 
 char* EncodeBytes(std::string_view text, char* out) {
   for (const char c : text) {
@@ -127,7 +104,7 @@ char* Encode(std::string_view text, char* out) {
   return EncodeBytes(text, out);
 }
 
-// What stands at `at`, which moves behind it.
+// The byte at `at`, which moves past it or past its escape.
 char DecodeOne(const char*& at, const char* end) {
   const char c = *at++;
   if (c != '%') return c == '+' ? ' ' : c;
@@ -144,7 +121,7 @@ char* Decode(std::string_view text, char* out) {
     const std::size_t plain = DecodePlain({at, static_cast<std::size_t>(end - at)}, out);
     at += plain;
     out += plain;
-    // Escapes come in groups: behind a short run the next one is short as well.
+    // Escapes come in groups: a short run is followed by short ones.
     for (std::size_t few = plain < kBlock / 2 ? kMany : 1; few > 0 && at != end; --few)
       *out++ = DecodeOne(at, end);
   }

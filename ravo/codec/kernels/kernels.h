@@ -1,0 +1,41 @@
+#pragma once
+
+#include <ravo/codec/kernels/kernel_set.h>
+
+/// The functions that the sets are made of; kernel_set.h says what each kind does.
+namespace ravo::codec {
+
+/// On every processor.
+[[nodiscard]] Run DecodeUtf8Ascii(ByteSpan bytes, TextRoom text) noexcept;
+[[nodiscard]] Run EncodeUtf8Ascii(TextSpan text, ByteRoom bytes) noexcept;
+[[nodiscard]] std::size_t Utf8Length(TextSpan text) noexcept;
+[[nodiscard]] Run DecodeSingleByteAscii(const ByteTable& table, ByteSpan bytes, TextRoom text) noexcept;
+[[nodiscard]] Run EncodeSingleByteBlocks(const ReverseTable& table, bool ascii, TextSpan text,
+                                         ByteRoom bytes) noexcept;
+[[nodiscard]] Run DecodeUnitBlocks(bool swap, bool plain_only, ByteSpan bytes, TextRoom text) noexcept;
+[[nodiscard]] Run EncodeUnitBlocks(bool swap, bool plain_only, TextSpan text, ByteRoom bytes) noexcept;
+
+[[nodiscard]] bool HasSsse3() noexcept;
+[[nodiscard]] Run DecodeUtf8Ssse3(ByteSpan bytes, TextRoom text) noexcept;
+[[nodiscard]] Run EncodeUtf8Ssse3(TextSpan text, ByteRoom bytes) noexcept;
+
+[[nodiscard]] bool HasAvx2() noexcept;
+[[nodiscard]] Run DecodeUtf8Avx2(ByteSpan bytes, TextRoom text) noexcept;
+[[nodiscard]] Run EncodeUtf8Avx2(TextSpan text, ByteRoom bytes) noexcept;
+[[nodiscard]] std::size_t Utf8LengthAvx2(TextSpan text) noexcept;
+[[nodiscard]] std::size_t SkipBytesAvx2(const char* text, const char* last_text, std::size_t places,
+                                        const char (&ends)[2]) noexcept;
+[[nodiscard]] std::size_t SkipUnitsAvx2(const char16_t* text, const char16_t* last_text, std::size_t places,
+                                        const char16_t (&ends)[2]) noexcept;
+
+/// Of the extensions, those that AVX-512 has on processors with VBMI2.
+[[nodiscard]] bool HasAvx512() noexcept;
+[[nodiscard]] Run DecodeUtf8Avx512(ByteSpan bytes, TextRoom text) noexcept;
+[[nodiscard]] RunUntil DecodeUtf8UntilAvx512(ByteSpan bytes, TextRoom text, EndBytes ends) noexcept;
+[[nodiscard]] Run EncodeUtf8Avx512(TextSpan text, ByteRoom bytes) noexcept;
+[[nodiscard]] std::size_t Utf8LengthAvx512(TextSpan text) noexcept;
+[[nodiscard]] Run DecodeSingleByteAvx512(const ByteTable& table, ByteSpan bytes, TextRoom text) noexcept;
+[[nodiscard]] RunUntil DecodeSingleByteUntilAvx512(const ByteTable& table, ByteSpan bytes, TextRoom text,
+                                                   EndBytes ends) noexcept;
+
+}  // namespace ravo::codec

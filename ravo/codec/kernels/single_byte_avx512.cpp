@@ -1,0 +1,60 @@
+#include <ravo/codec/kernels/kernels.h>
+
+// Single-byte encodings by look-ups in registers.
+#if defined(__SSE2__) && defined(__x86_64__)
+#include <ravo/codec/kernels/decode_avx512.inc>
+
+namespace ravo::codec {
+namespace {
+
+// Single bytes: the upper half of the table in four vectors.
+class SingleByteEngine {
+ public:
+  struct Maker {
+    const ByteTable& table;
+    RAVO_AVX512 SingleByteEngine operator()() const { return SingleByteEngine(table); }
+  };
+
+  RAVO_AVX512 explicit SingleByteEngine(const ByteTable& table) {
+    for (std::size_t i = 0; i < 4; ++i) parts_[i] = _mm512_loadu_si512(table.data() + 0x80 + i * kHalf);
+  }
+
+  RAVO_AVX512 bool Decode(const ByteBlock& block, TextRoom to, Run& run) const {
+    const Bits last_quarter = From(Load(block.from), 0xC0);
+    StoreUnits(to, block.length, Characters<0>(block, last_quarter));
+    if (block.length > kHalf)
+      StoreUnits(to.subspan(kHalf), block.length - kHalf, Characters<1>(block, last_quarter));
+    run = {block.length, block.length};
+    return true;
+  }
+
+  RAVO_AVX512 static bool IsBetweenCharacters() { return true; }
+  RAVO_AVX512 static Run WithoutUnfinished(const Run& run, ByteSpan) { return run; }
+
+ private:
+  template <std::size_t half>
+  RAVO_AVX512 Vector Characters(const ByteBlock& block, Bits last_quarter) const {
+    const Vector places = Widened(block.from + half * kHalf);
+    const Vector third = _mm512_permutex2var_epi16(parts_[0], places, parts_[1]);
+    const Vector fourth = _mm512_permutex2var_epi16(parts_[2], places, parts_[3]);
+    const Vector upper = _mm512_mask_mov_epi16(places, HalfOf<half>(block.beyond), third);
+    return _mm512_mask_mov_epi16(upper, HalfOf<half>(last_quarter), fourth);
+  }
+
+  Vector parts_[4];
+};
+
+}  // namespace
+
+RAVO_AVX512 Run DecodeSingleByteAvx512(const ByteTable& table, ByteSpan bytes, TextRoom text) noexcept {
+  return DecodeBlocks<false>(SingleByteEngine(table), bytes, std::min(bytes.size(), text.size()), text);
+}
+
+RAVO_AVX512 RunUntil DecodeSingleByteUntilAvx512(const ByteTable& table, ByteSpan bytes, TextRoom text,
+                                                 EndBytes ends) noexcept {
+  return DecodeUntilEnd(SingleByteEngine::Maker{table}, bytes, text, ends);
+}
+
+}  // namespace ravo::codec
+
+#endif

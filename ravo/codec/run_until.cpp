@@ -1,0 +1,54 @@
+#include <ravo/codec/kernels/run_search.h>
+#include <ravo/codec/run_until.h>
+
+#include <algorithm>
+#include <bit>
+
+namespace ravo::codec {
+namespace {
+
+using Ends = OneOf<3>;
+
+std::size_t WholeBlocksOf(std::size_t length) {
+  return (length + kSearchBlock - 1) / kSearchBlock * kSearchBlock;
+}
+
+// Widens the ASCII before the first byte that ends it; returns how much. Writes whole blocks.
+std::size_t WidenAsciiBefore(ByteSpan bytes, TextRoom to, const Ends& ends) {
+  const std::size_t most = std::min(bytes.size(), to.size());
+  std::size_t at = 0;
+  for (; most - at >= kSearchBlock; at += kSearchBlock) {
+    const UnitBlock<std::uint8_t> block(bytes.data() + at);
+    block.Widen(to.data() + at);
+    if (const unsigned hits = ends.HitsIn(block) | block.NoAscii(); hits != 0)
+      return at + static_cast<std::size_t>(std::countr_zero(hits));
+  }
+  for (; at < most && bytes[at] < 0x80 && !ends(bytes[at]); ++at) to[at] = bytes[at];
+  return at;
+}
+
+// Decodes everything before a byte that ends it. Bytes after that one are decoded too if that makes whole
+// blocks, but do not count: among the last characters, the first one that ends it is the end.
+Run DecodeMixedBefore(DecodeRun decode, ByteSpan bytes, TextRoom to, const Ends& ends) {
+  const auto within = bytes.first(std::min(bytes.size(), to.size()));
+  const std::size_t length = LengthBefore(within, ends);
+  const Run run = decode(within.first(std::min(WholeBlocksOf(length), within.size())), to);
+  if (run.taken <= length) return run;
+  if (run.taken == run.made) return {length, length};
+  const auto last = std::span<const char16_t>(to.first(run.made)).last(std::min(run.made, kSearchBlock));
+  return {length, run.made - last.size() + LengthBefore(last, ends)};
+}
+
+}  // namespace
+
+RunUntil DecodeUntilByBlocks(DecodeRun decode, ByteSpan bytes, TextRoom text, EndBytes end_bytes) {
+  const Ends ends(char16_t{end_bytes.First()}, char16_t{end_bytes.Second()}, char16_t{end_bytes.Third()});
+  const std::size_t ascii = WidenAsciiBefore(bytes, text, ends);
+  Run mixed;
+  if (ascii < bytes.size() && bytes[ascii] >= 0x80)
+    mixed = DecodeMixedBefore(decode, bytes.subspan(ascii), text.subspan(ascii), ends);
+  return {ascii + mixed.taken, static_cast<std::uint32_t>(ascii + mixed.made),
+          end_bytes.HasBreaks() ? Lines::One : Lines::MayBeMore};
+}
+
+}  // namespace ravo::codec
