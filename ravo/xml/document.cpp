@@ -99,7 +99,7 @@ void TECXMLParser::SaveToStream(ByteStream& Stream, bool XSL) {
     header += u"<?xml-stylesheet type=\"text/xsl\" href=\"" + FStyleSheet + u"\"?>\r\n";
   }
   WriteText(Stream, header);
-  xml::WriteItem(Stream, *FRoot, 2);
+  xml::WriteItem(Stream, xml::ItemObjects::StoreOf(*FRoot), {.level = 2});
   if (FOnSaved) FOnSaved(*this);
 }
 

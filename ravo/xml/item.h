@@ -3,7 +3,7 @@
 #include <ravo/runtime/byte_stream.h>
 #include <ravo/runtime/export.h>
 #include <ravo/runtime/string_list.h>
-#include <ravo/xml/child_list.h>
+#include <ravo/xml/item_store.h>
 #include <ravo/xml/tokenizer.h>
 
 #include <cstddef>
@@ -11,12 +11,6 @@
 #include <new>
 #include <string>
 #include <string_view>
-
-namespace ravo::xml {
-class ItemAccess;
-class ItemArena;
-struct RareParts;
-}  // namespace ravo::xml
 
 /// A small, forgiving model of XML documents: close tags are not matched by name, comments are dropped,
 /// attribute values end at blanks outside double quotes.
@@ -97,10 +91,10 @@ class RAVO_API TXMLItem {
   [[nodiscard]] TXMLItem* SubItems(std::int32_t Index) const;
   /// How many children there are.
   [[nodiscard]] std::int32_t SubItemCount() const noexcept {
-    return static_cast<std::int32_t>(children_.Count());
+    return static_cast<std::int32_t>(store_.Children().Count());
   }
   /// The item that this one is a child of; null for none.
-  [[nodiscard]] TXMLItem* Parent() const noexcept { return FParent; }
+  [[nodiscard]] TXMLItem* Parent() const noexcept;
   /// Takes the item out of its parent's children if another one is given, and appends it to those of the new
   /// one, even where it is there already. Raises `Error` for an item below this one.
   void SetParent(TXMLItem* Value);
@@ -109,43 +103,21 @@ class RAVO_API TXMLItem {
   /// Free for the caller.
   void SetData(void* Value);
   /// The document that it belongs to; null for none.
-  [[nodiscard]] TECXMLParser* Parser() const noexcept { return FParser; }
+  [[nodiscard]] TECXMLParser* Parser() const noexcept { return store_.Document(); }
   /// For this item and everything below it.
   void SetParser(TECXMLParser* Value);
   /// Whether the item is written with line breaks and indents.
-  [[nodiscard]] bool CrLfInAsString() const noexcept { return (flags_ & kOnOneLine) == 0; }
-  void SetCrLfInAsString(bool Value) noexcept { SetFlag(kOnOneLine, !Value); }
+  [[nodiscard]] bool CrLfInAsString() const noexcept { return !store_.OnOneLine(); }
+  void SetCrLfInAsString(bool Value) noexcept { store_.SetOnOneLine(!Value); }
 
  private:
-  friend class xml::ItemAccess;
+  friend struct xml::ItemObjects;
 
-  enum Flag : std::uint32_t {
-    kArenaBorn = 1,
-    kBodyOwned = 2,    // the bytes of name and attributes are the item's own
-    kTextOwned = 4,    // and those of the text
-    kRare = 8,         // the arena has rare parts of the item
-    kWideName = 16,    // the name is a rare part
-    kWideText = 32,    // the text is a rare part
-    kParamList = 64,   // the attributes are a rare part
-    kHasText = 128,    // the text is more than blanks
-    kOnOneLine = 256,  // no line breaks in the output
-    kListedTwice = 512
-  };
-  [[nodiscard]] bool Has(std::uint32_t flags) const noexcept { return (flags_ & flags) != 0; }
-  void SetFlag(Flag flag, bool on) noexcept { flags_ = on ? flags_ | flag : flags_ & ~std::uint32_t{flag}; }
+  TXMLItem(xml::ItemStore& owner, xml::ItemPool& pool) noexcept;
+  [[nodiscard]] std::uint32_t CheckedIndex(std::int32_t index) const;
 
-  TXMLItem* FParent = nullptr;
-  TECXMLParser* FParser = nullptr;
-  // Where the item was born, or where its children are born if it stands alone.
-  xml::ItemArena* arena_ = nullptr;
-  xml::ChildList children_;
-  // Name and attributes, text: as they are written into a document.
-  const char* body_ = nullptr;
-  const char* text_ = nullptr;
-  std::uint32_t name_size_ = 0;
-  std::uint32_t body_size_ = 0;
-  std::uint32_t text_size_ = 0;
-  std::uint32_t flags_ = 0;
+  // The only member.
+  xml::ItemStore store_;
 };
 
 }  // namespace ravo::ECXMLParser
