@@ -1,5 +1,4 @@
 #include <ravo/runtime/checked.h>
-#include <ravo/runtime/error.h>
 #include <ravo/xml/arena.h>
 #include <ravo/xml/child_list.h>
 

@@ -64,7 +64,7 @@ void ItemStore::SetOwner(ItemStore* owner) {
     if (children_.IsEmpty()) break;
   }
   if (owner != nullptr) {
-    // Makes the pool if there is none yet: a new owner must not be freed without a look at its children.
+    // Makes the pool if the owner has none yet: bulk free of the owner must be disabled before it has one.
     ItemPool& pool = owner->Pool();
     owner->children_.Append(this);
     pool.MarkExternal();

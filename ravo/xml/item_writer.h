@@ -10,7 +10,7 @@
 /// that of everything below it.
 namespace ravo::xml {
 
-/// How items are written. An option is one more member, which `Writer` in item_writer.cpp heeds.
+/// Options for writing. `Writer` in item_writer.cpp applies each of them.
 struct WriteOptions {
   std::int32_t level = 0;  ///< blanks before the tags of the topmost item
 };

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <ravo/runtime/error.h>
+
 #include <cstdint>
 #include <string_view>
 

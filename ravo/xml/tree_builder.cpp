@@ -114,7 +114,7 @@ void TreeBuilder::JoinText(std::string_view text) {
     return current_->SetText(ECXMLParser::XMLToStr(joined));
   }
   if (joined_.empty() || joined_.back().item != current_) {
-    joined_.push_back({current_, {Unwritten(current_->TextBytes())}});
+    joined_.push_back({current_, {Unsaved(current_->TextBytes())}});
   }
   joined_.back().pieces.push_back(Unescaped(text));
 }

@@ -51,7 +51,7 @@ void ItemStore::KeepText(std::string_view saved, bool has_text, ItemPool* source
 
 // Whether the item can keep `bytes` of `pool` as they are: they are read and written back unchanged.
 bool ItemStore::Holds(std::string_view bytes, const ItemPool& pool) {
-  return &Pool().Page() == &pool.Page() && pool.Page().IsFaithful(bytes);
+  return &Pool().Page() == &pool.Page() && pool.Page().IsRoundTrip(bytes);
 }
 
 std::u16string ItemStore::Name() const {
@@ -72,7 +72,7 @@ void ItemStore::SetName(std::u16string_view name) {
 
 std::u16string ItemStore::Text() const {
   if (const auto* wide = WideText()) return *wide;
-  return TextBytes().empty() ? std::u16string() : Page().Widened(Unwritten(TextBytes()));
+  return TextBytes().empty() ? std::u16string() : Page().Widened(Unsaved(TextBytes()));
 }
 
 void ItemStore::SetText(std::u16string_view text) {
@@ -91,7 +91,7 @@ StringList ItemStore::Attributes() const {
   std::string_view rest = TagBytes().substr(name_size_);
   while (!rest.empty()) {
     const WrittenAttribute attribute = TakeAttribute(rest);
-    list.Add(Page().Widened(std::string(attribute.name).append("=").append(Unwritten(attribute.value))));
+    list.Add(Page().Widened(std::string(attribute.name).append("=").append(Unsaved(attribute.value))));
   }
   return list;
 }
