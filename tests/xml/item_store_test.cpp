@@ -2,6 +2,7 @@
 #include "xml_text.h"
 #include <ravo/platform/machine.h>
 #include <ravo/runtime/error.h>
+#include <ravo/xml/item.h>
 #include <ravo/xml/item_pool.h>
 #include <ravo/xml/item_store.h>
 #include <ravo/xml/item_writer.h>
@@ -46,6 +47,13 @@ void Load(ItemStore& top, std::string_view text) {
   Recorder recorder(top, false);
   ReadTokens(tokenizer, recorder);
   recorder.Finish();
+}
+
+TEST(ItemStore, IsAllThatAnItemHas) {
+  EXPECT_EQ(sizeof(ECXMLParser::TXMLItem), sizeof(void*) == 8 ? 64U : 40U);
+  ECXMLParser::TXMLItem item;
+  EXPECT_EQ(ItemObjects::ItemOf(&ItemObjects::StoreOf(item)), &item);
+  EXPECT_EQ(ItemObjects::ItemOf(nullptr), nullptr);
 }
 
 TEST(ItemStore, KeepsPlainBytesOfTheSource) {
