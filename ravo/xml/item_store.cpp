@@ -36,8 +36,9 @@ ItemStore& ItemStore::NewChild() {
 
 void ItemStore::AppendAll(std::span<ItemStore* const> children, ItemPool& pool) {
   if (children.empty()) return;
-  children_.AppendAll(children, pool.Memory());
-  if ((in_pool_ && children_.OwnsMemory()) || &Pool() != &pool) MarkExternal();
+  // The list lives as long as this item: in memory of its own pool.
+  children_.AppendAll(children, Pool().Memory());
+  if (&Pool() != &pool || (in_pool_ && children_.OwnsMemory())) MarkExternal();
 }
 
 void ItemStore::Delete(std::uint32_t index) {

@@ -180,6 +180,18 @@ TEST(ItemStore, IsFreedOnceHoweverOftenItIsListed) {
   EXPECT_TRUE(top.Children().IsEmpty());
 }
 
+// Its list of children must outlive the pool of that load.
+TEST(ItemStore, IsFreedAfterALoadIntoAnItemOfAPool) {
+  ItemStore top;
+  ItemStore& child = top.NewChild();
+  Load(child, "<a><b/><c/></a>");
+  child.Delete(1);
+  child.Delete(0);
+  EXPECT_TRUE(child.Children().IsEmpty());
+  child.NewChild().SetName(u"d");
+  EXPECT_EQ(Written(child), u"<a>\r\n  <d/>\r\n</a>\r\n");
+}
+
 // An item in memory of another pool keeps the bytes of its own code page.
 TEST(ItemStore, LoadsBytesOfAnotherCodePageThanItsOwn) {
   ItemStore top;
