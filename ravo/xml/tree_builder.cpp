@@ -37,8 +37,9 @@ void TreeBuilder::Finish() {
 bool TreeBuilder::OpenTag(std::string_view tag) {
   if (current_ == nullptr) return false;
   if (current_->HasName()) {
-    current_ = &AddChild();
+    ItemStore& child = AddChild();
     starts_.push_back(children_.size());
+    current_ = &child;
   }
   SetTag(*current_, tag);
   return true;
