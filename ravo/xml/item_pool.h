@@ -1,26 +1,13 @@
 #pragma once
 
-#include <ravo/runtime/string_list.h>
 #include <ravo/xml/arena.h>
 #include <ravo/xml/code_page.h>
+#include <ravo/xml/item_extras.h>
 
 #include <cstddef>
 #include <memory>
-#include <string>
 
 namespace ravo::xml {
-
-class ItemPool;
-
-/// Content that few items have, beside the pool that every item belongs to. All other items of a pool share
-/// an empty one.
-struct ItemExtras {
-  ItemPool* pool = nullptr;
-  void* data = nullptr;                    ///< the caller's
-  std::u16string name;                     ///< a name that the code page lacks, or empty
-  std::u16string text;                     ///< a text that the code page lacks, or empty
-  std::unique_ptr<StringList> attributes;  ///< attributes that are edited as a list or that bytes cannot hold
-};
 
 /// The memory that the items of one load or of one parent share, the code page of their bytes, and whether
 /// they can be freed at once.
@@ -28,7 +15,10 @@ struct ItemExtras {
 /// Lives until its last user releases it and its last item is gone.
 class ItemPool {
  public:
-  ItemPool() : page_(&CodePage::Current()) { common_.pool = this; }
+  ItemPool() {
+    common_.pool = this;
+    common_.page = &CodePage::Current();
+  }
   ItemPool(const ItemPool&) = delete;
   ItemPool& operator=(const ItemPool&) = delete;
   ~ItemPool() = default;
@@ -60,7 +50,7 @@ class ItemPool {
   void FreeAllItems() noexcept { items_ = 0; }
 
   [[nodiscard]] Arena& Memory() noexcept { return arena_; }
-  [[nodiscard]] const CodePage& Page() const noexcept { return *page_; }
+  [[nodiscard]] const CodePage& Page() const noexcept { return *common_.page; }
   [[nodiscard]] ItemExtras& CommonExtras() noexcept { return common_; }
 
  private:
@@ -69,7 +59,6 @@ class ItemPool {
   }
 
   Arena arena_;
-  const CodePage* page_;
   ItemExtras common_;
   std::size_t users_ = 1;
   std::size_t items_ = 0;

@@ -114,6 +114,7 @@ ItemPool& ItemStore::Pool() {
 void ItemStore::SetPool(ItemPool* pool) noexcept {
   if (HasOwnExtras()) {
     extras_->pool = pool;
+    extras_->page = pool != nullptr ? &pool->Page() : nullptr;
   } else {
     extras_ = pool != nullptr ? &pool->CommonExtras() : nullptr;
   }
@@ -171,7 +172,12 @@ bool ItemStore::HasOwnExtras() const noexcept {
 
 ItemExtras& ItemStore::MakeExtras() {
   if (!HasOwnExtras()) {
-    extras_ = new ItemExtras{.pool = &Pool(), .data = nullptr, .name = {}, .text = {}, .attributes = nullptr};
+    extras_ = new ItemExtras{.pool = &Pool(),
+                             .page = &Pool().Page(),
+                             .data = nullptr,
+                             .name = {},
+                             .text = {},
+                             .attributes = nullptr};
     if (in_pool_) MarkExternal();
   }
   return *extras_;

@@ -2,6 +2,7 @@
 
 #include <ravo/runtime/string_list.h>
 #include <ravo/xml/child_list.h>
+#include <ravo/xml/item_extras.h>
 #include <ravo/xml/kept_bytes.h>
 
 #include <cstdint>
@@ -19,7 +20,6 @@ namespace ravo::xml {
 
 class CodePage;
 class ItemPool;
-struct ItemExtras;
 
 /// What an item of a document holds: its owner and children, its name, attributes and text.
 ///
@@ -80,7 +80,7 @@ class ItemStore {
   [[nodiscard]] bool OnOneLine() const noexcept { return on_one_line_; }
   void SetOnOneLine(bool on) noexcept { on_one_line_ = on; }
 
-  [[nodiscard]] bool HasName() const noexcept;
+  [[nodiscard]] bool HasName() const noexcept { return name_size_ != 0 || WideName() != nullptr; }
   /// Whether the text is more than blanks and control characters.
   [[nodiscard]] bool HasText() const noexcept { return has_text_; }
 
@@ -93,7 +93,7 @@ class ItemStore {
   void LoadSavedText(std::string_view saved, ItemPool& pool);
 
   /// The code page of the bytes below; only for items that have some.
-  [[nodiscard]] const CodePage& Page() const noexcept;
+  [[nodiscard]] const CodePage& Page() const noexcept { return *extras_->page; }
   /// Whether the text is bytes in the code page of `pool`.
   [[nodiscard]] bool HasTextBytes(const ItemPool& pool) const noexcept;
   [[nodiscard]] std::string_view NameBytes() const noexcept { return tag_.View().substr(0, name_size_); }
@@ -101,9 +101,15 @@ class ItemStore {
   [[nodiscard]] std::string_view TagBytes() const noexcept { return tag_.View(); }
   [[nodiscard]] std::string_view TextBytes() const noexcept { return text_.View(); }
   /// Content that is not bytes, or null.
-  [[nodiscard]] const std::u16string* WideName() const noexcept;
-  [[nodiscard]] const std::u16string* WideText() const noexcept;
-  [[nodiscard]] const StringList* AttributeList() const noexcept;
+  [[nodiscard]] const std::u16string* WideName() const noexcept {
+    return extras_ != nullptr && !extras_->name.empty() ? &extras_->name : nullptr;
+  }
+  [[nodiscard]] const std::u16string* WideText() const noexcept {
+    return extras_ != nullptr && !extras_->text.empty() ? &extras_->text : nullptr;
+  }
+  [[nodiscard]] const StringList* AttributeList() const noexcept {
+    return extras_ != nullptr ? extras_->attributes.get() : nullptr;
+  }
 
  private:
   [[nodiscard]] ItemPool* PoolOrNull() const noexcept;

@@ -10,25 +10,9 @@
 // Name, attributes and text of an item.
 namespace ravo::xml {
 
-const CodePage& ItemStore::Page() const noexcept { return extras_->pool->Page(); }
-
 bool ItemStore::HasTextBytes(const ItemPool& pool) const noexcept {
   return WideText() == nullptr && (TextBytes().empty() || &Page() == &pool.Page());
 }
-
-const std::u16string* ItemStore::WideName() const noexcept {
-  return extras_ != nullptr && !extras_->name.empty() ? &extras_->name : nullptr;
-}
-
-const std::u16string* ItemStore::WideText() const noexcept {
-  return extras_ != nullptr && !extras_->text.empty() ? &extras_->text : nullptr;
-}
-
-const StringList* ItemStore::AttributeList() const noexcept {
-  return extras_ != nullptr ? extras_->attributes.get() : nullptr;
-}
-
-bool ItemStore::HasName() const noexcept { return name_size_ != 0 || WideName() != nullptr; }
 
 // Bytes of the source go into the arena they belong to; all other bytes are the item's own, since they may
 // change any number of times.
