@@ -14,6 +14,7 @@ class ItemPool;
 struct ItemExtras {
   ItemPool* pool = nullptr;
   const CodePage* page = nullptr;          ///< the code page of the pool
+  bool is_common = false;                  ///< the ones that items share
   void* data = nullptr;                    ///< the caller's
   std::u16string name;                     ///< a name that the code page lacks, or empty
   std::u16string text;                     ///< a text that the code page lacks, or empty

@@ -16,6 +16,7 @@ namespace ravo::xml {
 class ItemPool {
  public:
   ItemPool() {
+    common_.is_common = true;
     common_.pool = this;
     common_.page = &CodePage::Current();
   }

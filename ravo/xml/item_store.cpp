@@ -104,12 +104,7 @@ void ItemStore::SetDocument(ECXMLParser::TECXMLParser* document) {
   }
 }
 
-ItemPool* ItemStore::PoolOrNull() const noexcept { return extras_ != nullptr ? extras_->pool : nullptr; }
-
-ItemPool& ItemStore::Pool() {
-  if (PoolOrNull() == nullptr) SetPool(new ItemPool);
-  return *extras_->pool;
-}
+void ItemStore::MakePool() { SetPool(new ItemPool); }
 
 void ItemStore::SetPool(ItemPool* pool) noexcept {
   if (HasOwnExtras()) {
@@ -166,20 +161,12 @@ void ItemStore::FreeChildrenOneByOne() noexcept {
   }
 }
 
-bool ItemStore::HasOwnExtras() const noexcept {
-  return extras_ != nullptr && (extras_->pool == nullptr || extras_ != &extras_->pool->CommonExtras());
-}
-
 ItemExtras& ItemStore::MakeExtras() {
-  if (!HasOwnExtras()) {
-    extras_ = new ItemExtras{.pool = &Pool(),
-                             .page = &Pool().Page(),
-                             .data = nullptr,
-                             .name = {},
-                             .text = {},
-                             .attributes = nullptr};
-    if (in_pool_) MarkExternal();
-  }
+  if (HasOwnExtras()) return *extras_;
+  ItemPool& pool = Pool();
+  extras_ = new ItemExtras;
+  SetPool(&pool);
+  if (in_pool_) MarkExternal();
   return *extras_;
 }
 

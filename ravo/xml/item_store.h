@@ -60,7 +60,10 @@ class ItemStore {
   void SetDocument(ECXMLParser::TECXMLParser* document);
 
   /// The pool that the item's children and bytes come from; made if there is no pool yet.
-  [[nodiscard]] ItemPool& Pool();
+  [[nodiscard]] ItemPool& Pool() {
+    if (PoolOrNull() == nullptr) MakePool();
+    return *extras_->pool;
+  }
   /// The pool whose memory holds the item itself, or null.
   [[nodiscard]] ItemPool* OwnMemory() const noexcept { return in_pool_ ? PoolOrNull() : nullptr; }
   /// Makes a cleared item use `pool`. An item in memory of a pool keeps that one.
@@ -112,7 +115,8 @@ class ItemStore {
   }
 
  private:
-  [[nodiscard]] ItemPool* PoolOrNull() const noexcept;
+  [[nodiscard]] ItemPool* PoolOrNull() const noexcept { return extras_ != nullptr ? extras_->pool : nullptr; }
+  void MakePool();
   void SetPool(ItemPool* pool) noexcept;
   void LeavePool() noexcept;
   void MarkExternal() noexcept;
@@ -120,7 +124,7 @@ class ItemStore {
   void FreeChildren() noexcept;
   void FreeChildrenOneByOne() noexcept;
 
-  [[nodiscard]] bool HasOwnExtras() const noexcept;
+  [[nodiscard]] bool HasOwnExtras() const noexcept { return extras_ != nullptr && !extras_->is_common; }
   ItemExtras& MakeExtras();
   void DropExtras() noexcept;
   void ClearContent() noexcept;

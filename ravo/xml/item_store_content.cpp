@@ -17,7 +17,7 @@ bool ItemStore::HasTextBytes(const ItemPool& pool) const noexcept {
 // Bytes of the source go into the arena they belong to; all other bytes are the item's own, since they may
 // change any number of times.
 void ItemStore::KeepBytes(KeptBytes& kept, std::string_view bytes, ItemPool* source) {
-  kept.Assign(bytes, source != nullptr && source == &Pool() ? &source->Memory() : nullptr);
+  kept.Assign(bytes, source != nullptr && source == PoolOrNull() ? &source->Memory() : nullptr);
   if (in_pool_ && kept.OwnsMemory()) MarkExternal();
 }
 
