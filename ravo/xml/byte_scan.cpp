@@ -3,7 +3,7 @@
 namespace ravo::xml {
 namespace {
 
-// Removes every non-overlapping `first` `second`, from left to right.
+// Removes each `first` `second` from left to right, without overlaps.
 void RemovePairs(std::string& bytes, char first, char second) {
   std::size_t to = 0;
   for (std::size_t from = 0; from < bytes.size(); ++from) {
@@ -29,7 +29,7 @@ void JoinBlanks(std::string& bytes) {
 bool IsNormalised(std::string_view bytes) noexcept {
   bool after_blank = false;
   for (const char ch : bytes) {
-    // A line feed alone stays, but the pairs are told apart by the careful way.
+    // A single line feed stays; Normalise tells it from a pair.
     if (ch == '\n' || (ch == ' ' && after_blank)) return false;
     after_blank = ch == ' ';
   }

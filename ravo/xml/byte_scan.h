@@ -7,13 +7,14 @@
 #include <string>
 #include <string_view>
 
-/// Loops over bytes that the scanner and the tree spend their time in.
+/// Loops over bytes on the hot path of tokenizer and loader.
 namespace ravo::xml {
 
-/// How many readable bytes must follow the end of what `FindEither` searches.
+/// The number of readable bytes that the searches need after the end of their text.
 inline constexpr std::size_t kReadAhead = codec::kBlockBytes;
 
-/// The first `one` or `two` from `at` on. One of them must occur, and `kReadAhead` readable bytes after it.
+/// Returns the first `one` or `two` from `at` on. One of them must occur, with `kReadAhead` readable bytes
+/// after it.
 [[nodiscard]] inline char* FindEither(char* at, char one, char two) noexcept {
   using Bytes = codec::Block<char>;
   const Bytes ones(one);
@@ -25,9 +26,9 @@ inline constexpr std::size_t kReadAhead = codec::kBlockBytes;
   }
 }
 
-/// The first byte from `at` on, at the latest `end`, that is a control character, an "&", "<", ">" or double
-/// quote, or the second of two blanks; a blank before `at` does not count. `kReadAhead` readable bytes
-/// must follow `end`.
+/// Returns the first byte from `at` on that is a control character, "&", "<", ">", a double quote or the
+/// second of two blanks, or `end`. A blank before `at` does not count. `kReadAhead` bytes after `end` must be
+/// readable.
 [[nodiscard]] inline const char* EndOfOrdinary(const char* at, const char* end) noexcept {
   using Bytes = codec::Block<char>;
   unsigned blank_before = 0;
@@ -48,7 +49,7 @@ inline constexpr std::size_t kReadAhead = codec::kBlockBytes;
   return end;
 }
 
-/// Whether a token's text stands as it is: no line break of two bytes, no two blanks.
+/// Returns true only if `Normalise` changes nothing; false also for any other text with a line feed.
 [[nodiscard]] bool IsNormalised(std::string_view bytes) noexcept;
 
 /// Removes CR LF pairs, then LF CR pairs, then makes each run of blanks one.

@@ -14,7 +14,7 @@ std::string AllBytes() {
   return bytes;
 }
 
-// In a code page of several bytes a character pairs of bytes meet in this text, whatever the lead bytes are.
+// All bytes in both orders contain a pair of lead and trailing byte, if the code page has such pairs.
 bool IsSingleByte(const platform::Machine& machine, const std::string& bytes, const std::u16string& units) {
   if (units.size() != bytes.size()) return false;
   const std::string backwards(bytes.rbegin(), bytes.rend());
@@ -33,9 +33,9 @@ CodePage::CodePage() : number_(platform::CurrentMachine().CodePage()) {
   const std::string back = machine.ToCodePage(units);
   for (std::size_t i = 0; i < bytes.size(); ++i) {
     units_[i] = units[i];
-    faithful_[i] = back[i] == bytes[i];
-    all_faithful_ = all_faithful_ && faithful_[i];
-    if (faithful_[i]) by_unit_.push_back({units[i], bytes[i]});
+    round_trip_[i] = back[i] == bytes[i];
+    all_round_trip_ = all_round_trip_ && round_trip_[i];
+    if (round_trip_[i]) by_unit_.push_back({units[i], bytes[i]});
   }
   std::ranges::stable_sort(by_unit_, {}, &Mapping::unit);
 }
@@ -43,11 +43,11 @@ CodePage::CodePage() : number_(platform::CurrentMachine().CodePage()) {
 bool CodePage::IsSame(const CodePage& other) const {
   // Untested: needs two code pages that read bytes alike and write them differently.
   return number_ == other.number_ && by_table_ == other.by_table_ && units_ == other.units_ &&
-         faithful_ == other.faithful_;
+         round_trip_ == other.round_trip_;
 }
 
 const CodePage& CodePage::Current() {
-  // A list that only grows needs no lock, which a forked process could inherit for ever.
+  // A list that only grows needs no lock, which a forked process could inherit locked.
   constinit static std::atomic<const CodePage*> newest{nullptr};
   std::unique_ptr<CodePage> page(new CodePage);
   page->next_ = newest.load(std::memory_order_acquire);
@@ -60,13 +60,13 @@ const CodePage& CodePage::Current() {
   return *page.release();
 }
 
-bool CodePage::IsFaithful(std::string_view bytes) const {
-  if (all_faithful_ && by_table_) return true;
+bool CodePage::IsRoundTrip(std::string_view bytes) const {
+  if (all_round_trip_ && by_table_) return true;
   if (!by_table_) {
     const platform::Machine& machine = platform::CurrentMachine();
     return machine.ToCodePage(machine.FromCodePage(bytes)) == bytes;
   }
-  return std::ranges::all_of(bytes, [&](char ch) { return faithful_[static_cast<unsigned char>(ch)]; });
+  return std::ranges::all_of(bytes, [&](char ch) { return round_trip_[static_cast<unsigned char>(ch)]; });
 }
 
 std::u16string CodePage::Widened(std::string_view bytes) const {

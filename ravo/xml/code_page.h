@@ -8,20 +8,21 @@
 
 namespace ravo::xml {
 
-/// The system's 8-bit code page as a table, for texts that are kept as bytes until somebody asks for them.
+/// The system's 8-bit code page as a table, to widen texts that are kept as bytes.
+///
 /// Tables live as long as the process, one for each code page that was in force.
 class CodePage {
  public:
-  /// The one in force.
+  /// Returns the code page in force.
   [[nodiscard]] static const CodePage& Current();
 
-  /// Whether each of `bytes` comes back when it is widened and narrowed again.
-  [[nodiscard]] bool IsFaithful(std::string_view bytes) const;
+  /// Returns whether `bytes` are the same after widening and narrowing.
+  [[nodiscard]] bool IsRoundTrip(std::string_view bytes) const;
 
   [[nodiscard]] std::u16string Widened(std::string_view bytes) const;
   void AppendWidened(std::u16string& to, std::string_view bytes) const;
 
-  /// Narrows a text into `bytes` where widening gives the very text back; false otherwise.
+  /// Sets `bytes` to `text` narrowed. Returns false if widening does not give the same text back.
   [[nodiscard]] bool Narrow(std::u16string_view text, std::string& bytes) const;
 
  private:
@@ -34,14 +35,14 @@ class CodePage {
   [[nodiscard]] bool IsSame(const CodePage& other) const;
   [[nodiscard]] const Mapping* Find(char16_t unit) const;
 
-  // The one that was in force before.
+  // The table made before this one.
   const CodePage* next_ = nullptr;
   std::uint32_t number_;
-  // False where a byte alone is not a character; the machine is asked then.
+  // False if some characters have several bytes; the machine converts then.
   bool by_table_ = true;
-  bool all_faithful_ = true;
+  bool all_round_trip_ = true;
   std::array<char16_t, 256> units_{};
-  std::array<bool, 256> faithful_{};
+  std::array<bool, 256> round_trip_{};
   std::vector<Mapping> by_unit_;
 };
 

@@ -9,21 +9,21 @@
 namespace ravo::ECXMLParser {
 namespace {
 
-constexpr std::size_t kLookedAt = 1000;
+constexpr std::size_t kSniffedBytes = 1000;
 
-bool BeginsWithMark(std::string_view bytes) {
+bool HasByteOrderMark(std::string_view bytes) {
   return bytes.starts_with("\xEF\xBB\xBF") || bytes.starts_with("\xFE\xFF") || bytes.starts_with("\xFF\xFE");
 }
 
-// Whether what the stream gives next looks like a document.
+// Sets the stream back to its beginning.
 // Kept: a stream whose declaration has single quotes is ignored without an error. Test:
 // LoadFromStream.PassesOverSingleQuotesInSilence
 // Kept: a stream with a byte-order mark is ignored without an error, unless it has "<rss" near its start.
 // Test: LoadFromStream.PassesOverAMarkOfByteOrderInSilence
 bool LooksLikeXml(ByteStream& stream) {
-  std::string beginning(kLookedAt, '\0');
+  std::string beginning(kSniffedBytes, '\0');
   std::size_t size = 0;
-  while (size < kLookedAt) {
+  while (size < kSniffedBytes) {
     const std::size_t count = stream.Read(std::as_writable_bytes(std::span(beginning).subspan(size)));
     if (count == 0) break;
     size += count;
@@ -32,7 +32,7 @@ bool LooksLikeXml(ByteStream& stream) {
   beginning.resize(size);
   const std::u16string text = platform::CurrentMachine().FromCodePage(beginning);
   const bool declared = text.find(u"<?xml version=\"1.0\"") != std::u16string::npos;
-  return (declared && !BeginsWithMark(beginning)) || text.find(u"<rss") != std::u16string::npos;
+  return (declared && !HasByteOrderMark(beginning)) || text.find(u"<rss") != std::u16string::npos;
 }
 
 std::u16string_view ExtensionOf(std::u16string_view name) {
@@ -99,7 +99,7 @@ void TECXMLParser::SaveToStream(ByteStream& Stream, bool XSL) {
     header += u"<?xml-stylesheet type=\"text/xsl\" href=\"" + FStyleSheet + u"\"?>\r\n";
   }
   WriteText(Stream, header);
-  xml::WriteItem(Stream, *FRoot, 2);
+  xml::WriteItem(Stream, xml::ItemObjects::StoreOf(*FRoot), {.level = 2});
   if (FOnSaved) FOnSaved(*this);
 }
 

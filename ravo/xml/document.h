@@ -15,60 +15,83 @@
 #include <string_view>
 #include <vector>
 
+/// XML documents as trees of items.
+///
+/// A document is loaded into a tree of items, edited and saved again in the suite's own form. The model is
+/// small and forgiving: any close tag closes the innermost element, comments are dropped, attribute values
+/// end at blanks outside double quotes. Each piece of the room knows only those before it:
+///
+///     tokenizer.h     TXMLTokenizer cuts a stream of bytes into tags and texts
+///     loader.h        ReadTokens tells a TokenListener of each token
+///     item_store.h    ItemStore holds an item: owner, children, name, attributes, text
+///     item_pool.h     ItemPool: the memory that the items of one load share (arena.h) and their code page
+///     tree_builder.h  TreeBuilder, the listener of every load, builds stores
+///     item_writer.h   WriteItem writes a store as XML
+///     item.h          TXMLItem: what callers hold, an object around one store
+///     document.h      TECXMLParser owns the root item, has the events, loads and saves
+///
+/// tag_parts.h, escape.h, code_page.h and byte_scan.h are the rules of tags, entities and bytes that these
+/// share. Start at ItemStore; docs/xml-items.md shows how it keeps its bytes.
+///
+/// The room never checks that a document is well formed, never resolves numeric entities, never converts to
+/// the encoding that a header names, and never locks: a document and its items belong to one thread at a
+/// time.
 namespace ravo::ECXMLParser {
 
-/// Kinds of pieces of a document. Loading works on the tokenizer's own kinds and makes none of these.
+/// Kinds of parts of a document. Loading works on the tokenizer's own kinds and makes none of these.
 enum TXMLTagItemType : std::uint8_t { xitText, xitOpen, xitClose, xitStandAlone, xitHeader, xitComment };
 
-/// A piece of a document.
+/// A part of a document.
 struct TXMLTagItem {
-  std::u16string Value;               ///< as it stands there
-  TXMLTagItemType TagType = xitText;  ///< what it is
+  std::u16string Value;               ///< its text in the document
+  TXMLTagItemType TagType = xitText;  ///< its kind
 };
 
-/// Pieces in their order.
+/// Parts in document order.
 using TXMLTagItemList = std::vector<TXMLTagItem>;
 
-/// Events; an empty one is not called.
+/// Receives each item that changes. An empty event is not called.
 using TXMLItemChanged = std::function<void(TECXMLParser& Sender, TXMLItem& XMLItem)>;
-/// A handler that sets `Allow` to false stops what is about to happen.
+/// Called before an operation, which a handler cancels by setting `Allow` to false.
 using TXMLLoadSaveEvent = std::function<void(TECXMLParser& Sender, bool& Allow)>;
-/// Something has happened.
+/// Called after an operation.
 using TNotifyEvent = std::function<void(TComponent& Sender)>;
 
-/// What the interface is known by.
+/// The identifier of `IECXMLParser`.
 inline constexpr Guid IID_IECXMLParser{"{6388C6AB-6393-4AD2-A4AF-22E2BC3F97BF}"};
 
-/// A document, however it is held. Objects that have this interface give it to whoever asks for
-/// `IID_IECXMLParser`.
+/// The interface of documents, which `TECXMLParser` and `TXMLGhost` implement.
 class RAVO_API IECXMLParser : public IUnknown {
  public:
-  /// What `QueryInterface` finds it by.
+  /// The identifier that `QueryInterface` takes.
   static constexpr Guid kInterfaceId = IID_IECXMLParser;
 
   IECXMLParser() = default;
   IECXMLParser(const IECXMLParser&) = delete;
   IECXMLParser& operator=(const IECXMLParser&) = delete;
 
-  /// The root item; never null.
+  /// Returns the root item; never null.
   [[nodiscard]] virtual TXMLItem* GetRoot() = 0;
   /// Empties the document.
   virtual void Clear() = 0;
-  /// Loads a file; `StreamError` where it cannot be read, `EParserError` for what is no XML.
+  /// Loads a file. Throws `StreamError` if it cannot be read and `EParserError` if it cannot be read as XML.
   virtual void LoadFromFile(std::u16string_view FileName) = 0;
-  /// Makes or replaces a file; `StreamError` where that fails.
+  /// Makes or replaces a file. Throws `StreamError` if that fails.
   virtual void SaveToFile(std::u16string_view FileName) = 0;
-  /// Loads a stream; `EParserError` for what is no XML.
+  /// Loads a stream. Throws `EParserError` if it cannot be read as XML.
   virtual void LoadFromStream(ByteStream& Stream) = 0;
-  /// Writes the document at the stream's position; `StreamError` where the stream does not take it all.
+  /// Writes the document at the stream's position. Throws `StreamError` if the stream does not take all of
+  /// it.
   virtual void SaveToStream(ByteStream& Stream, bool XSL) = 0;
 
   // Last, so that the operations directly follow those of the base interface.
   virtual ~IECXMLParser();
 };
 
-/// An XML document: the root item, which is the document's own for its whole life, and the names of encoding
-/// and style sheet. The encoding is a name alone: bytes are always those of the system's 8-bit code page.
+/// An XML document: the root item, which the document owns for its whole life, and the names of encoding and
+/// style sheet.
+///
+/// The encoding is only a name: bytes are always in the system's 8-bit code page.
 class RAVO_API TECXMLParser final : public OwnedComponent<IECXMLParser> {
  public:
   /// The published properties in their order.
@@ -76,56 +99,62 @@ class RAVO_API TECXMLParser final : public OwnedComponent<IECXMLParser> {
       {"StyleSheet", "Encoding", "XMLItemChanged", "OnLoaded", "OnCleared", "OnSaved", "BeforeLoad",
        "BeforeSave", "BeforeClear", "CrLfInAsString"});
 
-  /// An empty document; `AOwner` frees it, null means the caller does.
+  /// Makes an empty document. `AOwner` frees it, or the caller if that is null.
   explicit TECXMLParser(TComponent* AOwner = nullptr);
   ~TECXMLParser() override;
 
   /// Empties encoding and root, if `BeforeClear` allows it.
   void Clear() override;
-  /// `StreamError` for a file that cannot be read.
+  /// Loads a file as `LoadFromStream` does. Throws `StreamError` if it cannot be read.
   void LoadFromFile(std::u16string_view FileName) override;
-  /// Loads the document from the stream's beginning. A stream whose next 1000 bytes contain neither
-  /// `<?xml version="1.0"`, without a byte-order mark at the front, nor `<rss` is passed over in silence.
-  /// `EParserError` for what cannot be read; what was built before it stays.
+  /// Loads the document from the stream's beginning.
+  ///
+  /// Throws `EParserError` if the XML cannot be read; items built before the error stay. Does nothing,
+  /// without an error, unless the next 1000 bytes contain `<rss`, or `<?xml version="1.0"` without a
+  /// byte-order mark at the stream's position.
   void LoadFromStream(ByteStream& Stream) override;
-  /// A file whose extension is ".xsl" gets no reference to a style sheet.
+  /// Saves to a file as `SaveToStream` does. Throws `StreamError` if that fails.
+  ///
+  /// A file whose extension is ".xsl", in either case, gets no reference to a style sheet.
   void SaveToFile(std::u16string_view FileName) override;
-  /// With `XSL` the reference to the style sheet is left out.
+  /// Writes the document at the stream's position; without the reference to the style sheet if `XSL` is set.
+  ///
+  /// Throws `StreamError` if the stream does not take all of it.
   void SaveToStream(ByteStream& Stream, bool XSL) override;
-  /// The root item, which lives as long as the document.
+  /// Returns the root item, which lives as long as the document.
   [[nodiscard]] TXMLItem* GetRoot() override { return FRoot.get(); }
-  /// The root item, which lives as long as the document.
+  /// Returns the root item, which lives as long as the document.
   [[nodiscard]] TXMLItem* Root() const noexcept { return FRoot.get(); }
 
-  /// Whether items are written with line breaks and indents; the root's.
+  /// Returns the flag of the root: true if items are written with line breaks and indents.
   [[nodiscard]] bool CrLfInAsString() const noexcept { return FRoot->CrLfInAsString(); }
   void SetCrLfInAsString(bool Value) noexcept { FRoot->SetCrLfInAsString(Value); }
-  /// The name in the header; says nothing of the bytes.
+  /// Returns the name of the encoding in the header, which has no effect on the bytes.
   [[nodiscard]] const std::u16string& Encoding() const noexcept { return FEncoding; }
   void SetEncoding(std::u16string_view Value) { FEncoding = Value; }
-  /// The style sheet that the document refers to; empty for none.
+  /// Returns the style sheet that the document refers to, or an empty text.
   [[nodiscard]] const std::u16string& StyleSheet() const noexcept { return FStyleSheet; }
   void SetStyleSheet(std::u16string_view Value) { FStyleSheet = Value; }
 
   /// Called with each item that changes.
   [[nodiscard]] const TXMLItemChanged& XMLItemChanged() const noexcept { return FXMLItemChanged; }
   void SetXMLItemChanged(TXMLItemChanged Value) { FXMLItemChanged = std::move(Value); }
-  /// Called when the document was loaded.
+  /// Called after the document is loaded.
   [[nodiscard]] const TNotifyEvent& OnLoaded() const noexcept { return FOnLoaded; }
   void SetOnLoaded(TNotifyEvent Value) { FOnLoaded = std::move(Value); }
-  /// Called when the document was saved.
+  /// Called after the document is saved.
   [[nodiscard]] const TNotifyEvent& OnSaved() const noexcept { return FOnSaved; }
   void SetOnSaved(TNotifyEvent Value) { FOnSaved = std::move(Value); }
-  /// Called when the document was emptied.
+  /// Called after the document is emptied.
   [[nodiscard]] const TNotifyEvent& OnCleared() const noexcept { return FOnCleared; }
   void SetOnCleared(TNotifyEvent Value) { FOnCleared = std::move(Value); }
-  /// Asked before the document is loaded.
+  /// Called before the document is loaded.
   [[nodiscard]] const TXMLLoadSaveEvent& BeforeLoad() const noexcept { return FBeforeLoad; }
   void SetBeforeLoad(TXMLLoadSaveEvent Value) { FBeforeLoad = std::move(Value); }
-  /// Asked before the document is saved.
+  /// Called before the document is saved.
   [[nodiscard]] const TXMLLoadSaveEvent& BeforeSave() const noexcept { return FBeforeSave; }
   void SetBeforeSave(TXMLLoadSaveEvent Value) { FBeforeSave = std::move(Value); }
-  /// Asked before the document is emptied.
+  /// Called before the document is emptied.
   [[nodiscard]] const TXMLLoadSaveEvent& BeforeClear() const noexcept { return FBeforeClear; }
   void SetBeforeClear(TXMLLoadSaveEvent Value) { FBeforeClear = std::move(Value); }
 
@@ -142,33 +171,35 @@ class RAVO_API TECXMLParser final : public OwnedComponent<IECXMLParser> {
   std::u16string FEncoding;
 };
 
-/// Another face of a document, so that several forms can share it. It holds a plain reference: the document
-/// must outlive its use. Every use without a document raises `Error`.
+/// A component that passes each operation on to a document, so that several forms can share it.
+///
+/// Every operation without a document throws `Error`. The reference is a plain one: the document must outlive
+/// its use.
 class RAVO_API TXMLGhost final : public OwnedComponent<IECXMLParser> {
  public:
   /// The published properties in their order.
   static constexpr auto kPublished = std::to_array<std::string_view>({"PrimaryDocument"});
 
-  /// Without a document; `AOwner` frees it, null means the caller does.
+  /// Makes a component without a document. `AOwner` frees it, or the caller if that is null.
   explicit TXMLGhost(TComponent* AOwner = nullptr) : OwnedComponent(AOwner) {}
   ~TXMLGhost() override;
 
-  /// As the document does.
+  /// Does the same as the document.
   void Clear() override { Document().Clear(); }
-  /// As the document does.
+  /// Does the same as the document.
   void LoadFromFile(std::u16string_view FileName) override { Document().LoadFromFile(FileName); }
-  /// As the document does.
+  /// Does the same as the document.
   void SaveToFile(std::u16string_view FileName) override { Document().SaveToFile(FileName); }
-  /// As the document does.
+  /// Does the same as the document.
   void LoadFromStream(ByteStream& Stream) override { Document().LoadFromStream(Stream); }
-  /// As the document does.
+  /// Does the same as the document.
   void SaveToStream(ByteStream& Stream, bool XSL) override { Document().SaveToStream(Stream, XSL); }
-  /// The document's root.
+  /// Returns the document's root.
   [[nodiscard]] TXMLItem* GetRoot() override { return Document().Root(); }
-  /// The document's root.
+  /// Returns the document's root.
   [[nodiscard]] TXMLItem* Root() const { return Document().Root(); }
 
-  /// The document that it stands for; null at first.
+  /// Returns the document that operations are passed on to; null at first.
   [[nodiscard]] TECXMLParser* PrimaryDocument() const noexcept { return FPrimaryDocument; }
   void SetPrimaryDocument(TECXMLParser* Value) noexcept { FPrimaryDocument = Value; }
 
@@ -178,15 +209,15 @@ class RAVO_API TXMLGhost final : public OwnedComponent<IECXMLParser> {
   TECXMLParser* FPrimaryDocument = nullptr;
 };
 
-/// A component class and the palette page of a designer that offers it.
+/// A component class and the palette page that offers it.
 struct ComponentRegistration {
-  std::u16string_view page;        ///< of the designer
-  std::u16string_view class_name;  ///< of the component
+  std::u16string_view page;        ///< the page of the designer
+  std::u16string_view class_name;  ///< the class of the component
 };
 
-/// Offers `TECXMLParser` and `TXMLGhost` on the page "EC Test".
+/// Registers `TECXMLParser` and `TXMLGhost` for the page "EC Test".
 RAVO_API void Register();
-/// What `Register` has offered so far.
+/// Returns the components that `Register` registered so far.
 [[nodiscard]] RAVO_API std::span<const ComponentRegistration> RegisteredComponents() noexcept;
 
 }  // namespace ravo::ECXMLParser

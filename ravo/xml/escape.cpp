@@ -33,7 +33,7 @@ void AppendAscii(std::basic_string<Char>& to, std::string_view ascii) {
   to.append(ascii.begin(), ascii.end());
 }
 
-// No replacement makes or breaks another one, so one pass gives what one pass for each of them would.
+// No replacement makes or breaks another one: one pass gives the same as one pass for each of them.
 template <class Char>
 std::basic_string<Char> Escape(std::basic_string_view<Char> text) {
   std::basic_string<Char> out;
@@ -75,8 +75,8 @@ std::basic_string<Char> Unescape(std::basic_string_view<Char> text, bool with_br
   return out;
 }
 
-// How often "amp;" repeats at the front.
-std::size_t AmpersandTails(std::string_view text, std::size_t most) {
+// The number of times that "amp;" repeats at the front.
+std::size_t CountAmpersandTails(std::string_view text, std::size_t most) {
   std::size_t count = 0;
   while (count < most && text.substr(count * kAmpersandTail.size()).starts_with(kAmpersandTail)) ++count;
   return count;
@@ -95,7 +95,7 @@ namespace xml {
 
 std::string Escaped(std::string_view text) { return Escape(text); }
 std::string Unescaped(std::string_view text) { return Unescape(text, false); }
-std::string Unwritten(std::string_view written) { return Unescape(written, true); }
+std::string Unsaved(std::string_view saved) { return Unescape(saved, true); }
 
 bool NeedsEscape(std::string_view text) noexcept {
   return std::ranges::any_of(
@@ -112,7 +112,7 @@ const char* EndOfPlainText(const char* at, const char* end) noexcept {
   }
 }
 
-// Each application takes one "amp;" away behind an "&", until what is left names another character.
+// Each application removes one "amp;" after an "&", until the rest is another entity.
 std::string Unescaped(std::string_view text, std::size_t times) {
   std::string out;
   out.reserve(text.size());
@@ -123,7 +123,7 @@ std::string Unescaped(std::string_view text, std::size_t times) {
       out += ch;
       continue;
     }
-    const std::size_t tails = AmpersandTails(text, times);
+    const std::size_t tails = CountAmpersandTails(text, times);
     text.remove_prefix(tails * kAmpersandTail.size());
     std::string ahead = "&" + std::string(text.substr(0, 5));
     const Entity* entity = tails < times ? EntityAt(std::string_view(ahead)) : nullptr;

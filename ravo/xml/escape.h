@@ -8,31 +8,31 @@
 namespace ravo {
 namespace ECXMLParser {
 
-/// `S` with "&", "<", ">", the double quote and CR LF written as XML has them, the last as "<br/>".
-/// Apostrophes stay.
+/// Returns `S` with "&", "<", ">" and double quotes as entities and CR LF as "<br/>". Apostrophes stay.
 [[nodiscard]] RAVO_API std::u16string StrToXML(std::u16string_view S);
 
-/// `S` with "&lt;", "&gt;", "&quot;" and then "&amp;" as what they stand for, one level deep. No other entity
-/// is known, and "<br/>" stays.
+/// Returns `S` with "&lt;", "&gt;", "&quot;" and then "&amp;" replaced by their characters, one level deep.
+///
+/// Other entities and "<br/>" stay.
 [[nodiscard]] RAVO_API std::u16string XMLToStr(std::u16string_view S);
 
 }  // namespace ECXMLParser
 
-// The same on bytes of the 8-bit code page, for the tree.
+// The same for bytes of the 8-bit code page.
 namespace xml {
 
 [[nodiscard]] std::string Escaped(std::string_view text);
 [[nodiscard]] std::string Unescaped(std::string_view text);
-/// Takes back what `Escaped` did, "<br/>" included.
-[[nodiscard]] std::string Unwritten(std::string_view written);
-/// `Unescaped` applied that many times.
+/// Reverses `Escaped`, "<br/>" included.
+[[nodiscard]] std::string Unsaved(std::string_view saved);
+/// Applies `Unescaped` that many times.
 [[nodiscard]] std::string Unescaped(std::string_view text, std::size_t times);
 
-/// Whether `Escaped` would change a text.
+/// Returns whether `Escaped` would change `text`.
 [[nodiscard]] bool NeedsEscape(std::string_view text) noexcept;
 
-/// Where in `at` to `end` the text stops to be such that it stands escaped already, without control
-/// characters and double blanks. `kReadAhead` bytes behind the end must be readable.
+/// Returns the end of the longest part from `at` on that is escaped already and has neither control
+/// characters nor two blanks in a row. `kReadAhead` bytes after `end` must be readable.
 [[nodiscard]] const char* EndOfPlainText(const char* at, const char* end) noexcept;
 
 }  // namespace xml

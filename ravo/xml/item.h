@@ -3,7 +3,7 @@
 #include <ravo/runtime/byte_stream.h>
 #include <ravo/runtime/export.h>
 #include <ravo/runtime/string_list.h>
-#include <ravo/xml/child_list.h>
+#include <ravo/xml/item_store.h>
 #include <ravo/xml/tokenizer.h>
 
 #include <cstddef>
@@ -12,140 +12,130 @@
 #include <string>
 #include <string_view>
 
-namespace ravo::xml {
-class ItemAccess;
-class ItemArena;
-struct RareParts;
-}  // namespace ravo::xml
-
-/// A small, forgiving model of XML documents: close tags are not matched by name, comments are dropped,
-/// attribute values end at blanks outside double quotes.
+/// Items of XML documents; document.h tells how the room's pieces fit.
 namespace ravo::ECXMLParser {
 
 class TECXMLParser;
 
-/// An element: name, attributes, text and children. An item owns its children and frees them when it is
-/// cleared or freed; `delete` frees any item, wherever it came from, and takes it out of its parent.
+/// An element: its name, attributes, text and children.
 ///
-/// Texts are kept in the 8-bit code page as they stood in the document and widened when they are asked for.
+/// An item owns its children and frees them when it is cleared or freed. `delete` frees any item, however it
+/// was made, and removes it from its parent. An item and its document are used by one thread at a time.
+///
+/// Reading a text widens bytes of the 8-bit code page each time; keep the result rather than asking twice.
 class RAVO_API TXMLItem {
  public:
-  /// An empty item without parent and document.
+  /// Makes an empty item without parent and document.
   TXMLItem() noexcept = default;
   TXMLItem(const TXMLItem&) = delete;
   TXMLItem& operator=(const TXMLItem&) = delete;
   ~TXMLItem();
-  /// Memory of an item that is made alone. `std::bad_alloc` without memory.
+  /// Returns memory for an item on the heap. Throws `std::bad_alloc`.
   static void* operator new(std::size_t size);
-  /// For an item whose constructor raised.
+  /// Frees the memory of an item whose constructor throws.
   static void operator delete(void* memory) noexcept;
-  /// Takes the item out of its parent and gives its memory back.
+  /// Removes the item from its parent, frees its children and its memory.
   static void operator delete(TXMLItem* item, std::destroying_delete_t);
 
   /// Frees the children and empties name, attributes and text. Reports nothing.
   void Clear();
-  /// A new last child of the same document. Reports a change of this item.
+  /// Makes and returns a last child of the same document. Reports a change of this item.
   TXMLItem* New();
-  /// Frees a child; `RangeError` for an index that there is not. Reports a change of this item.
+  /// Frees the child at a 0-based index and reports a change of this item.
+  ///
+  /// Throws `RangeError` if `Index` is out of range. A child that is listed twice is freed with its last
+  /// listing.
   void Delete(std::int32_t Index);
-  /// Moves a child to another index; `RangeError` for one that is no child or an index that there is not.
+  /// Moves a child to another 0-based index. Reports nothing.
+  ///
+  /// Throws `RangeError` if `Item` is not a child or `ToPosition` is out of range.
   void Move(TXMLItem* Item, std::int32_t ToPosition);
-  /// The index of a child, -1 where it is none.
+  /// Returns the 0-based index of a child, or -1 if `Item` is not a child.
   [[nodiscard]] std::int32_t IndexOf(const TXMLItem* Item) const noexcept;
-  /// The first child of that name in either case from an index on, -1 where there is none. `RangeError` for a
-  /// negative index.
+  /// Returns the index of the first child named `ItemName`, ignoring case, from `IndexFrom` on, or -1.
+  ///
+  /// Throws `RangeError` if `IndexFrom` is negative; beyond the last child the result is -1.
   [[nodiscard]] std::int32_t IndexOfName(std::u16string_view ItemName, std::int32_t IndexFrom) const;
-  /// The first child of that name; a new one where there is none: a look-up never fails.
+  /// Returns the first child named `Name`, ignoring case.
+  ///
+  /// A lookup never fails: a missing child is made, which reports the changes of `New` and `SetName`.
   TXMLItem* GetNamedItem(std::u16string_view Name);
 
-  /// Loads this item from XML. The item must belong to a document, whose events are called.
+  /// Clears this item and loads it from XML, from the position of `Stream` on.
+  ///
+  /// Calls `BeforeLoad` and `OnLoaded` of the document and reports no change. Throws `Error` if the item has
+  /// no document and `EParserError` if the XML cannot be read; items built before the error stay. Tags that
+  /// close this item go on in its parent.
   void LoadFromStream(ByteStream& Stream);
-  /// The same with a buffer of the stream's size.
+  /// Does the same with a buffer of the stream's size, as `TXMLLargeTokenizer` reads it.
   void LoadFromLargeStream(ByteStream& Stream);
-  /// Builds this item and what is below it from tokens. Reports each change as it happens.
+  /// Clears this item and builds it from tokens; reports each change as it happens.
+  ///
+  /// Throws `EParserError` as `LoadFromStream` does.
   void LoadFromTokenizer(ECXMLTokenizer::TXMLTokenizer& Tokenizer);
 
-  /// This item and what is below it as XML, behind `Level` blanks. The flag `CrLfInAsString` of this item
-  /// becomes that of everything below it.
+  /// Returns this item and everything below it as XML, its tags indented by `Level` blanks.
+  ///
+  /// Everything below takes over the flag `CrLfInAsString` of this item.
   [[nodiscard]] std::u16string XMLItemAsString(std::int32_t Level);
-  /// Name and attributes as they stand in the opening tag.
+  /// Returns name and attributes as in the opening tag.
   [[nodiscard]] std::u16string XMLItemName() const;
 
-  /// This item and what is below it as XML.
+  /// Returns `XMLItemAsString(0)`.
   [[nodiscard]] std::u16string AsString() { return XMLItemAsString(0); }
-  /// Loads this item from XML, as `LoadFromStream` does.
+  /// Loads this item from XML as `LoadFromStream` does; `Value` passes through the 8-bit code page.
   void SetAsString(std::u16string_view Value);
 
-  /// Calls the document's `XMLItemChanged` with this item.
+  /// Calls `XMLItemChanged` of the document with this item, if there is a handler.
   void DoChanged();
 
-  /// The name, as it stands in the document.
+  /// Returns the name.
   [[nodiscard]] std::u16string Name() const;
-  /// Without blanks and control characters at both ends. Reports a change.
+  /// Sets the name, without blanks and control characters at both ends. Reports a change.
   void SetName(std::u16string_view Value);
-  /// What stands between the tags, without what belongs to children.
+  /// Returns the text, unescaped, without that of children.
   [[nodiscard]] std::u16string Text() const;
-  /// Reports a change.
+  /// Sets the text. Reports a change.
   void SetText(std::u16string_view Value);
-  /// The attributes as lines of the form name=value. What is done to the list itself is not reported.
+  /// Returns the attributes to edit, as lines of the form name=value. Edits of the list are not reported.
   [[nodiscard]] StringList& Params();
-  /// A copy of the attributes.
+  /// Returns a copy of the attributes.
   [[nodiscard]] StringList Params() const;
-  /// Copies a list. Reports a change.
+  /// Copies the attributes from a list. Reports a change.
   void SetParams(const StringList& Value);
-  /// The child at an index; `RangeError` for an index that there is not.
+  /// Returns the child at a 0-based index. Throws `RangeError` if `Index` is out of range.
   [[nodiscard]] TXMLItem* SubItems(std::int32_t Index) const;
-  /// How many children there are.
+  /// Returns the number of children.
   [[nodiscard]] std::int32_t SubItemCount() const noexcept {
-    return static_cast<std::int32_t>(children_.Count());
+    return static_cast<std::int32_t>(store_.Children().Count());
   }
-  /// The item that this one is a child of; null for none.
-  [[nodiscard]] TXMLItem* Parent() const noexcept { return FParent; }
-  /// Takes the item out of its parent's children if another one is given, and appends it to those of the new
-  /// one, even where it is there already. Raises `Error` for an item below this one.
+  /// Returns the owner of this item, or null.
+  [[nodiscard]] TXMLItem* Parent() const noexcept;
+  /// Appends the item to the children of `Value` and removes it from another parent; null only removes it.
+  ///
+  /// Throws `Error` if `Value` is this item or below it. The parent that the item has already lists it once
+  /// more.
   void SetParent(TXMLItem* Value);
-  /// What `SetData` stored; null at first.
+  /// Returns the pointer that `SetData` stored; null at first.
   [[nodiscard]] void* Data() const;
-  /// Free for the caller.
+  /// Stores a pointer for the caller's own use; `Clear` keeps it.
   void SetData(void* Value);
-  /// The document that it belongs to; null for none.
-  [[nodiscard]] TECXMLParser* Parser() const noexcept { return FParser; }
-  /// For this item and everything below it.
+  /// Returns the document of the item, or null.
+  [[nodiscard]] TECXMLParser* Parser() const noexcept { return store_.Document(); }
+  /// Sets the document of this item and of everything below it.
   void SetParser(TECXMLParser* Value);
-  /// Whether the item is written with line breaks and indents.
-  [[nodiscard]] bool CrLfInAsString() const noexcept { return (flags_ & kOnOneLine) == 0; }
-  void SetCrLfInAsString(bool Value) noexcept { SetFlag(kOnOneLine, !Value); }
+  /// Returns whether the item is written with line breaks and indents; true at first.
+  [[nodiscard]] bool CrLfInAsString() const noexcept { return !store_.OnOneLine(); }
+  void SetCrLfInAsString(bool Value) noexcept { store_.SetOnOneLine(!Value); }
 
  private:
-  friend class xml::ItemAccess;
+  friend struct xml::ItemObjects;
 
-  enum Flag : std::uint32_t {
-    kArenaBorn = 1,
-    kBodyOwned = 2,    // the bytes of name and attributes are the item's own
-    kTextOwned = 4,    // and those of the text
-    kRare = 8,         // the arena has rare parts of the item
-    kWideName = 16,    // the name is a rare part
-    kWideText = 32,    // the text is a rare part
-    kParamList = 64,   // the attributes are a rare part
-    kHasText = 128,    // the text is more than blanks
-    kOnOneLine = 256,  // no line breaks in the output
-    kListedTwice = 512
-  };
-  [[nodiscard]] bool Has(std::uint32_t flags) const noexcept { return (flags_ & flags) != 0; }
-  void SetFlag(Flag flag, bool on) noexcept { flags_ = on ? flags_ | flag : flags_ & ~std::uint32_t{flag}; }
+  TXMLItem(xml::ItemStore& owner, xml::ItemPool& pool) noexcept;
+  [[nodiscard]] std::uint32_t CheckedIndex(std::int32_t index) const;
 
-  TXMLItem* FParent = nullptr;
-  TECXMLParser* FParser = nullptr;
-  // Where the item was born, or where its children are born if it stands alone.
-  xml::ItemArena* arena_ = nullptr;
-  xml::ChildList children_;
-  // Name and attributes, text: as they are written into a document.
-  const char* body_ = nullptr;
-  const char* text_ = nullptr;
-  std::uint32_t name_size_ = 0;
-  std::uint32_t body_size_ = 0;
-  std::uint32_t text_size_ = 0;
-  std::uint32_t flags_ = 0;
+  // The only member: see xml::ItemObjects.
+  xml::ItemStore store_;
 };
 
 }  // namespace ravo::ECXMLParser

@@ -1,8 +1,6 @@
 #include <ravo/platform/machine.h>
-#include <ravo/runtime/text.h>
-#include <ravo/xml/byte_scan.h>
+#include <ravo/xml/code_page.h>
 #include <ravo/xml/escape.h>
-#include <ravo/xml/item_access.h>
 #include <ravo/xml/item_writer.h>
 
 #include <cstring>
@@ -13,27 +11,26 @@
 namespace ravo::xml {
 namespace {
 
-using ECXMLParser::TXMLItem;
-
-// Bytes on their way to a stream, in pieces of one size.
+// Writes bytes to a stream through a buffer.
 class ByteSink {
  public:
   explicit ByteSink(ByteStream& stream)
-      : stream_(stream), page_(CodePage::Current()), buffer_(std::make_unique_for_overwrite<char[]>(kRoom)) {}
+      : stream_(stream),
+        page_(CodePage::Current()),
+        buffer_(std::make_unique_for_overwrite<char[]>(kCapacity)) {}
 
   void Ascii(std::string_view bytes) { Bytes(bytes); }
   void Blanks(std::size_t count) {
     for (; count > kBlanks.size(); count -= kBlanks.size()) Bytes(kBlanks);
     Bytes(kBlanks.substr(0, count));
   }
-  // Texts of the tree are bytes already, unless they are those of another code page.
-  void Page(const TXMLItem& item, std::string_view bytes) {
+  // Content is bytes already, unless of another code page.
+  void Content(const ItemStore& item, std::string_view bytes) {
     if (bytes.empty()) return;
-    const CodePage& page = ItemAccess::Page(item);
-    if (&page == &page_) {
+    if (&item.Page() == &page_) {
       Bytes(bytes);
     } else {
-      Wide(page.Widened(bytes));
+      Wide(item.Page().Widened(bytes));
     }
   }
   void Wide(std::u16string_view text) { Bytes(platform::CurrentMachine().ToCodePage(text)); }
@@ -43,13 +40,13 @@ class ByteSink {
   }
 
  private:
-  static constexpr std::size_t kRoom = 65536;
+  static constexpr std::size_t kCapacity = 65536;
   static constexpr std::string_view kBlanks = "                                ";
 
   void Bytes(std::string_view bytes) {
-    if (bytes.size() > kRoom - used_) {
+    if (bytes.size() > kCapacity - used_) {
       Flush();
-      if (bytes.size() > kRoom) return stream_.WriteChecked(std::as_bytes(std::span(bytes)));
+      if (bytes.size() > kCapacity) return stream_.WriteChecked(std::as_bytes(std::span(bytes)));
     }
     std::memcpy(buffer_.get() + used_, bytes.data(), bytes.size());
     used_ += bytes.size();
@@ -65,8 +62,8 @@ class TextSink {
  public:
   void Ascii(std::string_view bytes) { text_.append(bytes.begin(), bytes.end()); }
   void Blanks(std::size_t count) { text_.append(count, u' '); }
-  void Page(const TXMLItem& item, std::string_view bytes) {
-    if (!bytes.empty()) ItemAccess::Page(item).AppendWidened(text_, bytes);
+  void Content(const ItemStore& item, std::string_view bytes) {
+    if (!bytes.empty()) item.Page().AppendWidened(text_, bytes);
   }
   void Wide(std::u16string_view text) { text_ += text; }
   std::u16string Take() { return std::move(text_); }
@@ -76,19 +73,44 @@ class TextSink {
 };
 
 template <class Sink>
+void WriteName(Sink& sink, const ItemStore& item) {
+  if (const auto* wide = item.WideName()) return sink.Wide(*wide);
+  sink.Content(item, item.NameBytes());
+}
+
+template <class Sink>
+void WriteList(Sink& sink, const StringList& list) {
+  for (std::size_t i = 0; i < list.Count(); ++i) {
+    sink.Wide(u" " + std::u16string(list.NameAt(i)) + u"=\"" + ECXMLParser::StrToXML(list.ValueAt(i)) +
+              u"\"");
+  }
+}
+
+// Name and attributes.
+template <class Sink>
+void WriteTag(Sink& sink, const ItemStore& item) {
+  const StringList* const list = item.AttributeList();
+  if (list == nullptr && item.WideName() == nullptr) return sink.Content(item, item.TagBytes());
+  WriteName(sink, item);
+  if (list != nullptr) return WriteList(sink, *list);
+  sink.Content(item, item.TagBytes().substr(item.NameBytes().size()));
+}
+
+template <class Sink>
 class Writer {
  public:
-  Writer(Sink& sink, TXMLItem& top, std::int32_t level)
-      : sink_(sink), top_(top), on_lines_(top.CrLfInAsString()), level_(level) {}
+  Writer(Sink& sink, bool on_one_line, const WriteOptions& options)
+      : sink_(sink), on_one_line_(on_one_line), level_(options.level) {}
 
-  void Run() {
-    Open(top_);
-    while (!way_.empty()) {
-      Place& place = way_.back();
-      const ChildList& children = ItemAccess::Children(*place.item);
-      if (place.next < children.Count()) {
-        TXMLItem* const child = children.At(place.next++);
-        child->SetCrLfInAsString(on_lines_);
+  // With a stack of its own: depth costs no stack of the thread.
+  void Write(ItemStore& top) {
+    Open(top);
+    while (!open_.empty()) {
+      Element& element = open_.back();
+      const ChildList& children = element.item->Children();
+      if (element.next < children.Count()) {
+        ItemStore* const child = children.At(element.next++);
+        child->SetOnOneLine(on_one_line_);
         Open(*child);
       } else {
         Close();
@@ -96,31 +118,9 @@ class Writer {
     }
   }
 
-  void Name(const TXMLItem& item) {
-    if (const auto* wide = ItemAccess::WideName(item)) {
-      sink_.Wide(*wide);
-    } else {
-      sink_.Page(item, ItemAccess::NameBytes(item));
-    }
-  }
-
-  void Body(const TXMLItem& item) {
-    const StringList* list = ItemAccess::ParamList(item);
-    if (list == nullptr && ItemAccess::WideName(item) == nullptr) {
-      return sink_.Page(item, ItemAccess::BodyBytes(item));
-    }
-    Name(item);
-    if (list == nullptr)
-      return sink_.Page(item, ItemAccess::BodyBytes(item).substr(ItemAccess::NameBytes(item).size()));
-    for (std::size_t i = 0; i < list->Count(); ++i) {
-      sink_.Wide(u" " + std::u16string(list->NameAt(i)) + u"=\"" + ECXMLParser::StrToXML(list->ValueAt(i)) +
-                 u"\"");
-    }
-  }
-
  private:
-  struct Place {
-    TXMLItem* item;
+  struct Element {
+    const ItemStore* item;
     std::uint32_t next;
   };
 
@@ -131,33 +131,32 @@ class Writer {
     if (blanks > 0) sink_.Blanks(static_cast<std::size_t>(blanks));
   }
   void EndLine() {
-    if (on_lines_) sink_.Ascii("\r\n");
+    if (!on_one_line_) sink_.Ascii("\r\n");
   }
-  [[nodiscard]] std::int64_t Step() const { return on_lines_ ? 2 : 0; }
+  [[nodiscard]] std::int64_t Step() const { return on_one_line_ ? 0 : 2; }
 
-  void Text(const TXMLItem& item) {
+  void Text(const ItemStore& item) {
     Indent(Step());
-    if (const auto* wide = ItemAccess::WideText(item)) {
+    if (const auto* wide = item.WideText()) {
       sink_.Wide(ECXMLParser::StrToXML(*wide));
     } else {
-      sink_.Page(item, ItemAccess::TextBytes(item));
+      sink_.Content(item, item.TextBytes());
     }
     EndLine();
   }
 
-  void Open(TXMLItem& item) {
+  void Open(const ItemStore& item) {
     Indent(0);
     sink_.Ascii("<");
-    Body(item);
-    const bool has_text = ItemAccess::HasText(item);
-    if (!has_text && item.SubItemCount() == 0) {
+    WriteTag(sink_, item);
+    if (!item.HasText() && item.Children().IsEmpty()) {
       sink_.Ascii("/>");
       return EndLine();
     }
     sink_.Ascii(">");
     EndLine();
-    if (has_text) Text(item);
-    way_.push_back({&item, 0});
+    if (item.HasText()) Text(item);
+    open_.push_back({&item, 0});
     level_ += Step();
   }
 
@@ -165,42 +164,36 @@ class Writer {
     level_ -= Step();
     Indent(0);
     sink_.Ascii("</");
-    Name(*way_.back().item);
+    WriteName(sink_, *open_.back().item);
     sink_.Ascii(">");
     EndLine();
-    way_.pop_back();
+    open_.pop_back();
   }
 
   Sink& sink_;
-  TXMLItem& top_;
-  // The flag of the topmost item becomes that of all.
-  bool on_lines_;
+  bool on_one_line_;
   std::int64_t level_;
-  std::vector<Place> way_;
+  std::vector<Element> open_;
 };
 
 }  // namespace
 
-void WriteItem(ByteStream& stream, TXMLItem& item, std::int32_t level) {
+void WriteItem(ByteStream& stream, ItemStore& item, const WriteOptions& options) {
   ByteSink sink(stream);
-  Writer<ByteSink>(sink, item, level).Run();
+  Writer<ByteSink>(sink, item.OnOneLine(), options).Write(item);
   sink.Flush();
 }
 
+std::u16string TextOfItem(ItemStore& item, const WriteOptions& options) {
+  TextSink sink;
+  Writer<TextSink>(sink, item.OnOneLine(), options).Write(item);
+  return sink.Take();
+}
+
+std::u16string TextOfTag(const ItemStore& item) {
+  TextSink sink;
+  WriteTag(sink, item);
+  return sink.Take();
+}
+
 }  // namespace ravo::xml
-
-namespace ravo::ECXMLParser {
-
-std::u16string TXMLItem::XMLItemAsString(std::int32_t Level) {
-  xml::TextSink sink;
-  xml::Writer<xml::TextSink>(sink, *this, Level).Run();
-  return sink.Take();
-}
-
-std::u16string TXMLItem::XMLItemName() const {
-  xml::TextSink sink;
-  xml::Writer<xml::TextSink>(sink, const_cast<TXMLItem&>(*this), 0).Body(*this);
-  return sink.Take();
-}
-
-}  // namespace ravo::ECXMLParser

@@ -5,7 +5,7 @@
 
 namespace ravo {
 
-/// A document that cannot be read as XML. The message ends with the number of the line.
+/// Thrown if a document cannot be read as XML. The message ends with the line number.
 class RAVO_API EParserError : public Error {
  public:
   using Error::Error;

@@ -23,7 +23,7 @@ const char* EndOfName(const char* at, const char* end) noexcept {
   return at;
 }
 
-// Tells names apart by a little of them: attributes that look alike go the careful way.
+// Compares a few bytes of names before all of them; a tag with too many attributes is no plain one.
 class NameKeys {
  public:
   [[nodiscard]] bool Add(const char* begin, const char* end) noexcept {
@@ -48,8 +48,8 @@ class NameKeys {
   std::size_t count_ = 0;
 };
 
-// Steps over `name="value"`; null where it is not just that.
-const char* StepOverAttribute(const char* at, const char* end, NameKeys& names) noexcept {
+// The end of `name="value"`; null if the text at `at` is anything else.
+const char* EndOfAttribute(const char* at, const char* end, NameKeys& names) noexcept {
   const char* const name = at;
   at = EndOfName(at, end);
   if (at == name || end - at < 4 || at[0] != '=' || at[1] != '"' || !names.Add(name, at)) return nullptr;
@@ -65,7 +65,7 @@ std::string_view NameOfTag(std::string_view tag) {
   return TrimmedBytes(end != std::string_view::npos ? tag.substr(0, end) : tag.substr(0, tag.size() - 1));
 }
 
-// What stands between the first blank and the end of the tag.
+// The part between the first blank and the end of the tag.
 std::string_view AttributesOfTag(std::string_view tag) {
   const std::size_t blank = tag.find(' ');
   if (blank == std::string_view::npos) return {};
@@ -121,7 +121,7 @@ std::string Folded(std::string_view name) {
   return folded;
 }
 
-// Lines that are read and set by their names; the first line of a name stands for all of them.
+// Lines that are read and set by name: the first line of a name that is left.
 class NamedLines {
  public:
   explicit NamedLines(std::vector<std::string> lines) : lines_(lines.begin(), lines.end()) {
@@ -154,7 +154,7 @@ class NamedLines {
     std::size_t gone = 0;
   };
 
-  // An empty value deletes the line, as lists of lines have it.
+  // An empty value deletes the line, as in `StringList`.
   void Store(const std::string& name, const std::string& value) {
     const auto found = by_name_.find(Folded(name));
     if (found == by_name_.end() || found->second.gone == found->second.places.size()) return;
@@ -180,22 +180,30 @@ bool TakePlainBody(std::string_view tag, TagBody& body) noexcept {
   const char* at = EndOfName(begin, end);
   if (at == begin) return false;
   body.name_size = static_cast<std::size_t>(at - begin);
-  const char* behind = at;
+  const char* end_of_body = at;
   NameKeys names;
   while (at != end) {
     if (*at++ != ' ') return false;
     if (at == end) break;
-    at = StepOverAttribute(at, end, names);
+    at = EndOfAttribute(at, end, names);
     if (at == nullptr) return false;
-    behind = at;
+    end_of_body = at;
   }
-  body.bytes = {begin, static_cast<std::size_t>(behind - begin)};
+  body.bytes = {begin, static_cast<std::size_t>(end_of_body - begin)};
   return true;
 }
 
 TagParts ReadTag(std::string_view tag) {
-  return {std::string(NameOfTag(tag)),
-          NamedLines(Lines(WithBreaksForBlanks(AttributesOfTag(tag)))).WithValues()};
+  std::string text(tag);
+  Normalise(text);
+  return {std::string(NameOfTag(text)),
+          NamedLines(Lines(WithBreaksForBlanks(AttributesOfTag(text)))).WithValues()};
+}
+
+StringList ListOf(const std::vector<std::string>& lines, const CodePage& page) {
+  StringList list;
+  for (const std::string& line : lines) list.Add(page.Widened(line));
+  return list;
 }
 
 bool AppendLines(std::string& body, const std::vector<std::string>& lines) {

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <ravo/runtime/string_list.h>
+#include <ravo/xml/code_page.h>
+
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -15,22 +18,26 @@ struct TagBody {
   std::size_t name_size = 0;
 };
 
-/// Takes the body out of a tag that stands in the document just as it would be written again; false for any
-/// other tag. Nothing is copied. `kReadAhead` bytes behind the tag must be readable.
+/// Sets `body` to the part of `tag` between its brackets, if the source has the tag just as it would be
+/// saved.
+///
+/// Returns false for any other tag. `kReadAhead` bytes after the tag must be readable. Copies nothing.
 [[nodiscard]] bool TakePlainBody(std::string_view tag, TagBody& body) noexcept;
 
-/// What a tag says, by the rules for tags of any form.
+/// Name and attributes of a tag in any form.
 struct TagParts {
   std::string name;
   /// Attributes as lines of the form name=value, unescaped.
   std::vector<std::string> lines;
 };
 
-/// `tag` is a token's text: from its "<" to its ">", without line breaks of two bytes and double blanks.
+/// Reads the bytes of a tag, "<" and ">" included, as they are in the source.
 [[nodiscard]] TagParts ReadTag(std::string_view tag);
 
-/// Appends the lines to a body that holds a name; false where a line has no "=" or breaks: only a list can
-/// hold it then.
+/// The lines as text of `page`.
+[[nodiscard]] StringList ListOf(const std::vector<std::string>& lines, const CodePage& page);
+
+/// Appends the lines to a body that holds a name; false if a line has no "=": only a list can hold it then.
 [[nodiscard]] bool AppendLines(std::string& body, const std::vector<std::string>& lines);
 
 /// An attribute of a body.
@@ -39,7 +46,7 @@ struct WrittenAttribute {
   std::string_view value;
 };
 
-/// Takes the first attribute off the front of what stands behind the name in a body.
+/// Removes the first attribute from `rest`, the part of a body after the name, and returns it.
 [[nodiscard]] WrittenAttribute TakeAttribute(std::string_view& rest) noexcept;
 
 }  // namespace ravo::xml

@@ -16,11 +16,11 @@ constexpr std::u16string_view kEmptyStream = u"The stream is empty";
 constexpr std::u16string_view kTagNotClosed = u"'>' expected";
 constexpr std::u16string_view kCDataNotClosed = u"']]>' expected";
 
-std::unique_ptr<char[]> NewBuffer(std::size_t room) {
-  return std::make_unique_for_overwrite<char[]>(room + xml::kReadAhead);
+std::unique_ptr<char[]> NewBuffer(std::size_t capacity) {
+  return std::make_unique_for_overwrite<char[]>(capacity + xml::kReadAhead);
 }
 
-// The byte behind the last line feed, looked for from the byte before the last one backwards.
+// The byte after the last line feed; a line feed at the very end does not count.
 char* LastLineStart(char* begin, char* end) {
   char* at = end - 1;
   while (at > begin && at[-1] != '\n') --at;
@@ -37,8 +37,8 @@ TXMLTokenizer::TXMLTokenizer(ByteStream& Stream, std::size_t BufferSize)
       FSourcePtr(FBuffer.get()),
       FSourceEnd(FBuffer.get()),
       FTokenPtr(FBuffer.get()),
-      line_room_(BufferSize),
-      room_(BufferSize) {
+      line_capacity_(BufferSize),
+      capacity_(BufferSize) {
   *FSourceEnd = 0;
 }
 
@@ -48,7 +48,7 @@ TXMLTokenizer::~TXMLTokenizer() {
   try {
     FStream.SetPosition(FStream.Position() - (FBufPtr - FTokenPtr));
   } catch (const std::exception&) {
-    // The stream failed before, and somebody has been told already.
+    // The stream failed before, and that error was reported.
     FTokenPtr = FBufPtr;
   }
 }
@@ -61,7 +61,7 @@ void TXMLTokenizer::MarkSourceEnd(char* end) {
 
 void TXMLTokenizer::Unmark() { *FSourceEnd = FSaveChar; }
 
-// Moves everything loaded from `from` on to the front of the buffer and takes the mark away.
+// Moves the loaded bytes from `from` on to the front of the buffer and removes the mark.
 void TXMLTokenizer::MoveToFront(char* from) {
   char* const begin = FBuffer.get();
   FOrigin = CheckedAdd(FOrigin, CheckedCast<std::int32_t>(from - begin));
@@ -71,12 +71,12 @@ void TXMLTokenizer::MoveToFront(char* from) {
   FTokenPtr = FSourcePtr = begin;
 }
 
-// A stream may give less than it is asked for; only its end stops the loop.
+// A stream may return fewer bytes than requested; only its end stops the loop.
 void TXMLTokenizer::ReadToEndOfBuffer() {
   try {
     while (FBufPtr != FBufEnd) {
-      const auto room = static_cast<std::size_t>(FBufEnd - FBufPtr);
-      const std::size_t count = FStream.Read(std::as_writable_bytes(std::span(FBufPtr, room)));
+      const auto space = static_cast<std::size_t>(FBufEnd - FBufPtr);
+      const std::size_t count = FStream.Read(std::as_writable_bytes(std::span(FBufPtr, space)));
       if (count == 0) return;
       FBufPtr += count;
     }
@@ -88,8 +88,8 @@ void TXMLTokenizer::ReadToEndOfBuffer() {
 
 void TXMLTokenizer::ReadBuffer() {
   MoveToFront(FSourcePtr);
-  // What a long tag left behind may be more than lines may fill.
-  FBufEnd = std::max(FBuffer.get() + line_room_, FBufPtr);
+  // The rest after a long tag may be more than the size for lines.
+  FBufEnd = std::max(FBuffer.get() + line_capacity_, FBufPtr);
   ReadToEndOfBuffer();
   const bool full = FBufPtr == FBufEnd;
   MarkSourceEnd(full ? LastLineStart(FBuffer.get(), FBufPtr) : FBufPtr);
@@ -140,11 +140,11 @@ bool TXMLTokenizer::TokenStarts(std::string_view lower_case) const {
 void TXMLTokenizer::ScanTag() {
   if (FTokenPtr[1] == '!' && TokenStarts(kCData)) return ScanCData();
   std::size_t done = 1;
-  for (bool ran_over = false;; ran_over = true) {
+  for (bool loaded_more = false;; loaded_more = true) {
     const auto loaded = static_cast<std::size_t>(FSourceEnd - FTokenPtr);
     auto* found = static_cast<char*>(std::memchr(FTokenPtr + done, '>', loaded - done));
     if (found != nullptr) {
-      EndTokenAt(found + 1, ran_over);
+      EndTokenAt(found + 1, loaded_more);
       break;
     }
     done = loaded;
@@ -169,63 +169,63 @@ std::uint8_t TXMLTokenizer::KindOfTag() const {
 // Kept: a CDATA section ends one byte after its first "]]", whatever that byte is; of "]]]>" the ">" is text.
 // Test: LoadFromStream.ThirdBracketOfCDataIsSkipped
 void TXMLTokenizer::ScanCData() {
-  constexpr std::size_t kBehindBrackets = 2;
+  constexpr std::size_t kAfterBrackets = 2;
   std::size_t done = kCData.size();
-  for (bool ran_over = false;; ran_over = true) {
+  for (bool loaded_more = false;; loaded_more = true) {
     const std::string_view loaded(FTokenPtr, static_cast<std::size_t>(FSourceEnd - FTokenPtr));
     const std::size_t found = loaded.find("]]", done);
-    if (found != std::string_view::npos && found + kBehindBrackets < loaded.size()) {
-      EndTokenAt(FTokenPtr + found + kBehindBrackets + 1, ran_over);
+    if (found != std::string_view::npos && found + kAfterBrackets < loaded.size()) {
+      EndTokenAt(FTokenPtr + found + kAfterBrackets + 1, loaded_more);
       break;
     }
-    done = std::max(done, loaded.size() - kBehindBrackets);
+    done = std::max(done, loaded.size() - kAfterBrackets);
     if (!LoadMore()) Error(kCDataNotClosed);
   }
   FToken = xtText;
 }
 
-// Where the token ran over the lines that were to be scanned, scanning goes on with a refill behind it.
-void TXMLTokenizer::EndTokenAt(char* end, bool ran_over) {
+// If the token needed more than the loaded lines, the buffer is refilled after it.
+void TXMLTokenizer::EndTokenAt(char* end, bool loaded_more) {
   FSourcePtr = end;
-  if (!ran_over) return;
+  if (!loaded_more) return;
   Unmark();
   MarkSourceEnd(end);
 }
 
-// Makes more of the document scannable behind what the current token has; false at the end of the document.
+// Loads more of the document after the current token; false at its end.
 bool TXMLTokenizer::LoadMore() {
-  const std::ptrdiff_t had = FSourceEnd - FTokenPtr;
+  const std::ptrdiff_t before = FSourceEnd - FTokenPtr;
   if (FSourceEnd != FBufPtr) {
     Unmark();
   } else {
-    MakeRoom();
-    FBufEnd = FBuffer.get() + room_;
+    MakeSpace();
+    FBufEnd = FBuffer.get() + capacity_;
     ReadToEndOfBuffer();
   }
   MarkSourceEnd(FBufPtr);
-  return FSourceEnd - FTokenPtr > had;
+  return FSourceEnd - FTokenPtr > before;
 }
 
-void TXMLTokenizer::MakeRoom() {
+void TXMLTokenizer::MakeSpace() {
   if (FTokenPtr != FBuffer.get()) {
     MoveToFront(FTokenPtr);
-  } else if (FBufPtr == FBuffer.get() + room_) {
+  } else if (FBufPtr == FBuffer.get() + capacity_) {
     GrowBuffer();
   } else {
     Unmark();
   }
 }
 
-// The current token fills the whole buffer.
+// Called if the current token fills the whole buffer.
 void TXMLTokenizer::GrowBuffer() {
-  const std::size_t doubled = std::max<std::size_t>(CheckedMultiply<std::size_t>(room_, 2), 64);
+  const std::size_t doubled = std::max<std::size_t>(CheckedMultiply<std::size_t>(capacity_, 2), 64);
   auto buffer = NewBuffer(doubled);
   Unmark();
-  std::memcpy(buffer.get(), FBuffer.get(), room_);
+  std::memcpy(buffer.get(), FBuffer.get(), capacity_);
   FBuffer = std::move(buffer);
   FTokenPtr = FSourcePtr = FBuffer.get();
-  FBufPtr = FBuffer.get() + room_;
-  room_ = doubled;
+  FBufPtr = FBuffer.get() + capacity_;
+  capacity_ = doubled;
 }
 
 // Kept: a document without a line feed is too long for the large tokenizer; the other one loads it. Test:

@@ -16,13 +16,13 @@ constexpr std::u16string_view kCharExpected = u"'%s' expected";
 constexpr std::u16string_view kSymbolExpected = u"%s expected";
 constexpr std::u16string_view kParseError = u"%s on line %d";
 
-// Untested: the scanner never finds a symbol, so no check gets this far.
+// Untested: no token is a symbol.
 bool IsLetter(char ch) {
   const char lower = xml::LowerByte(ch);
   return (lower >= 'a' && lower <= 'z') || ch == '_';
 }
 
-// Untested: the scanner never finds a symbol, so no check gets this far.
+// Untested: no token is a symbol.
 bool IsLetterOrDigit(char ch) { return IsLetter(ch) || (ch >= '0' && ch <= '9'); }
 
 std::u16string Widened(std::string_view bytes) { return platform::CurrentMachine().FromCodePage(bytes); }
@@ -46,14 +46,14 @@ Extended TXMLTokenizer::TokenFloat() const {
 }
 
 bool TXMLTokenizer::TokenSymbolIs(std::string_view S) const {
-  // Untested: the scanner never finds a symbol, so no check gets this far.
+  // Untested: no token is a symbol.
   return FToken == xtSymbol && SameAsciiText(Widened(TokenString()), Widened(S));
 }
 
 std::string TXMLTokenizer::TokenComponentIdent() {
   CheckToken(xtSymbol);
   char* at = FSourcePtr;
-  // Untested: the scanner never finds a symbol, so no check gets this far.
+  // Untested: no token is a symbol.
   while (*at == '.') {
     if (!IsLetter(*++at)) Error(kIdentifierExpected);
     while (IsLetterOrDigit(*at)) ++at;
@@ -72,7 +72,7 @@ void TXMLTokenizer::CheckToken(std::uint8_t T) const {
 }
 
 void TXMLTokenizer::CheckTokenSymbol(std::string_view S) const {
-  // Untested: the scanner never finds a symbol, so no check gets this far.
+  // Untested: no token is a symbol.
   if (TokenSymbolIs(S)) return;
   const std::array<MessageArgument, 1> symbol = {Widened(S)};
   ErrorFmt(kSymbolExpected, symbol);

@@ -16,7 +16,7 @@ using namespace ravo::xml;
 
 constexpr std::size_t kLongest = 50;
 
-// Bytes at the very end of what may be touched, with as much behind them as the loops may read.
+// Bytes at the end of readable memory, followed by just as many as the loops may read.
 class Room {
  public:
   explicit Room(const std::string& text) : bytes_(BytesOf(text + std::string(kReadAhead, '<'))) {}

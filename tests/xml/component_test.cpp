@@ -7,11 +7,11 @@
 
 #include <gtest/gtest.h>
 
-// Documents by the conventions of component interfaces.
+// Documents as component interfaces.
 namespace ravo::ECXMLParser {
 namespace {
 
-// As another package has it, which knows the number alone.
+// The identifier as another package writes it, which knows only its number.
 constexpr Guid kAsked{"{6388C6AB-6393-4AD2-A4AF-22E2BC3F97BF}"};
 constexpr Guid kUnknown{"{00000000-0000-0000-C000-000000000046}"};
 
@@ -75,7 +75,7 @@ TEST(Document, IsTheSameThroughItsInterfaceAndThatOfAGhost) {
   EXPECT_EQ(document.Root()->Name(), u"");
 }
 
-// The place of a virtual function, as the compilers of all targets write it in a pointer to a member.
+// The slot of a virtual function, as compilers of all targets store it in a pointer to a member.
 template <class Member>
 std::ptrdiff_t PlaceOf(Member member) {
   std::ptrdiff_t words[2] = {};

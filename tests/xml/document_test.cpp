@@ -21,7 +21,7 @@ void Load(IECXMLParser& parser, std::string_view text) {
   parser.LoadFromStream(stream);
 }
 
-// Writes down what happens to a document.
+// Records the events of a document.
 class Log {
  public:
   explicit Log(TECXMLParser& parser) : parser_(parser) {
@@ -326,7 +326,7 @@ TEST(Files, AreLoadedAndSaved) {
   EXPECT_EQ(FileText(folder, u"xsl"), std::string(kHead) + reference + body);
 }
 
-// More than the tokenizer's buffer holds, so that it is filled several times.
+// More than the tokenizer's buffer, which is refilled several times.
 TEST(Files, MayBePipes) {
   std::string text = std::string(kHead) + "<a>\n";
   for (int i = 0; i < 20'000; ++i) text += "<b/>\n";
@@ -347,7 +347,7 @@ TEST(Files, MayBePipesForTheLargeTokenizer) {
   EXPECT_EQ(parser.Root()->SubItemCount(), 1);
 }
 
-// The memory of a process has nothing at its beginning that could be read.
+// The first page of the memory of a process cannot be read.
 TEST(Files, ThatCannotBeReadAreNoEmptyDocuments) {
   constexpr std::u16string_view unreadable = u"/proc/self/mem";
   if (!std::filesystem::exists(unreadable))
@@ -361,7 +361,7 @@ TEST(Files, ThatCannotBeReadAreNoEmptyDocuments) {
   }
 }
 
-// A name without folder and extension is one of the current folder, and no style sheet.
+// A name without folder and extension is a file in the current folder, and not a style sheet.
 TEST(Files, MayHaveTheBarestNames) {
   const ScratchFolder folder;
   const std::filesystem::path before = std::filesystem::current_path();

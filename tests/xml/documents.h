@@ -6,7 +6,7 @@
 
 namespace ravo::test {
 
-/// Documents whose trees both ways of loading and the plain rules must make alike.
+/// Documents for which both ways of loading and the plain rules must build the same tree.
 inline const std::vector<std::string>& Documents() {
   using namespace std::string_view_literals;
   static const std::vector<std::string> documents = [] {

@@ -14,8 +14,8 @@
 
 #include <gtest/gtest.h>
 
-/// Buffers of the tokenizer, memory of the tree and texts of items, each before a page that must not be
-/// touched. Where a sanitizer watches them with its own means there is nothing to do.
+/// Buffers of the tokenizer, memory of the tree and texts of items, each just before an unreadable page. A
+/// sanitizer checks them by itself.
 namespace {
 
 using namespace ravo;
@@ -28,7 +28,7 @@ std::map<void*, std::unique_ptr<GuardedBuffer>>& Guarded() {
   return arrays;
 }
 
-// Every array that is made while this lives ends at such a page.
+// Every array that is allocated during its lifetime ends at such a page.
 class Guarding {
  public:
   Guarding() { guarding = true; }
@@ -99,7 +99,7 @@ TEST(GuardPages, AreNotTouchedByTheTree) {
     try {
       LoadRoot(parser, document);
     } catch (const EParserError&) {
-      // What was built is compared.
+      // The items built before the error are compared.
     }
     try {
       plain::Load(item, stream);

@@ -317,7 +317,7 @@ TEST(AsString, LoadsThroughTheCodePage) {
 }
 
 TEST(TXMLItem, ReadsTheCodePageOfTheTimeItWasLoaded) {
-  // Byte E8 means something else there, and bytes 80 and 81 are the same character.
+  // Byte E8 is another character there, and bytes 80 and 81 are the same one.
   FakeMachine other;
   other.code_page = 9999;
   other.other_bytes = {{'\xE8', u'\u03B8'}, {'\x81', u'\u20AC'}};
@@ -333,7 +333,7 @@ TEST(TXMLItem, ReadsTheCodePageOfTheTimeItWasLoaded) {
             "<?xml version=\"1.0\" encoding=\"\" ?>\r\n  <a x=\"\xE8\x80\">\r\n    \xE8\x80\r\n  </a>\r\n");
 }
 
-// The number of a code page tells little: what its bytes are decides.
+// Code pages are told apart by their bytes, not by their numbers.
 TEST(TXMLItem, ReadsAnotherCodePageOfTheSameNumber) {
   FakeMachine other;
   other.code_page = platform::CurrentMachine().CodePage();
@@ -346,7 +346,7 @@ TEST(TXMLItem, ReadsAnotherCodePageOfTheSameNumber) {
   EXPECT_EQ(parser.Root()->Text(), u"\u03B8");
 }
 
-// A code page of Eastern Asia in short: a byte from 81 on and the one behind it are a character.
+// A short East Asian code page: a lead byte from 81 on and its trailing byte are one character.
 class TwoByteMachine final : public FakeMachine {
  public:
   TwoByteMachine() { code_page = 932; }
@@ -414,13 +414,13 @@ TEST(TXMLItem, KeepsHalvesOfCharactersAsTheyReadAlone) {
   EXPECT_EQ(parser.Root()->Text(), u"b?\r\nd&amp;?");
 }
 
-// Tokens that leave the item they are loaded into go on in its parent.
+// Tokens that close the item they are loaded into continue in its parent.
 void LoadInto(TXMLItem& item, std::string_view text) {
   SplitStream stream(text);
   item.LoadFromStream(stream);
 }
 
-// What the code page lacks is there for the loader like anything else.
+// The loader also meets names, texts and attributes that the code page lacks.
 TEST(LoadFromStream, GoesOnInAParentWithWideNameTextOrParams) {
   TECXMLParser named;
   named.Root()->SetName(u"\u03B1");
@@ -437,7 +437,7 @@ TEST(LoadFromStream, GoesOnInAParentWithWideNameTextOrParams) {
   EXPECT_EQ(with_params.Root()->XMLItemName(), u"b y=\"2\"");
 }
 
-// Children that the caller added stay in front of those that are loaded, whatever room their list has.
+// Children that the caller added stay before those that are loaded, whatever the capacity of their list.
 TEST(LoadFromStream, GoesOnInAParentWithChildren) {
   for (std::size_t added = 1; added <= 9; ++added) {
     TECXMLParser parser;

@@ -8,7 +8,7 @@
 
 #include <gtest/gtest.h>
 
-// Sizes beyond what is common.
+// Uncommon sizes.
 namespace ravo::ECXMLParser {
 namespace {
 
@@ -20,7 +20,7 @@ TEST(Limits, AnItemDeepInATextIsIndentedByItsLevel) {
   EXPECT_EQ(text.find_first_not_of(u' '), 1000U);
 }
 
-// A long text is written whole; a line of that length is more than one that is read.
+// A long text is saved whole, as a line that is too long to load.
 TEST(Limits, ALongTextIsSaved) {
   TECXMLParser document;
   document.Root()->SetName(u"a");

@@ -2,15 +2,15 @@
 
 #include "xml_text.h"
 
-/// The tokenizer's rules over a document that is wholly in memory, step by step as they are told: a witness
-/// that shares no code with the scanner. `window` is the size of the buffer that the rules speak of.
+/// The tokenizer's rules, step by step, for a document in memory: a witness that shares no code with the
+/// tokenizer. `window` is the size of the buffer in those rules.
 namespace ravo::test {
 
 class PlainTokenizer {
  public:
   PlainTokenizer(std::string_view text, std::size_t window) : text_(text), window_(window) {}
 
-  /// Every token up to the end of the input; stops with `failed` where an error is raised.
+  /// Returns every token up to the end of the input; an error ends them and sets `failed`.
   std::vector<TokenRow> All() {
     std::vector<TokenRow> rows;
     while (!failed) {
@@ -27,7 +27,7 @@ class PlainTokenizer {
  private:
   char At(std::size_t i) const { return i < limit_ && i < text_.size() ? text_[i] : '\0'; }
 
-  // The whole lines that fit into the window from `at_` on may be scanned.
+  // The whole lines from `at_` on that fit into the window may be scanned.
   void Refill() {
     const std::size_t end = std::min(text_.size(), std::max(at_ + window_, loaded_));
     loaded_ = end;
@@ -105,7 +105,7 @@ class PlainTokenizer {
     return tag.starts_with("</") ? 11 : 10;
   }
 
-  // What a token has beyond the lines that may be scanned ends them.
+  // A token that is longer than the lines that may be scanned ends them.
   void Consume(std::size_t end) {
     if (end > limit_) {
       if (end > loaded_) {
@@ -159,7 +159,7 @@ class SmallTokenizer final : public ECXMLTokenizer::TXMLTokenizer {
   SmallTokenizer(ByteStream& stream, std::size_t size) : TXMLTokenizer(stream, size) { NextToken(); }
 };
 
-/// What both ways make of a document; a row of its own ends the tokens where an error was raised.
+/// Returns the tokens of a document both ways; an error is a last row of its own.
 inline const TokenRow kFailed = {-1, "failed", 0, 0};
 
 inline std::vector<TokenRow> SmallTokens(ByteStream& stream, std::size_t size) {

@@ -11,8 +11,7 @@
 #include <string_view>
 #include <vector>
 
-/// The rules of the tree over plain values of UTF-16, step by step as they are told: a witness for the tree
-/// that keeps bytes.
+/// The rules of the tree, step by step, for plain values of UTF-16: a witness for the tree that keeps bytes.
 namespace ravo::test::plain {
 
 inline std::u16string Escaped(std::u16string text) {
@@ -81,12 +80,12 @@ inline void SetAttributes(Item& item, std::u16string_view tag) {
     const std::u16string name(item.params.NameAt(i));
     const std::size_t set = item.params.IndexOfName(name).value_or(before);
     item.params.SetValue(name, AttributeValue(item.params.ValueAt(i)));
-    // A value that is empty deletes a line: this one, one before it or one behind it.
+    // An empty value deletes a line: this one, an earlier or a later one.
     if (item.params.Count() == before || set > i) ++i;
   }
 }
 
-/// Raises std::runtime_error where content stands outside of every element.
+/// Throws std::runtime_error for content outside of every element.
 inline void Load(Item& top, ByteStream& stream) {
   using namespace ECXMLTokenizer;
   TXMLTokenizer tokenizer(stream);

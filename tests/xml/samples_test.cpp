@@ -6,14 +6,14 @@
 
 #include <gmock/gmock.h>
 
-/// Documents of other programs: what they say is there after loading, and still there after saving.
+/// Documents of other programs: their content is there after loading and after saving.
 namespace {
 
 using namespace ravo;
 using namespace ravo::ECXMLParser;
 using namespace ravo::test;
 
-// The elements were counted by a strict reader.
+// The elements were counted by a strict parser.
 struct Sample {
   const char16_t* file;
   const char16_t* encoding;
@@ -35,7 +35,7 @@ std::int32_t CountBelow(const TXMLItem& item) {
   return count;
 }
 
-// The item that a path of names leads to; the first of each name.
+// The item at a path of names, the first of each name.
 TXMLItem* At(TXMLItem* item, std::initializer_list<std::u16string_view> path) {
   for (const std::u16string_view name : path) {
     const std::int32_t index = item->IndexOfName(name, 0);
@@ -48,7 +48,7 @@ TXMLItem* At(TXMLItem* item, std::initializer_list<std::u16string_view> path) {
   return item;
 }
 
-// A text of the tree as the bytes that the document had.
+// A text of the tree as the bytes of the document.
 std::string Bytes(std::u16string_view text) { return platform::CurrentMachine().ToCodePage(text); }
 
 TEST(Samples, AreLoadedWhole) {

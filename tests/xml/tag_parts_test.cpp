@@ -15,7 +15,7 @@ TEST(ReadTag, TakesNameAndLines) {
   EXPECT_THAT(ReadTag("<a >").lines, IsEmpty());
 }
 
-// A tag that goes on behind its first ">" has its attributes before it.
+// A tag that continues after its first ">" has attributes only before it.
 TEST(ReadTag, EndsAtTheFirstGreaterThan) {
   EXPECT_THAT(ReadTag("<a b=\"1\"> c=\"2\">").lines, ElementsAre("b=1"));
   EXPECT_THAT(ReadTag("<a> b=\"1\">").lines, IsEmpty());

@@ -87,7 +87,7 @@ TEST(TXMLTokenizer, ReadsAlikeAtEverySplit) {
   }
 }
 
-// A line of tags and lines before the document bring each of its bytes to the edge of the buffer.
+// A line of tags and empty lines before the document move each of its bytes to the edge of the buffer.
 std::string AtEdge(std::string_view text, std::size_t before_edge, bool with_line_end) {
   std::string all(kWindow - before_edge, 'x');
   for (std::size_t i = 63; i < all.size(); i += 64) all[i] = '\n';
@@ -205,7 +205,7 @@ TEST(TXMLTokenizer, LineMustFitTheBuffer) {
   EXPECT_EQ(ErrorOf(std::string(kWindow, 'x')), "Line too long on line 1");
   EXPECT_EQ(ErrorOf("<a>" + std::string(kWindow - 3, 'x')), "Line too long on line 1");
   EXPECT_EQ(ErrorOf(std::string(kWindow - 1, 'x')), "nothing");
-  // The last byte of a full buffer is not looked at.
+  // The last byte of a full buffer does not count.
   EXPECT_EQ(ErrorOf(std::string(kWindow - 1, 'x') + "\n"), "Line too long on line 1");
   EXPECT_EQ(ErrorOf(std::string(kWindow - 2, 'x') + "\n\n"), "nothing");
 }
@@ -349,7 +349,7 @@ TEST(TXMLLargeTokenizer, ReadsAlikeAtEverySplit) {
   }
 }
 
-// A stream that fails in the middle.
+// A stream that fails in its middle.
 class FailingStream final : public ByteStream {
  public:
   [[nodiscard]] std::size_t Read(std::span<std::byte> to) override {

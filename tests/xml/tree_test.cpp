@@ -78,7 +78,7 @@ TEST(LoadFromTokenizer, ParamsAreThoseOfThePlainRules) {
     EXPECT_EQ(parser.Root()->Params().Text(), item.params.Text()) << document;
     EXPECT_EQ(parser.Root()->Name(), item.name) << document;
     EXPECT_EQ(parser.Root()->Text(), item.text) << document;
-    // Reading the list leaves what is written as it is.
+    // Reading the list does not change the saved text.
     EXPECT_EQ(parser.Root()->XMLItemAsString(0), plain::AsString(item, 0, true)) << document;
   }
 }
@@ -201,7 +201,7 @@ std::string ErrorOf(std::string_view text) {
 
 TEST(LoadFromStream, RaisesContentOutsideOfEveryElement) {
   EXPECT_EQ(ErrorOf("<a></a>\n</a>"), "Close tag without an open tag on line 2");
-  // Nothing is asked of the item that is not there.
+  // The last close tag needs no item above.
   EXPECT_EQ(ErrorOf("</a>"), "nothing");
   EXPECT_EQ(ErrorOf("</a></a>"), "Close tag without an open tag on line 1");
   EXPECT_EQ(ErrorOf("<a></a>\n\n<b/>"), "Content behind the end of the document on line 3");
@@ -303,13 +303,13 @@ TEST(Nesting, OfAMillionLevelsCostsNoStack) {
   parser.SetCrLfInAsString(false);
   const std::string text = DeepDocument(kDepth);
   LoadRoot(parser, text);
-  // Blanks before each tag are two at any depth without line breaks; the innermost element stands alone.
+  // Without line breaks two blanks precede each tag at any depth; the innermost tag is a stand-alone one.
   EXPECT_EQ(Saved(parser).size(), 36U + (kDepth - 1) * (5U + 6U) + 6U);
   EXPECT_EQ(parser.Root()->XMLItemAsString(0).size(), (kDepth - 1) * 7U + 4U);
   parser.Root()->SetParser(&other);
   EXPECT_EQ(parser.Root()->SubItems(0)->SubItems(0)->Parser(), &other);
   parser.Root()->SetParser(&parser);
-  // With something of its own below, each item is looked at.
+  // Items are freed one by one if one of them owns memory.
   parser.Root()->SubItems(0)->SubItems(0)->SetText(u"x");
   parser.Clear();
   EXPECT_EQ(parser.Root()->SubItemCount(), 0);
@@ -328,7 +328,7 @@ TEST(Nesting, OfAMillionNewItemsCostsNoStack) {
   int levels = 0;
   for (; at != &item; at = at->Parent()) levels += at->Parent()->IndexOf(at) == 0 ? 1 : 0;
   EXPECT_EQ(levels, kDepth);
-  // The innermost item stands alone.
+  // The innermost tag is a stand-alone one.
   EXPECT_EQ(item.XMLItemAsString(0).size(), kDepth * std::string_view("<></>").size() + 3U);
   item.Clear();
   EXPECT_EQ(item.SubItemCount(), 0);
@@ -336,13 +336,13 @@ TEST(Nesting, OfAMillionNewItemsCostsNoStack) {
 }
 
 TEST(Breadth, StaysLinear) {
-  // More than anybody writes, so that a look at each pair of them would never end.
+  // Comparing each pair of this many attributes would never end.
   constexpr int kAttributes = 200'000;
   std::string tag = "<a";
   for (int i = 0; i < kAttributes; ++i) tag += "\n n" + std::to_string(i) + "=\"" + std::to_string(i) + "\"";
   TECXMLParser parser;
   LoadRoot(parser, tag + "></a>");
-  // Between a line feed and a blank stands an empty line.
+  // The line between a line feed and a blank is empty.
   EXPECT_EQ(parser.Root()->Params().Count(), 2U * kAttributes - 1);
   EXPECT_EQ(parser.Root()->Params().Value(u"n199999"), u"199999");
   std::string texts = "<a>\n";

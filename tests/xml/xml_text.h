@@ -10,13 +10,12 @@
 #include <string_view>
 #include <vector>
 
-/// Documents of the tests as streams, and what is read of them as plain values.
+/// Documents of the tests as streams, and their tokens as plain values.
 namespace ravo::test {
 
 inline std::span<const std::byte> BytesOf(std::string_view text) { return std::as_bytes(std::span(text)); }
 
-/// A stream whose every read ends at the next of some places, and whose reads are checked against nothing
-/// more than what it has.
+/// A stream that returns at most `most` bytes a read and ends one read at the offset `first_most`.
 class SplitStream final : public ByteStream {
  public:
   explicit SplitStream(std::string_view bytes, std::size_t most = SIZE_MAX, std::size_t first_most = SIZE_MAX)
@@ -79,7 +78,7 @@ inline std::string Saved(ECXMLParser::TECXMLParser& parser, bool xsl = false) {
   return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
 }
 
-/// Loads the root, whatever the text begins with.
+/// Loads the root, without a look at the beginning of the text.
 inline void LoadRoot(ECXMLParser::TECXMLParser& parser, std::string_view text) {
   SplitStream stream(text);
   parser.Root()->LoadFromStream(stream);

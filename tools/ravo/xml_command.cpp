@@ -30,7 +30,7 @@ void Show(const XmlOptions& options, Outcome& outcome) {
   outcome.out = XmlTreeText(*parser.Root(), words, options.colour || ShowsColours(Channel::Out));
 }
 
-void AnswerNothing(const XmlOptions& options, Outcome& outcome) {
+void AnswerNoSuchPlace(const XmlOptions& options, Outcome& outcome) {
   outcome.err = "ravo: " + options.file + ": nothing stands at '" + options.path + "'\n";
   outcome.answer = Answer::No;
 }
@@ -39,14 +39,14 @@ void Get(const XmlOptions& options, Outcome& outcome) {
   TECXMLParser parser;
   const XmlWords words = LoadXmlFile(options.file, parser);
   const XmlPlace place = FindXmlPlace(*parser.Root(), words, options.path, false);
-  if (place.item == nullptr) return AnswerNothing(options, outcome);
+  if (place.item == nullptr) return AnswerNoSuchPlace(options, outcome);
   if (place.attribute.empty()) {
     outcome.out = words.Shown(ravo::ReplaceAll(place.item->Text(), u"\r\n", u"\n")) + "\n";
     return;
   }
   const ravo::StringList params = place.item->Params();
   const auto index = XmlAttribute(params, words, place.attribute);
-  if (!index) return AnswerNothing(options, outcome);
+  if (!index) return AnswerNoSuchPlace(options, outcome);
   outcome.out = OnOneLine(words.Shown(params.ValueAt(*index))) + "\n";
 }
 
@@ -69,7 +69,7 @@ void Set(const XmlOptions& options, Outcome& outcome) {
   const XmlWords words = LoadXmlFile(options.file, parser);
   const std::u16string value = words.Kept(options.value);
   const XmlPlace place = FindXmlPlace(*parser.Root(), words, options.path, true);
-  if (place.item == nullptr) return AnswerNothing(options, outcome);
+  if (place.item == nullptr) return AnswerNoSuchPlace(options, outcome);
   if (place.attribute.empty()) {
     place.item->SetText(value);
   } else {
@@ -114,7 +114,7 @@ void Tokens(const XmlOptions& options, Outcome& outcome) {
 
 using Work = void (*)(const XmlOptions&, Outcome&);
 
-// A file that cannot be read leaves nothing behind but the reason.
+// If a file cannot be read, the output is the reason alone.
 void Guarded(Work work, const XmlOptions& options, Outcome& outcome) {
   try {
     work(options, outcome);

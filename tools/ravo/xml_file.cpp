@@ -15,7 +15,7 @@
 namespace tool {
 namespace {
 
-// A file as a stream that shows how far it was read.
+// A file as a stream that shows its progress.
 class ShownFile final : public ravo::ByteStream {
  public:
   explicit ShownFile(const std::string& name)
@@ -23,9 +23,9 @@ class ShownFile final : public ravo::ByteStream {
     if (!file_) throw std::runtime_error("cannot be read");
   }
 
-  // Steps over the mark of UTF-8 that some programs begin a file with; false if there is none. The bytes that
-  // are no mark are kept: a pipe does not go back to them.
-  [[nodiscard]] bool StepOverMark() {
+  // Skips a byte-order mark of UTF-8. Returns false if the file has no mark; keeps its bytes then, since a
+  // pipe cannot seek back to them.
+  [[nodiscard]] bool SkipMark() {
     while (kept_.size() < kMark.size()) {
       char byte = 0;
       if (ReadOn(std::as_writable_bytes(std::span(&byte, 1))) == 0) break;
@@ -108,7 +108,7 @@ std::u16string XmlWords::Kept(const std::string& utf8) const {
 
 XmlWords LoadXmlFile(const std::string& name, ravo::ECXMLParser::TECXMLParser& parser) {
   return WithFile(name, [&](ShownFile& file) {
-    const bool marked = file.StepOverMark();
+    const bool marked = file.SkipMark();
     parser.Root()->LoadFromStream(file);
     return XmlWords(marked || ravo::SameAsciiText(parser.Encoding(), u"utf-8"));
   });

@@ -16,13 +16,13 @@ using ravo::ECXMLParser::TXMLItem;
   throw std::runtime_error("'" + path + "' is no path");
 }
 
-// A step of a path: a name and which of the elements of that name it means.
+// A step of a path: a name and the 1-based number among the elements of that name.
 struct Step {
   std::u16string name;
   std::int32_t number = 1;
 };
 
-// A name that a tag can hold, so that what is added can be read again.
+// Refuses a name that a saved tag could not hold.
 std::u16string NameOf(std::string_view text, const XmlWords& words, const std::string& path) {
   const bool fits = std::ranges::none_of(text, [](char ch) {
     return static_cast<unsigned char>(ch) <= 0x20 ||
@@ -43,7 +43,7 @@ Step StepOf(std::string_view text, const XmlWords& words, const std::string& pat
   return step;
 }
 
-// Compared as they are shown: in UTF-8 the code page knows no case of letters.
+// Compares names as they are shown: the code page cannot fold the case of bytes in UTF-8.
 bool SameName(std::u16string_view left, std::u16string_view right, const XmlWords& words) {
   return ravo::platform::CurrentMachine().SameText(ravo::FromUtf8(words.Shown(left)),
                                                    ravo::FromUtf8(words.Shown(right)));
@@ -55,14 +55,14 @@ TXMLItem* ChildOf(TXMLItem& item, const Step& step, const XmlWords& words, bool 
     TXMLItem* const child = item.SubItems(i);
     if (SameName(child->Name(), step.name, words) && ++found == step.number) return child;
   }
-  // Only the next one of its name can be added.
+  // Only the next element of its name can be added.
   if (!grow || found + 1 < step.number) return nullptr;
   TXMLItem* const added = item.New();
   added->SetName(step.name);
   return added;
 }
 
-// The root has the first name of a path, unless it has none at all.
+// The first step is the root, or a child of a root without a name.
 TXMLItem* First(TXMLItem& root, const Step& step, const XmlWords& words, bool grow) {
   if (root.Name().empty()) return ChildOf(root, step, words, grow);
   return step.number == 1 && SameName(step.name, root.Name(), words) ? &root : nullptr;

@@ -38,8 +38,8 @@ std::string ItemLine(const TXMLItem& item, const XmlWords& words, const Painter&
   return text.empty() ? line : line + ": " + text;
 }
 
-// What a terminal may take for a command: the control characters of ASCII, and the higher ones, which UTF-8
-// writes as C2 80 to C2 9F.
+// Characters that a terminal may take for a command: the control characters of ASCII, and U+0080 to U+009F,
+// in UTF-8 C2 80 to C2 9F.
 bool IsControl(const std::string& utf8, std::size_t at) {
   const auto byte = static_cast<unsigned char>(utf8[at]);
   if (byte < 0x20 || byte == 0x7F) return true;
@@ -59,24 +59,24 @@ std::string OnOneLine(std::string utf8) {
   return utf8;
 }
 
-// Depth costs no stack here either; indents end at a depth that nobody can read any more.
+// With a stack of its own, since documents may be deep; indents stop growing at kDeepest.
 std::string XmlTreeText(const TXMLItem& root, const XmlWords& words, bool colours) {
   constexpr std::size_t kDeepest = 50;
   const Painter painter(colours);
   std::string text;
-  std::vector<std::pair<const TXMLItem*, std::int32_t>> way = {{&root, -1}};
-  while (!way.empty()) {
-    auto& [item, next] = way.back();
+  std::vector<std::pair<const TXMLItem*, std::int32_t>> levels = {{&root, -1}};
+  while (!levels.empty()) {
+    auto& [item, next] = levels.back();
     if (next < 0) {
-      const std::size_t depth = std::min(way.size() - 1, kDeepest);
+      const std::size_t depth = std::min(levels.size() - 1, kDeepest);
       text += std::string(depth * 2, ' ') + ItemLine(*item, words, painter) + "\n";
       next = 0;
     }
     if (next == item->SubItemCount()) {
-      way.pop_back();
+      levels.pop_back();
     } else {
       const TXMLItem* const child = item->SubItems(next++);
-      way.emplace_back(child, -1);
+      levels.emplace_back(child, -1);
     }
   }
   return text;
