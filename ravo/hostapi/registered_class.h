@@ -11,7 +11,7 @@ namespace ravo {
 
 namespace platform {
 class Machine;
-}
+}  // namespace platform
 
 /// A class that this process itself offers, for as long as this object lives: the creators find it under its
 /// identifier. On Windows it is a class object of the platform's component runtime, offered to this process

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ravo/runtime/export.h>
+#include <ravo/platform/file_handle.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -8,16 +8,6 @@
 #include <span>
 #include <string>
 #include <string_view>
-
-namespace ravo {
-
-/// An open file of the operating system: a handle on Windows, a descriptor elsewhere.
-using FileHandle = std::intptr_t;
-
-/// What stands for no open file.
-inline constexpr FileHandle kNoFile = -1;
-
-}  // namespace ravo
 
 /// What the library asks of files and folders. A call of the system that fails is an answer here and raises
 /// nothing; a name with a zero in it names nothing.
@@ -42,7 +32,7 @@ enum class FilePurpose : std::uint8_t {
 enum class FolderPart : std::uint8_t { Contents, Whole };
 
 /// The questions about files and folders.
-class RAVO_API FileSystem {
+class FileSystem {
  public:
   FileSystem() = default;
   FileSystem(const FileSystem&) = delete;

@@ -1,11 +1,12 @@
 #pragma once
 
 #include <ravo/platform/file_system.h>
+#include <ravo/platform/registry_root.h>
+#include <ravo/platform/text_size.h>
 #include <ravo/runtime/byte_stream.h>
 #include <ravo/runtime/component_factory.h>
 #include <ravo/runtime/date_time.h>
 #include <ravo/runtime/error.h>
-#include <ravo/runtime/export.h>
 #include <ravo/runtime/format_settings.h>
 
 #include <cstddef>
@@ -93,11 +94,8 @@ struct FileFacts {
   std::uint32_t attributes = 0;
 };
 
-/// The trees of the registry.
-enum class RegistryRoot : std::uint8_t { ClassesRoot, CurrentUser, LocalMachine, Users };
-
 /// A registry key opened for reading. It is closed when it goes.
-class RAVO_API RegistryKey {
+class RegistryKey {
  public:
   RegistryKey() = default;
   RegistryKey(const RegistryKey&) = delete;
@@ -121,7 +119,7 @@ class RAVO_API RegistryKey {
 };
 
 /// The version resource of a file.
-class RAVO_API VersionResource {
+class VersionResource {
  public:
   VersionResource() = default;
   VersionResource(const VersionResource&) = delete;
@@ -138,16 +136,6 @@ class RAVO_API VersionResource {
                                                              std::u16string_view key) const = 0;
 };
 
-/// A device that texts are drawn on, as the operating system names it.
-using DeviceContext = void*;
-
-/// In logical units of a device.
-struct TextSize {
-  std::int32_t width = 0;   ///< from left to right
-  std::int32_t height = 0;  ///< of a line
-  friend bool operator==(const TextSize&, const TextSize&) = default;
-};
-
 /// A loaded module of code or resources, as the operating system names it: an instance handle on Windows,
 /// what the dynamic loader gives elsewhere.
 using ModuleHandle = void*;
@@ -159,7 +147,7 @@ struct ComponentAnswer {
 };
 
 /// The questions. Tests put another machine in the place of the real one.
-class RAVO_API Machine {
+class Machine {
  public:
   Machine() = default;
   Machine(const Machine&) = delete;
@@ -283,13 +271,13 @@ class RAVO_API Machine {
 };
 
 /// The machine in force: the real one unless a test put another in its place.
-[[nodiscard]] RAVO_API const Machine& CurrentMachine() noexcept;
+[[nodiscard]] const Machine& CurrentMachine() noexcept;
 
 /// The real one. Implemented by `win32/` and `posix/`.
 [[nodiscard]] const Machine& RealMachine() noexcept;
 
 /// Puts a machine in force for as long as this object lives. For tests; not for several threads at once.
-class RAVO_API ScopedMachine {
+class ScopedMachine {
  public:
   /// `machine` must outlive this object.
   explicit ScopedMachine(const Machine& machine) noexcept;

@@ -1,5 +1,5 @@
 #include <ravo/runtime/text.h>
-#include <ravo/sysinfo/os_version.h>
+#include <ravo/sysinfo/os_version_of.h>
 
 namespace ravo::RavoInterfaceInfo {
 namespace {

@@ -2,6 +2,7 @@
 #include <ravo/platform/machine.h>
 #include <ravo/runtime/date_text.h>
 #include <ravo/sysinfo/captions.h>
+#include <ravo/sysinfo/os_version_of.h>
 #include <ravo/sysinfo/report_lines.h>
 #include <ravo/sysinfo/system_info.h>
 

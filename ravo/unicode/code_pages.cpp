@@ -4,7 +4,7 @@
 
 #include <utility>
 
-namespace ravo::unicode {
+namespace ravo {
 namespace {
 
 using DIUnicode::EncodingRow;
@@ -46,7 +46,7 @@ std::string ToCodePage(std::u16string_view text, std::uint32_t code_page) {
   return encoding != nullptr && encoding->write != nullptr ? Encode(*encoding, text) : std::string();
 }
 
-}  // namespace ravo::unicode
+}  // namespace ravo
 
 namespace ravo::DIUnicode {
 

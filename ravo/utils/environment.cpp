@@ -1,3 +1,4 @@
+#include <ravo/platform/machine.h>
 #include <ravo/utils/ansi_text.h>
 #include <ravo/utils/environment.h>
 #include <ravo/utils/strings/narrow.h>

@@ -1,4 +1,4 @@
-#include <ravo/sysinfo/os_version.h>
+#include <ravo/sysinfo/os_version_of.h>
 
 #include <string_view>
 

@@ -34,6 +34,8 @@ TEST(CodePages, AreKnownByTheirNumbers) {
     EXPECT_TRUE(writer.WriteStrA(row.bytes, row.code_page));
     EXPECT_EQ(writer.DataToStrW(), row.text) << row.code_page;
     EXPECT_EQ(writer.DataToStrA(row.code_page), row.bytes) << row.code_page;
+    EXPECT_EQ(FromCodePage(row.bytes, row.code_page), row.text) << row.code_page;
+    EXPECT_EQ(ToCodePage(row.text, row.code_page), row.bytes) << row.code_page;
   }
 }
 
