@@ -103,7 +103,7 @@ platform::ModuleHandle ExchangeResources(platform::ModuleHandle resources) {
 }
 
 void Unload(platform::ModuleHandle resources) noexcept {
-  if (resources) platform::CurrentMachine().UnloadResources(resources);
+  if (resources) platform::Resources().UnloadResources(resources);
 }
 
 }  // namespace
@@ -125,7 +125,7 @@ RavoModule* FindModule(const void* instance) noexcept {
 }
 
 bool AttachResourceModule(std::u16string_view file) {
-  const platform::ModuleHandle resources = platform::CurrentMachine().LoadResources(file);
+  const platform::ModuleHandle resources = platform::Resources().LoadResources(file);
   if (!resources) return false;
   Unload(ExchangeResources(resources));
   return true;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <ravo/package.h>
-#include <ravo/platform/machine.h>
+#include <ravo/platform/resources.h>
 
 #include <string_view>
 

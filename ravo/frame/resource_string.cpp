@@ -4,12 +4,12 @@
 namespace ravo {
 
 std::u16string_view ResourceString::View() const {
-  const platform::Machine& machine = platform::CurrentMachine();
   const auto [own, in_force] = frame::CurrentResourcePlaces();
+  const platform::ResourceCalls& resources = platform::Resources();
   if (in_force && in_force != own) {
-    if (const auto text = machine.ResourceText(in_force, id)) return *text;
+    if (const auto text = resources.ResourceText(in_force, id)) return *text;
   }
-  return machine.ResourceText(own, id).value_or(built_in);
+  return resources.ResourceText(own, id).value_or(built_in);
 }
 
 std::u16string PlainCaption(std::u16string_view caption) {

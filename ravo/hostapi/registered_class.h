@@ -10,7 +10,7 @@
 namespace ravo {
 
 namespace platform {
-class Machine;
+class ComponentCalls;
 }  // namespace platform
 
 /// A class that this process itself offers, for as long as this object lives: the creators find it under its
@@ -29,7 +29,7 @@ class RAVO_API RegisteredClass {
   ~RegisteredClass();
 
  private:
-  const platform::Machine& machine_;
+  const platform::ComponentCalls& runtime_;
   std::uint32_t registration_ = 0;
 };
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ravo/platform/file_system.h>
+#include <ravo/platform/file_handle.h>
 
 #include <cstddef>
 #include <cstdint>

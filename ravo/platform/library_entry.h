@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ravo/platform/machine.h>
+#include <ravo/platform/resources.h>
 
 /// What the operating system's entry points call when it maps and unmaps the shared library. The room that
 /// keeps the module record defines both.

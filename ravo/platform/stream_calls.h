@@ -1,7 +1,7 @@
 #pragma once
 
+#include <ravo/platform/file_handle.h>
 #include <ravo/platform/file_stream.h>
-#include <ravo/platform/file_system.h>
 
 #include <cstddef>
 #include <cstdint>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ravo/platform/machine.h>
+#include <ravo/platform/paths.h>
 
 #include <cstddef>
 #include <cstdint>

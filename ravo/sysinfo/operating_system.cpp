@@ -1,5 +1,6 @@
 #include <ravo/common/byte_size.h>
-#include <ravo/platform/machine.h>
+#include <ravo/platform/registry.h>
+#include <ravo/platform/system.h>
 #include <ravo/runtime/text.h>
 #include <ravo/sysinfo/captions.h>
 #include <ravo/sysinfo/registry_text.h>
@@ -9,7 +10,6 @@
 namespace ravo::RavoInterfaceInfo {
 namespace {
 
-using platform::CurrentMachine;
 using platform::RegistryRoot;
 
 std::u16string_view CurrentVersionPath(TOSVersion kind) {
@@ -23,7 +23,7 @@ constexpr std::u16string_view kServicePack6aPath =
     u"\\SOFTWARE\\Microsoft\\WindowsNT\\CurrentVersion\\Hotfix\\Q246009";
 
 bool HasServicePack6a() {
-  const auto key = CurrentMachine().OpenKey(RegistryRoot::LocalMachine, kServicePack6aPath);
+  const auto key = platform::Registry().OpenKey(RegistryRoot::LocalMachine, kServicePack6aPath);
   return key && key->Integer(u"Installed") == 1;
 }
 
@@ -56,8 +56,8 @@ std::u16string NumbersOf(const platform::SystemVersion& version) {
 }  // namespace
 
 void TRavoSystemInfo::AddOS(std::u16string_view Indent) {
-  const platform::SystemVersion version = CurrentMachine().BasicVersion();
-  const auto key = CurrentMachine().OpenKey(RegistryRoot::LocalMachine, CurrentVersionPath(OSVersion_));
+  const platform::SystemVersion version = platform::System().BasicVersion();
+  const auto key = platform::Registry().OpenKey(RegistryRoot::LocalMachine, CurrentVersionPath(OSVersion_));
   const ServicePack pack =
       key ? ServicePackOf(OSVersion_, version.service_pack) : ServicePack{version.service_pack, {}};
   const auto row = [&](std::u16string_view caption, std::u16string_view value) {

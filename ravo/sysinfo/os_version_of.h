@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ravo/platform/machine.h>
+#include <ravo/platform/system.h>
 #include <ravo/sysinfo/os_version.h>
 
 #include <cstdint>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ravo/platform/machine.h>
+#include <ravo/platform/registry.h>
 
 #include <memory>
 #include <string>

@@ -1,4 +1,4 @@
-#include <ravo/platform/machine.h>
+#include <ravo/platform/code_pages.h>
 #include <ravo/unicode/code_pages.h>
 #include <ravo/unicode/encodings.h>
 
@@ -30,18 +30,16 @@ std::string Encode(const EncodingRow& encoding, std::u16string_view text) {
 
 // The system's own conversion where it has one, then the encodings of the library.
 std::u16string FromCodePage(std::string_view bytes, std::uint32_t code_page) {
-  const platform::Machine& machine = platform::CurrentMachine();
-  if (code_page == kSystemCodePage) return machine.FromCodePage(bytes);
-  if (auto text = machine.DecodeCodePage(code_page, bytes)) return *std::move(text);
+  if (code_page == kSystemCodePage) return platform::CodePages().FromCodePage(bytes);
+  if (auto text = platform::CodePages().DecodeCodePage(code_page, bytes)) return *std::move(text);
   const EncodingRow* const encoding = DIUnicode::FindEncodingByCodePage(code_page);
   // Untested: every encoding with a code page can be read.
   return encoding != nullptr && encoding->read != nullptr ? Decode(*encoding, bytes) : std::u16string();
 }
 
 std::string ToCodePage(std::u16string_view text, std::uint32_t code_page) {
-  const platform::Machine& machine = platform::CurrentMachine();
-  if (code_page == kSystemCodePage) return machine.ToCodePage(text);
-  if (auto bytes = machine.EncodeCodePage(code_page, text)) return *std::move(bytes);
+  if (code_page == kSystemCodePage) return platform::CodePages().ToCodePage(text);
+  if (auto bytes = platform::CodePages().EncodeCodePage(code_page, text)) return *std::move(bytes);
   const EncodingRow* const encoding = DIUnicode::FindEncodingByCodePage(code_page);
   return encoding != nullptr && encoding->write != nullptr ? Encode(*encoding, text) : std::string();
 }
@@ -51,8 +49,8 @@ std::string ToCodePage(std::u16string_view text, std::uint32_t code_page) {
 namespace ravo::DIUnicode {
 
 std::uint32_t CodePageFromLocale(std::uint32_t Locale) {
-  const platform::Machine& machine = platform::CurrentMachine();
-  return machine.CodePageOfLocale(Locale).value_or(machine.CodePage());
+  const platform::CodePageCalls& code_pages = platform::CodePages();
+  return code_pages.CodePageOfLocale(Locale).value_or(code_pages.CodePage());
 }
 
 }  // namespace ravo::DIUnicode

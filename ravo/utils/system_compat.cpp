@@ -1,5 +1,6 @@
 #include <ravo/frame/units.h>
-#include <ravo/platform/machine.h>
+#include <ravo/platform/resources.h>
+#include <ravo/platform/system.h>
 #include <ravo/utils/system_compat.h>
 
 #include <utility>
@@ -21,14 +22,14 @@ const SystemRecord& RecordedSystem() noexcept { return record; }
 namespace ravo::frame {
 
 void StartDISystemCompat() noexcept {
-  const platform::SystemNumbers version = platform::CurrentMachine().VersionNumbers();
+  const platform::SystemNumbers version = platform::System().VersionNumbers();
   DISystemCompat::record = {static_cast<std::uint32_t>(version.family), version.major, version.minor};
 }
 
 void StopDISystemCompat() noexcept {
   const platform::ModuleHandle library = std::exchange(DISystemCompat::system_library, nullptr);
   // Untested: nothing in this library loads such a module.
-  if (library) platform::CurrentMachine().UnloadResources(library);
+  if (library) platform::Resources().UnloadResources(library);
 }
 
 }  // namespace ravo::frame

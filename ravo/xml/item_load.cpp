@@ -1,4 +1,4 @@
-#include <ravo/platform/machine.h>
+#include <ravo/platform/code_pages.h>
 #include <ravo/runtime/text.h>
 #include <ravo/xml/byte_scan.h>
 #include <ravo/xml/document.h>
@@ -36,10 +36,10 @@ void JoinReporting(TXMLItem& item, std::u16string_view text) {
 
 void TagReporting(TXMLItem& item, const std::string& tag) {
   const TagParts parts = ReadTag(tag);
-  const platform::Machine& machine = platform::CurrentMachine();
-  item.SetName(machine.FromCodePage(parts.name));
+  const platform::CodePageCalls& code_pages = platform::CodePages();
+  item.SetName(code_pages.FromCodePage(parts.name));
   StringList params;
-  for (const std::string& line : parts.lines) params.Add(machine.FromCodePage(line));
+  for (const std::string& line : parts.lines) params.Add(code_pages.FromCodePage(line));
   item.SetParams(params);
 }
 
@@ -49,7 +49,7 @@ TXMLItem* TakeReporting(TXMLItem* current, TXMLTokenizer& tokenizer) {
   const std::string token = tokenizer.TokenString();
   switch (tokenizer.Token()) {
     case xtText:
-      JoinReporting(*current, platform::CurrentMachine().FromCodePage(TextOfToken(token)));
+      JoinReporting(*current, platform::CodePages().FromCodePage(TextOfToken(token)));
       return current;
     case xtOpenTag:
       if (!Trimmed(current->Name()).empty()) current = current->New();
@@ -131,7 +131,7 @@ void LoadReporting(TXMLItem& top, TXMLTokenizer& tokenizer) {
   TXMLItem* current = &top;
   while (tokenizer.Token() != xtEndOfInput) {
     if (tokenizer.Token() == xtHeader) {
-      TakeHeader(top.Parser(), platform::CurrentMachine().FromCodePage(tokenizer.TokenString()));
+      TakeHeader(top.Parser(), platform::CodePages().FromCodePage(tokenizer.TokenString()));
     } else if (IsContent(tokenizer.Token())) {
       current = TakeReporting(current, tokenizer);
     }
@@ -158,7 +158,7 @@ void TXMLItem::LoadFromTokenizer(ECXMLTokenizer::TXMLTokenizer& Tokenizer) {
 }
 
 void TXMLItem::SetAsString(std::u16string_view Value) {
-  const std::string bytes = platform::CurrentMachine().ToCodePage(Value);
+  const std::string bytes = platform::CodePages().ToCodePage(Value);
   MemoryStream stream(std::as_bytes(std::span(bytes)));
   LoadFromStream(stream);
 }

@@ -2,7 +2,7 @@
 # <windows.h> too, with and without UNICODE, whose macros rename whatever is called like one of its functions.
 file(GLOB_RECURSE headers CONFIGURE_DEPENDS RELATIVE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/ravo/*.h)
 if(WIN32)
-  list(FILTER headers EXCLUDE REGEX "/platform/posix/")
+  list(FILTER headers EXCLUDE REGEX "/platform/(posix|linux)/")
 else()
   list(FILTER headers EXCLUDE REGEX "/platform/win32/")
 endif()

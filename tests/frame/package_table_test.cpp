@@ -197,9 +197,8 @@ TEST(Initialize, RecordsTheSystemAtTheFirstStartOnly) {
 TEST(Initialize, NeedsNoMemory) {
   test::FakeMachine machine;
   machine.version.service_pack = u"a text too long for a string without memory of its own";
-  for (const platform::Machine* asked :
-       {static_cast<const platform::Machine*>(&machine), &platform::RealMachine()}) {
-    const platform::ScopedMachine scoped(*asked);
+  for (const platform::Machine& asked : {platform::Machine(machine), platform::RealMachine()}) {
+    const platform::ScopedMachine scoped(asked);
     const std::size_t before = test::AllocationCount();
     Initialize();
     Finalize();

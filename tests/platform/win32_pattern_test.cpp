@@ -1,6 +1,6 @@
 #ifdef _WIN32
 
-#include <ravo/platform/machine.h>
+#include <ravo/platform/locale.h>
 #include <ravo/platform/windows_pattern.h>
 #include <ravo/runtime/date_text.h>
 
@@ -23,7 +23,7 @@ DateTime ValueOf(const SYSTEMTIME& time) {
 
 std::u16string OurText(const std::wstring& pattern, const SYSTEMTIME& time) {
   const std::u16string windows(pattern.begin(), pattern.end());
-  return FormatDateTime(FromWindowsPattern(windows), ValueOf(time), CurrentMachine().Locale());
+  return FormatDateTime(FromWindowsPattern(windows), ValueOf(time), Locale().Settings());
 }
 
 // What the system itself makes of its pattern; the user's own pattern where that is null.
@@ -55,7 +55,7 @@ TEST(Win32Pattern, TimesReadAsTheSystemWritesThem) {
 }
 
 TEST(Win32Pattern, TheLocaleReadsAsTheSystemWritesIt) {
-  const FormatSettings settings = CurrentMachine().Locale();
+  const FormatSettings settings = Locale().Settings();
   for (const SYSTEMTIME& time : kTimes) {
     EXPECT_EQ(FormatDateTime(settings.short_date, ValueOf(time), settings),
               TheirText(GetDateFormatW, time, nullptr));

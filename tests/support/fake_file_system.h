@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ravo/platform/file_system.h>
+#include <ravo/platform/files.h>
 
 #include <algorithm>
 #include <string>
@@ -10,7 +10,7 @@ namespace ravo::test {
 
 /// A file system whose calls fail where a test says so: for failures that no real one gives on demand. It has
 /// no folders, and one file for whoever opens any name.
-class FakeFileSystem final : public platform::FileSystem {
+class FakeFileSystem final : public platform::FileCalls {
  public:
   bool opens = true;
   bool closes = true;

@@ -1,4 +1,4 @@
-#include <ravo/platform/file_system.h>
+#include <ravo/platform/files.h>
 #include <ravo/platform/posix/attributes.h>
 
 #include <string_view>

@@ -105,7 +105,7 @@ void SetTimeFacts(FormatSettings& settings, const NamedLocale& locale) {
 
 }  // namespace
 
-FormatSettings PosixMachine::Locale() const {
+FormatSettings PosixLocale::Settings() const {
   FormatSettings settings;
   const NamedLocale environment("");
   if (!environment) return settings;

@@ -54,7 +54,7 @@ std::string NormalizedPath(std::string_view path) {
   return result.empty() || is_folder ? result + "/" : result;
 }
 
-std::u16string PosixMachine::FullPath(std::u16string_view name) const {
+std::u16string PosixPaths::FullPath(std::u16string_view name) const {
   const auto path = HostPath(name, root_);
   if (!path || path->empty()) return {};
   if (path->starts_with('/')) return FromUtf8(NormalizedPath(*path));

@@ -53,7 +53,7 @@ std::string FolderUnder(std::int32_t number) {
 
 }  // namespace
 
-std::u16string PosixMachine::ShellFolder(std::int32_t number) const {
+std::u16string PosixFolders::ShellFolder(std::int32_t number) const {
   switch (number) {
     case kWindows:
       return Folder(SystemFolder::Windows);

@@ -1,8 +1,9 @@
 #pragma once
 
-#include <ravo/platform/machine.h>
+#include <ravo/platform/system.h>
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 namespace ravo::platform::posix {
@@ -13,5 +14,8 @@ namespace ravo::platform::posix {
 
 /// The architecture that a kernel's machine name stands for; 0xFFFF for one without a number.
 [[nodiscard]] std::uint16_t ArchitectureFromMachineName(std::string_view name);
+
+/// Returns the computer's name; empty if the system does not tell.
+[[nodiscard]] std::u16string HostName();
 
 }  // namespace ravo::platform::posix

@@ -16,7 +16,7 @@ DateTime LocalDateTime(const FILETIME& written) {
 
 }  // namespace
 
-std::u16string Win32Machine::FullPath(std::u16string_view name) const {
+std::u16string Win32Paths::FullPath(std::u16string_view name) const {
   const std::wstring wide_name = ToWide(name);
   std::wstring path(MAX_PATH, L'\0');
   for (;;) {
@@ -28,7 +28,7 @@ std::u16string Win32Machine::FullPath(std::u16string_view name) const {
   }
 }
 
-std::optional<FileFacts> Win32Machine::FindFile(std::u16string_view name) const {
+std::optional<FileFacts> Win32Paths::FindFile(std::u16string_view name) const {
   WIN32_FIND_DATAW data{};
   const auto pattern = SystemName(name);
   const HANDLE search = pattern ? FindFirstFileW(pattern->c_str(), &data) : INVALID_HANDLE_VALUE;

@@ -33,7 +33,7 @@ void ReadDayAndMonthNames(FormatSettings& settings) {
 
 }  // namespace
 
-FormatSettings Win32Machine::Locale() const {
+FormatSettings Win32Locale::Settings() const {
   FormatSettings settings;
   const std::u16string decimal = Fact(LOCALE_SDECIMAL);
   if (!decimal.empty()) settings.decimal_separator = decimal.front();
@@ -46,7 +46,7 @@ FormatSettings Win32Machine::Locale() const {
   return settings;
 }
 
-bool Win32Machine::SameText(std::u16string_view left, std::u16string_view right) const {
+bool Win32Locale::SameText(std::u16string_view left, std::u16string_view right) const {
   const auto wide = [](std::u16string_view text) { return reinterpret_cast<const wchar_t*>(text.data()); };
   return CompareStringW(LOCALE_USER_DEFAULT, NORM_IGNORECASE, wide(left), CheckedCast<int>(left.size()),
                         wide(right), CheckedCast<int>(right.size())) == CSTR_EQUAL;

@@ -88,7 +88,7 @@ HKEY RootKey(RegistryRoot root) {
 
 }  // namespace
 
-std::unique_ptr<RegistryKey> Win32Machine::OpenKey(RegistryRoot root, std::u16string_view path) const {
+std::unique_ptr<RegistryKey> Win32Registry::OpenKey(RegistryRoot root, std::u16string_view path) const {
   if (path.starts_with(u'\\')) path.remove_prefix(1);
   HKEY key = nullptr;
   if (RegOpenKeyExW(RootKey(root), ToWide(path).c_str(), 0, KEY_READ, &key) != ERROR_SUCCESS) return nullptr;

@@ -5,7 +5,7 @@
 
 namespace ravo::platform {
 
-std::optional<std::u16string_view> Win32Machine::ResourceText(ModuleHandle module, std::uint16_t id) const {
+std::optional<std::u16string_view> Win32Resources::ResourceText(ModuleHandle module, std::uint16_t id) const {
   // To the system null is the running program.
   if (!module) return std::nullopt;
   const char16_t* text = nullptr;
@@ -15,7 +15,7 @@ std::optional<std::u16string_view> Win32Machine::ResourceText(ModuleHandle modul
   return std::u16string_view(text, static_cast<std::size_t>(units));
 }
 
-ModuleHandle Win32Machine::LoadResources(std::u16string_view file) const {
+ModuleHandle Win32Resources::LoadResources(std::u16string_view file) const {
   const std::wstring name = ToWide(file);
   const DWORD flags = LOAD_LIBRARY_AS_DATAFILE | LOAD_LIBRARY_AS_IMAGE_RESOURCE;
   if (const HMODULE module = LoadLibraryExW(name.c_str(), nullptr, flags)) return module;
@@ -23,7 +23,7 @@ ModuleHandle Win32Machine::LoadResources(std::u16string_view file) const {
   return LoadLibraryExW(name.c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE);
 }
 
-void Win32Machine::UnloadResources(ModuleHandle module) const {
+void Win32Resources::UnloadResources(ModuleHandle module) const {
   if (module) FreeLibrary(static_cast<HMODULE>(module));
 }
 

@@ -69,7 +69,7 @@ std::uint32_t Clamped(SIZE_T bytes) {
 
 }  // namespace
 
-SystemVersion Win32Machine::Version() const {
+SystemVersion Win32System::Version() const {
   OSVERSIONINFOEXW info;
   if (!Fill(info)) return {};
   SystemVersion version = RecordOf(info);
@@ -78,25 +78,25 @@ SystemVersion Win32Machine::Version() const {
   return version;
 }
 
-SystemVersion Win32Machine::BasicVersion() const {
+SystemVersion Win32System::BasicVersion() const {
   OSVERSIONINFOW info;
   return Fill(info) ? RecordOf(info) : SystemVersion();
 }
 
-SystemNumbers Win32Machine::VersionNumbers() const noexcept {
+SystemNumbers Win32System::VersionNumbers() const noexcept {
   OSVERSIONINFOW info;
   return Fill(info) ? NumbersOf(info) : SystemNumbers();
 }
 
-bool Win32Machine::IsServerR2() const { return GetSystemMetrics(SM_SERVERR2) != 0; }
+bool Win32System::IsServerR2() const { return GetSystemMetrics(SM_SERVERR2) != 0; }
 
-std::uint16_t Win32Machine::ProcessorArchitecture() const {
+std::uint16_t Win32System::ProcessorArchitecture() const {
   SYSTEM_INFO info{};
   GetSystemInfo(&info);
   return info.wProcessorArchitecture;
 }
 
-std::u16string Win32Machine::Folder(SystemFolder folder) const {
+std::u16string Win32Folders::Folder(SystemFolder folder) const {
   switch (folder) {
     case SystemFolder::System:
       return Filled(GetSystemDirectoryW);
@@ -110,7 +110,7 @@ std::u16string Win32Machine::Folder(SystemFolder folder) const {
   return {};
 }
 
-std::u16string Win32Machine::ShellFolder(std::int32_t number) const {
+std::u16string Win32Folders::ShellFolder(std::int32_t number) const {
   LPITEMIDLIST list = nullptr;
   if (FAILED(SHGetSpecialFolderLocation(nullptr, number, &list))) return {};
   std::u16string path =
@@ -120,11 +120,11 @@ std::u16string Win32Machine::ShellFolder(std::int32_t number) const {
   return path;
 }
 
-std::u16string Win32Machine::ComputerName() const { return FilledOnSuccess(GetComputerNameW); }
+std::u16string Win32System::ComputerName() const { return FilledOnSuccess(GetComputerNameW); }
 
-std::u16string Win32Machine::UserName() const { return FilledOnSuccess(GetUserNameW); }
+std::u16string Win32System::UserName() const { return FilledOnSuccess(GetUserNameW); }
 
-MemoryFigures Win32Machine::Memory() const {
+MemoryFigures Win32System::Memory() const {
   MEMORYSTATUS status{};
   status.dwLength = sizeof status;
   GlobalMemoryStatus(&status);

@@ -5,7 +5,7 @@
 
 namespace ravo::platform {
 
-std::optional<TextSize> Win32Machine::TextExtent(DeviceContext device, std::u16string_view text) const {
+std::optional<TextSize> Win32System::TextExtent(DeviceContext device, std::u16string_view text) const {
   SIZE size{};
   const auto* units = reinterpret_cast<const wchar_t*>(text.data());
   if (!GetTextExtentPoint32W(static_cast<HDC>(device), units, CheckedCast<int>(text.size()), &size))

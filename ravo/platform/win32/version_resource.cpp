@@ -57,7 +57,7 @@ class Win32VersionResource final : public VersionResource {
 
 }  // namespace
 
-std::unique_ptr<VersionResource> Win32Machine::OpenVersionResource(std::u16string_view name) const {
+std::unique_ptr<VersionResource> Win32Paths::OpenVersionResource(std::u16string_view name) const {
   const std::wstring file = ToWide(name);
   DWORD ignored = 0;
   const DWORD size = GetFileVersionInfoSizeW(file.c_str(), &ignored);

@@ -1,5 +1,5 @@
 #include "support/scratch_folder.h"
-#include <ravo/platform/machine.h>
+#include <ravo/platform/files.h>
 #include <ravo/runtime/text.h>
 
 #include <filesystem>
@@ -54,7 +54,7 @@ TEST(DeleteFolder, LeavesWhatTheSystemRefusesAndDeletesTheRest) {
     Fill(scratch);
     {
       const WithoutPowers powers;
-      EXPECT_FALSE(CurrentMachine().Files().DeleteFolder(Name(scratch.Path() / "tree"), part));
+      EXPECT_FALSE(Files().DeleteFolder(Name(scratch.Path() / "tree"), part));
     }
     EXPECT_TRUE(fs::exists(scratch.Path() / "tree/1/file"));
     if (part == FolderPart::Contents) {
@@ -69,8 +69,7 @@ TEST(DeleteFolder, TakesDelimitersAtTheEnd) {
   const test::ScratchFolder scratch;
   for (const std::u16string_view end : {u"", u"/", u"\\", u"//\\"}) {
     scratch.Write("tree/below/file", "");
-    EXPECT_TRUE(CurrentMachine().Files().DeleteFolder(Name(scratch.Path() / "tree") + std::u16string(end),
-                                                      FolderPart::Whole));
+    EXPECT_TRUE(Files().DeleteFolder(Name(scratch.Path() / "tree") + std::u16string(end), FolderPart::Whole));
     EXPECT_FALSE(fs::exists(scratch.Path() / "tree"));
   }
 }
@@ -84,8 +83,7 @@ TEST(DeleteFolder, IsFalseForWhatCannotBeLookedAt) {
   if (geteuid() != 0) fs::permissions(scratch.Path() / "closed", fs::perms::none);
   {
     const WithoutPowers powers;
-    EXPECT_FALSE(
-        CurrentMachine().Files().DeleteFolder(Name(scratch.Path() / "closed/tree"), FolderPart::Whole));
+    EXPECT_FALSE(Files().DeleteFolder(Name(scratch.Path() / "closed/tree"), FolderPart::Whole));
   }
   fs::permissions(scratch.Path() / "closed", fs::perms(0700));
   EXPECT_TRUE(fs::exists(scratch.Path() / "closed/tree/file"));

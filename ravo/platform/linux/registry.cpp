@@ -1,14 +1,19 @@
+#include <ravo/platform/linux/linux_machine.h>
+#include <ravo/platform/linux/registry.h>
 #include <ravo/platform/posix/host_file.h>
-#include <ravo/platform/posix/posix_machine.h>
-#include <ravo/platform/posix/registry.h>
 #include <ravo/platform/posix/shell_text.h>
 #include <ravo/platform/posix/user.h>
 #include <ravo/runtime/text.h>
 
 #include <sys/utsname.h>
 
-namespace ravo::platform::posix {
+namespace ravo::platform::gnu_linux {
 namespace {
+
+using posix::CurrentUser;
+using posix::ReadHostFile;
+using posix::ShellAssignment;
+using posix::TrimmedBytes;
 
 // One of the firmware's texts; empty where it is missing.
 std::string FirmwareText(const std::string& root, std::string_view name) {
@@ -54,7 +59,7 @@ std::vector<RegistryValue> SystemValues(const std::string& root, std::string_vie
   return {{u"Version", FromUtf8(SystemName(root))}, {u"RegisteredOwner", FromUtf8(owner)}};
 }
 
-std::unique_ptr<RegistryKey> PosixMachine::OpenKey(RegistryRoot root, std::u16string_view path) const {
+std::unique_ptr<RegistryKey> LinuxRegistry::OpenKey(RegistryRoot root, std::u16string_view path) const {
   if (root != RegistryRoot::LocalMachine) return nullptr;
   if (path.starts_with(u'\\')) path.remove_prefix(1);
   if (SameAsciiText(path, u"HARDWARE\\DESCRIPTION\\System")) {
@@ -68,4 +73,4 @@ std::unique_ptr<RegistryKey> PosixMachine::OpenKey(RegistryRoot root, std::u16st
   return nullptr;
 }
 
-}  // namespace ravo::platform::posix
+}  // namespace ravo::platform::gnu_linux

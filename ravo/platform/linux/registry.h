@@ -1,13 +1,13 @@
 #pragma once
 
-#include <ravo/platform/machine.h>
+#include <ravo/platform/registry.h>
 
 #include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
-namespace ravo::platform::posix {
+namespace ravo::platform::gnu_linux {
 
 enum class RegistryKind : std::uint8_t { Text, ManyTexts };
 
@@ -27,4 +27,4 @@ struct RegistryValue {
 /// What the system says of itself, by the files below `root`, and of whom it was set up for.
 [[nodiscard]] std::vector<RegistryValue> SystemValues(const std::string& root, std::string_view owner);
 
-}  // namespace ravo::platform::posix
+}  // namespace ravo::platform::gnu_linux

@@ -1,6 +1,6 @@
 #include <ravo/platform/library_entry.h>
+#include <ravo/platform/linux/linux_machine.h>
 #include <ravo/platform/posix/paths.h>
-#include <ravo/platform/posix/posix_machine.h>
 
 #include <atomic>
 
@@ -8,7 +8,7 @@
 #include <link.h>
 
 namespace ravo::platform {
-namespace posix {
+namespace gnu_linux {
 namespace {
 
 // The rows behind the exported C symbol "RavoResourceTexts" of a module of resources, up to one without text.
@@ -32,7 +32,7 @@ const ResourceRow* TableOf(ModuleHandle module) {
 
 }  // namespace
 
-std::optional<std::u16string_view> PosixMachine::ResourceText(ModuleHandle module, std::uint16_t id) const {
+std::optional<std::u16string_view> LinuxResources::ResourceText(ModuleHandle module, std::uint16_t id) const {
   // Our own module carries no table, and its address is no handle that the loader could be asked about.
   if (!module || module == ThisModule()) return std::nullopt;
   for (const ResourceRow* row = TableOf(module); row && row->text; ++row) {
@@ -41,16 +41,16 @@ std::optional<std::u16string_view> PosixMachine::ResourceText(ModuleHandle modul
   return std::nullopt;
 }
 
-ModuleHandle PosixMachine::LoadResources(std::u16string_view file) const {
-  const auto path = HostPath(file, root_);
+ModuleHandle LinuxResources::LoadResources(std::u16string_view file) const {
+  const auto path = posix::HostPath(file);
   return path && !path->empty() ? dlopen(path->c_str(), RTLD_NOW | RTLD_LOCAL) : nullptr;
 }
 
-void PosixMachine::UnloadResources(ModuleHandle module) const {
+void LinuxResources::UnloadResources(ModuleHandle module) const {
   if (module && module != ThisModule()) dlclose(module);
 }
 
-}  // namespace posix
+}  // namespace gnu_linux
 
 namespace {
 

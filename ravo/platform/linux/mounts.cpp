@@ -1,4 +1,4 @@
-#include <ravo/platform/posix/drives.h>
+#include <ravo/platform/linux/mounts.h>
 #include <ravo/platform/posix/host_file.h>
 
 #include <algorithm>
@@ -6,8 +6,14 @@
 #include <cctype>
 #include <set>
 
-namespace ravo::platform::posix {
+namespace ravo::platform {
+namespace gnu_linux {
 namespace {
+
+using posix::Drive;
+using posix::ReadHostFile;
+using posix::TakeLine;
+using posix::TrimmedBytes;
 
 constexpr std::string_view kDevices = "/dev/";
 
@@ -63,6 +69,16 @@ Mount RootOf(std::span<const Mount> mounts) {
   return at == mounts.rend() ? Mount{"", "/", ""} : *at;
 }
 
+// A partition has no such mark of its own: its disk, the folder above it, has.
+bool IsMarkedRemovable(const std::string& root, std::string_view device) {
+  const std::string folder = root + "/sys/class/block/" + std::string(device);
+  for (const char* place : {"/removable", "/../removable"}) {
+    const auto mark = ReadHostFile(folder + place);
+    if (mark) return TrimmedBytes(*mark) == "1";
+  }
+  return false;
+}
+
 }  // namespace
 
 std::vector<Mount> ParseMounts(std::string_view table) {
@@ -97,4 +113,12 @@ std::vector<Drive> DrivesOf(std::span<const Mount> mounts, const IsRemovable& is
   return drives;
 }
 
-}  // namespace ravo::platform::posix
+}  // namespace gnu_linux
+
+std::vector<posix::Drive> posix::CurrentDrives(const std::string& root) {
+  const auto mounts = gnu_linux::ParseMounts(ReadHostFile(root + "/proc/self/mounts").value_or(""));
+  return gnu_linux::DrivesOf(
+      mounts, [&](std::string_view device) { return gnu_linux::IsMarkedRemovable(root, device); });
+}
+
+}  // namespace ravo::platform

@@ -1,10 +1,10 @@
 #include "support/scratch_folder.h"
-#include <ravo/platform/posix/posix_machine.h>
-#include <ravo/platform/posix/registry.h>
+#include <ravo/platform/linux/linux_machine.h>
+#include <ravo/platform/linux/registry.h>
 
 #include <gtest/gtest.h>
 
-namespace ravo::platform::posix {
+namespace ravo::platform::gnu_linux {
 namespace {
 
 constexpr std::u16string_view kHardware = u"\\HARDWARE\\DESCRIPTION\\System";
@@ -15,14 +15,14 @@ std::string TextOf(const std::optional<std::vector<std::byte>>& bytes) {
   return {reinterpret_cast<const char*>(bytes->data()), bytes->size()};
 }
 
-TEST(PosixMachineRegistry, TheFirmwareDescribesTheComputer) {
+TEST(LinuxMachineRegistry, TheFirmwareDescribesTheComputer) {
   const test::ScratchFolder folder;
   folder.Write("sys/class/dmi/id/sys_vendor", "Dell Inc.\n");
   folder.Write("sys/class/dmi/id/product_name", "OptiPlex 7000 \n");
   folder.Write("sys/class/dmi/id/bios_vendor", "AB\n");
   folder.Write("sys/class/dmi/id/bios_version", "1\n");
   folder.Write("sys/class/dmi/id/bios_date", "03/05/2024\n");
-  const auto key = PosixMachine(folder.Path().string()).OpenKey(RegistryRoot::LocalMachine, kHardware);
+  const auto key = LinuxRegistry(folder.Path().string()).OpenKey(RegistryRoot::LocalMachine, kHardware);
   ASSERT_TRUE(key);
   EXPECT_EQ(key->Text(u"identifier"), u"Dell Inc. OptiPlex 7000");
   EXPECT_EQ(key->Text(u"SystemBiosDate"), u"03/05/2024");
@@ -36,7 +36,7 @@ TEST(PosixMachineRegistry, TheFirmwareDescribesTheComputer) {
   EXPECT_EQ(key->Bytes(u"Other", 10), std::nullopt);
 }
 
-TEST(PosixMachineRegistry, WhatTheFirmwareDoesNotSayIsMissing) {
+TEST(LinuxMachineRegistry, WhatTheFirmwareDoesNotSayIsMissing) {
   const test::ScratchFolder folder;
   folder.Write("sys/class/dmi/id/product_name", "Box\n");
   folder.Write("sys/class/dmi/id/bios_version", " \n");
@@ -47,33 +47,33 @@ TEST(PosixMachineRegistry, WhatTheFirmwareDoesNotSayIsMissing) {
   EXPECT_EQ(key->Text(u"SystemBiosDate"), std::nullopt);
 }
 
-TEST(PosixMachineRegistry, WithoutFirmwareTheMachineNameIsLeft) {
+TEST(LinuxMachineRegistry, WithoutFirmwareTheMachineNameIsLeft) {
   const auto key = MakeKey(HardwareValues("/nowhere-at-all", "x86_64"));
   ASSERT_TRUE(key);
   EXPECT_EQ(key->Text(u"Identifier"), u"x86_64");
   EXPECT_FALSE(MakeKey(HardwareValues("/nowhere-at-all", "")));
 }
 
-TEST(PosixMachineRegistry, TheSystemNamesItself) {
+TEST(LinuxMachineRegistry, TheSystemNamesItself) {
   const test::ScratchFolder folder;
-  const PosixMachine machine(folder.Path().string());
+  const LinuxRegistry machine(folder.Path().string());
   folder.Write("usr/lib/os-release", "NAME=x\nPRETTY_NAME=\"Debian GNU/Linux 12\"\n");
   EXPECT_EQ(machine.OpenKey(RegistryRoot::LocalMachine, kSystem)->Text(u"Version"), u"Debian GNU/Linux 12");
   folder.Write("etc/os-release", "PRETTY_NAME='Účetní systém'\n");
   EXPECT_EQ(machine.OpenKey(RegistryRoot::LocalMachine, kSystem)->Text(u"version"), u"Účetní systém");
 }
 
-TEST(PosixMachineRegistry, BothKeysOfTheSystemAreTheSame) {
+TEST(LinuxMachineRegistry, BothKeysOfTheSystemAreTheSame) {
   const test::ScratchFolder folder;
   folder.Write("etc/os-release", "PRETTY_NAME=system\n");
-  const PosixMachine machine(folder.Path().string());
+  const LinuxRegistry machine(folder.Path().string());
   for (const std::u16string_view key : {u"SOFTWARE\\Microsoft\\Windows\\CurrentVersion",
                                         u"SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion"}) {
     EXPECT_EQ(machine.OpenKey(RegistryRoot::LocalMachine, key)->Text(u"Version"), u"system");
   }
 }
 
-TEST(PosixMachineRegistry, TheOwnerIsTheUser) {
+TEST(LinuxMachineRegistry, TheOwnerIsTheUser) {
   const auto key = MakeKey(SystemValues("/nowhere-at-all", "Jan Novák"));
   ASSERT_TRUE(key);
   EXPECT_EQ(key->Text(u"RegisteredOwner"), u"Jan Novák");
@@ -81,14 +81,14 @@ TEST(PosixMachineRegistry, TheOwnerIsTheUser) {
   EXPECT_FALSE(MakeKey(SystemValues("/nowhere-at-all", "")));
 }
 
-TEST(PosixMachineRegistry, KeysCompareWithoutCase) {
-  const PosixMachine machine;
+TEST(LinuxMachineRegistry, KeysCompareWithoutCase) {
+  const LinuxRegistry machine;
   EXPECT_TRUE(machine.OpenKey(RegistryRoot::LocalMachine, u"hardware\\description\\SYSTEM"));
   EXPECT_TRUE(machine.OpenKey(RegistryRoot::LocalMachine, kHardware));
 }
 
-TEST(PosixMachineRegistry, EverythingElseIsNone) {
-  const PosixMachine machine;
+TEST(LinuxMachineRegistry, EverythingElseIsNone) {
+  const LinuxRegistry machine;
   for (const std::u16string_view path :
        {u"", u"\\", u"SOFTWARE", u"\\SOFTWARE\\Microsoft\\WindowsNT\\CurrentVersion",
         u"\\\\HARDWARE\\DESCRIPTION\\System", u"HARDWARE/DESCRIPTION/System"}) {
@@ -101,4 +101,4 @@ TEST(PosixMachineRegistry, EverythingElseIsNone) {
 }
 
 }  // namespace
-}  // namespace ravo::platform::posix
+}  // namespace ravo::platform::gnu_linux

@@ -1,10 +1,10 @@
 #include "support/scratch_folder.h"
-#include <ravo/platform/posix/memory.h>
-#include <ravo/platform/posix/posix_machine.h>
+#include <ravo/platform/linux/linux_machine.h>
+#include <ravo/platform/linux/memory.h>
 
 #include <gtest/gtest.h>
 
-namespace ravo::platform::posix {
+namespace ravo::platform::gnu_linux {
 namespace {
 
 constexpr std::string_view kInfo =
@@ -47,22 +47,22 @@ TEST(MemoryFrom, MissingAndBrokenFieldsCountAsNothing) {
   }
 }
 
-TEST(PosixMachineMemory, ReadsBelowItsRoot) {
+TEST(LinuxMachineMemory, ReadsBelowItsRoot) {
   const test::ScratchFolder folder;
   folder.Write("proc/meminfo", kInfo);
   folder.Write("proc/self/status", kStatus);
-  const MemoryFigures figures = PosixMachine(folder.Path().string()).Memory();
+  const MemoryFigures figures = LinuxSystem(folder.Path().string()).Memory();
   EXPECT_EQ(figures.total_physical, 2048u * 1024);
   EXPECT_EQ(figures.available_page_file, 2000u * 1024);
-  EXPECT_EQ(PosixMachine((folder.Path() / "none").string()).Memory().total_physical, 0u);
+  EXPECT_EQ(LinuxSystem((folder.Path() / "none").string()).Memory().total_physical, 0u);
 }
 
-TEST(PosixMachineMemory, TheRealMachineHasSome) {
-  const MemoryFigures figures = PosixMachine().Memory();
+TEST(LinuxMachineMemory, TheRealMachineHasSome) {
+  const MemoryFigures figures = LinuxSystem().Memory();
   EXPECT_GT(figures.total_physical, 0u);
   EXPECT_GE(figures.total_physical, figures.available_physical);
   EXPECT_GT(figures.total_virtual, 0u);
 }
 
 }  // namespace
-}  // namespace ravo::platform::posix
+}  // namespace ravo::platform::gnu_linux

@@ -1,11 +1,11 @@
 #include <ravo/platform/library_entry.h>
-#include <ravo/platform/posix/posix_machine.h>
+#include <ravo/platform/linux/linux_machine.h>
 #include <ravo/runtime/text.h>
 
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 
-namespace ravo::platform::posix {
+namespace ravo::platform::gnu_linux {
 namespace {
 
 class Resources : public ::testing::Test {
@@ -14,7 +14,7 @@ class Resources : public ::testing::Test {
     return machine_.LoadResources(FromUtf8(file));
   }
 
-  const PosixMachine machine_;
+  const LinuxResources machine_;
 };
 
 TEST_F(Resources, TextsOfAModule) {
@@ -51,4 +51,4 @@ TEST_F(Resources, WhatCannotBeLoadedIsNull) {
 }
 
 }  // namespace
-}  // namespace ravo::platform::posix
+}  // namespace ravo::platform::gnu_linux

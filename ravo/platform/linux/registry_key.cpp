@@ -1,9 +1,9 @@
-#include <ravo/platform/posix/registry.h>
+#include <ravo/platform/linux/registry.h>
 #include <ravo/runtime/text.h>
 
 #include <algorithm>
 
-namespace ravo::platform::posix {
+namespace ravo::platform::gnu_linux {
 namespace {
 
 class HostKey final : public RegistryKey {
@@ -53,4 +53,4 @@ std::unique_ptr<RegistryKey> MakeKey(std::vector<RegistryValue> values) {
   return values.empty() ? nullptr : std::make_unique<HostKey>(std::move(values));
 }
 
-}  // namespace ravo::platform::posix
+}  // namespace ravo::platform::gnu_linux

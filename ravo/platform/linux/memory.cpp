@@ -1,6 +1,6 @@
+#include <ravo/platform/linux/linux_machine.h>
+#include <ravo/platform/linux/memory.h>
 #include <ravo/platform/posix/host_file.h>
-#include <ravo/platform/posix/memory.h>
-#include <ravo/platform/posix/posix_machine.h>
 
 #include <algorithm>
 #include <charconv>
@@ -8,8 +8,12 @@
 
 #include <sys/resource.h>
 
-namespace ravo::platform::posix {
+namespace ravo::platform::gnu_linux {
 namespace {
+
+using posix::ReadHostFile;
+using posix::TakeLine;
+using posix::TrimmedBytes;
 
 // What user space has of a 48-bit address space, and of a 32-bit one.
 constexpr std::uint64_t kUserSpace = sizeof(void*) == 8 ? std::uint64_t{1} << 47 : std::uint64_t{3} << 30;
@@ -58,9 +62,9 @@ MemoryFigures MemoryFrom(std::string_view meminfo, std::string_view status, std:
   return figures;
 }
 
-MemoryFigures PosixMachine::Memory() const {
+MemoryFigures LinuxSystem::Memory() const {
   return MemoryFrom(ReadHostFile(root_ + "/proc/meminfo").value_or(""),
                     ReadHostFile(root_ + "/proc/self/status").value_or(""), AddressSpace());
 }
 
-}  // namespace ravo::platform::posix
+}  // namespace ravo::platform::gnu_linux

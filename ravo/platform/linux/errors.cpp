@@ -1,4 +1,4 @@
-#include <ravo/platform/posix/posix_machine.h>
+#include <ravo/platform/linux/linux_machine.h>
 #include <ravo/runtime/text.h>
 
 #include <array>
@@ -6,9 +6,9 @@
 #include <cstring>
 #include <limits>
 
-namespace ravo::platform::posix {
+namespace ravo::platform::gnu_linux {
 
-std::u16string PosixMachine::ErrorText(std::uint32_t code) const {
+std::u16string LinuxDiagnostics::ErrorText(std::uint32_t code) const {
   constexpr std::uint32_t most = std::numeric_limits<int>::max();
   const int number = code <= most ? static_cast<int>(code) : 0;
   // The system has words even for codes that it does not know, but no name.
@@ -17,6 +17,6 @@ std::u16string PosixMachine::ErrorText(std::uint32_t code) const {
   return FromUtf8(strerror_r(number, buffer.data(), buffer.size()));
 }
 
-std::uint32_t PosixMachine::LastErrorCode() const noexcept { return static_cast<std::uint32_t>(errno); }
+std::uint32_t LinuxDiagnostics::LastErrorCode() const noexcept { return static_cast<std::uint32_t>(errno); }
 
-}  // namespace ravo::platform::posix
+}  // namespace ravo::platform::gnu_linux

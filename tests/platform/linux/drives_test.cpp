@@ -1,11 +1,15 @@
 #include "support/scratch_folder.h"
-#include <ravo/platform/posix/drives.h>
-#include <ravo/platform/posix/posix_machine.h>
+#include <ravo/platform/linux/linux_machine.h>
+#include <ravo/platform/linux/mounts.h>
 
 #include <gtest/gtest.h>
 
-namespace ravo::platform::posix {
+namespace ravo::platform::gnu_linux {
 namespace {
+
+using posix::Drive;
+using posix::DriveLetterOf;
+using posix::PosixDrives;
 
 // One text per drive: letter, kind, folder.
 std::vector<std::string> Summary(std::string_view table, std::string_view removable = {}) {
@@ -85,7 +89,7 @@ TEST(DriveLetterOf, IsALetterBeforeAColon) {
   }
 }
 
-TEST(PosixMachineDrives, ReadsBelowItsRoot) {
+TEST(LinuxMachineDrives, ReadsBelowItsRoot) {
   const test::ScratchFolder folder;
   folder.Write(
       "proc/self/mounts",
@@ -95,7 +99,7 @@ TEST(PosixMachineDrives, ReadsBelowItsRoot) {
   std::filesystem::create_directory_symlink(folder.Path() / "sys/class/block/sdb/sdb1",
                                             folder.Path() / "sys/class/block/sdb1");
   folder.Write("sys/class/block/sdc/removable", "0\n");
-  const PosixMachine machine(folder.Path().string());
+  const PosixDrives machine(folder.Path().string());
   EXPECT_EQ(machine.LogicalDrives(), 0b11100u);
   EXPECT_EQ(machine.KindOfDrive(u"C:"), DriveKind::Fixed);
   EXPECT_EQ(machine.KindOfDrive(u"d:\\"), DriveKind::Removable);
@@ -104,16 +108,16 @@ TEST(PosixMachineDrives, ReadsBelowItsRoot) {
   EXPECT_FALSE(machine.SpaceOfFolder(u"D:"));
 }
 
-TEST(PosixMachineDrives, OtherNamesHaveNoRoot) {
-  const PosixMachine machine;
+TEST(LinuxMachineDrives, OtherNamesHaveNoRoot) {
+  const PosixDrives machine;
   for (const std::u16string_view name : {u"A:", u"1:", u"", u"C", u"C:x", u"C:\\Windows"}) {
     EXPECT_EQ(machine.KindOfDrive(name), DriveKind::NoRoot);
     EXPECT_FALSE(machine.SpaceOfFolder(name));
   }
 }
 
-TEST(PosixMachineDrives, TheRootOfThisMachineHasSpace) {
-  const PosixMachine machine;
+TEST(LinuxMachineDrives, TheRootOfThisMachineHasSpace) {
+  const PosixDrives machine;
   EXPECT_TRUE(machine.LogicalDrives() & 0b100u);
   const auto space = machine.SpaceOfFolder(u"C:");
   ASSERT_TRUE(space);
@@ -124,4 +128,4 @@ TEST(PosixMachineDrives, TheRootOfThisMachineHasSpace) {
 }
 
 }  // namespace
-}  // namespace ravo::platform::posix
+}  // namespace ravo::platform::gnu_linux
