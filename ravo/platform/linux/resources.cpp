@@ -1,6 +1,7 @@
 #include <ravo/platform/library_entry.h>
 #include <ravo/platform/linux/linux_machine.h>
 #include <ravo/platform/posix/paths.h>
+#include <ravo/runtime/c_resource_text.h>
 
 #include <atomic>
 
@@ -11,14 +12,8 @@ namespace ravo::platform {
 namespace gnu_linux {
 namespace {
 
-// The rows behind the exported C symbol "RavoResourceTexts" of a module of resources, up to one without text.
-struct ResourceRow {
-  std::uint16_t id;
-  const char16_t* text;
-};
-
-// The module's own table: a look-up by handle also answers for what the module links to.
-const ResourceRow* TableOf(ModuleHandle module) {
+// Returns the module's own texts, or null: a look-up by handle also finds those of modules that it links to.
+const RavoResourceText* TextsOf(ModuleHandle module) {
   void* table = dlsym(module, "RavoResourceTexts");
   link_map* owner = nullptr;
   link_map* asked = nullptr;
@@ -27,16 +22,16 @@ const ResourceRow* TableOf(ModuleHandle module) {
   const bool is_known = table && dlinfo(module, RTLD_DI_LINKMAP, &asked) == 0 &&
                         dladdr1(table, &facts, reinterpret_cast<void**>(&owner), RTLD_DL_LINKMAP) != 0;
   // Untested: the call fails only if the system is broken.
-  return is_known && owner == asked ? static_cast<const ResourceRow*>(table) : nullptr;
+  return is_known && owner == asked ? static_cast<const RavoResourceText*>(table) : nullptr;
 }
 
 }  // namespace
 
 std::optional<std::u16string_view> LinuxResources::ResourceText(ModuleHandle module, std::uint16_t id) const {
-  // Our own module carries no table, and its address is no handle that the loader could be asked about.
+  // Our own module has no such table, and its address is no handle of the loader.
   if (!module || module == ThisModule()) return std::nullopt;
-  for (const ResourceRow* row = TableOf(module); row && row->text; ++row) {
-    if (row->id == id) return row->text;
+  for (const RavoResourceText* row = TextsOf(module); row && row->Text; ++row) {
+    if (row->Id == id) return reinterpret_cast<const char16_t*>(row->Text);
   }
   return std::nullopt;
 }
@@ -62,7 +57,7 @@ ModuleHandle AskedForThisModule() noexcept {
 
 }  // namespace
 
-// Each look-up of a text asks this; the loader, which locks, is asked until it has answered.
+// Each look-up of a text calls this. The loader takes a lock, so its answer is cached.
 ModuleHandle ThisModule() noexcept {
   constinit static std::atomic<ModuleHandle> known{nullptr};
   ModuleHandle module = known.load(std::memory_order_relaxed);
