@@ -1,3 +1,4 @@
+#include <ravo/frame/c_resource_string.h>
 #include <ravo/frame/module_record.h>
 #include <ravo/frame/resource_string.h>
 
@@ -19,3 +20,10 @@ std::u16string PlainCaption(std::u16string_view caption) {
 }
 
 }  // namespace ravo
+
+const uint16_t* RavoReadText(const RavoResourceString* string, int32_t* length) {
+  const ravo::ResourceString text{string->Id, reinterpret_cast<const char16_t*>(string->Text)};
+  const std::u16string_view view = text.View();
+  *length = static_cast<std::int32_t>(view.size());
+  return reinterpret_cast<const std::uint16_t*>(view.data());
+}

@@ -9,6 +9,10 @@
 namespace ravo::RavoInterfaceInfo {
 namespace {
 
+using sysinfo::AddHeading;
+using sysinfo::AddRow;
+using sysinfo::TextOf;
+
 constexpr std::size_t kMostBytes = 255;
 
 // One unit more than the bytes can fill, so that the last whole one is never without a zero behind it.

@@ -14,6 +14,16 @@
 namespace ravo::RavoInterfaceInfo {
 namespace {
 
+using sysinfo::AddHeading;
+using sysinfo::AddNestedRow;
+using sysinfo::AddRow;
+using sysinfo::AddSubHeading;
+using sysinfo::kBusinessFiles;
+using sysinfo::kReportFiles;
+using sysinfo::kVclFiles;
+using sysinfo::kVisualFiles;
+using sysinfo::TextOf;
+
 // The in-process server of the application layer.
 constexpr std::u16string_view kBusinessServerPath =
     u"CLSID\\{346EC041-56AD-470D-A74D-980AA7022656}\\InprocServer32";

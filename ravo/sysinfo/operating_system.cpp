@@ -3,12 +3,20 @@
 #include <ravo/platform/system.h>
 #include <ravo/runtime/text.h>
 #include <ravo/sysinfo/captions.h>
+#include <ravo/sysinfo/os_version_of.h>
 #include <ravo/sysinfo/registry_text.h>
 #include <ravo/sysinfo/report_lines.h>
 #include <ravo/sysinfo/system_info.h>
 
 namespace ravo::RavoInterfaceInfo {
 namespace {
+
+using sysinfo::AddHeading;
+using sysinfo::AddNestedRow;
+using sysinfo::AddRow;
+using sysinfo::AddSubHeading;
+using sysinfo::IsNt;
+using sysinfo::TextOf;
 
 using platform::RegistryRoot;
 

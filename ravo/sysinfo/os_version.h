@@ -26,7 +26,4 @@ enum TOSVersion : std::uint8_t {
   osW7
 };
 
-/// Whether a kind is one of the NT line.
-[[nodiscard]] bool IsNt(TOSVersion kind) noexcept;
-
 }  // namespace ravo::RavoInterfaceInfo

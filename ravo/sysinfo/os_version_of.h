@@ -5,11 +5,14 @@
 
 #include <cstdint>
 
-namespace ravo::RavoInterfaceInfo {
+namespace ravo::sysinfo {
 
 /// Returns the kind that a version record names; `osUnknown` for a system newer than the last kind, older
 /// than the first, or not Windows.
-[[nodiscard]] TOSVersion OSVersionOf(const platform::SystemVersion& version, bool is_server_r2,
-                                     std::uint16_t architecture);
+[[nodiscard]] RavoInterfaceInfo::TOSVersion OSVersionOf(const platform::SystemVersion& version,
+                                                        bool is_server_r2, std::uint16_t architecture);
 
-}  // namespace ravo::RavoInterfaceInfo
+/// Tells whether a kind is one of the NT line.
+[[nodiscard]] bool IsNt(RavoInterfaceInfo::TOSVersion kind) noexcept;
+
+}  // namespace ravo::sysinfo

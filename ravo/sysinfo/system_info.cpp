@@ -11,6 +11,12 @@
 
 namespace ravo::RavoInterfaceInfo {
 
+using sysinfo::AddHeading;
+using sysinfo::AddNestedRow;
+using sysinfo::AddRow;
+using sysinfo::AddSubHeading;
+using sysinfo::OSVersionOf;
+
 using platform::SystemFolder;
 using RavoInterfaceCommon::BytesToStr;
 

@@ -10,6 +10,8 @@ namespace {
 using platform::ProductType;
 using platform::SystemFamily;
 using platform::SystemVersion;
+using sysinfo::IsNt;
+using sysinfo::OSVersionOf;
 
 SystemVersion Record(SystemFamily family, std::uint32_t major, std::uint32_t minor) {
   SystemVersion version;

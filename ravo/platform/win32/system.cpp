@@ -1,5 +1,6 @@
 #include <ravo/platform/win32/wide.h>
 #include <ravo/platform/win32/win32_machine.h>
+#include <ravo/runtime/checked.h>
 
 #include <algorithm>
 #include <array>
@@ -36,7 +37,7 @@ ProductType ProductOf(BYTE product) {
   return product <= VER_NT_SERVER ? static_cast<ProductType>(product) : ProductType::Unknown;
 }
 
-// What both records have.
+// The fields of both records.
 template <class Info>
 SystemVersion RecordOf(const Info& info) {
   SystemVersion version;
@@ -46,7 +47,7 @@ SystemVersion RecordOf(const Info& info) {
   return version;
 }
 
-// Fills the buffer by a call that answers the length, or with a buffer too small the size that it needs.
+// Fills the buffer by a call that returns the length, or the size needed if the buffer is too small.
 template <typename Call>
 std::u16string Filled(Call call) {
   Buffer buffer;
@@ -54,7 +55,7 @@ std::u16string Filled(Call call) {
   return length < kBufferUnits ? FromWide({buffer.data(), length}) : std::u16string();
 }
 
-// Fills the buffer by a call that takes its size and answers success.
+// Fills the buffer by a call that takes its size and returns success.
 template <typename Call>
 std::u16string FilledOnSuccess(Call call) {
   Buffer buffer;
@@ -130,6 +131,14 @@ MemoryFigures Win32System::Memory() const {
   GlobalMemoryStatus(&status);
   return {Clamped(status.dwTotalPhys),    Clamped(status.dwAvailPhys),     Clamped(status.dwTotalVirtual),
           Clamped(status.dwAvailVirtual), Clamped(status.dwTotalPageFile), Clamped(status.dwAvailPageFile)};
+}
+
+std::optional<TextSize> Win32System::TextExtent(DeviceContext device, std::u16string_view text) const {
+  SIZE size{};
+  const auto* units = reinterpret_cast<const wchar_t*>(text.data());
+  if (!GetTextExtentPoint32W(static_cast<HDC>(device), units, CheckedCast<int>(text.size()), &size))
+    return std::nullopt;
+  return TextSize{static_cast<std::int32_t>(size.cx), static_cast<std::int32_t>(size.cy)};
 }
 
 }  // namespace ravo::platform

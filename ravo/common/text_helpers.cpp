@@ -1,4 +1,5 @@
-#include <ravo/common/char_position.h>
+#include <ravo/common/text_helpers.h>
+#include <ravo/platform/diagnostics.h>
 #include <ravo/runtime/checked.h>
 
 namespace ravo::RavoInterfaceCommon {
@@ -10,5 +11,7 @@ std::int32_t CharPosition(std::u16string_view text, char16_t ch, std::int32_t n)
   }
   return 0;
 }
+
+void DebugStr(std::u16string_view text) { platform::Diagnostics().DebugOutput(text); }
 
 }  // namespace ravo::RavoInterfaceCommon
