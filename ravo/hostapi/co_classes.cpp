@@ -5,7 +5,7 @@
 namespace ravo {
 namespace {
 
-// The instance's own reference goes with `answer`, also where the query raises.
+// `answer` releases the instance's own reference, also if the query throws.
 template <class Interface>
 ComponentPtr<Interface> DefaultInterface(const platform::ComponentAnswer& answer) {
   if (!answer.instance) {

@@ -34,7 +34,7 @@ enum class FolderPart : std::uint8_t { Contents, Whole };
 /// names nothing.
 class FileCalls : public Chapter {
  public:
-  /// Returns the attributes of a file or folder; no value if there is none of that name.
+  /// Returns the attributes of a file or folder; no value if nothing has that name.
   [[nodiscard]] virtual std::optional<std::uint32_t> Attributes(std::u16string_view name) const = 0;
 
   /// Returns the process's current folder; empty if the system does not tell.

@@ -50,7 +50,7 @@ TEST(System, AvailableMemoryIsPartOfTheTotal) {
   EXPECT_GT(memory.total_physical, 0U);
   EXPECT_LE(memory.available_physical, memory.total_physical);
   EXPECT_LE(memory.available_virtual, memory.total_virtual);
-  // Not so the page file: where both numbers are too large, systems shorten them to different largest ones.
+  // The page file may differ: if both numbers are too large, systems shorten them to different largest ones.
 }
 
 TEST(System, ModuleOfThisCodeIsKnown) { EXPECT_NE(ThisModule(), nullptr); }

@@ -12,7 +12,7 @@
 namespace ravo::platform {
 namespace {
 
-// Stands beside this program.
+// Lies in the folder of this program.
 std::u16string ResourceFile() {
   wchar_t program[MAX_PATH] = L"";
   GetModuleFileNameW(nullptr, program, MAX_PATH);

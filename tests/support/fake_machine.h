@@ -20,8 +20,8 @@
 
 namespace ravo::test {
 
-/// Orders names as Windows compares them in the registry, in file names and in version resources, as far as
-/// plain letters go.
+/// Orders names as Windows compares them in the registry, in file names and in version resources, for ASCII
+/// letters.
 struct NameLess {
   using is_transparent = void;
   bool operator()(std::u16string_view left, std::u16string_view right) const noexcept {
@@ -32,16 +32,16 @@ struct NameLess {
 template <class Value>
 using NameMap = std::map<std::u16string, Value, NameLess>;
 
-/// A registry value that is there but cannot be read.
+/// A registry value that exists but cannot be read.
 struct Unreadable {};
 
 /// The kinds of registry values: text, 32-bit integer, bytes.
 using FakeRegistryValue = std::variant<std::u16string, std::int32_t, std::vector<std::byte>, Unreadable>;
 
-/// The values of a key under their names; the unnamed one has an empty name.
+/// The values of a key by name; the unnamed one has an empty name.
 using FakeRegistryKey = NameMap<FakeRegistryValue>;
 
-/// String tables under their names of eight hexadecimal digits.
+/// String tables by their names of eight hexadecimal digits.
 struct FakeVersionResource {
   std::optional<std::uint32_t> translation;
   NameMap<NameMap<std::u16string>> tables;
@@ -52,7 +52,7 @@ struct FakeFile {
   std::optional<FakeVersionResource> version;
 };
 
-/// A drive without a space is one whose query fails.
+/// A drive. Without a space, the query for it fails.
 struct FakeDrive {
   platform::DriveKind kind = platform::DriveKind::Fixed;
   std::optional<platform::DiskSpace> space;

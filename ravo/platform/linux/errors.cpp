@@ -11,7 +11,7 @@ namespace ravo::platform::gnu_linux {
 std::u16string LinuxDiagnostics::ErrorText(std::uint32_t code) const {
   constexpr std::uint32_t most = std::numeric_limits<int>::max();
   const int number = code <= most ? static_cast<int>(code) : 0;
-  // The system has words even for codes that it does not know, but no name.
+  // The system has messages even for unknown codes, but no name.
   if (number == 0 || !strerrorname_np(number)) return {};
   std::array<char, 256> buffer{};
   return FromUtf8(strerror_r(number, buffer.data(), buffer.size()));

@@ -15,10 +15,10 @@ using posix::ReadHostFile;
 using posix::TakeLine;
 using posix::TrimmedBytes;
 
-// What user space has of a 48-bit address space, and of a 32-bit one.
+// The share of user space in a 48-bit address space, and in a 32-bit one.
 constexpr std::uint64_t kUserSpace = sizeof(void*) == 8 ? std::uint64_t{1} << 47 : std::uint64_t{3} << 30;
 
-// The field "Name:  123 kB" in bytes; 0 where it is missing, the largest number where it is too large.
+// Returns the field "Name: 123 kB" in bytes; 0 if it is missing, the largest number if it is too large.
 std::uint64_t BytesOf(std::string_view text, std::string_view name) {
   constexpr std::uint64_t most = std::numeric_limits<std::uint64_t>::max();
   while (!text.empty()) {

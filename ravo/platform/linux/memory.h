@@ -7,8 +7,8 @@
 
 namespace ravo::platform::gnu_linux {
 
-/// The figures out of the texts of /proc/meminfo and /proc/self/status. `address_space` is what the process
-/// may address, in bytes. A field that is missing counts as 0.
+/// Returns the figures in the texts of /proc/meminfo and /proc/self/status. `address_space` is the size of
+/// the process's address space in bytes. A missing field counts as 0.
 [[nodiscard]] MemoryFigures MemoryFrom(std::string_view meminfo, std::string_view status,
                                        std::uint64_t address_space);
 

@@ -19,8 +19,7 @@ constexpr std::string_view kDevices = "/dev/";
 
 bool IsOctal(char ch) { return ch >= '0' && ch <= '7'; }
 
-// A backslash and three octal digits stand for a byte: blanks, tabs, line feeds and backslashes are so
-// written.
+// A backslash and three octal digits encode a byte: blanks, tabs, line feeds and backslashes are written so.
 std::string WithoutEscapes(std::string_view field) {
   std::string text;
   for (std::size_t i = 0; i < field.size(); ++i) {
@@ -44,7 +43,7 @@ bool IsRemote(const Mount& mount) {
   return std::ranges::find(types, mount.type) != std::end(types);
 }
 
-// A device that holds a file system itself, rather than standing for a file or for memory.
+// Tells whether a device holds a file system itself, rather than being backed by a file or by memory.
 bool IsDisk(const Mount& mount) {
   if (!mount.device.starts_with(kDevices) || mount.type == "squashfs" || mount.type == "fuse") return false;
   const std::string_view name = std::string_view(mount.device).substr(kDevices.size());
@@ -69,7 +68,7 @@ Mount RootOf(std::span<const Mount> mounts) {
   return at == mounts.rend() ? Mount{"", "/", ""} : *at;
 }
 
-// A partition has no such mark of its own: its disk, the folder above it, has.
+// A partition has no such mark of its own: its disk has, whose folder is the parent.
 bool IsMarkedRemovable(const std::string& root, std::string_view device) {
   const std::string folder = root + "/sys/class/block/" + std::string(device);
   for (const char* place : {"/removable", "/../removable"}) {

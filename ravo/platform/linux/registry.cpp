@@ -15,13 +15,13 @@ using posix::ReadHostFile;
 using posix::ShellAssignment;
 using posix::TrimmedBytes;
 
-// One of the firmware's texts; empty where it is missing.
+// Returns a text of the firmware; empty if it is missing.
 std::string FirmwareText(const std::string& root, std::string_view name) {
   const auto text = ReadHostFile(root + "/sys/class/dmi/id/" + std::string(name));
   return std::string(TrimmedBytes(text.value_or("")));
 }
 
-// Both with a blank between them, or the one that there is.
+// Joins both with a blank; returns the one that is not empty if the other is.
 std::string Pair(const std::string& first, const std::string& second) {
   // Untested: needs firmware with the second fact and not the first.
   return first.empty() || second.empty() ? first + second : first + " " + second;

@@ -31,7 +31,8 @@ class HostKey final : public RegistryKey {
   std::vector<RegistryValue> values_;
 };
 
-// As a registry stores it: little-endian units, a zero behind each text and one more behind a list.
+// Returns the value as a registry stores it: little-endian units, a zero after each text and one more after
+// a list.
 std::optional<std::vector<std::byte>> HostKey::Bytes(std::u16string_view name, std::size_t most) const {
   const RegistryValue* value = Find(name);
   if (!value) return std::nullopt;

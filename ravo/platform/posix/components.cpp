@@ -13,8 +13,8 @@ ComponentAnswer PosixComponents::CreateComponent(const Guid& class_id) const {
   return answer;
 }
 
-// Objects live in this process alone: the only computer that can be reached is this one, by its name or by
-// those that each computer gives itself.
+// Objects live in this process alone: only this computer can be reached, by its name, as "localhost" or by
+// an empty name.
 ComponentAnswer PosixComponents::CreateRemoteComponent(const Guid& class_id,
                                                        std::u16string_view computer) const {
   const bool is_this_one =

@@ -18,7 +18,7 @@ std::int64_t SizeOfBlocks(std::uint64_t count, std::uint64_t size) {
   return static_cast<std::int64_t>(size != 0 && count > most / size ? most : count * size);
 }
 
-// The drive that a question names; null where there is none.
+// Returns the drive of that name, or null.
 const Drive* NamedDrive(std::span<const Drive> drives, std::u16string_view name) {
   const auto letter = DriveLetterOf(name);
   const std::u16string_view rest = name.substr(std::min<std::size_t>(name.size(), 2));

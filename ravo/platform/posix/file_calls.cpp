@@ -20,7 +20,7 @@ int FlagsOf(FilePurpose purpose) {
       return always | O_RDONLY;
     case FilePurpose::Save:
       return always | O_WRONLY | O_CREAT | O_TRUNC;
-    // A pipe without a reader is not waited for: it has no date to be set.
+    // Without O_NONBLOCK, opening a pipe would wait for a reader; a pipe has no date to set anyway.
     case FilePurpose::Date:
       return always | O_WRONLY | O_NONBLOCK;
     case FilePurpose::DateFolder:
@@ -44,7 +44,7 @@ FileHandle PosixFiles::Open(std::u16string_view name, FilePurpose purpose) const
   return Uninterrupted([&] { return open(path->c_str(), FlagsOf(purpose), kNewFileRights); });
 }
 
-// A file system of another computer may learn only now that what was written has no room.
+// A network file system may report only now that the disk is full.
 bool PosixFiles::Close(FileHandle file) const { return close(Descriptor(file)) == 0; }
 
 std::optional<std::int64_t> PosixFiles::SizeOf(FileHandle file) const {

@@ -13,7 +13,7 @@
 namespace ravo::platform::posix {
 namespace {
 
-// Opening a pipe would wait for whoever writes it.
+// Opening a pipe would wait for its writer.
 bool IsOrdinaryFile(std::u16string_view name) {
   const auto path = HostPath(name);
   struct stat facts {};

@@ -16,7 +16,7 @@ namespace {
 
 constexpr mode_t kNewFolderRights = 0777;
 
-// Without delimiters at the end, so that a link to a folder is the link.
+// Removes trailing delimiters, so that a link to a folder is the link and not its target.
 std::string WithoutDelimiters(std::string path) {
   // Untested: the caller refused the root; any other name has more than delimiters.
   while (path.size() > 1 && path.ends_with('/')) path.pop_back();

@@ -19,7 +19,7 @@ bool StartsWithDigit(std::string_view text) {
   return !text.empty() && text.front() >= '0' && text.front() <= '9';
 }
 
-// Takes a decimal number off the front; one that is too large reads as the largest.
+// Removes a decimal number from the front; one that is too large reads as the largest.
 std::uint32_t TakeNumber(std::string_view& rest) {
   std::uint32_t number = 0;
   const auto result = std::from_chars(rest.data(), rest.data() + rest.size(), number);
@@ -27,7 +27,7 @@ std::uint32_t TakeNumber(std::string_view& rest) {
   return result.ec == std::errc::result_out_of_range ? std::numeric_limits<std::uint32_t>::max() : number;
 }
 
-// Takes up to three numbers off the front.
+// Removes up to three numbers from the front.
 SystemNumbers TakeNumbers(std::string_view& release) {
   SystemNumbers numbers;
   // Untested: the loop ends at the third number.

@@ -12,7 +12,7 @@
 namespace ravo::platform {
 namespace {
 
-// The same bytes under the system's own names.
+// The same bytes in the system's own type.
 const ::IID& SystemGuid(const Guid& guid) noexcept { return reinterpret_cast<const ::IID&>(guid); }
 static_assert(sizeof(::IID) == sizeof(Guid));
 

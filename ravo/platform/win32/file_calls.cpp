@@ -40,7 +40,7 @@ bool Win32Files::Close(FileHandle file) const { return CloseHandle(HandleOf(file
 
 std::optional<std::int64_t> Win32Files::SizeOf(FileHandle file) const {
   LARGE_INTEGER size{};
-  // Pipes and consoles have none.
+  // Pipes and consoles have no size.
   if (GetFileType(HandleOf(file)) != FILE_TYPE_DISK) return 0;
   if (!GetFileSizeEx(HandleOf(file), &size)) return std::nullopt;
   return size.QuadPart;
@@ -49,7 +49,7 @@ std::optional<std::int64_t> Win32Files::SizeOf(FileHandle file) const {
 std::optional<std::size_t> Win32Files::Read(FileHandle file, std::span<std::byte> to) const {
   DWORD moved = 0;
   if (ReadFile(HandleOf(file), to.data(), Portion(to.size()), &moved, nullptr)) return moved;
-  // The end of a pipe.
+  // The writer of a pipe has closed it.
   return GetLastError() == ERROR_BROKEN_PIPE ? std::optional(std::size_t{0}) : std::nullopt;
 }
 

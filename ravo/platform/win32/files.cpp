@@ -22,7 +22,8 @@ std::u16string Win32Paths::FullPath(std::u16string_view name) const {
   for (;;) {
     const auto size = static_cast<DWORD>(path.size());
     const DWORD length = GetFullPathNameW(wide_name.c_str(), size, path.data(), nullptr);
-    // A buffer too small answers the size that it needs, which another thread's change of folder may outdate.
+    // If the buffer is too small, the call returns the size needed, which a change of folder in another
+    // thread may outdate.
     path.resize(length);
     if (length < size) return FromWide(path);
   }

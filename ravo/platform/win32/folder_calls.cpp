@@ -12,7 +12,7 @@
 namespace ravo::platform {
 namespace {
 
-// Without questions and windows; without the flag of the recycle bin.
+// Without questions and windows, and past the recycle bin.
 bool DeleteByShell(std::wstring source) {
   source.push_back(L'\0');
   SHFILEOPSTRUCTW operation{};
@@ -34,7 +34,7 @@ std::u16string Win32Files::CurrentFolder() const {
   for (;;) {
     std::wstring folder(GetCurrentDirectoryW(0, nullptr), L'\0');
     const DWORD length = GetCurrentDirectoryW(static_cast<DWORD>(folder.size()), folder.data());
-    // Another thread may have gone to a longer one meanwhile.
+    // Another thread may have changed to a longer one meanwhile.
     if (length != 0 && length >= folder.size()) continue;
     folder.resize(length);
     return FromWide(folder);
@@ -53,8 +53,7 @@ bool Win32Files::CreateFolder(std::u16string_view folder) const {
 
 bool Win32Files::DeleteFolder(std::u16string_view folder, FolderPart part) const {
   auto name = SystemName(folder);
-  // The shell finds nothing to fail at in a folder that is not there, and would look for names with
-  // wildcards.
+  // The shell reports success for a missing folder, and would expand wildcards.
   if (!name || !Attributes(folder)) return false;
   if (part == FolderPart::Whole && IsDriveName(*name)) return false;
   if (part == FolderPart::Whole && IsFolderLink(*name)) return RemoveDirectoryW(name->c_str()) != 0;

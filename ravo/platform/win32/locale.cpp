@@ -10,14 +10,14 @@
 namespace ravo::platform {
 namespace {
 
-// Every fact asked for here fits: the longest, patterns and names, have at most 80 units.
+// Fits every fact asked for here: the longest, patterns and names, have at most 80 units.
 std::u16string Fact(LCTYPE type) {
   std::array<wchar_t, 128> buffer;
   const int units = GetLocaleInfoW(LOCALE_USER_DEFAULT, type, buffer.data(), static_cast<int>(buffer.size()));
   return FromWide(UpToZero(std::wstring_view(buffer.data(), static_cast<std::size_t>(units))));
 }
 
-// The first name that the system counts becomes number `first` of ours.
+// The system's first name becomes our number `first`.
 template <std::size_t count>
 void ReadNames(std::array<std::u16string, count>& names, LCTYPE type, std::size_t first) {
   for (std::size_t i = 0; i < count; ++i) names[(first + i) % count] = Fact(type + static_cast<LCTYPE>(i));

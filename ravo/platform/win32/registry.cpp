@@ -16,7 +16,7 @@ struct Value {
   std::vector<std::byte> data;
 };
 
-// Reads a whole value; it may grow between two calls.
+// Reads a whole value, which may grow between two calls.
 LSTATUS ReadValue(HKEY key, std::u16string_view name, Value& value) {
   const std::wstring wide_name = ToWide(name);
   value.data.resize(256);
@@ -30,7 +30,7 @@ LSTATUS ReadValue(HKEY key, std::u16string_view name, Value& value) {
   }
 }
 
-// The stored text need not end in a zero, nor in a whole unit.
+// Stored text may lack a terminating zero, or end in half a unit.
 std::u16string WholeUnits(const std::vector<std::byte>& data) {
   std::u16string text(data.size() / sizeof(char16_t), u'\0');
   std::memcpy(text.data(), data.data(), text.size() * sizeof(char16_t));

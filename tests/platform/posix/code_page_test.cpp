@@ -9,7 +9,7 @@
 namespace ravo::platform::posix {
 namespace {
 
-// The C library's own opinion of a byte; no value where it has none.
+// The C library's decoding of a byte; no value if it has none.
 std::optional<char16_t> Witness(iconv_t converter, char byte) {
   char16_t unit = 0;
   char* from = &byte;

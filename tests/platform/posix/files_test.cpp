@@ -90,7 +90,7 @@ TEST(PosixMachineFiles, FindsFilesAndFolders) {
   EXPECT_EQ(machine.FindFile(u".")->attributes & 0x12u, 0x10u);
   folder.Write(".folder/file", "");
   EXPECT_EQ(machine.FindFile(folder.File(u".folder"))->attributes, 0x12u);
-  // A directory search takes no name with a delimiter at its end; the question for attributes does.
+  // A directory search rejects a name with a trailing delimiter; `Attributes` accepts it.
   EXPECT_FALSE(machine.FindFile(folder.File(u".folder/")));
   EXPECT_EQ(PosixFiles().Attributes(folder.File(u".folder/")), 0x12u);
   EXPECT_FALSE(machine.FindFile(folder.File(u"missing")));
@@ -104,7 +104,7 @@ TEST(PosixMachineFiles, WhatTheCallerMayNotWriteIsReadOnly) {
   std::filesystem::permissions(folder.Path() / "file", std::filesystem::perms::owner_read);
   const auto facts = PosixPaths().FindFile(folder.File(u"file"));
   ASSERT_TRUE(facts);
-  // The superuser may write all the same.
+  // The superuser may write anyway.
   EXPECT_EQ(facts->attributes, geteuid() == 0 ? 0x20u : 0x21u);
   EXPECT_EQ(PosixPaths().FindFile(u"/proc/version")->attributes & 1u, access("/proc/version", W_OK) != 0);
 }

@@ -14,7 +14,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// The administrator may delete everything: for as long as this object lives, files are another account's.
+// Gives up the superuser's rights for the lifetime of this object: the superuser may delete everything.
 class WithoutPowers {
  public:
   WithoutPowers() {
@@ -74,7 +74,7 @@ TEST(DeleteFolder, TakesDelimitersAtTheEnd) {
   }
 }
 
-// A name that cannot be asked about is not taken for one that is not there.
+// A failing query does not mean that the file is missing.
 TEST(DeleteFolder, IsFalseForWhatCannotBeLookedAt) {
   const test::ScratchFolder scratch;
   scratch.Write("closed/tree/file", "");

@@ -70,7 +70,7 @@ TEST(PosixMachineFolder, TheScratchFolderEndsInADelimiter) {
   }
 }
 
-// Without the variable the account's own folder is meant.
+// Without the variable, the account's own folder counts.
 TEST(PosixMachineFolder, DocumentsForEveryoneWithoutAVariable) {
   const PosixFolders machine;
   const ScopedEnvironment no_public("XDG_PUBLICSHARE_DIR", nullptr);
