@@ -15,13 +15,15 @@ namespace ravo {
   /** Returns the description of table `id` of this module; empty for every other identifier. */ \
   [[nodiscard]] RAVO_API std::u16string get_description(std::int32_t id);                        \
   }
+#include <ravo/catalogue/table_modules.inc>
+#undef RAVO_TABLE_MODULE
+
 #define RAVO_NO_CACHED_FIELDS(module, get_cached_fields)                                                  \
   namespace module {                                                                                      \
   /** Returns the cached fields of a table by its name. No table of this module has any: always empty. */ \
   [[nodiscard]] RAVO_API std::u16string get_cached_fields(std::u16string_view table);                     \
   }
-#include <ravo/catalogue/table_modules.inc>
-#undef RAVO_TABLE_MODULE
+#include <ravo/catalogue/no_cached_fields.inc>
 #undef RAVO_NO_CACHED_FIELDS
 
 }  // namespace ravo
