@@ -55,6 +55,16 @@ TEST(CodePages, ThatNobodyKnowsGiveNothing) {
   EXPECT_EQ(writer.DataSize(), 0u);
 }
 
+TEST(CodePages, TheSystemsIsTheDefault) {
+  EXPECT_EQ(FromCodePage("p\xF8\xEDli\x9A"), u"p\x159\xEDli\x161");
+  EXPECT_EQ(ToCodePage(u"p\x159\xEDli\x161"), "p\xF8\xEDli\x9A");
+  EXPECT_EQ(ToCodePage(u"\x4E00"), "?");
+  EXPECT_EQ(FromCodePage(""), u"");
+  EXPECT_EQ(ToCodePage(u""), "");
+  EXPECT_EQ(FromCodePage("abc", 4711), u"");
+  EXPECT_EQ(ToCodePage(u"abc", 4711), "");
+}
+
 // The published table has nothing there; systems have controls.
 TEST(CodePages, FiveBytesOfWindows1250AreControlsOfTheSystemAlone) {
   for (const char16_t control : {u'\u0081', u'\u0083', u'\u0088', u'\u0090', u'\u0098'}) {
