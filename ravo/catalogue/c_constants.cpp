@@ -8,5 +8,5 @@
 #include <ravo/catalogue/class_identifiers.inc>
 #undef RAVO_CLASS_IDENTIFIER
 
-#define RAVO_STRINGS <ravo/catalogue/captions.inc>
+#define RAVO_STRINGS "ravo/catalogue/captions.inc"
 #include <ravo/frame/c_strings.inc>

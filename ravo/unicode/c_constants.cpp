@@ -1,4 +1,4 @@
 #include <ravo/unicode/c_constants.h>
 
-#define RAVO_STRINGS <ravo/unicode/messages.inc>
+#define RAVO_STRINGS "ravo/unicode/messages.inc"
 #include <ravo/frame/c_strings.inc>
