@@ -1,6 +1,6 @@
 // A document that is loaded, edited in any way and saved: what is saved is what the tree says of itself, and
 // it loads as the plain rules have it.
-#include <ravo/platform/machine.h>
+#include <ravo/platform/code_pages.h>
 #include <ravo/xml/document.h>
 
 #include <cstdint>
@@ -98,10 +98,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   for (const char step : all.substr(0, steps)) {
     item = Edit(item, static_cast<unsigned char>(step), parser, other, listed_twice);
   }
-  const std::string head = "<?xml version=\"1.0\" encoding=\"" +
-                           platform::CurrentMachine().ToCodePage(parser.Encoding()) + "\" ?>\r\n";
+  const std::string head =
+      "<?xml version=\"1.0\" encoding=\"" + platform::CodePages().ToCodePage(parser.Encoding()) + "\" ?>\r\n";
   const std::string saved = test::Saved(parser, true);
-  Require(saved == head + platform::CurrentMachine().ToCodePage(parser.Root()->XMLItemAsString(2)));
+  Require(saved == head + platform::CodePages().ToCodePage(parser.Root()->XMLItemAsString(2)));
   TECXMLParser again;
   again.SetCrLfInAsString(false);
   Load(again, saved);

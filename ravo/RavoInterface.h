@@ -8,7 +8,6 @@
 #include <ravo/catalogue/table_catalogue.h>
 #include <ravo/frame/resource_string.h>
 #include <ravo/hostapi/interface_list.h>
-#include <ravo/platform/machine.h>
 #include <ravo/runtime/error.h>
 #include <ravo/runtime/object_list.h>
 #include <ravo/runtime/text.h>

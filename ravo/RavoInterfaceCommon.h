@@ -8,8 +8,6 @@
 #include <ravo/common/backup_name.h>
 #include <ravo/common/byte_size.h>
 #include <ravo/common/calendar.h>
-#include <ravo/common/char_position.h>
-#include <ravo/common/debug_text.h>
 #include <ravo/common/descriptions.h>
 #include <ravo/common/diacritics.h>
 #include <ravo/common/float_separator.h>
@@ -18,3 +16,4 @@
 #include <ravo/common/rounding.h>
 #include <ravo/common/stream_records.h>
 #include <ravo/common/text_checksum.h>
+#include <ravo/common/text_helpers.h>

@@ -2,4 +2,4 @@
 
 #include <ravo/runtime/language.h>
 
-#include <ravo/catalogue/modules/majetek_constants.h>
+#include <ravo/catalogue/module_tables.h>

@@ -32,6 +32,7 @@
 
 #ifndef RC_INVOKED
 
+#include <ravo/runtime/c_resource_text.h>
 #include <ravo/runtime/export.h>
 /* The C header: this file is for C compilers too. */
 #include <stdint.h>  // NOLINT(modernize-deprecated-headers)
@@ -104,13 +105,6 @@ typedef struct RavoPackageInfoTable {
   const RavoPackageDescription* Description; /**< the package description */
   RavoModule* Module;                        /**< the entry in the list of modules */
 } RavoPackageInfoTable;
-
-/** A text of a language module on systems without Windows resources. Such a module is a shared object that
- * exports an array of these under the name `RavoResourceTexts`, ended by a row whose text is null. */
-typedef struct RavoResourceText {
-  uint16_t Id;          /**< in the string table */
-  const uint16_t* Text; /**< UTF-16, ended by a zero */
-} RavoResourceText;
 
 /** The types of the exports, for a host that loads the library at run time. */
 typedef const RavoPackageInfoTable* (*RavoGetPackageInfoTable)(void);

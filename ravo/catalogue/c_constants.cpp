@@ -1,7 +1,5 @@
 #include <ravo/catalogue/c_constants.h>
 #include <ravo/catalogue/class_identifiers.h>
-#include <ravo/frame/module_record.h>
-#include <ravo/runtime/utf16_units.h>
 
 #include <bit>
 
@@ -10,14 +8,5 @@
 #include <ravo/catalogue/class_identifiers.inc>
 #undef RAVO_CLASS_IDENTIFIER
 
-// Their texts, and then what names them.
-namespace {
-#define RAVO_STRING(name, id, text) constexpr auto kTextOf##name = ravo::Utf16Units(u##text);
-#include <ravo/catalogue/captions.inc>
-#undef RAVO_STRING
-}  // namespace
-
-#define RAVO_STRING(name, id, text) \
-  constinit const RavoResourceString name = {&ravo::frame::library_module.Instance, id, kTextOf##name.data()};
-#include <ravo/catalogue/captions.inc>
-#undef RAVO_STRING
+#define RAVO_STRINGS "ravo/catalogue/captions.inc"
+#include <ravo/frame/c_strings.inc>

@@ -14,19 +14,19 @@ using table_index::kTableHashMultiplier;
 using table_index::Place;
 
 constexpr TableModule kModules[] = {
-#define RAVO_TABLE_MODULE(module, name) TableModule::module,
+#define RAVO_TABLE_MODULE(tables, module, get_description) TableModule::tables,
 #include <ravo/catalogue/table_modules.inc>
 #undef RAVO_TABLE_MODULE
 };
 
 constexpr std::string_view kModuleNames[] = {
-#define RAVO_TABLE_MODULE(module, name) name,
+#define RAVO_TABLE_MODULE(tables, module, get_description) #module,
 #include <ravo/catalogue/table_modules.inc>
 #undef RAVO_TABLE_MODULE
 };
 
 constexpr std::string_view kModuleKeys[] = {
-#define RAVO_TABLE_MODULE(module, name) #module,
+#define RAVO_TABLE_MODULE(tables, module, get_description) #tables,
 #include <ravo/catalogue/table_modules.inc>
 };
 

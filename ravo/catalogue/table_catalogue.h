@@ -12,7 +12,7 @@ namespace ravo {
 
 /// A module that has tables. The values are in the order in which the dispatcher asks the modules.
 enum class TableModule : std::uint8_t {
-#define RAVO_TABLE_MODULE(module, name) /** #name */ module,
+#define RAVO_TABLE_MODULE(tables, module, get_description) /** #module */ tables,
 #include <ravo/catalogue/table_modules.inc>
 #undef RAVO_TABLE_MODULE
 };

@@ -1,5 +1,5 @@
 #include <ravo/common/backup_name.h>
-#include <ravo/platform/machine.h>
+#include <ravo/platform/locale.h>
 #include <ravo/runtime/date_text.h>
 #include <ravo/runtime/text.h>
 
@@ -29,7 +29,7 @@ std::u16string Filled(std::u16string_view text, std::u16string_view placeholder,
 }
 
 std::u16string ClockText(std::u16string_view pattern) {
-  return FormatDateTime(pattern, platform::CurrentMachine().Now(), {});
+  return FormatDateTime(pattern, platform::Locale().Now(), {});
 }
 
 }  // namespace

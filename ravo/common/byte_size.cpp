@@ -1,5 +1,5 @@
 #include <ravo/common/byte_size.h>
-#include <ravo/platform/machine.h>
+#include <ravo/platform/locale.h>
 #include <ravo/runtime/float_text.h>
 #include <ravo/runtime/text.h>
 
@@ -36,14 +36,14 @@ std::int64_t TenthsOf(std::int64_t size, int shift) {
 }
 
 std::u16string InMegabytes(std::int64_t size) {
-  const FormatSettings locale = platform::CurrentMachine().Locale();
+  const FormatSettings locale = platform::Locale().Settings();
   return NumberText(ToDecimal(TenthsOf(size, 20), 1), 1, locale.decimal_separator,
                     locale.thousands_separator) +
          u" MB";
 }
 
 std::u16string InKilobytes(std::int64_t size) {
-  const FormatSettings locale = platform::CurrentMachine().Locale();
+  const FormatSettings locale = platform::Locale().Settings();
   return GeneralText(ToDecimal(TenthsOf(size, 10), 1), locale.decimal_separator) + u" kB";
 }
 

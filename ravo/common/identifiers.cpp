@@ -1,5 +1,5 @@
 #include <ravo/common/identifiers.h>
-#include <ravo/platform/machine.h>
+#include <ravo/platform/locale.h>
 #include <ravo/runtime/checked.h>
 #include <ravo/runtime/number_parse.h>
 #include <ravo/runtime/text.h>
@@ -19,7 +19,7 @@ std::uint8_t HexPair(std::u16string_view pair) {
 }  // namespace
 
 std::u16string UIDToString(const Variant& value, bool quoted) {
-  const FormatSettings locale = platform::CurrentMachine().Locale();
+  const FormatSettings locale = platform::Locale().Settings();
   if (!quoted) return VariantToText(value, locale);
   if (value.IsEmptyOrNull()) return u"Null";
   return VariantToText(VariantSum(VariantSum(u"'", value, locale), u"'", locale), locale);

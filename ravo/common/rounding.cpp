@@ -1,5 +1,5 @@
 #include <ravo/common/rounding.h>
-#include <ravo/common/rounding_reference.h>
+#include <ravo/common/rounding_steps.h>
 
 #include <cstdlib>
 
@@ -18,21 +18,21 @@ Currency RoundToHalves(Currency value) {
 }  // namespace
 
 Currency RoundValueOutOfLine(Currency value, TRoundType type, std::int8_t decimals) {
-  return RoundValueReference(value, type, decimals);
+  return common::RoundValueReference(value, type, decimals);
 }
 
 Currency RoundDPHOutOfLine(Currency value, char16_t kind) {
   switch (kind) {
     case u'H':
-      return RoundValueReference(value, rtMath, 2);
+      return common::RoundValueReference(value, rtMath, 2);
     case u'D':
-      return RoundValueReference(value, rtMath, 1);
+      return common::RoundValueReference(value, rtMath, 1);
     case u'P':
       return RoundToHalves(value);
     case u'N':
-      return RoundValueReference(value, rtUp, 1);
+      return common::RoundValueReference(value, rtUp, 1);
     case u'M':
-      return RoundValueReference(value, rtMath, 0);
+      return common::RoundValueReference(value, rtMath, 0);
     // Untested: the inline form handles every other letter.
     default:
       return value;

@@ -4,6 +4,9 @@
 namespace ravo::RavoInterfaceCommon {
 namespace {
 
+using common::Ceiling32;
+using common::Scaled;
+
 // scaled value -> double of the kept precision.
 double FromUnits(std::int64_t units, const SoftExtended& power) { return (Scaled(units) / power).ToDouble(); }
 

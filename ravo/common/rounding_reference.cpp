@@ -1,8 +1,12 @@
-#include <ravo/common/rounding_reference.h>
 #include <ravo/common/rounding_steps.h>
 
-namespace ravo::RavoInterfaceCommon {
+namespace ravo::common {
 namespace {
+
+using RavoInterfaceCommon::rtDown;
+using RavoInterfaceCommon::rtMath;
+using RavoInterfaceCommon::rtUp;
+using RavoInterfaceCommon::TRoundType;
 
 // units / scale * 10^8 as a stored amount: whole units of the kept precision back to ten-thousandths.
 Currency FromUnits(const SoftExtended& units, const SoftExtended& scale) {
@@ -32,4 +36,4 @@ Currency RoundValueReference(Currency value, TRoundType type, std::int8_t decima
   return FromUnits(value.raw >= 0 ? units : Scaled(0) - units, Scaled(scale));
 }
 
-}  // namespace ravo::RavoInterfaceCommon
+}  // namespace ravo::common

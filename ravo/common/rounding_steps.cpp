@@ -1,6 +1,6 @@
 #include <ravo/common/rounding_steps.h>
 
-namespace ravo::RavoInterfaceCommon {
+namespace ravo::common {
 namespace {
 
 // Kept: ceiling and floor wrap at 32 bits; stored amounts depend on it. Test:
@@ -21,4 +21,4 @@ std::int32_t Floor32(const SoftExtended& value) {
   return Wrapped(value.ToIntegerTruncated() - (value.Fraction().IsNegative() ? 1 : 0));
 }
 
-}  // namespace ravo::RavoInterfaceCommon
+}  // namespace ravo::common

@@ -1,5 +1,5 @@
 #include <ravo/formout/form_fields.h>
-#include <ravo/platform/machine.h>
+#include <ravo/platform/code_pages.h>
 #include <ravo/runtime/text.h>
 #include <ravo/unicode/encodings.h>
 #include <ravo/unicode/unicode_reader.h>
@@ -13,7 +13,7 @@ namespace {
 
 constexpr char16_t kSmallCWithCaron = u'\u010D';
 
-std::string EightBit(std::u16string_view text) { return platform::CurrentMachine().ToCodePage(text); }
+std::string EightBit(std::u16string_view text) { return platform::CodePages().ToCodePage(text); }
 
 void Write(ByteStream& stream, std::string_view bytes) {
   stream.WriteChecked(std::as_bytes(std::span(bytes)));

@@ -6,15 +6,15 @@
 #include <atomic>
 #include <cstddef>
 
-/// Which listed record an instance has, for readers that take no lock and never wait: no other thread can
-/// hold them up, not even one that a fork left behind or that the end of the process stopped.
+/// Index of the listed records by instance. Readers take no lock and never wait: no other thread can block
+/// them, not even one that a fork or the end of the process stopped.
 namespace ravo::frame {
 
-/// An instance that was listed at some time. Entries stay, only their records come and go: a reader can walk
-/// on from any entry while a record leaves.
+/// An instance that was listed once. Entries stay, only their records change: a reader can walk on from any
+/// entry while a record is removed.
 struct ModuleEntry {
   void* instance = nullptr;
-  /// Null where the instance is not listed now.
+  /// Null while the instance is not listed.
   std::atomic<RavoModule*> record{nullptr};
   ModuleEntry* next = nullptr;
 };
@@ -24,19 +24,19 @@ class ModuleIndex {
  public:
   constexpr ModuleIndex() = default;
 
-  /// The entry of an instance, or null. For readers.
+  /// Returns the entry of an instance, or null. For readers.
   [[nodiscard]] ModuleEntry* Find(const void* instance) const noexcept;
 
-  /// The entry of an instance, made where there is none yet. The first `kRoom` need no memory; a later one
-  /// throws `std::bad_alloc` where there is none, and is never freed: a reader may be on it until the process
-  /// is gone.
+  /// Returns the entry of an instance; adds it if it is missing. The first `kRoom` entries need no memory. A
+  /// later one throws `std::bad_alloc` if memory is short, and is never freed, because a reader may use it
+  /// until the process ends.
   ModuleEntry& Make(void* instance);
 
-  /// The entry that has this record, or null.
+  /// Returns the entry that has this record, or null.
   [[nodiscard]] ModuleEntry* Holding(const RavoModule& record) const noexcept;
 
  private:
-  // More than the suite has modules.
+  // More than the number of the suite's modules.
   static constexpr std::size_t kRoom = 128;
 
   std::array<ModuleEntry, kRoom> room_{};

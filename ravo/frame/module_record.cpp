@@ -15,8 +15,8 @@ namespace {
 
 using frame::library_module;
 
-// Held by writers of the list alone and for a moment. It is ready before any initialiser runs, is never
-// destroyed and needs no memory: the entry point takes it first and last.
+// Held by writers of the list alone and briefly. It is constant-initialised, never destroyed and needs no
+// memory: the entry point takes it first and last.
 class ListLock {
  public:
   void lock() noexcept {
@@ -45,9 +45,9 @@ using Guard = std::scoped_lock<ListLock>;
 // The host may write the field too.
 std::atomic_ref<void*> ResourcesOf(RavoModule& module) { return std::atomic_ref<void*>(module.ResInstance); }
 
-// What follows up to the public functions wants the lock held.
+// The functions from here to the public ones expect the lock to be held.
 
-// The link that leads to the first record for which `is_it` holds, or the last link.
+// Returns the link to the first record that fulfils `is_it`, or the last link.
 template <typename Predicate>
 RavoModule** LinkTo(Predicate is_it) {
   RavoModule** link = &first_module;
@@ -59,7 +59,7 @@ RavoModule** LinkTo(const RavoModule& module) {
   return LinkTo([&](const RavoModule& listed) { return &listed == &module; });
 }
 
-// Shows readers the record that was listed last of those with the entry's instance.
+// Publishes the record that was listed last of those with the entry's instance.
 void Publish(frame::ModuleEntry& entry) {
   RavoModule* const record =
       *LinkTo([&](const RavoModule& listed) { return listed.Instance == entry.instance; });
@@ -87,13 +87,14 @@ void Attach(platform::ModuleHandle library) {
   library_entry.store(index.Find(library), std::memory_order_release);
 }
 
-// The library's record, registered before any other: so the first entry of the index is its own.
+// The library's record is registered before any other, so that the first entry of the index is its own.
 RavoModule& Registered() {
   if (!library_entry.load(std::memory_order_relaxed)) Attach(platform::ThisModule());
   return library_module;
 }
 
-// Puts `resources` (null for the library itself) in force; gives the separate module that was, or null.
+// Makes `resources` (null for the library itself) current; returns the separate module that was current, or
+// null.
 platform::ModuleHandle ExchangeResources(platform::ModuleHandle resources) {
   const Guard guard(list_lock);
   RavoModule& module = Registered();
@@ -103,7 +104,7 @@ platform::ModuleHandle ExchangeResources(platform::ModuleHandle resources) {
 }
 
 void Unload(platform::ModuleHandle resources) noexcept {
-  if (resources) platform::CurrentMachine().UnloadResources(resources);
+  if (resources) platform::Resources().UnloadResources(resources);
 }
 
 }  // namespace
@@ -125,7 +126,7 @@ RavoModule* FindModule(const void* instance) noexcept {
 }
 
 bool AttachResourceModule(std::u16string_view file) {
-  const platform::ModuleHandle resources = platform::CurrentMachine().LoadResources(file);
+  const platform::ModuleHandle resources = platform::Resources().LoadResources(file);
   if (!resources) return false;
   Unload(ExchangeResources(resources));
   return true;

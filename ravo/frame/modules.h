@@ -23,8 +23,7 @@ inline constexpr auto kModules = std::to_array<ModuleRow>({
 #undef RAVO_MODULE
 });
 
-/// Slots of the module table that belong to the required run-time libraries. In this build those have nothing
-/// to start.
+/// Slots of the module table for the required run-time libraries, which have nothing to start in this build.
 inline constexpr std::size_t kRuntimeSlots = 77;
 inline constexpr std::size_t kSlotCount = kRuntimeSlots + kModules.size();
 

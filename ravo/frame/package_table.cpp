@@ -57,7 +57,7 @@ constexpr auto kProcedures = std::to_array<RavoPackageUnit>({
 #undef RAVO_MODULE
 });
 
-// A circle in what the modules use does not compile.
+// Modules that use each other in a circle do not compile.
 constexpr auto kOrder = [] {
   std::array<std::size_t, kModules.size()> order{};
   if (!OrderModules(kModules, order)) throw "the modules use each other in a circle or name an unknown one";

@@ -8,22 +8,23 @@
 
 namespace ravo {
 
-/// A localisable text: an identifier of the library's string table and the text that the library itself was
-/// built with. The text is fetched at the moment of use through the library's current resource instance, so a
-/// language module attached to the library replaces it without a change of code.
+/// A localisable text: an identifier of the library's string table and the built-in text.
+///
+/// The text is looked up when it is used, through the library's current resource instance, so that an
+/// attached language module replaces it.
 struct ResourceString {
   std::uint16_t id = 0;          ///< in the string table
   std::u16string_view built_in;  ///< what no language module has replaced
 
-  /// The text now. What an attached language module lacks reads as built in. The view lives as long as the
-  /// resource instance stays attached.
+  /// Returns the current text, the built-in one if the attached language module lacks it. The view lives as
+  /// long as the resource instance stays attached.
   [[nodiscard]] RAVO_API std::u16string_view View() const;
 
-  /// A copy of the text now.
+  /// Returns a copy of the current text.
   [[nodiscard]] std::u16string Text() const { return std::u16string(View()); }
 };
 
-/// `caption` without its accelerator mark: every "&" is removed.
+/// Returns `caption` without its accelerator mark: every "&" is removed.
 [[nodiscard]] RAVO_API std::u16string PlainCaption(std::u16string_view caption);
 
 }  // namespace ravo

@@ -4,7 +4,7 @@
 
 #include <span>
 
-/// Going through the units of a module table, either procedure of which may be missing.
+/// Walks over the units of a module table, whose procedures may be null.
 namespace ravo::frame {
 
 /// Calls every initialiser, from the first slot to the last.

@@ -12,7 +12,7 @@ struct Bodies {
 
 constexpr auto kBodies = [] {
   std::array<Bodies, kModules.size()> bodies{};
-  bodies[static_cast<std::size_t>(Module::DISystemCompat)] = {StartDISystemCompat, StopDISystemCompat};
+  bodies[static_cast<std::size_t>(Module::DISystemCompat)] = {StartDISystemCompat, nullptr};
   bodies[static_cast<std::size_t>(Module::DIUtils)] = {nullptr, StopDIUtils};
   return bodies;
 }();

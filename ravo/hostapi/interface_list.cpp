@@ -46,7 +46,7 @@ consteval bool IdentifiersAreUnique() {
 
 static_assert(IdentifiersAreUnique(), "two libraries, interfaces or classes have the same identifier");
 
-// A twin is the same interface to the component runtime, and neither holds anything but its operation table.
+// A twin is the same interface to the component runtime, and neither has data but its operation table.
 template <class Interface, class Twin>
 constexpr bool AreTwins = Interface::kInterfaceId == Twin::kInterfaceId&& Interface::kOwnOperations ==
                               Twin::kOwnOperations&& KindOf<Interface>() == KindOf<Twin>() &&

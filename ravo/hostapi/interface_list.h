@@ -7,16 +7,16 @@
 #include <span>
 #include <string_view>
 
-/// The host's object model as a list, for programs that show it or go through it.
+/// The host's object model as a list, for programs that show it or iterate over it.
 namespace ravo {
 
-/// Dual: below `IDispatch`, called through the operation table or by dispatch identifier. Custom: below
-/// `IUnknown`, called through the operation table alone.
+/// Dual: derived from `IDispatch`, called through the operation table or by dispatch identifier. Custom:
+/// derived from `IUnknown`, called through the operation table alone.
 enum class InterfaceKind : std::uint8_t { Dual, Custom };
 
 /// A type library of the host.
 struct TypeLibraryRow {
-  /// Without the "_TLB" of its module.
+  /// The name without the "_TLB" of its module.
   std::string_view name;
   Guid identifier;  ///< of the type library
 };
@@ -28,7 +28,7 @@ struct HostInterfaceRow {
   std::string_view base;     ///< "IDispatch" or "IUnknown"
   InterfaceKind kind;        ///< how it is called
   Guid identifier;           ///< what `QueryInterface` finds it by
-  /// The operations that it adds to its base; readers and writers of properties count.
+  /// The number of operations that it adds to its base, counting readers and writers of properties.
   int own_operations;
 };
 

@@ -6,18 +6,17 @@
 
 /// The interfaces of the host's object model, each in the namespace of its type library.
 ///
-/// The library fixes an interface's identity, its place below `IUnknown` (custom) or `IDispatch` (dual) and
-/// the number of operations that it adds. The operations themselves are the host's: a module that knows them
-/// adds them with `RAVO_OPERATIONS` (`ravo/hostapi/operations.h`) and uses the result in the place of the
+/// The library fixes an interface's identity, its base, `IUnknown` (custom) or `IDispatch` (dual), and the
+/// number of operations that it adds. The operations themselves are the host's: a module that knows them
+/// adds them with `RAVO_OPERATIONS` (`ravo/hostapi/operations.h`) and uses the result instead of the
 /// declared interface.
 ///
 /// For each interface `IRavoX` there is the constant `IID_IRavoX` and a twin `IRavoXDisp`, the view of a
-/// late-binding client. Both have the same identifier, base and number of operations; of a dual interface the
-/// twin is called through `Invoke` alone.
+/// late-binding client. Both have the same identifier, base and number of operations; the twin of a dual
+/// interface is called through `Invoke` alone.
 namespace ravo {
 
-// The base of a class cannot stand in parentheses.
-// NOLINTBEGIN(bugprone-macro-parentheses)
+// A base class cannot be in parentheses.
 #define RAVO_TYPE_LIBRARY(library, identifier)                   \
   namespace library##_TLB {                                      \
     /** Identifier of the type library #library: #identifier. */ \

@@ -24,7 +24,7 @@
   static_assert((0 LIST(RAVO_COUNT_OPERATION)) == Interface::kOwnOperations, \
                 #Name " has not as many operations as " #Interface " declares")
 
-/// One operation of a list: each answers a `ResultCode` and raises nothing.
+/// One operation of a list: returns a `ResultCode` and throws nothing.
 #define RAVO_DECLARE_OPERATION(name, parameters) \
   virtual ravo::ResultCode RAVO_STDCALL name parameters noexcept = 0;
 

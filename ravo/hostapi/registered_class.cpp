@@ -1,5 +1,5 @@
 #include <ravo/hostapi/registered_class.h>
-#include <ravo/platform/machine.h>
+#include <ravo/platform/components.h>
 #include <ravo/runtime/error.h>
 
 #include <utility>
@@ -7,12 +7,12 @@
 namespace ravo {
 
 RegisteredClass::RegisteredClass(const Guid& class_id, ComponentFactory factory)
-    : machine_(platform::CurrentMachine()) {
-  const ResultCode code = machine_.OfferComponent(class_id, std::move(factory), registration_);
+    : runtime_(platform::Components()) {
+  const ResultCode code = runtime_.OfferComponent(class_id, std::move(factory), registration_);
   // Untested: the platform refuses a class only if memory runs out.
-  if (Failed(code)) throw ComponentError(code, machine_.ComponentErrorText(code));
+  if (Failed(code)) throw ComponentError(code, runtime_.ComponentErrorText(code));
 }
 
-RegisteredClass::~RegisteredClass() { machine_.RevokeComponent(registration_); }
+RegisteredClass::~RegisteredClass() { runtime_.RevokeComponent(registration_); }
 
 }  // namespace ravo

@@ -10,26 +10,30 @@
 namespace ravo {
 
 namespace platform {
-class Machine;
-}
+class ComponentCalls;
+}  // namespace platform
 
-/// A class that this process itself offers, for as long as this object lives: the creators find it under its
-/// identifier. On Windows it is a class object of the platform's component runtime, offered to this process
-/// alone, and goes on the thread on which it came; elsewhere it stands in the library's own registry, which
-/// all threads may use at once.
+/// A class that this process itself offers, for the lifetime of this object: the creators find it under its
+/// identifier.
+///
+/// On Windows it is a class object of the platform's component runtime, offered to this process alone, and
+/// is destroyed on the thread that made it. Elsewhere it is in the library's own registry, which is
+/// thread-safe.
 class RAVO_API RegisteredClass {
  public:
-  /// `factory` makes one object for each creation; where it answers null or raises, the creation fails as
-  /// that of a server that does not start. Raises `ComponentError` where the platform refuses the offer; a
-  /// class that is offered already is refused everywhere but on Windows, which takes several offers.
+  /// Offers a class. `factory` makes one object for each creation; if it returns null or throws, the
+  /// creation fails like that of a server that does not start.
+  ///
+  /// Throws `ComponentError` if the platform refuses the offer. A class that is offered already is refused
+  /// except on Windows, which takes several offers.
   RegisteredClass(const Guid& class_id, ComponentFactory factory);
   RegisteredClass(const RegisteredClass&) = delete;
   RegisteredClass& operator=(const RegisteredClass&) = delete;
-  /// Objects that exist live on.
+  /// Revokes the offer. Existing objects live on.
   ~RegisteredClass();
 
  private:
-  const platform::Machine& machine_;
+  const platform::ComponentCalls& runtime_;
   std::uint32_t registration_ = 0;
 };
 

@@ -6,8 +6,8 @@
 
 namespace ravo::platform {
 
-/// The library's own words for a code of the component runtime, where the system has none; the number for a
-/// code that it does not know.
+/// Returns the library's own message for a code of the component runtime, for systems that have none; the
+/// number for an unknown code.
 [[nodiscard]] std::u16string ComponentText(ResultCode code);
 
 }  // namespace ravo::platform

@@ -13,21 +13,22 @@ class KeptInput;
 
 namespace ravo {
 
-/// How a file is opened. Files open for reading may be read by others; files open for writing are this
-/// process's own where the system has such locks.
+/// The mode in which a file is opened. Other processes may read a file open for reading; a file open for
+/// writing is this process's own on systems that have such locks.
 enum class FileMode : std::uint8_t {
   Read,       ///< existing file, for reading
   ReadWrite,  ///< existing file, for both
   Create,     ///< new or emptied file, for both
 };
 
-/// A named file as a byte stream, 64-bit positions. The name is UTF-16; "\" and "/" both separate folders.
+/// A named file as a byte stream with 64-bit positions. The name is UTF-16; "\" and "/" both separate
+/// folders.
 ///
-/// A file that cannot seek (a pipe, a terminal) is read like one that can: what it gave stays in memory.
-/// Opening and reading it wait for whoever writes it, and `Size` waits for its end.
+/// A file that cannot seek (a pipe, a terminal) is read like one that can: the bytes read stay in memory.
+/// Opening and reading it wait for its writer, and `Size` waits for its end.
 class RAVO_API FileStream final : public ByteStream {
  public:
-  /// Throws `StreamError` (open) with the name and the system's own words if the file cannot be opened.
+  /// Opens a file. Throws `StreamError` (open) with the name and the system's message if that fails.
   FileStream(std::u16string_view name, FileMode mode);
   ~FileStream() override;
 

@@ -28,8 +28,8 @@ std::int64_t KeptInput::Size() {
   return static_cast<std::int64_t>(used_);
 }
 
-// Makes room first: bytes that were read and found none would be lost. An end is final: a terminal would go
-// on after it.
+// Makes room first: bytes read without room for them would be lost. An end is final, although a terminal
+// could go on after it.
 bool KeptInput::ReadMore() {
   if (ended_) return false;
   if (bytes_.size() - used_ < kPiece) bytes_.resize(std::max(2 * used_, kPiece));

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ravo/platform/file_system.h>
+#include <ravo/platform/file_handle.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -9,15 +9,15 @@
 
 namespace ravo::platform {
 
-/// The bytes of a file that cannot seek, kept in memory as they are read, so that a reader can go back to any
-/// of them.
+/// A file that cannot seek. Keeps the bytes read so far in memory, so that a reader can go back to any of
+/// them.
 class KeptInput {
  public:
   explicit KeptInput(FileHandle file) noexcept : file_(file) {}
 
-  /// Reads at most `to.size()` bytes at `position`, once one of them is there; 0 at the end.
+  /// Reads at most `to.size()` bytes at `position`, as soon as there is one; 0 at the end.
   [[nodiscard]] std::size_t Read(std::int64_t position, std::span<std::byte> to);
-  /// The number of bytes up to the end, which is waited for.
+  /// Waits for the end and returns the number of bytes up to it.
   [[nodiscard]] std::int64_t Size();
 
  private:

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cstdint>
 
-// Offsets and sizes below are those of the published PE/COFF format.
+// Offsets and sizes are those of the published PE/COFF format.
 namespace ravo::platform {
 namespace {
 
@@ -16,14 +16,14 @@ constexpr std::size_t kSectionHeaderSize = 40;
 constexpr std::size_t kDirectoryHeaderSize = 16;
 constexpr std::size_t kDirectoryEntrySize = 8;
 constexpr std::size_t kDataEntrySize = 16;
-// The loader takes no image with more.
+// The loader refuses images with more.
 constexpr std::size_t kMostSections = 96;
 constexpr std::size_t kMostResourceBytes = 1 << 20;
 constexpr std::uint32_t kResourceDirectory = 2;
 constexpr std::uint32_t kVersionType = 16;
 constexpr std::uint32_t kSubdirectory = 0x80000000;
 
-// A piece of the file; `size` bytes of it are known to be there by the headers, not yet by the file.
+// A part of the file. The headers say that `size` bytes are there; the file may be shorter.
 struct Piece {
   std::int64_t offset = 0;
   std::uint32_t size = 0;
@@ -45,7 +45,7 @@ struct DirectoryEntry {
   std::uint32_t target = 0;
 };
 
-// All of the wanted bytes or none; memory is taken only for what the file can hold.
+// Returns all of the bytes or none. Checks the file's size before allocating.
 std::optional<Bytes> ReadAt(ByteStream& file, std::int64_t offset, std::size_t size) {
   const std::int64_t file_size = file.Size();
   if (offset > file_size || static_cast<std::uint64_t>(file_size - offset) < size) return std::nullopt;
@@ -60,7 +60,8 @@ std::optional<Bytes> ReadAt(ByteStream& file, std::int64_t offset, std::size_t s
   return bytes;
 }
 
-// Where the resources begin, by the data directories of the optional header; 0 where it has none.
+// Returns the address of the resources by the data directories of the optional header; 0 if there are no
+// resources.
 std::uint32_t ResourceAddressOf(const Bytes& optional_header) {
   if (optional_header.size() < 2) return 0;
   const std::uint16_t magic = ReadLittle16(optional_header, 0);
@@ -81,7 +82,7 @@ std::vector<Section> SectionsOf(const Bytes& table) {
   return sections;
 }
 
-// Where the PE header begins, by the DOS header; no value where the file has none.
+// Returns the offset of the PE header by the DOS header; no value if there is no DOS header.
 std::optional<std::int64_t> FindPeHeader(ByteStream& file) {
   const auto dos = ReadAt(file, 0, kDosHeaderSize);
   if (!dos || ReadLittle16(*dos, 0) != 0x5A4D) return std::nullopt;
@@ -104,7 +105,7 @@ std::optional<Headers> ReadHeaders(ByteStream& file) {
   return Headers{ResourceAddressOf(*optional_header), SectionsOf(*table)};
 }
 
-// What of a section's bytes in the file follows an address.
+// Returns the part of a section's bytes in the file from an address on.
 std::optional<Piece> Locate(const Headers& headers, std::uint32_t address) {
   for (const Section& section : headers.sections) {
     if (address < section.address || address - section.address >= section.raw_size) continue;
@@ -114,7 +115,7 @@ std::optional<Piece> Locate(const Headers& headers, std::uint32_t address) {
   return std::nullopt;
 }
 
-// `size` bytes of a piece at an offset inside it.
+// Reads `size` bytes at an offset inside a piece.
 std::optional<Bytes> ReadInside(ByteStream& file, const Piece& piece, std::uint32_t offset,
                                 std::size_t size) {
   if (offset > piece.size || piece.size - offset < size) return std::nullopt;
@@ -134,7 +135,7 @@ std::vector<DirectoryEntry> ReadDirectory(ByteStream& file, const Piece& resourc
   return entries;
 }
 
-// The first entry of the directory that an entry leads to.
+// Returns the first entry of the directory that an entry points to.
 std::optional<DirectoryEntry> FirstBelow(ByteStream& file, const Piece& resources, DirectoryEntry entry) {
   if (!(entry.target & kSubdirectory)) return std::nullopt;
   const auto entries = ReadDirectory(file, resources, entry.target & ~kSubdirectory);

@@ -1,31 +1,30 @@
 #pragma once
 
+#include <ravo/platform/file_handle.h>
 #include <ravo/platform/file_stream.h>
-#include <ravo/platform/file_system.h>
 
 #include <cstddef>
 #include <cstdint>
 #include <span>
 #include <string_view>
 
-/// The system calls of `FileStream`. They throw `StreamError` with the system's own words if the system
-/// fails.
+/// The system calls of `FileStream`. They throw `StreamError` with the system's message if the system fails.
 namespace ravo::platform {
 
 [[nodiscard]] FileHandle OpenStream(std::u16string_view name, FileMode mode);
 void CloseStream(FileHandle file) noexcept;
 
-/// Whether bytes are read and written at any position. False for a pipe, a terminal.
+/// Tells whether the file is read and written at any position; false for a pipe or a terminal.
 [[nodiscard]] bool CanSeek(FileHandle file) noexcept;
 
 /// Reads at most `to.size()` bytes at `position`; 0 at the end.
 [[nodiscard]] std::size_t ReadAt(FileHandle file, std::int64_t position, std::span<std::byte> to);
-/// Reads on in a file that cannot seek, once there is something to read; 0 at the end.
+/// Reads on in a file that cannot seek, as soon as there are bytes; 0 at the end.
 [[nodiscard]] std::size_t ReadNext(FileHandle file, std::span<std::byte> to);
 /// Writes at most `from.size()` bytes at `position`; 0 if the system fails.
 [[nodiscard]] std::size_t WriteAt(FileHandle file, std::int64_t position, std::span<const std::byte> from);
 
-/// The size in bytes of a file that can seek.
+/// Returns the size in bytes of a file that can seek.
 [[nodiscard]] std::int64_t StreamSize(FileHandle file);
 
 }  // namespace ravo::platform

@@ -10,12 +10,12 @@ namespace {
 
 using Block = std::span<const std::byte>;
 
-// Length of the node, length of its value, kind of its value: 16 bits each, in front of its key.
+// Length of the node, length of its value, kind of its value: 16 bits each, before its key.
 constexpr std::size_t kHeaderSize = 6;
 constexpr std::uint16_t kTextValue = 1;
 
-// One node of the tree. Places are offsets into the block; value and children may lie behind `end` where the
-// node has none.
+// One node of the tree. Positions are offsets into the block; `value` and `children` may lie past `end` if
+// the node has none.
 struct Node {
   std::u16string key;
   std::size_t value_length = 0;
@@ -27,7 +27,7 @@ struct Node {
 
 constexpr std::size_t AlignUp(std::size_t offset) { return (offset + 3) & ~std::size_t{3}; }
 
-// The units from `at` to the first zero; no value where none comes before `end`.
+// Returns the units from `at` to the first zero; no value if there is no zero before `end`.
 std::optional<std::u16string> ReadKey(Block block, std::size_t at, std::size_t end) {
   std::u16string key;
   for (; end - at >= sizeof(char16_t); at += sizeof(char16_t)) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ravo/platform/machine.h>
+#include <ravo/platform/paths.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -12,12 +12,12 @@
 
 namespace ravo::platform {
 
-/// The first translation of a version resource's bytes (a VS_VERSION_INFO block); no value where there is
-/// none or the way to it is damaged.
+/// Returns the first translation in the bytes of a version resource (a VS_VERSION_INFO block); no value if
+/// it is missing or the way to it is damaged.
 [[nodiscard]] std::optional<std::uint32_t> FirstTranslationOf(std::span<const std::byte> block);
 
-/// The text of `key` in the string table named `table`, up to its first zero, the length that it states, or
-/// the end of its entry; no value where there is none or the way to it is damaged.
+/// Returns the text of `key` in the string table `table`, up to its first zero, its stated length, or the
+/// end of its entry; no value if it is missing or the way to it is damaged.
 [[nodiscard]] std::optional<std::u16string> VersionStringOf(std::span<const std::byte> block,
                                                             std::u16string_view table,
                                                             std::u16string_view key);

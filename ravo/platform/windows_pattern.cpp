@@ -6,8 +6,7 @@
 namespace ravo::platform {
 namespace {
 
-// There is no escape inside of quotes: a text that holds one kind of quote is written in pieces, each in the
-// other kind.
+// Quoted text has no escape: text with one kind of quote in it is written in pieces, each in the other kind.
 void AppendLiteral(std::u16string& out, std::u16string_view text) {
   while (!text.empty()) {
     const char16_t quote = text.front() == u'\'' ? u'"' : u'\'';
@@ -17,8 +16,8 @@ void AppendLiteral(std::u16string& out, std::u16string_view text) {
   }
 }
 
-// Takes a quoted text off the front of `rest`; two quotes inside stand for one, a missing last one is at the
-// end.
+// Removes a quoted text from the front of `rest`. Two quotes inside are one quote; a missing closing quote
+// is assumed at the end.
 std::u16string TakeQuoted(std::u16string_view& rest) {
   std::u16string text;
   rest.remove_prefix(1);
@@ -34,13 +33,13 @@ std::u16string TakeQuoted(std::u16string_view& rest) {
   return text;
 }
 
-// Letters that mean nothing to Windows but something to us need quotes, and so do quotes.
+// Letters that are literal for Windows but not for `FormatDateTime` need quotes, and so do quotes.
 void AppendOther(std::u16string& out, std::u16string_view run) {
   if (IsAsciiLetter(run.front()) || run.front() == u'"') return AppendLiteral(out, run);
   out += run;
 }
 
-// A run of `count` equal letters, longer runs meaning the same as the longest known.
+// A run of `count` equal letters. Longer runs mean the same as the longest known one.
 void AppendLetters(std::u16string& out, char16_t letter, std::size_t count) {
   const auto put = [&](char16_t ours, std::size_t most) { out.append(std::min(count, most), ours); };
   switch (letter) {

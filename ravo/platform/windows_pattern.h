@@ -5,9 +5,10 @@
 
 namespace ravo::platform {
 
-/// A date or time pattern as Windows keeps them in its locale facts, as a pattern of `FormatDateTime`. An era
-/// (g) has no counterpart and is left out; hours (h, H) become hours of whichever clock the pattern has by
-/// its AM/PM text.
+/// Returns a date or time pattern of the Windows locale settings as a pattern of `FormatDateTime`.
+///
+/// An era (g) has no counterpart and is dropped. Hours (h, H) become hours of the 12-hour clock if the
+/// pattern has AM/PM text, otherwise of the 24-hour clock.
 [[nodiscard]] std::u16string FromWindowsPattern(std::u16string_view pattern);
 
 }  // namespace ravo::platform

@@ -1,4 +1,4 @@
-#include <ravo/platform/machine.h>
+#include <ravo/platform/registry.h>
 #include <ravo/sysinfo/captions.h>
 #include <ravo/sysinfo/registry_text.h>
 #include <ravo/sysinfo/report_lines.h>
@@ -8,6 +8,10 @@
 
 namespace ravo::RavoInterfaceInfo {
 namespace {
+
+using sysinfo::AddHeading;
+using sysinfo::AddRow;
+using sysinfo::TextOf;
 
 constexpr std::size_t kMostBytes = 255;
 
@@ -26,8 +30,8 @@ BiosBuffer UnitsOf(std::span<const std::byte> bytes) {
 }  // namespace
 
 void TRavoSystemInfo::AddBios(std::u16string_view Indent) {
-  const auto key = platform::CurrentMachine().OpenKey(platform::RegistryRoot::LocalMachine,
-                                                      u"\\HARDWARE\\DESCRIPTION\\System");
+  const auto key =
+      platform::Registry().OpenKey(platform::RegistryRoot::LocalMachine, u"\\HARDWARE\\DESCRIPTION\\System");
   AddHeading(FStrings, Indent, _rSystemBIOS.View());
   AddRow(FStrings, Indent, _rSystemBIOSName.View(), TextOf(key, u"Identifier"));
   AddRow(FStrings, Indent, _rSystemBIOSDate.View(), TextOf(key, u"SystemBiosDate"));

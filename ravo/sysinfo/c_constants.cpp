@@ -1,15 +1,4 @@
-#include <ravo/frame/module_record.h>
-#include <ravo/runtime/utf16_units.h>
 #include <ravo/sysinfo/c_constants.h>
 
-// Their texts, and then what names them.
-namespace {
-#define RAVO_STRING(name, id, text) constexpr auto kTextOf##name = ravo::Utf16Units(u##text);
-#include <ravo/sysinfo/captions.inc>
-#undef RAVO_STRING
-}  // namespace
-
-#define RAVO_STRING(name, id, text) \
-  constinit const RavoResourceString name = {&ravo::frame::library_module.Instance, id, kTextOf##name.data()};
-#include <ravo/sysinfo/captions.inc>
-#undef RAVO_STRING
+#define RAVO_STRINGS "ravo/sysinfo/captions.inc"
+#include <ravo/frame/c_strings.inc>

@@ -7,7 +7,7 @@
 ///
 /// Eleven of the names are this library's own choice: the report layer's package `RavoReportLowLevel.bpl` and
 /// the ten `RavoPresentation*.bpl`, named after the modules whose presentation layer they are.
-namespace ravo::RavoInterfaceInfo {
+namespace ravo::sysinfo {
 
 /// Run-time packages of the user-interface framework.
 inline constexpr auto kVclFiles = std::to_array<std::u16string_view>({
@@ -84,4 +84,4 @@ inline constexpr auto kBusinessFiles = std::to_array<std::u16string_view>({
     u"RavoRSS.dll",
 });
 
-}  // namespace ravo::RavoInterfaceInfo
+}  // namespace ravo::sysinfo

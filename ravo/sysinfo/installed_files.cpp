@@ -1,4 +1,7 @@
-#include <ravo/platform/machine.h>
+#include <ravo/platform/files.h>
+#include <ravo/platform/locale.h>
+#include <ravo/platform/paths.h>
+#include <ravo/platform/registry.h>
 #include <ravo/runtime/date_text.h>
 #include <ravo/runtime/error.h>
 #include <ravo/runtime/text.h>
@@ -11,7 +14,15 @@
 namespace ravo::RavoInterfaceInfo {
 namespace {
 
-using platform::CurrentMachine;
+using sysinfo::AddHeading;
+using sysinfo::AddNestedRow;
+using sysinfo::AddRow;
+using sysinfo::AddSubHeading;
+using sysinfo::kBusinessFiles;
+using sysinfo::kReportFiles;
+using sysinfo::kVclFiles;
+using sysinfo::kVisualFiles;
+using sysinfo::TextOf;
 
 // The in-process server of the application layer.
 constexpr std::u16string_view kBusinessServerPath =
@@ -33,24 +44,24 @@ std::size_t FolderLength(std::u16string_view name) { return name.find_last_of(u"
 std::u16string FolderOf(std::u16string_view name) {
   std::u16string_view folder = name.substr(0, FolderLength(name));
   if (!folder.empty() && folder.back() != u':') folder.remove_suffix(1);
-  return std::u16string(folder) + CurrentMachine().PathDelimiter();
+  return std::u16string(folder) + platform::Paths().PathDelimiter();
 }
 
 // Kept: client files are looked for in the current folder, not in that of the running program. Test:
 // InstalledFiles.ClientFilesAreLookedForInTheCurrentFolder
-std::u16string CurrentFolder() { return FolderOf(CurrentMachine().FullPath(u"Ravo.exe")); }
+std::u16string CurrentFolder() { return FolderOf(platform::Paths().FullPath(u"Ravo.exe")); }
 
 // A time stamp that no calendar date can name must not cost the user the whole report.
 std::u16string TimeStampText(DateTime written) {
   try {
-    return DateTimeText(written, CurrentMachine().Locale());
+    return DateTimeText(written, platform::Locale().Settings());
   } catch (const ConvertError&) {
     return {};
   }
 }
 
 bool FileExists(std::u16string_view name) {
-  const auto facts = CurrentMachine().FindFile(name);
+  const auto facts = platform::Paths().FindFile(name);
   return facts && (facts->attributes & platform::kFolderAttribute) == 0;
 }
 
@@ -103,7 +114,7 @@ void TRavoSystemInfo::AddFileInfo(std::u16string_view Indent, std::u16string_vie
 
 std::u16string TRavoSystemInfo::GetFileAttr(std::u16string_view FileName,
                                             std::u16string_view AttrName) const {
-  const auto facts = CurrentMachine().FindFile(FileName);
+  const auto facts = platform::Paths().FindFile(FileName);
   // Untested: the file would have to be deleted while the report is made.
   if (!facts) return {};
   if (AttrName == kSize) return ToText(facts->size) + u" B";
@@ -115,7 +126,7 @@ std::u16string TRavoSystemInfo::GetFileAttr(std::u16string_view FileName,
 }
 
 std::u16string TRavoSystemInfo::GetFileInfo(std::u16string_view FileName, std::u16string_view Key) const {
-  const auto version = CurrentMachine().OpenVersionResource(FileName);
+  const auto version = platform::Paths().OpenVersionResource(FileName);
   const auto translation = version ? version->FirstTranslation() : std::nullopt;
   if (!translation) return {};
   std::u16string text = version->String(TableName(*translation), Key).value_or(std::u16string());
@@ -127,7 +138,7 @@ std::u16string TRavoSystemInfo::GetFileInfo(std::u16string_view FileName, std::u
 // Kept: for an unregistered server the result is the root of the current drive. Test:
 // InstalledFiles.AnUnregisteredServerMeansTheRootOfTheDrive
 std::u16string TRavoSystemInfo::GetBusinessPath() const {
-  const auto key = CurrentMachine().OpenKey(platform::RegistryRoot::ClassesRoot, kBusinessServerPath);
+  const auto key = platform::Registry().OpenKey(platform::RegistryRoot::ClassesRoot, kBusinessServerPath);
   return FolderOf(TextOf(key, u""));
 }
 

@@ -1,7 +1,9 @@
 #include <ravo/common/byte_size.h>
-#include <ravo/platform/machine.h>
+#include <ravo/platform/registry.h>
+#include <ravo/platform/system.h>
 #include <ravo/runtime/text.h>
 #include <ravo/sysinfo/captions.h>
+#include <ravo/sysinfo/os_version_of.h>
 #include <ravo/sysinfo/registry_text.h>
 #include <ravo/sysinfo/report_lines.h>
 #include <ravo/sysinfo/system_info.h>
@@ -9,7 +11,13 @@
 namespace ravo::RavoInterfaceInfo {
 namespace {
 
-using platform::CurrentMachine;
+using sysinfo::AddHeading;
+using sysinfo::AddNestedRow;
+using sysinfo::AddRow;
+using sysinfo::AddSubHeading;
+using sysinfo::IsNt;
+using sysinfo::TextOf;
+
 using platform::RegistryRoot;
 
 std::u16string_view CurrentVersionPath(TOSVersion kind) {
@@ -23,7 +31,7 @@ constexpr std::u16string_view kServicePack6aPath =
     u"\\SOFTWARE\\Microsoft\\WindowsNT\\CurrentVersion\\Hotfix\\Q246009";
 
 bool HasServicePack6a() {
-  const auto key = CurrentMachine().OpenKey(RegistryRoot::LocalMachine, kServicePack6aPath);
+  const auto key = platform::Registry().OpenKey(RegistryRoot::LocalMachine, kServicePack6aPath);
   return key && key->Integer(u"Installed") == 1;
 }
 
@@ -56,8 +64,8 @@ std::u16string NumbersOf(const platform::SystemVersion& version) {
 }  // namespace
 
 void TRavoSystemInfo::AddOS(std::u16string_view Indent) {
-  const platform::SystemVersion version = CurrentMachine().BasicVersion();
-  const auto key = CurrentMachine().OpenKey(RegistryRoot::LocalMachine, CurrentVersionPath(OSVersion_));
+  const platform::SystemVersion version = platform::System().BasicVersion();
+  const auto key = platform::Registry().OpenKey(RegistryRoot::LocalMachine, CurrentVersionPath(OSVersion_));
   const ServicePack pack =
       key ? ServicePackOf(OSVersion_, version.service_pack) : ServicePack{version.service_pack, {}};
   const auto row = [&](std::u16string_view caption, std::u16string_view value) {

@@ -1,8 +1,10 @@
 #include <ravo/runtime/text.h>
-#include <ravo/sysinfo/os_version.h>
+#include <ravo/sysinfo/os_version_of.h>
 
-namespace ravo::RavoInterfaceInfo {
+namespace ravo::sysinfo {
 namespace {
+
+using namespace RavoInterfaceInfo;  // its enumerators
 
 using platform::ProductType;
 using platform::SystemFamily;
@@ -94,4 +96,4 @@ bool IsNt(TOSVersion kind) noexcept {
   return kind == osNT3 || kind == osNT4 || kind == os2K || (kind >= osXP && kind <= osW7);
 }
 
-}  // namespace ravo::RavoInterfaceInfo
+}  // namespace ravo::sysinfo

@@ -1,8 +1,5 @@
 #pragma once
 
-#include <ravo/platform/machine.h>
-#include <ravo/runtime/export.h>
-
 #include <cstdint>
 
 namespace ravo::RavoInterfaceInfo {
@@ -28,13 +25,5 @@ enum TOSVersion : std::uint8_t {
   osS2008R2,
   osW7
 };
-
-/// The kind that a version record speaks of; `osUnknown` for what is newer than the last kind, older than the
-/// first, or no Windows.
-[[nodiscard]] TOSVersion OSVersionOf(const platform::SystemVersion& version, bool is_server_r2,
-                                     std::uint16_t architecture);
-
-/// Whether a kind is one of the NT line.
-[[nodiscard]] bool IsNt(TOSVersion kind) noexcept;
 
 }  // namespace ravo::RavoInterfaceInfo

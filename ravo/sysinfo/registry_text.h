@@ -1,12 +1,12 @@
 #pragma once
 
-#include <ravo/platform/machine.h>
+#include <ravo/platform/registry.h>
 
 #include <memory>
 #include <string>
 #include <string_view>
 
-namespace ravo::RavoInterfaceInfo {
+namespace ravo::sysinfo {
 
 /// A value's text; empty where the key did not open or the value has no text.
 [[nodiscard]] inline std::u16string TextOf(const std::unique_ptr<platform::RegistryKey>& key,
@@ -14,4 +14,4 @@ namespace ravo::RavoInterfaceInfo {
   return key ? key->Text(name).value_or(std::u16string()) : std::u16string();
 }
 
-}  // namespace ravo::RavoInterfaceInfo
+}  // namespace ravo::sysinfo

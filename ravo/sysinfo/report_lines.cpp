@@ -3,7 +3,7 @@
 #include <initializer_list>
 #include <string>
 
-namespace ravo::RavoInterfaceInfo {
+namespace ravo::sysinfo {
 namespace {
 
 void AddJoined(StringList& lines, std::initializer_list<std::u16string_view> pieces) {
@@ -32,4 +32,4 @@ void AddNestedRow(StringList& lines, std::u16string_view indent, std::u16string_
   AddJoined(lines, {indent, u"\t\t", caption, u": ", value});
 }
 
-}  // namespace ravo::RavoInterfaceInfo
+}  // namespace ravo::sysinfo

@@ -5,7 +5,7 @@
 #include <string_view>
 
 /// The kinds of lines that the report is made of. Depth is counted in tabs behind the section's own indent.
-namespace ravo::RavoInterfaceInfo {
+namespace ravo::sysinfo {
 
 /// A caption at the depth of the indent itself.
 void AddHeading(StringList& lines, std::u16string_view indent, std::u16string_view caption);
@@ -21,4 +21,4 @@ void AddRow(StringList& lines, std::u16string_view indent, std::u16string_view c
 void AddNestedRow(StringList& lines, std::u16string_view indent, std::u16string_view caption,
                   std::u16string_view value);
 
-}  // namespace ravo::RavoInterfaceInfo
+}  // namespace ravo::sysinfo

@@ -1,17 +1,26 @@
 #include <ravo/common/byte_size.h>
-#include <ravo/platform/machine.h>
+#include <ravo/platform/drives.h>
+#include <ravo/platform/folders.h>
+#include <ravo/platform/locale.h>
+#include <ravo/platform/system.h>
 #include <ravo/runtime/date_text.h>
 #include <ravo/sysinfo/captions.h>
+#include <ravo/sysinfo/os_version_of.h>
 #include <ravo/sysinfo/report_lines.h>
 #include <ravo/sysinfo/system_info.h>
 
 namespace ravo::RavoInterfaceInfo {
 
-using platform::CurrentMachine;
+using sysinfo::AddHeading;
+using sysinfo::AddNestedRow;
+using sysinfo::AddRow;
+using sysinfo::AddSubHeading;
+using sysinfo::OSVersionOf;
+
 using platform::SystemFolder;
 using RavoInterfaceCommon::BytesToStr;
 
-std::u16string GetTempDirectory() { return CurrentMachine().Folder(SystemFolder::Temporary); }
+std::u16string GetTempDirectory() { return platform::Folders().Folder(SystemFolder::Temporary); }
 
 TRavoSystemInfo::TRavoSystemInfo() { GetOS(); }
 
@@ -37,8 +46,8 @@ std::u16string TRavoSystemInfo::AsText(TRavoSystemInfoTyp ATyp) {
 
 // One reading of the clock, so that a report made at midnight does not mix two days.
 void TRavoSystemInfo::AddDateTime(std::u16string_view Indent) {
-  const FormatSettings locale = CurrentMachine().Locale();
-  const DateTime now = CurrentMachine().Now();
+  const FormatSettings locale = platform::Locale().Settings();
+  const DateTime now = platform::Locale().Now();
   AddHeading(FStrings, Indent, _rSystemLog.View());
   AddRow(FStrings, Indent, _rSystemDate.View(), FormatDateTime(locale.short_date, now, locale));
   AddRow(FStrings, Indent, _rSystemDay.View(), FormatDateTime(u"dddd", now, locale));
@@ -46,16 +55,16 @@ void TRavoSystemInfo::AddDateTime(std::u16string_view Indent) {
 }
 
 void TRavoSystemInfo::AddHDInfo(std::u16string_view Indent) {
-  const platform::Machine& machine = CurrentMachine();
   AddHeading(FStrings, Indent, _rSystemHD.View());
-  const std::uint32_t drives = machine.LogicalDrives();
+  const platform::DriveCalls& calls = platform::Drives();
+  const std::uint32_t drives = calls.LogicalDrives();
   platform::DiskSpace space;
   for (unsigned bit = 0; bit < 32; ++bit) {
     const std::u16string drive{static_cast<char16_t>(u'A' + bit), u':'};
-    if (((drives >> bit) & 1) == 0 || machine.KindOfDrive(drive) != platform::DriveKind::Fixed) continue;
+    if (((drives >> bit) & 1) == 0 || calls.KindOfDrive(drive) != platform::DriveKind::Fixed) continue;
     // Kept: a drive whose query fails shows the numbers of the drive before it. Test:
     // Drives.AFailedQueryRepeatsTheDriveBefore
-    space = machine.SpaceOfFolder(drive).value_or(space);
+    space = calls.SpaceOfFolder(drive).value_or(space);
     AddSubHeading(FStrings, Indent, drive);
     AddNestedRow(FStrings, Indent, _rSystemHDSpace.View(), BytesToStr(space.total, true));
     AddNestedRow(FStrings, Indent, _rSystemHDFreeSpace.View(), BytesToStr(space.available, true));
@@ -63,25 +72,24 @@ void TRavoSystemInfo::AddHDInfo(std::u16string_view Indent) {
 }
 
 void TRavoSystemInfo::GetOS() {
-  const platform::Machine& machine = CurrentMachine();
-  OSVersion_ = OSVersionOf(machine.Version(), machine.IsServerR2(), machine.ProcessorArchitecture());
+  const platform::SystemCalls& system = platform::System();
+  OSVersion_ = OSVersionOf(system.Version(), system.IsServerR2(), system.ProcessorArchitecture());
 }
 
 std::u16string TRavoSystemInfo::GetAPIString(TApiString Kind) const {
-  const platform::Machine& machine = CurrentMachine();
   switch (Kind) {
     case asSystemDir:
-      return machine.Folder(SystemFolder::System);
+      return platform::Folders().Folder(SystemFolder::System);
     case asWindowsDir:
-      return machine.Folder(SystemFolder::Windows);
+      return platform::Folders().Folder(SystemFolder::Windows);
     case asTempDir:
-      return machine.Folder(SystemFolder::Temporary);
+      return platform::Folders().Folder(SystemFolder::Temporary);
     case asComputerName:
-      return machine.ComputerName();
+      return platform::System().ComputerName();
     case asUserName:
-      return machine.UserName();
+      return platform::System().UserName();
     case asAllDataApp:
-      return machine.Folder(SystemFolder::CommonDocuments);
+      return platform::Folders().Folder(SystemFolder::CommonDocuments);
     // Untested: callers pass a value of the enumeration, and all are above.
     default:
       return {};
@@ -89,7 +97,7 @@ std::u16string TRavoSystemInfo::GetAPIString(TApiString Kind) const {
 }
 
 std::uint32_t TRavoSystemInfo::GetAPIInteger(TApiInteger Kind) const {
-  const platform::MemoryFigures memory = CurrentMachine().Memory();
+  const platform::MemoryFigures memory = platform::System().Memory();
   switch (Kind) {
     case aiTotalPhysMemory:
       return memory.total_physical;

@@ -9,6 +9,10 @@
 #include <string>
 #include <string_view>
 
+namespace ravo::platform {
+class RegistryKey;
+}  // namespace ravo::platform
+
 /// The support report: facts about the computer, its system, memory and disks and the suite's installed
 /// files, as a text indented with tabs, for the user to copy into a request for support.
 namespace ravo::RavoInterfaceInfo {

@@ -1,16 +1,15 @@
 #include <ravo/codec/texts.h>
-#include <ravo/platform/machine.h>
+#include <ravo/platform/code_pages.h>
 #include <ravo/unicode/code_pages.h>
 
 #include <utility>
 
-namespace ravo::unicode {
+namespace ravo {
 
-// The system's own conversion where it has one, then the encodings of the library.
+// The system's own conversion if it has one, then the encodings of the library.
 std::u16string FromCodePage(std::string_view bytes, std::uint32_t code_page) {
-  const platform::Machine& machine = platform::CurrentMachine();
-  if (code_page == kSystemCodePage) return machine.FromCodePage(bytes);
-  if (auto text = machine.DecodeCodePage(code_page, bytes)) return *std::move(text);
+  if (code_page == kSystemCodePage) return platform::CodePages().FromCodePage(bytes);
+  if (auto text = platform::CodePages().DecodeCodePage(code_page, bytes)) return *std::move(text);
   const codec::Encoding* const encoding = codec::FindEncoding(code_page);
   // Untested: every encoding with a code page can be read.
   return encoding != nullptr && encoding->decode_one != nullptr ? codec::Decoded(*encoding, bytes)
@@ -18,21 +17,20 @@ std::u16string FromCodePage(std::string_view bytes, std::uint32_t code_page) {
 }
 
 std::string ToCodePage(std::u16string_view text, std::uint32_t code_page) {
-  const platform::Machine& machine = platform::CurrentMachine();
-  if (code_page == kSystemCodePage) return machine.ToCodePage(text);
-  if (auto bytes = machine.EncodeCodePage(code_page, text)) return *std::move(bytes);
+  if (code_page == kSystemCodePage) return platform::CodePages().ToCodePage(text);
+  if (auto bytes = platform::CodePages().EncodeCodePage(code_page, text)) return *std::move(bytes);
   const codec::Encoding* const encoding = codec::FindEncoding(code_page);
   return encoding != nullptr && encoding->encode_one != nullptr ? codec::Encoded(*encoding, text)
                                                                 : std::string();
 }
 
-}  // namespace ravo::unicode
+}  // namespace ravo
 
 namespace ravo::DIUnicode {
 
 std::uint32_t CodePageFromLocale(std::uint32_t Locale) {
-  const platform::Machine& machine = platform::CurrentMachine();
-  return machine.CodePageOfLocale(Locale).value_or(machine.CodePage());
+  const platform::CodePageCalls& code_pages = platform::CodePages();
+  return code_pages.CodePageOfLocale(Locale).value_or(code_pages.CodePage());
 }
 
 }  // namespace ravo::DIUnicode

@@ -6,19 +6,24 @@
 #include <string>
 #include <string_view>
 
-namespace ravo::unicode {
+namespace ravo {
 
-/// What stands for the code page of the system.
+/// The number that means the system's own 8-bit code page.
 inline constexpr std::uint32_t kSystemCodePage = 0;
 
 /// Returns 8-bit text of a code page as UTF-16; empty if the code page is unknown.
-[[nodiscard]] std::u16string FromCodePage(std::string_view bytes, std::uint32_t code_page);
+///
+/// `code_page` is the number that Windows gives it.
+[[nodiscard]] RAVO_API std::u16string FromCodePage(std::string_view bytes,
+                                                   std::uint32_t code_page = kSystemCodePage);
 
-/// Returns UTF-16 as 8-bit text of a code page; empty if the code page is unknown. A character that it lacks
-/// becomes what the system puts in its place, "?" at the latest.
-[[nodiscard]] std::string ToCodePage(std::u16string_view text, std::uint32_t code_page);
+/// Returns UTF-16 text as 8-bit text of a code page; empty if the code page is unknown.
+///
+/// A character that the code page lacks becomes what the system puts in its place, "?" at the latest.
+[[nodiscard]] RAVO_API std::string ToCodePage(std::u16string_view text,
+                                              std::uint32_t code_page = kSystemCodePage);
 
-}  // namespace ravo::unicode
+}  // namespace ravo
 
 namespace ravo::DIUnicode {
 

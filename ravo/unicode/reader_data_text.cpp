@@ -55,17 +55,17 @@ std::u16string TDIUnicodeReader::DataAsStrTrimLeftW(CharPredicate Validate) cons
 std::string TDIUnicodeReader::DataAsStr8() const { return ToUtf8(Data()); }
 
 std::string TDIUnicodeReader::DataAsStrA(std::uint32_t CodePage) const {
-  return unicode::ToCodePage(Data(), CodePage);
+  return ToCodePage(Data(), CodePage);
 }
 
 std::string TDIUnicodeReader::DataAsStrTrimA(std::uint32_t CodePage, CharPredicate Validate) const {
-  return unicode::ToCodePage(TrimmedDataStartAndLength(Validate), CodePage);
+  return ToCodePage(TrimmedDataStartAndLength(Validate), CodePage);
 }
 
-std::string TDIUnicodeReader::DataToStrA() const { return DataAsStrA(unicode::kSystemCodePage); }
+std::string TDIUnicodeReader::DataToStrA() const { return DataAsStrA(kSystemCodePage); }
 
 std::string TDIUnicodeReader::DataToStrTrimA(CharPredicate Validate) const {
-  return DataAsStrTrimA(unicode::kSystemCodePage, Validate);
+  return DataAsStrTrimA(kSystemCodePage, Validate);
 }
 
 bool TDIUnicodeReader::DataIsChars(CharPredicate Validate) const {

@@ -112,7 +112,7 @@ std::u16string TDIUnicodeWriter::DataToStrW() const {
 }
 
 std::string TDIUnicodeWriter::DataToStrA(std::uint32_t CodePage) const {
-  return unicode::ToCodePage(DataToStrW(), CodePage);
+  return ToCodePage(DataToStrW(), CodePage);
 }
 
 std::string TDIUnicodeWriter::DataToStrRaw() const { return {FData.get(), FData.get() + FDataSize}; }

@@ -63,7 +63,7 @@ bool TDIUnicodeWriter::WriteStrLineBreakW(std::u16string_view Value) {
 }
 
 bool TDIUnicodeWriter::WriteStrA(std::string_view Value, std::uint32_t CodePage) {
-  return WriteStrW(unicode::FromCodePage(Value, CodePage));
+  return WriteStrW(FromCodePage(Value, CodePage));
 }
 
 bool TDIUnicodeWriter::WriteBufA(const char* Buffer, std::uint32_t CharCount, std::uint32_t CodePage) {

@@ -1,4 +1,4 @@
-#include <ravo/platform/machine.h>
+#include <ravo/platform/locale.h>
 #include <ravo/runtime/checked.h>
 #include <ravo/utils/calendar.h>
 #include <ravo/utils/calendar_formulas.h>
@@ -33,7 +33,7 @@ bool IsFixedHoliday(const utils::Ymd& date) {
 // Good Friday, Easter Monday, Ascension Day, Whit Monday.
 bool IsFeastAfterEaster(std::int32_t days) { return days == -2 || days == 1 || days == 39 || days == 50; }
 
-DateParts Today() { return SplitDateTime(platform::CurrentMachine().Now()).date; }
+DateParts Today() { return SplitDateTime(platform::Locale().Now()).date; }
 
 }  // namespace
 

@@ -1,3 +1,6 @@
+#include <ravo/platform/diagnostics.h>
+#include <ravo/platform/registry.h>
+#include <ravo/platform/system.h>
 #include <ravo/utils/ansi_text.h>
 #include <ravo/utils/environment.h>
 #include <ravo/utils/strings/narrow.h>
@@ -5,7 +8,6 @@
 namespace ravo::DIUtils {
 namespace {
 
-using platform::CurrentMachine;
 using platform::RegistryRoot;
 using utils::Wide;
 
@@ -25,7 +27,7 @@ std::string RegReadStrDefA(RegistryRoot root, std::string_view key, std::string_
 }
 std::u16string RegReadStrDefW(RegistryRoot root, std::u16string_view key, std::u16string_view value,
                               std::u16string_view fallback) {
-  const auto open = CurrentMachine().OpenKey(root, key);
+  const auto open = platform::Registry().OpenKey(root, key);
   auto text = open ? open->StoredText(value) : std::nullopt;
   if (!text) return std::u16string(fallback);
   // Kept: the last unit of the stored text is cut off unseen; it is the terminating zero of a text that the
@@ -47,14 +49,14 @@ std::u16string RegReadRegisteredOrganizationW() {
 std::u16string SysErrorMessage(std::uint32_t code) { return SysErrorMessageW(code); }
 std::string SysErrorMessageA(std::uint32_t code) { return WStrToAStr(SysErrorMessageW(code)); }
 std::u16string SysErrorMessageW(std::uint32_t code) {
-  std::u16string text = CurrentMachine().ErrorText(code);
+  std::u16string text = platform::Diagnostics().ErrorText(code);
   while (!text.empty() && IsBehindASentence(text.back())) text.pop_back();
   return text;
 }
 
 std::u16string LastSysErrorMessage() { return LastSysErrorMessageW(); }
-std::string LastSysErrorMessageA() { return SysErrorMessageA(CurrentMachine().LastErrorCode()); }
-std::u16string LastSysErrorMessageW() { return SysErrorMessageW(CurrentMachine().LastErrorCode()); }
+std::string LastSysErrorMessageA() { return SysErrorMessageA(platform::Diagnostics().LastErrorCode()); }
+std::u16string LastSysErrorMessageW() { return SysErrorMessageW(platform::Diagnostics().LastErrorCode()); }
 
 bool GetUserNameA(std::string& name) {
   std::u16string wide;
@@ -63,12 +65,12 @@ bool GetUserNameA(std::string& name) {
   return known;
 }
 bool GetUserNameW(std::u16string& name) {
-  name = CurrentMachine().UserName();
+  name = platform::System().UserName();
   return !name.empty();
 }
 
 platform::TextSize TextExtentW(platform::DeviceContext device, std::u16string_view text) {
-  return CurrentMachine().TextExtent(device, text).value_or(platform::TextSize{});
+  return platform::System().TextExtent(device, text).value_or(platform::TextSize{});
 }
 std::int32_t TextWidthW(platform::DeviceContext device, std::u16string_view text) {
   return TextExtentW(device, text).width;

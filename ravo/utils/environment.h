@@ -1,6 +1,7 @@
 #pragma once
 
-#include <ravo/platform/machine.h>
+#include <ravo/platform/registry_root.h>
+#include <ravo/platform/text_size.h>
 #include <ravo/runtime/error.h>
 #include <ravo/runtime/export.h>
 

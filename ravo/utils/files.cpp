@@ -1,4 +1,5 @@
-#include <ravo/platform/machine.h>
+#include <ravo/platform/files.h>
+#include <ravo/platform/paths.h>
 #include <ravo/utils/ansi_text.h>
 #include <ravo/utils/files.h>
 #include <ravo/utils/folders.h>
@@ -19,21 +20,21 @@ constexpr std::int32_t kLastYear = 30827;
 bool FileExists(std::u16string_view name) { return FileExistsW(name); }
 bool FileExistsA(std::string_view name) { return FileExistsW(Wide(name)); }
 bool FileExistsW(std::u16string_view name) {
-  const auto attributes = platform::CurrentMachine().Files().Attributes(name);
+  const auto attributes = platform::Files().Attributes(name);
   return attributes && (*attributes & platform::kFolderAttribute) == 0;
 }
 
 std::int64_t GetFileSize(std::u16string_view name) { return GetFileSizeW(name); }
 std::int64_t GetFileSizeA(std::string_view name) { return GetFileSizeW(Wide(name)); }
 std::int64_t GetFileSizeW(std::u16string_view name) {
-  const auto found = platform::CurrentMachine().FindFile(name);
+  const auto found = platform::Paths().FindFile(name);
   return found ? found->size : -1;
 }
 
 bool SetFileDate(FileHandle file, std::int32_t year, std::uint16_t month, std::uint16_t day) {
   // Not every system refuses such days.
   if (year < kFirstYear || year > kLastYear || !IsDateValid(year, month, day)) return false;
-  return platform::CurrentMachine().Files().SetTimes(file, static_cast<std::uint16_t>(year), month, day);
+  return platform::Files().SetTimes(file, static_cast<std::uint16_t>(year), month, day);
 }
 
 bool SetFileDateYmd(std::u16string_view name, std::int32_t year, std::uint16_t month, std::uint16_t day) {
@@ -61,6 +62,6 @@ bool SetFileDateW(std::u16string_view name, TJulianDate date) {
 
 bool DeleteFile(std::u16string_view name) { return DeleteFileW(name); }
 bool DeleteFileA(std::string_view name) { return DeleteFileW(Wide(name)); }
-bool DeleteFileW(std::u16string_view name) { return platform::CurrentMachine().Files().RemoveFile(name); }
+bool DeleteFileW(std::u16string_view name) { return platform::Files().RemoveFile(name); }
 
 }  // namespace ravo::DIUtils

@@ -1,4 +1,5 @@
-#include <ravo/platform/machine.h>
+#include <ravo/platform/drives.h>
+#include <ravo/platform/files.h>
 #include <ravo/utils/ansi_text.h>
 #include <ravo/utils/file_name_parts.h>
 #include <ravo/utils/folders.h>
@@ -15,18 +16,17 @@ constexpr std::size_t kShortestFolder = 3;
 bool IsDrive(std::u16string_view folder) { return folder.size() == 2 && folder.back() == u':'; }
 
 std::int64_t SpaceOf(std::u16string_view folder, std::int64_t platform::DiskSpace::*part) {
-  const auto space = platform::CurrentMachine().SpaceOfFolder(folder);
+  const auto space = platform::Drives().SpaceOfFolder(folder);
   return space ? *space.*part : -1;
 }
 
 }  // namespace
 
-using platform::CurrentMachine;
 using utils::Wide;
 
 bool DirectoryExistsA(std::string_view folder) { return DirectoryExistsW(Wide(folder)); }
 bool DirectoryExistsW(std::u16string_view folder) {
-  const auto attributes = CurrentMachine().Files().Attributes(folder);
+  const auto attributes = platform::Files().Attributes(folder);
   return attributes && (*attributes & platform::kFolderAttribute) != 0;
 }
 
@@ -43,7 +43,7 @@ bool ForceDirectoriesW(std::u16string_view folder) {
     folder = parent;
   }
   return std::all_of(missing.rbegin(), missing.rend(),
-                     [](std::u16string_view name) { return CurrentMachine().Files().CreateFolder(name); });
+                     [](std::u16string_view name) { return platform::Files().CreateFolder(name); });
 }
 
 bool DeleteDirectory(std::u16string_view folder, bool with_folder) {
@@ -53,7 +53,7 @@ bool DeleteDirectoryA(std::string_view folder, bool with_folder) {
   return DeleteDirectoryW(Wide(folder), with_folder);
 }
 bool DeleteDirectoryW(std::u16string_view folder, bool with_folder) {
-  const platform::FileSystem& files = CurrentMachine().Files();
+  const platform::FileCalls& files = platform::Files();
   if (!with_folder) return files.DeleteFolder(folder, platform::FolderPart::Contents);
   const std::u16string_view itself = utils::WithoutDelimiter(folder);
   return !IsDrive(itself) && files.DeleteFolder(itself, platform::FolderPart::Whole);

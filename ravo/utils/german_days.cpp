@@ -1,7 +1,7 @@
 #include <ravo/frame/units.h>
 #include <ravo/utils/german_days.h>
 
-namespace ravo::DIUtils {
+namespace ravo::utils {
 namespace {
 
 constinit std::array<std::string_view, 7> narrow_names{"So", "Mo", "Di", "Mi", "Do", "Fr", "Sa"};
@@ -17,10 +17,10 @@ void ReleaseNames() noexcept {
 const std::array<std::string_view, 7>& ShortGermanDaysA() noexcept { return narrow_names; }
 const std::array<std::u16string_view, 7>& ShortGermanDaysW() noexcept { return wide_names; }
 
-}  // namespace ravo::DIUtils
+}  // namespace ravo::utils
 
 namespace ravo::frame {
 
-void StopDIUtils() noexcept { DIUtils::ReleaseNames(); }
+void StopDIUtils() noexcept { utils::ReleaseNames(); }
 
 }  // namespace ravo::frame

@@ -1,4 +1,6 @@
-#include <ravo/platform/machine.h>
+#include <ravo/platform/files.h>
+#include <ravo/platform/folders.h>
+#include <ravo/platform/paths.h>
 #include <ravo/utils/ansi_text.h>
 #include <ravo/utils/file_names.h>
 #include <ravo/utils/folders.h>
@@ -9,7 +11,6 @@
 namespace ravo::DIUtils {
 namespace {
 
-using platform::CurrentMachine;
 using utils::Wide;
 
 constexpr std::int32_t kDesktop = 0;
@@ -18,7 +19,7 @@ constexpr std::int32_t kDesktopDirectory = 16;
 
 // A name that the system gave, in the form that the functions of names take apart.
 std::u16string InOurForm(std::u16string name) {
-  std::ranges::replace(name, CurrentMachine().PathDelimiter(), u'\\');
+  std::ranges::replace(name, platform::Paths().PathDelimiter(), u'\\');
   return name;
 }
 
@@ -26,23 +27,21 @@ std::u16string InOurForm(std::u16string name) {
 
 std::u16string GetCurrentFolder() { return GetCurrentFolderW(); }
 std::string GetCurrentFolderA() { return WStrToAStr(GetCurrentFolderW()); }
-std::u16string GetCurrentFolderW() { return InOurForm(CurrentMachine().Files().CurrentFolder()); }
+std::u16string GetCurrentFolderW() { return InOurForm(platform::Files().CurrentFolder()); }
 
 bool SetCurrentFolder(std::u16string_view folder) { return SetCurrentFolderW(folder); }
 bool SetCurrentFolderA(std::string_view folder) { return SetCurrentFolderW(Wide(folder)); }
-bool SetCurrentFolderW(std::u16string_view folder) {
-  return CurrentMachine().Files().SetCurrentFolder(folder);
-}
+bool SetCurrentFolderW(std::u16string_view folder) { return platform::Files().SetCurrentFolder(folder); }
 
 std::string ExpandFileNameA(std::string_view name) { return WStrToAStr(ExpandFileNameW(Wide(name))); }
 std::u16string ExpandFileNameW(std::u16string_view name) {
-  return InOurForm(CurrentMachine().FullPath(name.substr(0, name.find(u'\0'))));
+  return InOurForm(platform::Paths().FullPath(name.substr(0, name.find(u'\0'))));
 }
 
 std::u16string GetSpecialFolder(std::int32_t number) { return GetSpecialFolderW(number); }
 std::string GetSpecialFolderA(std::int32_t number) { return WStrToAStr(GetSpecialFolderW(number)); }
 std::u16string GetSpecialFolderW(std::int32_t number) {
-  std::u16string folder = InOurForm(CurrentMachine().ShellFolder(number));
+  std::u16string folder = InOurForm(platform::Folders().ShellFolder(number));
   if (!folder.empty()) IncludeTrailingPathDelimiterByRefW(folder);
   return folder;
 }
@@ -61,7 +60,7 @@ std::u16string GetDesktopDirectoryFolderW() { return GetSpecialFolderW(kDesktopD
 std::u16string GetTempFolder() { return GetTempFolderW(); }
 std::string GetTempFolderA() { return WStrToAStr(GetTempFolderW()); }
 std::u16string GetTempFolderW() {
-  return InOurForm(CurrentMachine().Folder(platform::SystemFolder::Temporary));
+  return InOurForm(platform::Folders().Folder(platform::SystemFolder::Temporary));
 }
 
 }  // namespace ravo::DIUtils

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ravo/platform/machine.h>
+#include <ravo/platform/files.h>
 
 #include <string_view>
 
@@ -10,7 +10,7 @@ namespace ravo::utils {
 class OpenFile {
  public:
   OpenFile(std::u16string_view name, platform::FilePurpose purpose)
-      : files_(platform::CurrentMachine().Files()), handle_(files_.Open(name, purpose)) {}
+      : files_(platform::Files()), handle_(files_.Open(name, purpose)) {}
   OpenFile(const OpenFile&) = delete;
   OpenFile& operator=(const OpenFile&) = delete;
   ~OpenFile() {
@@ -28,7 +28,7 @@ class OpenFile {
   }
 
  private:
-  const platform::FileSystem& files_;
+  const platform::FileCalls& files_;
   FileHandle handle_;
 };
 

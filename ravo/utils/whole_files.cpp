@@ -1,3 +1,4 @@
+#include <ravo/platform/files.h>
 #include <ravo/runtime/checked.h>
 #include <ravo/utils/ansi_text.h>
 #include <ravo/utils/byte_count.h>
@@ -36,7 +37,7 @@ std::int64_t GrownFrom(std::int64_t bytes) {
 // Reads from the file to its end, which its size only suggests: some files have none and others grow.
 template <class Char>
 bool ReadAll(FileHandle file, std::int64_t size, std::basic_string<Char>& text) {
-  const platform::FileSystem& files = platform::CurrentMachine().Files();
+  const platform::FileCalls& files = platform::Files();
   std::span<std::byte> room = Room(text, std::max<std::int64_t>(size, kSmallestBuffer));
   std::size_t used = 0;
   for (;;) {
@@ -62,7 +63,7 @@ template <class Char>
 bool Load(std::u16string_view name, std::basic_string<Char>& text) {
   const OpenFile file(name, FilePurpose::Load);
   if (!file.IsOpen()) return false;
-  const auto size = platform::CurrentMachine().Files().SizeOf(file.Handle());
+  const auto size = platform::Files().SizeOf(file.Handle());
   std::basic_string<Char> content;
   if (!size || !ReadAll(file.Handle(), *size, content)) return false;
   text = std::move(content);
@@ -79,7 +80,7 @@ bool LoadStrWFromFileA(std::string_view name, std::u16string& text) { return Loa
 bool LoadStrWFromFileW(std::u16string_view name, std::u16string& text) { return Load(name, text); }
 
 bool SaveBufToFile(const void* bytes, std::size_t count, FileHandle file) {
-  const platform::FileSystem& files = platform::CurrentMachine().Files();
+  const platform::FileCalls& files = platform::Files();
   for (std::span rest(static_cast<const std::byte*>(bytes), count); !rest.empty();) {
     const auto written = files.Write(file, rest);
     if (!written || *written == 0) return false;

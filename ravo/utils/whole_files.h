@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ravo/platform/file_system.h>
+#include <ravo/platform/file_handle.h>
 #include <ravo/runtime/error.h>
 #include <ravo/runtime/export.h>
 

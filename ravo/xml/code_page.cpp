@@ -1,4 +1,4 @@
-#include <ravo/platform/machine.h>
+#include <ravo/platform/code_pages.h>
 #include <ravo/xml/code_page.h>
 
 #include <algorithm>
@@ -15,22 +15,21 @@ std::string AllBytes() {
 }
 
 // All bytes in both orders contain a pair of lead and trailing byte, if the code page has such pairs.
-bool IsSingleByte(const platform::Machine& machine, const std::string& bytes, const std::u16string& units) {
+bool IsSingleByte(const std::string& bytes, const std::u16string& units) {
   if (units.size() != bytes.size()) return false;
   const std::string backwards(bytes.rbegin(), bytes.rend());
-  const std::u16string reversed = machine.FromCodePage(backwards);
+  const std::u16string reversed = platform::CodePages().FromCodePage(backwards);
   return std::equal(reversed.begin(), reversed.end(), units.rbegin(), units.rend());
 }
 
 }  // namespace
 
-CodePage::CodePage() : number_(platform::CurrentMachine().CodePage()) {
-  const platform::Machine& machine = platform::CurrentMachine();
+CodePage::CodePage() : number_(platform::CodePages().CodePage()) {
   const std::string bytes = AllBytes();
-  const std::u16string units = machine.FromCodePage(bytes);
-  by_table_ = IsSingleByte(machine, bytes, units) && machine.ToCodePage(units).size() == bytes.size();
+  const std::u16string units = platform::CodePages().FromCodePage(bytes);
+  by_table_ = IsSingleByte(bytes, units) && platform::CodePages().ToCodePage(units).size() == bytes.size();
   if (!by_table_) return;
-  const std::string back = machine.ToCodePage(units);
+  const std::string back = platform::CodePages().ToCodePage(units);
   for (std::size_t i = 0; i < bytes.size(); ++i) {
     units_[i] = units[i];
     round_trip_[i] = back[i] == bytes[i];
@@ -63,8 +62,7 @@ const CodePage& CodePage::Current() {
 bool CodePage::IsRoundTrip(std::string_view bytes) const {
   if (all_round_trip_ && by_table_) return true;
   if (!by_table_) {
-    const platform::Machine& machine = platform::CurrentMachine();
-    return machine.ToCodePage(machine.FromCodePage(bytes)) == bytes;
+    return platform::CodePages().ToCodePage(platform::CodePages().FromCodePage(bytes)) == bytes;
   }
   return std::ranges::all_of(bytes, [&](char ch) { return round_trip_[static_cast<unsigned char>(ch)]; });
 }
@@ -77,7 +75,7 @@ std::u16string CodePage::Widened(std::string_view bytes) const {
 
 void CodePage::AppendWidened(std::u16string& to, std::string_view bytes) const {
   if (!by_table_) {
-    to += platform::CurrentMachine().FromCodePage(bytes);
+    to += platform::CodePages().FromCodePage(bytes);
     return;
   }
   const std::size_t old = to.size();
@@ -93,8 +91,8 @@ const CodePage::Mapping* CodePage::Find(char16_t unit) const {
 
 bool CodePage::Narrow(std::u16string_view text, std::string& bytes) const {
   if (!by_table_) {
-    bytes = platform::CurrentMachine().ToCodePage(text);
-    return platform::CurrentMachine().FromCodePage(bytes) == text;
+    bytes = platform::CodePages().ToCodePage(text);
+    return platform::CodePages().FromCodePage(bytes) == text;
   }
   bytes.clear();
   for (const char16_t unit : text) {

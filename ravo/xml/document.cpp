@@ -1,5 +1,5 @@
+#include <ravo/platform/code_pages.h>
 #include <ravo/platform/file_stream.h>
-#include <ravo/platform/machine.h>
 #include <ravo/runtime/text.h>
 #include <ravo/xml/document.h>
 #include <ravo/xml/item_writer.h>
@@ -30,7 +30,7 @@ bool LooksLikeXml(ByteStream& stream) {
   }
   stream.SetPosition(0);
   beginning.resize(size);
-  const std::u16string text = platform::CurrentMachine().FromCodePage(beginning);
+  const std::u16string text = platform::CodePages().FromCodePage(beginning);
   const bool declared = text.find(u"<?xml version=\"1.0\"") != std::u16string::npos;
   return (declared && !HasByteOrderMark(beginning)) || text.find(u"<rss") != std::u16string::npos;
 }
@@ -41,7 +41,7 @@ std::u16string_view ExtensionOf(std::u16string_view name) {
 }
 
 void WriteText(ByteStream& stream, std::u16string_view text) {
-  const std::string bytes = platform::CurrentMachine().ToCodePage(text);
+  const std::string bytes = platform::CodePages().ToCodePage(text);
   stream.WriteChecked(std::as_bytes(std::span(bytes)));
 }
 

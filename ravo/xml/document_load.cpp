@@ -1,4 +1,4 @@
-#include <ravo/platform/machine.h>
+#include <ravo/platform/code_pages.h>
 #include <ravo/runtime/error.h>
 #include <ravo/xml/document.h>
 #include <ravo/xml/tree_builder.h>
@@ -89,7 +89,7 @@ void TXMLItem::LoadFromTokenizer(ECXMLTokenizer::TXMLTokenizer& Tokenizer) {
 }
 
 void TXMLItem::SetAsString(std::u16string_view Value) {
-  const std::string bytes = platform::CurrentMachine().ToCodePage(Value);
+  const std::string bytes = platform::CodePages().ToCodePage(Value);
   MemoryStream stream(std::as_bytes(std::span(bytes)));
   LoadFromStream(stream);
 }

@@ -1,4 +1,4 @@
-#include <ravo/platform/machine.h>
+#include <ravo/platform/locale.h>
 #include <ravo/runtime/error.h>
 #include <ravo/xml/item.h>
 #include <ravo/xml/item_pool.h>
@@ -86,9 +86,9 @@ std::int32_t TXMLItem::IndexOf(const TXMLItem* Item) const noexcept {
 
 std::int32_t TXMLItem::IndexOfName(std::u16string_view ItemName, std::int32_t IndexFrom) const {
   if (IndexFrom < 0) throw RangeError(u"List index out of bounds");
-  const platform::Machine& machine = platform::CurrentMachine();
+  const platform::LocaleCalls& locale = platform::Locale();
   for (std::int32_t i = IndexFrom; i < SubItemCount(); ++i) {
-    if (machine.SameText(SubItems(i)->Name(), ItemName)) return i;
+    if (locale.SameText(SubItems(i)->Name(), ItemName)) return i;
   }
   return -1;
 }

@@ -1,4 +1,4 @@
-#include <ravo/platform/machine.h>
+#include <ravo/platform/code_pages.h>
 #include <ravo/xml/code_page.h>
 #include <ravo/xml/escape.h>
 #include <ravo/xml/item_writer.h>
@@ -33,7 +33,7 @@ class ByteSink {
       Wide(item.Page().Widened(bytes));
     }
   }
-  void Wide(std::u16string_view text) { Bytes(platform::CurrentMachine().ToCodePage(text)); }
+  void Wide(std::u16string_view text) { Bytes(platform::CodePages().ToCodePage(text)); }
   void Flush() {
     stream_.WriteChecked(std::as_bytes(std::span(buffer_.get(), used_)));
     used_ = 0;

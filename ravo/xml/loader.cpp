@@ -1,4 +1,4 @@
-#include <ravo/platform/machine.h>
+#include <ravo/platform/code_pages.h>
 #include <ravo/runtime/text.h>
 #include <ravo/xml/byte_scan.h>
 #include <ravo/xml/escape.h>
@@ -59,7 +59,7 @@ bool ReadText(const TXMLTokenizer& tokenizer, TokenListener& listener) {
 bool ReadToken(const TXMLTokenizer& tokenizer, TokenListener& listener) {
   switch (tokenizer.Token()) {
     case xtHeader:
-      ReadHeader(platform::CurrentMachine().FromCodePage(tokenizer.TokenString()), listener);
+      ReadHeader(platform::CodePages().FromCodePage(tokenizer.TokenString()), listener);
       return true;
     case xtText:
       return ReadText(tokenizer, listener);

@@ -1,4 +1,5 @@
-#include <ravo/platform/machine.h>
+#include <ravo/platform/code_pages.h>
+#include <ravo/platform/locale.h>
 #include <ravo/runtime/checked.h>
 #include <ravo/runtime/number_parse.h>
 #include <ravo/runtime/text.h>
@@ -25,7 +26,7 @@ bool IsLetter(char ch) {
 // Untested: no token is a symbol.
 bool IsLetterOrDigit(char ch) { return IsLetter(ch) || (ch >= '0' && ch <= '9'); }
 
-std::u16string Widened(std::string_view bytes) { return platform::CurrentMachine().FromCodePage(bytes); }
+std::u16string Widened(std::string_view bytes) { return platform::CodePages().FromCodePage(bytes); }
 
 }  // namespace
 
@@ -42,7 +43,7 @@ std::string TXMLTokenizer::TokenString() const {
 std::int32_t TXMLTokenizer::TokenInt() const { return ParseInteger(Widened(TokenString())); }
 
 Extended TXMLTokenizer::TokenFloat() const {
-  return ParseFloat(Widened(TokenString()), platform::CurrentMachine().Locale().decimal_separator);
+  return ParseFloat(Widened(TokenString()), platform::Locale().Settings().decimal_separator);
 }
 
 bool TXMLTokenizer::TokenSymbolIs(std::string_view S) const {
@@ -88,7 +89,7 @@ void TXMLTokenizer::HexToBinary(ByteStream& /*Stream*/) {
 void TXMLTokenizer::Error(std::u16string_view Ident) const { ErrorStr(Ident); }
 
 void TXMLTokenizer::ErrorFmt(std::u16string_view Ident, std::span<const MessageArgument> Args) const {
-  ErrorStr(FormatMessageText(Ident, Args, platform::CurrentMachine().Locale()));
+  ErrorStr(FormatMessageText(Ident, Args, platform::Locale().Settings()));
 }
 
 void TXMLTokenizer::ErrorStr(std::u16string_view Message) const {

@@ -53,11 +53,15 @@ SYSTEM_NAME = re.compile(
 )
 SYSTEM_HEADER = re.compile(r"^(windows|winver|unistd|dlfcn|sys/.*|win(base|nt|user|reg)|ole.*|shlobj)\.h$", re.I)
 # Sources that CMake picks by the target's system say so in their name; tests mirror the library.
-SYSTEM_SOURCE = re.compile(r"^(ravo/platform/|tests/platform/|tests/support/|tests/\w+/(posix|win32|windows_names)/)|^ravo/runtime/export\.h$|_(win32|posix)\.(cpp|c|h)$")
+SYSTEM_SOURCE = re.compile(r"^(ravo/platform/|tests/platform/|tests/support/|tests/\w+/(posix|linux|win32|windows_names)/)|^ravo/runtime/export\.h$|_(win32|posix)\.(cpp|c|h)$")
 C_STANDARD = {"stddef.h", "stdint.h"}
 # Vector instructions have one home, and the one job elsewhere that is made of nothing else.
 VECTOR_HEADER = re.compile(r"^([a-z0-9]*intrin|arm_neon|cpuid)\.h$")
 VECTOR_SOURCE = re.compile(r"^ravo/codec/kernels/|^ravo/utils/crc32_carryless\.cpp$")
+# The headers of ravo/platform that public headers may reach; the others are private.
+PLATFORM_LEAVES = {f"ravo/platform/{name}.h" for name in ("file_handle", "file_stream", "registry_root", "text_size")}
+# The folders of ravo/platform for one system each, and those that each may use beside itself.
+SYSTEMS: dict[str, set[str]] = {"posix": set(), "linux": {"posix"}, "win32": set()}
 
 
 def room_of(name: str) -> str | None:
@@ -172,6 +176,30 @@ def check_public_headers(root, graph):
                 yield f"{name}:{line}: a public header reaches the system header {header}"
 
 
+def check_private_headers(graph):
+    """No public header reaches a private header of ravo/platform."""
+    for name in public_files(graph):
+        for line, target in graph.get(name, []):
+            if target.startswith("ravo/platform/") and target not in PLATFORM_LEAVES:
+                yield f"{name}:{line}: a public header reaches {target}, which is private"
+
+
+def system_of(name: str) -> str | None:
+    """The system whose folder of ravo/platform a file is in."""
+    found = re.match(r"ravo/platform/(\w+)/", name)
+    return found[1] if found and found[1] in SYSTEMS else None
+
+
+def check_systems(graph):
+    """Only a system's own folder, or that of one which has all of it, uses what a system has."""
+    for source, edges in graph.items():
+        own = system_of(source)
+        may_use = {own} | (SYSTEMS[own] if own else set())
+        for line, target in edges:
+            if (system := system_of(target)) and system not in may_use:
+                yield f"{source}:{line}: may not use what {system} alone has ({target})"
+
+
 def document_table(root):
     """Room -> the words of its 'may use' cell, from the table of docs/architecture.md."""
     table = {}
@@ -215,6 +243,8 @@ def check(root):
         *check_system_names(root),
         *check_vector_headers(root),
         *check_public_headers(root, graph),
+        *check_private_headers(graph),
+        *check_systems(graph),
         *check_document(root),
     ]
 
@@ -274,6 +304,28 @@ PLANTINGS: list[Planting] = [
         "a public header at second hand",
         _tree({"ravo/P.h": "#include <ravo/platform/q.h>\n", "ravo/platform/q.h": "#include <windows.h>\n"}),
         "platform/q.h:1: a public header reaches",
+    ),
+    ("a leaf header", _tree({"ravo/P.h": "#include <ravo/platform/text_size.h>\n", "ravo/platform/text_size.h": ""}), None),
+    (
+        "a private header",
+        _tree({"ravo/P.h": "#include <ravo/runtime/b.h>\n#include <ravo/platform/q.h>\n", "ravo/platform/q.h": "", "ravo/runtime/b.h": ""}),
+        "ravo/P.h:2: a public header reaches ravo/platform/q.h, which is private",
+    ),
+    (
+        "a private header at second hand",
+        _tree({"ravo/P.h": "#include <ravo/xml/x.h>\n", "ravo/xml/x.h": "#include <ravo/platform/q.h>\n", "ravo/platform/q.h": ""}),
+        "xml/x.h:1: a public header reaches",
+    ),
+    ("Linux on POSIX", _tree({"ravo/platform/linux/a.cpp": "#include <ravo/platform/posix/p.h>\n", "ravo/platform/posix/p.h": ""}), None),
+    (
+        "POSIX on Linux",
+        _tree({"ravo/platform/posix/a.cpp": "#include <ravo/platform/linux/p.h>\n", "ravo/platform/linux/p.h": ""}),
+        "may not use what linux alone has",
+    ),
+    (
+        "a system in the common folder",
+        _tree({"ravo/platform/a.cpp": "#include <ravo/platform/win32/p.h>\n", "ravo/platform/win32/p.h": ""}),
+        "platform/a.cpp:1: may not use what win32 alone has",
     ),
     ("a row that disagrees", _tree({}, {"ravo/xml": "`runtime`, `common`"}), "the row of ravo/xml"),
     ("a row that is missing", _tree({}, {"ravo/xml": None}), "no row for ravo/xml"),

@@ -1,4 +1,4 @@
-#include <ravo/common/char_position.h>
+#include <ravo/common/text_helpers.h>
 
 #include <gtest/gtest.h>
 

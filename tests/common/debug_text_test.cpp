@@ -1,5 +1,5 @@
 #include "support/fake_machine.h"
-#include <ravo/common/debug_text.h>
+#include <ravo/common/text_helpers.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

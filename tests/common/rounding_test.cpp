@@ -2,7 +2,7 @@
 #include "support/plain_rounding.h"
 #include "support/tried.h"
 #include <ravo/common/rounding.h>
-#include <ravo/common/rounding_reference.h>
+#include <ravo/common/rounding_steps.h>
 
 #include <bit>
 #include <cstdlib>
@@ -242,7 +242,7 @@ TEST(RoundValue, EqualsTheProcessorsExtendedArithmetic) {
       return testing::Message() << value.raw << " type " << int(type) << " decimals " << decimals;
     };
     ASSERT_EQ(Attempt([&] { return RoundValue(value, type, small); }), expected) << trace();
-    ASSERT_EQ(Attempt([&] { return RoundValueReference(value, type, small); }), expected) << trace();
+    ASSERT_EQ(Attempt([&] { return common::RoundValueReference(value, type, small); }), expected) << trace();
   }
   test::Tried("amounts", static_cast<std::int64_t>(all));
 }

@@ -1,5 +1,6 @@
 #include "support/fake_machine.h"
 #include <ravo/RavoFileCommon.h>
+#include <ravo/platform/code_pages.h>
 #include <ravo/runtime/error.h>
 
 #include <cstdint>
@@ -57,8 +58,7 @@ TEST(Win1250ToPDFDocEncoding, ReplacesWhatTheCodePageLacks) { EXPECT_EQ(TextStri
 // All bytes of the code page, beside the rule of one character.
 TEST(Win1250ToPDFDocEncoding, WritesEveryCharacterOfTheCodePage) {
   for (int byte = 0; byte < 256; ++byte) {
-    const std::u16string text =
-        platform::CurrentMachine().FromCodePage(std::string(1, static_cast<char>(byte)));
+    const std::u16string text = platform::CodePages().FromCodePage(std::string(1, static_cast<char>(byte)));
     ASSERT_EQ(text.size(), 1U);
     const char16_t unit = text[0];
     if (unit == u'č' || (unit >= 0x80 && unit < 0xA0)) continue;

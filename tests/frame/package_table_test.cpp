@@ -151,24 +151,24 @@ std::vector<std::int32_t> Counters() {
 }
 
 // As they were when the program began: once they are released nothing brings them back.
-const auto kNarrowDays = DIUtils::ShortGermanDaysA();
-const auto kWideDays = DIUtils::ShortGermanDaysW();
+const auto kNarrowDays = utils::ShortGermanDaysA();
+const auto kWideDays = utils::ShortGermanDaysW();
 
 bool DaysAreReleased() {
   const auto is_empty = [](const auto& name) { return name.empty(); };
-  return std::ranges::all_of(DIUtils::ShortGermanDaysA(), is_empty) &&
-         std::ranges::all_of(DIUtils::ShortGermanDaysW(), is_empty);
+  return std::ranges::all_of(utils::ShortGermanDaysA(), is_empty) &&
+         std::ranges::all_of(utils::ShortGermanDaysW(), is_empty);
 }
 
 TEST(Initialize, StartedTwiceAndStoppedOnceLeavesEveryModuleStarted) {
   EXPECT_EQ(Counters(), std::vector<std::int32_t>(28, 0));
-  const auto days = DIUtils::ShortGermanDaysA();
+  const auto days = utils::ShortGermanDaysA();
   Initialize();
   Initialize();
   EXPECT_EQ(Counters(), std::vector<std::int32_t>(28, -2));
   Finalize();
   EXPECT_EQ(Counters(), std::vector<std::int32_t>(28, -1));
-  EXPECT_EQ(DIUtils::ShortGermanDaysA(), days);
+  EXPECT_EQ(utils::ShortGermanDaysA(), days);
   Finalize();
   EXPECT_EQ(Counters(), std::vector<std::int32_t>(28, 0));
   EXPECT_TRUE(DaysAreReleased());
@@ -183,23 +183,22 @@ TEST(Initialize, RecordsTheSystemAtTheFirstStartOnly) {
   Initialize();
   machine.version.major = 6;
   Initialize();
-  EXPECT_EQ(DISystemCompat::RecordedSystem().platform_id, 2U);
-  EXPECT_EQ(DISystemCompat::RecordedSystem().major, 5U);
-  EXPECT_EQ(DISystemCompat::RecordedSystem().minor, 1U);
+  EXPECT_EQ(utils::RecordedSystem().platform_id, 2U);
+  EXPECT_EQ(utils::RecordedSystem().major, 5U);
+  EXPECT_EQ(utils::RecordedSystem().minor, 1U);
   Finalize();
   Finalize();
   EXPECT_TRUE(machine.unloaded.empty());
   Initialize();
-  EXPECT_EQ(DISystemCompat::RecordedSystem().major, 6U);
+  EXPECT_EQ(utils::RecordedSystem().major, 6U);
   Finalize();
 }
 
 TEST(Initialize, NeedsNoMemory) {
   test::FakeMachine machine;
   machine.version.service_pack = u"a text too long for a string without memory of its own";
-  for (const platform::Machine* asked :
-       {static_cast<const platform::Machine*>(&machine), &platform::RealMachine()}) {
-    const platform::ScopedMachine scoped(*asked);
+  for (const platform::Machine& asked : {platform::Machine(machine), platform::RealMachine()}) {
+    const platform::ScopedMachine scoped(asked);
     const std::size_t before = test::AllocationCount();
     Initialize();
     Finalize();

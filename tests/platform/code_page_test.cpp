@@ -1,4 +1,4 @@
-#include <ravo/platform/machine.h>
+#include <ravo/platform/code_pages.h>
 
 #include <gtest/gtest.h>
 
@@ -34,14 +34,14 @@ constexpr Row kUpperHalf[] = {
     {0xFD, 0x00FD}, {0xFE, 0x0163}, {0xFF, 0x02D9},
 };
 
-TEST(CodePage, IsThatOfTheSuite) { EXPECT_EQ(CurrentMachine().CodePage(), 1250U); }
+TEST(CodePage, IsThatOfTheSuite) { EXPECT_EQ(CodePages().CodePage(), 1250U); }
 
 TEST(CodePage, LowerHalfIsAscii) {
   for (int byte = 0; byte < 0x80; ++byte) {
     const std::string bytes(1, static_cast<char>(byte));
     const std::u16string text(1, static_cast<char16_t>(byte));
-    EXPECT_EQ(CurrentMachine().FromCodePage(bytes), text);
-    EXPECT_EQ(CurrentMachine().ToCodePage(text), bytes);
+    EXPECT_EQ(CodePages().FromCodePage(bytes), text);
+    EXPECT_EQ(CodePages().ToCodePage(text), bytes);
   }
 }
 
@@ -50,40 +50,37 @@ TEST(CodePage, UpperHalfBothWays) {
   for (const Row& row : kUpperHalf) {
     const std::string bytes(1, static_cast<char>(row.byte));
     const std::u16string text(1, row.unit);
-    EXPECT_EQ(CurrentMachine().FromCodePage(bytes), text) << int{row.byte};
-    EXPECT_EQ(CurrentMachine().ToCodePage(text), bytes) << int{row.byte};
+    EXPECT_EQ(CodePages().FromCodePage(bytes), text) << int{row.byte};
+    EXPECT_EQ(CodePages().ToCodePage(text), bytes) << int{row.byte};
   }
 }
 
 TEST(CodePage, TextsKeepTheirZerosAndTheirLength) {
   const std::u16string_view text(u"Kč\0\u20AC", 4);
   const std::string_view bytes("K\xE8\0\x80", 4);
-  EXPECT_EQ(CurrentMachine().ToCodePage(text), bytes);
-  EXPECT_EQ(CurrentMachine().FromCodePage(bytes), text);
-  EXPECT_EQ(CurrentMachine().ToCodePage(u""), "");
-  EXPECT_EQ(CurrentMachine().FromCodePage(""), u"");
+  EXPECT_EQ(CodePages().ToCodePage(text), bytes);
+  EXPECT_EQ(CodePages().FromCodePage(bytes), text);
+  EXPECT_EQ(CodePages().ToCodePage(u""), "");
+  EXPECT_EQ(CodePages().FromCodePage(""), u"");
 }
 
-TEST(CodePage, WhatItLacksBecomesAQuestionMark) {
-  EXPECT_EQ(CurrentMachine().ToCodePage(u"a\u4E2Db"), "a?b");
-}
+TEST(CodePage, WhatItLacksBecomesAQuestionMark) { EXPECT_EQ(CodePages().ToCodePage(u"a\u4E2Db"), "a?b"); }
 
 TEST(CodePages, OfTheSystemAreKnownByNumber) {
-  const Machine& machine = CurrentMachine();
-  EXPECT_EQ(machine.DecodeCodePage(1250, "\xE8\xF8").value_or(u""), u"\x10D\x159");
-  EXPECT_EQ(machine.EncodeCodePage(1250, u"\x10D\x159").value_or(""), "\xE8\xF8");
-  EXPECT_EQ(machine.DecodeCodePage(65001, "\xC4\x8D").value_or(u""), u"\x10D");
-  EXPECT_EQ(machine.EncodeCodePage(65001, u"\x10D").value_or(""), "\xC4\x8D");
-  EXPECT_EQ(machine.DecodeCodePage(1250, "").value_or(u"x"), u"");
-  EXPECT_FALSE(machine.DecodeCodePage(4711, "a"));
-  EXPECT_FALSE(machine.EncodeCodePage(4711, u"a"));
+  EXPECT_EQ(CodePages().DecodeCodePage(1250, "\xE8\xF8").value_or(u""), u"\x10D\x159");
+  EXPECT_EQ(CodePages().EncodeCodePage(1250, u"\x10D\x159").value_or(""), "\xE8\xF8");
+  EXPECT_EQ(CodePages().DecodeCodePage(65001, "\xC4\x8D").value_or(u""), u"\x10D");
+  EXPECT_EQ(CodePages().EncodeCodePage(65001, u"\x10D").value_or(""), "\xC4\x8D");
+  EXPECT_EQ(CodePages().DecodeCodePage(1250, "").value_or(u"x"), u"");
+  EXPECT_FALSE(CodePages().DecodeCodePage(4711, "a"));
+  EXPECT_FALSE(CodePages().EncodeCodePage(4711, u"a"));
 }
 
 TEST(CodePages, OfALocaleWhereTheSystemKnowsIt) {
   constexpr std::uint32_t czech = 0x0405;
   constexpr std::uint32_t nonsense = 0xFFFFF;
-  EXPECT_EQ(CurrentMachine().CodePageOfLocale(czech).value_or(1250), 1250u);
-  EXPECT_FALSE(CurrentMachine().CodePageOfLocale(nonsense));
+  EXPECT_EQ(CodePages().CodePageOfLocale(czech).value_or(1250), 1250u);
+  EXPECT_FALSE(CodePages().CodePageOfLocale(nonsense));
 }
 
 }  // namespace

@@ -106,7 +106,7 @@ TEST(FileStream, AtTheEndThereIsNothingToRead) {
   EXPECT_EQ(stream.Read({}), 0U);
 }
 
-// The system refuses memory that nobody may write.
+// The system refuses read-only memory.
 TEST(FileStream, AFailedReadIsNoEnd) {
   const ScratchFolder folder;
   WriteFile(folder.File(u"a"), "text");

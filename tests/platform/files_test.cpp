@@ -1,6 +1,9 @@
 #include "support/scratch_folder.h"
 #include <ravo/platform/file_stream.h>
-#include <ravo/platform/machine.h>
+#include <ravo/platform/files.h>
+#include <ravo/platform/locale.h>
+#include <ravo/platform/paths.h>
+#include <ravo/platform/resources.h>
 
 #include <cmath>
 
@@ -14,31 +17,29 @@ using test::ScratchFolder;
 constexpr DateTime kMinute = 1.0 / 1440;
 
 TEST(FullPath, ExpandsAgainstTheCurrentFolder) {
-  const Machine& machine = CurrentMachine();
   const std::u16string here = std::filesystem::current_path().u16string();
-  EXPECT_EQ(machine.FullPath(u"Ravo.exe"), here + machine.PathDelimiter() + u"Ravo.exe");
-  EXPECT_EQ(machine.FullPath(u"a/../b"), here + machine.PathDelimiter() + u"b");
-  EXPECT_EQ(machine.FullPath(u"a\\b"),
-            here + machine.PathDelimiter() + u"a" + machine.PathDelimiter() + u"b");
-  EXPECT_EQ(machine.FullPath(here), here);
-  EXPECT_EQ(machine.FullPath(u""), u"");
+  EXPECT_EQ(Paths().FullPath(u"Ravo.exe"), here + Paths().PathDelimiter() + u"Ravo.exe");
+  EXPECT_EQ(Paths().FullPath(u"a/../b"), here + Paths().PathDelimiter() + u"b");
+  EXPECT_EQ(Paths().FullPath(u"a\\b"),
+            here + Paths().PathDelimiter() + u"a" + Paths().PathDelimiter() + u"b");
+  EXPECT_EQ(Paths().FullPath(here), here);
+  EXPECT_EQ(Paths().FullPath(u""), u"");
 }
 
 TEST(FullPath, HasNoLongestName) {
-  const Machine& machine = CurrentMachine();
   const std::u16string name(2000, u'x');
   const std::u16string here = std::filesystem::current_path().u16string();
-  EXPECT_EQ(machine.FullPath(name), here + machine.PathDelimiter() + name);
+  EXPECT_EQ(Paths().FullPath(name), here + Paths().PathDelimiter() + name);
 }
 
 TEST(FindFile, TellsSizeTimeAndAttributes) {
   const ScratchFolder folder;
   const std::u16string name = folder.File(u"účet.dat");
   FileStream(name, FileMode::Create).WriteChecked(std::as_bytes(std::span("12345")));
-  const auto facts = CurrentMachine().FindFile(name);
+  const auto facts = Paths().FindFile(name);
   ASSERT_TRUE(facts);
   EXPECT_EQ(facts->size, 6);
-  EXPECT_LT(std::abs(CurrentMachine().Now() - facts->written), kMinute);
+  EXPECT_LT(std::abs(Locale().Now() - facts->written), kMinute);
   EXPECT_EQ(facts->attributes & kFolderAttribute, 0U);
 }
 
@@ -48,38 +49,38 @@ TEST(FindFile, SizesHave64Bits) {
   FileStream stream(folder.File(u"a"), FileMode::Create);
   stream.SetPosition(size - 1);
   stream.WriteChecked(std::as_bytes(std::span("", 1)));
-  const auto facts = CurrentMachine().FindFile(folder.File(u"a"));
+  const auto facts = Paths().FindFile(folder.File(u"a"));
   ASSERT_TRUE(facts);
   EXPECT_EQ(facts->size, size);
 }
 
 TEST(FindFile, FindsFoldersToo) {
   const ScratchFolder folder;
-  const auto facts = CurrentMachine().FindFile(folder.Path().u16string());
+  const auto facts = Paths().FindFile(folder.Path().u16string());
   ASSERT_TRUE(facts);
   EXPECT_EQ(facts->attributes & kFolderAttribute, kFolderAttribute);
 }
 
 TEST(FindFile, NoneWhereThereIsNothing) {
   const ScratchFolder folder;
-  EXPECT_FALSE(CurrentMachine().FindFile(folder.File(u"none")));
-  EXPECT_FALSE(CurrentMachine().FindFile(folder.File(u"none/none")));
-  EXPECT_FALSE(CurrentMachine().FindFile(u""));
+  EXPECT_FALSE(Paths().FindFile(folder.File(u"none")));
+  EXPECT_FALSE(Paths().FindFile(folder.File(u"none/none")));
+  EXPECT_FALSE(Paths().FindFile(u""));
 }
 
 TEST(OpenVersionResource, NullWithoutOne) {
   const ScratchFolder folder;
   FileStream(folder.File(u"a.dll"), FileMode::Create)
       .WriteChecked(std::as_bytes(std::span("MZ is not all that it takes")));
-  EXPECT_FALSE(CurrentMachine().OpenVersionResource(folder.File(u"a.dll")));
-  EXPECT_FALSE(CurrentMachine().OpenVersionResource(folder.File(u"none.dll")));
-  EXPECT_FALSE(CurrentMachine().OpenVersionResource(u""));
+  EXPECT_FALSE(Paths().OpenVersionResource(folder.File(u"a.dll")));
+  EXPECT_FALSE(Paths().OpenVersionResource(folder.File(u"none.dll")));
+  EXPECT_FALSE(Paths().OpenVersionResource(u""));
 }
 
 TEST(LoadResources, NullWhereThatFails) {
   const ScratchFolder folder;
-  EXPECT_EQ(CurrentMachine().LoadResources(folder.File(u"none.dll")), nullptr);
-  CurrentMachine().UnloadResources(nullptr);
+  EXPECT_EQ(Resources().LoadResources(folder.File(u"none.dll")), nullptr);
+  Resources().UnloadResources(nullptr);
 }
 
 }  // namespace

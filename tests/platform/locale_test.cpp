@@ -1,4 +1,4 @@
-#include <ravo/platform/machine.h>
+#include <ravo/platform/locale.h>
 
 #include <chrono>
 #include <cmath>
@@ -18,7 +18,7 @@ void ExpectDistinctNames(const std::array<std::u16string, count>& names) {
 }
 
 TEST(Locale, NamesAreThereAndDistinct) {
-  const FormatSettings settings = CurrentMachine().Locale();
+  const FormatSettings settings = Locale().Settings();
   ExpectDistinctNames(settings.short_day_names);
   ExpectDistinctNames(settings.long_day_names);
   ExpectDistinctNames(settings.short_month_names);
@@ -26,7 +26,7 @@ TEST(Locale, NamesAreThereAndDistinct) {
 }
 
 TEST(Locale, PatternsHoldWhatADateAndATimeNeed) {
-  const FormatSettings settings = CurrentMachine().Locale();
+  const FormatSettings settings = Locale().Settings();
   for (const char16_t letter : {u'd', u'm', u'y'}) {
     EXPECT_NE(settings.short_date.find(letter), std::u16string::npos);
   }
@@ -37,7 +37,7 @@ TEST(Locale, PatternsHoldWhatADateAndATimeNeed) {
 }
 
 TEST(Locale, SeparatorsDiffer) {
-  const FormatSettings settings = CurrentMachine().Locale();
+  const FormatSettings settings = Locale().Settings();
   EXPECT_TRUE(settings.decimal_separator == u'.' || settings.decimal_separator == u',');
   EXPECT_NE(settings.thousands_separator, std::u16string(1, settings.decimal_separator));
 }
@@ -54,7 +54,7 @@ double LocalTime() {
 
 TEST(Now, IsTheLocalTime) {
   constexpr double seconds = 1.0 / 86400;
-  EXPECT_LT(std::abs(CurrentMachine().Now() - LocalTime()), 5 * seconds);
+  EXPECT_LT(std::abs(Locale().Now() - LocalTime()), 5 * seconds);
 }
 
 }  // namespace

@@ -90,7 +90,7 @@ TEST(ReadVersionResource, NoneWithDamagedHeaders) {
   ExpectNoneWith16(&PeImage::optional_header, 0, 0x107);
   ExpectNoneWith32(&PeImage::resource_data_directory, 0, 0xFFFFFFFF);
   ExpectNoneWith32(&PeImage::section_table, 40 + 16, 8);           // a section smaller than a directory
-  ExpectNoneWith32(&PeImage::section_table, 40 + 20, 0xFFFFFFFF);  // a section behind the file
+  ExpectNoneWith32(&PeImage::section_table, 40 + 20, 0xFFFFFFFF);  // a section past the end of the file
 }
 
 TEST(ReadVersionResource, NoneWithDamagedDirectories) {
@@ -123,7 +123,8 @@ TEST(ReadVersionResource, TakesAMebibyteAndRefusesMore) {
 
 TEST(ReadVersionResource, TheFirstNameAndTheFirstLanguageCount) {
   PeImage image = test::BuildPe(PeKind::Pe32, SampleBlock());
-  // A second entry, read out of what follows: it leads nowhere, and nobody asks.
+  // The second entry is read from the bytes that follow. It points nowhere, and the reader must not follow
+  // it.
   test::Put16(image.bytes, image.name_directory + 14, 2);
   test::Put16(image.bytes, image.language_directory + 14, 2);
   EXPECT_EQ(ResourceOf(image.bytes), SampleBlock());
@@ -157,7 +158,7 @@ TEST(ReadVersionResource, EveryDamagedByteGivesAnAnswer) {
       }
       byte = before;
     }
-    // Most bytes lie off the way; at least the signatures lie on it.
+    // Most bytes are not on the way; at least the signatures are.
     EXPECT_GT(found, image.bytes.size());
     EXPECT_LT(found, image.bytes.size() * 256 - 6 * 255);
   }

@@ -12,7 +12,7 @@ namespace {
 
 using test::NamedPipe;
 
-// Longer than what a system keeps of a pipe, and no two pieces of it alike.
+// Longer than the buffer of a pipe, with no two pieces alike.
 std::string LongText() {
   std::string text;
   for (int i = 0; i < 40'000; ++i) text += std::to_string(i) + ",";

@@ -128,7 +128,7 @@ TEST(VersionResourceBlock, EveryDamagedByteGivesAnAnswer) {
     }
     byte = before;
   }
-  // The values of strings, for one, do not lie on the way to the translation; its own bytes do.
+  // Values of strings are not on the way to the translation; its own bytes are.
   EXPECT_GT(intact, block.size());
   EXPECT_LT(intact, block.size() * 256 - 4 * 255);
 }

@@ -1,6 +1,6 @@
 #ifdef _WIN32
 
-#include <ravo/platform/machine.h>
+#include <ravo/platform/locale.h>
 #include <ravo/platform/windows_pattern.h>
 #include <ravo/runtime/date_text.h>
 
@@ -23,10 +23,10 @@ DateTime ValueOf(const SYSTEMTIME& time) {
 
 std::u16string OurText(const std::wstring& pattern, const SYSTEMTIME& time) {
   const std::u16string windows(pattern.begin(), pattern.end());
-  return FormatDateTime(FromWindowsPattern(windows), ValueOf(time), CurrentMachine().Locale());
+  return FormatDateTime(FromWindowsPattern(windows), ValueOf(time), Locale().Settings());
 }
 
-// What the system itself makes of its pattern; the user's own pattern where that is null.
+// The system's own text for a pattern; null means the user's pattern.
 template <typename Call>
 std::u16string TheirText(Call call, const SYSTEMTIME& time, const wchar_t* pattern) {
   wchar_t text[256] = L"";
@@ -36,7 +36,7 @@ std::u16string TheirText(Call call, const SYSTEMTIME& time, const wchar_t* patte
 }
 
 TEST(Win32Pattern, DatesReadAsTheSystemWritesThem) {
-  // Without full month names: the system declines them behind a day.
+  // Without full month names: the system declines them after a day.
   for (const wchar_t* pattern :
        {L"d. M. yyyy", L"dd.MM.yyyy", L"dddd d.M.yy", L"ddd dd", L"d 'den' M 'm\u011Bs\u00EDc'",
         L"d 'o''clock' M", L"yyyy\"M", L"MMMM yyyy"}) {
@@ -55,7 +55,7 @@ TEST(Win32Pattern, TimesReadAsTheSystemWritesThem) {
 }
 
 TEST(Win32Pattern, TheLocaleReadsAsTheSystemWritesIt) {
-  const FormatSettings settings = CurrentMachine().Locale();
+  const FormatSettings settings = Locale().Settings();
   for (const SYSTEMTIME& time : kTimes) {
     EXPECT_EQ(FormatDateTime(settings.short_date, ValueOf(time), settings),
               TheirText(GetDateFormatW, time, nullptr));

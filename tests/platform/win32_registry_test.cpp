@@ -1,7 +1,7 @@
 #ifdef _WIN32
 
 #include "support/scratch_key_win32.h"
-#include <ravo/platform/machine.h>
+#include <ravo/platform/registry.h>
 #include <ravo/runtime/error.h>
 
 #include <gtest/gtest.h>
@@ -13,7 +13,7 @@ namespace {
 using test::ScratchKey;
 
 std::unique_ptr<RegistryKey> OpenScratchKey() {
-  return CurrentMachine().OpenKey(RegistryRoot::CurrentUser, ScratchKey::Path());
+  return Registry().OpenKey(RegistryRoot::CurrentUser, ScratchKey::Path());
 }
 
 std::string Chars(const std::optional<std::vector<std::byte>>& bytes) {
@@ -101,18 +101,18 @@ TEST(Win32Registry, BytesRaiseWhereTheKeyIsGone) {
 TEST(Win32Registry, RealKeysWithAndWithoutADelimiterInFront) {
   constexpr std::u16string_view path = u"\\SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion";
   for (const std::u16string_view variant : {path, path.substr(1)}) {
-    const auto key = CurrentMachine().OpenKey(RegistryRoot::LocalMachine, variant);
+    const auto key = Registry().OpenKey(RegistryRoot::LocalMachine, variant);
     ASSERT_TRUE(key);
     EXPECT_TRUE(key->Text(u"ProductName").value_or(u"").starts_with(u"Microsoft Windows") ||
                 key->Text(u"ProductName").value_or(u"").starts_with(u"Windows"));
   }
-  EXPECT_FALSE(CurrentMachine().OpenKey(RegistryRoot::LocalMachine, u"\\" + std::u16string(path)));
+  EXPECT_FALSE(Registry().OpenKey(RegistryRoot::LocalMachine, u"\\" + std::u16string(path)));
 }
 
 TEST(Win32Registry, RootsAreTheirOwn) {
-  EXPECT_TRUE(CurrentMachine().OpenKey(RegistryRoot::ClassesRoot, u"CLSID"));
-  EXPECT_TRUE(CurrentMachine().OpenKey(RegistryRoot::Users, u".Default"));
-  EXPECT_FALSE(CurrentMachine().OpenKey(RegistryRoot::CurrentUser, u"CLSID"));
+  EXPECT_TRUE(Registry().OpenKey(RegistryRoot::ClassesRoot, u"CLSID"));
+  EXPECT_TRUE(Registry().OpenKey(RegistryRoot::Users, u".Default"));
+  EXPECT_FALSE(Registry().OpenKey(RegistryRoot::CurrentUser, u"CLSID"));
 }
 
 }  // namespace

@@ -1,7 +1,9 @@
 #ifdef _WIN32
 
+#include <ravo/platform/folders.h>
 #include <ravo/platform/library_entry.h>
-#include <ravo/platform/machine.h>
+#include <ravo/platform/paths.h>
+#include <ravo/platform/resources.h>
 #include <ravo/runtime/text.h>
 
 #include <gtest/gtest.h>
@@ -10,7 +12,7 @@
 namespace ravo::platform {
 namespace {
 
-// Stands beside this program.
+// Lies in the folder of this program.
 std::u16string ResourceFile() {
   wchar_t program[MAX_PATH] = L"";
   GetModuleFileNameW(nullptr, program, MAX_PATH);
@@ -22,8 +24,8 @@ std::u16string ResourceFile() {
 
 class LoadedResources {
  public:
-  LoadedResources() : module_(CurrentMachine().LoadResources(ResourceFile())) {}
-  ~LoadedResources() { CurrentMachine().UnloadResources(module_); }
+  LoadedResources() : module_(Resources().LoadResources(ResourceFile())) {}
+  ~LoadedResources() { Resources().UnloadResources(module_); }
   [[nodiscard]] ModuleHandle Module() const { return module_; }
 
  private:
@@ -33,22 +35,22 @@ class LoadedResources {
 TEST(Win32Resources, TextsOfALoadedModule) {
   const LoadedResources resources;
   ASSERT_TRUE(resources.Module());
-  EXPECT_EQ(CurrentMachine().ResourceText(resources.Module(), 65408), u"Účet");
-  EXPECT_EQ(CurrentMachine().ResourceText(resources.Module(), 65535), u"Příliš žluťoučký kůň\nпоследний");
+  EXPECT_EQ(Resources().ResourceText(resources.Module(), 65408), u"Účet");
+  EXPECT_EQ(Resources().ResourceText(resources.Module(), 65535), u"Příliš žluťoučký kůň\nпоследний");
 }
 
 TEST(Win32Resources, NoneWhereTheTableIsEmptyOrMissing) {
   const LoadedResources resources;
-  EXPECT_FALSE(CurrentMachine().ResourceText(resources.Module(), 65409));
-  EXPECT_FALSE(CurrentMachine().ResourceText(resources.Module(), 65410));
-  EXPECT_FALSE(CurrentMachine().ResourceText(resources.Module(), 0));
-  EXPECT_FALSE(CurrentMachine().ResourceText(ThisModule(), 65408));
+  EXPECT_FALSE(Resources().ResourceText(resources.Module(), 65409));
+  EXPECT_FALSE(Resources().ResourceText(resources.Module(), 65410));
+  EXPECT_FALSE(Resources().ResourceText(resources.Module(), 0));
+  EXPECT_FALSE(Resources().ResourceText(ThisModule(), 65408));
 }
 
 TEST(Win32Resources, TheViewIsOfTheModuleItself) {
   const LoadedResources resources;
-  const auto first = CurrentMachine().ResourceText(resources.Module(), 65408);
-  const auto second = CurrentMachine().ResourceText(resources.Module(), 65408);
+  const auto first = Resources().ResourceText(resources.Module(), 65408);
+  const auto second = Resources().ResourceText(resources.Module(), 65408);
   ASSERT_TRUE(first && second);
   EXPECT_EQ(first->data(), second->data());
 }
@@ -58,7 +60,7 @@ TEST(Win32Resources, ThisModuleIsTheProgram) {
 }
 
 TEST(Win32VersionResource, StringsOfTheFirstTranslation) {
-  const auto resource = CurrentMachine().OpenVersionResource(ResourceFile());
+  const auto resource = Paths().OpenVersionResource(ResourceFile());
   ASSERT_TRUE(resource);
   EXPECT_EQ(resource->FirstTranslation(), 0x04E20405U);
   EXPECT_EQ(resource->String(u"040504E2", u"FileVersion"), u"1.2 – účetní");
@@ -68,21 +70,21 @@ TEST(Win32VersionResource, StringsOfTheFirstTranslation) {
 }
 
 TEST(Win32VersionResource, TextsEndAtTheirZero) {
-  const auto resource = CurrentMachine().OpenVersionResource(ResourceFile());
+  const auto resource = Paths().OpenVersionResource(ResourceFile());
   ASSERT_TRUE(resource);
   EXPECT_EQ(resource->String(u"040504E2", u"Comments"), u"before");
 }
 
 TEST(Win32VersionResource, NoneForWhatItLacks) {
-  const auto resource = CurrentMachine().OpenVersionResource(ResourceFile());
+  const auto resource = Paths().OpenVersionResource(ResourceFile());
   ASSERT_TRUE(resource);
   EXPECT_FALSE(resource->String(u"040504E2", u"CompanyName"));
   EXPECT_FALSE(resource->String(u"00000000", u"FileVersion"));
 }
 
 TEST(Win32VersionResource, OfASystemFile) {
-  const std::u16string file = CurrentMachine().Folder(SystemFolder::System) + u"\\kernel32.dll";
-  const auto resource = CurrentMachine().OpenVersionResource(file);
+  const std::u16string file = Folders().Folder(SystemFolder::System) + u"\\kernel32.dll";
+  const auto resource = Paths().OpenVersionResource(file);
   ASSERT_TRUE(resource);
   const auto translation = resource->FirstTranslation();
   ASSERT_TRUE(translation);

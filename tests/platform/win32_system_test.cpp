@@ -1,8 +1,13 @@
 #ifdef _WIN32
 
 #include "support/scratch_folder.h"
+#include <ravo/platform/drives.h>
 #include <ravo/platform/file_stream.h>
-#include <ravo/platform/machine.h>
+#include <ravo/platform/files.h>
+#include <ravo/platform/folders.h>
+#include <ravo/platform/locale.h>
+#include <ravo/platform/paths.h>
+#include <ravo/platform/system.h>
 #include <ravo/runtime/error.h>
 
 #include <gtest/gtest.h>
@@ -23,19 +28,19 @@ TEST(Win32System, VersionIsOfTheNtFamily) {
   OSVERSIONINFOW info{};
   info.dwOSVersionInfoSize = sizeof info;
   ASSERT_TRUE(GetVersionExW(&info));
-  const SystemVersion version = CurrentMachine().Version();
+  const SystemVersion version = System().Version();
   EXPECT_EQ(version.family, SystemFamily::WindowsNt);
   EXPECT_EQ(version.major, info.dwMajorVersion);
   EXPECT_EQ(version.minor, info.dwMinorVersion);
   EXPECT_EQ(version.build, info.dwBuildNumber);
   EXPECT_NE(version.product_type, ProductType::Unknown);
   EXPECT_LE(version.product_type, ProductType::Server);
-  EXPECT_EQ(CurrentMachine().IsServerR2(), GetSystemMetrics(89) != 0);
+  EXPECT_EQ(System().IsServerR2(), GetSystemMetrics(89) != 0);
 }
 
 TEST(Win32System, TheBasicVersionHasWhatBothRecordsHave) {
-  const SystemVersion expected = CurrentMachine().Version();
-  const SystemVersion version = CurrentMachine().BasicVersion();
+  const SystemVersion expected = System().Version();
+  const SystemVersion version = System().BasicVersion();
   EXPECT_EQ(version.family, expected.family);
   EXPECT_EQ(version.major, expected.major);
   EXPECT_EQ(version.minor, expected.minor);
@@ -46,45 +51,43 @@ TEST(Win32System, TheBasicVersionHasWhatBothRecordsHave) {
 }
 
 TEST(Win32System, ArchitectureIsThatOfThisProgram) {
-  EXPECT_EQ(CurrentMachine().ProcessorArchitecture(),
-            sizeof(void*) == 8 ? kArchitectureAmd64 : kArchitectureIntel);
+  EXPECT_EQ(System().ProcessorArchitecture(), sizeof(void*) == 8 ? kArchitectureAmd64 : kArchitectureIntel);
 }
 
 TEST(Win32System, NamesAndFoldersAreThoseOfTheEnvironment) {
-  const Machine& machine = CurrentMachine();
-  EXPECT_EQ(machine.Folder(SystemFolder::Windows), Environment(L"SystemRoot"));
-  EXPECT_EQ(machine.Folder(SystemFolder::System), Environment(L"SystemRoot") + u"\\system32");
-  EXPECT_EQ(machine.Folder(SystemFolder::CommonDocuments), Environment(L"PUBLIC") + u"\\Documents");
-  EXPECT_EQ(machine.ComputerName(), Environment(L"COMPUTERNAME"));
-  EXPECT_EQ(machine.UserName(), Environment(L"USERNAME"));
+  EXPECT_EQ(Folders().Folder(SystemFolder::Windows), Environment(L"SystemRoot"));
+  EXPECT_EQ(Folders().Folder(SystemFolder::System), Environment(L"SystemRoot") + u"\\system32");
+  EXPECT_EQ(Folders().Folder(SystemFolder::CommonDocuments), Environment(L"PUBLIC") + u"\\Documents");
+  EXPECT_EQ(System().ComputerName(), Environment(L"COMPUTERNAME"));
+  EXPECT_EQ(System().UserName(), Environment(L"USERNAME"));
 }
 
 TEST(Win32System, FoldersThatDoNotFitAreEmpty) {
   const std::u16string before = Environment(L"TMP");
   const std::wstring restored(before.begin(), before.end());
   SetEnvironmentVariableW(L"TMP", (L"C:\\" + std::wstring(300, L'x')).c_str());
-  EXPECT_EQ(CurrentMachine().Folder(SystemFolder::Temporary), u"");
+  EXPECT_EQ(Folders().Folder(SystemFolder::Temporary), u"");
   SetEnvironmentVariableW(L"TMP", restored.empty() ? nullptr : restored.c_str());
-  EXPECT_NE(CurrentMachine().Folder(SystemFolder::Temporary), u"");
+  EXPECT_NE(Folders().Folder(SystemFolder::Temporary), u"");
 }
 
 TEST(Win32System, SystemDriveIsFixedAndHasSpace) {
-  EXPECT_NE(CurrentMachine().LogicalDrives() & 1U << 2, 0U);
-  EXPECT_EQ(CurrentMachine().KindOfDrive(u"C:"), DriveKind::Fixed);
-  const auto space = CurrentMachine().SpaceOfFolder(u"C:");
+  EXPECT_NE(Drives().LogicalDrives() & 1U << 2, 0U);
+  EXPECT_EQ(Drives().KindOfDrive(u"C:"), DriveKind::Fixed);
+  const auto space = Drives().SpaceOfFolder(u"C:");
   ASSERT_TRUE(space);
   EXPECT_GT(space->total, 0);
 }
 
 TEST(Win32Files, RootsAndDelimiters) {
-  EXPECT_EQ(CurrentMachine().PathDelimiter(), u'\\');
-  EXPECT_EQ(CurrentMachine().FullPath(u"C:\\a\\..\\b/c"), u"C:\\b\\c");
+  EXPECT_EQ(Paths().PathDelimiter(), u'\\');
+  EXPECT_EQ(Paths().FullPath(u"C:\\a\\..\\b/c"), u"C:\\b\\c");
 }
 
 TEST(Win32Files, SearchTakesWildcards) {
   const ScratchFolder folder;
   FileStream(folder.File(u"only.one"), FileMode::Create).WriteChecked(std::as_bytes(std::span("abc")));
-  const auto facts = CurrentMachine().FindFile(folder.File(u"on*.?ne"));
+  const auto facts = Paths().FindFile(folder.File(u"on*.?ne"));
   ASSERT_TRUE(facts);
   EXPECT_EQ(facts->size, 4);
 }
@@ -101,7 +104,7 @@ TEST(Win32Files, TimeStampAndAttributesAreThoseOfTheFile) {
   ASSERT_TRUE(SetFileTime(file, nullptr, nullptr, &written));
   CloseHandle(file);
   SetFileAttributesW(wide.c_str(), FILE_ATTRIBUTE_READONLY);
-  const auto facts = CurrentMachine().FindFile(name);
+  const auto facts = Paths().FindFile(name);
   SetFileAttributesW(wide.c_str(), FILE_ATTRIBUTE_NORMAL);
   ASSERT_TRUE(facts);
   // 38386 days lie between 30 December 1899 and 3 February 2005.
@@ -137,7 +140,7 @@ TEST(Win32FileStream, OpenErrorIsInTheWordsOfTheSystem) {
 TEST(Win32CodePage, IsThatOfTheSystem) { EXPECT_EQ(GetACP(), 1250U); }
 
 TEST(Win32Locale, IsCzech) {
-  const FormatSettings settings = CurrentMachine().Locale();
+  const FormatSettings settings = Locale().Settings();
   EXPECT_EQ(settings.decimal_separator, u',');
   EXPECT_EQ(settings.thousands_separator, u"\u00A0");
   EXPECT_EQ(settings.long_time, u"h:nn:ss");

@@ -33,7 +33,7 @@ TEST(FromWindowsPattern, Rows) {
       {u"d 'r", u"d 'r'"},
       {u"d '", u"d "},
       {u"'\"'\"", u"'\"''\"'"},
-      // Letters that only we would read as something, and what nobody does.
+      // Letters that are literal for Windows alone, and letters that are literal for both.
       {u"yyyynz", u"yyyy'n''z'"},
       {u"H\u6642mm\u5206", u"h\u6642nn\u5206"},
       {u"d\u00A0/", u"d\u00A0/"},

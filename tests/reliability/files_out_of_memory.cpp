@@ -3,6 +3,7 @@
 #include "support/scratch_folder.h"
 #include "support/suite_name.h"
 #include <ravo/DIUtils.h>
+#include <ravo/platform/code_pages.h>
 
 #include <string>
 #include <vector>
@@ -42,7 +43,7 @@ TEST(FilesOutOfMemory, QuestionsAboutFiles) {
   const ScratchFolder scratch;
   const std::u16string folder = SuiteName(scratch.Path());
   const std::u16string name = folder + u"\\" + kName;
-  const std::string narrow = platform::CurrentMachine().ToCodePage(name);
+  const std::string narrow = platform::CodePages().ToCodePage(name);
   ASSERT_TRUE(SaveStrAToFileW("x", name));
   const std::size_t open_before = OpenFiles();
   ExpectSurvivesScarceMemory([&] { static_cast<void>(FileExistsW(name)); });
@@ -67,7 +68,7 @@ TEST(FilesOutOfMemory, WholeFiles) {
   });
   ExpectSurvivesScarceMemory([&] {
     std::string bytes;
-    static_cast<void>(LoadStrAFromFileA(platform::CurrentMachine().ToCodePage(name), bytes));
+    static_cast<void>(LoadStrAFromFileA(platform::CodePages().ToCodePage(name), bytes));
   });
   EXPECT_EQ(OpenFiles(), open_before);
 }

@@ -8,7 +8,14 @@
 #include <ravo/RavoInterfaceInfo.h>
 #include <ravo/RavoInterfaceResources.h>
 #include <ravo/frame/module_record.h>
-#include <ravo/platform/machine.h>
+#include <ravo/platform/components.h>
+#include <ravo/platform/diagnostics.h>
+#include <ravo/platform/drives.h>
+#include <ravo/platform/folders.h>
+#include <ravo/platform/locale.h>
+#include <ravo/platform/paths.h>
+#include <ravo/platform/registry.h>
+#include <ravo/platform/system.h>
 
 #include <string>
 
@@ -24,33 +31,31 @@ const std::u16string kCurrentVersion = u"SOFTWARE\\Microsoft\\Windows NT\\Curren
 TEST(MachineOutOfMemory, Folders) {
   using platform::SystemFolder;
   ExpectSurvivesScarceMemory([] {
-    const platform::Machine& machine = platform::CurrentMachine();
     for (const auto folder : {SystemFolder::Windows, SystemFolder::System, SystemFolder::CommonDocuments})
-      static_cast<void>(machine.Folder(folder));
-    for (const std::int32_t number : {0, 5, 26, 28, 36, 40}) static_cast<void>(machine.ShellFolder(number));
+      static_cast<void>(platform::Folders().Folder(folder));
+    for (const std::int32_t number : {0, 5, 26, 28, 36, 40})
+      static_cast<void>(platform::Folders().ShellFolder(number));
   });
 }
 
 TEST(MachineOutOfMemory, SystemAndUser) {
   ExpectSurvivesScarceMemory([] {
-    const platform::Machine& machine = platform::CurrentMachine();
-    static_cast<void>(machine.Version());
-    static_cast<void>(machine.UserName());
-    static_cast<void>(machine.ComputerName());
-    static_cast<void>(machine.Memory());
-    static_cast<void>(machine.Locale());
-    static_cast<void>(machine.ErrorText(2));
-    static_cast<void>(machine.ComponentErrorText(result_code::kClassNotRegistered));
+    static_cast<void>(platform::System().Version());
+    static_cast<void>(platform::System().UserName());
+    static_cast<void>(platform::System().ComputerName());
+    static_cast<void>(platform::System().Memory());
+    static_cast<void>(platform::Locale().Settings());
+    static_cast<void>(platform::Diagnostics().ErrorText(2));
+    static_cast<void>(platform::Components().ComponentErrorText(result_code::kClassNotRegistered));
   });
 }
 
 TEST(MachineOutOfMemory, DrivesAndRegistry) {
-  const platform::Machine& machine = platform::CurrentMachine();
-  ExpectSurvivesScarceMemory([&] { static_cast<void>(machine.LogicalDrives()); });
-  ExpectSurvivesScarceMemory([&] { static_cast<void>(machine.KindOfDrive(u"C:")); });
-  ExpectSurvivesScarceMemory([&] { static_cast<void>(machine.SpaceOfFolder(u"C:\\")); });
+  ExpectSurvivesScarceMemory([&] { static_cast<void>(platform::Drives().LogicalDrives()); });
+  ExpectSurvivesScarceMemory([&] { static_cast<void>(platform::Drives().KindOfDrive(u"C:")); });
+  ExpectSurvivesScarceMemory([&] { static_cast<void>(platform::Drives().SpaceOfFolder(u"C:\\")); });
   ExpectSurvivesScarceMemory([&] {
-    const auto key = machine.OpenKey(platform::RegistryRoot::LocalMachine, kCurrentVersion);
+    const auto key = platform::Registry().OpenKey(platform::RegistryRoot::LocalMachine, kCurrentVersion);
     if (key) static_cast<void>(key->Text(u"Version"));
   });
   ExpectSurvivesScarceMemory([] { static_cast<void>(DIUtils::RegReadRegisteredOwnerA()); });
@@ -62,10 +67,9 @@ TEST(MachineOutOfMemory, TheVersionOfAFile) {
                                    test::VersionBlock(u"040504E2", {{u"FileVersion", u"7.0"}}, {0x04E20405}));
   folder.Write("x.dll", {reinterpret_cast<const char*>(image.bytes.data()), image.bytes.size()});
   const std::u16string name = folder.File(u"x.dll");
-  const platform::Machine& machine = platform::CurrentMachine();
-  ExpectSurvivesScarceMemory([&] { static_cast<void>(machine.FindFile(name)); });
+  ExpectSurvivesScarceMemory([&] { static_cast<void>(platform::Paths().FindFile(name)); });
   ExpectSurvivesScarceMemory([&] {
-    const auto resource = machine.OpenVersionResource(name);
+    const auto resource = platform::Paths().OpenVersionResource(name);
     if (resource) static_cast<void>(resource->String(u"040504E2", u"FileVersion"));
   });
 }

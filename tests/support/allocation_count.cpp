@@ -28,8 +28,7 @@ void* Allocate(std::size_t bytes) {
 }  // namespace ravo::test
 
 #ifndef RAVO_SANITIZED
-// The forms for arrays and without exceptions call these. Nothing here asks for more than the usual
-// alignment.
+// The forms for arrays and without exceptions call these. The tests need no over-aligned allocation.
 void* operator new(std::size_t bytes) { return ravo::test::Allocate(bytes); }
 void operator delete(void* memory) noexcept { std::free(memory); }
 void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }

@@ -1,7 +1,6 @@
 #pragma once
 
-/// A thread that may use components: on Windows it has the component runtime initialised, elsewhere there is
-/// nothing to initialise.
+/// Initialises the component runtime for the calling thread on Windows; does nothing elsewhere.
 namespace ravo::test {
 
 class ComponentRuntime {

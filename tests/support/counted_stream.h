@@ -7,7 +7,7 @@
 
 namespace ravo::test {
 
-/// A stream over bytes of its own that tells when it is freed. Made by `new` for those who free streams.
+/// A stream over bytes of its own that counts when it is deleted, for tests of code that deletes streams.
 class CountedStream final : public ByteStream {
  public:
   CountedStream(std::string_view bytes, int& freed)

@@ -6,7 +6,7 @@
 
 namespace ravo::test {
 
-/// The message of the error that a call raises; "none" where it raises none.
+/// Returns the message of the error that a call throws; "none" if it throws none.
 template <class Call>
 [[nodiscard]] std::u16string ErrorText(const Call& call) {
   try {

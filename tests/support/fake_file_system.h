@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ravo/platform/file_system.h>
+#include <ravo/platform/files.h>
 
 #include <algorithm>
 #include <string>
@@ -8,23 +8,23 @@
 
 namespace ravo::test {
 
-/// A file system whose calls fail where a test says so: for failures that no real one gives on demand. It has
-/// no folders, and one file for whoever opens any name.
-class FakeFileSystem final : public platform::FileSystem {
+/// A file chapter whose calls fail on demand, for failures that no real system gives on demand. It has no
+/// folders, and one file under any name.
+class FakeFileSystem final : public platform::FileCalls {
  public:
   bool opens = true;
   bool closes = true;
   bool dates = true;
-  /// What one call moves at most.
+  /// The most bytes that one call moves.
   std::size_t portion = 1 << 20;
-  /// How many bytes can be written or read before calls fail.
+  /// The number of bytes that can be written or read before calls fail.
   std::size_t room = 1 << 20;
-  /// What the file says of its size, and what is in it.
+  /// The stated size of the file, and its content.
   std::optional<std::int64_t> size = 0;
   std::string content;
   std::optional<std::uint32_t> attributes;
 
-  /// What happened: the number of closed files, what was written, the names that were opened and the days
+  /// A record of the calls: the number of closed files, the written bytes, the opened names and the days
   /// that were set.
   mutable int closed = 0;
   mutable std::string written;

@@ -84,43 +84,43 @@ bool IsAbsolute(std::u16string_view name) {
 
 }  // namespace
 
-FakeRegistryKey& FakeMachine::Key(platform::RegistryRoot root, std::u16string_view path) {
+FakeRegistryKey& FakeRegistry::Key(platform::RegistryRoot root, std::u16string_view path) {
   return registry[root][std::u16string(path)];
 }
 
-std::u16string FakeMachine::Folder(platform::SystemFolder folder) const {
+std::u16string FakeFolders::Folder(platform::SystemFolder folder) const {
   const auto found = folders.find(folder);
   return found == folders.end() ? std::u16string() : found->second;
 }
 
-std::u16string FakeMachine::ShellFolder(std::int32_t number) const {
+std::u16string FakeFolders::ShellFolder(std::int32_t number) const {
   const auto found = shell_folders.find(number);
   return found == shell_folders.end() ? std::u16string() : found->second;
 }
 
-std::u16string FakeMachine::ErrorText(std::uint32_t code) const {
+std::u16string FakeDiagnostics::ErrorText(std::uint32_t code) const {
   const auto found = error_texts.find(code);
   return found == error_texts.end() ? std::u16string() : found->second;
 }
 
-std::uint32_t FakeMachine::LogicalDrives() const {
+std::uint32_t FakeDrives::LogicalDrives() const {
   std::uint32_t mask = 0;
   for (const auto& [name, drive] : drives) mask |= std::uint32_t{1} << (name.at(0) - u'A');
   return mask;
 }
 
-platform::DriveKind FakeMachine::KindOfDrive(std::u16string_view drive) const {
+platform::DriveKind FakeDrives::KindOfDrive(std::u16string_view drive) const {
   const FakeDrive* found = Find(drives, drive);
   return found ? found->kind : platform::DriveKind::NoRoot;
 }
 
-std::optional<platform::DiskSpace> FakeMachine::SpaceOfFolder(std::u16string_view folder) const {
+std::optional<platform::DiskSpace> FakeDrives::SpaceOfFolder(std::u16string_view folder) const {
   const FakeDrive* found = Find(drives, folder);
   return found ? found->space : std::nullopt;
 }
 
-std::unique_ptr<platform::RegistryKey> FakeMachine::OpenKey(platform::RegistryRoot root,
-                                                            std::u16string_view path) const {
+std::unique_ptr<platform::RegistryKey> FakeRegistry::OpenKey(platform::RegistryRoot root,
+                                                             std::u16string_view path) const {
   opened_keys.emplace_back(path);
   if (path.starts_with(u'\\')) path.remove_prefix(1);
   const auto keys = registry.find(root);
@@ -128,27 +128,27 @@ std::unique_ptr<platform::RegistryKey> FakeMachine::OpenKey(platform::RegistryRo
   return key ? std::make_unique<OpenFakeKey>(*key) : nullptr;
 }
 
-std::u16string FakeMachine::FullPath(std::u16string_view name) const {
+std::u16string FakePaths::FullPath(std::u16string_view name) const {
   if (IsAbsolute(name)) return std::u16string(name);
   return (current_folder + path_delimiter).append(name);
 }
 
-std::optional<platform::FileFacts> FakeMachine::FindFile(std::u16string_view name) const {
+std::optional<platform::FileFacts> FakePaths::FindFile(std::u16string_view name) const {
   const FakeFile* file = Find(files, name);
   return file ? std::optional(file->facts) : std::nullopt;
 }
 
-std::unique_ptr<platform::VersionResource> FakeMachine::OpenVersionResource(std::u16string_view name) const {
+std::unique_ptr<platform::VersionResource> FakePaths::OpenVersionResource(std::u16string_view name) const {
   const FakeFile* file = Find(files, name);
   return file && file->version ? std::make_unique<OpenFakeVersion>(*file->version) : nullptr;
 }
 
-DateTime FakeMachine::Now() const {
+DateTime FakeLocale::Now() const {
   if (clock.empty()) return 0;
   return clock[std::min(next_reading_++, clock.size() - 1)];
 }
 
-std::u16string FakeMachine::FromCodePage(std::string_view bytes) const {
+std::u16string FakeCodePages::FromCodePage(std::string_view bytes) const {
   std::u16string text = FromWindows1250(bytes);
   for (std::size_t i = 0; i < bytes.size(); ++i) {
     if (const auto other = other_bytes.find(bytes[i]); other != other_bytes.end()) text[i] = other->second;
@@ -156,7 +156,7 @@ std::u16string FakeMachine::FromCodePage(std::string_view bytes) const {
   return text;
 }
 
-std::string FakeMachine::ToCodePage(std::u16string_view text) const {
+std::string FakeCodePages::ToCodePage(std::u16string_view text) const {
   std::string bytes = ToWindows1250(text);
   for (std::size_t i = 0; i < text.size(); ++i) {
     if (other_bytes.contains(bytes[i])) bytes[i] = '?';
@@ -168,52 +168,67 @@ std::string FakeMachine::ToCodePage(std::u16string_view text) const {
   return bytes;
 }
 
-bool FakeMachine::SameText(std::u16string_view left, std::u16string_view right) const {
+bool FakeLocale::SameText(std::u16string_view left, std::u16string_view right) const {
   return SameAsciiText(left, right);
 }
 
-std::optional<std::u16string> FakeMachine::DecodeCodePage(std::uint32_t wanted,
-                                                          std::string_view bytes) const {
+std::optional<std::u16string> FakeCodePages::DecodeCodePage(std::uint32_t wanted,
+                                                            std::string_view bytes) const {
   return wanted == code_page ? std::optional(FromCodePage(bytes)) : std::nullopt;
 }
 
-std::optional<std::string> FakeMachine::EncodeCodePage(std::uint32_t wanted, std::u16string_view text) const {
+std::optional<std::string> FakeCodePages::EncodeCodePage(std::uint32_t wanted,
+                                                         std::u16string_view text) const {
   return wanted == code_page ? std::optional(ToCodePage(text)) : std::nullopt;
 }
 
-std::optional<std::uint32_t> FakeMachine::CodePageOfLocale(std::uint32_t wanted) const {
+std::optional<std::uint32_t> FakeCodePages::CodePageOfLocale(std::uint32_t wanted) const {
   const auto found = locale_code_pages.find(wanted);
   return found == locale_code_pages.end() ? std::nullopt : std::optional(found->second);
 }
 
-std::optional<std::u16string_view> FakeMachine::ResourceText(platform::ModuleHandle module,
-                                                             std::uint16_t id) const {
+std::optional<std::u16string_view> FakeResources::ResourceText(platform::ModuleHandle module,
+                                                               std::uint16_t id) const {
   const auto texts = resource_texts.find(module);
   if (texts == resource_texts.end()) return std::nullopt;
   const auto text = texts->second.find(id);
   return text == texts->second.end() ? std::nullopt : std::optional<std::u16string_view>(text->second);
 }
 
-platform::ModuleHandle FakeMachine::LoadResources(std::u16string_view file) const {
+platform::ModuleHandle FakeResources::LoadResources(std::u16string_view file) const {
   const platform::ModuleHandle* module = Find(resource_files, file);
   return module ? *module : nullptr;
 }
 
-platform::ComponentAnswer FakeMachine::CreateComponent(const Guid& class_id) const {
+platform::ComponentAnswer FakeComponents::CreateComponent(const Guid& class_id) const {
   const auto found = components.find(class_id);
   platform::ComponentAnswer answer{component_code, nullptr};
   if (found != components.end()) answer.code = MakeInstance(found->second, answer.instance);
   return answer;
 }
 
-platform::ComponentAnswer FakeMachine::CreateRemoteComponent(const Guid& class_id,
-                                                             std::u16string_view computer) const {
+platform::ComponentAnswer FakeComponents::CreateRemoteComponent(const Guid& class_id,
+                                                                std::u16string_view computer) const {
   return computer == remote_computer ? CreateComponent(class_id)
                                      : platform::ComponentAnswer{result_code::kServerUnavailable, nullptr};
 }
 
-std::u16string FakeMachine::ComponentErrorText(ResultCode code) const {
+std::u16string FakeComponents::ComponentErrorText(ResultCode code) const {
   return u"error " + ToHex(static_cast<std::uint32_t>(code), 8);
+}
+
+FakeMachine::operator platform::Machine() const {
+  return {.system = this,
+          .folders = this,
+          .diagnostics = this,
+          .drives = this,
+          .registry = this,
+          .paths = this,
+          .files = &file_system,
+          .locale = this,
+          .code_pages = this,
+          .resources = this,
+          .components = this};
 }
 
 }  // namespace ravo::test

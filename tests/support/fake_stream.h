@@ -23,7 +23,7 @@ class StingyStream final : public ByteStream {
   void SetPosition(std::int64_t position) override { inner_.SetPosition(position); }
   [[nodiscard]] std::int64_t Size() const override { return inner_.Size(); }
 
-  /// How many reads and writes came.
+  /// The number of reads and writes.
   [[nodiscard]] std::size_t Calls() const noexcept { return calls_; }
 
  private:
@@ -32,7 +32,7 @@ class StingyStream final : public ByteStream {
   std::size_t calls_ = 0;
 };
 
-/// A stream over bytes that stay where they are, which counts what is read.
+/// A read-only stream over bytes that are not copied. Counts the bytes read.
 class SpanStream final : public ByteStream {
  public:
   explicit SpanStream(std::span<const std::byte> bytes) noexcept : bytes_(bytes) {}
@@ -59,8 +59,8 @@ class SpanStream final : public ByteStream {
   std::size_t bytes_read_ = 0;
 };
 
-/// A stream of any size that holds nothing but its size: each byte reads as the low byte of its position, and
-/// what is written is only counted.
+/// A stream of any size without content: each byte reads as the low byte of its position, and written bytes
+/// are only counted.
 class VastStream final : public ByteStream {
  public:
   explicit VastStream(std::int64_t size) noexcept : size_(size) {}

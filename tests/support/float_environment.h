@@ -6,10 +6,10 @@
 
 #include <gtest/gtest.h>
 
-/// The states in which a host may have left the processor's floating-point units.
+/// The states in which a host may have left the floating-point units.
 namespace ravo::test {
 
-/// A rounding mode of <cfenv>, put back at the end of the scope.
+/// Sets a rounding mode of <cfenv> for the lifetime of this object.
 class ScopedRounding {
  public:
   explicit ScopedRounding(int mode) : before_(std::fegetround()) { std::fesetround(mode); }
@@ -21,8 +21,8 @@ class ScopedRounding {
   int before_;
 };
 
-/// How many bits of the mantissa the x87 unit computes: 24, 53 or 64. Put back at the end of the scope.
-/// Without such a unit it does nothing.
+/// Sets the precision of the x87 unit, 24, 53 or 64 bits of mantissa, for the lifetime of this object. Does
+/// nothing without such a unit.
 class ScopedX87Precision {
  public:
   explicit ScopedX87Precision(int bits) : before_(ControlWord()) {
@@ -63,9 +63,8 @@ constexpr std::array kFloatStates{
     FloatState{FE_DOWNWARD, 64},  FloatState{FE_TOWARDZERO, 24}, FloatState{FE_TOWARDZERO, 64},
 };
 
-/// What `compute` answers while the processor is in `state`. Calls of the library stay inside; plain
-/// arithmetic of the test itself does so only by way of volatile variables, since compilers move it past a
-/// change of state.
+/// Returns the result of `compute` while the processor is in `state`. Calls of the library stay inside that
+/// state; plain arithmetic in the test stays inside only with volatile variables, because compilers move it.
 template <class Compute>
 auto InFloatState(const FloatState& state, const Compute& compute) {
   const ScopedRounding rounding(state.rounding);
@@ -73,8 +72,8 @@ auto InFloatState(const FloatState& state, const Compute& compute) {
   return compute();
 }
 
-/// Expects that `compute` answers the same in every state as in the one that the test program runs in. What
-/// it answers must be comparable without arithmetic: texts, integers, bits.
+/// Expects the same result of `compute` in every state as in the initial one. Results must be comparable
+/// without arithmetic: texts, integers, bits.
 template <class Compute>
 void ExpectSameInEveryFloatState(const Compute& compute) {
   const auto expected = compute();

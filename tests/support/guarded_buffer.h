@@ -5,8 +5,8 @@
 
 namespace ravo::test {
 
-/// A copy of bytes whose last byte stands directly before a page that must not be touched: reading past the
-/// end ends the test program at once, on every target.
+/// A copy of bytes that ends directly before an inaccessible page: reading past the end ends the test
+/// program at once, on every target.
 class GuardedBuffer {
  public:
   explicit GuardedBuffer(std::span<const std::byte> bytes);

@@ -48,7 +48,7 @@ NamedPipe::NamedPipe(std::string bytes) : name_(folder_.File(u"pipe")) {
 }
 
 void NamedPipe::Write(const std::string& bytes) {
-  // A reader that closes the pipe early ends the writing and not the program.
+  // Without this, a reader that closes the pipe early would end the program.
   sigset_t broken_pipe;
   sigemptyset(&broken_pipe);
   sigaddset(&broken_pipe, SIGPIPE);
@@ -63,7 +63,7 @@ void NamedPipe::Write(const std::string& bytes) {
   is_written_ = true;
 }
 
-// A read that does not wait answers 0 before the writer comes, too.
+// A non-blocking read returns 0 before the writer opens the pipe, too.
 void NamedPipe::Drain() const {
   const int reader = open((folder_.Path() / "pipe").c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
   char piece[4096];

@@ -8,14 +8,13 @@
 
 namespace ravo::test {
 
-/// A pipe that files are opened by the name of. A thread writes `bytes` to the first reader and closes the
-/// pipe.
+/// A pipe with a file name. A thread writes `bytes` to the first reader and closes the pipe.
 class NamedPipe {
  public:
   explicit NamedPipe(std::string bytes);
   NamedPipe(const NamedPipe&) = delete;
   NamedPipe& operator=(const NamedPipe&) = delete;
-  /// Reads what nobody has read, so that the writer ends.
+  /// Reads the remaining bytes, so that the writer ends.
   ~NamedPipe();
 
   [[nodiscard]] const std::u16string& Name() const noexcept { return name_; }

@@ -45,7 +45,7 @@ void AppendEntry(Bytes& out, std::uint32_t id, std::uint32_t target) {
   Append32(out, target);
 }
 
-// The DOS header, and a stub that nobody runs.
+// The DOS header, and a stub that is never run.
 void AppendDosHeader(Bytes& out) {
   Append16(out, 0x5A4D);
   AppendZeros(out, 58);
@@ -80,7 +80,8 @@ void AppendSection(Bytes& out, std::string_view name, std::uint32_t address, std
   AppendZeros(out, 16);
 }
 
-// The resource section: directories first, then the version resource; the other types lead to the same place.
+// The resource section: directories first, then the version resource; the other types point to the same
+// data.
 void AppendResources(PeImage& image, Bytes& section, std::span<const std::byte> version_block) {
   constexpr std::uint32_t types = 0, names = 16 + 3 * 8, languages = names + 24, entry = languages + 24,
                           name = entry + 16, data = name + 16;

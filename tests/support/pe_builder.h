@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-/// Builds version resources and the images that carry them, piece by piece as the formats describe them.
+/// Builds version resources and images with them, part by part as the formats describe them.
 namespace ravo::test {
 
 using Bytes = std::vector<std::byte>;
@@ -21,7 +21,7 @@ void Put32(Bytes& bytes, std::size_t at, std::uint32_t value);
 [[nodiscard]] Bytes VersionNode(std::u16string_view key, std::uint16_t kind, std::uint16_t value_length,
                                 std::span<const std::byte> value, const std::vector<Bytes>& children);
 
-/// A string of a string table, its length in units with the zero behind it.
+/// A string of a string table, its length in units including the terminating zero.
 [[nodiscard]] Bytes VersionString(std::u16string_view key, std::u16string_view text);
 
 /// A whole version resource with one string table and one list of translations.
@@ -31,7 +31,7 @@ void Put32(Bytes& bytes, std::size_t at, std::uint32_t value);
 
 enum class PeKind : std::uint8_t { Pe32, Pe32Plus };
 
-/// An image and where in its file the parts of the way to the version resource stand.
+/// An image, and the offsets of the parts on the way to its version resource.
 struct PeImage {
   Bytes bytes;
   std::size_t pe_header = 0;
@@ -46,8 +46,8 @@ struct PeImage {
   std::size_t data = 0;
 };
 
-/// An image with a code section and a resource section, in which a named type and a string table stand before
-/// the version resource.
+/// Returns an image with a code section and a resource section, in which a named type and a string table
+/// come before the version resource.
 [[nodiscard]] PeImage BuildPe(PeKind kind, std::span<const std::byte> version_block);
 
 }  // namespace ravo::test

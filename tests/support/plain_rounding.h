@@ -7,9 +7,9 @@
 #include <cmath>
 #include <cstdlib>
 
-/// Rounding as it is written down, in the processor's own 80-bit arithmetic: the witness of the tests and a
-/// rival of the benchmarks. Right only where `long double` has a 64-bit mantissa and the processor is in its
-/// default state.
+/// Rounding by the textbook, in the processor's own 80-bit arithmetic: the witness of the tests and a rival
+/// of the benchmarks. Exact only if `long double` has a 64-bit mantissa and the processor is in its default
+/// state.
 namespace ravo::test::plain {
 
 inline constexpr bool kHasExtended = LDBL_MANT_DIG == 64;

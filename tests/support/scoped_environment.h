@@ -7,7 +7,7 @@
 
 namespace ravo::test {
 
-/// Sets a variable of the environment, or takes it away (null), for as long as this object lives. POSIX only.
+/// Sets a variable of the environment, or removes it (null), for the lifetime of this object. POSIX only.
 class ScopedEnvironment {
  public:
   ScopedEnvironment(const char* name, const char* value) : name_(name) {

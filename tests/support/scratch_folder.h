@@ -6,7 +6,7 @@
 
 namespace ravo::test {
 
-/// An empty folder of its own below the system's temporary one; it goes with all that is in it.
+/// An empty folder of its own below the system's temporary one. The destructor deletes it with its contents.
 class ScratchFolder {
  public:
   ScratchFolder();
@@ -16,10 +16,10 @@ class ScratchFolder {
 
   [[nodiscard]] const std::filesystem::path& Path() const noexcept { return path_; }
 
-  /// The full name of a file of that name in the folder.
+  /// Returns the full name of a file in the folder.
   [[nodiscard]] std::u16string File(std::u16string_view name) const;
 
-  /// Writes a file, and the folders on the way to it.
+  /// Writes a file, and creates the folders of its path.
   void Write(const std::filesystem::path& file, std::string_view bytes) const;
 
  private:

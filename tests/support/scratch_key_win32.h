@@ -7,7 +7,7 @@
 
 namespace ravo::test {
 
-/// A key of the current user that goes with this object, unless a test was faster.
+/// A key of the current user. The destructor deletes it unless the test has.
 class ScratchKey {
  public:
   ScratchKey() {

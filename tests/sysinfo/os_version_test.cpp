@@ -1,4 +1,4 @@
-#include <ravo/sysinfo/os_version.h>
+#include <ravo/sysinfo/os_version_of.h>
 
 #include <string_view>
 
@@ -10,6 +10,8 @@ namespace {
 using platform::ProductType;
 using platform::SystemFamily;
 using platform::SystemVersion;
+using sysinfo::IsNt;
+using sysinfo::OSVersionOf;
 
 SystemVersion Record(SystemFamily family, std::uint32_t major, std::uint32_t minor) {
   SystemVersion version;

@@ -1,6 +1,6 @@
 #include "support/pe_builder.h"
 #include "support/scratch_folder.h"
-#include <ravo/platform/machine.h>
+#include <ravo/platform/paths.h>
 #include <ravo/runtime/string_list.h>
 #include <ravo/runtime/text.h>
 #include <ravo/sysinfo/system_info.h>
@@ -29,7 +29,7 @@ class CurrentFolder {
 };
 
 std::u16string FullName(std::u16string_view name) {
-  return std::filesystem::current_path().u16string() + platform::CurrentMachine().PathDelimiter() +
+  return std::filesystem::current_path().u16string() + platform::Paths().PathDelimiter() +
          std::u16string(name);
 }
 

@@ -34,6 +34,8 @@ TEST(CodePages, AreKnownByTheirNumbers) {
     EXPECT_TRUE(writer.WriteStrA(row.bytes, row.code_page));
     EXPECT_EQ(writer.DataToStrW(), row.text) << row.code_page;
     EXPECT_EQ(writer.DataToStrA(row.code_page), row.bytes) << row.code_page;
+    EXPECT_EQ(FromCodePage(row.bytes, row.code_page), row.text) << row.code_page;
+    EXPECT_EQ(ToCodePage(row.text, row.code_page), row.bytes) << row.code_page;
   }
 }
 
@@ -51,6 +53,16 @@ TEST(CodePages, ThatNobodyKnowsGiveNothing) {
   TDIUnicodeWriter writer;
   EXPECT_TRUE(writer.WriteStrA("abc", 4711));
   EXPECT_EQ(writer.DataSize(), 0u);
+}
+
+TEST(CodePages, TheSystemsIsTheDefault) {
+  EXPECT_EQ(FromCodePage("p\xF8\xEDli\x9A"), u"p\x159\xEDli\x161");
+  EXPECT_EQ(ToCodePage(u"p\x159\xEDli\x161"), "p\xF8\xEDli\x9A");
+  EXPECT_EQ(ToCodePage(u"\x4E00"), "?");
+  EXPECT_EQ(FromCodePage(""), u"");
+  EXPECT_EQ(ToCodePage(u""), "");
+  EXPECT_EQ(FromCodePage("abc", 4711), u"");
+  EXPECT_EQ(ToCodePage(u"abc", 4711), "");
 }
 
 // The published table has nothing there; systems have controls.

@@ -1,5 +1,6 @@
 #include "support/fake_machine.h"
 #include <ravo/DIUtils.h>
+#include <ravo/platform/system.h>
 
 #include <gtest/gtest.h>
 
@@ -121,7 +122,7 @@ TEST(GetUserName, IsFalseAndEmptyWhereTheSystemFails) {
 TEST(GetUserName, NamesTheUserOfThisMachine) {
   std::u16string name;
   EXPECT_TRUE(GetUserNameW(name));
-  EXPECT_EQ(name, platform::CurrentMachine().UserName());
+  EXPECT_EQ(name, platform::System().UserName());
 }
 
 TEST(TextExtent, IsZeroWhereTheDeviceCannotTell) {

@@ -2,7 +2,9 @@
 #include "support/scratch_folder.h"
 #include "support/suite_name.h"
 #include <ravo/DIUtils.h>
+#include <ravo/platform/code_pages.h>
 #include <ravo/platform/file_stream.h>
+#include <ravo/platform/files.h>
 
 #include <chrono>
 
@@ -56,7 +58,7 @@ TEST(FileExists, ANameWithAZeroInItNamesNothing) {
 TEST(FileExists, NarrowNamesAreOfTheCodePage) {
   const ScratchFolder scratch;
   scratch.Write(u"účet.txt", "12");
-  const std::string name = platform::CurrentMachine().ToCodePage(SuiteName(scratch.Path()) + u"\\účet.txt");
+  const std::string name = platform::CodePages().ToCodePage(SuiteName(scratch.Path()) + u"\\účet.txt");
   EXPECT_TRUE(FileExistsA(name));
   EXPECT_EQ(GetFileSizeA(name), 2);
   EXPECT_TRUE(DirectoryExistsA(ExtractFilePathA(name)));
@@ -171,7 +173,7 @@ TEST(SetFileDate, IsFalseForWhatCannotBeOpened) {
 TEST(SetFileDate, OfAnOpenFileLeavesItOpen) {
   const ScratchFolder scratch;
   scratch.Write("file", "x");
-  const platform::FileSystem& files = platform::CurrentMachine().Files();
+  const platform::FileCalls& files = platform::Files();
   const FileHandle file = files.Open(scratch.File(u"file"), platform::FilePurpose::Date);
   ASSERT_NE(file, kNoFile);
   EXPECT_TRUE(SetFileDate(file, 2010, 11, 12));

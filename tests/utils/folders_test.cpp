@@ -3,6 +3,8 @@
 #include "support/scratch_folder.h"
 #include "support/suite_name.h"
 #include <ravo/DIUtils.h>
+#include <ravo/platform/code_pages.h>
+#include <ravo/platform/drives.h>
 
 #include <gtest/gtest.h>
 
@@ -15,7 +17,7 @@ using test::SuiteName;
 
 // A drive that this machine has not; "B:" where it has all.
 std::u16string MissingDrive() {
-  const std::uint32_t drives = platform::CurrentMachine().LogicalDrives();
+  const std::uint32_t drives = platform::Drives().LogicalDrives();
   char16_t letter = u'Z';
   while (letter > u'B' && (drives >> (letter - u'A') & 1) != 0) --letter;
   return {letter, u':'};
@@ -29,7 +31,7 @@ TEST(ForceDirectories, MakesAllThatIsMissing) {
   EXPECT_TRUE(ForceDirectoriesW(folder + u"\\a\\b\\č"));
   EXPECT_TRUE(ForceDirectories(folder + u"\\a\\d\\"));
   EXPECT_TRUE(DirectoryExistsW(folder + u"\\a\\d"));
-  const std::string narrow = platform::CurrentMachine().ToCodePage(folder + u"\\ž\\š");
+  const std::string narrow = platform::CodePages().ToCodePage(folder + u"\\ž\\š");
   EXPECT_TRUE(ForceDirectoriesA(narrow));
   EXPECT_TRUE(DirectoryExistsA(narrow));
   EXPECT_TRUE(DirectoryExistsW(folder + u"\\ž\\š"));
@@ -119,8 +121,7 @@ TEST(DeleteDirectory, DeletesTheFolderToo) {
   Fill(scratch);
   EXPECT_TRUE(DeleteDirectory(SuiteName(scratch.Path() / "tree"), true));
   Fill(scratch);
-  EXPECT_TRUE(
-      DeleteDirectoryA(platform::CurrentMachine().ToCodePage(SuiteName(scratch.Path() / "tree")), true));
+  EXPECT_TRUE(DeleteDirectoryA(platform::CodePages().ToCodePage(SuiteName(scratch.Path() / "tree")), true));
   EXPECT_FALSE(exists(scratch.Path() / "tree"));
 }
 
@@ -174,7 +175,7 @@ TEST(DiskFree, IsWhatTheCallerMayStillUse) {
   EXPECT_GT(free, 0);
   // Others write too.
   EXPECT_NEAR(static_cast<double>(free), static_cast<double>(expected), 4e9);
-  EXPECT_GT(DiskFreeA(platform::CurrentMachine().ToCodePage(SuiteName(scratch.Path()))), 0);
+  EXPECT_GT(DiskFreeA(platform::CodePages().ToCodePage(SuiteName(scratch.Path()))), 0);
   EXPECT_GT(DiskFreeW(u"C:\\"), 0);
   EXPECT_EQ(DiskFreeW(SuiteName(scratch.Path() / "missing")), -1);
   EXPECT_EQ(DiskFreeA("missing"), -1);
@@ -201,7 +202,7 @@ TEST(DiskFree, ItsHelpersTellTheOtherNumbersOfTheDisk) {
     EXPECT_EQ(DiskTotalFreeA("D:"), -1);
   }
   const ScratchFolder scratch;
-  const std::string folder = platform::CurrentMachine().ToCodePage(SuiteName(scratch.Path()));
+  const std::string folder = platform::CodePages().ToCodePage(SuiteName(scratch.Path()));
   const auto space = std::filesystem::space(scratch.Path());
   EXPECT_EQ(DiskSizeA(folder), static_cast<std::int64_t>(space.capacity));
   // Others write too.

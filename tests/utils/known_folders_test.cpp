@@ -2,6 +2,7 @@
 #include "support/scratch_folder.h"
 #include "support/suite_name.h"
 #include <ravo/DIUtils.h>
+#include <ravo/platform/code_pages.h>
 
 #include <gtest/gtest.h>
 
@@ -36,10 +37,10 @@ TEST(CurrentFolder, IsReadAndSet) {
   EXPECT_TRUE(SetCurrentFolderW(folder));
   EXPECT_EQ(GetCurrentFolderW(), folder);
   EXPECT_EQ(GetCurrentFolder(), folder);
-  EXPECT_EQ(GetCurrentFolderA(), platform::CurrentMachine().ToCodePage(folder));
+  EXPECT_EQ(GetCurrentFolderA(), platform::CodePages().ToCodePage(folder));
   EXPECT_TRUE(SetCurrentFolder(SuiteName(scratch.Path())));
   EXPECT_EQ(GetCurrentFolderW(), SuiteName(scratch.Path()));
-  EXPECT_TRUE(SetCurrentFolderA(platform::CurrentMachine().ToCodePage(folder)));
+  EXPECT_TRUE(SetCurrentFolderA(platform::CodePages().ToCodePage(folder)));
   EXPECT_EQ(GetCurrentFolderW(), folder);
   EXPECT_FALSE(SetCurrentFolderW(SuiteName(scratch.Path() / "missing")));
   EXPECT_FALSE(SetCurrentFolderW(u""));
@@ -55,7 +56,7 @@ TEST(ExpandFileName, GoesOnFromTheCurrentFolder) {
   EXPECT_EQ(ExpandFileNameW(u"."), here);
   EXPECT_EQ(ExpandFileNameW(here), here);
   EXPECT_EQ(ExpandFileNameW(std::u16string_view(u"a\0b", 3)), here + u"\\a");
-  EXPECT_EQ(ExpandFileNameA("a.txt"), platform::CurrentMachine().ToCodePage(here + u"\\a.txt"));
+  EXPECT_EQ(ExpandFileNameA("a.txt"), platform::CodePages().ToCodePage(here + u"\\a.txt"));
   EXPECT_EQ(ExpandFileNameW(u""), u"");
   const std::u16string name(2000, u'x');
   EXPECT_EQ(ExpandFileNameW(name), here + u"\\" + name);
@@ -99,7 +100,7 @@ TEST(GetTempFolder, IsAFolderWithADelimiterAtItsEnd) {
   EXPECT_TRUE(folder.ends_with(u'\\'));
   EXPECT_TRUE(DirectoryExistsW(folder));
   EXPECT_EQ(GetTempFolder(), folder);
-  EXPECT_EQ(GetTempFolderA(), platform::CurrentMachine().ToCodePage(folder));
+  EXPECT_EQ(GetTempFolderA(), platform::CodePages().ToCodePage(folder));
 }
 
 }  // namespace

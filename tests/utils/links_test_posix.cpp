@@ -1,6 +1,7 @@
 #include "support/scratch_folder.h"
 #include "support/suite_name.h"
 #include <ravo/DIUtils.h>
+#include <ravo/platform/files.h>
 
 #include <cstdlib>
 
@@ -141,7 +142,7 @@ TEST(CurrentFolderDeathTest, ThatVanishedIsEmptyAndNothingIsInIt) {
 
 TEST(DeleteDirectory, RefusesTheRootUnderAnyName) {
   for (const std::u16string_view root : {u"/", u"\\.", u"C:\\.", u"//", u"/usr/.."}) {
-    EXPECT_FALSE(platform::CurrentMachine().Files().DeleteFolder(root, platform::FolderPart::Whole));
+    EXPECT_FALSE(platform::Files().DeleteFolder(root, platform::FolderPart::Whole));
   }
 }
 

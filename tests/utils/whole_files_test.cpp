@@ -3,6 +3,8 @@
 #include "support/scratch_folder.h"
 #include "support/suite_name.h"
 #include <ravo/DIUtils.h>
+#include <ravo/platform/code_pages.h>
+#include <ravo/platform/files.h>
 #include <ravo/runtime/error.h>
 
 #include <filesystem>
@@ -30,7 +32,7 @@ TEST(SaveStrW, WritesUnitsLowByteFirstWithoutAMark) {
   EXPECT_EQ(BytesOf(scratch.Path() / "file"), "A\0\x0D\x01\0\0\0\xD8"s);
   EXPECT_TRUE(SaveStrWToFile(u"x", scratch.File(u"file")));
   EXPECT_EQ(BytesOf(scratch.Path() / "file"), "x\0"s);
-  EXPECT_TRUE(SaveStrWToFileA(u"", platform::CurrentMachine().ToCodePage(scratch.File(u"file"))));
+  EXPECT_TRUE(SaveStrWToFileA(u"", platform::CodePages().ToCodePage(scratch.File(u"file"))));
   EXPECT_EQ(BytesOf(scratch.Path() / "file"), "");
 }
 
@@ -40,7 +42,7 @@ TEST(SaveStrA, WritesBytesAsTheyAre) {
   EXPECT_EQ(BytesOf(scratch.Path() / u"účet"), "\r\n\x8A\0\x1A"s);
   EXPECT_TRUE(SaveStrAToFile("shorter", scratch.File(u"účet")));
   EXPECT_EQ(BytesOf(scratch.Path() / u"účet"), "shorter");
-  EXPECT_TRUE(SaveStrAToFileA("x", platform::CurrentMachine().ToCodePage(scratch.File(u"účet"))));
+  EXPECT_TRUE(SaveStrAToFileA("x", platform::CodePages().ToCodePage(scratch.File(u"účet"))));
   EXPECT_EQ(BytesOf(scratch.Path() / u"účet"), "x");
 }
 
@@ -50,7 +52,7 @@ TEST(SaveBuf, WritesAllOrNothingOfABuffer) {
   EXPECT_EQ(BytesOf(scratch.Path() / "file"), "123");
   EXPECT_TRUE(SaveBufToFile("12345", 5, scratch.File(u"file")));
   EXPECT_EQ(BytesOf(scratch.Path() / "file"), "12345");
-  EXPECT_TRUE(SaveBufToFileA("1", 1, platform::CurrentMachine().ToCodePage(scratch.File(u"file"))));
+  EXPECT_TRUE(SaveBufToFileA("1", 1, platform::CodePages().ToCodePage(scratch.File(u"file"))));
   EXPECT_EQ(BytesOf(scratch.Path() / "file"), "1");
   EXPECT_TRUE(SaveBufToFileW(nullptr, 0, scratch.File(u"file")));
   EXPECT_EQ(BytesOf(scratch.Path() / "file"), "");
@@ -58,7 +60,7 @@ TEST(SaveBuf, WritesAllOrNothingOfABuffer) {
 
 TEST(SaveBuf, ToAnOpenFileGoesOnWhereItStands) {
   const ScratchFolder scratch;
-  const platform::FileSystem& files = platform::CurrentMachine().Files();
+  const platform::FileCalls& files = platform::Files();
   const FileHandle file = files.Open(scratch.File(u"file"), platform::FilePurpose::Save);
   ASSERT_NE(file, kNoFile);
   EXPECT_TRUE(SaveBufToFile("abc", 3, file));
@@ -152,7 +154,7 @@ TEST(LoadStrA, GivesAllBytesAsTheyAre) {
   EXPECT_TRUE(LoadStrAFromFile(scratch.File(u"účet"), text));
   EXPECT_EQ(text, content);
   text.clear();
-  EXPECT_TRUE(LoadStrAFromFileA(platform::CurrentMachine().ToCodePage(scratch.File(u"účet")), text));
+  EXPECT_TRUE(LoadStrAFromFileA(platform::CodePages().ToCodePage(scratch.File(u"účet")), text));
   EXPECT_EQ(text, content);
 }
 
@@ -167,7 +169,7 @@ TEST(LoadStrW, GivesUnitsAsTheyAre) {
             u"\xFEFF"
             u"Ač\xD800");
   text.clear();
-  EXPECT_TRUE(LoadStrWFromFileA(platform::CurrentMachine().ToCodePage(scratch.File(u"file")), text));
+  EXPECT_TRUE(LoadStrWFromFileA(platform::CodePages().ToCodePage(scratch.File(u"file")), text));
   EXPECT_EQ(text,
             u"\xFEFF"
             u"Ač\xD800");

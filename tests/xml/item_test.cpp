@@ -1,6 +1,7 @@
 #include "support/fake_machine.h"
 #include "xml_text.h"
 #include <ravo/ECXMLParser.h>
+#include <ravo/platform/code_pages.h>
 
 #include <gmock/gmock.h>
 
@@ -336,7 +337,7 @@ TEST(TXMLItem, ReadsTheCodePageOfTheTimeItWasLoaded) {
 // Code pages are told apart by their bytes, not by their numbers.
 TEST(TXMLItem, ReadsAnotherCodePageOfTheSameNumber) {
   FakeMachine other;
-  other.code_page = platform::CurrentMachine().CodePage();
+  other.code_page = platform::CodePages().CodePage();
   other.other_bytes = {{'\xE8', u'\u03B8'}};
   TECXMLParser parser;
   LoadRoot(parser, "<a>\xE8</a>");
@@ -397,7 +398,7 @@ TEST(TXMLItem, KeepsTextOfACodePageOfTwoBytes) {
 
 TEST(TXMLItem, ReadsACodePageOfTwoBytesWhateverItsNumber) {
   TwoByteMachine machine;
-  machine.code_page = platform::CurrentMachine().CodePage();
+  machine.code_page = platform::CodePages().CodePage();
   TECXMLParser parser;
   LoadRoot(parser, "<a>\xE8\x40</a>");
   EXPECT_EQ(parser.Root()->Text(), u"\u010D@");

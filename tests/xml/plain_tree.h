@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ravo/platform/machine.h>
+#include <ravo/platform/code_pages.h>
 #include <ravo/runtime/string_list.h>
 #include <ravo/runtime/text.h>
 #include <ravo/xml/tokenizer.h>
@@ -94,7 +94,7 @@ inline void Load(Item& top, ByteStream& stream) {
     const std::uint8_t kind = tokenizer.Token();
     if (kind != xtText && kind != xtOpenTag && kind != xtCloseTag && kind != xtStandAloneTag) continue;
     if (current == nullptr) throw std::runtime_error("outside");
-    std::u16string s = platform::CurrentMachine().FromCodePage(tokenizer.TokenString());
+    std::u16string s = platform::CodePages().FromCodePage(tokenizer.TokenString());
     if (kind == xtText) {
       if (s.starts_with(u"<![CDATA[")) {
         s = std::u16string(Trimmed(s).substr(9));

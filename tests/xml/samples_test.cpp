@@ -1,8 +1,8 @@
 #include "support/tried.h"
 #include "xml_text.h"
 #include <ravo/ECXMLParser.h>
+#include <ravo/platform/code_pages.h>
 #include <ravo/platform/file_stream.h>
-#include <ravo/platform/machine.h>
 
 #include <gmock/gmock.h>
 
@@ -48,8 +48,8 @@ TXMLItem* At(TXMLItem* item, std::initializer_list<std::u16string_view> path) {
   return item;
 }
 
-// A text of the tree as the bytes of the document.
-std::string Bytes(std::u16string_view text) { return platform::CurrentMachine().ToCodePage(text); }
+// A text of the tree as the bytes that the document had.
+std::string Bytes(std::u16string_view text) { return platform::CodePages().ToCodePage(text); }
 
 TEST(Samples, AreLoadedWhole) {
   for (const Sample& sample : kSamples) {

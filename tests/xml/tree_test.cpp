@@ -3,6 +3,7 @@
 #include "support/tried.h"
 #include "xml_text.h"
 #include <ravo/ECXMLParser.h>
+#include <ravo/platform/code_pages.h>
 
 #include <gmock/gmock.h>
 
@@ -35,8 +36,8 @@ Loaded ByTree(const std::string& text, bool lines, bool reporting) {
     loaded.failed = true;
   }
   loaded.text = parser.Root()->XMLItemAsString(2);
-  EXPECT_EQ(Saved(parser), "<?xml version=\"1.0\" encoding=\"\" ?>\r\n" +
-                               platform::CurrentMachine().ToCodePage(loaded.text));
+  EXPECT_EQ(Saved(parser),
+            "<?xml version=\"1.0\" encoding=\"\" ?>\r\n" + platform::CodePages().ToCodePage(loaded.text));
   return loaded;
 }
 

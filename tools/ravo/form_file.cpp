@@ -2,6 +2,7 @@
 
 #include "csv_file.h"
 #include "foreign_text.h"
+#include <ravo/DIUnicode.h>
 #include <ravo/RavoFileCommon.h>
 #include <ravo/RavoInterface.h>
 
@@ -82,8 +83,7 @@ class FormWriter {
 
   // The first character that the forms' code page lacks.
   static std::string Lacking(std::u16string_view text) {
-    const ravo::platform::Machine& machine = ravo::platform::CurrentMachine();
-    const std::u16string back = machine.FromCodePage(machine.ToCodePage(text));
+    const std::u16string back = ravo::FromCodePage(ravo::ToCodePage(text));
     for (std::size_t i = 0; i < text.size(); ++i) {
       if (i >= back.size() || back[i] != text[i]) return ravo::ToUtf8(text.substr(i, 1));
     }

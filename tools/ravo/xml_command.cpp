@@ -5,6 +5,7 @@
 #include "xml_file.h"
 #include "xml_path.h"
 #include "xml_tree_text.h"
+#include <ravo/DIUnicode.h>
 #include <ravo/ECXMLTokenizer.h>
 #include <ravo/RavoInterface.h>
 
@@ -82,7 +83,7 @@ void Format(const XmlOptions& options, Outcome& outcome) {
   TECXMLParser parser;
   const XmlWords words = LoadXmlFile(options.file, parser);
   if (!options.out.empty()) return WriteDocument(options.out, parser, outcome);
-  const std::u16string text = ravo::platform::CurrentMachine().FromCodePage(SavedXml(parser));
+  const std::u16string text = ravo::FromCodePage(SavedXml(parser));
   outcome.out = words.Shown(ravo::ReplaceAll(text, u"\r\n", u"\n"));
 }
 

@@ -3,6 +3,7 @@
 #include "foreign_text.h"
 #include "progress.h"
 #include "text_file.h"
+#include <ravo/DIUnicode.h>
 #include <ravo/RavoInterface.h>
 
 #include <algorithm>
@@ -93,14 +94,13 @@ auto WithFile(const std::string& name, Work work) {
 }  // namespace
 
 std::string XmlWords::Shown(std::u16string_view text) const {
-  return utf8_ ? ForeignText(ravo::platform::CurrentMachine().ToCodePage(text)) : ravo::ToUtf8(text);
+  return utf8_ ? ForeignText(ravo::ToCodePage(text)) : ravo::ToUtf8(text);
 }
 
 std::u16string XmlWords::Kept(const std::string& utf8) const {
-  const auto& machine = ravo::platform::CurrentMachine();
-  std::u16string text = utf8_ ? machine.FromCodePage(utf8) : ravo::FromUtf8(utf8);
-  const std::string bytes = machine.ToCodePage(text);
-  if (utf8_ ? bytes != utf8 : machine.FromCodePage(bytes) != text) {
+  std::u16string text = utf8_ ? ravo::FromCodePage(utf8) : ravo::FromUtf8(utf8);
+  const std::string bytes = ravo::ToCodePage(text);
+  if (utf8_ ? bytes != utf8 : ravo::FromCodePage(bytes) != text) {
     throw std::runtime_error("'" + utf8 + "' cannot be written in the encoding of the document");
   }
   return text;

@@ -1,5 +1,6 @@
 #include "xml_path.h"
 
+#include <ravo/DIUtils.h>
 #include <ravo/RavoInterface.h>
 
 #include <algorithm>
@@ -45,8 +46,7 @@ Step StepOf(std::string_view text, const XmlWords& words, const std::string& pat
 
 // Compares names as they are shown: the code page cannot fold the case of bytes in UTF-8.
 bool SameName(std::u16string_view left, std::u16string_view right, const XmlWords& words) {
-  return ravo::platform::CurrentMachine().SameText(ravo::FromUtf8(words.Shown(left)),
-                                                   ravo::FromUtf8(words.Shown(right)));
+  return ravo::DIUtils::StrSameI(ravo::FromUtf8(words.Shown(left)), ravo::FromUtf8(words.Shown(right)));
 }
 
 TXMLItem* ChildOf(TXMLItem& item, const Step& step, const XmlWords& words, bool grow) {

@@ -1,5 +1,4 @@
 #include <ravo/catalogue/modules/base_constants.h>
-#include <ravo/catalogue/table_catalogue.h>
 
 #include <algorithm>
 #include <iterator>
@@ -24,10 +23,6 @@ constexpr CachedFields kCachedFields[] = {
 };
 
 }  // namespace
-
-std::u16string GetBaseTableDescription(std::int32_t id) {
-  return std::u16string(TableDescription(TableModule::Base, id));
-}
 
 std::u16string GetBaseTableCachedFields(std::u16string_view table) {
   std::u16string result;

@@ -1,4 +1,4 @@
-#include <ravo/platform/file_system.h>
+#include <ravo/platform/files.h>
 #include <ravo/platform/posix/attributes.h>
 
 #include <string_view>
@@ -9,7 +9,7 @@
 namespace ravo::platform::posix {
 namespace {
 
-// Whether the last part of a path begins with a dot and is more than a way of saying "here" or "above".
+// Tells whether the last part of a path begins with a dot and is neither "." nor "..".
 bool IsHidden(std::string_view path) {
   while (path.ends_with('/')) path.remove_suffix(1);
   const std::string_view name = path.substr(path.rfind('/') + 1);

@@ -5,11 +5,11 @@
 
 namespace ravo::platform::posix {
 
-/// Whether a path leads to a folder, through links too.
+/// Tells whether a path leads to a folder, through links too.
 [[nodiscard]] bool IsFolder(const std::string& path);
 
-/// The attributes that Windows would give what stands under a path: read-only is what the caller may not
-/// write, hidden what begins with a dot.
+/// Returns the attributes that Windows would give a path: read-only if the caller may not write it, hidden
+/// if its name begins with a dot.
 [[nodiscard]] std::uint32_t AttributesOf(const std::string& path, bool is_folder);
 
 }  // namespace ravo::platform::posix

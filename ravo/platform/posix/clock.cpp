@@ -22,7 +22,7 @@ DateTime LocalDateTime(const std::timespec& moment) {
                           static_cast<int>(moment.tv_nsec / kNanosecondsPerMillisecond)}});
 }
 
-DateTime PosixMachine::Now() const {
+DateTime PosixLocale::Now() const {
   std::timespec now{};
   clock_gettime(CLOCK_REALTIME, &now);
   return LocalDateTime(now);

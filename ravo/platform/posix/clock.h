@@ -6,7 +6,7 @@
 
 namespace ravo::platform::posix {
 
-/// A moment in local time, to the millisecond below; 0 for one that the calendar does not reach.
+/// Returns a moment in local time, rounded down to the millisecond; 0 if it is outside the calendar.
 [[nodiscard]] DateTime LocalDateTime(const std::timespec& moment);
 
 }  // namespace ravo::platform::posix

@@ -37,7 +37,7 @@ ResultCode ComponentRegistry::Create(const Guid& class_id, ComponentPtr<IUnknown
 }
 
 ComponentRegistry& ProcessComponents() {
-  // Never destroyed: objects of other modules may be revoked after the library's own statics are gone.
+  // Never destroyed: objects of other modules may be revoked after the library's own statics are destroyed.
   static ComponentRegistry& registry = *new ComponentRegistry;
   return registry;
 }

@@ -9,19 +9,19 @@
 
 namespace ravo::platform::posix {
 
-/// The classes that this process offers, by class identifier: what stands in the place of a component runtime
-/// where the system has none. All threads may use it at once.
+/// The classes that this process offers, by class identifier: the component runtime of systems without one.
+/// Thread-safe.
 class ComponentRegistry {
  public:
-  /// Answers `kAlreadyRegistered` where the class is offered already; else `registration` receives a number,
-  /// never 0.
+  /// Offers a class; `registration` receives its number, never 0. Returns `kAlreadyRegistered` if the class
+  /// is offered already.
   [[nodiscard]] ResultCode Offer(const Guid& class_id, ComponentFactory factory, std::uint32_t& registration);
 
-  /// A number that is not in use does nothing.
+  /// Revokes an offer; does nothing if the number is not in use.
   void Revoke(std::uint32_t registration);
 
-  /// A new object of the class. The factory runs outside the registry's lock: it may create, offer and revoke
-  /// classes itself, and it may still be running when its class is revoked.
+  /// Creates an object of the class. The factory runs outside the registry's lock: it may create, offer and
+  /// revoke classes itself, and may still be running when its class is revoked.
   [[nodiscard]] ResultCode Create(const Guid& class_id, ComponentPtr<IUnknown>& instance) const;
 
  private:
@@ -37,7 +37,7 @@ class ComponentRegistry {
   std::uint32_t last_ = 0;
 };
 
-/// The one of this process.
+/// Returns the registry of this process.
 [[nodiscard]] ComponentRegistry& ProcessComponents();
 
 }  // namespace ravo::platform::posix

@@ -1,6 +1,5 @@
 #include <ravo/platform/posix/attributes.h>
 #include <ravo/platform/posix/drives.h>
-#include <ravo/platform/posix/host_file.h>
 #include <ravo/platform/posix/paths.h>
 #include <ravo/platform/posix/posix_machine.h>
 #include <ravo/runtime/text.h>
@@ -13,23 +12,13 @@
 namespace ravo::platform::posix {
 namespace {
 
-// A partition has no such mark of its own: its disk, the folder above it, has.
-bool IsMarkedRemovable(const std::string& root, std::string_view device) {
-  const std::string folder = root + "/sys/class/block/" + std::string(device);
-  for (const char* place : {"/removable", "/../removable"}) {
-    const auto mark = ReadHostFile(folder + place);
-    if (mark) return TrimmedBytes(*mark) == "1";
-  }
-  return false;
-}
-
 std::int64_t SizeOfBlocks(std::uint64_t count, std::uint64_t size) {
   constexpr auto most = static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max());
   // Untested: needs a disk over eight exbibytes.
   return static_cast<std::int64_t>(size != 0 && count > most / size ? most : count * size);
 }
 
-// The drive that a question names; null where there is none.
+// Returns the drive of that name, or null.
 const Drive* NamedDrive(std::span<const Drive> drives, std::u16string_view name) {
   const auto letter = DriveLetterOf(name);
   const std::u16string_view rest = name.substr(std::min<std::size_t>(name.size(), 2));
@@ -38,11 +27,6 @@ const Drive* NamedDrive(std::span<const Drive> drives, std::u16string_view name)
 }
 
 }  // namespace
-
-std::vector<Drive> CurrentDrives(const std::string& root) {
-  const auto mounts = ParseMounts(ReadHostFile(root + "/proc/self/mounts").value_or(""));
-  return DrivesOf(mounts, [&](std::string_view device) { return IsMarkedRemovable(root, device); });
-}
 
 std::optional<char16_t> DriveLetterOf(std::u16string_view text) {
   if (text.size() < 2 || text[1] != u':') return std::nullopt;
@@ -56,19 +40,19 @@ const Drive* FindDrive(std::span<const Drive> drives, char16_t letter) {
   return at == drives.end() ? nullptr : &*at;
 }
 
-std::uint32_t PosixMachine::LogicalDrives() const {
+std::uint32_t PosixDrives::LogicalDrives() const {
   std::uint32_t mask = 0;
   for (const Drive& drive : CurrentDrives(root_)) mask |= std::uint32_t{1} << (drive.letter - u'A');
   return mask;
 }
 
-DriveKind PosixMachine::KindOfDrive(std::u16string_view drive) const {
+DriveKind PosixDrives::KindOfDrive(std::u16string_view drive) const {
   const auto drives = CurrentDrives(root_);
   const Drive* found = NamedDrive(drives, drive);
   return found ? found->kind : DriveKind::NoRoot;
 }
 
-std::optional<DiskSpace> PosixMachine::SpaceOfFolder(std::u16string_view folder) const {
+std::optional<DiskSpace> PosixDrives::SpaceOfFolder(std::u16string_view folder) const {
   const auto path = HostPath(folder, root_);
   struct statvfs facts {};
   // Untested: the folder would have to be deleted between two calls.

@@ -1,5 +1,5 @@
 #include <ravo/platform/posix/paths.h>
-#include <ravo/platform/posix/posix_file_system.h>
+#include <ravo/platform/posix/posix_machine.h>
 #include <ravo/platform/posix/uninterrupted.h>
 
 #include <chrono>
@@ -20,7 +20,7 @@ int FlagsOf(FilePurpose purpose) {
       return always | O_RDONLY;
     case FilePurpose::Save:
       return always | O_WRONLY | O_CREAT | O_TRUNC;
-    // A pipe without a reader is not waited for: it has no date to be set.
+    // Without O_NONBLOCK, opening a pipe would wait for a reader; a pipe has no date to set anyway.
     case FilePurpose::Date:
       return always | O_WRONLY | O_NONBLOCK;
     case FilePurpose::DateFolder:
@@ -38,34 +38,31 @@ std::optional<std::size_t> Moved(ssize_t count) {
 
 }  // namespace
 
-PosixFileSystem::~PosixFileSystem() = default;
-
-FileHandle PosixFileSystem::Open(std::u16string_view name, FilePurpose purpose) const {
+FileHandle PosixFiles::Open(std::u16string_view name, FilePurpose purpose) const {
   const auto path = HostPath(name, root_);
   if (!path) return kNoFile;
   return Uninterrupted([&] { return open(path->c_str(), FlagsOf(purpose), kNewFileRights); });
 }
 
-// A file system of another computer may learn only now that what was written has no room.
-bool PosixFileSystem::Close(FileHandle file) const { return close(Descriptor(file)) == 0; }
+// A network file system may report only now that the disk is full.
+bool PosixFiles::Close(FileHandle file) const { return close(Descriptor(file)) == 0; }
 
-std::optional<std::int64_t> PosixFileSystem::SizeOf(FileHandle file) const {
+std::optional<std::int64_t> PosixFiles::SizeOf(FileHandle file) const {
   struct stat facts {};
   // Untested: the call fails only if the system is broken.
   if (fstat(Descriptor(file), &facts) != 0) return std::nullopt;
   return facts.st_size;
 }
 
-std::optional<std::size_t> PosixFileSystem::Read(FileHandle file, std::span<std::byte> to) const {
+std::optional<std::size_t> PosixFiles::Read(FileHandle file, std::span<std::byte> to) const {
   return Moved(Uninterrupted([&] { return read(Descriptor(file), to.data(), to.size()); }));
 }
 
-std::optional<std::size_t> PosixFileSystem::Write(FileHandle file, std::span<const std::byte> from) const {
+std::optional<std::size_t> PosixFiles::Write(FileHandle file, std::span<const std::byte> from) const {
   return Moved(Uninterrupted([&] { return write(Descriptor(file), from.data(), from.size()); }));
 }
 
-bool PosixFileSystem::SetTimes(FileHandle file, std::uint16_t year, std::uint16_t month,
-                               std::uint16_t day) const {
+bool PosixFiles::SetTimes(FileHandle file, std::uint16_t year, std::uint16_t month, std::uint16_t day) const {
   const std::chrono::year_month_day date{std::chrono::year{year}, std::chrono::month{month},
                                          std::chrono::day{day}};
   const std::chrono::sys_seconds midnight{std::chrono::sys_days(date)};

@@ -14,7 +14,7 @@ bool Exists(const std::string& path) {
   return stat(path.c_str(), &facts) == 0;
 }
 
-// The least of the matching names; empty where there is none.
+// Returns the smallest of the matching names; empty if none matches.
 std::string FirstMatch(const std::string& folder, std::u16string_view pattern) {
   const OpenFolder open(opendir(folder.empty() ? "." : folder.c_str()));
   std::string first;
@@ -31,7 +31,7 @@ bool MatchesPattern(std::u16string_view name, std::u16string_view pattern) noexc
   if (pattern == u"*.*") return true;
   std::size_t at = 0;
   std::size_t in_pattern = 0;
-  // Where to go on when the text of the last "*" must be longer.
+  // The positions to resume at if the text of the last "*" must be longer.
   std::size_t behind_star = pattern.npos;
   std::size_t star_end = 0;
   while (at < name.size()) {

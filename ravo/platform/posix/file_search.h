@@ -6,13 +6,13 @@
 
 namespace ravo::platform::posix {
 
-/// Whether a name is of a pattern: "*" stands for any text, "?" for any one unit, "*.*" as a whole for every
-/// name.
+/// Tells whether a name matches a pattern: "*" matches any text, "?" any one unit, and the pattern "*.*"
+/// every name.
 [[nodiscard]] bool MatchesPattern(std::u16string_view name, std::u16string_view pattern) noexcept;
 
-/// What a directory search for a path finds first: the path itself where something has that name, else the
-/// first name, in the order of their bytes, that matches the pattern in its last part; "." is such a name. No
-/// value where nothing does and for a path that ends in "/".
+/// Returns the first match of a directory search: the path itself if it exists, otherwise the first name, in
+/// byte order, that matches the pattern in the path's last part. "." counts as a name. No value if there is
+/// no match, or if the path ends in "/".
 [[nodiscard]] std::optional<std::string> FirstFound(const std::string& path);
 
 }  // namespace ravo::platform::posix

@@ -83,7 +83,7 @@ std::size_t ReadNext(FileHandle file, std::span<std::byte> to) {
   return Moved(Uninterrupted([&] { return read(Descriptor(file), to.data(), to.size()); }));
 }
 
-// The checked operations of streams raise where nothing was moved.
+// Callers throw if the result is 0.
 std::size_t WriteAt(FileHandle file, std::int64_t position, std::span<const std::byte> from) {
   const auto count =
       Uninterrupted([&] { return pwrite(Descriptor(file), from.data(), from.size(), position); });

@@ -13,7 +13,7 @@
 namespace ravo::platform::posix {
 namespace {
 
-// Opening a pipe would wait for whoever writes it.
+// Opening a pipe would wait for its writer.
 bool IsOrdinaryFile(std::u16string_view name) {
   const auto path = HostPath(name);
   struct stat facts {};
@@ -22,7 +22,7 @@ bool IsOrdinaryFile(std::u16string_view name) {
 
 }  // namespace
 
-std::optional<FileFacts> PosixMachine::FindFile(std::u16string_view name) const {
+std::optional<FileFacts> PosixPaths::FindFile(std::u16string_view name) const {
   const auto path = FirstFound(HostPath(name, root_).value_or(""));
   struct stat facts {};
   // Untested: the file would have to be deleted between two calls.
@@ -32,7 +32,7 @@ std::optional<FileFacts> PosixMachine::FindFile(std::u16string_view name) const 
                    AttributesOf(*path, is_folder)};
 }
 
-std::unique_ptr<VersionResource> PosixMachine::OpenVersionResource(std::u16string_view name) const {
+std::unique_ptr<VersionResource> PosixPaths::OpenVersionResource(std::u16string_view name) const {
   if (!IsOrdinaryFile(name)) return nullptr;
   try {
     FileStream file(name, FileMode::Read);

@@ -1,7 +1,7 @@
 #include <ravo/platform/posix/attributes.h>
 #include <ravo/platform/posix/folder_deletion.h>
 #include <ravo/platform/posix/paths.h>
-#include <ravo/platform/posix/posix_file_system.h>
+#include <ravo/platform/posix/posix_machine.h>
 #include <ravo/runtime/text.h>
 
 #include <filesystem>
@@ -16,7 +16,7 @@ namespace {
 
 constexpr mode_t kNewFolderRights = 0777;
 
-// Without delimiters at the end, so that a link to a folder is the link.
+// Removes trailing delimiters, so that a link to a folder is the link and not its target.
 std::string WithoutDelimiters(std::string path) {
   // Untested: the caller refused the root; any other name has more than delimiters.
   while (path.size() > 1 && path.ends_with('/')) path.pop_back();
@@ -39,29 +39,29 @@ bool IsThere(const std::string& path) {
 
 }  // namespace
 
-std::optional<std::uint32_t> PosixFileSystem::Attributes(std::u16string_view name) const {
+std::optional<std::uint32_t> PosixFiles::Attributes(std::u16string_view name) const {
   const auto path = HostPath(name, root_);
   struct stat facts {};
   if (!path || stat(path->c_str(), &facts) != 0) return std::nullopt;
   return AttributesOf(*path, S_ISDIR(facts.st_mode));
 }
 
-std::u16string PosixFileSystem::CurrentFolder() const {
+std::u16string PosixFiles::CurrentFolder() const {
   std::error_code error;
   return FromUtf8(std::filesystem::current_path(error).string());
 }
 
-bool PosixFileSystem::SetCurrentFolder(std::u16string_view folder) const {
+bool PosixFiles::SetCurrentFolder(std::u16string_view folder) const {
   const auto path = HostPath(folder, root_);
   return path && chdir(path->c_str()) == 0;
 }
 
-bool PosixFileSystem::CreateFolder(std::u16string_view folder) const {
+bool PosixFiles::CreateFolder(std::u16string_view folder) const {
   const auto path = HostPath(folder, root_);
   return path && mkdir(path->c_str(), kNewFolderRights) == 0;
 }
 
-bool PosixFileSystem::DeleteFolder(std::u16string_view folder, FolderPart part) const {
+bool PosixFiles::DeleteFolder(std::u16string_view folder, FolderPart part) const {
   const auto path = HostPath(folder, root_);
   if (!path || path->empty() || IsRoot(*path)) return false;
   if (part == FolderPart::Contents)
@@ -70,7 +70,7 @@ bool PosixFileSystem::DeleteFolder(std::u16string_view folder, FolderPart part) 
   return IsThere(itself) && DeleteEntry(itself.c_str());
 }
 
-bool PosixFileSystem::RemoveFile(std::u16string_view name) const {
+bool PosixFiles::RemoveFile(std::u16string_view name) const {
   const auto path = HostPath(name, root_);
   return path && unlink(path->c_str()) == 0;
 }

@@ -40,7 +40,7 @@ OpenFolder Opened(int folder) {
   return open;
 }
 
-// Which folder it is, whatever its name.
+// Identifies a folder independently of its name.
 struct Identity {
   dev_t device = 0;
   ino_t number = 0;
@@ -55,11 +55,11 @@ std::optional<Identity> IdentityOf(const OpenFolder& folder) {
   return Identity{facts.st_dev, facts.st_ino};
 }
 
-// A folder on the path from the outermost one to where the deletion is.
+// A folder on the path from the outermost one to the current one.
 struct Level {
   OpenFolder open;
   std::optional<Identity> identity;
-  // What is still to be deleted; the last one is being deleted.
+  // Names to delete; the last one is being deleted.
   std::vector<std::string> names;
 
   [[nodiscard]] int Descriptor() const { return dirfd(open.get()); }
@@ -70,8 +70,7 @@ enum class Step { Gone, Stays, IsFolder };
 Step Unlink(int parent, const char* name) {
   // Untested: the name would have to be deleted between two calls.
   if (unlinkat(parent, name, 0) == 0 || errno == ENOENT) return Step::Gone;
-  // Systems call it one or the other that something is a folder.
-  // Untested: Linux reports EISDIR.
+  // Systems report "is a folder" by either code.
   return errno == EISDIR || errno == EPERM ? Step::IsFolder : Step::Stays;
 }
 
@@ -80,7 +79,7 @@ bool RemoveFolder(int parent, const char* name) { return unlinkat(parent, name, 
 // Deletes without recursion: neither the stack nor the number of open files limits how deep folders nest.
 class Deletion {
  public:
-  // Deletes what is in `folder`; false if something stays.
+  // Deletes the contents of `folder`; false if something stays.
   bool Run(OpenFolder folder) {
     Enter(std::move(folder));
     while (!path_.empty()) {
@@ -117,7 +116,7 @@ class Deletion {
     Finish(step == Step::Gone || (step == Step::IsFolder && RemoveFolder(parent, name)));
   }
 
-  // Goes up to the parent and deletes the folder that should be empty now. False if there is no way up.
+  // Goes up to the parent and deletes the folder, which should be empty now; false if there is no way up.
   bool Leave() {
     const OpenFolder left = std::move(path_.back().open);
     path_.pop_back();

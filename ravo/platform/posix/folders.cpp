@@ -66,7 +66,7 @@ std::string PublicFolder() {
   return folder.empty() ? UserFolderFrom(UserFolders(), variable, HomeFolder()) : folder;
 }
 
-std::u16string PosixMachine::Folder(SystemFolder folder) const {
+std::u16string PosixFolders::Folder(SystemFolder folder) const {
   std::u16string text = FromUtf8(FolderBytes(folder));
   return text.size() <= kMostFolderUnits ? text : std::u16string();
 }

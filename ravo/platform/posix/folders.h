@@ -5,18 +5,18 @@
 
 namespace ravo::platform::posix {
 
-/// The home folder of the user; empty where there is none to be told.
+/// Returns the user's home folder; empty if it is unknown.
 [[nodiscard]] std::string HomeFolder();
 
-/// The text of the user's "user-dirs.dirs" file; empty where there is none.
+/// Returns the text of the user's "user-dirs.dirs" file; empty if it does not exist.
 [[nodiscard]] std::string UserFolders();
 
-/// A folder that the text of a "user-dirs.dirs" file names under a variable, "$HOME" expanded; empty where it
-/// names none, or the home folder, which is that file's way of saying so.
+/// Returns the folder that the text of a "user-dirs.dirs" file gives a variable, "$HOME" expanded; empty if
+/// it gives none. The home folder itself means "none" in that file.
 [[nodiscard]] std::string UserFolderFrom(std::string_view user_dirs, std::string_view variable,
                                          std::string_view home);
 
-/// The documents for everyone; empty where the user has none.
+/// Returns the folder of documents for everyone; empty if the user has none.
 [[nodiscard]] std::string PublicFolder();
 
 }  // namespace ravo::platform::posix

@@ -4,7 +4,7 @@
 
 namespace ravo::platform {
 
-// Where memory is short nothing is registered.
+// Registers nothing if memory is short.
 void CallAroundFork(void (*before)() noexcept, void (*after)() noexcept) noexcept {
   static_cast<void>(pthread_atfork(before, after, after));
 }

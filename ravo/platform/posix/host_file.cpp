@@ -21,8 +21,7 @@ std::optional<std::string> ReadHostFile(const std::string& path) {
     file.read(chunk.data(), chunk.size());
     text.append(chunk.data(), static_cast<std::size_t>(file.gcount()));
   }
-  // At its end a file has failed, but not badly; one that was never opened is not at its end.
-  // Untested: the file would have to fail while it is read.
+  // At the end of file failbit is set, but not badbit; a file that was never opened is not at its end.
   if (file.bad() || (file.fail() && !file.eof())) return std::nullopt;
   return text;
 }

@@ -13,7 +13,7 @@
 namespace ravo::platform::posix {
 namespace {
 
-// A locale of the C library, by name; the empty name is the environment's.
+// A locale of the C library, by name; the empty name means the environment's.
 class NamedLocale {
  public:
   explicit NamedLocale(const std::string& name) : locale_(newlocale(LC_ALL_MASK, name.c_str(), nullptr)) {}
@@ -31,7 +31,7 @@ class NamedLocale {
   locale_t locale_;
 };
 
-// Puts a locale in force for this thread, for as long as this object lives.
+// Makes a locale this thread's for the lifetime of this object.
 class ThreadLocale {
  public:
   explicit ThreadLocale(locale_t locale) : previous_(uselocale(locale)) {}
@@ -43,7 +43,7 @@ class ThreadLocale {
   locale_t previous_;
 };
 
-// Bytes in the charset of the locale in force; each byte that is none of its characters becomes U+FFFD.
+// Decodes text in the charset of the current locale; each byte that is no character becomes U+FFFD.
 std::u16string FromThreadCharset(std::string_view bytes) {
   constexpr auto not_complete = static_cast<std::size_t>(-2);
   constexpr auto second_unit = static_cast<std::size_t>(-3);
@@ -99,13 +99,13 @@ void SetTimeFacts(FormatSettings& settings, const NamedLocale& locale) {
   SetNames(settings.short_day_names, locale, ABDAY_1);
   SetNames(settings.long_day_names, locale, DAY_1);
   SetNames(settings.short_month_names, locale, ABMON_1);
-  // The names of months standing alone, as systems give them elsewhere too.
+  // The names of months in the nominative.
   SetNames(settings.long_month_names, locale, ALTMON_1);
 }
 
 }  // namespace
 
-FormatSettings PosixMachine::Locale() const {
+FormatSettings PosixLocale::Settings() const {
   FormatSettings settings;
   const NamedLocale environment("");
   if (!environment) return settings;

@@ -6,7 +6,7 @@
 namespace ravo::platform::posix {
 namespace {
 
-// `plain` is the form without padding, where there is one.
+// `plain` is the form without padding, if there is one.
 struct Conversion {
   char16_t letter;
   std::u16string_view padded;
@@ -42,10 +42,10 @@ constexpr Conversion kConversions[] = {
     {u'%', u"%", u"%"},
 };
 
-// Flags, a width and the marks of alternative forms stand before the letter.
+// Flags, a width and modifiers come before the letter.
 constexpr std::u16string_view kModifiers = u"-_0^#+123456789EO";
 
-// One piece of a literal text: what needs no quotes, letters, or the quotes themselves.
+// One piece of a literal text: units that need no quotes, letters, or the quotes themselves.
 std::u16string_view TakePiece(std::u16string_view& text, std::u16string_view& quote) {
   const auto quote_of = [](char16_t ch) -> std::u16string_view {
     if (ch == u'"') return u"'";
@@ -68,7 +68,7 @@ std::u16string Literal(std::u16string_view text) {
   return result;
 }
 
-// Takes the modifiers and the letter of a conversion off the front of `rest`, its "%" already gone.
+// Removes the modifiers and the letter of a conversion from the front of `rest`, which begins after "%".
 std::u16string_view TakeConversion(std::u16string_view& rest) {
   const std::size_t end = std::min(rest.find_first_not_of(kModifiers), rest.size());
   const std::u16string_view modifiers = rest.substr(0, end);

@@ -5,8 +5,8 @@
 
 namespace ravo::platform::posix {
 
-/// A date or time pattern of the C library (`strftime`) in the letters of `FormatDateTime`. Letters that
-/// stand for themselves are quoted; what has no counterpart, such as the time zone, is left out.
+/// Returns a date or time pattern of the C library (`strftime`) in the letters of `FormatDateTime`. Literal
+/// letters are quoted; conversions without a counterpart, such as the time zone, are dropped.
 [[nodiscard]] std::u16string PatternFromLocale(std::u16string_view pattern);
 
 }  // namespace ravo::platform::posix

@@ -10,7 +10,7 @@ struct CloseFolder {
   void operator()(DIR* folder) const noexcept { closedir(folder); }
 };
 
-/// A folder that is being read; null where it cannot be opened.
+/// An open folder; null if it cannot be opened.
 using OpenFolder = std::unique_ptr<DIR, CloseFolder>;
 
 }  // namespace ravo::platform::posix

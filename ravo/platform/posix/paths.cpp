@@ -9,14 +9,14 @@
 namespace ravo::platform::posix {
 namespace {
 
-// Each part, with one delimiter between the two.
+// Joins both with one delimiter between them.
 std::string Joined(std::string folder, std::string_view name) {
   if (!folder.ends_with('/')) folder.push_back('/');
   while (name.starts_with('/')) name.remove_prefix(1);
   return folder.append(name);
 }
 
-// Empty where it cannot be told.
+// Empty if the system does not tell.
 std::string CurrentFolder() {
   std::error_code error;
   return std::filesystem::current_path(error).string();
@@ -54,7 +54,7 @@ std::string NormalizedPath(std::string_view path) {
   return result.empty() || is_folder ? result + "/" : result;
 }
 
-std::u16string PosixMachine::FullPath(std::u16string_view name) const {
+std::u16string PosixPaths::FullPath(std::u16string_view name) const {
   const auto path = HostPath(name, root_);
   if (!path || path->empty()) return {};
   if (path->starts_with('/')) return FromUtf8(NormalizedPath(*path));

@@ -9,14 +9,14 @@
 namespace ravo::platform::posix {
 namespace {
 
-// A folder that a variable names, or else a place below the home folder.
+// A folder named by a variable; the fallback is a place below the home folder.
 struct NamedFolder {
   std::int32_t number;
   const char* variable;
   const char* otherwise;
 };
 
-// Variables of the file of the user's folders.
+// Variables of "user-dirs.dirs".
 constexpr NamedFolder kUserFolders[] = {
     {0, "XDG_DESKTOP_DIR", "/Desktop"}, {5, "XDG_DOCUMENTS_DIR", ""},        {13, "XDG_MUSIC_DIR", ""},
     {14, "XDG_VIDEOS_DIR", ""},         {16, "XDG_DESKTOP_DIR", "/Desktop"}, {21, "XDG_TEMPLATES_DIR", ""},
@@ -53,7 +53,7 @@ std::string FolderUnder(std::int32_t number) {
 
 }  // namespace
 
-std::u16string PosixMachine::ShellFolder(std::int32_t number) const {
+std::u16string PosixFolders::ShellFolder(std::int32_t number) const {
   switch (number) {
     case kWindows:
       return Folder(SystemFolder::Windows);

@@ -4,7 +4,7 @@
 namespace ravo::platform::posix {
 namespace {
 
-// The text of one word: quoted as a whole, or bare. A backslash takes the next character as it is, except in
+// Returns the text of one word, quoted as a whole or bare. A backslash escapes the next character, except in
 // single quotes.
 std::string Unquoted(std::string_view word) {
   const bool is_quoted = word.starts_with('"') || word.starts_with('\'');

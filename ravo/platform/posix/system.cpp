@@ -19,7 +19,7 @@ bool StartsWithDigit(std::string_view text) {
   return !text.empty() && text.front() >= '0' && text.front() <= '9';
 }
 
-// Takes a decimal number off the front; one that is too large reads as the largest.
+// Removes a decimal number from the front; one that is too large reads as the largest.
 std::uint32_t TakeNumber(std::string_view& rest) {
   std::uint32_t number = 0;
   const auto result = std::from_chars(rest.data(), rest.data() + rest.size(), number);
@@ -27,7 +27,7 @@ std::uint32_t TakeNumber(std::string_view& rest) {
   return result.ec == std::errc::result_out_of_range ? std::numeric_limits<std::uint32_t>::max() : number;
 }
 
-// Takes up to three numbers off the front.
+// Removes up to three numbers from the front.
 SystemNumbers TakeNumbers(std::string_view& release) {
   SystemNumbers numbers;
   // Untested: the loop ends at the third number.
@@ -60,14 +60,21 @@ std::uint16_t ArchitectureFromMachineName(std::string_view name) {
   return is_intel ? kArchitectureIntel : kUnknownArchitecture;
 }
 
-SystemVersion PosixMachine::Version() const {
+std::u16string HostName() {
+  // Linux allows 64 bytes; a name cut short need not be terminated.
+  char name[256] = {};
+  // Untested: the call fails only if the system is broken.
+  return gethostname(name, sizeof name - 1) == 0 ? FromUtf8(name) : std::u16string();
+}
+
+SystemVersion PosixSystem::Version() const {
   utsname names{};
   // Untested: the call fails only if the system is broken.
   return uname(&names) == 0 ? VersionFromRelease(names.release) : SystemVersion();
 }
 
-SystemVersion PosixMachine::BasicVersion() const { return Version(); }
-SystemNumbers PosixMachine::VersionNumbers() const noexcept {
+SystemVersion PosixSystem::BasicVersion() const { return Version(); }
+SystemNumbers PosixSystem::VersionNumbers() const noexcept {
   utsname names{};
   // Untested: the call fails only if the system is broken.
   if (uname(&names) != 0) return {};
@@ -75,20 +82,15 @@ SystemNumbers PosixMachine::VersionNumbers() const noexcept {
   return TakeNumbers(release);
 }
 
-std::uint16_t PosixMachine::ProcessorArchitecture() const {
+std::uint16_t PosixSystem::ProcessorArchitecture() const {
   utsname names{};
   // Untested: the call fails only if the system is broken.
   return uname(&names) == 0 ? ArchitectureFromMachineName(names.machine) : kUnknownArchitecture;
 }
 
-std::u16string PosixMachine::ComputerName() const {
-  // Linux allows 64 bytes; a name cut short need not be terminated.
-  char name[256] = {};
-  // Untested: the call fails only if the system is broken.
-  return gethostname(name, sizeof name - 1) == 0 ? FromUtf8(name) : std::u16string();
-}
+std::u16string PosixSystem::ComputerName() const { return HostName(); }
 
-std::u16string PosixMachine::UserName() const {
+std::u16string PosixSystem::UserName() const {
   const auto user = CurrentUser();
   return user ? FromUtf8(user->name) : std::u16string();
 }

@@ -4,7 +4,7 @@
 
 namespace ravo::platform::posix {
 
-/// Runs a system call again for as long as a signal cuts it short; -1 is its failure.
+/// Repeats a system call until no signal interrupts it; -1 if it fails.
 template <class Call>
 auto Uninterrupted(Call call) {
   for (;;) {

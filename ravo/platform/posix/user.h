@@ -6,17 +6,17 @@
 
 namespace ravo::platform::posix {
 
-/// What the user database says of the user whose rights the process has.
+/// An entry of the user database.
 struct User {
   std::string name;
   std::string full_name;
   std::string home;
 };
 
-/// No value for a user whom the database does not know.
+/// Returns the entry of the effective user; no value if the database has none.
 [[nodiscard]] std::optional<User> CurrentUser();
 
-/// The full name in the database's comment field: what stands before its first comma.
+/// Returns the full name in the database's comment field: the part before its first comma.
 [[nodiscard]] std::string_view FullNameOf(std::string_view comment);
 
 }  // namespace ravo::platform::posix

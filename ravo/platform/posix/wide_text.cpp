@@ -13,7 +13,7 @@ using ByteLength = std::uint32_t;
 constexpr std::size_t kMostUnits =
     (std::numeric_limits<ByteLength>::max() - sizeof(ByteLength)) / sizeof(char16_t) - 1;
 
-// Where the block of a text begins: at its length.
+// Returns the block that holds a text; it begins with the length.
 char* BlockOf(const char16_t* text) {
   return const_cast<char*>(reinterpret_cast<const char*>(text)) - sizeof(ByteLength);
 }

@@ -8,7 +8,7 @@
 
 namespace ravo::platform {
 
-/// The platform's interface of class objects, from which it has instances made.
+/// The platform's interface of class objects, which make instances.
 struct IClassFactory : IUnknown {
   static constexpr Guid kInterfaceId{"{00000001-0000-0000-C000-000000000046}"};
 
@@ -20,7 +20,7 @@ struct IClassFactory : IUnknown {
   ~IClassFactory() = default;
 };
 
-/// The class object of a class that this process makes with a function of its own.
+/// The class object of a class whose instances a function of this process makes.
 class ClassObject final : public ComponentObject<IClassFactory> {
  public:
   explicit ClassObject(ComponentFactory factory) : factory_(std::move(factory)) {}

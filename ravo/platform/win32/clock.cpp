@@ -9,7 +9,7 @@ DateTime DateTimeOf(const SYSTEMTIME& time) {
       {{time.wYear, time.wMonth, time.wDay}, {time.wHour, time.wMinute, time.wSecond, time.wMilliseconds}});
 }
 
-DateTime Win32Machine::Now() const {
+DateTime Win32Locale::Now() const {
   SYSTEMTIME time{};
   GetLocalTime(&time);
   return DateTimeOf(time);

@@ -6,8 +6,8 @@
 
 namespace ravo::platform {
 
-/// A calendar record of the system as a date-time; 0 for the years beyond 9999 that a damaged file time may
-/// tell of.
+/// Returns a calendar record of the system as a date-time; 0 for years beyond 9999, which a damaged file
+/// time may have.
 [[nodiscard]] DateTime DateTimeOf(const SYSTEMTIME& time);
 
 }  // namespace ravo::platform

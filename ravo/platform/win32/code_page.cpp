@@ -28,23 +28,23 @@ std::string Encode(UINT code_page, std::u16string_view text) {
 
 }  // namespace
 
-std::uint32_t Win32Machine::CodePage() const { return GetACP(); }
+std::uint32_t Win32CodePages::CodePage() const { return GetACP(); }
 
-std::u16string Win32Machine::FromCodePage(std::string_view bytes) const { return Decode(CP_ACP, bytes); }
+std::u16string Win32CodePages::FromCodePage(std::string_view bytes) const { return Decode(CP_ACP, bytes); }
 
-std::string Win32Machine::ToCodePage(std::u16string_view text) const { return Encode(CP_ACP, text); }
+std::string Win32CodePages::ToCodePage(std::u16string_view text) const { return Encode(CP_ACP, text); }
 
-std::optional<std::u16string> Win32Machine::DecodeCodePage(std::uint32_t code_page,
-                                                           std::string_view bytes) const {
+std::optional<std::u16string> Win32CodePages::DecodeCodePage(std::uint32_t code_page,
+                                                             std::string_view bytes) const {
   return IsValidCodePage(code_page) ? std::optional(Decode(code_page, bytes)) : std::nullopt;
 }
 
-std::optional<std::string> Win32Machine::EncodeCodePage(std::uint32_t code_page,
-                                                        std::u16string_view text) const {
+std::optional<std::string> Win32CodePages::EncodeCodePage(std::uint32_t code_page,
+                                                          std::u16string_view text) const {
   return IsValidCodePage(code_page) ? std::optional(Encode(code_page, text)) : std::nullopt;
 }
 
-std::optional<std::uint32_t> Win32Machine::CodePageOfLocale(std::uint32_t locale) const {
+std::optional<std::uint32_t> Win32CodePages::CodePageOfLocale(std::uint32_t locale) const {
   // Five digits and a zero.
   std::array<wchar_t, 6> digits{};
   const int units = GetLocaleInfoW(locale, LOCALE_IDEFAULTANSICODEPAGE, digits.data(), digits.size());

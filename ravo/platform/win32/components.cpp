@@ -12,7 +12,7 @@
 namespace ravo::platform {
 namespace {
 
-// The same bytes under the system's own names.
+// The same bytes in the system's own type.
 const ::IID& SystemGuid(const Guid& guid) noexcept { return reinterpret_cast<const ::IID&>(guid); }
 static_assert(sizeof(::IID) == sizeof(Guid));
 
@@ -22,7 +22,7 @@ ComponentAnswer Answer(ResultCode code, void* instance) noexcept {
 
 }  // namespace
 
-ComponentAnswer Win32Machine::CreateComponent(const Guid& class_id) const {
+ComponentAnswer Win32Components::CreateComponent(const Guid& class_id) const {
   void* instance = nullptr;
   const HRESULT code =
       CoCreateInstance(SystemGuid(class_id), nullptr, CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER,
@@ -30,8 +30,8 @@ ComponentAnswer Win32Machine::CreateComponent(const Guid& class_id) const {
   return Answer(code, instance);
 }
 
-ComponentAnswer Win32Machine::CreateRemoteComponent(const Guid& class_id,
-                                                    std::u16string_view computer) const {
+ComponentAnswer Win32Components::CreateRemoteComponent(const Guid& class_id,
+                                                       std::u16string_view computer) const {
   std::wstring name = ToWide(computer);
   COSERVERINFO server{};
   server.pwszName = name.data();
@@ -41,8 +41,8 @@ ComponentAnswer Win32Machine::CreateRemoteComponent(const Guid& class_id,
   return Answer(Failed(code) ? code : wanted.hr, wanted.pItf);
 }
 
-ResultCode Win32Machine::OfferComponent(const Guid& class_id, ComponentFactory factory,
-                                        std::uint32_t& registration) const {
+ResultCode Win32Components::OfferComponent(const Guid& class_id, ComponentFactory factory,
+                                           std::uint32_t& registration) const {
   const auto object = MakeComponent<ClassObject>(std::move(factory));
   DWORD cookie = 0;
   const HRESULT code =
@@ -52,9 +52,9 @@ ResultCode Win32Machine::OfferComponent(const Guid& class_id, ComponentFactory f
   return code;
 }
 
-void Win32Machine::RevokeComponent(std::uint32_t registration) const { CoRevokeClassObject(registration); }
+void Win32Components::RevokeComponent(std::uint32_t registration) const { CoRevokeClassObject(registration); }
 
-std::u16string Win32Machine::ComponentErrorText(ResultCode code) const {
+std::u16string Win32Components::ComponentErrorText(ResultCode code) const {
   const std::optional<std::u16string> text = KnownSystemErrorText(static_cast<std::uint32_t>(code));
   return text ? *text : ComponentText(code);
 }

@@ -4,11 +4,11 @@
 
 namespace ravo::platform {
 
-/// A name with its drive and all folders on the way.
+/// Returns a name with its drive and all folders.
 [[nodiscard]] std::wstring FullName(const std::wstring& name);
 
-/// Whether a name, however it is written, is that of a drive and not of a folder on it: "C:\\" and "C:\."
-/// are.
+/// Tells whether a name, however it is written, is that of a drive and not of a folder on it: "C:\\" and
+/// "C:\." are.
 [[nodiscard]] bool IsDriveName(const std::wstring& name);
 
 }  // namespace ravo::platform

@@ -5,14 +5,14 @@
 
 namespace ravo::platform {
 
-std::uint32_t Win32Machine::LogicalDrives() const { return GetLogicalDrives(); }
+std::uint32_t Win32Drives::LogicalDrives() const { return GetLogicalDrives(); }
 
-DriveKind Win32Machine::KindOfDrive(std::u16string_view drive) const {
+DriveKind Win32Drives::KindOfDrive(std::u16string_view drive) const {
   const UINT kind = GetDriveTypeW(ToWide(drive).c_str());
   return kind <= DRIVE_RAMDISK ? static_cast<DriveKind>(kind) : DriveKind::Unknown;
 }
 
-std::optional<DiskSpace> Win32Machine::SpaceOfFolder(std::u16string_view folder) const {
+std::optional<DiskSpace> Win32Drives::SpaceOfFolder(std::u16string_view folder) const {
   ULARGE_INTEGER available{};
   ULARGE_INTEGER total{};
   ULARGE_INTEGER free{};

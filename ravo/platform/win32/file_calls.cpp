@@ -1,6 +1,6 @@
 #include <ravo/platform/win32/handles.h>
 #include <ravo/platform/win32/wide.h>
-#include <ravo/platform/win32/win32_file_system.h>
+#include <ravo/platform/win32/win32_machine.h>
 
 namespace ravo::platform {
 namespace {
@@ -28,7 +28,7 @@ OpenWay WayOf(FilePurpose purpose) {
 
 }  // namespace
 
-FileHandle Win32FileSystem::Open(std::u16string_view name, FilePurpose purpose) const {
+FileHandle Win32Files::Open(std::u16string_view name, FilePurpose purpose) const {
   const auto system_name = SystemName(name);
   if (!system_name) return kNoFile;
   const OpenWay way = WayOf(purpose);
@@ -36,31 +36,30 @@ FileHandle Win32FileSystem::Open(std::u16string_view name, FilePurpose purpose) 
       CreateFileW(system_name->c_str(), way.access, way.share, nullptr, way.disposition, way.flags, nullptr));
 }
 
-bool Win32FileSystem::Close(FileHandle file) const { return CloseHandle(HandleOf(file)) != 0; }
+bool Win32Files::Close(FileHandle file) const { return CloseHandle(HandleOf(file)) != 0; }
 
-std::optional<std::int64_t> Win32FileSystem::SizeOf(FileHandle file) const {
+std::optional<std::int64_t> Win32Files::SizeOf(FileHandle file) const {
   LARGE_INTEGER size{};
-  // Pipes and consoles have none.
+  // Pipes and consoles have no size.
   if (GetFileType(HandleOf(file)) != FILE_TYPE_DISK) return 0;
   if (!GetFileSizeEx(HandleOf(file), &size)) return std::nullopt;
   return size.QuadPart;
 }
 
-std::optional<std::size_t> Win32FileSystem::Read(FileHandle file, std::span<std::byte> to) const {
+std::optional<std::size_t> Win32Files::Read(FileHandle file, std::span<std::byte> to) const {
   DWORD moved = 0;
   if (ReadFile(HandleOf(file), to.data(), Portion(to.size()), &moved, nullptr)) return moved;
-  // The end of a pipe.
+  // The writer of a pipe has closed it.
   return GetLastError() == ERROR_BROKEN_PIPE ? std::optional(std::size_t{0}) : std::nullopt;
 }
 
-std::optional<std::size_t> Win32FileSystem::Write(FileHandle file, std::span<const std::byte> from) const {
+std::optional<std::size_t> Win32Files::Write(FileHandle file, std::span<const std::byte> from) const {
   DWORD moved = 0;
   if (!WriteFile(HandleOf(file), from.data(), Portion(from.size()), &moved, nullptr)) return std::nullopt;
   return moved;
 }
 
-bool Win32FileSystem::SetTimes(FileHandle file, std::uint16_t year, std::uint16_t month,
-                               std::uint16_t day) const {
+bool Win32Files::SetTimes(FileHandle file, std::uint16_t year, std::uint16_t month, std::uint16_t day) const {
   SYSTEMTIME date{};
   date.wYear = year;
   date.wMonth = month;

@@ -13,7 +13,7 @@ namespace {
   throw StreamError(StreamOperation::Read, u"Stream read error: " + SystemErrorText(GetLastError()));
 }
 
-// Reading at the end of a file fails, and so does reading from a pipe whose writer has closed it.
+// Reading at the end of a file fails, and so does reading from a pipe that its writer has closed.
 bool IsAtEnd() {
   const DWORD code = GetLastError();
   return code == ERROR_HANDLE_EOF || code == ERROR_BROKEN_PIPE;
@@ -58,7 +58,7 @@ std::size_t ReadAt(FileHandle file, std::int64_t position, std::span<std::byte> 
 
 std::size_t ReadNext(FileHandle file, std::span<std::byte> to) { return Read(file, to, nullptr); }
 
-// The checked operations of streams raise where nothing was moved.
+// Callers throw if the result is 0.
 std::size_t WriteAt(FileHandle file, std::int64_t position, std::span<const std::byte> from) {
   OVERLAPPED at = At(position);
   DWORD moved = 0;

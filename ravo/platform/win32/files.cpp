@@ -16,19 +16,20 @@ DateTime LocalDateTime(const FILETIME& written) {
 
 }  // namespace
 
-std::u16string Win32Machine::FullPath(std::u16string_view name) const {
+std::u16string Win32Paths::FullPath(std::u16string_view name) const {
   const std::wstring wide_name = ToWide(name);
   std::wstring path(MAX_PATH, L'\0');
   for (;;) {
     const auto size = static_cast<DWORD>(path.size());
     const DWORD length = GetFullPathNameW(wide_name.c_str(), size, path.data(), nullptr);
-    // A buffer too small answers the size that it needs, which another thread's change of folder may outdate.
+    // If the buffer is too small, the call returns the size needed, which a change of folder in another
+    // thread may outdate.
     path.resize(length);
     if (length < size) return FromWide(path);
   }
 }
 
-std::optional<FileFacts> Win32Machine::FindFile(std::u16string_view name) const {
+std::optional<FileFacts> Win32Paths::FindFile(std::u16string_view name) const {
   WIN32_FIND_DATAW data{};
   const auto pattern = SystemName(name);
   const HANDLE search = pattern ? FindFirstFileW(pattern->c_str(), &data) : INVALID_HANDLE_VALUE;

@@ -1,7 +1,7 @@
 #include <ravo/platform/win32/drive_name.h>
 #include <ravo/platform/win32/folder_links.h>
 #include <ravo/platform/win32/wide.h>
-#include <ravo/platform/win32/win32_file_system.h>
+#include <ravo/platform/win32/win32_machine.h>
 
 // The system's own order.
 // clang-format off
@@ -12,7 +12,7 @@
 namespace ravo::platform {
 namespace {
 
-// Without questions and windows; without the flag of the recycle bin.
+// Without questions and windows, and past the recycle bin.
 bool DeleteByShell(std::wstring source) {
   source.push_back(L'\0');
   SHFILEOPSTRUCTW operation{};
@@ -24,37 +24,36 @@ bool DeleteByShell(std::wstring source) {
 
 }  // namespace
 
-std::optional<std::uint32_t> Win32FileSystem::Attributes(std::u16string_view name) const {
+std::optional<std::uint32_t> Win32Files::Attributes(std::u16string_view name) const {
   const auto system_name = SystemName(name);
   const DWORD attributes = system_name ? GetFileAttributesW(system_name->c_str()) : INVALID_FILE_ATTRIBUTES;
   return attributes == INVALID_FILE_ATTRIBUTES ? std::nullopt : std::optional(std::uint32_t{attributes});
 }
 
-std::u16string Win32FileSystem::CurrentFolder() const {
+std::u16string Win32Files::CurrentFolder() const {
   for (;;) {
     std::wstring folder(GetCurrentDirectoryW(0, nullptr), L'\0');
     const DWORD length = GetCurrentDirectoryW(static_cast<DWORD>(folder.size()), folder.data());
-    // Another thread may have gone to a longer one meanwhile.
+    // Another thread may have changed to a longer one meanwhile.
     if (length != 0 && length >= folder.size()) continue;
     folder.resize(length);
     return FromWide(folder);
   }
 }
 
-bool Win32FileSystem::SetCurrentFolder(std::u16string_view folder) const {
+bool Win32Files::SetCurrentFolder(std::u16string_view folder) const {
   const auto name = SystemName(folder);
   return name && SetCurrentDirectoryW(name->c_str()) != 0;
 }
 
-bool Win32FileSystem::CreateFolder(std::u16string_view folder) const {
+bool Win32Files::CreateFolder(std::u16string_view folder) const {
   const auto name = SystemName(folder);
   return name && CreateDirectoryW(name->c_str(), nullptr) != 0;
 }
 
-bool Win32FileSystem::DeleteFolder(std::u16string_view folder, FolderPart part) const {
+bool Win32Files::DeleteFolder(std::u16string_view folder, FolderPart part) const {
   auto name = SystemName(folder);
-  // The shell finds nothing to fail at in a folder that is not there, and would look for names with
-  // wildcards.
+  // The shell reports success for a missing folder, and would expand wildcards.
   if (!name || !Attributes(folder)) return false;
   if (part == FolderPart::Whole && IsDriveName(*name)) return false;
   if (part == FolderPart::Whole && IsFolderLink(*name)) return RemoveDirectoryW(name->c_str()) != 0;
@@ -63,7 +62,7 @@ bool Win32FileSystem::DeleteFolder(std::u16string_view folder, FolderPart part) 
   return DeleteByShell(std::move(*name));
 }
 
-bool Win32FileSystem::RemoveFile(std::u16string_view name) const {
+bool Win32Files::RemoveFile(std::u16string_view name) const {
   const auto system_name = SystemName(name);
   return system_name && DeleteFileW(system_name->c_str()) != 0;
 }

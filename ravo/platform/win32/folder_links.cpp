@@ -15,20 +15,20 @@ bool IsLinkOrUnknown(const WIN32_FIND_DATAW& found) {
   return found.dwReserved0 == 0 || IsReparseTagNameSurrogate(found.dwReserved0);
 }
 
-// A tag that is none belongs to a system that shows the links of another one and follows them whatever it is
-// asked: there is no way to take such a link away.
+// A tag that is no link's belongs to a system that shows links of another system and follows them in every
+// call: such a link cannot be removed.
 bool RemoveLink(const std::wstring& name, const WIN32_FIND_DATAW& found) {
   return IsReparseTagNameSurrogate(found.dwReserved0) && RemoveDirectoryW(name.c_str());
 }
 
 bool IsSelfOrParent(std::wstring_view name) { return name == L"." || name == L".."; }
 
-// The shell looks into a folder by its name with this behind it.
+// The shell lists a folder by its name followed by this.
 constexpr std::wstring_view kEverything = L"\\*.*";
 
 bool FitsTheShell(std::size_t length) { return length < MAX_PATH; }
 
-// Makes one entry of a folder safe, or leaves it to be looked into.
+// Makes one entry of a folder safe, or queues it for a look inside.
 bool MakeEntrySafe(const std::wstring& name, const WIN32_FIND_DATAW& found,
                    std::vector<std::wstring>& folders) {
   if (IsLinkOrUnknown(found)) return RemoveLink(name, found);
@@ -37,7 +37,7 @@ bool MakeEntrySafe(const std::wstring& name, const WIN32_FIND_DATAW& found,
   return true;
 }
 
-// Makes all in one folder safe but for its folders, which it collects.
+// Makes all entries of a folder safe except its folders, which it collects.
 bool MakeFolderSafe(const std::wstring& folder, std::vector<std::wstring>& folders) {
   if (!FitsTheShell(folder.size() + kEverything.size())) return false;
   WIN32_FIND_DATAW found{};

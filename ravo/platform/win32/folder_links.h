@@ -2,15 +2,15 @@
 
 #include <string>
 
-/// What some shells do harm with when they delete a folder that has it: links to folders, which they follow,
-/// and names that are too long for them, where they go on in the current folder.
+/// Some shells do harm when they delete a folder: they follow links to folders, and for names that are too
+/// long they delete in the current folder instead.
 namespace ravo::platform {
 
-/// Whether a name is that of a link to a folder.
+/// Tells whether a name is that of a link to a folder.
 [[nodiscard]] bool IsFolderLink(const std::wstring& name);
 
-/// Takes away every link to a folder that lies in a folder or in those below it, and nothing that they lead
-/// to. False where one cannot be taken away so, or where a name is too long for the shell.
+/// Removes every link to a folder inside a folder and the folders below it, without touching the targets;
+/// false if one cannot be removed, or if a name is too long for the shell.
 [[nodiscard]] bool MakeSafeForShell(const std::wstring& folder);
 
 }  // namespace ravo::platform

@@ -3,7 +3,7 @@
 #include <windows.h>
 
 // Windows calls this when it maps and unmaps the library; it never refuses a load. At the end of the process
-// (`reserved` is not null) the other threads are gone with whatever they held: the system takes back the
+// (`reserved` is not null) the other threads have ended with whatever they held, so the system releases the
 // rest.
 extern "C" BOOL WINAPI DllMain(HINSTANCE library, DWORD reason, LPVOID reserved) {
   if (reason == DLL_PROCESS_ATTACH) ravo::platform::LibraryAttached(library);

@@ -10,14 +10,14 @@
 namespace ravo::platform {
 namespace {
 
-// Every fact asked for here fits: the longest, patterns and names, have at most 80 units.
+// Fits every fact asked for here: the longest, patterns and names, have at most 80 units.
 std::u16string Fact(LCTYPE type) {
   std::array<wchar_t, 128> buffer;
   const int units = GetLocaleInfoW(LOCALE_USER_DEFAULT, type, buffer.data(), static_cast<int>(buffer.size()));
   return FromWide(UpToZero(std::wstring_view(buffer.data(), static_cast<std::size_t>(units))));
 }
 
-// The first name that the system counts becomes number `first` of ours.
+// The system's first name becomes our number `first`.
 template <std::size_t count>
 void ReadNames(std::array<std::u16string, count>& names, LCTYPE type, std::size_t first) {
   for (std::size_t i = 0; i < count; ++i) names[(first + i) % count] = Fact(type + static_cast<LCTYPE>(i));
@@ -33,7 +33,7 @@ void ReadDayAndMonthNames(FormatSettings& settings) {
 
 }  // namespace
 
-FormatSettings Win32Machine::Locale() const {
+FormatSettings Win32Locale::Settings() const {
   FormatSettings settings;
   const std::u16string decimal = Fact(LOCALE_SDECIMAL);
   if (!decimal.empty()) settings.decimal_separator = decimal.front();
@@ -46,7 +46,7 @@ FormatSettings Win32Machine::Locale() const {
   return settings;
 }
 
-bool Win32Machine::SameText(std::u16string_view left, std::u16string_view right) const {
+bool Win32Locale::SameText(std::u16string_view left, std::u16string_view right) const {
   const auto wide = [](std::u16string_view text) { return reinterpret_cast<const wchar_t*>(text.data()); };
   return CompareStringW(LOCALE_USER_DEFAULT, NORM_IGNORECASE, wide(left), CheckedCast<int>(left.size()),
                         wide(right), CheckedCast<int>(right.size())) == CSTR_EQUAL;

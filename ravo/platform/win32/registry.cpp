@@ -16,7 +16,7 @@ struct Value {
   std::vector<std::byte> data;
 };
 
-// Reads a whole value; it may grow between two calls.
+// Reads a whole value, which may grow between two calls.
 LSTATUS ReadValue(HKEY key, std::u16string_view name, Value& value) {
   const std::wstring wide_name = ToWide(name);
   value.data.resize(256);
@@ -30,7 +30,7 @@ LSTATUS ReadValue(HKEY key, std::u16string_view name, Value& value) {
   }
 }
 
-// The stored text need not end in a zero, nor in a whole unit.
+// Stored text may lack a terminating zero, or end in half a unit.
 std::u16string WholeUnits(const std::vector<std::byte>& data) {
   std::u16string text(data.size() / sizeof(char16_t), u'\0');
   std::memcpy(text.data(), data.data(), text.size() * sizeof(char16_t));
@@ -88,7 +88,7 @@ HKEY RootKey(RegistryRoot root) {
 
 }  // namespace
 
-std::unique_ptr<RegistryKey> Win32Machine::OpenKey(RegistryRoot root, std::u16string_view path) const {
+std::unique_ptr<RegistryKey> Win32Registry::OpenKey(RegistryRoot root, std::u16string_view path) const {
   if (path.starts_with(u'\\')) path.remove_prefix(1);
   HKEY key = nullptr;
   if (RegOpenKeyExW(RootKey(root), ToWide(path).c_str(), 0, KEY_READ, &key) != ERROR_SUCCESS) return nullptr;

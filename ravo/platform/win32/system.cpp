@@ -1,5 +1,6 @@
 #include <ravo/platform/win32/wide.h>
 #include <ravo/platform/win32/win32_machine.h>
+#include <ravo/runtime/checked.h>
 
 #include <algorithm>
 #include <array>
@@ -36,7 +37,7 @@ ProductType ProductOf(BYTE product) {
   return product <= VER_NT_SERVER ? static_cast<ProductType>(product) : ProductType::Unknown;
 }
 
-// What both records have.
+// The fields of both records.
 template <class Info>
 SystemVersion RecordOf(const Info& info) {
   SystemVersion version;
@@ -46,7 +47,7 @@ SystemVersion RecordOf(const Info& info) {
   return version;
 }
 
-// Fills the buffer by a call that answers the length, or with a buffer too small the size that it needs.
+// Fills the buffer by a call that returns the length, or the size needed if the buffer is too small.
 template <typename Call>
 std::u16string Filled(Call call) {
   Buffer buffer;
@@ -54,7 +55,7 @@ std::u16string Filled(Call call) {
   return length < kBufferUnits ? FromWide({buffer.data(), length}) : std::u16string();
 }
 
-// Fills the buffer by a call that takes its size and answers success.
+// Fills the buffer by a call that takes its size and returns success.
 template <typename Call>
 std::u16string FilledOnSuccess(Call call) {
   Buffer buffer;
@@ -69,7 +70,7 @@ std::uint32_t Clamped(SIZE_T bytes) {
 
 }  // namespace
 
-SystemVersion Win32Machine::Version() const {
+SystemVersion Win32System::Version() const {
   OSVERSIONINFOEXW info;
   if (!Fill(info)) return {};
   SystemVersion version = RecordOf(info);
@@ -78,25 +79,25 @@ SystemVersion Win32Machine::Version() const {
   return version;
 }
 
-SystemVersion Win32Machine::BasicVersion() const {
+SystemVersion Win32System::BasicVersion() const {
   OSVERSIONINFOW info;
   return Fill(info) ? RecordOf(info) : SystemVersion();
 }
 
-SystemNumbers Win32Machine::VersionNumbers() const noexcept {
+SystemNumbers Win32System::VersionNumbers() const noexcept {
   OSVERSIONINFOW info;
   return Fill(info) ? NumbersOf(info) : SystemNumbers();
 }
 
-bool Win32Machine::IsServerR2() const { return GetSystemMetrics(SM_SERVERR2) != 0; }
+bool Win32System::IsServerR2() const { return GetSystemMetrics(SM_SERVERR2) != 0; }
 
-std::uint16_t Win32Machine::ProcessorArchitecture() const {
+std::uint16_t Win32System::ProcessorArchitecture() const {
   SYSTEM_INFO info{};
   GetSystemInfo(&info);
   return info.wProcessorArchitecture;
 }
 
-std::u16string Win32Machine::Folder(SystemFolder folder) const {
+std::u16string Win32Folders::Folder(SystemFolder folder) const {
   switch (folder) {
     case SystemFolder::System:
       return Filled(GetSystemDirectoryW);
@@ -110,7 +111,7 @@ std::u16string Win32Machine::Folder(SystemFolder folder) const {
   return {};
 }
 
-std::u16string Win32Machine::ShellFolder(std::int32_t number) const {
+std::u16string Win32Folders::ShellFolder(std::int32_t number) const {
   LPITEMIDLIST list = nullptr;
   if (FAILED(SHGetSpecialFolderLocation(nullptr, number, &list))) return {};
   std::u16string path =
@@ -120,16 +121,24 @@ std::u16string Win32Machine::ShellFolder(std::int32_t number) const {
   return path;
 }
 
-std::u16string Win32Machine::ComputerName() const { return FilledOnSuccess(GetComputerNameW); }
+std::u16string Win32System::ComputerName() const { return FilledOnSuccess(GetComputerNameW); }
 
-std::u16string Win32Machine::UserName() const { return FilledOnSuccess(GetUserNameW); }
+std::u16string Win32System::UserName() const { return FilledOnSuccess(GetUserNameW); }
 
-MemoryFigures Win32Machine::Memory() const {
+MemoryFigures Win32System::Memory() const {
   MEMORYSTATUS status{};
   status.dwLength = sizeof status;
   GlobalMemoryStatus(&status);
   return {Clamped(status.dwTotalPhys),    Clamped(status.dwAvailPhys),     Clamped(status.dwTotalVirtual),
           Clamped(status.dwAvailVirtual), Clamped(status.dwTotalPageFile), Clamped(status.dwAvailPageFile)};
+}
+
+std::optional<TextSize> Win32System::TextExtent(DeviceContext device, std::u16string_view text) const {
+  SIZE size{};
+  const auto* units = reinterpret_cast<const wchar_t*>(text.data());
+  if (!GetTextExtentPoint32W(static_cast<HDC>(device), units, CheckedCast<int>(text.size()), &size))
+    return std::nullopt;
+  return TextSize{static_cast<std::int32_t>(size.cx), static_cast<std::int32_t>(size.cy)};
 }
 
 }  // namespace ravo::platform

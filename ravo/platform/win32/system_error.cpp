@@ -31,8 +31,12 @@ std::u16string SystemErrorText(std::uint32_t code) {
   return KnownSystemErrorText(code).value_or(u"System error " + ToText(std::uint64_t{code}));
 }
 
-std::u16string Win32Machine::ErrorText(std::uint32_t code) const { return Message<256>(code, 0); }
+std::u16string Win32Diagnostics::ErrorText(std::uint32_t code) const { return Message<256>(code, 0); }
 
-std::uint32_t Win32Machine::LastErrorCode() const noexcept { return GetLastError(); }
+std::uint32_t Win32Diagnostics::LastErrorCode() const noexcept { return GetLastError(); }
+
+void Win32Diagnostics::DebugOutput(std::u16string_view text) const {
+  OutputDebugStringW(ToWide(text).c_str());
+}
 
 }  // namespace ravo::platform

@@ -11,4 +11,7 @@ ModuleHandle ThisModule() noexcept {
   return module;
 }
 
+// Windows has no fork.
+void CallAroundFork(void (*)() noexcept, void (*)() noexcept) noexcept {}
+
 }  // namespace ravo::platform

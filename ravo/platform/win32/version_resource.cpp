@@ -10,7 +10,7 @@
 namespace ravo::platform {
 namespace {
 
-// What a query found inside of the resource; the length is in bytes or units, as the value's kind has it.
+// A query's result inside the resource; the length is in bytes or units, depending on the value's kind.
 struct Found {
   const void* value = nullptr;
   UINT length = 0;
@@ -32,7 +32,7 @@ class Win32VersionResource final : public VersionResource {
                                                      std::u16string_view key) const override {
     const Found found = Query(L"\\StringFileInfo\\" + ToWide(table) + L"\\" + ToWide(key));
     if (!found.value) return std::nullopt;
-    // A damaged resource may tell of more text than it has.
+    // A damaged resource may state more text than it has.
     const std::size_t units = std::min<std::size_t>(found.length, Behind(found.value) / sizeof(wchar_t));
     return FromWide(UpToZero(std::wstring_view(static_cast<const wchar_t*>(found.value), units)));
   }
@@ -45,7 +45,7 @@ class Win32VersionResource final : public VersionResource {
     return {value, length};
   }
 
-  // How many bytes the resource has from a place on; none for a place outside.
+  // Returns the number of bytes from a position to the end of the resource; 0 for a position outside it.
   [[nodiscard]] std::size_t Behind(const void* place) const {
     const auto offset =
         reinterpret_cast<std::uintptr_t>(place) - reinterpret_cast<std::uintptr_t>(bytes_.data());
@@ -57,7 +57,7 @@ class Win32VersionResource final : public VersionResource {
 
 }  // namespace
 
-std::unique_ptr<VersionResource> Win32Machine::OpenVersionResource(std::u16string_view name) const {
+std::unique_ptr<VersionResource> Win32Paths::OpenVersionResource(std::u16string_view name) const {
   const std::wstring file = ToWide(name);
   DWORD ignored = 0;
   const DWORD size = GetFileVersionInfoSizeW(file.c_str(), &ignored);

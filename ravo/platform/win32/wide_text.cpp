@@ -4,7 +4,7 @@
 
 #include <ole2.h>
 
-// The platform's automation texts are of `wchar_t`, which has the 16 bits of our unit here.
+// Automation texts are `wchar_t` text, which has the same 16-bit units as ours.
 static_assert(sizeof(wchar_t) == sizeof(char16_t));
 
 namespace ravo {

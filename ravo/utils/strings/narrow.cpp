@@ -1,4 +1,4 @@
-#include <ravo/platform/machine.h>
+#include <ravo/platform/code_pages.h>
 #include <ravo/utils/strings/narrow.h>
 #include <ravo/utils/strings/text_kind.h>
 
@@ -8,6 +8,6 @@ std::string WBufToAStr(const char16_t* buffer, std::size_t length) {
   return WStrToAStr(strings::Buffer(buffer, length));
 }
 
-std::string WStrToAStr(std::u16string_view text) { return platform::CurrentMachine().ToCodePage(text); }
+std::string WStrToAStr(std::u16string_view text) { return platform::CodePages().ToCodePage(text); }
 
 }  // namespace ravo::DIUtils

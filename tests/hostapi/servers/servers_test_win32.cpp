@@ -3,7 +3,7 @@
 #include "served_calls.h"
 #include "server_names_win32.h"
 #include "support/component_runtime.h"
-#include <ravo/platform/machine.h>
+#include <ravo/platform/components.h>
 
 #include <string>
 
@@ -39,7 +39,7 @@ class Servers : public testing::Test {
 TEST_F(Servers, ThatNobodyRegisteredAreNotFound) {
   const Raised raised = RaisedBy(CoRavoZipper::Create);
   EXPECT_EQ(raised.code, result_code::kClassNotRegistered);
-  EXPECT_EQ(raised.text, platform::CurrentMachine().ComponentErrorText(result_code::kClassNotRegistered));
+  EXPECT_EQ(raised.text, platform::Components().ComponentErrorText(result_code::kClassNotRegistered));
   EXPECT_FALSE(raised.text.empty());
 }
 
@@ -86,7 +86,7 @@ TEST_F(Servers, WhoseLibraryIsMissingDoNotStart) {
   const Raised raised = RaisedBy(CoRavoZipper::Create);
   // Windows says that the module is missing, Wine that the class or its key is.
   EXPECT_THAT(raised.code, testing::AnyOf(kModuleNotFound, result_code::kClassNotRegistered, kKeyMissing));
-  EXPECT_EQ(raised.text, platform::CurrentMachine().ComponentErrorText(raised.code));
+  EXPECT_EQ(raised.text, platform::Components().ComponentErrorText(raised.code));
 }
 
 class ProgramServer : public Servers {
@@ -154,7 +154,7 @@ TEST_F(ProgramServer, ThatEndsAtOnceDoesNotStart) {
   const Raised raised = RaisedBy(CoRavoZipper::Create);
   // Wine calls this a missing interface.
   EXPECT_THAT(raised.code, testing::AnyOf(result_code::kServerFailed, result_code::kNoInterface));
-  EXPECT_EQ(raised.text, platform::CurrentMachine().ComponentErrorText(raised.code));
+  EXPECT_EQ(raised.text, platform::Components().ComponentErrorText(raised.code));
 }
 
 TEST_F(Servers, WhoseProgramIsMissingDoNotStart) {
@@ -163,13 +163,13 @@ TEST_F(Servers, WhoseProgramIsMissingDoNotStart) {
   // Windows says that the file is missing or that the server does not start, Wine as above.
   EXPECT_THAT(raised.code, testing::AnyOf(kFileNotFound, result_code::kServerFailed,
                                           result_code::kClassNotRegistered, kKeyMissing));
-  EXPECT_EQ(raised.text, platform::CurrentMachine().ComponentErrorText(raised.code));
+  EXPECT_EQ(raised.text, platform::Components().ComponentErrorText(raised.code));
 }
 
 TEST_F(Servers, OnAComputerThatCannotBeReachedAreNotFound) {
   const Raised raised = RaisedBy([] { return CoRavoZipper::CreateRemote(u"no-such-computer.invalid"); });
   EXPECT_THAT(raised.code, testing::AnyOf(result_code::kServerUnavailable, result_code::kClassNotRegistered));
-  EXPECT_EQ(raised.text, platform::CurrentMachine().ComponentErrorText(raised.code));
+  EXPECT_EQ(raised.text, platform::Components().ComponentErrorText(raised.code));
 }
 
 bool IsWine() { return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr; }

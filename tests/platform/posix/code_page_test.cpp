@@ -9,7 +9,7 @@
 namespace ravo::platform::posix {
 namespace {
 
-// The C library's own opinion of a byte; no value where it has none.
+// The C library's decoding of a byte; no value if it has none.
 std::optional<char16_t> Witness(iconv_t converter, char byte) {
   char16_t unit = 0;
   char* from = &byte;
@@ -21,7 +21,7 @@ std::optional<char16_t> Witness(iconv_t converter, char byte) {
 }
 
 TEST(CodePage, EveryByteIsWhatTheCLibrarySays) {
-  const PosixMachine machine;
+  const PosixCodePages machine;
   const iconv_t converter = iconv_open("UTF-16LE", "CP1250");
   ASSERT_NE(converter, reinterpret_cast<iconv_t>(-1));
   int undefined = 0;
@@ -38,7 +38,7 @@ TEST(CodePage, EveryByteIsWhatTheCLibrarySays) {
 }
 
 TEST(CodePage, EveryUnitWithoutAByteBecomesAQuestionMark) {
-  const PosixMachine machine;
+  const PosixCodePages machine;
   EXPECT_EQ(machine.CodePage(), 1250u);
   int mapped = 0;
   for (unsigned value = 0; value < 0x10000; ++value) {
@@ -55,7 +55,7 @@ TEST(CodePage, EveryUnitWithoutAByteBecomesAQuestionMark) {
 }
 
 TEST(CodePage, Texts) {
-  const PosixMachine machine;
+  const PosixCodePages machine;
   EXPECT_EQ(machine.ToCodePage(u"Žluťoučký kůň"), "\x8Elu\x9Dou\xE8k\xFD k\xF9\xF2");
   EXPECT_EQ(machine.FromCodePage("\x8Elu\x9Dou\xE8k\xFD k\xF9\xF2"), u"Žluťoučký kůň");
   EXPECT_EQ(machine.ToCodePage(u"a\U0001F600b"), "a??b");

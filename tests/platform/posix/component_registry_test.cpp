@@ -64,13 +64,13 @@ class Remote : public testing::Test {
   Remote() { EXPECT_EQ(machine_.OfferComponent(kClass, MakeObject, registration_), result_code::kOk); }
   ~Remote() override { machine_.RevokeComponent(registration_); }
 
-  PosixMachine machine_;
+  PosixComponents machine_;
   std::uint32_t registration_ = 0;
 };
 
 TEST_F(Remote, ThisComputerIsReachedByItsNames) {
   for (const std::u16string& name :
-       {std::u16string(), std::u16string(u"LocalHost"), machine_.ComputerName()}) {
+       {std::u16string(), std::u16string(u"LocalHost"), System().ComputerName()}) {
     const ComponentAnswer answer = machine_.CreateRemoteComponent(kClass, name);
     EXPECT_EQ(answer.code, result_code::kOk);
     EXPECT_TRUE(answer.instance);
@@ -84,7 +84,7 @@ TEST_F(Remote, NoOtherComputerIsReached) {
 }
 
 TEST(ComponentErrorText, IsThereForEveryCode) {
-  const PosixMachine machine;
+  const PosixComponents machine;
   EXPECT_EQ(machine.ComponentErrorText(result_code::kClassNotRegistered), u"Class not registered");
   EXPECT_EQ(machine.ComponentErrorText(result_code::kServerUnavailable), u"The computer cannot be reached");
   EXPECT_EQ(machine.ComponentErrorText(result_code::kServerFailed),

@@ -60,7 +60,7 @@ TEST(HostPath, TakesBothDelimitersAndDrives) {
 }
 
 TEST(PosixMachineFiles, FullPathExpandsAgainstTheCurrentFolder) {
-  const PosixMachine machine;
+  const PosixPaths machine;
   const std::u16string here = std::filesystem::current_path().u16string();
   EXPECT_EQ(machine.FullPath(u"Ravo.exe"), here + u"/Ravo.exe");
   EXPECT_EQ(machine.FullPath(u"x\\..\\.\\y"), here + u"/y");
@@ -73,7 +73,7 @@ TEST(PosixMachineFiles, FullPathExpandsAgainstTheCurrentFolder) {
 }
 
 TEST(PosixMachineFiles, FindsFilesAndFolders) {
-  const PosixMachine machine;
+  const PosixPaths machine;
   const test::ScratchFolder folder;
   folder.Write("file", "12345");
   folder.Write(".hidden", "");
@@ -90,9 +90,9 @@ TEST(PosixMachineFiles, FindsFilesAndFolders) {
   EXPECT_EQ(machine.FindFile(u".")->attributes & 0x12u, 0x10u);
   folder.Write(".folder/file", "");
   EXPECT_EQ(machine.FindFile(folder.File(u".folder"))->attributes, 0x12u);
-  // A directory search takes no name with a delimiter at its end; the question for attributes does.
+  // A directory search rejects a name with a trailing delimiter; `Attributes` accepts it.
   EXPECT_FALSE(machine.FindFile(folder.File(u".folder/")));
-  EXPECT_EQ(machine.Files().Attributes(folder.File(u".folder/")), 0x12u);
+  EXPECT_EQ(PosixFiles().Attributes(folder.File(u".folder/")), 0x12u);
   EXPECT_FALSE(machine.FindFile(folder.File(u"missing")));
   EXPECT_FALSE(machine.FindFile(u""));
   EXPECT_FALSE(machine.FindFile(folder.File(u"file") + std::u16string(u"\0x", 2)));
@@ -102,18 +102,18 @@ TEST(PosixMachineFiles, WhatTheCallerMayNotWriteIsReadOnly) {
   const test::ScratchFolder folder;
   folder.Write("file", "");
   std::filesystem::permissions(folder.Path() / "file", std::filesystem::perms::owner_read);
-  const auto facts = PosixMachine().FindFile(folder.File(u"file"));
+  const auto facts = PosixPaths().FindFile(folder.File(u"file"));
   ASSERT_TRUE(facts);
-  // The superuser may write all the same.
+  // The superuser may write anyway.
   EXPECT_EQ(facts->attributes, geteuid() == 0 ? 0x20u : 0x21u);
-  EXPECT_EQ(PosixMachine().FindFile(u"/proc/version")->attributes & 1u, access("/proc/version", W_OK) != 0);
+  EXPECT_EQ(PosixPaths().FindFile(u"/proc/version")->attributes & 1u, access("/proc/version", W_OK) != 0);
 }
 
 TEST(PosixMachineFiles, SizesAreOfSixtyFourBits) {
   const test::ScratchFolder folder;
   folder.Write("sparse", "");
   std::filesystem::resize_file(folder.Path() / "sparse", 0x100000002);
-  EXPECT_EQ(PosixMachine().FindFile(folder.File(u"sparse"))->size, 0x100000002);
+  EXPECT_EQ(PosixPaths().FindFile(folder.File(u"sparse"))->size, 0x100000002);
 }
 
 TEST(PosixMachineFiles, TheLastWriteIsInLocalTime) {
@@ -123,7 +123,7 @@ TEST(PosixMachineFiles, TheLastWriteIsInLocalTime) {
   // 1 July 2024, 10:30:15.123 UTC.
   const timespec times[2] = {{1719829815, 123'999'999}, {1719829815, 123'999'999}};
   ASSERT_EQ(utimensat(AT_FDCWD, (folder.Path() / "file").c_str(), times, 0), 0);
-  const auto facts = PosixMachine().FindFile(folder.File(u"file"));
+  const auto facts = PosixPaths().FindFile(folder.File(u"file"));
   const DateTimeParts expected{{2024, 7, 1}, {12, 30, 15, 123}};
   EXPECT_EQ(SplitDateTime(facts->written), expected);
 }
@@ -141,13 +141,13 @@ TEST(PosixMachineClock, NowIsBetweenTwoLooksAtTheClock) {
     return LocalDateTime(now);
   };
   const DateTime before = look();
-  const DateTime now = PosixMachine().Now();
+  const DateTime now = PosixLocale().Now();
   EXPECT_LE(before, now);
   EXPECT_LE(now, look());
 }
 
 TEST(PosixMachineFiles, OpensTheVersionResourceOfAnImage) {
-  const PosixMachine machine;
+  const PosixPaths machine;
   const test::ScratchFolder folder;
   const auto image = test::BuildPe(test::PeKind::Pe32,
                                    test::VersionBlock(u"040504E2", {{u"FileVersion", u"7.0"}}, {0x04E20405}));
@@ -166,7 +166,7 @@ TEST(PosixMachineFiles, OpensTheVersionResourceOfAnImage) {
 TEST(PosixMachineFiles, APipeIsNotWaitedFor) {
   const test::ScratchFolder folder;
   ASSERT_EQ(mkfifo((folder.Path() / "pipe").c_str(), 0600), 0);
-  EXPECT_FALSE(PosixMachine().OpenVersionResource(folder.File(u"pipe")));
+  EXPECT_FALSE(PosixPaths().OpenVersionResource(folder.File(u"pipe")));
 }
 
 }  // namespace

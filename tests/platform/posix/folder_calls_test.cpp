@@ -1,5 +1,5 @@
 #include "support/scratch_folder.h"
-#include <ravo/platform/machine.h>
+#include <ravo/platform/files.h>
 #include <ravo/runtime/text.h>
 
 #include <filesystem>
@@ -14,7 +14,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// The administrator may delete everything: for as long as this object lives, files are another account's.
+// Gives up the superuser's rights for the lifetime of this object: the superuser may delete everything.
 class WithoutPowers {
  public:
   WithoutPowers() {
@@ -54,7 +54,7 @@ TEST(DeleteFolder, LeavesWhatTheSystemRefusesAndDeletesTheRest) {
     Fill(scratch);
     {
       const WithoutPowers powers;
-      EXPECT_FALSE(CurrentMachine().Files().DeleteFolder(Name(scratch.Path() / "tree"), part));
+      EXPECT_FALSE(Files().DeleteFolder(Name(scratch.Path() / "tree"), part));
     }
     EXPECT_TRUE(fs::exists(scratch.Path() / "tree/1/file"));
     if (part == FolderPart::Contents) {
@@ -69,13 +69,12 @@ TEST(DeleteFolder, TakesDelimitersAtTheEnd) {
   const test::ScratchFolder scratch;
   for (const std::u16string_view end : {u"", u"/", u"\\", u"//\\"}) {
     scratch.Write("tree/below/file", "");
-    EXPECT_TRUE(CurrentMachine().Files().DeleteFolder(Name(scratch.Path() / "tree") + std::u16string(end),
-                                                      FolderPart::Whole));
+    EXPECT_TRUE(Files().DeleteFolder(Name(scratch.Path() / "tree") + std::u16string(end), FolderPart::Whole));
     EXPECT_FALSE(fs::exists(scratch.Path() / "tree"));
   }
 }
 
-// A name that cannot be asked about is not taken for one that is not there.
+// A failing query does not mean that the file is missing.
 TEST(DeleteFolder, IsFalseForWhatCannotBeLookedAt) {
   const test::ScratchFolder scratch;
   scratch.Write("closed/tree/file", "");
@@ -84,8 +83,7 @@ TEST(DeleteFolder, IsFalseForWhatCannotBeLookedAt) {
   if (geteuid() != 0) fs::permissions(scratch.Path() / "closed", fs::perms::none);
   {
     const WithoutPowers powers;
-    EXPECT_FALSE(
-        CurrentMachine().Files().DeleteFolder(Name(scratch.Path() / "closed/tree"), FolderPart::Whole));
+    EXPECT_FALSE(Files().DeleteFolder(Name(scratch.Path() / "closed/tree"), FolderPart::Whole));
   }
   fs::permissions(scratch.Path() / "closed", fs::perms(0700));
   EXPECT_TRUE(fs::exists(scratch.Path() / "closed/tree/file"));

@@ -49,13 +49,13 @@ TEST(UserFolderFrom, TheHomeFolderItselfMeansNone) {
 }
 
 TEST(PosixMachineFolder, SystemFoldersAreFixed) {
-  const PosixMachine machine;
+  const PosixFolders machine;
   EXPECT_EQ(machine.Folder(SystemFolder::System), u"/usr/lib");
   EXPECT_EQ(machine.Folder(SystemFolder::Windows), u"/usr");
 }
 
 TEST(PosixMachineFolder, TheScratchFolderEndsInADelimiter) {
-  const PosixMachine machine;
+  const PosixFolders machine;
   {
     const ScopedEnvironment variable("TMPDIR", "/var/tmp");
     EXPECT_EQ(machine.Folder(SystemFolder::Temporary), u"/var/tmp/");
@@ -70,9 +70,9 @@ TEST(PosixMachineFolder, TheScratchFolderEndsInADelimiter) {
   }
 }
 
-// Without the variable the account's own folder is meant.
+// Without the variable, the account's own folder counts.
 TEST(PosixMachineFolder, DocumentsForEveryoneWithoutAVariable) {
-  const PosixMachine machine;
+  const PosixFolders machine;
   const ScopedEnvironment no_public("XDG_PUBLICSHARE_DIR", nullptr);
   const test::ScratchFolder folder;
   folder.Write("user-dirs.dirs", "XDG_PUBLICSHARE_DIR=\"$HOME/Public\"\n");
@@ -82,7 +82,7 @@ TEST(PosixMachineFolder, DocumentsForEveryoneWithoutAVariable) {
 }
 
 TEST(PosixMachineFolder, MoreThan259UnitsAreNone) {
-  const PosixMachine machine;
+  const PosixFolders machine;
   const std::string longest = "/" + std::string(257, 'x');
   {
     const ScopedEnvironment variable("TMPDIR", longest.c_str());
@@ -93,7 +93,7 @@ TEST(PosixMachineFolder, MoreThan259UnitsAreNone) {
 }
 
 TEST(PosixMachineFolder, DocumentsForEveryone) {
-  const PosixMachine machine;
+  const PosixFolders machine;
   const test::ScratchFolder folder;
   const ScopedEnvironment home("HOME", folder.Path().c_str());
   const ScopedEnvironment no_configuration("XDG_CONFIG_HOME", nullptr);
@@ -115,7 +115,7 @@ TEST(PosixMachineShellFolder, IsWhatTheUserCallsSo) {
   const ScopedEnvironment variable("HOME", path.c_str());
   const ScopedEnvironment configuration("XDG_CONFIG_HOME", nullptr);
   const ScopedEnvironment data("XDG_DATA_HOME", "/srv/data");
-  const PosixMachine machine;
+  const PosixFolders machine;
   const std::u16string folder = home.Path().u16string();
   struct Row {
     std::int32_t number;
@@ -144,8 +144,8 @@ TEST(PosixMachineShellFolder, OfADesktopThatNobodyNamed) {
   const std::string path = home.Path().string();
   const ScopedEnvironment variable("HOME", path.c_str());
   const ScopedEnvironment configuration("XDG_CONFIG_HOME", nullptr);
-  EXPECT_EQ(PosixMachine().ShellFolder(16), home.Path().u16string() + u"/Desktop");
-  EXPECT_EQ(PosixMachine().ShellFolder(5), home.Path().u16string());
+  EXPECT_EQ(PosixFolders().ShellFolder(16), home.Path().u16string() + u"/Desktop");
+  EXPECT_EQ(PosixFolders().ShellFolder(5), home.Path().u16string());
 }
 
 }  // namespace

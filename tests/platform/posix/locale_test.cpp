@@ -76,14 +76,14 @@ void ExpectDefaults(const FormatSettings& settings) {
 TEST(PosixMachineLocale, OfNoCountryAndOfNoneAtAllAreTheDefaults) {
   for (const char* name : {"C", "POSIX", "C.UTF-8", "xx_XX.nowhere"}) {
     const ScopedEnvironment all("LC_ALL", name);
-    ExpectDefaults(PosixMachine().Locale());
+    ExpectDefaults(PosixLocale().Settings());
   }
 }
 
 TEST(PosixMachineLocale, Czech) {
   if (!HasLocale("cs_CZ.UTF-8")) GTEST_SKIP() << "the locale cs_CZ.UTF-8 is not installed";
   const ScopedEnvironment all("LC_ALL", "cs_CZ.UTF-8");
-  const FormatSettings settings = PosixMachine().Locale();
+  const FormatSettings settings = PosixLocale().Settings();
   EXPECT_EQ(settings.decimal_separator, u',');
   EXPECT_THAT(settings.thousands_separator, AnyOf(u"\u202F", u"\u00A0"));
   EXPECT_THAT(settings.long_day_names[0], AnyOf(u"neděle", u"Neděle"));
@@ -102,7 +102,7 @@ TEST(PosixMachineLocale, EachCategoryIsItsOwn) {
   const ScopedEnvironment language("LANG", "C");
   const ScopedEnvironment numbers("LC_NUMERIC", nullptr);
   const ScopedEnvironment time("LC_TIME", "cs_CZ.UTF-8");
-  const FormatSettings settings = PosixMachine().Locale();
+  const FormatSettings settings = PosixLocale().Settings();
   EXPECT_EQ(settings.decimal_separator, u'.');
   EXPECT_EQ(settings.long_month_names[9], u"říjen");
 }
@@ -112,10 +112,10 @@ TEST(PosixMachineLocale, NothingIsKeptAndTheProgramsLocaleStays) {
   const std::string before = setlocale(LC_ALL, nullptr);
   {
     const ScopedEnvironment all("LC_ALL", "cs_CZ.UTF-8");
-    EXPECT_EQ(PosixMachine().Locale().decimal_separator, u',');
+    EXPECT_EQ(PosixLocale().Settings().decimal_separator, u',');
   }
   const ScopedEnvironment all("LC_ALL", "C");
-  EXPECT_EQ(PosixMachine().Locale().decimal_separator, u'.');
+  EXPECT_EQ(PosixLocale().Settings().decimal_separator, u'.');
   EXPECT_EQ(setlocale(LC_ALL, nullptr), before);
 }
 

@@ -1,10 +1,7 @@
-#include <ravo/platform/posix/posix_machine.h>
 #include <ravo/platform/posix/system.h>
 #include <ravo/platform/posix/user.h>
-#include <ravo/runtime/text.h>
 
 #include <gtest/gtest.h>
-#include <sys/utsname.h>
 
 namespace ravo::platform::posix {
 namespace {
@@ -56,19 +53,6 @@ TEST(FullNameOf, StandsBeforeTheFirstComma) {
   EXPECT_EQ(FullNameOf("Jan"), "Jan");
   EXPECT_EQ(FullNameOf(",,,"), "");
   EXPECT_EQ(FullNameOf(""), "");
-}
-
-TEST(PosixMachine, SaysWhatTheKernelSays) {
-  utsname names{};
-  ASSERT_EQ(uname(&names), 0);
-  const PosixMachine machine;
-  const SystemVersion version = machine.Version();
-  EXPECT_TRUE(std::string_view(names.release).starts_with(ToUtf8(ToText(std::uint64_t{version.major}))));
-  EXPECT_EQ(machine.ComputerName(), FromUtf8(names.nodename));
-  EXPECT_FALSE(machine.IsServerR2());
-  const auto user = CurrentUser();
-  EXPECT_EQ(machine.UserName(), user ? FromUtf8(user->name) : u"");
-  machine.DebugOutput(u"nobody reads this");
 }
 
 }  // namespace

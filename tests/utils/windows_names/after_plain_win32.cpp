@@ -4,7 +4,6 @@
 // clang-format off
 #include <windows.h>
 #include <ravo/DIUtils.h>
-#include <ravo/platform/machine.h>
 // clang-format on
 
 namespace names_after_plain {

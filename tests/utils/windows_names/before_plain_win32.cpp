@@ -1,7 +1,6 @@
 #undef UNICODE
 #undef _UNICODE
 #include <ravo/DIUtils.h>
-#include <ravo/platform/machine.h>
 
 #include <windows.h>
 

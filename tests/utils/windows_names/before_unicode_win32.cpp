@@ -1,7 +1,6 @@
 #define UNICODE
 #define _UNICODE
 #include <ravo/DIUtils.h>
-#include <ravo/platform/machine.h>
 
 #include <windows.h>
 
