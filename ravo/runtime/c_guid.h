@@ -1,6 +1,6 @@
 #pragma once
 
-/* The C header: this file is for C compilers too. */
+/* The C header: this file is compiled as C too. */
 #include <stdint.h>  // NOLINT(modernize-deprecated-headers)
 
 /** A 128-bit identifier for programs in C. Its 16 bytes are those of the system's own type: on Windows a

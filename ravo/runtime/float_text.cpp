@@ -18,8 +18,8 @@ std::u16string_view SignOf(const DecimalNumber& number) {
   return number.negative && !number.digits.empty() ? u"-" : u"";
 }
 
-// The digits at `from` up to but not `to`, counted from the decimal point on; zeros where the number has
-// none.
+// Returns the digits from `from` up to but not including `to`, counted from the decimal point; missing digits
+// are zeros.
 std::u16string DigitsBetween(const DecimalNumber& number, std::int64_t from, std::int64_t to) {
   std::u16string text;
   for (std::int64_t i = from + number.point; i < to + number.point; ++i) {
@@ -52,8 +52,8 @@ std::u16string ShortestScientificText(DecimalNumber number, char16_t decimal_sep
   return ShortestPlainText(number, decimal_separator) + u'E' + ToText(exponent);
 }
 
-// Rounds once, at whichever of the two limits comes first: rounding twice could carry a half upwards that is
-// none.
+// Rounds once, at whichever limit comes first: a second rounding could take the result of the first for a
+// half and carry.
 DecimalNumber RoundedForFixed(const DecimalNumber& number, int decimals) {
   return std::int64_t{number.point} + decimals > kFloatDigits ? RoundedToDigits(number, kFloatDigits)
                                                               : RoundedToPlaces(number, decimals);

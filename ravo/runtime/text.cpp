@@ -11,7 +11,7 @@ constexpr char32_t kReplacement = 0xFFFD;
 constexpr bool IsHighSurrogate(char16_t unit) { return unit >= 0xD800 && unit <= 0xDBFF; }
 constexpr bool IsLowSurrogate(char16_t unit) { return unit >= 0xDC00 && unit <= 0xDFFF; }
 
-// Takes one character off the front of `rest`.
+// Removes the first code point from `rest` and returns it.
 char32_t TakeUtf16(std::u16string_view& rest) {
   const char16_t unit = rest.front();
   rest.remove_prefix(1);
@@ -50,8 +50,8 @@ void AppendUtf16(std::u16string& out, char32_t ch) {
   out.push_back(static_cast<char16_t>(0xDC00 + ((ch - 0x10000) & 0x3FF)));
 }
 
-// What may follow a lead byte: how many trail bytes, and the range of the first of them, which rules out
-// overlong forms, surrogates and values beyond U+10FFFF (Unicode Standard, table 3-7).
+// The number of trailing bytes of a lead byte, and the range of the first one. The range rules out overlong
+// forms, surrogates and code points past U+10FFFF (Unicode Standard, table 3-7).
 struct Utf8Lead {
   int trails;
   unsigned char first_low;

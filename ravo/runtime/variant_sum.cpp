@@ -13,7 +13,7 @@
 namespace ravo {
 namespace {
 
-// What two values add as: the later of their kinds.
+// The kind that two values are added as: the later one of their kinds.
 enum class SumKind : std::uint8_t { Integer32, Integer64, Float, Amount, Date };
 
 [[noreturn]] void RaiseNoSum() { throw VariantError(u"Values of these kinds cannot be added"); }
@@ -22,7 +22,7 @@ enum class SumKind : std::uint8_t { Integer32, Integer64, Float, Amount, Date };
   throw VariantError(u"'" + text + u"' is not a number");
 }
 
-// Empty and null values have no kind: they are dealt with before, and so are bytes.
+// Empty, null and bytes have no kind: they are handled before.
 struct KindOf {
   SumKind operator()(std::int32_t) const { return SumKind::Integer32; }
   SumKind operator()(bool) const { return SumKind::Integer32; }
@@ -70,7 +70,7 @@ struct AsDecimal {
   }
 };
 
-// A value as the nearest float. Only a text can be beyond the largest one.
+// A value as the nearest float. Only a text can exceed the largest finite one.
 struct AsFloat {
   AsDecimal as_decimal;
 
