@@ -10,7 +10,7 @@
 #include <ravo/catalogue/class_identifiers.inc>
 #undef RAVO_CLASS_IDENTIFIER
 
-// Their texts, and then what names them.
+// The texts first, then the constants that refer to them.
 namespace {
 #define RAVO_STRING(name, id, text) constexpr auto kTextOf##name = ravo::Utf16Units(u##text);
 #include <ravo/catalogue/captions.inc>

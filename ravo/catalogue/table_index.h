@@ -11,14 +11,13 @@ namespace ravo {
 
 enum class TableModule : std::uint8_t;
 
-/// The index over the rows of the table catalogue, built by the compiler: one multiplication and one shift
-/// lead from an identifier to the only slot where it can stand. Look-ups are inline, for a call costs more
-/// than they do; the layout is therefore part of the library's binary interface, while the multiplier and the
-/// texts are not.
+/// The hash index over the rows of the table catalogue, computed by the compiler: one multiplication and one
+/// shift give the only slot where an identifier can be. Look-ups are inline, because a call costs more than
+/// they do. The layout is therefore part of the ABI; the multiplier and the texts are not.
 namespace table_index {
 
-/// What stands at one place. The description is a piece of the pool, the concatenation of all descriptions.
-/// An empty slot names table 0, whose description is empty.
+/// One slot. The description is a part of the pool, the concatenation of all descriptions. An empty slot has
+/// identifier 0 and an empty description.
 struct alignas(8) Slot {
   std::int32_t id = 0;
   std::uint16_t text_at = 0;
@@ -36,7 +35,7 @@ struct alignas(64) Index {
 
 extern RAVO_API const Index kIndex;
 
-/// Where an identifier has its slot.
+/// Returns the index of the slot of an identifier.
 [[nodiscard]] constexpr std::size_t Place(std::int32_t id, std::uint32_t multiplier) noexcept {
   return (static_cast<std::uint32_t>(id) * multiplier) >> (32 - kSlotBits);
 }
@@ -45,8 +44,9 @@ extern RAVO_API const Index kIndex;
   return kIndex.slots[Place(id, kIndex.multiplier)];
 }
 
-/// The description in `slot`, or nothing where that is not a hit. The two differ in the length alone, by a
-/// product: a choice would become a jump, which mixed hits and misses mispredict every other time.
+/// Returns the description in `slot`, or an empty text if `hit` is false. The two differ only in the length,
+/// by a product: a conditional would become a branch, which mixed hits and misses mispredict half of the
+/// time.
 [[nodiscard]] inline std::u16string_view TextOf(const Slot& slot, bool hit) noexcept {
   return {kIndex.pool + slot.text_at, slot.text_length * std::size_t{hit}};
 }

@@ -6,7 +6,7 @@
 
 namespace ravo::RavoInterfaceCommon {
 
-/// Sends a text to an attached debugger; nothing happens without one.
+/// Sends a text to an attached debugger; does nothing if there is no debugger.
 RAVO_API void DebugStr(std::u16string_view text);
 
 }  // namespace ravo::RavoInterfaceCommon

@@ -4,7 +4,7 @@
 namespace ravo::RavoInterfaceCommon {
 namespace {
 
-// scaled value -> double of the kept precision.
+// Converts a scaled value back to a double.
 double FromUnits(std::int64_t units, const SoftExtended& power) { return (Scaled(units) / power).ToDouble(); }
 
 double RoundUp(double value, const SoftExtended& scaled, const SoftExtended& power) {

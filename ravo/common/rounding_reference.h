@@ -4,8 +4,8 @@
 
 namespace ravo::RavoInterfaceCommon {
 
-/// The plain form of `RoundValue`, step by step in the arithmetic of the 80-bit format. `RoundValue` uses it
-/// for the amounts that its integer form does not cover, and the tests compare the two.
+/// The reference implementation of `RoundValue`, step by step in the arithmetic of the 80-bit format.
+/// `RoundValue` uses it for amounts that the integer form does not cover, and the tests compare the two.
 [[nodiscard]] Currency RoundValueReference(Currency value, TRoundType type, std::int8_t decimals);
 
 }  // namespace ravo::RavoInterfaceCommon

@@ -4,14 +4,14 @@
 
 #include <cstdint>
 
-/// The steps of rounding that amounts and doubles share.
+/// Helpers that the rounding of amounts and of doubles share.
 namespace ravo::RavoInterfaceCommon {
 
-/// `value` as an extended float, exactly.
+/// Returns `value` as an extended float, exactly.
 [[nodiscard]] inline SoftExtended Scaled(std::int64_t value) { return SoftExtended::FromInteger(value); }
 
-/// The next integer not below, and not above, `value`. The result keeps its low 32 bits alone; `FloatError`
-/// where it does not fit into 64 bits.
+/// Returns the smallest integer not below, or the largest not above, `value`, modulo 2^32. Throws
+/// `FloatError` if it does not fit 64 bits.
 [[nodiscard]] std::int32_t Ceiling32(const SoftExtended& value);
 [[nodiscard]] std::int32_t Floor32(const SoftExtended& value);
 

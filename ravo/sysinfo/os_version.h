@@ -7,7 +7,7 @@
 
 namespace ravo::RavoInterfaceInfo {
 
-/// The kinds of operating system that the suite tells apart, numbered from 0.
+/// The kinds of operating system that the suite distinguishes, numbered from 0.
 enum TOSVersion : std::uint8_t {
   osUnknown,
   os95,
@@ -29,12 +29,12 @@ enum TOSVersion : std::uint8_t {
   osW7
 };
 
-/// The kind that a version record speaks of; `osUnknown` for what is newer than the last kind, older than the
-/// first, or no Windows.
+/// Returns the kind of a version record; `osUnknown` for systems newer than the last kind, older than the
+/// first, or other than Windows.
 [[nodiscard]] TOSVersion OSVersionOf(const platform::SystemVersion& version, bool is_server_r2,
                                      std::uint16_t architecture);
 
-/// Whether a kind is one of the NT line.
+/// Returns whether a kind belongs to the NT line.
 [[nodiscard]] bool IsNt(TOSVersion kind) noexcept;
 
 }  // namespace ravo::RavoInterfaceInfo

@@ -9,11 +9,11 @@
 
 namespace ravo::RavoBoxConstants {
 
-/// The description of table `id` where that table belongs to this module; empty for every other identifier.
+/// Returns the description of table `id` if it belongs to this module, else an empty text.
 [[nodiscard]] RAVO_API std::u16string GetBoxTableDescription(std::int32_t id);
 
-/// The fields that are cached for a table, given the table's name: none for any table of this module, so that
-/// the result is always empty.
+/// Returns the cached fields of a table, given by name. No table of this module has any, so the result is
+/// always empty.
 [[nodiscard]] RAVO_API std::u16string GetBoxTableCachedFields(std::u16string_view table);
 
 }  // namespace ravo::RavoBoxConstants

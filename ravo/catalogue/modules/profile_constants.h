@@ -8,7 +8,7 @@
 
 namespace ravo::RavoProfileConstants {
 
-/// The description of table `id` where that table belongs to this module; empty for every other identifier.
+/// Returns the description of table `id` if it belongs to this module, else an empty text.
 [[nodiscard]] RAVO_API std::u16string GetProfilTableDescription(std::int32_t id);
 
 }  // namespace ravo::RavoProfileConstants
