@@ -2,7 +2,7 @@
 #include <ravo/runtime/utf16_units.h>
 #include <ravo/utils/c_constants.h>
 
-// Their texts, and then what names them.
+// The texts first, then the constants that refer to them.
 namespace {
 #define RAVO_STRING(name, id, text) constexpr auto kTextOf##name = ravo::Utf16Units(u##text);
 #include <ravo/utils/messages.inc>

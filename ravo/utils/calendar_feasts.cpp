@@ -38,7 +38,7 @@ DateParts Today() { return SplitDateTime(platform::CurrentMachine().Now()).date;
 }  // namespace
 
 TJulianDate EasterSunday(std::int32_t year) {
-  // The paschal full moon, in days from the end of February.
+  // The paschal full moon, in days after the end of February.
   std::int32_t moon = Modulo(234 - 11 * Modulo(year, 19), 30) + 21;
   if (moon > 48) --moon;
   // Kept: Easter has no century terms: it is exact from 1900 to 2099, and 27 March for 2100. Test:

@@ -20,7 +20,7 @@ constexpr std::array<Crc32Kernel, 5> kKernels = {{{"bytewise", UpdateCrc32Bytewi
 
 std::uint32_t ChooseAndUpdate(std::uint32_t crc, std::span<const std::byte> bytes) noexcept;
 
-// Two threads that come first together choose the same.
+// Two threads that race to the first call choose the same kernel.
 constinit std::atomic<Update> chosen{ChooseAndUpdate};
 
 std::uint32_t ChooseAndUpdate(std::uint32_t crc, std::span<const std::byte> bytes) noexcept {

@@ -9,7 +9,7 @@ namespace {
 
 SystemRecord record;
 
-// A system library that this module loaded by itself. Nothing does so in this library.
+// A system library that the module loaded itself. Nothing in this library loads one.
 platform::ModuleHandle system_library = nullptr;
 
 }  // namespace

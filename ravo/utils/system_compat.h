@@ -4,14 +4,14 @@
 
 namespace ravo::DISystemCompat {
 
-/// What the module's start records of the operating system. Nothing in the library reads it.
+/// The version of the operating system, recorded when the module starts. Nothing in the library reads it.
 struct SystemRecord {
   std::uint32_t platform_id = 0;
   std::uint32_t major = 0;
   std::uint32_t minor = 0;
 };
 
-/// The record of the last start; zeros before the first.
+/// Returns the record of the last start; zeros before the first.
 [[nodiscard]] const SystemRecord& RecordedSystem() noexcept;
 
 }  // namespace ravo::DISystemCompat

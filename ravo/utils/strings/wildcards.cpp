@@ -9,8 +9,8 @@ using strings::Folded;
 using strings::kNone;
 using strings::View;
 
-// A mask is pieces between wild characters. The first must stand at the start of the text and the last at its
-// end; each one between may take the first place that it finds, for no later place leaves more text to the
+// A mask is split at its wild characters. The first piece must match at the start of the text, the last one
+// at its end. Each piece between them may take its first match, because a later match leaves less text to the
 // rest.
 template <class Fold, class Char>
 class Matcher {
