@@ -19,7 +19,7 @@ if(BUILD_SHARED_LIBS)
 endif()
 ravo_install_library(${ravo_static} static)
 
-# The headers are found when they are installed: which ones the public face reaches changes with the sources.
+# The headers are found when they are installed: which ones the public headers reaches changes with the sources.
 install(CODE "set(ravo_source \"${PROJECT_SOURCE_DIR}\")
 set(ravo_include \"${CMAKE_INSTALL_INCLUDEDIR}\")" COMPONENT development)
 install(SCRIPT ${PROJECT_SOURCE_DIR}/cmake/InstallHeaders.cmake COMPONENT development)

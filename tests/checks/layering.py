@@ -141,7 +141,7 @@ def check_system_names(root):
 
 
 def public_files(graph: Graph) -> list[str]:
-    """What a program can reach from the public face, in a fixed order."""
+    """What a program can reach from the public headers, in a fixed order."""
     reached, waiting = set(), [name for name in graph if room_of(name) in (PUBLIC, HOST_HEADER)]
     while waiting:
         name = waiting.pop()
@@ -175,7 +175,7 @@ def arrows_of(cell):
     """The rooms that a cell names before its first ";", what follows being a remark."""
     if cell == "everything":
         return ANYTHING
-    if cell == "the public face":
+    if cell == "the public headers":
         return {PUBLIC}
     return set(re.findall(r"`([^`]+)`", cell.split(";")[0]))
 
@@ -214,7 +214,7 @@ def _document(changed=None):
         if uses is ANYTHING:
             return "everything"
         if uses == {PUBLIC}:
-            return "the public face"
+            return "the public headers"
         words = ", ".join(f"`{use}`" for use in sorted(uses - UNSAID.get(room, set())))
         remark = "; its `characters` use `runtime/export.h` alone" if room == "ravo/unicode" else ""
         return (words or "nothing of ours") + remark

@@ -19,7 +19,7 @@ Uses = dict[str, set[str]]
 Node = str | tuple[str, str, int]
 Chain = list[Node]
 Places = dict[Node, tuple[int, int]]
-NAMES = {PUBLIC: "public face"}
+NAMES = {PUBLIC: "public headers"}
 WIDTH, HEIGHT, GAP, RISE, BEND = 132, 34, 22, 66, 6
 
 
