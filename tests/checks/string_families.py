@@ -35,7 +35,7 @@ def tested(root):
 
 # What an example says, and how the test says it; blanks do not count.
 FORMS = [
-    (r'`(.+?)` makes `("[^`]*")` to `(.+)`', r'EXPECT_EQ(After({1}, [](std::string& text) {{ {0}; }}), "{2}");'),
+    (r'`(.+?)` changes `("[^`]*")` to `(.+)`', r'EXPECT_EQ(After({1}, [](std::string& text) {{ {0}; }}), "{2}");'),
     (r"`(.+?)` is negative", "EXPECT_LT({0}, 0);"),
     (r"`(.+?)` is (-?\d+)", "EXPECT_EQ({0}, {1});"),
     (r"`(.+?)` is `(.+)`", 'EXPECT_EQ({0}, "{1}");'),

@@ -4,7 +4,7 @@
 usage: python3 tools/generate/crc32_windows.py > ravo/utils/generated/crc32_windows.h
        python3 tools/generate/crc32_windows.py --check      1 where the checked-in header differs
 
-A byte may be taken out of a text if it is XORed to the bytes that stand d1, d2, ... behind it, provided that the
+A byte may be removed from a text if it is XORed to the bytes d1, d2, ... after it, provided that the
 powers x^(-8 d1), x^(-8 d2), ... add up to 1 modulo the polynomial. About one in 2^32 sets of distances does so: few
 distances make few loads and reach far. For each number of them the set is taken that reaches least far while none is
 below a nearest one; sums of half of the distances are looked up among those of the other half.

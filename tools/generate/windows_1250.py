@@ -2,7 +2,7 @@
 """Writes the upper half of the Windows-1250 code page as rows of C++.
 
 The source is the character map of the distribution's package "locales". A byte that the map leaves undefined
-stands for the control character of its own number, as Windows has it.
+is the control character of its own number, as on Windows.
 
 usage: tools/generate/windows_1250.py            writes the checked-in file anew
        tools/generate/windows_1250.py --check    exit status 1 where the checked-in file differs
