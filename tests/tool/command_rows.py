@@ -254,7 +254,7 @@ ROWS = [
     Row(["random"], WRONG_USAGE),
     Row(["random", "--seed", ""], WRONG_USAGE, err=("the seed is empty",)),
     Row(["random", "--seed", "x", "--alphabet", ""], WRONG_USAGE, err=("the alphabet is empty",)),
-    Row(["random", "--seed", "x", "--alphabet", "a😀"], WRONG_USAGE, err=("beyond U+FFFF",)),
+    Row(["random", "--seed", "x", "--alphabet", "a😀"], WRONG_USAGE, err=("past U+FFFF",)),
     Row(["random", "--seed", "x", "--count", "-1"], WRONG_USAGE),
     # The tour: each command as typed and its answer; no colours where nobody watches.
     Row(["--help"], out=("\nThe suite:\n  table ", "\nAccounting:\n  check ", "\n  tour "), holds=without("Subcommands:")),
@@ -292,7 +292,7 @@ ROWS = [
     # Standard input, which is empty here.
     Row(["hash", "crc32"], exact="00000000  -\n"),
     Row(["hash", "crc32", "-"], exact="00000000  -\n"),
-    Row(["hash", "--check"], WRONG_USAGE, exact="", err=("-: no line of it is a sum",)),
+    Row(["hash", "--check"], WRONG_USAGE, exact="", err=("-: has no line with a sum",)),
     Row(["hash"], WRONG_USAGE),
     Row(["hash", "md5", "x"], WRONG_USAGE, err=("crc32, hash, hash-ia",)),
     Row(["hash", "crc32", "missing"], WRONG_USAGE, exact="", err=("missing: cannot be read",)),

@@ -153,11 +153,11 @@ def check_forms(program):
         ("field,value\na,(\n", "line 2: '(' has"),
         ("field,value\na,)(\n", "line 2: ')(' has"),
         ("field,value\na,C:\\\n", "line 2: 'C:\\' has"),
-        ("field,value\na,語\n", "line 2: the code page of forms has no '語'"),
+        ("field,value\na,語\n", "line 2: the code page of forms lacks '語'"),
         ("field,value\n(,a\n", "line 2: '(' has"),
-        ("field,value,kind\na,1,box\n", "line 2: 'box' is no kind"),
-        ("field,value,kind\na,1.5,number\n", "line 2: '1.5' is no number"),
-        ("field,value,kind\na,2147483648,number\n", "line 2: '2147483648' is no number"),
+        ("field,value,kind\na,1,box\n", "line 2: 'box' is not a kind"),
+        ("field,value,kind\na,1.5,number\n", "line 2: '1.5' is not a 32-bit number"),
+        ("field,value,kind\na,2147483648,number\n", "line 2: '2147483648' is not a 32-bit number"),
     ):
         table.write_text(text, encoding="utf-8", newline="")
         yield from program.failures(Row(command, WRONG_USAGE, exact="", err=(table.name, told)))

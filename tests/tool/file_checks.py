@@ -88,7 +88,7 @@ def check_sums(program):
         yield f"hash --check of a list from standard input: {result}"
     sums.write_text(labelled + "nonsense\n", encoding="utf-8")
     result = program.run(["hash", "--check", "list.sum"])
-    if (result.status, result.out) != (NO, "check 1: OK\n" * 3) or "1 lines are no sums" not in result.err:
+    if (result.status, result.out) != (NO, "check 1: OK\n" * 3) or "1 lines are not sums" not in result.err:
         yield f"hash --check with a line too many: {result}"
     sums.write_text(wanted + "CBF43926  gone\n", encoding="utf-8")
     (program.folder / "check 1").write_bytes(b"123456788")
@@ -248,7 +248,7 @@ def check_damaged_files(program):
     file = program.folder / "účty.csv"
     for content, told in (
         (b'VS\n1\n"2', "line 3: a quote is never closed"),
-        (b'VS;X\n"0"0;1\n', "line 2: text behind a closing quote"),
+        (b'VS;X\n"0"0;1\n', "line 2: text after a closing quote"),
         (b"VS;X\n0;1\n0;1;2\n", "line 3: 3 fields, not 2"),
         (b"", "no first row"),
     ):

@@ -5,9 +5,9 @@
 
 namespace tool {
 
-/// While it lives, a file goes with the program where somebody ends that from outside (Ctrl+C, a request to
-/// end, a closed terminal). Where the system keeps files that are open, the file stays. The last one made
-/// counts.
+/// Deletes a file if the process is interrupted (Ctrl+C, a termination request, a closed terminal) while this
+/// object exists. If the system does not delete open files, the file remains. Only the object created last is
+/// active.
 class GoesOnInterruption {
  public:
   explicit GoesOnInterruption(const std::filesystem::path& file);

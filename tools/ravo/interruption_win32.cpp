@@ -2,7 +2,7 @@
 
 namespace tool {
 
-// A file that a program still has open cannot be removed on this system.
+// This system cannot delete a file that is open.
 struct GoesOnInterruption::Watch {};
 
 GoesOnInterruption::GoesOnInterruption(const std::filesystem::path&) {}

@@ -7,14 +7,14 @@
 
 #include <CLI/CLI.hpp>
 
-/// The whole program: its sub-commands by theme, and a run of one command line.
+/// The whole program: its sub-commands by theme, and the run of one command line.
 namespace tool {
 
-/// Adds everything that a command line may say; what the named sub-command has to tell goes into `outcome`.
+/// Adds all commands and options to `program`; the command that runs writes its result to `outcome`.
 void Describe(CLI::App& program, Outcome& outcome);
 
-/// What becomes of the arguments (without the program's name). Wrong usage is told in the outcome; what a
-/// sub-command raises beyond that passes through.
+/// Runs the arguments (without the program's name) and returns the outcome, which also reports wrong usage.
+/// Other exceptions of a sub-command pass through.
 [[nodiscard]] Outcome Run(std::vector<std::string> arguments);
 
 }  // namespace tool

@@ -36,7 +36,7 @@ std::string Escaped(std::string_view name) {
   return text;
 }
 
-// Null where a "\" stands before anything else.
+// Returns no value if a "\" precedes anything else.
 std::optional<std::string> Unescaped(std::string_view text) {
   std::string name;
   for (std::size_t i = 0; i < text.size(); ++i) {

@@ -8,7 +8,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// A name beside `target` that nobody else uses.
+// Returns an unused name beside `target`.
 fs::path Beside(const fs::path& target) {
   static constexpr char kLetters[] = "abcdefghijklmnopqrstuvwxyz234567";
   std::random_device random;
@@ -19,7 +19,7 @@ fs::path Beside(const fs::path& target) {
   return name;
 }
 
-// The file that is meant: through a symbolic link, so that the link stays one.
+// Resolves a symbolic link, so that the link itself is kept.
 fs::path Meant(const fs::path& path) {
   std::error_code error;
   const fs::path meant = fs::canonical(path, error);
@@ -38,7 +38,7 @@ WholeFile::WholeFile(const std::string& name) : target_(Meant(PathOf(name))) {
   if (!is_folder_) file_.open(draft_.empty() ? target_ : draft_, std::ios::binary | std::ios::trunc);
 }
 
-// The file beside the target is there unless it took the target's name.
+// The draft file still exists unless it was renamed to the target.
 WholeFile::~WholeFile() {
   file_.close();
   std::error_code ignored;
