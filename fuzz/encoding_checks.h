@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-/// What holds for any bytes under any encoding. The fuzz targets of the engines share it.
+/// Properties of any bytes in any encoding. The fuzz targets of the engines share them.
 namespace ravo::fuzz {
 
 using Bytes = std::span<const std::uint8_t>;
@@ -18,7 +18,7 @@ inline void Require(bool condition) {
   if (!condition) std::abort();
 }
 
-/// A block of its own, so that a byte too many is found.
+/// Copies into a separate block, so that an out-of-bounds read is detected.
 inline std::unique_ptr<std::uint8_t[]> Copy(Bytes bytes) {
   auto copy = std::make_unique<std::uint8_t[]>(bytes.size());
   std::copy(bytes.begin(), bytes.end(), copy.get());
@@ -39,7 +39,7 @@ inline std::u16string Read(const DIUnicode::TDIUnicodeReadMethods& methods, Byte
   return ReadRest(reader);
 }
 
-/// Two sources, the second stacked below the first.
+/// Reads from two sources, the second stacked below the first.
 inline std::u16string ReadInTwo(const DIUnicode::TDIUnicodeReadMethods& methods, Bytes bytes,
                                 std::size_t cut) {
   const auto first = Copy(bytes.first(cut));
@@ -52,7 +52,7 @@ inline std::u16string ReadInTwo(const DIUnicode::TDIUnicodeReadMethods& methods,
   return ReadRest(reader);
 }
 
-/// Whole runs into room of that many characters, single characters where they stop.
+/// Reads whole runs into a buffer of that many characters, and single characters where a run stops.
 inline std::u16string ReadByRuns(const DIUnicode::TDIUnicodeReadMethods& methods, Bytes bytes,
                                  std::size_t room) {
   const DIUnicode::DecodeRun decode = DIUnicode::DecodeRunOf(methods);
@@ -69,7 +69,7 @@ inline std::u16string ReadByRuns(const DIUnicode::TDIUnicodeReadMethods& methods
   }
 }
 
-/// The bytes of those characters that the encoding has; `text` becomes these.
+/// Writes the characters that the encoding has, and returns their bytes; `text` keeps only these.
 inline std::vector<std::uint8_t> Write(const DIUnicode::TDIUnicodeWriteMethods& methods,
                                        std::u16string& text) {
   DIUnicode::TDIUnicodeWriter writer;
@@ -79,7 +79,7 @@ inline std::vector<std::uint8_t> Write(const DIUnicode::TDIUnicodeWriteMethods& 
   return {writer.Data().begin(), writer.Data().end()};
 }
 
-/// Whole runs of encoding, a single character where they stop for want of room.
+/// Encodes whole runs, and a single character where a run stops for lack of room.
 inline void CheckEncodeRuns(const DIUnicode::EncodingRow& encoding, std::u16string_view text,
                             Bytes expected) {
   const DIUnicode::EncodeRun encode = DIUnicode::EncodeRunOf(*encoding.write);
@@ -90,7 +90,7 @@ inline void CheckEncodeRuns(const DIUnicode::EncodingRow& encoding, std::u16stri
   Require(std::equal(target.get(), target.get() + run.made, expected.begin()));
 }
 
-/// Runs up to an end, by every kernel, and single characters where they stop.
+/// Reads runs up to an end with every kernel, and single characters where a run stops.
 inline void CheckRunsTill(const DIUnicode::TDIUnicodeReadMethods& methods, Bytes bytes, std::size_t room,
                           std::u16string_view expected) {
   const DIUnicode::DecodeTill till = DIUnicode::DecodeTillOf(methods);
@@ -119,8 +119,8 @@ inline void CheckRunsTill(const DIUnicode::TDIUnicodeReadMethods& methods, Bytes
   Require(text == expected);
 }
 
-/// Reading ends, alike however the bytes come, with no more characters than bytes; what can be written of it
-/// is read again.
+/// Reading terminates, gives the same result for every split of the bytes and at most as many characters as
+/// bytes; the characters that can be written are read back.
 inline void CheckEncoding(const DIUnicode::EncodingRow& encoding, Bytes bytes, std::size_t cut,
                           std::size_t room) {
   const DIUnicode::TDIUnicodeReadMethods& read =
@@ -141,7 +141,7 @@ inline void CheckEncoding(const DIUnicode::EncodingRow& encoding, Bytes bytes, s
   CheckEncodeRuns(encoding, encodable, written);
 }
 
-/// The first bytes choose one of the encodings whose engine begins so, the cut and the room.
+/// The first bytes choose an encoding whose engine begins like this, the split and the room.
 inline int CheckEngine(std::string_view engine, Bytes input) {
   std::vector<const DIUnicode::EncodingRow*> encodings;
   for (const DIUnicode::EncodingRow& row : DIUnicode::EncodingRows()) {

@@ -1,4 +1,4 @@
-// Foreign bytes: UTF-8 by every set of kernels, addresses of the web.
+// Foreign bytes: UTF-8 with every set of kernels, web addresses.
 #include <ravo/DIUtils.h>
 #include <ravo/utils/strings/kernels.h>
 #include <ravo/utils/strings/utf8_kernels.h>
@@ -41,7 +41,7 @@ void CheckUtf8(std::string_view bytes) {
   Require(StrEncodeUtf8(text) == back && StrDecodeUtf8(back) == text);
 }
 
-// The bytes as units of UTF-16, halves of pairs among them.
+// The bytes as UTF-16 units, unpaired surrogates included.
 void CheckUnits(std::string_view bytes) {
   std::u16string text(bytes.size() / 2, u'\0');
   for (std::size_t i = 0; i < text.size(); ++i)
