@@ -11,9 +11,9 @@
 
 namespace ravo::test {
 
-/// How an operation went that was tried with memory for ever more requests.
+/// The outcome of an operation that was tried with memory for more and more allocations.
 struct Scarcity {
-  std::int64_t failures = 0;  ///< attempts in which a request failed
+  std::int64_t failures = 0;  ///< attempts in which an allocation failed
   std::int64_t leaked = 0;    ///< blocks that an attempt did not give back
   bool succeeded = false;     ///< whether it came to its end once there was enough
 };
