@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Who may include whom: rooms, circles, the operating system's names, and what public headers pull in."""
+"""Layering: which room may include which, cycles, names of the operating system, and the headers that public ones include."""
 
 import pathlib
 import re
@@ -14,18 +14,18 @@ PUBLIC = "ravo/*.h"
 HOST_HEADER = "ravo/package.h"
 CHARACTERS = "ravo/unicode/characters"
 EXPORT_HEADER = "ravo/runtime/export.h"
-# Rows of messages that a lower room raises too.
+# Rows of messages that a lower room uses too.
 UTILS_MESSAGES = "ravo/utils/messages.inc"
 # Parts of a room that have arrows of their own and no row in the document.
 PARTS = {HOST_HEADER, CHARACTERS, EXPORT_HEADER, UTILS_MESSAGES}
-# What a room may use beside what its row in the document says.
+# Parts that a room may use in addition to its row in the document.
 UNSAID = {
     "ravo/unicode": {"unicode/characters"},
     "ravo/runtime": {"runtime/export.h"},
     "ravo/utils": {"utils/messages.inc"},
 }
 
-# The arrows. docs/architecture.md shows the same table to people; check_document holds the two together.
+# The arrows. docs/architecture.md has the same table; check_document compares the two.
 MAY_USE: dict[str, set[str] | None] = {
     PUBLIC: ANYTHING,
     HOST_HEADER: {"runtime", "frame"},
@@ -51,7 +51,7 @@ SYSTEM_NAME = re.compile(
     r"\b(_WIN32|_WIN64|WIN32|__MINGW32__|__MINGW64__|__CYGWIN__|__linux__|__unix__|__APPLE__|_MSC_VER)\b"
 )
 SYSTEM_HEADER = re.compile(r"^(windows|winver|unistd|dlfcn|sys/.*|win(base|nt|user|reg)|ole.*|shlobj)\.h$", re.I)
-# Sources that CMake picks by the target's system say so in their name; tests mirror the library.
+# Sources that CMake selects by the target system have names that say so; tests mirror the library.
 SYSTEM_SOURCE = re.compile(r"^(ravo/platform/|tests/platform/|tests/support/|tests/\w+/(posix|win32|windows_names)/)|^ravo/runtime/export\.h$|_(win32|posix)\.(cpp|c|h)$")
 C_STANDARD = {"stddef.h", "stdint.h"}
 
@@ -141,7 +141,7 @@ def check_system_names(root):
 
 
 def public_files(graph: Graph) -> list[str]:
-    """What a program can reach from the public headers, in a fixed order."""
+    """The headers that a program can reach from the public ones, in a fixed order."""
     reached, waiting = set(), [name for name in graph if room_of(name) in (PUBLIC, HOST_HEADER)]
     while waiting:
         name = waiting.pop()
@@ -161,7 +161,7 @@ def check_public_headers(root, graph):
 
 
 def document_table(root):
-    """Room -> the words of its 'may use' cell, from the table of docs/architecture.md."""
+    """Room -> the text of its 'may use' cell, from the table of docs/architecture.md."""
     table = {}
     for line in read(root / "docs/architecture.md").splitlines():
         cells = [cell.strip() for cell in line.strip("|").split("|")]
@@ -172,7 +172,7 @@ def document_table(root):
 
 
 def arrows_of(cell):
-    """The rooms that a cell names before its first ";", what follows being a remark."""
+    """The rooms that a cell names before its first ";"; the rest is a remark."""
     if cell == "everything":
         return ANYTHING
     if cell == "the public headers":

@@ -33,7 +33,7 @@ def tested(root):
     return {name for path in paths for name in re.findall(r"\b\w+\b", without_comments(read(path)))}
 
 
-# What an example says, and how the test says it; blanks do not count.
+# The form of an example, and of its test; blanks are ignored.
 FORMS = [
     (r'`(.+?)` changes `("[^`]*")` to `(.+)`', r'EXPECT_EQ(After({1}, [](std::string& text) {{ {0}; }}), "{2}");'),
     (r"`(.+?)` is negative", "EXPECT_LT({0}, 0);"),
@@ -44,7 +44,7 @@ FORMS = [
 
 
 def packed(code):
-    """Without blanks, and without what tells the types of literals apart: u"", '' and 2u."""
+    """Code without blanks and without the marks of literal types: u"", '' and 2u."""
     code = re.sub(r"\bu(?=[\"'])", "", re.sub(r"(?<=\d)u\b", "", code)).replace("'", '"')
     return re.sub(r"\s+", "", code)
 

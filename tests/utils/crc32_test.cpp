@@ -15,7 +15,7 @@ namespace {
 
 std::span<const std::byte> BytesOf(std::string_view text) { return std::as_bytes(std::span(text)); }
 
-// The definition itself, bit by bit.
+// The definition, bit by bit.
 std::uint32_t PlainUpdate(std::uint32_t crc, std::span<const std::byte> bytes) {
   for (const std::byte byte : bytes) {
     crc ^= std::to_integer<std::uint32_t>(byte);
@@ -37,7 +37,7 @@ std::vector<std::byte> RandomBytes(std::size_t count) {
   return bytes;
 }
 
-// Every test on every kernel, through the one function that the library calls.
+// Runs every test on every kernel, through the function that the library calls.
 class Crc32OfKernel : public ::testing::TestWithParam<utils::Crc32Kernel> {
  protected:
   void SetUp() override {
@@ -65,7 +65,7 @@ TEST_P(Crc32OfKernel, IsTheDefinitionAtEveryLengthAndAlignment) {
   }
 }
 
-// Starts that are not aligned, without a byte to spare behind the end.
+// Unaligned starts, with an unreadable page directly after the end.
 TEST_P(Crc32OfKernel, ReadsNoByteTooMany) {
   const std::vector<std::byte> bytes = RandomBytes(300);
   for (std::size_t count = 0; count <= bytes.size(); ++count) {
@@ -75,7 +75,8 @@ TEST_P(Crc32OfKernel, ReadsNoByteTooMany) {
   }
 }
 
-// Each bit of a long text tells: the checksum is linear, so that this checks all texts of these lengths.
+// Each bit of a long text changes the result: the checksum is linear, so this covers all texts of these
+// lengths.
 TEST_P(Crc32OfKernel, EveryBitOfATextCounts) {
   for (const std::size_t count : {333u, 1337u}) {
     std::vector<std::byte> bytes(count);
@@ -95,7 +96,7 @@ TEST_P(Crc32OfKernel, LongTexts) {
         << count;
 }
 
-// Lengths around those at which a kernel begins to go another way or to use a place again.
+// Lengths around those at which a kernel switches its method or reuses a buffer.
 TEST_P(Crc32OfKernel, EveryLengthAroundATurn) {
   const std::vector<std::byte> bytes = RandomBytes(40000);
   std::vector<std::uint32_t> expected = {kCrc32Start};
@@ -132,7 +133,7 @@ INSTANTIATE_TEST_SUITE_P(Kernels, Crc32OfKernel,
                          ::testing::ValuesIn(utils::Crc32Kernels().begin(), utils::Crc32Kernels().end()),
                          [](const auto& kernel) { return std::string(kernel.param.name); });
 
-// A byte that is carried over the distances of a window goes without a trace, wherever it stands.
+// Moving a byte by the distances of a window leaves the checksum unchanged, wherever it is.
 template <std::size_t count>
 void ExpectLeavesNoTrace(const std::array<std::size_t, count>& window) {
   std::vector<std::byte> bytes(window.back() + 1);
@@ -166,7 +167,7 @@ TEST(Crc32Kernels, BeginWithTheReference) {
   EXPECT_TRUE(kernels[3].runs_here());
 }
 
-// A kernel that no other could be mistaken for.
+// A kernel that differs from every other one.
 TEST(ScopedCrc32Kernel, ForcesAndReturns) {
   constexpr utils::Crc32Kernel kOdd = {"odd",
                                        [](std::uint32_t, std::span<const std::byte>) noexcept { return 42u; },

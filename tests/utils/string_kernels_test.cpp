@@ -1,4 +1,4 @@
-// The ways to do one thing: by vectors and plainly, with identical results.
+// Vector kernels and plain loops have identical results.
 #include "support/guarded_buffer.h"
 #include <ravo/utils/strings/find.h>
 #include <ravo/utils/strings/first_letters.h>
@@ -15,7 +15,7 @@
 namespace ravo::strings {
 namespace {
 
-// Few characters, so that near hits abound; some differ in case alone, some beyond ASCII.
+// Few characters, so that near hits are common; some differ only in case, some are past ASCII.
 constexpr std::u16string_view kUnits = u"aAbčČž\u0130i\u212AkKſs";
 
 template <class Char>
@@ -78,7 +78,7 @@ INSTANTIATE_TEST_SUITE_P(Kernels, StringsOfKernel,
 
 template <class Char>
 void ExpectSameLongSearch(std::mt19937& random) {
-  // A long text without the ends of what is looked for, with a few of them sprinkled in.
+  // A long text without the first and last units of the search text, with a few of them sprinkled in.
   String<Char> text(random() % 1500, static_cast<Char>('.'));
   const String<Char> search = RandomText<Char>(random, 1 + random() % 6, 3);
   for (std::size_t count = random() % 40; count > 0 && !text.empty(); --count) {
@@ -106,7 +106,7 @@ TEST_P(StringsOfKernel, SearchesLongTextsAsThePlainOne) {
   }
 }
 
-// One hit in a text of nothing else, at every place and so at every alignment.
+// One hit in a uniform text, at every position and so at every alignment.
 TEST_P(StringsOfKernel, FindsAHitAtEveryPlace) {
   const ScopedStringKernel scoped(GetParam());
   for (std::size_t size = 1; size < 700; size += 1 + size / 40) {
@@ -169,7 +169,7 @@ TEST(StringKernels, EveryPairOfUnitsFoldsAsThePlainOne) {
   }
 }
 
-// Every unit beside those whose code is near to it, where a rule for pairs of letters may go wrong.
+// Every unit beside those with nearby codes, where a rule for pairs of letters may fail.
 TEST(StringKernels, UnitsThatAreNearFoldAsThePlainOne) {
   for (unsigned code = 0; code < 0x10000; ++code) {
     for (const unsigned distance : {1u, 2u, 8u, 16u, 26u, 31u, 32u, 33u, 48u, 80u, 0x79u, 0x8000u}) {
@@ -195,7 +195,7 @@ TEST(StringKernels, LettersOfLatinFoldAsThePlainOne) {
 template <class Write, class Char>
 auto Written(Write write, View<Char> from, std::size_t room) {
   using Out = std::remove_pointer_t<decltype(write(from, nullptr))>;
-  // Nothing may be written behind the room either.
+  // Nothing may be written past the room either.
   const String<Out> empty(room, Out{});
   const test::GuardedBuffer buffer(BytesOf(empty));
   Out* const out = reinterpret_cast<Out*>(buffer.Bytes().data());
@@ -223,7 +223,7 @@ TEST_P(StringsOfKernel, TreatsRandomBytesAsThePlainOne) {
   }
 }
 
-// Well formed for the most part, so that runs are long, with a broken piece now and then.
+// Mostly well formed, so that runs are long, with an occasional malformed sequence.
 TEST_P(StringsOfKernel, TreatsTextsAsThePlainOne) {
   constexpr std::string_view kPieces[] = {"a",        "bc",   "č",    "ř",        "\xDF\xBF", "\xC2\x80", "€",
                                           "\xC1\xBF", "\xC4", "\x8D", "\xE2\x82", "😀",        "\xFF"};
@@ -242,7 +242,7 @@ std::u16string Decoded(char16_t* (*decode)(std::string_view, char16_t*) noexcept
   return {room.data(), decode(bytes, room.data())};
 }
 
-// Each two bytes, at each place of a vector and of the border between two.
+// Every pair of bytes, at each position of a vector and across the boundary of two.
 TEST_P(StringsOfKernel, TreatsEveryTwoBytesAsThePlainOne) {
   for (unsigned pair = 0; pair < 0x10000; ++pair) {
     std::string bytes(36, 'a');
