@@ -19,7 +19,7 @@ struct CheckKind {
   Verdict (*check)(std::u16string_view text);
 };
 
-/// Returns the kinds ucet, su, au, banka, vs, ean.
+/// Returns all kinds, in the order of the help text.
 [[nodiscard]] std::span<const CheckKind> CheckKinds();
 
 /// Returns the kind of this name, or null.
