@@ -52,12 +52,12 @@ struct DispatchArguments {
   std::uint32_t named_count = 0;      ///< number of named arguments
 };
 
-/// The error that a late-bound call raised; the receiver frees the texts.
+/// The error of a late-bound call; the receiver frees the texts.
 struct DispatchError {
   std::uint16_t code = 0;            ///< the program's own number, or 0
   std::uint16_t reserved = 0;        ///< 0
-  char16_t* source = nullptr;        ///< the component that raised it
-  char16_t* description = nullptr;   ///< what happened
+  char16_t* source = nullptr;        ///< the component that failed
+  char16_t* description = nullptr;   ///< the error message
   char16_t* help_file = nullptr;     ///< file with help
   std::uint32_t help_context = 0;    ///< topic in the help file
   void* reserved_pointer = nullptr;  ///< null

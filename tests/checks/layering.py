@@ -62,7 +62,7 @@ def room_of(name: str) -> str | None:
         return name
     if re.fullmatch(r"ravo/[^/]+\.h", name):
         return PUBLIC
-    # `characters` is a part of the room `unicode` with arrows of its own, a folder or files of that stem.
+    # `characters` is a part of the room `unicode` with its own arrows, a folder or files of that stem.
     if re.match(r"ravo/unicode/characters[./_]", name):
         return CHARACTERS
     rooms = [room for room in MAY_USE if name.startswith(room + "/")]

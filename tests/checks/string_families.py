@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """Every string function: its declaration, its place in docs/strings.md and a test that calls it agree. Every example
-of that page stands, with the result that the page gives, in a test."""
+of that page is in a test, with the same result."""
 
 import re
 

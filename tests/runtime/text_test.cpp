@@ -36,7 +36,7 @@ TEST(Text, IllFormedUtf8BecomesReplacementCharacters) {
       {"\xE2\x82", u"\uFFFD"},                            // truncated
       {"\xE2\x82z", u"\uFFFDz"},                          // interrupted by a letter
       {"\xED\xA0\x80", u"\uFFFD\uFFFD\uFFFD"},            // a surrogate
-      {"\xF4\x90\x80\x80", u"\uFFFD\uFFFD\uFFFD\uFFFD"},  // beyond U+10FFFF
+      {"\xF4\x90\x80\x80", u"\uFFFD\uFFFD\uFFFD\uFFFD"},  // past U+10FFFF
       {"\xFF", u"\uFFFD"},
   };
   for (const Row& row : rows) EXPECT_EQ(FromUtf8(row.utf8), row.utf16);

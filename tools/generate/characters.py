@@ -18,7 +18,7 @@ UNITS = 0x10000
 SPAN = 64  # one constant tests single values within this many units
 LATIN_END = 0x0250  # most text is below: those letters are reached first
 
-# Function and the general categories (or beginnings of them) for which it answers true.
+# Function and the general categories (or their first letters) for which it returns true.
 CATEGORIES = {
     "CharIsLetterW": "L", "CharIsLetterUpperCaseW": "Lu", "CharIsLetterLowerCaseW": "Ll",
     "CharIsLetterTitleCaseW": "Lt", "CharIsLetterModifierW": "Lm", "CharIsLetterOtherW": "Lo",
@@ -108,7 +108,7 @@ class Data:
 
 
 def trees(data):
-    """Function -> code units for which it answers true."""
+    """Function -> code units for which it returns true."""
     sets = {name: data.units_of(category) for name, category in CATEGORIES.items()}
     letters = sets["CharIsLetterW"]
     sets["CharIsLetterCommonW"] = {unit for block in COMMON_BLOCKS for unit in block if unit in letters}

@@ -112,7 +112,7 @@ def idle_marks(project: pathlib.Path, files: dict[str, File]) -> Iterator[str]:
 
 
 def evaluated(project: pathlib.Path, name: str, file: File) -> tuple[int, int]:
-    """How many expectations are in a test's source, and how often they were evaluated."""
+    """The number of expectations in a test's source, and of their evaluations."""
     segments = sorted(file["segments"])
     keys = [(segment[0], segment[1]) for segment in segments]
     written = times = 0

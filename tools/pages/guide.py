@@ -88,7 +88,7 @@ def try_commands(program: list[str]) -> None:
         sys.exit(f"{DOCUMENT} shows only {len(commands)} commands")
     for command in commands:
         done = subprocess.run([*program, *shlex.split(command)[1:]], capture_output=True, check=False, timeout=300, cwd=ROOT)
-        # 1 is an answer: no such thing, not valid.
+        # 1 is a valid answer: not found, not valid.
         if done.returncode not in (0, 1):
             sys.exit(f"{command}: status {done.returncode}: {done.stderr.decode('utf-8', 'replace')}")
 
