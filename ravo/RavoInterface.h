@@ -1,10 +1,10 @@
-// The public face of the library: one header per module of the suite, which only includes the headers of its
+// The public headers of the library: one per module of the suite, which only includes the headers of its
 // room.
 //
 // Include the header of the module whose functions you use; its names are in a namespace of the same name
 // within namespace ravo. Names directly in ravo are shared by all modules. Hosts in C include package.h, and
-// constants.h for identifiers and captions. These headers include no header of the operating system, so they
-// work before and after <windows.h>.
+// constants.h for identifiers and captions. No public header includes a header of the operating system, so
+// they work before and after <windows.h>.
 //
 // Start here: this header has the types that the other modules take and return. docs/guide.md shows each task
 // with code.
