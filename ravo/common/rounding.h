@@ -36,13 +36,11 @@ using enum TRoundType;
 /// Intermediate results are those of the 80-bit format. Throws `FloatError` for infinities and NaN, and if
 /// the scaled value does not fit 64 bits.
 ///
-///   rtUp    of a negative value gives the ceiling with its sign flipped: -1.234 to 2 places is 1.23. It
-///   counts
-///           in 32 bits and wraps silently.
-///   rtDown  is a floor that lowers most exact values by one unit: 3.0 to 0 places is 2.0, 1.25 to 2 places
-///   is
-///           1.24.
-///   rtMath  uses the exact value of the double: 1.005 to 2 places is 1.0.
+///   rtUp    gives the ceiling of a negative value with its sign flipped: -1.234 to 2 places is 1.23;
+///           it counts in 32 bits and wraps silently
+///   rtDown  is a floor that lowers most exact values by one unit: 3.0 to 0 places is 2.0, and 1.25
+///           to 2 places is 1.24
+///   rtMath  uses the exact value of the double: 1.005 to 2 places is 1.0
 [[nodiscard]] RAVO_API double RoundValueFloat(double Value, TRoundType RoundType, std::int8_t Decimals);
 
 /// Returns an amount of VAT, rounded by one of the suite's five rules:
