@@ -12,10 +12,12 @@ namespace ravo {
 /// Returns `value` formatted by `pattern`, split as by `SplitDateTime`. Pattern letters are case-insensitive:
 ///
 ///   d dd ddd dddd   day: plain, two digits, short weekday name, long weekday name
-///   m mm mmm mmmm   month likewise; m and mm are minutes directly after an hour, even with plain text in
-///   between y yy, yyyy      year: two digits, four digits h hh            hour: 24-hour, or 12-hour if the
-///   pattern contains AM/PM, A/P or AMPM n nn  s ss      minute, second z zzz           millisecond AM/PM A/P
-///   AMPM  half of the day: "AM"/"PM" and "A"/"P" as written in the pattern, or the texts of the locale
+///   m mm mmm mmmm   month likewise; m and mm are minutes if the preceding letters are hours
+///   y yy, yyyy      year: two digits, four digits
+///   h hh            hour: 24-hour, or 12-hour if the pattern contains AM/PM, A/P or AMPM
+///   n nn  s ss      minute, second
+///   z zzz           millisecond
+///   AM/PM A/P AMPM  half of the day: "AM"/"PM" and "A"/"P" as written, or the texts of the locale
 ///
 /// A longer run of one letter counts as its longest listed form. Text in single or double quotes is copied as
 /// it is, and so is every other character; a missing closing quote is implied at the end.

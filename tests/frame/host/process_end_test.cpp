@@ -1,6 +1,7 @@
 // A process ends while its threads read texts, and always terminates. The program runs itself as a child many
-// times, because only some ends coincide with a thread at the wrong moment. usage: process_end_test PROGRAM
-// LANGUAGE-MODULE
+// times, because only some ends coincide with a thread at the wrong moment.
+//
+// usage: process_end_test PROGRAM LANGUAGE-MODULE
 #include "child_process.h"
 #include <ravo/frame/module_record.h>
 #include <ravo/frame/resource_string.h>
