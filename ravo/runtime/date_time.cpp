@@ -54,7 +54,7 @@ std::uint64_t RoundedQuotient(const Wide& value, int bits) {
   return floor + (is_up ? 1 : 0);
 }
 
-[[noreturn]] void RaiseNoDate() { throw ConvertError(u"Invalid date"); }
+[[noreturn]] void RaiseInvalidDate() { throw ConvertError(u"Invalid date"); }
 
 // Returns mantissa / 2^bits days in milliseconds. With more than 126 bits this is below 2^-70 days and rounds
 // to 0.
@@ -67,7 +67,7 @@ std::uint32_t MillisecondsOf(std::uint64_t mantissa, int bits) {
 // Splits the double by its bits, so the result does not depend on the rounding mode.
 BinaryFloat Finite(DateTime value) {
   using Bits = FloatBits<double>;
-  if (Bits::Kind(value) != FloatKind::Finite) RaiseNoDate();
+  if (Bits::Kind(value) != FloatKind::Finite) RaiseInvalidDate();
   return Bits::Split(value);
 }
 
@@ -89,11 +89,11 @@ std::uint32_t RoundedTime(const BinaryFloat& parts) {
 Moment MomentOf(DateTime value) {
   const BinaryFloat parts = Finite(value);
   constexpr int kLargestExponent = 22 - FloatBits<double>::kFormat.bits;
-  if (parts.exponent > kLargestExponent) RaiseNoDate();
+  if (parts.exponent > kLargestExponent) RaiseInvalidDate();
   const auto day = static_cast<std::int32_t>(WholeDays(parts));
   Moment moment{parts.negative ? -day : day, RoundedTime(parts)};
   if (moment.milliseconds == kMillisecondsPerDay) moment = {moment.day + 1, 0};
-  if (moment.day < kFirstDay || moment.day > kLastDay) RaiseNoDate();
+  if (moment.day < kFirstDay || moment.day > kLastDay) RaiseInvalidDate();
   return moment;
 }
 
@@ -135,7 +135,7 @@ bool IsDate(const DateParts& date) {
 }
 
 std::int32_t DayNumber(const DateParts& date) {
-  if (!IsDate(date)) RaiseNoDate();
+  if (!IsDate(date)) RaiseInvalidDate();
   const int year = date.month <= 2 ? date.year - 1 : date.year;
   const auto month = static_cast<std::size_t>(date.month <= 2 ? date.month + 9 : date.month - 3);
   return kDaysPerYear * year + year / 4 - year / 100 + year / 400 + kDaysBeforeMonth[month] + date.day - 1 -

@@ -33,12 +33,12 @@ std::u16string WholePart(const DecimalNumber& number) {
   return number.point > 0 ? DigitsBetween(number, -number.point, 0) : u"0";
 }
 
-std::u16string Behind(char16_t decimal_separator, const std::u16string& digits) {
+std::u16string Decimals(char16_t decimal_separator, const std::u16string& digits) {
   return digits.empty() ? digits : decimal_separator + digits;
 }
 
 std::u16string PlainText(const DecimalNumber& number, int decimals, char16_t decimal_separator) {
-  return WholePart(number) + Behind(decimal_separator, DigitsBetween(number, 0, decimals));
+  return WholePart(number) + Decimals(decimal_separator, DigitsBetween(number, 0, decimals));
 }
 
 std::u16string ShortestPlainText(const DecimalNumber& number, char16_t decimal_separator) {
@@ -115,7 +115,7 @@ std::u16string NumberText(const DecimalNumber& number, int decimals, char16_t de
   const DecimalNumber rounded = RoundedForFixed(number, decimals);
   std::u16string text(SignOf(rounded));
   text += Grouped(WholePart(rounded), thousands_separator);
-  text += Behind(decimal_separator, DigitsBetween(rounded, 0, decimals));
+  text += Decimals(decimal_separator, DigitsBetween(rounded, 0, decimals));
   return text;
 }
 

@@ -31,7 +31,7 @@ bool IsFixedHoliday(const utils::Ymd& date) {
 }
 
 // Good Friday, Easter Monday, Ascension Day, Whit Monday.
-bool IsFeastAfterEaster(std::int32_t days) { return days == -2 || days == 1 || days == 39 || days == 50; }
+bool IsHolidayByEaster(std::int32_t days) { return days == -2 || days == 1 || days == 39 || days == 50; }
 
 DateParts Today() { return SplitDateTime(platform::CurrentMachine().Now()).date; }
 
@@ -57,7 +57,7 @@ void EasterSundayYmd(std::int32_t year, std::uint16_t& month, std::uint16_t& day
 bool IsHolidayInGermany(TJulianDate date) {
   if (DayOfWeek(date) == kSunday) return true;
   const utils::Ymd parts = utils::PartsOf(date);
-  return IsFixedHoliday(parts) || IsFeastAfterEaster(date - EasterSunday(parts.year));
+  return IsFixedHoliday(parts) || IsHolidayByEaster(date - EasterSunday(parts.year));
 }
 
 bool IsHolidayInGermanyYmd(std::int32_t year, std::uint16_t month, std::uint16_t day) {

@@ -8,12 +8,12 @@ namespace tool {
 /// Deletes a file if the process is interrupted (Ctrl+C, a termination request, a closed terminal) while this
 /// object exists. If the system does not delete open files, the file remains. Only the object created last is
 /// active.
-class GoesOnInterruption {
+class DeleteOnInterruption {
  public:
-  explicit GoesOnInterruption(const std::filesystem::path& file);
-  ~GoesOnInterruption();
-  GoesOnInterruption(const GoesOnInterruption&) = delete;
-  GoesOnInterruption& operator=(const GoesOnInterruption&) = delete;
+  explicit DeleteOnInterruption(const std::filesystem::path& file);
+  ~DeleteOnInterruption();
+  DeleteOnInterruption(const DeleteOnInterruption&) = delete;
+  DeleteOnInterruption& operator=(const DeleteOnInterruption&) = delete;
 
  private:
   struct Watch;

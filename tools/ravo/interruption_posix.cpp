@@ -25,13 +25,13 @@ extern "C" void EndByRemoving(int number) {
 
 }  // namespace
 
-struct GoesOnInterruption::Watch {
+struct DeleteOnInterruption::Watch {
   std::string name;
   const char* previous_name = nullptr;
   std::array<struct sigaction, kSignals.size()> previous_actions{};
 };
 
-GoesOnInterruption::GoesOnInterruption(const std::filesystem::path& file)
+DeleteOnInterruption::DeleteOnInterruption(const std::filesystem::path& file)
     : watch_(std::make_unique<Watch>()) {
   watch_->name = file.string();
   watch_->previous_name = file_to_remove.exchange(watch_->name.c_str());
@@ -45,7 +45,7 @@ GoesOnInterruption::GoesOnInterruption(const std::filesystem::path& file)
   }
 }
 
-GoesOnInterruption::~GoesOnInterruption() {
+DeleteOnInterruption::~DeleteOnInterruption() {
   for (std::size_t i = 0; i < kSignals.size(); ++i) {
     sigaction(kSignals[i], &watch_->previous_actions[i], nullptr);
   }

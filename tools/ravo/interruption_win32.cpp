@@ -3,9 +3,9 @@
 namespace tool {
 
 // This system cannot delete a file that is open.
-struct GoesOnInterruption::Watch {};
+struct DeleteOnInterruption::Watch {};
 
-GoesOnInterruption::GoesOnInterruption(const std::filesystem::path&) {}
-GoesOnInterruption::~GoesOnInterruption() = default;
+DeleteOnInterruption::DeleteOnInterruption(const std::filesystem::path&) {}
+DeleteOnInterruption::~DeleteOnInterruption() = default;
 
 }  // namespace tool

@@ -9,7 +9,7 @@ namespace {
 namespace fs = std::filesystem;
 
 // Returns an unused name beside `target`.
-fs::path Beside(const fs::path& target) {
+fs::path DraftName(const fs::path& target) {
   static constexpr char kLetters[] = "abcdefghijklmnopqrstuvwxyz234567";
   std::random_device random;
   std::string suffix = ".";
@@ -20,21 +20,21 @@ fs::path Beside(const fs::path& target) {
 }
 
 // Resolves a symbolic link, so that the link itself is kept.
-fs::path Meant(const fs::path& path) {
+fs::path Resolved(const fs::path& path) {
   std::error_code error;
-  const fs::path meant = fs::canonical(path, error);
-  return error ? path : meant;
+  const fs::path resolved = fs::canonical(path, error);
+  return error ? path : resolved;
 }
 
 }  // namespace
 
 fs::path PathOf(const std::string& utf8) { return {std::u8string(utf8.begin(), utf8.end())}; }
 
-WholeFile::WholeFile(const std::string& name) : target_(Meant(PathOf(name))) {
+WholeFile::WholeFile(const std::string& name) : target_(Resolved(PathOf(name))) {
   std::error_code error;
   const fs::file_status status = fs::status(target_, error);
   is_folder_ = fs::is_directory(status);
-  if (!fs::is_other(status)) interruption_.emplace(draft_ = Beside(target_));
+  if (!fs::is_other(status)) interruption_.emplace(draft_ = DraftName(target_));
   if (!is_folder_) file_.open(draft_.empty() ? target_ : draft_, std::ios::binary | std::ios::trunc);
 }
 

@@ -37,7 +37,7 @@ class WholeFile {
   std::filesystem::path target_;
   std::filesystem::path draft_;
   bool is_folder_ = false;
-  std::optional<GoesOnInterruption> interruption_;
+  std::optional<DeleteOnInterruption> interruption_;
   std::ofstream file_;
 };
 
