@@ -1,3 +1,11 @@
+// String and buffer functions for two kinds of text: 8-bit and UTF-16.
+//
+// A family is one template in a .cpp file, over the type of characters and over `Exact` or `Folded`; its
+// exported members are thin wrappers in the header of the same stem. Positions are 1-based in the headers and
+// 0-based inside: `Place` and `Position` convert. docs/strings.md lists the families. kernels.h chooses the
+// vector kernels of this processor, and the plain loops define their results.
+//
+// Start here, then read search.h and find.h. Only narrow.h asks the system, for its 8-bit code page.
 #pragma once
 
 #include <ravo/unicode/characters/mapping_tables.h>
@@ -8,7 +16,7 @@
 #include <string_view>
 
 /// The building blocks of the string families: each family is one template, over the type of characters and
-/// the way to compare them. Start here to read any of the sources in this folder.
+/// the way to compare them.
 namespace ravo::strings {
 
 template <class Char>
