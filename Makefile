@@ -1,7 +1,7 @@
-# The two commands of the README, and what helps while working. Everything else is CMake's: see CMakePresets.json.
+# The two commands of the README, and helpers for everyday work. CMake does the rest: see CMakePresets.json.
 .PHONY: run check bench coverage reliability reference guide quirks pictures package check-packages format clean
 
-run:            ## Build for this machine and show the library at its work
+run:            ## Build for this machine and show the library at work
 	@scripts/run
 
 check:          ## Every target, every test, every gate
@@ -10,29 +10,29 @@ check:          ## Every target, every test, every gate
 bench:          ## Build and run the benchmarks, write docs/performance.md and draw its charts
 	@scripts/bench --write
 
-coverage:       ## Count the lines and branches that the tests run
+coverage:       ## Measure the lines and branches that the tests run
 	@scripts/coverage
 
-reliability:    ## Sum up what the tests try and put it into docs/reliability.md
+reliability:    ## Sum the reports of the tests and write them to docs/reliability.md
 	@scripts/reliability --write
 
-reference:      ## Make the reference of every public name: build/reference/html/index.html
+reference:      ## Generate the reference of every public name: build/reference/html/index.html
 	@scripts/reference
 
-guide:          ## Copy the code of the examples and what they print into docs/guide.md and README.md
+guide:          ## Copy the code and output of the examples into docs/guide.md and README.md
 	@scripts/guide
 
 quirks:         ## Write docs/quirks.md from the comments `// Kept:` of the sources
 	@/usr/bin/env python3 -B tools/pages/quirks.py --write
 
-pictures:       ## Draw docs/structure.svg and the charts of docs/performance.md anew
+pictures:       ## Draw docs/structure.svg and the charts of docs/performance.md
 	@/usr/bin/env python3 -B tools/pages/structure.py --write
 	@/usr/bin/env python3 -B tools/pages/chart.py --write
 
-package:        ## Make the packages of a release in build/packages
+package:        ## Build the packages of a release in build/packages
 	@scripts/package
 
-check-packages: ## Make the packages, install or unpack each, and use it
+check-packages: ## Build the packages, install or unpack each, and use it
 	@scripts/check-packages
 
 format:         ## Format all C and C++ sources

@@ -40,7 +40,7 @@ std::vector<Ymd> Dates() {
   return dates;
 }
 
-// The sum of the answers is used, so that none can be left out.
+// The sum of the results is used, so that the compiler keeps every call.
 template <class Items, class Answer>
 void Register(const char* name, const Items& items, Answer answer) {
   benchmark::RegisterBenchmark(name, [items, answer](benchmark::State& state) {

@@ -40,10 +40,10 @@ void Register(const std::string& job, std::string_view name, const Units& units,
   });
 }
 
-// What a call costs that does nothing.
+// The cost of an empty call.
 [[gnu::noipa]] unsigned Nothing(char16_t c) { return c; }
 
-// Both ours and the rivals' are called as any program calls them: through the function.
+// Our functions and the rivals' are both called through function calls, as in any program.
 void RegisterJobs(const std::string& text, const Units& units) {
   using namespace ravo::DIUnicode;
   const std::string_view ours = ravo::bench::kOurs;

@@ -21,7 +21,7 @@ PLACES = (3, 4, 6, 7, 8)
 
 
 def million_rows(folder):
-    """A ledger of a million rows: twenty thousand of them, fifty times."""
+    """A ledger of a million rows: twenty thousand rows, repeated fifty times."""
     whole = folder / "million.csv"
     if not whole.exists():
         part = folder / "part.csv"
@@ -64,7 +64,7 @@ def main(ravo, folder, report_file):
     for run in range(RUNS + 1):
         for name, command in commands.items():
             taken = seconds(command)
-            if run > 0:  # the first turn warms the file cache
+            if run > 0:  # the first run warms the file cache
                 times[name].append(taken)
     pathlib.Path(report_file).write_text(report(times), encoding="utf-8")
     medians = {name: statistics.median(taken) for name, taken in times.items()}

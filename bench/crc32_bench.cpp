@@ -20,7 +20,7 @@ Bytes RandomBytes(std::size_t count) {
   return bytes;
 }
 
-// Each checksum starts from the one before, as it does for a text in pieces: all of them are needed.
+// Each checksum starts from the previous one, as for a text in blocks, so all of them are needed.
 template <class Update>
 void Register(const std::string& name, std::size_t size, Update update) {
   benchmark::RegisterBenchmark(name.c_str(), [bytes = RandomBytes(size), update](benchmark::State& state) {

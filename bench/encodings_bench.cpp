@@ -20,7 +20,7 @@ using ravo::unicode::EncodingOf;
 constexpr std::size_t kSize = 1024 * 1024;
 constexpr std::size_t kPiece = 4096;
 
-// Words of invoices and ledgers, with as many accents as such texts have.
+// Words of invoices and ledgers, with the usual share of accents.
 constexpr std::u16string_view kCzech[] = {u"účet",
                                           u"předkontace",
                                           u"zákazník",
@@ -113,7 +113,7 @@ UConverter* Converter(const char* name) {
   return converter;
 }
 
-// `room`: characters or bytes of the target, which is used again and again until the source is done.
+// `room` is the size of the target in characters or bytes; it is reused until the source is consumed.
 auto IcuDecode(const char* name, Bytes bytes, std::size_t room) {
   return [converter = Converter(name), bytes, text = std::u16string(room, u'\0')]() mutable {
     const char* from = reinterpret_cast<const char*>(bytes.data());
@@ -214,7 +214,7 @@ int main(int argc, char** argv) {
                                 {"utf16be", "UTF-16BE", &Read_UTF_16_BE, &Write_UTF_16_BE, 2}};
   const std::u16string czech = TextOf(kCzech, kSize);
   const std::u16string ascii = TextOf(kEnglish, kSize);
-  // The whole text at once, and in pieces of a size that streams have.
+  // The whole text at once, and in blocks of a typical stream size.
   for (const Encoding& encoding : encodings) {
     RegisterJobs(encoding, "czech", czech, kSize);
     RegisterJobs(encoding, "ascii", ascii, kSize);

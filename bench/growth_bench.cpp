@@ -1,6 +1,6 @@
-// Cost as the work grows: the same job for 1, 10 and 100 times the work, from a heap without pages of before.
-// Where the cost of one item stays, the job is linear. Blocks of many megabytes are new pages of the system
-// every time, whose price is in the last column; a job that is not linear would have ten and a hundred there.
+// Cost as the work grows: the same job for 1, 10 and 100 times the work, on a heap without reused pages. If
+// the cost of one item is constant, the job is linear. Blocks of many megabytes use new pages of the system
+// each time, which adds to the last column; a quadratic job would have 10 and 100 there.
 #include "ratio.h"
 #include "xml_document.h"
 #include <ravo/DIUnicode.h>
@@ -23,7 +23,7 @@ using namespace ravo;
 
 constexpr std::size_t kTimes[] = {1, 10, 100};
 
-/// A job over things that were made before it, and how many items it works on.
+/// A job over objects that were created before it, and the number of items it works on.
 struct Work {
   std::function<void()> run;
   std::size_t items;
@@ -77,7 +77,7 @@ Work XmlSave(std::size_t times) {
           static_cast<std::size_t>(stream->Size())};
 }
 
-// Bytes of the document, which is in Windows-1250, through reader and writer.
+// Converts the bytes of a document in Windows-1250 with reader and writer.
 Work Convert(std::size_t times) {
   const auto source = Document(times);
   return {[source] {
@@ -93,7 +93,7 @@ Work Convert(std::size_t times) {
           static_cast<std::size_t>(source->Size())};
 }
 
-// A hit in every seventeen characters.
+// One hit in seventeen characters.
 Work Replace(std::size_t times) {
   std::u16string text;
   while (text.size() < 100'000 * times) text += u"Účet 221, 311/602";

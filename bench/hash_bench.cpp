@@ -1,5 +1,5 @@
-// The hashes for hash tables, beside xxHash with 32 bits. They are older than it and keep their values; this
-// shows what they cost.
+// The hashes for hash tables, beside xxHash with 32 bits. They are older than xxHash and cannot change their
+// values.
 #include "ratio.h"
 #include <ravo/DIUtils.h>
 
@@ -16,7 +16,7 @@ std::u16string Text(std::size_t units) {
   return text;
 }
 
-// Each hash is the next one's initial value.
+// Each hash is the initial value of the next one.
 template <class Hash>
 void Register(const std::string& name, std::size_t units, Hash hash) {
   benchmark::RegisterBenchmark(name.c_str(), [text = Text(units), hash](benchmark::State& state) {

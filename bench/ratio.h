@@ -12,15 +12,15 @@
 #error "Benchmarks measure optimised builds only"
 #endif
 
-/// Benchmarks that compare: each job runs on our routine and on its rivals in one run, and the run ends with
-/// a table of the medians and their ratios. Register with names of the form "job/ravo" and "job/rival" and
-/// let `RunWithRatios` be the whole of `main`. The counter "items" tells how many things one run works on.
-/// tools/pages/performance.py makes the page of figures from the report that `--benchmark_out` writes.
+/// Comparing benchmarks: each job runs with our function and with its rivals in one run, which ends with a
+/// table of the medians and their ratios. Register with names of the form "job/ravo" and "job/rival" and call
+/// `RunWithRatios` from `main`. The counter "items" is the number of items per run.
+/// tools/pages/performance.py writes the page of figures from the report of `--benchmark_out`.
 namespace ravo::bench {
 
 inline constexpr std::string_view kOurs = "ravo";
 
-/// Keeps the median of every benchmark while the console shows the run.
+/// Collects the median of every benchmark while the console shows the run.
 class RatioReporter : public benchmark::ConsoleReporter {
  public:
   void ReportRuns(const std::vector<Run>& runs) override {
@@ -39,7 +39,7 @@ class RatioReporter : public benchmark::ConsoleReporter {
  private:
   using Times = std::map<std::string, double, std::less<>>;
 
-  // The library appends a part such as "/repeats:9" to the name that was registered.
+  // The library appends a part such as "/repeats:9" to the registered name.
   void Keep(const Run& run) {
     const std::string& name = run.run_name.function_name;
     const std::size_t slash = name.find('/');
@@ -47,7 +47,7 @@ class RatioReporter : public benchmark::ConsoleReporter {
     jobs_[name.substr(0, slash)][name.substr(slash + 1)] = Figure(run);
   }
 
-  // Time of one item; or, of what is not measured in time, the figure that the benchmark counted itself.
+  // The time of one item; or the figure that the benchmark computed itself, if it does not measure time.
   static double Figure(const Run& run) {
     const auto& counters = run.counters;
     if (counters.contains("figure")) return counters.at("figure").value;
@@ -67,8 +67,8 @@ class RatioReporter : public benchmark::ConsoleReporter {
   std::map<std::string, Times> jobs_;
 };
 
-/// Runs every registered benchmark several times in random order, so that a busy moment of the machine meets
-/// all alike, and prints the ratios. Options of the command line come after ours and win.
+/// Runs every registered benchmark several times in random order, so that a busy moment of the machine
+/// affects all alike, and prints the ratios. Options of the command line override ours.
 inline int RunWithRatios(int argc, char** argv) {
   std::vector<std::string> defaults = {"--benchmark_repetitions=9", "--benchmark_min_time=0.1",
                                        "--benchmark_enable_random_interleaving=true",

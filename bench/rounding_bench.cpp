@@ -44,8 +44,8 @@ void OverAmounts(benchmark::State& state, Routine routine) {
   state.counters["items"] = static_cast<double>(amounts.size());
 }
 
-// A value that the compiler cannot know, as in the modules that call. (The benchmark library's DoNotOptimize
-// garbles small integers under GCC.)
+// Hides a value from the optimizer, as in modules that call the library. (The benchmark library's
+// DoNotOptimize garbles small integers under GCC.)
 template <class Value>
 Value Unknown(Value value) {
   const volatile Value hidden = value;
@@ -66,7 +66,7 @@ void RoundValueLongDouble(benchmark::State& state) {
 }
 BENCHMARK(RoundValueLongDouble)->Name("RoundValue/long_double");
 
-// One rule for all amounts, as a firm's settings choose it.
+// One rule for all amounts, as set in a company's settings.
 void RoundDphOurs(benchmark::State& state, char16_t letter) {
   const char16_t kind = Unknown(letter);
   OverAmounts(state, [=](Currency value) { return RoundDPH(value, kind); });
@@ -82,7 +82,7 @@ BENCHMARK_CAPTURE(RoundDphLongDouble, H, u'H')->Name("RoundDPH H/long_double");
 BENCHMARK_CAPTURE(RoundDphLongDouble, P, u'P')->Name("RoundDPH P/long_double");
 
 #ifdef RAVO_HAS_LIBMPDEC
-// Each amount stands ready as a decimal, so that only the rounding itself is measured.
+// Each amount is converted to a decimal beforehand, so that only the rounding is measured.
 void QuantizeLibmpdec(benchmark::State& state) {
   mpd_context_t context;
   mpd_init(&context, 38);

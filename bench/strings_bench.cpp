@@ -43,7 +43,7 @@ std::wstring Wide(const Text& text) { return {text.begin(), text.end()}; }
 std::string Bytes(const Text& text) { return StrEncodeUtf8(text); }
 std::int32_t Size(const Text& text) { return static_cast<std::int32_t>(text.size()); }
 
-// A text that ends with what is looked for and begins with many first characters of it, or with none.
+// A text that ends with the search text and starts with many of its first characters, or with none.
 void RegisterSearch(const std::string& job, Text text, const Text& search) {
   text += search;
   Register("StrPosW_" + job, ravo::bench::kOurs, [=] { return StrPosW(search, text); });
@@ -204,7 +204,7 @@ void RegisterUrl(const std::string& job, const Text& text) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  // Without a locale that knows the letters, wcscasecmp would stop at the first one beyond ASCII.
+  // Without a locale that has the letters, wcscasecmp would stop at the first one past ASCII.
   std::setlocale(LC_CTYPE, "cs_CZ.UTF-8");
   constexpr std::size_t kMiB = std::size_t{1} << 20;
   RegisterSearch("rare_ascii", Repeated(kAscii, kMiB), u"#hash");

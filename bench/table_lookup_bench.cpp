@@ -14,7 +14,7 @@ using Ids = std::vector<std::int32_t>;
 using StandardMap = std::unordered_map<std::int32_t, View>;
 using FlatMap = absl::flat_hash_map<std::int32_t, View>;
 
-// Longer than what a branch predictor can learn by heart.
+// Longer than a branch predictor can memorize.
 constexpr std::size_t kSequence = 64 * 1024;
 
 Ids KnownIds() {
@@ -25,7 +25,7 @@ Ids KnownIds() {
   return ids;
 }
 
-// A random sequence of which `hits` of two identifiers are known on average. Misses come from the same range.
+// A random sequence in which `hits` of two identifiers are known on average. Misses come from the same range.
 Ids Sequence(int hits) {
   const Ids known = KnownIds();
   std::mt19937 random(20240229);
@@ -57,8 +57,8 @@ auto LookUpIn() {
   };
 }
 
-// One iteration walks the whole sequence. Length and place of each answer are used, so that the compiler can
-// leave out neither.
+// One iteration runs through the whole sequence. The length and the address of each result are used, so that
+// the compiler keeps both.
 template <class LookUp>
 void Walk(benchmark::State& state, const Ids& ids, const LookUp& look_up) {
   for (auto _ : state) {

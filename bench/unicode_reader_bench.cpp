@@ -48,7 +48,7 @@ std::string Encoded(std::u16string_view text, const TDIUnicodeWriteMethods& meth
   return writer.DataToStrRaw();
 }
 
-// A stream that only counts what is written: neither rival's time is that of memory.
+// A stream that only counts the written bytes: the time of memory counts for neither side.
 class CountingStream final : public ravo::ByteStream {
  public:
   [[nodiscard]] std::size_t Read(std::span<std::byte>) override { return 0; }
@@ -118,7 +118,7 @@ void RegisterConversion(const std::string& job, std::u16string_view text, const 
 
 using Step = void (*)(TDIUnicodeReader& reader);
 
-// Steps until the text ends; gives what was collected, to be used.
+// Steps until the text ends; returns the collected text, so that it is used.
 std::function<std::size_t()> Steps(std::shared_ptr<const std::string> source,
                                    const TDIUnicodeReadMethods& from, Step step) {
   return [source = std::move(source), from, step] {

@@ -25,7 +25,7 @@ using namespace ravo;
 using namespace ravo::bench;
 using ECXMLParser::TECXMLParser;
 
-// A stream over bytes that stay where they are.
+// A stream over bytes that it does not own.
 class TextStream final : public ByteStream {
  public:
   explicit TextStream(const std::string& text) : text_(text) {}
@@ -46,7 +46,7 @@ class TextStream final : public ByteStream {
   std::int64_t position_ = 0;
 };
 
-// What the rivals' writers do: bytes at the end of a string.
+// A stream that appends to a string, like the rivals' writers.
 class OutStream final : public ByteStream {
  public:
   std::string text;
@@ -114,7 +114,7 @@ void Register(const std::string& name, bool fresh, const Job& job) {
     if (fresh) {
       mallopt(M_MMAP_THRESHOLD, 128 * 1024);
     } else {
-      // Nothing up to the largest size that malloc allows goes back to the system.
+      // Blocks up to the largest size that malloc allows are never returned to the system.
       mallopt(M_MMAP_THRESHOLD, 1 << 25);
       mallopt(M_TRIM_THRESHOLD, INT32_MAX);
       benchmark::DoNotOptimize(job());
@@ -171,7 +171,7 @@ std::size_t Peak(const std::string& text) {
   return StopCountingMemory();
 }
 
-// The most that was held at once while the document was loaded, for each of its elements.
+// The peak memory while the document is loaded, per element.
 void RegisterPeak(const std::string& name, const Size& size, std::size_t (*peak)(const std::string&),
                   const std::string& text) {
   const auto run = [&size, &text, peak](benchmark::State& state) {

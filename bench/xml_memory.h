@@ -4,9 +4,9 @@
 
 namespace ravo::bench {
 
-/// Counts what the program takes from the global `operator new` from now on.
+/// Starts counting the memory that the program allocates with the global `operator new`.
 void StartCountingMemory() noexcept;
-/// Ends the counting and answers the most bytes that were held at once.
+/// Stops counting and returns the peak in bytes.
 [[nodiscard]] std::size_t StopCountingMemory() noexcept;
 
 }  // namespace ravo::bench

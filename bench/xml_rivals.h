@@ -3,19 +3,19 @@
 #include <cstddef>
 #include <string>
 
-/// What the rivals do with a document in Windows-1250. Each that builds a tree gives it up again.
+/// The jobs of the rivals, with a document in Windows-1250. Those that build a tree free it.
 namespace ravo::bench {
 
-/// One call of iconv over a whole text.
+/// Converts a whole text with one call of iconv.
 [[nodiscard]] std::string Converted(const std::string& text, const char* from, const char* to);
 
-/// iconv, pugixml in its default mode, iconv back.
+/// Runs iconv, pugixml in its default mode, and iconv back.
 [[nodiscard]] std::size_t PugixmlLoadAndSave(const std::string& text);
 [[nodiscard]] std::size_t Libxml2LoadAndSave(const std::string& text);
-/// The count of elements and texts that expat reports.
+/// Returns the number of elements and texts that expat reports.
 [[nodiscard]] std::size_t ExpatTokens(const std::string& text);
 
-/// The most bytes that pugixml asked for at once while it loaded a text in UTF-8.
+/// Returns the peak of bytes that pugixml allocates while it loads a text in UTF-8.
 [[nodiscard]] std::size_t PugixmlPeak(const std::string& utf8);
 
 // pugixml in its wide-character mode, built from the distribution's sources.

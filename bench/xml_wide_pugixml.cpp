@@ -1,4 +1,4 @@
-// pugixml in its wide-character mode: apart, since its two modes cannot meet in one source.
+// pugixml in its wide-character mode. A separate source, because the two modes conflict in one.
 #define PUGIXML_WCHAR_MODE
 
 #include "xml_rivals.h"

@@ -1,5 +1,5 @@
-# Runs at installation: copies the public headers and all that they include, and nothing else.
-# Wants ravo_source (the project) and ravo_include (the folder of headers below the prefix).
+# Runs at installation: copies the public headers and the headers that they include. Needs ravo_source (the
+# project) and ravo_include (the folder of headers below the prefix).
 cmake_policy(VERSION 3.25)
 file(GLOB ravo_open RELATIVE ${ravo_source} ${ravo_source}/ravo/*.h)
 set(ravo_headers)
@@ -11,7 +11,7 @@ while(ravo_open)
   list(APPEND ravo_headers ${ravo_header})
   file(STRINGS ${ravo_source}/${ravo_header} ravo_lines REGEX "^ *# *include +[<\"]")
   foreach(ravo_line IN LISTS ravo_lines)
-    # In quotes: a neighbour, rows of a table mostly.
+    # A quoted name is relative to the including file; most are tables of rows.
     if(ravo_line MATCHES "include +\"([^\"]+)\"")
       cmake_path(GET ravo_header PARENT_PATH ravo_folder)
       cmake_path(SET ravo_found NORMALIZE ${ravo_folder}/${CMAKE_MATCH_1})

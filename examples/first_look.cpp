@@ -7,14 +7,14 @@
 
 int main() {
   using namespace ravo;
-  // What a table is called, by its identifier.
+  // The description of a table, by its identifier.
   std::cout << ToUtf8(RavoInterfaceCommon::GetTableDescription(71710)) << "\n";  // Účetní deník
 
-  // A caption of a choice control, and as it reads in a plain list.
+  // A caption of a choice control, and its plain text.
   const std::u16string caption = RavoInterfaceResources::rPropertyDokladPZPohledavka.Text();
   std::cout << ToUtf8(caption) << ", " << ToUtf8(PlainCaption(caption)) << "\n";  // &Pohledávka, Pohledávka
 
-  // A size as the locale writes it, here the Czech one, and the whole support report of this machine.
+  // A size in the format of the locale, here the Czech one, and the whole support report of this machine.
   std::cout << ToUtf8(RavoInterfaceCommon::BytesToStr(1536, true)) << "\n";  // 1,5 kB (1536 B)
   RavoInterfaceInfo::TRavoSystemInfo info;
   std::cout << ToUtf8(info.AsText(RavoInterfaceInfo::siVisual));

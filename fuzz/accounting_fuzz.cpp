@@ -1,5 +1,5 @@
-// The accounting rules over any text: validators answer or raise one of the library's errors, and what they
-// answer agrees with itself.
+// The accounting rules over any text: validators return a result or throw one of the library's errors, and
+// the results are consistent.
 #include <ravo/RavoInterfaceCommon.h>
 #include <ravo/runtime/error.h>
 #include <ravo/runtime/text.h>
@@ -40,7 +40,7 @@ void CheckEan(std::u16string_view text) {
     Require(old_check == u" " && new_check == u" " && full.empty());
     return;
   }
-  // A completed code is a right one.
+  // A completed code is valid.
   std::u16string again;
   Require(CalculateEAN(std::u16string(full), old_check, new_check, again));
   Require(old_check == new_check && again == full);

@@ -1,5 +1,4 @@
-// Tables of fields: any bytes give rows or an error that names a line, the same ones however the bytes
-// arrive.
+// Tables of fields: any bytes give rows or an error with a line, independent of how the bytes are split.
 #include "../tools/ravo/csv_reader.h"
 
 #include <algorithm>

@@ -1,5 +1,5 @@
-// Any numbers as dates: the fast ways of the calendar give what its formulas give, down to the errors, and
-// what is a date leads back to itself.
+// Any numbers as dates: the fast paths of the calendar agree with its formulas, errors included, and every
+// date survives a round trip.
 #include <ravo/DIUtils.h>
 #include <ravo/runtime/error.h>
 #include <ravo/utils/calendar_formulas.h>
@@ -17,7 +17,7 @@ void Require(bool condition) {
   if (!condition) std::abort();
 }
 
-// No value where it raises one of the library's errors.
+// No value if it throws one of the library's errors.
 template <class Call>
 auto Answer(const Call& call) -> std::optional<decltype(call())> {
   try {

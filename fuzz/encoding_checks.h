@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-/// What holds for any bytes under any encoding. The fuzz targets of the engines share it.
+/// Properties of any bytes in any encoding. The fuzz targets of the engines share them.
 namespace ravo::fuzz {
 
 using Bytes = std::span<const std::uint8_t>;
@@ -19,7 +19,7 @@ inline void Require(bool condition) {
   if (!condition) std::abort();
 }
 
-/// A block of its own, so that a byte too many is found.
+/// Copies into a separate block, so that an out-of-bounds read is detected.
 inline std::unique_ptr<std::uint8_t[]> Copy(Bytes bytes) {
   auto copy = std::make_unique<std::uint8_t[]>(bytes.size());
   std::copy(bytes.begin(), bytes.end(), copy.get());
@@ -40,7 +40,7 @@ inline std::u16string Read(const DIUnicode::TDIUnicodeReadMethods& methods, Byte
   return ReadRest(reader);
 }
 
-/// Two sources, the second stacked below the first.
+/// Reads from two sources, the second stacked below the first.
 inline std::u16string ReadInTwo(const DIUnicode::TDIUnicodeReadMethods& methods, Bytes bytes,
                                 std::size_t cut) {
   const auto first = Copy(bytes.first(cut));
@@ -53,7 +53,7 @@ inline std::u16string ReadInTwo(const DIUnicode::TDIUnicodeReadMethods& methods,
   return ReadRest(reader);
 }
 
-/// Whole runs into room of that many characters, single characters where they stop.
+/// Reads whole runs into a buffer of that many characters, and single characters where a run stops.
 inline std::u16string ReadByRuns(const DIUnicode::TDIUnicodeReadMethods& methods, Bytes bytes,
                                  std::size_t room) {
   const codec::DecodeRun decode = unicode::EncodingOf(methods)->decode_run;
@@ -70,7 +70,7 @@ inline std::u16string ReadByRuns(const DIUnicode::TDIUnicodeReadMethods& methods
   }
 }
 
-/// The bytes of those characters that the encoding has; `text` becomes these.
+/// Writes the characters that the encoding has, and returns their bytes; `text` keeps only these.
 inline std::vector<std::uint8_t> Write(const DIUnicode::TDIUnicodeWriteMethods& methods,
                                        std::u16string& text) {
   DIUnicode::TDIUnicodeWriter writer;
@@ -80,7 +80,7 @@ inline std::vector<std::uint8_t> Write(const DIUnicode::TDIUnicodeWriteMethods& 
   return {writer.Data().begin(), writer.Data().end()};
 }
 
-/// Whole runs of encoding, a single character where they stop for want of room.
+/// Encodes whole runs, and a single character where a run stops for lack of room.
 inline void CheckEncodeRuns(const DIUnicode::EncodingRow& encoding, std::u16string_view text,
                             Bytes expected) {
   const codec::EncodeRun encode = unicode::EncodingOf(*encoding.write)->encode_run;
@@ -91,7 +91,7 @@ inline void CheckEncodeRuns(const DIUnicode::EncodingRow& encoding, std::u16stri
   Require(std::equal(target.get(), target.get() + run.made, expected.begin()));
 }
 
-/// Runs up to an end, by every kernel, and single characters where they stop.
+/// Reads runs up to an end with every kernel, and single characters where a run stops.
 inline void CheckRunsUntil(const DIUnicode::TDIUnicodeReadMethods& methods, Bytes bytes, std::size_t room,
                            std::u16string_view expected) {
   const codec::DecodeUntil until = unicode::EncodingOf(methods)->decode_until;
@@ -120,7 +120,7 @@ inline void CheckRunsUntil(const DIUnicode::TDIUnicodeReadMethods& methods, Byte
   Require(text == expected);
 }
 
-/// Steps over blocks of bytes, each into room of that many units, as a program converts a file.
+/// Decodes block by block into a buffer of `room` units, as a program converts a file.
 inline std::u16string ReadInSteps(const DIUnicode::TDIUnicodeReadMethods& methods, Bytes bytes,
                                   std::size_t block, std::size_t room) {
   const codec::Encoding& encoding = *unicode::EncodingOf(methods);
@@ -144,8 +144,8 @@ inline std::u16string ReadInSteps(const DIUnicode::TDIUnicodeReadMethods& method
   }
 }
 
-/// Reading ends, alike however the bytes come, with no more characters than bytes; what can be written of it
-/// is read again.
+/// Reading terminates, gives the same result for every split of the bytes and at most as many characters as
+/// bytes; the characters that can be written are read back.
 inline void CheckEncoding(const DIUnicode::EncodingRow& encoding, Bytes bytes, std::size_t cut,
                           std::size_t room) {
   const DIUnicode::TDIUnicodeReadMethods& read =
@@ -167,7 +167,7 @@ inline void CheckEncoding(const DIUnicode::EncodingRow& encoding, Bytes bytes, s
   CheckEncodeRuns(encoding, encodable, written);
 }
 
-/// The first bytes choose one of the encodings whose engine begins so, the cut and the room.
+/// The first bytes choose an encoding whose engine begins like this, the split and the room.
 inline int CheckEngine(std::string_view engine, Bytes input) {
   std::vector<const DIUnicode::EncodingRow*> encodings;
   for (const DIUnicode::EncodingRow& row : DIUnicode::EncodingRows()) {

@@ -11,7 +11,7 @@ void Require(bool holds) {
   if (!holds) std::abort();
 }
 
-// The parts make the whole, each by its own rule.
+// The parts compose the whole name, each by its own rule.
 void CheckParts(std::u16string_view name) {
   const std::u16string path = utils::ExtractFilePathW(name);
   const std::u16string file = utils::ExtractFileNameW(name);
@@ -37,7 +37,7 @@ void CheckDelimiters(std::u16string_view name) {
   Require(name == with || name == without);
 }
 
-// The 8-bit forms answer the same for the same characters.
+// The 8-bit functions return the same for the same characters.
 void CheckNarrow(std::string_view name) {
   const std::u16string wide(name.begin(), name.end());
   const auto same = [](const std::string& left, const std::u16string& right) {

@@ -1,5 +1,5 @@
-// Any bytes under the checksum and the hashes: every kernel gives what the plain one gives, in one piece and
-// in two, and texts that differ in case alone hash alike where case is ignored.
+// Any bytes through the checksum and the hashes: every kernel agrees with the plain one, in one block and in
+// two, and texts that differ only in case have the same hash if case is ignored.
 #include <ravo/DIUtils.h>
 #include <ravo/utils/crc32_kernels.h>
 
@@ -27,7 +27,7 @@ void CheckKernels(std::uint32_t start, const Bytes& bytes) {
   }
 }
 
-// The bytes again and again, so that kernels with a way for long texts go it.
+// Repeats the bytes, so that kernels take their path for long texts.
 void CheckLongText(std::uint32_t start, const Bytes& bytes) {
   constexpr std::size_t longest = 48 << 10;
   if (bytes.empty()) return;
@@ -46,7 +46,7 @@ void CheckCase(std::uint32_t start, const Bytes& bytes) {
           ravo::DIUtils::HashBuf(upper.data(), upper.size(), start));
 }
 
-// ASCII letters change their case; other units stay.
+// Changes the case of ASCII letters; other units stay.
 void CheckFolding(std::uint32_t start, const Bytes& bytes) {
   std::u16string text(bytes.size() / 2, u'\0');
   if (!text.empty()) std::memcpy(text.data(), bytes.data(), 2 * text.size());
@@ -63,7 +63,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   std::uint32_t start = 0;
   if (size < sizeof(start)) return 0;
   std::memcpy(&start, data, sizeof(start));
-  // A block of its own, so that a byte too many is found.
+  // A separate block, so that an out-of-bounds read is detected.
   const Bytes bytes(data + sizeof(start), data + size);
   CheckKernels(start, bytes);
   CheckLongText(start, bytes);

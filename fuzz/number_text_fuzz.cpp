@@ -1,5 +1,4 @@
-// Texts as numbers: reading them never fails but by answering nothing, and what was read is written so that
-// it reads again.
+// Texts as numbers: parsing returns no value at worst, and every value survives a round trip through text.
 #include <ravo/runtime/float_text.h>
 #include <ravo/runtime/number_parse.h>
 #include <ravo/runtime/text.h>
@@ -22,7 +21,7 @@ void CheckInteger(std::u16string_view text) {
   Require(ravo::TryParseInteger(u"$" + ravo::ToHex(static_cast<std::uint32_t>(*value), 1)) == value);
 }
 
-// 21 significant digits tell every extended float from its neighbours.
+// 21 significant digits distinguish every extended float from its neighbours.
 std::u16string TextWith21Digits(ravo::Extended value) {
   const ravo::DecimalNumber number = ravo::RoundedToDigits(ravo::ToDecimal(value), 21);
   std::u16string text = number.negative ? u"-0." : u"0.";
@@ -33,7 +32,7 @@ void CheckFloat(std::u16string_view text) {
   const auto value = ravo::TryParseFloat(text, u'.');
   if (!value) return;
   const auto again = ravo::TryParseFloat(TextWith21Digits(*value), u'.');
-  // Only the largest values round up beyond the format.
+  // Only the largest values round to past the format.
   Require(again ? *again == *value : std::fabs(*value) > ravo::Extended{1e300});
   const std::u16string general = ravo::GeneralText(*value, u'.');
   const auto read = ravo::TryParseFloat(general, u'.');

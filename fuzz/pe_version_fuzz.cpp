@@ -16,7 +16,7 @@ void AskBlock(std::span<const std::byte> block) {
 
 }  // namespace
 
-// The input as an image, and as the version resource of one.
+// Parses the input as an image, and as the version resource of one.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const auto bytes = std::as_bytes(std::span(data, size));
   ravo::MemoryStream file(bytes);

@@ -1,5 +1,5 @@
-// A reader driven by a script of operations over any bytes, twice at once: with the encoding's whole runs,
-// and by single characters alone. Both stand alike after each operation.
+// Two readers driven by the same script of operations over any bytes: one with the encoding's whole runs, one
+// with single characters. Both are in the same state after each operation.
 #include <ravo/DIUnicode.h>
 #include <ravo/codec/kernels/kernel_set.h>
 #include <ravo/runtime/error.h>
@@ -21,7 +21,7 @@ void Require(bool condition) {
   if (!condition) std::abort();
 }
 
-// Gives some bytes at a time.
+// Returns a few bytes per read.
 class PiecesStream final : public ravo::ByteStream {
  public:
   PiecesStream(std::span<const std::uint8_t> bytes, std::size_t most)
@@ -40,7 +40,7 @@ class PiecesStream final : public ravo::ByteStream {
   std::size_t most_;
 };
 
-// Routines of an encoding without state, under a name that has no runs.
+// Read methods of a stateless encoding, under a name that has no runs.
 template <std::size_t slot>
 struct Hidden {
   static inline bool (*read_char)(TDIUnicodeReader&, char16_t&) = nullptr;
@@ -62,7 +62,7 @@ Methods MethodsOf(std::uint8_t choice) {
   return {read, {nullptr, Hidden<slot>::ReadChar, nullptr}};
 }
 
-// One of the two readers, with what its sources need.
+// One of the two readers, with the data of its sources.
 struct Side {
   explicit Side(bool by_runs) : runs(by_runs) {}
   ~Side() {
@@ -229,7 +229,7 @@ void Apply(TDIUnicodeReader& r, std::uint8_t operation, std::uint8_t argument) {
   }
 }
 
-// Whether the operation raised.
+// Returns whether the operation threw.
 bool Raises(TDIUnicodeReader& reader, std::uint8_t operation, std::uint8_t argument) {
   try {
     Apply(reader, operation, argument);
@@ -250,7 +250,7 @@ void RequireSame(const TDIUnicodeReader& one, const TDIUnicodeReader& other) {
           one.DataCapacity() == other.DataCapacity());
 }
 
-// One of those that run here.
+// Returns one of the kernels that this processor runs.
 const KernelSet& KernelOf(std::uint8_t choice) {
   std::vector<const KernelSet*> kernels;
   for (const KernelSet& kernel : KernelSets()) {
@@ -264,8 +264,8 @@ constexpr std::uint8_t kSetMethods = 0xFE;
 
 }  // namespace
 
-// The encoding, another one, the way that bytes come and the kernel, the length of the script, the script in
-// pairs of operation and argument, the bytes.
+// The input: the encoding, another one, the split of the bytes and the kernel, the length of the script, the
+// script in pairs of operation and argument, the bytes.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   constexpr std::size_t kHead = 4;
   if (size < kHead) return 0;
@@ -274,7 +274,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const ScopedKernels kernel(KernelOf(data[2] / 8));
   const std::size_t pairs = std::min<std::size_t>(data[3], (size - kHead) / 2);
   const auto* const script = data + kHead;
-  // A block of its own, so that a byte too many is found.
+  // A separate block, so that an out-of-bounds read is detected.
   const Bytes bytes(script + 2 * pairs, data + size);
   Side sides[] = {Side(true), Side(false)};
   for (Side& side : sides) {

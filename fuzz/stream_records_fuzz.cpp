@@ -1,5 +1,5 @@
-// Records in streams: any bytes give texts or one of the library's errors, and what was read is written back
-// alike.
+// Records in streams: any bytes give texts or one of the library's errors, and every text is written back
+// identically.
 #include <ravo/common/stream_records.h>
 #include <ravo/runtime/error.h>
 
@@ -14,7 +14,7 @@ void Require(bool condition) {
   if (!condition) std::abort();
 }
 
-// The length that the record at the stream's position promises; the position stays.
+// Returns the length that the record at the position of the stream declares; the position is unchanged.
 std::int64_t Promised(ravo::MemoryStream& stream) {
   const std::int64_t at = stream.Position();
   std::int64_t length = 0;
@@ -27,7 +27,7 @@ std::int64_t Promised(ravo::MemoryStream& stream) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  // A promise of gigabytes is kept in zeros: right, and too slow to be fuzzed.
+  // A declared length of gigabytes is filled with zeros: correct, but too slow for fuzzing.
   constexpr std::int64_t kMostPromised = 1 << 20;
   ravo::MemoryStream stream(std::as_bytes(std::span(data, size)));
   ravo::MemoryStream copy;

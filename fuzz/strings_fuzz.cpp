@@ -23,7 +23,7 @@ void CheckNumbers(std::string_view bytes) {
   static_cast<void>(HexToIntA(bytes));
 }
 
-// Words and what is between them are the whole text, and the position always moves on.
+// Words and separators compose the whole text, and the position always advances.
 void CheckWords(std::u16string_view text) {
   std::size_t position = 1;
   std::size_t letters = 0;
@@ -35,7 +35,7 @@ void CheckWords(std::u16string_view text) {
   Require(letters == text.size() - StrCountCharW(u' ', text) - StrCountCharW(u',', text));
 }
 
-// Both sides folded as a whole, then searched.
+// Folds both texts completely, then searches.
 std::size_t FoundFolded(std::u16string search, std::u16string text) {
   for (std::u16string* folded : {&search, &text}) {
     for (char16_t& c : *folded) c = CharToCaseFoldW(c);
@@ -44,10 +44,10 @@ std::size_t FoundFolded(std::u16string search, std::u16string text) {
   return at == std::u16string::npos ? 0 : at + 1;
 }
 
-// UTF-8, so that letters of every script come; broken pieces become letters as well.
+// UTF-8, to cover letters of every script; malformed sequences become letters as well.
 std::u16string Wide(std::string_view bytes) { return StrDecodeUtf8(bytes); }
 
-// The first line is what is searched for; the rest is the text.
+// The first line is the search text; the rest is the text.
 void CheckPairs(std::string_view bytes) {
   const std::size_t end = std::min(bytes.find('\n'), bytes.size());
   const std::string_view first = bytes.substr(0, end);

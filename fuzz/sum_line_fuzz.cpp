@@ -1,4 +1,4 @@
-// Lines of a list of sums: what is read is written so that it reads again.
+// Lines of a list of sums: every parsed line survives a round trip through text.
 #include "../tools/ravo/file_hash.h"
 
 #include <cstdlib>

@@ -1,4 +1,4 @@
-// Foreign bytes: UTF-8 by every set of kernels, addresses of the web.
+// Foreign bytes: UTF-8 with every set of kernels, web addresses.
 #include <ravo/DIUtils.h>
 #include <ravo/codec/kernels/kernel_set.h>
 
@@ -28,7 +28,7 @@ void CheckUtf8(std::string_view bytes) {
   Require(StrCountUtf8Chars(bytes) == text.size());
 }
 
-// The bytes as units of UTF-16, halves of pairs among them.
+// The bytes as UTF-16 units, unpaired surrogates included.
 void CheckUnits(std::string_view bytes) {
   std::u16string text(bytes.size() / 2, u'\0');
   for (std::size_t i = 0; i < text.size(); ++i)

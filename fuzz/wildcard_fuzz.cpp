@@ -1,5 +1,4 @@
-// Foreign masks: the first line is a mask, the rest the text; beside a match that tries everything in a
-// table.
+// Foreign masks: the first line is a mask, the rest the text; compared with exhaustive matching in a table.
 #include <ravo/DIUtils.h>
 
 #include <algorithm>
@@ -15,7 +14,7 @@ void Require(bool holds) {
   if (!holds) std::abort();
 }
 
-// Which beginnings of the text the mask so far matches.
+// The prefixes of the text that the mask so far matches.
 template <class Text>
 bool MatchesByTable(const Text& text, const Text& mask) {
   std::vector<bool> matched(text.size() + 1);

@@ -12,7 +12,7 @@ constexpr std::u16string_view kWords[] = {u"AMPM", u"A/P", u"d", u"m", u"y", u"h
 
 bool IsLetter(char16_t ch) { return (ch >= u'a' && ch <= u'z') || (ch >= u'A' && ch <= u'Z'); }
 
-// Takes a quoted text, a word of our patterns or a unit that stands for itself; false for anything else.
+// Removes a quoted text, a pattern word or a literal unit; returns false for anything else.
 bool TakePiece(std::u16string_view& rest) {
   std::size_t size = 1;
   if (rest.front() == u'\'' || rest.front() == u'"') {
@@ -29,7 +29,7 @@ bool TakePiece(std::u16string_view& rest) {
 
 }  // namespace
 
-// Whatever the locale says, the result is a pattern in our words alone, with every quote closed.
+// For any locale the result is a pattern of our own words, with every quote closed.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   std::u16string text(size / 2, u'\0');
   if (!text.empty()) std::memcpy(text.data(), data, 2 * text.size());

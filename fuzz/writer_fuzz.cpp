@@ -1,5 +1,5 @@
-// A writer driven by a script of operations, twice at once: with the encoding's whole runs, and by single
-// characters alone. Both have written the same after each operation.
+// Two writers driven by the same script of operations: one with the encoding's whole runs, one with single
+// characters. Both have written the same after each operation.
 #include <ravo/DIUnicode.h>
 #include <ravo/runtime/error.h>
 
@@ -21,7 +21,7 @@ void Require(bool condition) {
 bool (*hidden)(TDIUnicodeWriter&, char16_t) = nullptr;
 bool WriteHidden(TDIUnicodeWriter& writer, char16_t ch) { return hidden(writer, ch); }
 
-// Says nothing, brings one replacement after the other, writes by itself, gives up.
+// Does nothing, returns replacements in sequence, writes itself, or gives up.
 TDIInvalidCharEvent HandlerOf(std::uint8_t kind) {
   if (kind % 4 == 0) return {};
   return [kind](TDIUnicodeWriter& sender, char16_t invalid, char16_t& replacement, std::uint32_t attempt,
@@ -105,7 +105,7 @@ bool Apply(Side& side, std::uint8_t operation, std::uint8_t argument, std::u16st
   }
 }
 
-// The answer; 2 for an error.
+// Returns the result; 2 for an error.
 int Answer(Side& side, std::uint8_t operation, std::uint8_t argument, std::u16string_view text) {
   try {
     return Apply(side, operation, argument, text) ? 1 : 0;
@@ -116,7 +116,7 @@ int Answer(Side& side, std::uint8_t operation, std::uint8_t argument, std::u16st
 
 }  // namespace
 
-// The encoding, the length of the script, the script in pairs of operation and argument, the text.
+// The input: the encoding, the length of the script, the script in pairs of operation and argument, the text.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   constexpr std::size_t kHead = 2;
   if (size < kHead) return 0;
@@ -124,7 +124,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   if (row.write == nullptr) return 0;
   const std::size_t pairs = std::min<std::size_t>(data[1] % 32, (size - kHead) / 2);
   const auto* const script = data + kHead;
-  // Longer than a block of a stream together with what scripts write before it.
+  // Longer than a block of a stream plus the output of the script before it.
   constexpr std::size_t kLongestText = 3000;
   std::u16string text(std::min((size - kHead - 2 * pairs) / 2, kLongestText), u'\0');
   if (!text.empty()) std::memcpy(text.data(), script + 2 * pairs, 2 * text.size());
@@ -139,7 +139,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Require(std::ranges::equal(sides[0].writer.Data(), sides[1].writer.Data()));
     Require(sides[0].writer.DataCapacity() == sides[1].writer.DataCapacity());
     Require(std::ranges::equal(sides[0].stream.Bytes(), sides[1].stream.Bytes()));
-    // Scripts that repeat long texts only cost time.
+    // Scripts that repeat long texts only take time.
     if (sides[0].writer.DataSize() > 1U << 15 || sides[0].stream.Size() > 1 << 15) break;
   }
   return 0;

@@ -1,5 +1,5 @@
-// A document that is loaded, edited in any way and saved: what is saved is what the tree says of itself, and
-// it loads as the plain rules have it.
+// A document that is loaded, edited and saved: the saved text equals the tree's own text, and loads by the
+// plain rules.
 #include <ravo/platform/code_pages.h>
 #include <ravo/xml/document.h>
 
@@ -28,10 +28,10 @@ void Load(TECXMLParser& parser, std::string_view text) {
   }
 }
 
-// Items below items that are listed twice are written twice as often: a few of them are enough.
+// Items below an item that is listed twice are written twice as often: a few are enough.
 constexpr int kMostListedTwice = 6;
 
-// One step of editing: `item` is the item that it starts from, the result the one for the next step.
+// One step of editing: `item` is the start, the result is the item for the next step.
 TXMLItem* Edit(TXMLItem* item, unsigned char step, TECXMLParser& parser, TECXMLParser& other,
                int& listed_twice) {
   const std::int32_t count = item->SubItemCount();
@@ -110,7 +110,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   try {
     test::plain::Load(plain, stream);
   } catch (const std::exception&) {
-    // The tree was compared up to there.
+    // The tree was compared up to here.
   }
   Require(again.Root()->AsString() == test::plain::AsString(plain, 0, false));
   return 0;

@@ -1,4 +1,4 @@
-// XML in any form: the tokenizer, with a buffer as small as the input says, cuts it as the plain rules do.
+// XML in any form: the tokenizer, with a buffer as small as the input demands, splits it by the plain rules.
 #include <cstdint>
 #include <cstdlib>
 #include <string_view>

@@ -1,4 +1,4 @@
-// XML in any form: the tree of bytes, built at once or step by step, is the one that the plain rules build.
+// XML in any form: the tree, loaded at once or step by step, equals that of the plain rules.
 #include <ravo/xml/document.h>
 
 #include <cstdint>

@@ -1,5 +1,5 @@
-# Three Debian packages: libravointerface1, libravointerface-dev and ravo. Which packages each needs is found in
-# the binaries; each has the licence and both changelogs in its own folder of documents.
+# Three Debian packages: libravointerface1, libravointerface-dev and ravo. The dependencies of each are read
+# from the binaries; each has the licence and both changelogs in its own folder of documents.
 set(CPACK_GENERATOR DEB)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
@@ -7,7 +7,7 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
 set(CPACK_DEBIAN_PACKAGE_SOURCE ravointerface)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# The program's own library is not installed where this is built.
+# The program's own library is not installed on the build machine.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}/bin)
 set(CPACK_DEBIAN_ENABLE_COMPONENT_DEPENDS ON)
 set(ravo_debian_runtime libravointerface${PROJECT_VERSION_MAJOR})
@@ -24,7 +24,7 @@ the library.")
 set(CPACK_COMPONENT_TOOL_DESCRIPTION "The library at the prompt: looks tables and captions up, checks accounts and
 payment references, rounds money and writes the support report.")
 
-# The changelog of the packages: one entry, that of the release; its date is the build's.
+# The changelog of the packages has one entry, that of the release; its date is that of the build.
 string(TIMESTAMP ravo_debian_date "%a, %d %b %Y %H:%M:%S +0000" UTC)
 file(CONFIGURE OUTPUT ${PROJECT_BINARY_DIR}/debian/changelog.Debian CONTENT
 "ravointerface (@PROJECT_VERSION@-1) unstable; urgency=medium
@@ -34,17 +34,18 @@ file(CONFIGURE OUTPUT ${PROJECT_BINARY_DIR}/debian/changelog.Debian CONTENT
  -- @RAVO_MAINTAINER@  @ravo_debian_date@
 " @ONLY)
 
-# What debuggers need leaves the static library too; CPack sees to the other files.
+# Strips the static library too; CPack strips the other files.
 install(CODE "execute_process(COMMAND \"${CMAKE_STRIP}\" --strip-debug --enable-deterministic-archives
   \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}/libRavoInterface.a\" COMMAND_ERROR_IS_FATAL ANY)"
   COMPONENT development)
 
-# Documents are packed as small as gzip can, and without a time of their own.
+# Documents are compressed as much as gzip can, and without a timestamp.
 function(ravo_packed file packed)
   add_custom_command(OUTPUT ${packed} COMMAND sh -c "gzip -9nc <\"$1\" >\"$2\"" gzip ${file} ${packed} DEPENDS ${file} VERBATIM)
 endfunction()
 set(folder ${PROJECT_BINARY_DIR}/debian)
-# Which package has the shared library, and that the linker's cache is made anew after its coming and going.
+# The package that provides the shared library, and the trigger that updates the linker's cache when it is
+# installed or removed.
 file(WRITE ${folder}/shlibs
   "libRavoInterface ${PROJECT_VERSION_MAJOR} ${ravo_debian_runtime} (>= ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})\n")
 file(WRITE ${folder}/triggers "activate-noawait ldconfig\n")

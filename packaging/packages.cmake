@@ -1,6 +1,6 @@
-# Documents that are installed, and what CPack makes of an installation: Debian packages (scripts/package builds
-# them with RAVO_DEBIAN) and archives for Windows.
-option(RAVO_DEBIAN "Lay documents out as Debian packages have them" OFF)
+# Installed documents, and the packages that CPack builds from an installation: Debian packages
+# (scripts/package builds them with RAVO_DEBIAN) and archives for Windows.
+option(RAVO_DEBIAN "Install documents in the layout of Debian packages" OFF)
 set(RAVO_MAINTAINER "RavoInterface developers <developers@ravointerface.invalid>" CACHE STRING "Whom the packages name")
 
 set(CPACK_PACKAGE_NAME RavoInterface)

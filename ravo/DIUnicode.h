@@ -1,6 +1,7 @@
 #pragma once
 
-/// The Unicode text library: the character database, reader and writer, and the encodings that they take.
+/// The Unicode text library: the character database, the reader and writer, and the encodings that they
+/// support.
 #include <ravo/runtime/language.h>
 
 #include <ravo/unicode/characters.h>

@@ -1,7 +1,20 @@
+// The room ravo/utils: small general functions that any module of the suite may call, gathered here for
+// programs.
+//
+// Texts are in strings/: one template per family of functions, over the kind of characters and the way to
+// compare them (strings/text_kind.h), with thin exported members for the suffixes of the suite: A is 8-bit
+// text, W and no suffix UTF-16, I ignores case. Dates are whole days in calendar.h; checksums.h, hashes.h and
+// random.h are what their names say. files.h, folders.h and whole_files.h access the disk through
+// ravo/platform and return false or -1 if the system fails.
+//
+// Start with strings/search.h for texts and files.h for the disk; the other headers follow their pattern.
+// Positions are 1-based for callers and 0-based inside; a null pointer with a length is an empty buffer. No
+// function here keeps state between calls, apart from the choice of a kernel; the module keeps only the
+// German day names and a record of the operating system. No system header is included.
 #pragma once
 
-/// General utilities: strings and buffers, calendar, checksums, hashes, random numbers, files
-/// and folders, the environment.
+/// General utilities: strings and buffers, calendar, checksums, hashes, random numbers, files and folders,
+/// the environment.
 #include <ravo/runtime/language.h>
 
 #include <ravo/utils/ansi_upper.h>

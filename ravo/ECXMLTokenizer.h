@@ -1,6 +1,6 @@
 #pragma once
 
-/// Cuts XML into coarse tokens.
+/// Splits XML into coarse tokens.
 #include <ravo/runtime/language.h>
 
 #include <ravo/xml/tokenizer.h>

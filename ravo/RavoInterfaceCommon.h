@@ -1,6 +1,7 @@
 #pragma once
 
-/// The accounting helpers that every module must apply alike.
+/// The accounting helpers: rounding, account checks, calendar steps and texts that all modules of the suite
+/// share.
 #include <ravo/runtime/language.h>
 
 #include <ravo/catalogue/table_catalogue.h>

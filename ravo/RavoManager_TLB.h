@@ -1,7 +1,7 @@
 #pragma once
 
 /// The host's object model: the interfaces of sessions, tables, fields, business objects, rights, plug-ins
-/// and reports, and what a module needs to call or to implement them.
+/// and reports, and the classes with which a module calls or implements them.
 #include <ravo/runtime/language.h>
 
 #include <ravo/hostapi/interfaces.h>

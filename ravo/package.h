@@ -1,11 +1,11 @@
 #pragma once
 
 /** The package frame of RavoInterface for a host in C or C++: the module table, the module record and the
- * procedures that start and stop the library's modules. Everything is plain C: undecorated names, the C
+ * procedures that start and stop the library's modules. All names are plain C: undecorated, with the C
  * calling convention.
  *
- * On Windows the package description is also a resource of the library, so that a host can read it before the
- * library is loaded: RCDATA `PACKAGEINFO`, little-endian and without padding,
+ * On Windows the package description is also a resource of the library, so a host can read it without loading
+ * the library: RCDATA `PACKAGEINFO`, little-endian and without padding,
  *
  *   uint32  flags (RAVO_PACKAGE_...)
  *   uint16  number of required run-time libraries
@@ -14,17 +14,16 @@
  *   then for each contained module: one byte of flags (RAVO_MODULE_...), its name, ASCII, ended by a zero
  * byte
  *
- * beside RCDATA `DESCRIPTION` (UTF-16 text ended by a zero), the version record, the string table and an
- * empty type library (`TYPELIB`). On other systems the same facts stand in
- * `RavoPackageInfoTable.Description`. */
+ * as well as RCDATA `DESCRIPTION` (UTF-16 text ended by a zero), the version record, the string table and an
+ * empty type library (`TYPELIB`). On other systems `RavoPackageInfoTable.Description` has the same facts. */
 
-/** The package is for run time only, not for a designer. */
+/** The package is used at run time only, not in a designer. */
 #define RAVO_PACKAGE_RUN_ONLY 0x1
 /** The package is never rebuilt on demand. */
 #define RAVO_PACKAGE_NEVER_BUILD 0x2
 /** The module is a package, not an executable or a plain library. */
 #define RAVO_PACKAGE_MODULE 0x4
-/** What this package is. */
+/** The flags of this package. */
 #define RAVO_PACKAGE_FLAGS (RAVO_PACKAGE_RUN_ONLY | RAVO_PACKAGE_NEVER_BUILD | RAVO_PACKAGE_MODULE)
 
 /** The contained module is the main one. */
@@ -34,20 +33,20 @@
 
 #include <ravo/runtime/c_resource_text.h>
 #include <ravo/runtime/export.h>
-/* The C header: this file is for C compilers too. */
+/* The C header: this file is compiled as C too. */
 #include <stdint.h>  // NOLINT(modernize-deprecated-headers)
 
 #ifdef __cplusplus
 extern "C" {
 #endif
 
-/** A slot of the module table: how a module is started and stopped. Either may be null. */
+/** A slot of the module table: the procedures that start and stop a module. Either may be null. */
 typedef struct RavoPackageUnit {
   void (*Initialize)(void); /**< starts the module */
   void (*Finalize)(void);   /**< stops it */
 } RavoPackageUnit;
 
-/** What the package tells of its types. This build has no look-up of types at run time: `TypeCount` is 0 and
+/** The type information of the package. This build has no look-up of types at run time: `TypeCount` is 0 and
  * `TypeTable` null. `UnitNames` are the contained modules without the main one. */
 typedef struct RavoPackageTypeInfo {
   int32_t TypeCount;            /**< 0 */
@@ -75,51 +74,50 @@ typedef struct RavoPackageDescription {
   const char* const* RequiredNames;        /**< ASCII */
   int32_t ContainedCount;                  /**< contained modules */
   const RavoPackageModule* Contained;      /**< in the order of the package description */
-  const uint16_t* Text;                    /**< what the package is */
-  const uint16_t* TypeLibraryName;         /**< of the empty type library */
+  const uint16_t* Text;                    /**< title of the package */
+  const uint16_t* TypeLibraryName;         /**< name of the empty type library */
   const uint16_t* TypeLibraryHelp;         /**< its help text */
   uint32_t TypeLibraryLocale;              /**< its language */
   int32_t VersionStringCount;              /**< strings of the version record */
   const RavoVersionString* VersionStrings; /**< in the order of the record */
 } RavoPackageDescription;
 
-/** A loaded module as the process-wide list keeps it. `ResInstance` is where resource strings are looked up
- * first: the module itself, or a language module that was attached to it. A language module that a host puts
- * there belongs to the record from then on: it is unloaded with the library, or when another one takes its
- * place. At the end of a process on Windows both are left to the system. */
+/** A record of the process-wide list of loaded modules. Resource strings are looked up in `ResInstance`
+ * first: the module itself, or a language module attached to it. The record owns a language module that a
+ * host stores there: it is unloaded with the library, or when another one replaces it. At the end of a
+ * process on Windows both are left to the system. */
 typedef struct RavoModule {
-  struct RavoModule* Next; /**< the module that was loaded before it, or null */
+  struct RavoModule* Next; /**< the module loaded before it, or null */
   void* Instance;          /**< the module itself */
   void* CodeInstance;      /**< null: the entry point clears it */
   void* DataInstance;      /**< null: the entry point clears it */
-  void* ResInstance;       /**< where resource strings are looked up */
+  void* ResInstance;       /**< first place to look up resource strings */
 } RavoModule;
 
-/** The module table. The slots stand in dependency order: a module's slot comes after the slots of every
- * module that it uses. The first ones belong to the required run-time libraries and are empty in this build.
- */
+/** The module table. The slots are in dependency order: a module's slot comes after those of all modules that
+ * it uses. The first slots belong to the required run-time libraries and are empty in this build. */
 typedef struct RavoPackageInfoTable {
-  int32_t UnitCount;                         /**< slots of the table */
+  int32_t UnitCount;                         /**< number of slots */
   const RavoPackageUnit* UnitInfo;           /**< the slots */
-  RavoPackageTypeInfo TypeInfo;              /**< what it tells of types */
+  RavoPackageTypeInfo TypeInfo;              /**< the type information */
   const RavoPackageDescription* Description; /**< the package description */
   RavoModule* Module;                        /**< the entry in the list of modules */
 } RavoPackageInfoTable;
 
-/** The types of the exports, for a host that loads the library at run time. */
+/** The types of the exported functions, for a host that loads the library at run time. */
 typedef const RavoPackageInfoTable* (*RavoGetPackageInfoTable)(void);
 typedef void (*RavoPackageProcedure)(void);
 
-/** The module table; it lives as long as the library stays loaded. */
+/** Returns the module table, which is valid as long as the library is loaded. */
 RAVO_API const RavoPackageInfoTable* GetPackageInfoTable(void);
 
-/** Starts all modules, from the first slot to the last; needs no memory and cannot fail. Starts are counted
- * for each module: only the first of nested ones does work. The counters are not locked: a host starts and
- * stops from one thread at a time. */
+/** Starts all modules, from the first slot to the last; allocates no memory and cannot fail. Starts are
+ * counted per module: only the first of nested starts does any work. The counters have no lock: start and
+ * stop from one thread at a time. */
 RAVO_API void Initialize(void);
 
-/** Stops all modules, from the last slot to the first; only the stop that answers the first start does work.
- */
+/** Stops all modules, from the last slot to the first; only the stop that matches the first start does any
+ * work. */
 RAVO_API void Finalize(void);
 
 /** `<Module>_Initialize` and `<Module>_Finalize` start and stop one module, counted in the same way. */

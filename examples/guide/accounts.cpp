@@ -15,7 +15,7 @@ int main() {
   try {
     static_cast<void>(UcetMod11(std::u16string(63, u'1')));
   } catch (const FloatError& error) {
-    std::cout << "not a number that anyone has: " << error.what() << "\n";
+    std::cout << "not an account number: " << error.what() << "\n";
   }
   // [/bank]
   // [others]

@@ -15,7 +15,7 @@ int main() {
       std::cout << TableModuleName(row.module) << ": " << ToUtf8(row.description) << "\n";
     }
   }
-  if (RavoInterfaceCommon::TableDescription(12345).empty()) std::cout << "nobody has table 12345\n";
+  if (RavoInterfaceCommon::TableDescription(12345).empty()) std::cout << "there is no table 12345\n";
   // [/table]
   // [caption]
   using namespace RavoInterfaceResources;

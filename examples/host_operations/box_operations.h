@@ -2,8 +2,8 @@
 
 #include <ravo/RavoManager_TLB.h>
 
-/// What this module knows of the host's portal box: its operations, in the order of the host's operation
-/// table. One operation more or less than `IRavoBox` declares, and this file does not compile.
+/// The host's portal box as this module declares it: its operations, in the order of the host's operation
+/// table. If their number differs from that of `IRavoBox`, this file does not compile.
 #define BOX_OPERATIONS(OPERATION)                \
   OPERATION(get_Name, (char16_t** name))         \
   OPERATION(put_Name, (const char16_t* name))    \
@@ -17,6 +17,6 @@
 
 RAVO_OPERATIONS(HostBox, ravo::RavoManager_TLB::IRavoBox, BOX_OPERATIONS);
 
-/// The dispatch identifiers under which a late-binding client finds some of them.
+/// The dispatch identifiers of some operations, for late-bound clients.
 inline constexpr std::int32_t kBoxCount = 3;
 inline constexpr std::int32_t kBoxReceive = 5;

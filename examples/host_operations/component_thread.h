@@ -5,7 +5,7 @@
 #include <objbase.h>
 #include <windows.h>
 
-/// On Windows each thread initialises the component runtime for itself before it creates an object.
+/// On Windows each thread initializes the component runtime before it creates an object.
 struct ComponentThread {
   ComponentThread() { initialised = SUCCEEDED(CoInitializeEx(nullptr, COINIT_MULTITHREADED)); }
   ComponentThread(const ComponentThread&) = delete;
@@ -18,7 +18,7 @@ struct ComponentThread {
 
 #else
 
-/// Elsewhere there is nothing to initialise.
+/// Other systems need no initialization.
 struct ComponentThread {
   ComponentThread() {}
 };

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <string>
 
-/// A box as a host might implement it. In the suite the host has it, and a module only receives it.
+/// A box as a host might implement it. In the suite the host owns it, and a module only receives it.
 class Box final : public ravo::DispatchObject<HostBox> {
  public:
   using Code = ravo::ResultCode;

@@ -12,7 +12,7 @@ using ravo::RavoManager_TLB::IRavoBox;
 using ravo::RavoManager_TLB::IRavoBoxDisp;
 using ravo::RavoZip_TLB::CoRavoZipper;
 
-// An operation answers a code; this module prefers exceptions.
+// An operation returns a code; this module prefers exceptions.
 void Check(ravo::ResultCode code) {
   if (ravo::Failed(code)) throw ravo::ComponentError(code, u"The box refused");
 }

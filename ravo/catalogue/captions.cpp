@@ -7,7 +7,7 @@
 namespace ravo {
 namespace {
 
-// The rows as they stand in the file: a title has no name, a caption has no group yet.
+// The rows in file order: a group title has no name, a caption has no group yet.
 constexpr auto kLines = std::to_array<CaptionRow>({
 #define RAVO_CAPTION_GROUP(prefix, title) {title, #prefix, {}, {}},
 #define RAVO_STRING(name, id, text) {{}, {}, #name, RavoInterfaceResources::name},

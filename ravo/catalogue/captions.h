@@ -8,9 +8,9 @@
 
 namespace ravo {
 
-/// The Czech captions of the suite's enumerations and its messages to the user. Each is read through the
-/// library's current resource instance: `rPropertySazbaNulova.Text()`. "&" marks the accelerator;
-/// `PlainCaption` removes it.
+/// The Czech captions of the suite's enumerations and its messages to the user. `rPropertySazbaNulova.Text()`
+/// reads one through the current resource instance of the library. "&" marks the accelerator; `PlainCaption`
+/// removes it.
 namespace RavoInterfaceResources {
 
 #define RAVO_STRING(name, id, text) /** #text */ inline constexpr ResourceString name{id, u##text};
@@ -19,16 +19,16 @@ namespace RavoInterfaceResources {
 
 }  // namespace RavoInterfaceResources
 
-/// One caption or message with its name in the library, the title of the set that it belongs to, and what all
-/// names of that set begin with, such as `rPropertySazba`.
+/// A caption or message with its name in the library, the title of its group, and the common prefix of all
+/// names in that group, such as `rPropertySazba`.
 struct CaptionRow {
-  std::string_view group;   ///< title of the set, in English
-  std::string_view prefix;  ///< what all names of the set begin with
-  std::string_view name;    ///< in the library: "rPropertySazbaNulova"
+  std::string_view group;   ///< title of the group, in English
+  std::string_view prefix;  ///< common prefix of the names in the group
+  std::string_view name;    ///< name in the library: "rPropertySazbaNulova"
   ResourceString text;      ///< the caption or message
 };
 
-/// All captions and messages in declaration order, set by set.
+/// Returns all captions and messages in declaration order, group by group.
 [[nodiscard]] RAVO_API std::span<const CaptionRow> CaptionRows() noexcept;
 
 }  // namespace ravo

@@ -30,7 +30,7 @@ constexpr std::string_view kModuleKeys[] = {
 #include <ravo/catalogue/table_modules.inc>
 };
 
-// For the compiler's eyes: in the library the texts stand once, in the pool.
+// Used at compile time only: in the library each text is stored once, in the pool.
 constexpr auto kWrittenRows = std::to_array<TableRow>({
 #define RAVO_TABLE(module, id, text) {TableModule::module, id, id, u##text},
 #define RAVO_TABLE_RANGE(module, first, last, text) {TableModule::module, first, last, u##text},
@@ -136,8 +136,8 @@ std::u16string_view RavoInterfaceCommon::TableDescription(std::int32_t id) noexc
   return TextOf(slot, slot.id == id);
 }
 
-// The modules are not asked one after another: no identifier belongs to two of them, so that the first answer
-// in the fixed order is the only one.
+// One look-up instead of asking module after module: no identifier belongs to two modules, so the answer is
+// the same.
 std::u16string RavoInterfaceCommon::GetTableDescription(std::int32_t id) {
   return std::u16string(TableDescription(id));
 }

@@ -8,12 +8,12 @@
 
 namespace ravo {
 
-/// The index over the rows of the table catalogue, built by the compiler: one multiplication and one shift
-/// lead from an identifier to the only slot that can have it.
+/// The hash index over the rows of the table catalogue, computed by the compiler: one multiplication and one
+/// shift give the only slot where an identifier can be.
 namespace table_index {
 
-/// What stands at one place. The description is a piece of the pool, the concatenation of all descriptions.
-/// An empty slot names table 0, whose description is empty.
+/// One slot. The description is a part of the pool, the concatenation of all descriptions. An empty slot has
+/// identifier 0 and an empty description.
 struct alignas(8) Slot {
   std::int32_t id = 0;
   std::uint16_t text_at = 0;
@@ -27,7 +27,7 @@ struct alignas(64) Index {
   std::array<Slot, std::size_t{1} << kSlotBits> slots{};
 };
 
-/// Where an identifier has its slot.
+/// Returns the index of the slot of an identifier.
 [[nodiscard]] constexpr std::size_t Place(std::int32_t id, std::uint32_t multiplier) noexcept {
   return (static_cast<std::uint32_t>(id) * multiplier) >> (32 - kSlotBits);
 }

@@ -13,7 +13,7 @@ namespace {
 constexpr bool IsDigit(char16_t unit) { return unit >= u'0' && unit <= u'9'; }
 constexpr std::int32_t ValueOf(char16_t digit) { return digit - u'0'; }
 
-// A sum of digits as the checked 32-bit sum that it stands for.
+// Converts a sum of digits to the checked 32-bit sum.
 std::int32_t CheckedSum(std::uint64_t sum) {
   if (sum > std::numeric_limits<std::int32_t>::max()) throw OverflowError(u"Integer overflow");
   return static_cast<std::int32_t>(sum);
@@ -40,14 +40,14 @@ bool ValidUcet(std::u16string_view text) noexcept {
 void UcetNaSUAU(std::u16string_view Ucet, std::u16string& SU, std::u16string& AU) {
   const std::u16string_view synthetic = Ucet.substr(0, 3);
   const std::u16string_view analytic = Trimmed(Ucet.substr(synthetic.size()).substr(0, 3));
-  // Both are copied before either result is written: an argument may be one of the results.
+  // Both parts are copied before a result is written: an argument may alias a result.
   std::u16string su(synthetic);
   AU = std::u16string(analytic);
   SU = std::move(su);
 }
 
 bool ValidVS(std::u16string_view text) {
-  // One pass from the right, two digits a step; 64 bits hold the sum of any text that fits into memory.
+  // One pass from the right, two digits at a time; 64 bits hold the sum of any text that fits into memory.
   constexpr auto kDoubled = [](unsigned digit) { return 2 * digit - (digit > 4 ? 9 : 0); };
   std::uint64_t sum = 0;
   bool digits_alone = !text.empty();
@@ -68,9 +68,9 @@ bool ValidVS(std::u16string_view text) {
 // Kept: prefix and base number form one weighted sum: 1-9 is valid although neither part is. Test:
 // UcetMod11.PrefixAndBaseNumberFormOneSum
 bool UcetMod11(std::u16string_view text) {
-  // 2^1, 2^2, ... modulo 11, from the right; they repeat.
+  // The weights 2^1, 2^2, ... modulo 11, from the right; they repeat.
   constexpr std::array<std::int32_t, 10> kWeights{2, 4, 8, 5, 10, 9, 7, 3, 6, 1};
-  constexpr std::size_t kMostDigits = 62;  // 2^63 leaves a signed 64-bit integer
+  constexpr std::size_t kMostDigits = 62;  // 2^63 does not fit a signed 64-bit integer
   text = text.substr(0, text.find(u'/'));
   std::int32_t sum = 0;
   std::size_t digits = 0;
@@ -87,7 +87,7 @@ namespace {
 
 constexpr std::size_t kDataDigits = 12;
 
-// The check digit by which a code of 12 data digits, or of 7 behind five zeros, becomes divisible.
+// Returns the check digit of 12 data digits, or of 7 data digits after five zeros.
 char16_t EanCheckDigit(std::u16string_view data) {
   std::int32_t sum = 0;
   for (std::size_t i = 0; i < data.size(); ++i) {
@@ -107,7 +107,7 @@ bool CalculateEAN(std::u16string_view code, std::u16string& OldCheck, std::u16st
                   std::u16string& FullCode) {
   const std::u16string_view trimmed = Trimmed(code);
   const bool valid = IsEanLength(trimmed.size()) && IsNumbers(trimmed);
-  // A copy before the results are written: the code may be one of them.
+  // Copied before the results are written: `code` may alias one of them.
   std::array<char16_t, 13> digits{};
   if (valid) std::ranges::copy(trimmed, digits.begin());
   const bool carries_check = trimmed.size() == 8 || trimmed.size() == 13;

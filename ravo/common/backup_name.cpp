@@ -14,7 +14,7 @@ std::u16string FileNamePart(std::u16string_view name) {
   return part;
 }
 
-// Every occurrence of an ASCII placeholder in any mix of upper and lower case.
+// Replaces every occurrence of an ASCII placeholder, in any mix of upper and lower case.
 std::u16string Filled(std::u16string_view text, std::u16string_view placeholder, std::u16string_view with) {
   std::u16string result;
   for (std::size_t i = 0; i < text.size();) {

@@ -13,7 +13,7 @@ constexpr std::int64_t kKilobyte = 1024;
 constexpr std::int64_t kMegabyte = 1048576;
 constexpr int kMantissaBits = 64;
 
-// value / 2^shift, to nearest, ties to even.
+// Returns value / 2^shift, rounded to nearest, ties to even.
 constexpr std::uint64_t RoundedShift(std::uint64_t value, int shift) {
   if (shift == 0) return value;
   const std::uint64_t quotient = value >> shift;
@@ -22,8 +22,8 @@ constexpr std::uint64_t RoundedShift(std::uint64_t value, int shift) {
   return quotient + (rest > half || (rest == half && quotient % 2 == 1) ? 1 : 0);
 }
 
-// size / 2^shift * 10 rounded to an integer, with the one rounding before it that the extended float has: its
-// mantissa holds 64 bits of a product that may need 67. That touches the fraction alone.
+// Returns size / 2^shift * 10 as an integer. The extended float rounds once before that: the product may need
+// 67 bits, its mantissa has 64. Only the fraction is affected.
 std::int64_t TenthsOf(std::int64_t size, int shift) {
   const std::uint64_t unit = std::uint64_t{1} << shift;
   const auto bytes = static_cast<std::uint64_t>(size);

@@ -7,7 +7,7 @@
 namespace ravo::RavoInterfaceCommon {
 namespace {
 
-// `value`, not negative, in at least `digits` decimal digits.
+// Appends `value`, which must not be negative, with at least `digits` decimal digits.
 void AppendPadded(std::u16string& text, int value, int digits) {
   for (int place = digits; place > 0; --place) {
     int power = 1;
@@ -34,7 +34,7 @@ void AppendTime(std::u16string& text, const TimeParts& time) {
   AppendPadded(text, time.millisecond, 3);
 }
 
-// The date with a day that the month has not lowered to its last one.
+// Returns the date, with a day past the end of the month lowered to the last one.
 DateTime EncodeClamped(int year, int month, int day) {
   return EncodeDate(year, month, std::min<int>(day, DaysPerMonth(year, month)));
 }

@@ -7,13 +7,15 @@
 
 namespace ravo::RavoInterfaceCommon {
 
-/// Splits one line of a street address into the street and the house number: "Nádražní 1234/5" gives
-/// "Nádražní" and "1234/5". The last word counts as a number when it reads as a 32-bit integer once "/", "-",
-/// "\", and the Roman "X", "V", "I" of either case stand for zeros; otherwise the whole trimmed text is the
-/// street and the number is empty.
+/// Splits a street address into the street and the house number: "Nádražní 1234/5" into "Nádražní" and
+/// "1234/5".
+///
+/// The last word is the house number if it reads as a 32-bit integer after "/", "-", "\", and the Roman
+/// digits "X", "V", "I" of either case are replaced by zeros. Otherwise `Ulice` is the whole trimmed text and
+/// `Cislo` is empty.
 RAVO_API void AdresaExpand(std::u16string_view Adresa, std::u16string& Ulice, std::u16string& Cislo);
 
-/// The display text of a document: trimmed prefix and number joined, then "/" and the trimmed suffix where
+/// Returns the display text of a document: the trimmed prefix and number, then "/" and the trimmed suffix if
 /// there is one. "FV", "0012" and "2010" give "FV0012/2010".
 [[nodiscard]] RAVO_API std::u16string DokladDescription(std::u16string_view Prefix,
                                                         std::u16string_view Number,

@@ -7,7 +7,8 @@
 
 namespace ravo::RavoInterfaceCommon {
 
-/// Windows-1250 text with 25 Czech letters replaced by their base letters and every other byte as it is.
+/// Returns Windows-1250 text with 25 Czech letters replaced by their base letters; every other byte is
+/// unchanged.
 [[nodiscard]] RAVO_API std::string RemoveDiacritics(std::string_view text);
 
 }  // namespace ravo::RavoInterfaceCommon

@@ -5,15 +5,14 @@
 namespace ravo::RavoInterfaceCommon {
 namespace {
 
-// Follows how much of the front of a pattern stands at the end of what has been read, by the method of Knuth,
-// Morris and Pratt.
+// Tracks the longest prefix of the pattern that ends the text read so far (the Knuth-Morris-Pratt algorithm).
 class PrefixMatcher {
  public:
   explicit PrefixMatcher(std::u16string_view pattern) : pattern_(pattern), shorter_(pattern.size(), 0) {
     for (std::size_t i = 1; i < pattern.size(); ++i) shorter_[i] = After(shorter_[i - 1], pattern[i]);
   }
 
-  // The matched length when `unit` follows a matched length that is not the whole pattern.
+  // Returns the matched length after one more `unit`. `matched` must be shorter than the pattern.
   [[nodiscard]] std::size_t After(std::size_t matched, char16_t unit) const {
     while (matched > 0 && pattern_[matched] != unit) matched = shorter_[matched - 1];
     return pattern_[matched] == unit ? matched + 1 : 0;
@@ -21,7 +20,7 @@ class PrefixMatcher {
 
  private:
   std::u16string_view pattern_;
-  // For each front of the pattern, the next shorter front that ends it.
+  // For each prefix of the pattern, the length of its longest proper prefix that is also its suffix.
   std::vector<std::size_t> shorter_;
 };
 
@@ -31,9 +30,9 @@ std::u16string ExtractTableFromProperty(std::u16string_view name) {
   return std::u16string(name.substr(0, name.find(u'.')));
 }
 
-// Reads once and drops the prefix whenever the result ends in it. All occurrences being of one length, the
-// first of them is the one that ends first, and nothing before its end holds another: so this deletes the
-// very occurrences, in the very order, that searching anew from the start would.
+// One pass that drops the prefix whenever the result ends in it. All occurrences have the same length, so the
+// first one is the one that ends first. This deletes the same occurrences in the same order as a new search
+// from the start each time.
 std::u16string RemoveTableFromProperties(std::u16string_view table, std::u16string_view properties) {
   const std::u16string prefix = std::u16string(table) + u'.';
   const PrefixMatcher matcher(prefix);

@@ -5,15 +5,20 @@
 #include <string>
 #include <string_view>
 
-/// Field names that a table's name and a "." may stand in front of.
+/// Field names with an optional table name and "." before them.
 namespace ravo::RavoInterfaceCommon {
 
-/// What stands before the first "."; the whole name where there is none. "Faktury" for "Faktury.Cislo".
+/// Returns the part of `name` before its first ".", or all of it if there is no ".": "Faktury" for
+/// "Faktury.Cislo".
 [[nodiscard]] RAVO_API std::u16string ExtractTableFromProperty(std::u16string_view name);
 
-/// `properties` with the first `table` followed by "." deleted as long as there is one, those too that a
-/// deletion brings together; case counts. An empty table removes every ".". "A;B;G.C" for the table "F" and
-/// "F.A;F.B;G.C". The time grows with the sum of both lengths.
+/// Returns `properties` without any occurrence of `table` followed by ".".
+///
+/// The first occurrence is deleted again and again, including those that a deletion creates. The comparison
+/// is case-sensitive. An empty `table` deletes every ".". The time is linear in the sum of both
+/// lengths.
+///
+///     RemoveTableFromProperties(u"F", u"F.A;F.B;G.C")   // "A;B;G.C"
 [[nodiscard]] RAVO_API std::u16string RemoveTableFromProperties(std::u16string_view table,
                                                                 std::u16string_view properties);
 

@@ -6,7 +6,7 @@
 namespace ravo::RavoInterfaceCommon::detail {
 namespace {
 
-// To the nearest 0.50, quarters away from zero.
+// Rounds to the nearest 0.50, quarters away from zero.
 Currency RoundToHalves(Currency value) {
   const std::int64_t whole = value.raw / Currency::kScale;
   const std::int64_t fraction = std::abs(value.raw % Currency::kScale);

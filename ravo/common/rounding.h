@@ -9,7 +9,7 @@
 
 namespace ravo::RavoInterfaceCommon {
 
-/// How an amount is rounded. Stored as one byte; any other value means "not at all".
+/// The direction of rounding, stored as one byte. Any other value means no rounding.
 enum class TRoundType : std::uint8_t {
   rtUp = 0,    ///< away from zero
   rtDown = 1,  ///< toward zero
@@ -17,56 +17,56 @@ enum class TRoundType : std::uint8_t {
 };
 using enum TRoundType;
 
-/// Rounds an amount to `Decimals` decimal places: 2 means hundredths, 0 whole crowns, -1 tens.
+/// Returns an amount rounded to `Decimals` decimal places: 2 are hundredths, 0 whole crowns, -1 tens.
 ///
-/// The result is that of arithmetic in the 80-bit floating-point format, rounded to nearest, whatever the
-/// processor has and whatever a host set it to; halves are found after the fraction was rounded to four
-/// places, so 1.005 to two places is 1.01. A rounding type outside the three returns `Value` unchanged.
+/// The result is that of the 80-bit floating-point format, rounded to nearest, independent of the processor
+/// and its state. Halves are recognized after the fraction is rounded to four places, so 1.005 to two places
+/// is 1.01. A `RoundType` outside the enumeration returns `Value` unchanged.
 ///
+/// Throws `FloatError` if `Decimals` is below -4 or above 14, or if the scaled amount does not fit 64 bits.
 /// `rtUp` and `rtDown` count in 32 bits: |Value| x 10^Decimals of 2147483648 and more wraps silently.
-/// Decimals below -4 or above 14, and amounts whose scaled value leaves 64 bits, raise `FloatError`.
 ///
 ///     RoundValue(Currency{12340}, rtUp, 2)   // 1.234 -> 1.24
 ///     RoundValue(Currency{-12390}, rtDown, 2)  // -1.239 -> -1.23
 [[nodiscard]] inline Currency RoundValue(Currency Value, TRoundType RoundType, std::int8_t Decimals);
 
-/// Rounds a double to `Decimals` decimal places, with the representation error of doubles and the oddities
-/// that stored documents rely on:
+/// Returns a double rounded to `Decimals` decimal places, with the representation error of doubles and the
+/// oddities that stored documents depend on.
 ///
-///  - `rtUp` of a negative value gives the ceiling with its sign flipped: -1.234 to two places is 1.23;
-///  - `rtDown` is a floor that lowers most values that are exact already: 3.0 to no places is 2.0, and 1.25
-///  to two is
-///    1.24;
-///  - `rtMath` decides on the double as it is: 1.005 to two places is 1.0.
+/// Intermediate results are those of the 80-bit format. Throws `FloatError` for infinities and NaN, and if
+/// the scaled value does not fit 64 bits.
 ///
-/// Intermediates are those of the 80-bit format. `FloatError` for what is no finite number and for scaled
-/// values beyond 64 bits; `rtUp` counts in 32 bits and wraps silently.
+///   rtUp    gives the ceiling of a negative value with its sign flipped: -1.234 to 2 places is 1.23;
+///           it counts in 32 bits and wraps silently
+///   rtDown  is a floor that lowers most exact values by one unit: 3.0 to 0 places is 2.0, and 1.25
+///           to 2 places is 1.24
+///   rtMath  uses the exact value of the double: 1.005 to 2 places is 1.0
 [[nodiscard]] RAVO_API double RoundValueFloat(double Value, TRoundType RoundType, std::int8_t Decimals);
 
-/// Rounds an amount of VAT by one of the suite's five rules:
+/// Returns an amount of VAT, rounded by one of the suite's five rules:
 ///
 ///     H  to hundredths, halves away from zero        D  to tenths, halves away from zero
 ///     P  to the nearest 0.50, quarters away from zero  N  to tenths, away from zero
 ///     M  to whole crowns, halves away from zero
 ///
-/// Any other letter, lower case included, returns `Value` unchanged. "N" counts tenths in 32 bits, as
-/// `RoundValue` does: above a magnitude of 214748364.7 it wraps silently. `FloatError` where the rounded
-/// amount, or for "N" ten times the amount, leaves 64 bits; "P" has no limit.
+/// Any other letter, including lower case, returns `Value` unchanged. Throws `FloatError` if the rounded
+/// amount does not fit 64 bits, or for "N" ten times the amount; "P" has no limit. "N" counts tenths in 32
+/// bits, as `RoundValue` does: above a magnitude of 214748364.7 it wraps silently.
 [[nodiscard]] inline Currency RoundDPH(Currency Value, char16_t Kind);
 
-// Implementation. The amounts of documents are rounded here, in a few instructions that a loop can overlap;
-// the library itself takes the rest.
+// Implementation. Common amounts are rounded inline, in a few instructions that overlap in a loop; the
+// library handles the others out of line.
 
 namespace detail {
 
 [[nodiscard]] RAVO_API Currency RoundValueOutOfLine(Currency value, TRoundType type, std::int8_t decimals);
 [[nodiscard]] RAVO_API Currency RoundDPHOutOfLine(Currency value, char16_t kind);
 
-// Units beyond 32 bits wrap when rounding up or down; that is the library's part.
+// Up and down wrap past 32 bits of units; the inline form leaves those to the library.
 inline constexpr std::uint64_t kMostUnits = std::numeric_limits<std::int32_t>::max();
 inline constexpr std::uint64_t kAnyUnits = std::numeric_limits<std::uint64_t>::max();
 
-// By decimals (0 to 3; four decimals are all that an amount has) and rounding type.
+// Indexed by decimals (0 to 3; an amount has only four) and rounding type.
 inline constexpr std::array<std::array<ravo::detail::RoundingStep, 3>, 4> kSteps{{
     {ravo::detail::MakeRoundingStep(10000, 9999, kMostUnits),
      ravo::detail::MakeRoundingStep(10000, 0, kMostUnits),

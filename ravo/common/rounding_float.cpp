@@ -7,7 +7,7 @@ namespace {
 using common::Ceiling32;
 using common::Scaled;
 
-// scaled value -> double of the kept precision.
+// Converts a scaled value back to a double.
 double FromUnits(std::int64_t units, const SoftExtended& power) { return (Scaled(units) / power).ToDouble(); }
 
 double RoundUp(double value, const SoftExtended& scaled, const SoftExtended& power) {

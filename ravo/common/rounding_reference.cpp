@@ -8,12 +8,12 @@ using RavoInterfaceCommon::rtMath;
 using RavoInterfaceCommon::rtUp;
 using RavoInterfaceCommon::TRoundType;
 
-// units / scale * 10^8 as a stored amount: whole units of the kept precision back to ten-thousandths.
+// Returns units / scale * 10^8 as a stored amount: whole units of the rounded precision, in ten-thousandths.
 Currency FromUnits(const SoftExtended& units, const SoftExtended& scale) {
   return {(units / scale * Scaled(100'000'000)).ToIntegerRounded()};
 }
 
-// To whole units, the fraction first rounded to four places.
+// Rounds to whole units; the fraction is first rounded to four places.
 std::int64_t HalvesAwayFromZero(const SoftExtended& value) {
   constexpr std::int64_t kHalf = 5000;
   const std::int64_t fraction = (value.Fraction() * Scaled(10000)).ToIntegerRounded();

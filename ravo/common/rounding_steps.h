@@ -5,7 +5,7 @@
 
 #include <cstdint>
 
-/// The steps of rounding that amounts and doubles share.
+/// Helpers that the rounding of amounts and of doubles share.
 namespace ravo::common {
 
 /// Returns `value` as an extended float, exactly.

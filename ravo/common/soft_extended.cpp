@@ -76,14 +76,14 @@ std::int64_t SoftExtended::ToIntegerRounded() const {
   if (exponent_ < -64) return 0;
   const std::uint64_t whole = exponent_ == -64 ? 0 : mantissa_ >> -exponent_;
   const std::uint64_t rest = mantissa_
-                             << (64 + exponent_);  // what is behind the point, from the top bit down
+                             << (64 + exponent_);  // the bits after the point, from the top bit down
   const bool up = rest > kTopBit || (rest == kTopBit && (whole & 1) != 0);
   return Signed(whole + (up ? 1 : 0));
 }
 
 double SoftExtended::ToDouble() const noexcept {
   if (IsZero()) return 0.0;
-  // Normal doubles keep 53 bits; below the smallest normal one the last place stands still.
+  // A normal double keeps 53 bits; below the smallest normal one the position of the last bit is fixed.
   const int cut = std::max(64 - kDoubleBits, 1 - kDoubleBias - exponent_);
   std::uint64_t kept = cut > 63 ? 0 : mantissa_ >> cut;
   const std::uint64_t rest = cut > 64 ? 1 : mantissa_ << (64 - cut);
@@ -91,7 +91,7 @@ double SoftExtended::ToDouble() const noexcept {
   const int exponent = exponent_ + cut + kDoubleBias;
   std::uint64_t bits = 0;
   if (kept != 0) {
-    // Adding rather than joining lets a mantissa that rounded up carry into the exponent.
+    // Addition rather than a bitwise OR: a mantissa that rounded up carries into the exponent.
     bits = exponent == 1 && kept < std::uint64_t{1} << 52
                ? kept
                : (static_cast<std::uint64_t>(exponent - 1) << 52) + kept;
@@ -101,7 +101,7 @@ double SoftExtended::ToDouble() const noexcept {
   return std::bit_cast<double>(bits | (negative_ ? kTopBit : 0));
 }
 
-// dividend * 2^65 / divisor: at least 65 bits, so that rounding to 64 sees the next one.
+// Returns dividend * 2^65 / divisor: at least 65 bits, one more than the rounding to 64 bits keeps.
 SoftExtended::Wide SoftExtended::Quotient(std::uint64_t dividend, std::uint64_t divisor) noexcept {
   const bool first = dividend >= divisor;
   std::uint64_t rest = first ? dividend - divisor : dividend;
@@ -125,7 +125,7 @@ SoftExtended::Wide SoftExtended::Quotient(std::uint64_t dividend, std::uint64_t 
   return quotient;
 }
 
-// mantissa * 2^64 shifted right.
+// Returns mantissa * 2^64 >> bits.
 SoftExtended::Wide SoftExtended::ShiftedRight(std::uint64_t mantissa, int bits) noexcept {
   if (bits == 0) return {mantissa, 0, false};
   if (bits < 64) return {mantissa >> bits, mantissa << (64 - bits), false};
@@ -134,7 +134,7 @@ SoftExtended::Wide SoftExtended::ShiftedRight(std::uint64_t mantissa, int bits) 
   return {0, 0, mantissa != 0};
 }
 
-// value * 2^exponent, rounded to a 64-bit mantissa.
+// Returns value * 2^exponent, rounded to a 64-bit mantissa.
 SoftExtended SoftExtended::Rounded(bool negative, Wide value, int exponent) noexcept {
   // Untested: operands are normalized, so `low` is 0 if `high` is.
   if (value.high == 0 && value.low == 0) return {};
@@ -168,7 +168,7 @@ SoftExtended SoftExtended::AddMagnitudes(bool negative, const SoftExtended& larg
   Wide sum = ShiftedRight(smaller.mantissa_, larger.exponent_ - smaller.exponent_);
   int exponent = larger.exponent_ - 64;
   sum.high += larger.mantissa_;
-  if (sum.high < larger.mantissa_) {  // carried out of the top
+  if (sum.high < larger.mantissa_) {  // carry out of the top bit
     sum.sticky |= (sum.low & 1) != 0;
     sum.low = sum.low >> 1 | sum.high << 63;
     sum.high = sum.high >> 1 | kTopBit;
@@ -181,7 +181,7 @@ SoftExtended SoftExtended::SubtractMagnitudes(bool negative, const SoftExtended&
                                               const SoftExtended& smaller) noexcept {
   if (smaller.IsZero()) return {larger.IsZero() ? false : negative, larger.mantissa_, larger.exponent_};
   const Wide cut = ShiftedRight(smaller.mantissa_, larger.exponent_ - smaller.exponent_);
-  // What was cut off below 128 bits borrows one from the last of them and stays noted.
+  // Bits cut off below the 128 borrow one from the last bit, and `sticky` stays set.
   Wide rest{0, 0 - cut.low - (cut.sticky ? 1 : 0), cut.sticky};
   const bool borrow = cut.low != 0 || cut.sticky;
   rest.high = larger.mantissa_ - cut.high - (borrow ? 1 : 0);

@@ -4,10 +4,10 @@
 
 namespace ravo {
 
-/// A number of the processor's 80-bit format, computed with integers alone: a 64-bit mantissa, every
-/// operation rounded to nearest, ties to even. So results do not depend on whether the processor has that
-/// format, nor on the precision and rounding mode that a host left in it. The exponent is not bounded: the
-/// amounts computed here stay far inside the range of the format.
+/// A number of the 80-bit floating-point format, computed in integers: a 64-bit mantissa, and every operation
+/// rounded to nearest, ties to even. Results do not depend on whether the processor has that format, nor on
+/// its precision and rounding mode. The exponent is unbounded: the amounts computed here are far inside the
+/// range of the format.
 class SoftExtended {
  public:
   /// Zero.
@@ -15,41 +15,41 @@ class SoftExtended {
 
   [[nodiscard]] static SoftExtended FromInteger(std::int64_t value) noexcept;
 
-  /// Exact. `FloatError` for infinities and what is no number.
+  /// Returns the exact value. Throws `FloatError` for infinities and NaN.
   [[nodiscard]] static SoftExtended FromDouble(double value);
 
-  /// Ten to `exponent`. Exact from 0 to 27; the rounded reciprocal of an exact power from -27 to -1; a
-  /// rounded product of such powers beyond.
+  /// Returns 10^`exponent`: exact from 0 to 27, the rounded reciprocal of an exact power from -27 to -1,
+  /// otherwise a rounded product of such powers.
   [[nodiscard]] static SoftExtended PowerOfTen(int exponent) noexcept;
 
   [[nodiscard]] bool IsZero() const noexcept { return mantissa_ == 0; }
   [[nodiscard]] bool IsNegative() const noexcept { return negative_; }
   [[nodiscard]] SoftExtended Magnitude() const noexcept;
 
-  /// The part before the point, and what is left of it: both exact, both with the sign of the number.
+  /// Returns the integral part, and the fractional part: both exact, both with the sign of the number.
   [[nodiscard]] SoftExtended Truncated() const noexcept;
   [[nodiscard]] SoftExtended Fraction() const noexcept;
 
-  /// Toward zero. `FloatError` where the result does not fit.
+  /// Returns the value truncated toward zero. Throws `FloatError` if it does not fit.
   [[nodiscard]] std::int64_t ToIntegerTruncated() const;
 
-  /// To nearest, ties to even. `FloatError` where the result does not fit.
+  /// Returns the value rounded to nearest, ties to even. Throws `FloatError` if it does not fit.
   [[nodiscard]] std::int64_t ToIntegerRounded() const;
 
-  /// To nearest, ties to even; an infinity beyond the largest double.
+  /// Returns the nearest double, ties to even; an infinity past the largest double.
   [[nodiscard]] double ToDouble() const noexcept;
 
   friend SoftExtended operator+(const SoftExtended& left, const SoftExtended& right) noexcept;
   friend SoftExtended operator-(const SoftExtended& left, const SoftExtended& right) noexcept;
   friend SoftExtended operator*(const SoftExtended& left, const SoftExtended& right) noexcept;
-  /// `FloatError` for a zero divisor.
+  /// Throws `FloatError` if the divisor is zero.
   friend SoftExtended operator/(const SoftExtended& left, const SoftExtended& right);
 
  private:
   constexpr SoftExtended(bool negative, std::uint64_t mantissa, int exponent) noexcept
       : negative_(negative), mantissa_(mantissa), exponent_(exponent) {}
 
-  // 128 bits with a note whether anything but zeros was cut off below them.
+  // 128 bits; `sticky` tells whether non-zero bits were cut off below them.
   struct Wide {
     std::uint64_t high = 0;
     std::uint64_t low = 0;

@@ -26,7 +26,7 @@ std::int32_t FromBytes(const LengthBytes& bytes) {
   return static_cast<std::int32_t>(length);
 }
 
-// Reads in pieces: only after the read does a false record claim memory for bytes that its stream lacks.
+// Reads in blocks, so a malformed record allocates memory for missing bytes only after the read.
 std::string ReadAvailable(ByteStream& stream, std::size_t most) {
   constexpr std::size_t kPiece = std::size_t{1} << 20;
   std::string text;

@@ -8,26 +8,28 @@
 #include <string>
 #include <string_view>
 
-/// The byte form of 8-bit texts and blobs in streams. An absent stream (null) is left alone and reads as
-/// nothing. Checked reads and writes raise `StreamError` when fewer bytes move than asked.
+/// The byte format of 8-bit texts and blobs in streams. A null stream is ignored and reads as empty. Reading
+/// and writing throws `StreamError` if fewer bytes are transferred than asked for.
 namespace ravo::RavoInterfaceCommon {
 
-/// Writes a string record at the stream's position: the length in bytes as a signed 32-bit little-endian
-/// number, the bytes, one zero byte. `RangeError` for a text whose length leaves 32 bits.
+/// Writes a string record at the position of the stream: the length in bytes as a signed 32-bit little-endian
+/// number, the bytes, one zero byte. Throws `RangeError` if the length does not fit 32 bits.
 RAVO_API void StringToStream(ByteStream* stream, std::string_view text);
 
-/// Reads a string record at the stream's position and leaves the position behind its terminator, which is not
-/// read. Where the record promises more bytes than the stream has, the text is as long as promised and zero
-/// bytes stand for those that are missing, so a false record takes the memory that it promises, up to 2 GiB;
-/// the position still moves one byte on from the end. `RangeError` for a negative length.
+/// Returns the text of the string record at the position of the stream, and moves the position past its
+/// terminator, which is not read.
+///
+/// Throws `RangeError` for a negative length. If the stream has fewer bytes than the record declares, the
+/// missing ones are zeros: a malformed record allocates what it declares, up to 2 GiB. The position still
+/// moves one byte past the end.
 [[nodiscard]] RAVO_API std::string StringFromStream(ByteStream* stream);
 
-/// Writes the bytes of a byte array and nothing else; an empty or null value writes nothing. `VariantError`
-/// for any other value.
+/// Writes the bytes of a byte array, nothing else; an empty or null value writes nothing. Throws
+/// `VariantError` for any other value.
 RAVO_API void VariantToStream(ByteStream* stream, const Variant& value);
 
-/// The whole stream as a byte array, whatever its position was; null for an absent stream. `RangeError` for a
-/// stream of 2 GiB and more.
+/// Returns the whole stream as a byte array, from its start; null if `stream` is null. Throws `RangeError` if
+/// the stream has 2 GiB or more.
 [[nodiscard]] RAVO_API Variant VariantFromStream(ByteStream* stream);
 
 }  // namespace ravo::RavoInterfaceCommon

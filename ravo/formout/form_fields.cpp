@@ -33,7 +33,7 @@ void WriteCharacter(DIUnicode::TDIUnicodeWriter& writer, char16_t ch) {
   for (const char byte : {'\x01', '\\', 'r'}) writer.WriteByte(static_cast<std::uint8_t>(byte));
 }
 
-// The bytes are read as Windows-1250, whatever the system's code page is.
+// The bytes are interpreted as Windows-1250, even if the system has another code page.
 void WriteTextString(ByteStream& stream, std::string_view bytes) {
   DIUnicode::TDIUnicodeReader reader(nullptr);
   reader.SetReadMethods(DIUnicode::Read_Windows_1250);

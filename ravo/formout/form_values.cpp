@@ -6,7 +6,7 @@
 namespace ravo::RavoFileCommon {
 namespace {
 
-// Patterns of numbers and literal signs, so no locale is asked.
+// The patterns have only numbers and literal characters, so no locale is needed.
 std::u16string DateText(std::u16string_view pattern, DateTime date) {
   if (date == 0) return {};
   return FormatDateTime(pattern, date, FormatSettings());

@@ -13,8 +13,8 @@ constexpr std::uint64_t kBinaryBase = std::uint64_t{1} << 32;
 constexpr std::uint64_t kDecimalBase = 1'000'000'000;
 constexpr int kDecimalLimbDigits = 9;
 
-// limbs * factor + summand. Neither base lets the sum of one limb leave 64 bits: the greatest is
-// (2^32 - 1) * (2^32 - 1) + (2^32 - 1).
+// Computes limbs * factor + summand. The intermediate result of one limb fits 64 bits with either base: it is
+// at most (2^32 - 1) * (2^32 - 1) + (2^32 - 1).
 template <std::uint64_t kBase>
 void MultiplyAdd(Limbs& limbs, std::uint32_t factor, std::uint32_t summand) {
   std::uint64_t carry = summand;
@@ -26,7 +26,7 @@ void MultiplyAdd(Limbs& limbs, std::uint32_t factor, std::uint32_t summand) {
   for (; carry != 0; carry /= kBase) limbs.push_back(static_cast<std::uint32_t>(carry % kBase));
 }
 
-// The greatest power of a number that a factor holds.
+// The largest power of a base that fits a factor.
 struct Step {
   std::uint32_t base;
   int power;

@@ -8,15 +8,15 @@
 
 namespace ravo {
 
-/// A natural number of any size in binary limbs: what rounding to a floating-point format is computed in.
+/// An arbitrary-precision natural number in binary limbs, for rounding to a floating-point format.
 class BigNatural {
  public:
   explicit BigNatural(std::uint64_t value);
-  /// Of decimal digits, and nothing else.
+  /// `digits` must be decimal digits only.
   explicit BigNatural(std::string_view digits);
 
   [[nodiscard]] bool IsZero() const noexcept { return limbs_.empty(); }
-  /// How many bits the number has; 0 for zero.
+  /// Returns the number of bits; 0 for zero.
   [[nodiscard]] int BitLength() const noexcept;
 
   void MultiplyByPowerOf5(int power);
@@ -35,7 +35,7 @@ class BigNatural {
   std::vector<std::uint32_t> limbs_;
 };
 
-/// A natural number of any size in limbs of nine decimal digits: what decimal digits are computed in.
+/// An arbitrary-precision natural number in limbs of nine decimal digits, for exact decimal output.
 class BigDecimalNatural {
  public:
   explicit BigDecimalNatural(std::uint64_t value);
@@ -43,7 +43,7 @@ class BigDecimalNatural {
   void MultiplyByPowerOf2(int power);
   void MultiplyByPowerOf5(int power);
 
-  /// The decimal digits without leading zeros; none for zero.
+  /// Returns the decimal digits without leading zeros; empty for zero.
   [[nodiscard]] std::string Digits() const;
 
  private:

@@ -6,8 +6,8 @@
 namespace ravo {
 namespace {
 
-// A number whose highest possible bit is set is stored with an exponent counted from 1; 0 is for the smaller
-// ones, which share the exponent of 1.
+// Normal numbers are stored with an exponent from 1 on; 0 marks subnormal ones, which share the exponent of
+// 1.
 unsigned StoredExponent(const BinaryFloat& parts, const BinaryFormat& format) {
   const bool is_normal = (parts.mantissa >> (format.bits - 1)) != 0;
   return is_normal ? static_cast<unsigned>(parts.exponent - format.lowest_exponent + 1) : 0;
@@ -55,7 +55,7 @@ namespace {
 constexpr std::uint64_t kIntegerBit = std::uint64_t{1} << 63;
 constexpr unsigned kExtendedSpecial = 0x7FFF;
 
-// The ten bytes that count; what pads them to the size of the type is left alone.
+// The ten bytes of the value; the padding up to the size of the type is left untouched.
 struct ExtendedFields {
   std::uint64_t mantissa;
   std::uint16_t sign_and_exponent;

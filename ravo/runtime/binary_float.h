@@ -4,17 +4,17 @@
 #include <cstdint>
 #include <optional>
 
-/// The bits of floating-point numbers, taken apart and put together without the processor's arithmetic.
+/// Splits floating-point numbers into their bits and joins them, without floating-point arithmetic.
 namespace ravo {
 
-/// `mantissa` * 2^`exponent`, with a sign of its own, for zero too.
+/// The number `mantissa` * 2^`exponent` with a separate sign; zero has a sign too.
 struct BinaryFloat {
   bool negative = false;
   std::uint64_t mantissa = 0;
   int exponent = 0;
 };
 
-/// What a floating-point format can hold: mantissas of `bits` bits, or fewer at the lowest exponent.
+/// The range of a floating-point format: mantissas of `bits` bits, fewer at the lowest exponent.
 struct BinaryFormat {
   int bits;
   int lowest_exponent;
@@ -23,7 +23,7 @@ struct BinaryFormat {
 
 enum class FloatKind : std::uint8_t { Finite, Infinite, NotANumber };
 
-/// How values of type `Float` are stored.
+/// The bit layout of type `Float`.
 template <class Float>
 struct FloatBits;
 
@@ -34,12 +34,12 @@ struct FloatBits<double> {
   [[nodiscard]] static bool IsNegative(double value) noexcept;
   /// `value` must be finite.
   [[nodiscard]] static BinaryFloat Split(double value) noexcept;
-  /// `parts` must be a value of the format as `NearestBinary` makes it.
+  /// `parts` must be normalized as by `NearestBinary`.
   [[nodiscard]] static double Join(const BinaryFloat& parts) noexcept;
 };
 
 #if LDBL_MANT_DIG == 64
-/// The 80-bit format. Bit patterns that the processor refuses as operands count as no number.
+/// The 80-bit format. Bit patterns that the processor rejects as operands count as NaN.
 template <>
 struct FloatBits<long double> {
   static constexpr BinaryFormat kFormat{64, -16445, 16320};

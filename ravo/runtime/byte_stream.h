@@ -18,53 +18,53 @@ class RAVO_API ByteStream {
   ByteStream& operator=(const ByteStream&) = delete;
   virtual ~ByteStream();
 
-  /// Reads up to `to.size()` bytes from the position on and moves it; answers how many were read, 0 at the
-  /// end. Throws `StreamError` if the bytes cannot be read.
+  /// Reads up to `to.size()` bytes at the position and advances it; returns the number of bytes read, 0 at
+  /// the end. Throws `StreamError` if reading fails.
   [[nodiscard]] virtual std::size_t Read(std::span<std::byte> to) = 0;
 
-  /// Writes up to `from.size()` bytes at the position and moves it; answers how many were written.
+  /// Writes up to `from.size()` bytes at the position and advances it; returns the number of bytes written.
   [[nodiscard]] virtual std::size_t Write(std::span<const std::byte> from) = 0;
 
-  /// The byte that is read or written next, from 0.
+  /// Returns the position in bytes: the offset of the next byte to read or write.
   [[nodiscard]] virtual std::int64_t Position() const = 0;
 
-  /// A position beyond the end is allowed. Raises `RangeError` for a negative one.
+  /// Sets the position in bytes, also past the end. Throws `RangeError` if it is negative.
   virtual void SetPosition(std::int64_t position) = 0;
 
-  /// In bytes.
+  /// Returns the size in bytes.
   [[nodiscard]] virtual std::int64_t Size() const = 0;
 
-  /// Reads all of `to`, in as many reads as it takes, or raises `StreamError`.
+  /// Fills `to`, with as many reads as needed. Throws `StreamError` if the stream ends early.
   void ReadChecked(std::span<std::byte> to);
 
-  /// Writes all of `from`, in as many writes as it takes, or raises `StreamError`.
+  /// Writes all of `from`, with as many writes as needed. Throws `StreamError` if a write makes no progress.
   void WriteChecked(std::span<const std::byte> from);
 };
 
-/// A stream over bytes in memory that grows as it is written. Writing beyond the end fills the gap with
-/// zeros.
+/// A stream in memory that grows when it is written to. Writing past the end fills the gap with zeros.
 class RAVO_API MemoryStream final : public ByteStream {
  public:
-  /// An empty stream.
+  /// Constructs an empty stream.
   MemoryStream() = default;
-  /// Takes over the bytes; the position is 0.
+  /// Constructs a stream that owns `bytes`; the position is 0.
   explicit MemoryStream(std::vector<std::byte> bytes) noexcept : bytes_(std::move(bytes)) {}
-  /// Copies the bytes; the position is 0.
+  /// Constructs a stream with a copy of `bytes`; the position is 0.
   explicit MemoryStream(std::span<const std::byte> bytes) : bytes_(bytes.begin(), bytes.end()) {}
   ~MemoryStream() override;
 
-  /// Up to `to.size()` bytes; 0 at the end and beyond.
+  /// Reads up to `to.size()` bytes; returns 0 at and past the end.
   [[nodiscard]] std::size_t Read(std::span<std::byte> to) override;
-  /// All bytes of `from`. `RangeError` where the size leaves 63 bits, `std::bad_alloc` without memory.
+  /// Writes all bytes of `from`. Throws `RangeError` if the size would not fit 63 bits, and `std::bad_alloc`
+  /// if memory runs out.
   [[nodiscard]] std::size_t Write(std::span<const std::byte> from) override;
-  /// The byte that is read or written next, from 0.
+  /// Returns the position in bytes.
   [[nodiscard]] std::int64_t Position() const override { return position_; }
-  /// A position beyond the end is allowed. `RangeError` for a negative one.
+  /// Sets the position in bytes, also past the end. Throws `RangeError` if it is negative.
   void SetPosition(std::int64_t position) override;
-  /// In bytes.
+  /// Returns the size in bytes.
   [[nodiscard]] std::int64_t Size() const override { return static_cast<std::int64_t>(bytes_.size()); }
 
-  /// All bytes; the view lasts until the next write.
+  /// Returns all bytes. The view is valid until the next write.
   [[nodiscard]] std::span<const std::byte> Bytes() const noexcept { return bytes_; }
 
  private:

@@ -6,10 +6,10 @@
 #include <cstdint>
 #include <utility>
 
-/// Arithmetic that raises instead of leaving its type. Results are those of the mathematical operation.
+/// Integer arithmetic that throws instead of overflowing. Results are mathematically exact.
 namespace ravo {
 
-/// left + right, or `OverflowError`.
+/// Returns `left` + `right`. Throws `OverflowError` if the sum does not fit.
 template <std::integral Integer>
 [[nodiscard]] constexpr Integer CheckedAdd(Integer left, Integer right) {
   Integer result{};
@@ -17,7 +17,7 @@ template <std::integral Integer>
   return result;
 }
 
-/// left - right, or `OverflowError`.
+/// Returns `left` - `right`. Throws `OverflowError` if the difference does not fit.
 template <std::integral Integer>
 [[nodiscard]] constexpr Integer CheckedSubtract(Integer left, Integer right) {
   Integer result{};
@@ -25,7 +25,7 @@ template <std::integral Integer>
   return result;
 }
 
-/// left * right, or `OverflowError`.
+/// Returns `left` * `right`. Throws `OverflowError` if the product does not fit.
 template <std::integral Integer>
 [[nodiscard]] constexpr Integer CheckedMultiply(Integer left, Integer right) {
   Integer result{};
@@ -33,7 +33,8 @@ template <std::integral Integer>
   return result;
 }
 
-/// left / right truncated toward zero; `DivisionByZero`, or `OverflowError` for the smallest value by -1.
+/// Returns `left` / `right`, truncated toward zero. Throws `DivisionByZero` if `right` is 0, and
+/// `OverflowError` for the smallest value divided by -1.
 template <std::integral Integer>
 [[nodiscard]] constexpr Integer CheckedDivide(Integer left, Integer right) {
   if (right == 0) throw DivisionByZero(u"Division by zero");
@@ -43,7 +44,7 @@ template <std::integral Integer>
   return static_cast<Integer>(left / right);
 }
 
-/// `value` as another integer type, or `RangeError` where that type cannot hold it.
+/// Returns `value` as another integer type. Throws `RangeError` if it does not fit.
 template <std::integral To, std::integral From>
 [[nodiscard]] constexpr To CheckedCast(From value) {
   if (!std::in_range<To>(value)) throw RangeError(u"Range check error");

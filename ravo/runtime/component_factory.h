@@ -7,12 +7,13 @@
 
 namespace ravo {
 
-/// Makes one instance of a class; null, or an exception, where it cannot. Called on any thread, on several at
-/// once too.
+/// A function that returns a new instance of a class; it returns null or throws if it fails. It may be called
+/// on several threads at once.
 using ComponentFactory = std::function<ComponentPtr<IUnknown>()>;
 
-/// What `factory` makes, in the terms of the component runtime, which knows codes and no exceptions: the code
-/// of a `ComponentError`, and that of a server that fails to start for null and for all else that is raised.
+/// Stores what `factory` returns in `instance` and returns a result code, because exceptions do not cross the
+/// component runtime: the code of a thrown `ComponentError`, else `kServerFailed` for null and for any other
+/// exception.
 [[nodiscard]] ResultCode MakeInstance(const ComponentFactory& factory,
                                       ComponentPtr<IUnknown>& instance) noexcept;
 

@@ -10,7 +10,8 @@
 
 namespace ravo {
 
-/// Whether an identifier is that of `Interface` or of one of the platform's interfaces below it.
+/// Returns whether `interface_id` identifies `Interface` or one of the platform's interfaces that it derives
+/// from.
 template <class Interface>
 [[nodiscard]] constexpr bool Answers(const Guid& interface_id) noexcept {
   // A copy keeps the constant of an exported interface out of the library's exports.
@@ -20,8 +21,8 @@ template <class Interface>
          (std::derived_from<Interface, IDispatch> && interface_id == IDispatch::kInterfaceId);
 }
 
-/// `QueryInterface` of an object whose interfaces are those that `Answers` names: they form one line, so that
-/// one pointer stands for all of them. `kNullPointer` where there is no place for the result.
+/// Implements `QueryInterface` for an object whose interfaces are those that `Answers` accepts. They form a
+/// single inheritance chain, so one pointer serves all of them. Returns `kNullPointer` if `object` is null.
 template <class Interface>
 [[nodiscard]] ResultCode AnswerQuery(Interface& self, const Guid& interface_id, void** object) noexcept {
   if (!object) return result_code::kNullPointer;
@@ -31,8 +32,9 @@ template <class Interface>
   return result_code::kOk;
 }
 
-/// Identity and reference count of an object that implements `Interface`: it answers to that interface and to
-/// those of the platform below it, and ends with its last reference. Make one with `MakeComponent`.
+/// Implements identity and reference counting for `Interface`: the object answers to `Interface` and to the
+/// platform's interfaces that it derives from, and frees itself with its last reference. Create objects with
+/// `MakeComponent`.
 template <class Interface>
 class ComponentObject : public Interface {
  public:
@@ -41,16 +43,16 @@ class ComponentObject : public Interface {
   ComponentObject& operator=(const ComponentObject&) = delete;
   virtual ~ComponentObject() = default;
 
-  /// `Interface` and the platform's interfaces below it; `kNullPointer` where there is no place for the
-  /// result.
+  /// Stores `Interface` or one of the platform's interfaces that it derives from in `object`. Returns
+  /// `kNoInterface` for any other, and `kNullPointer` if `object` is null.
   ResultCode RAVO_STDCALL QueryInterface(const Guid& interface_id, void** object) noexcept override {
     return AnswerQuery<Interface>(*this, interface_id, object);
   }
 
-  /// One reference more; answers how many there are.
+  /// Adds a reference; returns the new count.
   std::uint32_t RAVO_STDCALL AddRef() noexcept override { return ++references_; }
 
-  /// One reference less; the object ends with the last. Answers how many are left.
+  /// Removes a reference; returns the new count. The object is freed with its last reference.
   std::uint32_t RAVO_STDCALL Release() noexcept override {
     const std::uint32_t left = --references_;
     if (left == 0) delete this;
@@ -61,25 +63,25 @@ class ComponentObject : public Interface {
   std::atomic<std::uint32_t> references_{1};
 };
 
-/// An object whose interface is dual: without type information and names, so that what remains to be
-/// implemented of `IDispatch` is `Invoke`.
+/// An object with a dual interface but without type information and member names: only `Invoke` of
+/// `IDispatch` remains to be implemented.
 template <class Interface>
 class DispatchObject : public ComponentObject<Interface> {
  public:
-  /// There is no type information: the count is 0.
+  /// Sets `count` to 0: there is no type information.
   ResultCode RAVO_STDCALL GetTypeInfoCount(std::uint32_t* count) noexcept override {
     if (!count) return result_code::kNullPointer;
     *count = 0;
     return result_code::kOk;
   }
 
-  /// There is no type information: `kBadIndex`.
+  /// Returns `kBadIndex`: there is no type information.
   ResultCode RAVO_STDCALL GetTypeInfo(std::uint32_t, std::uint32_t, void** type_info) noexcept override {
     if (type_info) *type_info = nullptr;
     return result_code::kBadIndex;
   }
 
-  /// There are no names: `kUnknownName`, and -1 for each identifier.
+  /// Returns `kUnknownName` and sets each identifier to -1: there are no names.
   ResultCode RAVO_STDCALL GetIDsOfNames(const Guid&, char16_t**, std::uint32_t count, std::uint32_t,
                                         std::int32_t* ids) noexcept override {
     for (std::uint32_t i = 0; ids && i < count; ++i) ids[i] = -1;
@@ -87,7 +89,7 @@ class DispatchObject : public ComponentObject<Interface> {
   }
 };
 
-/// Makes an object; the result is its first reference.
+/// Creates an object and returns its first reference.
 template <class Object, class... Arguments>
 [[nodiscard]] ComponentPtr<Object> MakeComponent(Arguments&&... arguments) {
   return ComponentPtr<Object>::Adopt(new Object(std::forward<Arguments>(arguments)...));

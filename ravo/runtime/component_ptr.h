@@ -9,35 +9,35 @@
 
 namespace ravo {
 
-/// Raises `ComponentError` with `code`, saying that the interface is not supported.
+/// Throws `ComponentError` with `code` and the message that the interface is not supported.
 [[noreturn]] RAVO_API void RaiseInterfaceNotSupported(ResultCode code);
 
-/// One reference to a component object, released when it goes; null is none. Like the objects that it refers
-/// to, it is passed about freely between threads, and one such pointer is used by one thread at a time.
+/// A counted reference to a component object, or null. References may be passed between threads freely; a
+/// single `ComponentPtr` must not be used by two threads at once.
 template <class Interface>
 class ComponentPtr {
  public:
   ComponentPtr() noexcept = default;
-  /// None.
+  /// Constructs a null reference.
   ComponentPtr(std::nullptr_t) noexcept {}  // NOLINT(google-explicit-constructor)
 
-  /// Adds a reference of its own.
+  /// Adds a reference to `object`.
   explicit ComponentPtr(Interface* object) noexcept : object_(object) {
     if (object_) object_->AddRef();
   }
 
-  /// A reference more to the same object.
+  /// Adds a reference to the same object.
   ComponentPtr(const ComponentPtr& other) noexcept : ComponentPtr(other.object_) {}
-  /// Takes the reference over; `other` is null then.
+  /// Moves the reference; `other` becomes null.
   ComponentPtr(ComponentPtr&& other) noexcept : object_(std::exchange(other.object_, nullptr)) {}
 
-  /// Takes over a reference to an interface below this one.
+  /// Moves a reference to a derived interface.
   template <class Derived>
   requires std::convertible_to<Derived*, Interface*> ComponentPtr(ComponentPtr<Derived> other)
   noexcept  // NOLINT(google-explicit-constructor)
       : object_(other.Detach()) {}
 
-  /// Releases its own reference and takes the other.
+  /// Releases the current reference and takes over that of `other`.
   ComponentPtr& operator=(ComponentPtr other) noexcept {
     std::swap(object_, other.object_);
     return *this;
@@ -47,28 +47,30 @@ class ComponentPtr {
     if (object_) object_->Release();
   }
 
-  /// Takes over a reference that the caller owns.
+  /// Returns a pointer that owns a reference of the caller, without adding one.
   [[nodiscard]] static ComponentPtr Adopt(Interface* object) noexcept {
     ComponentPtr pointer;
     pointer.object_ = object;
     return pointer;
   }
 
-  /// Hands the reference over to the caller.
+  /// Releases ownership and returns the object; the caller owns the reference.
   [[nodiscard]] Interface* Detach() noexcept { return std::exchange(object_, nullptr); }
 
-  /// The object, without a reference of its own; null for none.
+  /// Returns the object without adding a reference, or null.
   [[nodiscard]] Interface* Get() const noexcept { return object_; }
-  /// The object; not for null.
+  /// Accesses the object; must not be null.
   Interface* operator->() const noexcept { return object_; }
-  /// The object; not for null.
+  /// Accesses the object; must not be null.
   Interface& operator*() const noexcept { return *object_; }
-  /// Whether there is an object.
+  /// Returns whether the reference is not null.
   explicit operator bool() const noexcept { return object_ != nullptr; }
 
-  /// Another interface of the object; raises `ComponentError` where the object does not support it. `Other`
-  /// may be a module's own description of a declared interface: it has the identifier of its base. Null gives
-  /// null.
+  /// Returns another interface of the object; null if this reference is null. Throws `ComponentError` if the
+  /// object does not support the interface.
+  ///
+  /// `Other` may be a module's own declaration that derives from a declared interface: it has the identifier
+  /// of its base.
   template <class Other>
   [[nodiscard]] ComponentPtr<Other> Query() const {
     ResultCode code = result_code::kOk;
@@ -77,14 +79,15 @@ class ComponentPtr {
     return other;
   }
 
-  /// As `Query`, but null where the object does not support the interface.
+  /// Returns another interface of the object; null if the object does not support it or this reference is
+  /// null.
   template <class Other>
   [[nodiscard]] ComponentPtr<Other> TryQuery() const noexcept {
     ResultCode code = result_code::kOk;
     return Ask<Other>(code);
   }
 
-  /// Whether both are the same interface of the same object, or both null.
+  /// Returns whether both refer to the same interface of the same object, or are both null.
   friend bool operator==(const ComponentPtr& left, const ComponentPtr& right) noexcept {
     return left.object_ == right.object_;
   }
@@ -94,7 +97,8 @@ class ComponentPtr {
   ComponentPtr<Other> Ask(ResultCode& code) const noexcept {
     void* other = nullptr;
     if (object_) code = object_->QueryInterface(Other::kInterfaceId, &other);
-    // An object may not keep to the rules: a pointer beside a failure is no reference, success needs one.
+    // Objects may break the rules: a pointer returned with a failure is not a reference, and success needs
+    // one.
     if (Failed(code)) return nullptr;
     if (!other) code = result_code::kNoInterface;
     return ComponentPtr<Other>::Adopt(static_cast<Other*>(other));

@@ -8,28 +8,28 @@
 
 namespace ravo {
 
-/// An amount with four decimal places: `raw` is the amount times 10000. A strong type: there is no silent way
-/// from or to a floating-point number.
+/// An amount of money with four decimal places: `raw` is the amount times 10000. It never converts to or from
+/// a floating-point number implicitly.
 struct Currency {
-  /// Decimal places of an amount.
+  /// The number of decimal places.
   static constexpr int kPlaces = 4;
-  /// What one unit is in `raw`.
+  /// The value of `raw` for one whole unit.
   static constexpr std::int64_t kScale = 10000;
 
-  /// The amount in ten-thousandths.
+  /// The amount in ten-thousandths of a unit.
   std::int64_t raw = 0;
 
-  /// The whole `units`, or `OverflowError`.
+  /// Returns an amount of whole `units`. Throws `OverflowError` if it does not fit 64 bits.
   [[nodiscard]] RAVO_API static Currency FromUnits(std::int64_t units);
 
   friend constexpr auto operator<=>(const Currency&, const Currency&) = default;
 };
 
-/// Sums, differences and negation raise `OverflowError` when the result leaves 64 bits.
+/// Returns the sum of two amounts. Throws `OverflowError` if it does not fit 64 bits.
 [[nodiscard]] RAVO_API Currency operator+(Currency left, Currency right);
-/// The difference; `OverflowError` where it leaves 64 bits.
+/// Returns the difference of two amounts. Throws `OverflowError` if it does not fit 64 bits.
 [[nodiscard]] RAVO_API Currency operator-(Currency left, Currency right);
-/// The amount with the other sign; `OverflowError` for the least one.
+/// Returns the negated amount. Throws `OverflowError` for the smallest one.
 [[nodiscard]] RAVO_API Currency operator-(Currency value);
 
 static_assert(sizeof(Currency) == 8);

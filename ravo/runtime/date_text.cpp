@@ -11,7 +11,7 @@ namespace {
 
 enum class TokenKind : std::uint8_t { Literal, Letters, HalfDay };
 
-// A piece of a pattern. Of quoted text the quotes are no part.
+// A token of a pattern. The text of a quoted token excludes the quotes.
 struct Token {
   TokenKind kind;
   std::u16string_view text;
@@ -71,7 +71,7 @@ std::u16string Padded(int value, std::size_t digits) {
   return std::u16string(digits - std::min(digits, text.size()), u'0') + text;
 }
 
-// Goes through a pattern piece by piece and remembers what the next piece depends on.
+// Formats a pattern token by token, and keeps the state that later tokens depend on.
 class Writer {
  public:
   Writer(DateTime value, const FormatSettings& settings, bool has_half_day)
@@ -87,7 +87,7 @@ class Writer {
     }
     text_ +=
         token.kind == TokenKind::HalfDay ? HalfDay(token.text) : Letters(token.Letter(), token.text.size());
-    is_behind_hour_ = token.kind == TokenKind::Letters && token.Letter() == u'h';
+    is_after_hour_ = token.kind == TokenKind::Letters && token.Letter() == u'h';
   }
 
   [[nodiscard]] const std::u16string& Text() const { return text_; }
@@ -98,7 +98,7 @@ class Writer {
       case u'd':
         return Day(count);
       case u'm':
-        return count <= 2 && is_behind_hour_ ? Padded(parts_.time.minute, count) : Month(count);
+        return count <= 2 && is_after_hour_ ? Padded(parts_.time.minute, count) : Month(count);
       case u'y':
         return count <= 2 ? Padded(parts_.date.year % 100, 2) : Padded(parts_.date.year, 4);
       case u'h':
@@ -128,7 +128,7 @@ class Writer {
     return has_half_day_ ? (parts_.time.hour + 11) % 12 + 1 : parts_.time.hour;
   }
 
-  // AM/PM and A/P stand in the pattern with both texts as they are to be written.
+  // AM/PM and A/P contain both texts in the case to write them in.
   [[nodiscard]] std::u16string HalfDay(std::u16string_view marker) const {
     const bool is_morning = parts_.time.hour < 12;
     const std::size_t slash = marker.find(u'/');
@@ -140,7 +140,7 @@ class Writer {
   int day_of_week_;
   const FormatSettings& settings_;
   bool has_half_day_;
-  bool is_behind_hour_ = false;
+  bool is_after_hour_ = false;
   std::u16string text_;
 };
 

@@ -9,23 +9,27 @@
 
 namespace ravo {
 
-/// Writes a date-time by a pattern, as `SplitDateTime` splits it. Letters count in either case:
+/// Returns `value` formatted by `pattern`, split as by `SplitDateTime`. Pattern letters are case-insensitive:
 ///
-///   d dd ddd dddd   day: plain, two digits, short and long weekday name
-///   m mm mmm mmmm   month likewise; next behind an hour, whatever plain text between, m and mm are minutes
+///   d dd ddd dddd   day: plain, two digits, short weekday name, long weekday name
+///   m mm mmm mmmm   month likewise; m and mm are minutes if the preceding letters are hours
 ///   y yy, yyyy      year: two digits, four digits
-///   h hh            hour: of 24, or of 12 where the pattern holds AM/PM, A/P or AMPM
+///   h hh            hour: 24-hour, or 12-hour if the pattern contains AM/PM, A/P or AMPM
 ///   n nn  s ss      minute, second
 ///   z zzz           millisecond
-///   AM/PM A/P AMPM  half of the day: "AM"/"PM" and "A"/"P" as written, the locale's own texts
+///   AM/PM A/P AMPM  half of the day: "AM"/"PM" and "A"/"P" as written, or the texts of the locale
 ///
-/// More of a letter than is listed counts as the longest listed. Text in single or double quotes stands for
-/// itself (a quote that is never closed reaches to the end), and so does every other character.
+/// A longer run of one letter counts as its longest listed form. Text in single or double quotes is copied as
+/// it is, and so is every other character; a missing closing quote is implied at the end.
+///
+/// Throws `ConvertError` as `SplitDateTime` does.
 [[nodiscard]] RAVO_API std::u16string FormatDateTime(std::u16string_view pattern, DateTime value,
                                                      const FormatSettings& settings);
 
-/// The locale's short date, a blank and its long time; the date alone where the time of day, in milliseconds,
-/// is midnight.
+/// Returns the locale's short date, a space and its long time; the date alone if the time of day, rounded to
+/// milliseconds, is midnight.
+///
+/// Throws `ConvertError` as `SplitDateTime` does.
 [[nodiscard]] RAVO_API std::u16string DateTimeText(DateTime value, const FormatSettings& settings);
 
 }  // namespace ravo

@@ -21,7 +21,7 @@ struct Moment {
   std::uint32_t milliseconds;
 };
 
-// 128 bits, of which no compiler has an integer type on all targets.
+// An unsigned 128-bit number: not every target has such an integer type.
 struct Wide {
   std::uint64_t high;
   std::uint64_t low;
@@ -33,7 +33,7 @@ Wide Product(std::uint64_t left, std::uint32_t right) {
   return {high >> 32, (high << 32) | (low & 0xFFFFFFFF)};
 }
 
-// The low 64 bits of value >> bits, for 0 to 127 bits.
+// Returns the low 64 bits of value >> bits, for `bits` from 0 to 127.
 std::uint64_t ShiftedRight(const Wide& value, int bits) {
   if (bits == 0) return value.low;
   if (bits >= 64) return value.high >> (bits - 64);
@@ -44,7 +44,8 @@ int TrailingZeros(const Wide& value) {
   return value.low != 0 ? std::countr_zero(value.low) : 64 + std::countr_zero(value.high);
 }
 
-// value / 2^bits to the nearest integer, ties to even, for 1 to 127 bits and results that fit.
+// Returns value / 2^bits rounded to the nearest integer, ties to even. `bits` is 1 to 127, and the result
+// must fit.
 std::uint64_t RoundedQuotient(const Wide& value, int bits) {
   const std::uint64_t halves = ShiftedRight(value, bits - 1);
   const bool is_tie_or_exact = TrailingZeros(value) >= bits - 1;
@@ -53,28 +54,29 @@ std::uint64_t RoundedQuotient(const Wide& value, int bits) {
   return floor + (is_up ? 1 : 0);
 }
 
-[[noreturn]] void RaiseNoDate() { throw ConvertError(u"Invalid date"); }
+[[noreturn]] void RaiseInvalidDate() { throw ConvertError(u"Invalid date"); }
 
-// The time of day of mantissa / 2^bits days. More than 126 bits are less than 2^-70 days: nothing.
+// Returns mantissa / 2^bits days in milliseconds. With more than 126 bits this is below 2^-70 days and rounds
+// to 0.
 std::uint32_t MillisecondsOf(std::uint64_t mantissa, int bits) {
   constexpr int kMostBits = 126;
   if (bits > kMostBits) return 0;
   return static_cast<std::uint32_t>(RoundedQuotient(Product(mantissa, kMillisecondsPerDay), bits));
 }
 
-// Takes the double apart by its bits, so that no rounding mode has a say.
+// Splits the double by its bits, so the result does not depend on the rounding mode.
 BinaryFloat Finite(DateTime value) {
   using Bits = FloatBits<double>;
-  if (Bits::Kind(value) != FloatKind::Finite) RaiseNoDate();
+  if (Bits::Kind(value) != FloatKind::Finite) RaiseInvalidDate();
   return Bits::Split(value);
 }
 
-// Whole days of a finite value below 2^64, without its sign.
+// Returns the whole days of a finite value below 2^64; the sign is ignored.
 std::uint64_t WholeDays(const BinaryFloat& parts) {
   return parts.exponent > -64 ? parts.mantissa >> -parts.exponent : 0;
 }
 
-// The time of any day, up to a full day.
+// Returns the rounded time of day in milliseconds, up to and including 24 hours.
 std::uint32_t RoundedTime(const BinaryFloat& parts) {
   if (parts.exponent >= 0) return 0;
   const std::uint64_t days = WholeDays(parts);
@@ -82,15 +84,16 @@ std::uint32_t RoundedTime(const BinaryFloat& parts) {
   return MillisecondsOf(fraction, -parts.exponent);
 }
 
-// What is 2^22 days or more away has too large an exponent for any date.
+// Returns the rounded day and time. Values of 2^22 days or more are rejected by their exponent: no date is
+// that far away.
 Moment MomentOf(DateTime value) {
   const BinaryFloat parts = Finite(value);
   constexpr int kLargestExponent = 22 - FloatBits<double>::kFormat.bits;
-  if (parts.exponent > kLargestExponent) RaiseNoDate();
+  if (parts.exponent > kLargestExponent) RaiseInvalidDate();
   const auto day = static_cast<std::int32_t>(WholeDays(parts));
   Moment moment{parts.negative ? -day : day, RoundedTime(parts)};
   if (moment.milliseconds == kMillisecondsPerDay) moment = {moment.day + 1, 0};
-  if (moment.day < kFirstDay || moment.day > kLastDay) RaiseNoDate();
+  if (moment.day < kFirstDay || moment.day > kLastDay) RaiseInvalidDate();
   return moment;
 }
 
@@ -101,7 +104,7 @@ constexpr int kDaysPer400Years = 4 * kDaysPer100Years + 1;
 
 // Days before the first of each month, counted from 1 March, so that the leap day is the last one.
 constexpr std::array kDaysBeforeMonth{0, 31, 61, 92, 122, 153, 184, 214, 245, 275, 306, 337};
-// From 1 March of the year 0, where the arithmetic starts, to 30 December 1899.
+// The days from 1 March of year 0, where the arithmetic starts, to 30 December 1899.
 constexpr int kEpoch = 693'899;
 
 DateParts DateOf(std::int32_t day) {
@@ -132,7 +135,7 @@ bool IsDate(const DateParts& date) {
 }
 
 std::int32_t DayNumber(const DateParts& date) {
-  if (!IsDate(date)) RaiseNoDate();
+  if (!IsDate(date)) RaiseInvalidDate();
   const int year = date.month <= 2 ? date.year - 1 : date.year;
   const auto month = static_cast<std::size_t>(date.month <= 2 ? date.month + 9 : date.month - 3);
   return kDaysPerYear * year + year / 4 - year / 100 + year / 400 + kDaysBeforeMonth[month] + date.day - 1 -

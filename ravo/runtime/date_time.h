@@ -7,11 +7,11 @@
 
 namespace ravo {
 
-/// Days since 30 December 1899. Before that day the fraction still counts forward from midnight: -1.25 is 29
-/// December 1899, 6 o'clock. The Gregorian calendar applies throughout.
+/// A date-time in days since midnight of 30 December 1899, in the proleptic Gregorian calendar. The fraction
+/// counts forward from midnight on negative days too: -1.25 is 29 December 1899, 06:00.
 using DateTime = double;
 
-/// A calendar date. `month` is 1 to 12, `day` 1 to 31.
+/// A calendar date.
 struct DateParts {
   int year = 0;   ///< 1 to 9999
   int month = 0;  ///< 1 to 12
@@ -35,32 +35,42 @@ struct DateTimeParts {
   friend bool operator==(const DateTimeParts&, const DateTimeParts&) = default;
 };
 
-/// Splits into calendar and clock. The time of day is rounded to the millisecond first (to nearest, ties to
-/// even), and a day that fills up carries into the next one, so date and time always belong together. Raises
-/// `ConvertError` where the result lies outside 1 January 1 to 31 December 9999, and for infinities and what
-/// is no number.
+/// Returns the calendar date and the time of day of `value`.
+///
+/// The time of day is rounded to the nearest millisecond, ties to even; a time that rounds up to 24:00
+/// carries into the next day. Throws `ConvertError` if the result is outside 1 January 1 to 31 December 9999,
+/// and for infinities and NaN.
 [[nodiscard]] RAVO_API DateTimeParts SplitDateTime(DateTime value);
 
-/// The time of day alone, rounded as `SplitDateTime` rounds it: a day that fills up is midnight. Takes days
-/// outside the calendar too; `ConvertError` for infinities and what is no number.
+/// Returns the time of day of `value`, rounded as by `SplitDateTime`; a time that rounds up to 24:00 is
+/// midnight.
+///
+/// Any day is accepted, also one outside the calendar. Throws `ConvertError` for infinities and NaN.
 [[nodiscard]] RAVO_API TimeParts TimeOfDay(DateTime value);
 
-/// The day number of a date. Raises `ConvertError` for a year outside 1 to 9999, a month outside 1 to 12, or
-/// a day that the month has not.
+/// Returns the day number of a calendar date.
+///
+/// Throws `ConvertError` if `year` is outside 1 to 9999, `month` outside 1 to 12, or if the month has no such
+/// `day`.
 [[nodiscard]] RAVO_API DateTime EncodeDate(int year, int month, int day);
 
-/// The fraction of a day, 0 up to but not 1, as the nearest double. Raises `ConvertError` for parts outside
-/// 00:00:00.000 to 23:59:59.999.
+/// Returns a time of day as a fraction of a day, at least 0 and below 1, rounded to the nearest double.
+///
+/// Throws `ConvertError` for a time outside 00:00:00.000 to 23:59:59.999.
 [[nodiscard]] RAVO_API DateTime EncodeTime(int hour, int minute, int second, int millisecond);
 
-/// Date and time of day together, also before 30 December 1899, as the nearest double. Raises `ConvertError`
-/// as `EncodeDate` and `EncodeTime` do.
+/// Returns a date and time of day as a date-time, rounded to the nearest double. Days before 30 December 1899
+/// are allowed.
+///
+/// Throws `ConvertError` as `EncodeDate` and `EncodeTime` do.
 [[nodiscard]] RAVO_API DateTime EncodeDateTime(const DateTimeParts& parts);
 
-/// 1 for Sunday to 7 for Saturday, of the date that `SplitDateTime` gives.
+/// Returns the day of the week, 1 for Sunday to 7 for Saturday, of the date that `SplitDateTime` returns.
+///
+/// Throws `ConvertError` as `SplitDateTime` does.
 [[nodiscard]] RAVO_API int DayOfWeek(DateTime value);
 
-/// Whether February of `year` has 29 days in the Gregorian calendar; negative years follow the same rule.
+/// Returns whether `year` is a leap year of the Gregorian calendar; negative years follow the same rule.
 [[nodiscard]] constexpr bool IsGregorianLeapYear(std::int32_t year) noexcept {
   return year % 4 == 0 && (year % 100 != 0 || year % 400 == 0);
 }

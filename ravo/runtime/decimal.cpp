@@ -16,13 +16,13 @@ using ExtendedBits = FloatBits<Extended>;
 
 DecimalNumber Zero(bool negative) { return {negative, {}, 0}; }
 
-// Zeros at the end say nothing; they are not kept, so that equal numbers have equal digits.
+// Trailing zeros are dropped, so that equal numbers have equal digits.
 DecimalNumber WithoutTrailingZeros(DecimalNumber number) {
   number.digits.erase(number.digits.find_last_not_of('0') + 1);
   return number.digits.empty() ? Zero(number.negative) : number;
 }
 
-// Adds one to the last digit. Digits that carry become trailing zeros.
+// Adds one to the last digit. Digits that carry over become trailing zeros.
 void Increment(DecimalNumber& number) {
   const std::size_t last = number.digits.find_last_not_of('9');
   if (last == std::string::npos) {
@@ -34,7 +34,7 @@ void Increment(DecimalNumber& number) {
   number.digits.erase(last + 1);
 }
 
-// The first `kept` digits, where 0 leaves the place directly before the first one.
+// Rounds to the first `kept` digits; with 0, to the place directly before the first digit.
 DecimalNumber Rounded(DecimalNumber number, std::int64_t kept) {
   if (kept < 0) return Zero(number.negative);
   if (std::cmp_less(kept, number.digits.size())) {

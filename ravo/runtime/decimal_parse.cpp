@@ -10,7 +10,7 @@ namespace ravo {
 namespace {
 
 constexpr std::int64_t kFarthestPlace = 1'000'000;
-// Beyond the length of any text, so that no zeros in front of the digits can make up for it.
+// Larger than the length of any text, so leading or trailing zeros cannot compensate for it.
 constexpr std::int64_t kLargestExponent = std::int64_t{1} << 60;
 
 constexpr bool IsDigit(char16_t ch) { return ch >= u'0' && ch <= u'9'; }
@@ -21,7 +21,7 @@ std::u16string_view WithoutBlanks(std::u16string_view text) {
   return text;
 }
 
-// Takes "+" or "-" off the front; answers whether it was "-".
+// Removes a leading sign; returns whether it was "-".
 bool TakeSign(std::u16string_view& rest) {
   const bool is_negative = rest.starts_with(u'-');
   if (is_negative || rest.starts_with(u'+')) rest.remove_prefix(1);
@@ -39,7 +39,7 @@ void Append(std::string& digits, std::u16string_view text) {
   for (const char16_t ch : text) digits.push_back(static_cast<char>(ch));
 }
 
-// The exponent behind the digits: all of `rest`, or nothing at all.
+// Returns the exponent if all of `rest` is one, else no value.
 std::optional<std::int64_t> ReadExponent(std::u16string_view rest) {
   if (rest.empty()) return 0;
   if (AsciiLower(rest.front()) != u'e') return std::nullopt;

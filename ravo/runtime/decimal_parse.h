@@ -7,8 +7,8 @@
 
 namespace ravo {
 
-/// Reads a whole text as `TryParseFloat` does, exactly. A decimal point further than a million places away is
-/// taken as a million places away: no float is anywhere near it.
+/// Returns the exact decimal value of a text that `TryParseFloat` accepts, or no value. A decimal point more
+/// than one million places away is taken as one million places away: no float is that large or that small.
 [[nodiscard]] std::optional<DecimalNumber> TryParseDecimal(std::u16string_view text,
                                                            char16_t decimal_separator);
 

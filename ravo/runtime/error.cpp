@@ -11,8 +11,8 @@ StreamError::StreamError(StreamOperation operation, std::u16string_view message)
 ComponentError::ComponentError(std::int32_t code, std::u16string_view message)
     : Error(message), code_(code) {}
 
-// Out of line, so that each class has one home for its type information: an error must be recognised across
-// the border of the shared library.
+// Out of line: each class needs a single home for its type information, so that a `catch` outside the shared
+// library recognises it.
 Error::~Error() = default;
 RangeError::~RangeError() = default;
 OverflowError::~OverflowError() = default;

@@ -9,19 +9,18 @@
 
 namespace ravo {
 
-/// Root of everything this library raises. The message is UTF-16, as everywhere in the suite; `what` gives
-/// the same text in UTF-8.
+/// The base class of every error that this library throws. The message is UTF-16; `what` returns it in UTF-8.
 class RAVO_API Error : public std::exception {
  public:
-  /// The message, which may be empty.
+  /// Constructs an error with a message, which may be empty.
   explicit Error(std::u16string_view message);
   Error(const Error&) = default;
   Error& operator=(const Error&) = default;
   ~Error() override;
 
-  /// What happened, for people.
+  /// Returns the message in UTF-16.
   [[nodiscard]] const std::u16string& Message() const noexcept { return message_; }
-  /// The same in UTF-8.
+  /// Returns the message in UTF-8. The pointer is valid as long as the error.
   [[nodiscard]] const char* what() const noexcept override { return utf8_.c_str(); }
 
  private:
@@ -29,21 +28,22 @@ class RAVO_API Error : public std::exception {
   std::string utf8_;
 };
 
-/// An index, a count or a narrowing conversion left its range.
+/// An index or a count is out of range, or a narrowing conversion does not fit.
 class RAVO_API RangeError : public Error {
  public:
   using Error::Error;
   ~RangeError() override;
 };
 
-/// A signed operation left its type.
+/// The result of an arithmetic operation does not fit its type.
 class RAVO_API OverflowError : public Error {
  public:
   using Error::Error;
   ~OverflowError() override;
 };
 
-/// A text is not what it should be converted to: a number, a date, an identifier.
+/// A text cannot be converted to a number, a date or an identifier, or a value is outside the range of its
+/// target type.
 class RAVO_API ConvertError : public Error {
  public:
   using Error::Error;
@@ -64,38 +64,38 @@ class RAVO_API FloatError : public Error {
   ~FloatError() override;
 };
 
-/// What a stream was asked to do when it failed.
+/// The operation in which a stream failed.
 enum class StreamOperation : std::uint8_t { Open, Read, Write };
 
-/// A stream could not be opened, or moved fewer bytes than a checked operation asked for.
+/// A stream could not be opened, or transferred fewer bytes than a checked operation asked for.
 class RAVO_API StreamError : public Error {
  public:
-  /// What failed, and the message.
+  /// Constructs an error with the operation that failed and a message.
   StreamError(StreamOperation operation, std::u16string_view message);
   ~StreamError() override;
 
-  /// What the stream was asked to do.
+  /// Returns the operation that failed.
   [[nodiscard]] StreamOperation Operation() const noexcept { return operation_; }
 
  private:
   StreamOperation operation_;
 };
 
-/// A variant holds no value of the kind that was asked for.
+/// A variant holds no value of the requested kind.
 class RAVO_API VariantError : public Error {
  public:
   using Error::Error;
   ~VariantError() override;
 };
 
-/// The component runtime refused; `Code` is the platform's own code.
+/// A call of the component runtime failed; `Code` returns its result code.
 class RAVO_API ComponentError : public Error {
  public:
-  /// The platform's code, and the message.
+  /// Constructs an error with the platform's result code and a message.
   ComponentError(std::int32_t code, std::u16string_view message);
   ~ComponentError() override;
 
-  /// The platform's code.
+  /// Returns the platform's result code.
   [[nodiscard]] std::int32_t Code() const noexcept { return code_; }
 
  private:

@@ -1,11 +1,11 @@
 #pragma once
 
-/// RAVO_API marks what leaves the shared library; everything else stays inside. It follows the operating
-/// system, not the compiler: a cross compiler for Windows needs the Windows form. RAVO_STATIC is set for
-/// consumers of the static library by its CMake target.
+/// RAVO_API exports a name from the shared library; everything else stays internal. It depends on the
+/// operating system, not on the compiler, so a cross compiler for Windows uses the Windows form. The CMake
+/// target of the static library defines RAVO_STATIC for its users.
 ///
-/// RAVO_LOCAL keeps a template inside that is a member of an exported class: which of its instances there are
-/// is the compiler's choice, so they are no part of the binary interface.
+/// RAVO_LOCAL hides a member template of an exported class. The compiler chooses which instances it emits, so
+/// they are not part of the ABI.
 #if defined(RAVO_STATIC)
 #define RAVO_API
 #define RAVO_LOCAL
@@ -21,8 +21,8 @@
 #define RAVO_LOCAL __attribute__((visibility("hidden")))
 #endif
 
-/// RAVO_INLINE_API marks what is inline in a public header and leaves the shared library as well: the library
-/// holds the function whether it calls it or not, users of Windows take their own copy.
+/// RAVO_INLINE_API exports an inline function of a public header. The library always contains the function,
+/// even if it never calls it; programs on Windows use their own copy.
 #if defined(RAVO_BUILDING)
 #define RAVO_INLINE_API __attribute__((used)) RAVO_API inline
 #elif defined(RAVO_STATIC) || defined(_WIN32)
@@ -31,7 +31,8 @@
 #define RAVO_INLINE_API RAVO_API inline
 #endif
 
-/// RAVO_STDCALL is the calling convention of component interfaces: it makes a difference on 32-bit Windows.
+/// RAVO_STDCALL is the calling convention of component interfaces. It differs from the default on 32-bit
+/// Windows only.
 #if defined(_WIN32)
 #define RAVO_STDCALL __stdcall
 #else

@@ -5,9 +5,9 @@
 
 namespace ravo {
 
-/// The extended float of the suite: 80 bits with a 64-bit mantissa where the compiler has such a type, a
-/// double elsewhere. Code that stores results computes them in integers, so that neither the type nor the
-/// precision and rounding mode that a host left in the processor decides a result.
+/// The extended float of the suite: 80 bits with a 64-bit mantissa if the compiler has such a type, else a
+/// double. Stored results are computed in integers, so they depend neither on this type nor on the
+/// processor's precision and rounding mode.
 using Extended = std::conditional_t<LDBL_MANT_DIG == 64, long double, double>;
 
 }  // namespace ravo

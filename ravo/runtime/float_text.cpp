@@ -18,8 +18,8 @@ std::u16string_view SignOf(const DecimalNumber& number) {
   return number.negative && !number.digits.empty() ? u"-" : u"";
 }
 
-// The digits at `from` up to but not `to`, counted from the decimal point on; zeros where the number has
-// none.
+// Returns the digits from `from` up to but not including `to`, counted from the decimal point; missing digits
+// are zeros.
 std::u16string DigitsBetween(const DecimalNumber& number, std::int64_t from, std::int64_t to) {
   std::u16string text;
   for (std::int64_t i = from + number.point; i < to + number.point; ++i) {
@@ -33,12 +33,12 @@ std::u16string WholePart(const DecimalNumber& number) {
   return number.point > 0 ? DigitsBetween(number, -number.point, 0) : u"0";
 }
 
-std::u16string Behind(char16_t decimal_separator, const std::u16string& digits) {
+std::u16string Decimals(char16_t decimal_separator, const std::u16string& digits) {
   return digits.empty() ? digits : decimal_separator + digits;
 }
 
 std::u16string PlainText(const DecimalNumber& number, int decimals, char16_t decimal_separator) {
-  return WholePart(number) + Behind(decimal_separator, DigitsBetween(number, 0, decimals));
+  return WholePart(number) + Decimals(decimal_separator, DigitsBetween(number, 0, decimals));
 }
 
 std::u16string ShortestPlainText(const DecimalNumber& number, char16_t decimal_separator) {
@@ -52,8 +52,8 @@ std::u16string ShortestScientificText(DecimalNumber number, char16_t decimal_sep
   return ShortestPlainText(number, decimal_separator) + u'E' + ToText(exponent);
 }
 
-// Rounds once, at whichever of the two limits comes first: rounding twice could carry a half upwards that is
-// none.
+// Rounds once, at whichever limit comes first: a second rounding could take the result of the first for a
+// half and carry.
 DecimalNumber RoundedForFixed(const DecimalNumber& number, int decimals) {
   return std::int64_t{number.point} + decimals > kFloatDigits ? RoundedToDigits(number, kFloatDigits)
                                                               : RoundedToPlaces(number, decimals);
@@ -115,7 +115,7 @@ std::u16string NumberText(const DecimalNumber& number, int decimals, char16_t de
   const DecimalNumber rounded = RoundedForFixed(number, decimals);
   std::u16string text(SignOf(rounded));
   text += Grouped(WholePart(rounded), thousands_separator);
-  text += Behind(decimal_separator, DigitsBetween(rounded, 0, decimals));
+  text += Decimals(decimal_separator, DigitsBetween(rounded, 0, decimals));
   return text;
 }
 

@@ -14,11 +14,11 @@ namespace ravo {
 
 namespace detail {
 
-/// Where each byte in memory order finds its two digits in the text without braces.
+/// The position of the two digits of each byte, in memory order, in the text without braces.
 inline constexpr std::array<std::size_t, 16> kGuidDigitPlaces{6,  4,  2,  0,  11, 9,  16, 14,
                                                               19, 21, 24, 26, 28, 30, 32, 34};
 
-/// The bytes of an identifier in text form, in memory order; no value where the text is malformed.
+/// Returns the bytes of an identifier in text form, in memory order, or no value if the text is malformed.
 template <class Char>
 constexpr std::optional<std::array<std::uint8_t, 16>> GuidBytes(std::basic_string_view<Char> text) noexcept {
   // Untested: with one brace missing, the text is refused for its length below.
@@ -40,22 +40,23 @@ constexpr std::optional<std::array<std::uint8_t, 16>> GuidBytes(std::basic_strin
 
 }  // namespace detail
 
-/// A 128-bit identifier, 16 bytes in memory order: the first group and the two after it are little-endian
-/// numbers, the last two groups are bytes as written.
+/// A 128-bit identifier, stored as 16 bytes: the first three groups are little-endian numbers, the last two
+/// groups are bytes as written.
 struct RAVO_API Guid {
-  /// In memory order.
+  /// The bytes in memory order.
   std::array<std::uint8_t, 16> bytes{};
 
   Guid() = default;
 
-  /// From the braced text form, checked when compiled: a malformed literal does not compile.
+  /// Converts the braced text form at compile time; a malformed literal does not compile.
   consteval Guid(const char (&text)[39]) {  // NOLINT(google-explicit-constructor)
     const auto parsed = FromText(std::string_view(text, 38));
     if (!parsed) throw "malformed identifier";  // NOLINT(hicpp-exception-baseclass): never runs
     bytes = parsed->bytes;
   }
 
-  /// Reads 8-4-4-4-12 hexadecimal digits of either case, with or without braces; no value otherwise.
+  /// Returns the identifier of a text of 8-4-4-4-12 hexadecimal digits of either case, with or without
+  /// braces, or no value.
   [[nodiscard]] static constexpr std::optional<Guid> FromText(std::string_view text) noexcept {
     return FromBytes(detail::GuidBytes(text));
   }
@@ -63,7 +64,7 @@ struct RAVO_API Guid {
     return FromBytes(detail::GuidBytes(text));
   }
 
-  /// Braces around 8-4-4-4-12 upper-case hexadecimal digits.
+  /// Returns the text form: 8-4-4-4-12 upper-case hexadecimal digits in braces.
   [[nodiscard]] std::u16string ToText() const;
 
   friend constexpr bool operator==(const Guid&, const Guid&) = default;

@@ -10,16 +10,16 @@
 
 namespace ravo {
 
-/// What was read, and the 1-based position of the character that ended the reading too early: the first that
-/// is no digit, the digit with which the value leaves its range, the place behind a text that lacks digits. 0
-/// where the whole text is an integer; the value is 0 where it is not.
+/// The result of reading an integer. `error` is 0 if the whole text is an integer; otherwise `value` is 0 and
+/// `error` is the 1-based position where reading failed: the first character that is not a digit, the digit
+/// that takes the value out of range, or one past the end of a text without digits.
 template <std::signed_integral Integer>
 struct ParsedInteger {
   Integer value = 0;
   std::size_t error = 0;
 };
 
-/// The digits of `text` from the place `at` to its end, up to `limit`.
+/// Returns the value of the digits of `text` from `at` to its end, at most `limit`.
 template <std::unsigned_integral Bits, class Char>
 [[nodiscard]] constexpr Bits ReadDigits(std::basic_string_view<Char> text, std::size_t at, unsigned base,
                                         Bits limit, std::size_t& error) noexcept {
@@ -38,10 +38,10 @@ template <std::unsigned_integral Bits, class Char>
   return value;
 }
 
-/// The place behind "$", "x" or "0x" (either case) at the place `at`; `at` where none of them stands there.
+/// Returns the position past "$", "x" or "0x" (either case) at `at`; `at` if there is no such prefix.
 template <class Char>
-[[nodiscard]] constexpr std::size_t BehindHexPrefix(std::basic_string_view<Char> text,
-                                                    std::size_t at) noexcept {
+[[nodiscard]] constexpr std::size_t SkipHexPrefix(std::basic_string_view<Char> text,
+                                                  std::size_t at) noexcept {
   const auto is_x = [&](std::size_t place) {
     return place < text.size() && (text[place] == Char{'x'} || text[place] == Char{'X'});
   };
@@ -50,9 +50,9 @@ template <class Char>
   return at < text.size() && text[at] == Char{'0'} && is_x(at + 1) ? at + 2 : at;
 }
 
-/// Reads a whole text as a signed integer: blanks (U+0020) in front, an optional sign, then decimal digits,
-/// or hexadecimal digits behind "$", "x" or "0x" (either case). Hexadecimal values that fill the type are
-/// taken as the bits of the result, which a "-" then negates within the type. Nothing may follow.
+/// Reads a text that is a signed integer as a whole: leading blanks (U+0020), an optional sign, then decimal
+/// digits, or "$", "x" or "0x" (either case) and hexadecimal digits. Hexadecimal values that fill the type
+/// are the bits of the result, which a "-" then negates modulo the type. Trailing characters are not allowed.
 template <std::signed_integral Integer, class Char>
 [[nodiscard]] constexpr ParsedInteger<Integer> ReadInteger(std::basic_string_view<Char> text) noexcept {
   using Bits = std::make_unsigned_t<Integer>;
@@ -60,7 +60,7 @@ template <std::signed_integral Integer, class Char>
   while (at < text.size() && text[at] == Char{' '}) ++at;
   const bool is_negative = at < text.size() && text[at] == Char{'-'};
   if (is_negative || (at < text.size() && text[at] == Char{'+'})) ++at;
-  const std::size_t digits = BehindHexPrefix(text, at);
+  const std::size_t digits = SkipHexPrefix(text, at);
   const bool is_hex = digits != at;
   const auto most = static_cast<Bits>(static_cast<Bits>(std::numeric_limits<Integer>::max()) + is_negative);
   ParsedInteger<Integer> result;

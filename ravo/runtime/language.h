@@ -1,7 +1,7 @@
 #pragma once
 
-/// What every public header of C++ includes first: an older compiler gets one clear message in front of all
-/// others. Hosts in C or in older C++ include ravo/package.h alone.
+/// Every public C++ header includes this first, so that an older compiler reports one clear error before any
+/// other. Hosts in C or in older C++ include only ravo/package.h.
 #if __cplusplus < 202002L
 #error RavoInterface needs C++20: compile with -std=c++20 or later
 #endif

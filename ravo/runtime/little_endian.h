@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <span>
 
-/// Little-endian numbers in bytes of any alignment. The caller has checked that they lie inside.
+/// Reads little-endian numbers from bytes of any alignment. The caller checks the bounds.
 namespace ravo {
 
 [[nodiscard]] constexpr std::uint16_t ReadLittle16(std::span<const std::byte> bytes,

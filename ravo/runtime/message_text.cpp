@@ -14,7 +14,7 @@ namespace {
 constexpr std::int64_t kLargestNumber = 65535;
 constexpr int kDecimals = 2;
 
-// What stands between "%" and the argument's text.
+// A parsed placeholder.
 struct Place {
   bool is_left = false;
   std::optional<int> width;
@@ -58,7 +58,7 @@ std::u16string InWidth(std::u16string text, const Place& place) {
   return text;
 }
 
-// Goes through a format place by place.
+// Formats a message placeholder by placeholder.
 class Formatter {
  public:
   Formatter(std::u16string_view format, std::span<const MessageArgument> arguments,
@@ -94,7 +94,7 @@ class Formatter {
     return InWidth(Argument(place), place);
   }
 
-  // A number in front of a colon is an index, else a width.
+  // A number before a colon is an index, else a width.
   Place TakePlace() {
     Place place;
     place.width = TakeNumber();

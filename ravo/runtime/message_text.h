@@ -13,24 +13,24 @@
 
 namespace ravo {
 
-/// What fills a place of a message: an integer, a text, a float or an amount.
+/// An argument of a message: an integer, a text, a float or an amount.
 using MessageArgument = std::variant<std::int64_t, std::u16string, Extended, Currency>;
 
-/// Returns `format` with each place filled by the next argument and "%%" as "%".
+/// Returns `format` with each placeholder replaced by the next argument, and "%%" by "%". A placeholder is
 ///
 ///     % [index :] [-] [width] [. precision] kind
 ///
-///   d u x   an integer: signed, unsigned, hexadecimal in capitals; zeros fill it up to `precision` digits
-///   s       a text; `precision` cuts it
-///   f n     a float or amount with `precision` decimals, 2 without one; n separates thousands
-///   g e     the same in the general or scientific format of `precision` digits, 15 without one
+///   d u x   an integer: signed, unsigned, upper-case hexadecimal; zero-padded to `precision` digits
+///   s       a text, truncated to `precision` units
+///   f n     a float or amount with `precision` decimals, 2 by default; n adds thousands separators
+///   g e     the same in the general or scientific format of `precision` digits, 15 by default
 ///
-/// Kinds are of either case. Blanks fill a place up to `width`, in front or, after "-", at the end. An index
-/// says which argument comes next, from 0 on. "*" takes index, width or precision from the next argument, an
-/// integer. The decimal and thousands separators are those of `settings`.
+/// Kinds are case-insensitive. The text is padded with spaces to `width`, on the left or, after "-", on the
+/// right. `index` selects the next argument, counted from 0. A "*" takes index, width or precision from the
+/// next argument, which must be an integer. Decimal and thousands separators come from `settings`.
 ///
-/// Raises `ConvertError` for any other place, for one whose argument is missing or of another sort, and for
-/// an index, width or precision beyond 65535.
+/// Throws `ConvertError` for any other placeholder, for a missing argument or one of another kind, and for an
+/// index, width or precision over 65535.
 [[nodiscard]] std::u16string FormatMessageText(std::u16string_view format,
                                                std::span<const MessageArgument> arguments,
                                                const FormatSettings& settings);

@@ -8,14 +8,14 @@
 namespace ravo {
 namespace {
 
-// No value of a supported format reaches 10^5000 or is as small as 10^-5000; what does is not computed, so
-// that the work stays bounded whatever exponent a text gives.
+// Every value of a supported format is between 10^-5000 and 10^5000. Numbers outside are not computed, so the
+// work is bounded for any exponent.
 constexpr int kFarthestPoint = 5000;
 
-// A result changes at the midpoints between neighbouring values of the format alone. The longest of them are
+// Rounding changes only at the midpoints between neighbouring values of the format. The longest midpoints are
 // odd multiples of 2^-16446 below 2^65 times that: k * 5^16446 / 10^16446, at most 11516 significant digits.
-// So no midpoint lies strictly between two numbers that differ in the 12000th digit only, and any non-zero
-// tail behind it can be stood for by one more digit.
+// So no midpoint lies strictly between two numbers that differ only in the 12000th digit, and one extra digit
+// can replace any non-zero tail after it.
 constexpr std::size_t kSignificantDigits = 12000;
 
 std::string DigitsThatMatter(std::string_view digits) {
@@ -25,8 +25,8 @@ std::string DigitsThatMatter(std::string_view digits) {
   return result;
 }
 
-// The bits of numerator / denominator, which is at least 1 and less than 2, from the highest on; what is left
-// of it afterwards is numerator / denominator halves of the last bit.
+// Returns the first `count` bits of numerator / denominator, which is at least 1 and less than 2. The
+// remainder is left in `numerator`: numerator / denominator halves of the last bit.
 std::uint64_t TakeBits(BigNatural& numerator, const BigNatural& denominator, int count) {
   std::uint64_t bits = 0;
   for (; count > 0; --count) {
@@ -40,7 +40,7 @@ std::uint64_t TakeBits(BigNatural& numerator, const BigNatural& denominator, int
   return bits;
 }
 
-// Shifts the quotient to at least 1 and less than 2; answers the exponent of 2 that this took away.
+// Shifts the quotient to at least 1 and less than 2; returns the exponent of 2 that this removed.
 int Normalize(BigNatural& numerator, BigNatural& denominator) {
   int exponent = numerator.BitLength() - denominator.BitLength();
   (exponent > 0 ? denominator : numerator).ShiftLeft(exponent > 0 ? exponent : -exponent);
@@ -127,7 +127,7 @@ std::optional<double> NearestSum(double left, double right) {
   const bool is_zero = greater.IsZero();
   auto sum = NearestBinary(std::move(greater), BigNatural(1), exponent, Bits::kFormat);
   if (!sum) return std::nullopt;
-  // Opposite values cancel to plain zero.
+  // Opposite values cancel to positive zero.
   sum->negative = is_zero ? a.negative && b.negative : (is_swapped ? b : a).negative;
   return Bits::Join(*sum);
 }

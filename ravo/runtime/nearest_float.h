@@ -7,31 +7,32 @@
 #include <cstdint>
 #include <optional>
 
-/// Rounding to nearest, ties to even, in integers alone. No value means beyond the largest finite one.
+/// Rounding to the nearest value, ties to even, in integer arithmetic only. No value means overflow.
 namespace ravo {
 
-/// The value of `format` nearest to `numerator` / `denominator` * 2^`exponent`. `denominator` is not zero.
+/// Returns the value of `format` nearest to `numerator` / `denominator` * 2^`exponent`. `denominator` must
+/// not be zero.
 [[nodiscard]] std::optional<BinaryFloat> NearestBinary(BigNatural numerator, BigNatural denominator,
                                                        int exponent, const BinaryFormat& format);
 
-/// `number` as the nearest value of `format`.
+/// Returns the value of `format` nearest to `number`.
 [[nodiscard]] std::optional<BinaryFloat> NearestBinary(const DecimalNumber& number,
                                                        const BinaryFormat& format);
 
-/// `number` as the nearest value of type `Float`.
+/// Returns the value of type `Float` nearest to `number`.
 template <class Float>
 [[nodiscard]] std::optional<Float> NearestFloat(const DecimalNumber& number) {
   const std::optional<BinaryFloat> parts = NearestBinary(number, FloatBits<Float>::kFormat);
   return parts ? std::optional(FloatBits<Float>::Join(*parts)) : std::nullopt;
 }
 
-/// The signed 64-bit integer nearest to `number`; no value beyond its range.
+/// Returns the signed 64-bit integer nearest to `number`, or no value if it is out of range.
 [[nodiscard]] std::optional<std::int64_t> NearestInteger(const DecimalNumber& number);
 
-/// The double nearest to `numerator` / `denominator`, which is not zero.
+/// Returns the double nearest to `numerator` / `denominator`. `denominator` must not be zero.
 [[nodiscard]] double NearestQuotient(std::uint64_t numerator, std::uint32_t denominator);
 
-/// The double nearest to the sum of two finite ones.
+/// Returns the double nearest to the sum of two finite doubles.
 [[nodiscard]] std::optional<double> NearestSum(double left, double right);
 
 }  // namespace ravo

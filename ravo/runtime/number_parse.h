@@ -9,23 +9,25 @@
 
 namespace ravo {
 
-/// Reads a whole text as a signed 32-bit integer: blanks (U+0020) in front, an optional sign, then decimal
-/// digits, or hexadecimal digits behind "$", "x" or "0x" (either case). Hexadecimal values up to FFFFFFFF are
-/// taken as the bits of the result, which a "-" then negates within 32 bits. Nothing may follow. No value
-/// where the text is no such integer or is out of range.
+/// Returns the value of a text that is a signed 32-bit integer as a whole, or no value.
+///
+/// Accepts leading blanks (U+0020), an optional sign, then decimal digits, or "$", "x" or "0x" (either case)
+/// and hexadecimal digits. Trailing characters are not allowed. Hexadecimal values up to FFFFFFFF are the
+/// bits of the result, which a "-" then negates modulo 2^32: "$FFFFFFFF" is -1, "-$FFFFFFFF" is 1.
 [[nodiscard]] RAVO_API std::optional<std::int32_t> TryParseInteger(std::u16string_view text) noexcept;
 
-/// The same, raising `ConvertError` where there is no value.
+/// Returns what `TryParseInteger` does. Throws `ConvertError` if there is no value.
 [[nodiscard]] RAVO_API std::int32_t ParseInteger(std::u16string_view text);
 
-/// Reads a whole text as a float: blanks (U+0020) at both ends, an optional sign, decimal digits with at most
-/// one `decimal_separator` among them (at least one digit in all), optionally "E" or "e" with an optionally
-/// signed exponent. The result is the nearest extended float, ties to even. No value for any other text and
-/// for values beyond the largest finite one.
+/// Returns the extended float nearest to a text that is a number as a whole, ties to even, or no value.
+///
+/// Accepts blanks (U+0020) at both ends, an optional sign, decimal digits with at most one
+/// `decimal_separator` and at least one digit, then optionally "E" or "e" with an optionally signed exponent.
+/// There is no value past the largest finite one either.
 [[nodiscard]] RAVO_API std::optional<Extended> TryParseFloat(std::u16string_view text,
                                                              char16_t decimal_separator);
 
-/// The same, raising `ConvertError` where there is no value.
+/// Returns what `TryParseFloat` does. Throws `ConvertError` if there is no value.
 [[nodiscard]] RAVO_API Extended ParseFloat(std::u16string_view text, char16_t decimal_separator);
 
 }  // namespace ravo

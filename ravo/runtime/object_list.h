@@ -9,28 +9,28 @@
 
 namespace ravo {
 
-/// An ordered list of references to objects, null among them if the caller likes. It owns none of them: the
-/// creator of an object frees it. Indices are 0-based; one beyond the end raises `RangeError`.
+/// An ordered list of references to objects; null is allowed. It owns none of them: the creator of an object
+/// frees it. Indices are 0-based; every member throws `RangeError` if an index is out of range.
 template <class Object>
 class ObjectList {
  public:
-  /// A new last reference; returns its index. An object may be in the list several times.
+  /// Appends a reference and returns its index. An object may be in the list several times.
   std::size_t Add(Object* object) {
     objects_.push_back(object);
     return objects_.size() - 1;
   }
 
-  /// Takes the reference at `index` out of the list; the object stays as it is.
+  /// Removes the reference at `index`; the object is not freed.
   void Delete(std::size_t index) { objects_.erase(Checked(index)); }
 
-  /// The index of the first reference to `object`; no value if there is none.
+  /// Returns the index of the first reference to `object`, or no value.
   [[nodiscard]] std::optional<std::size_t> IndexOf(const Object* object) const {
     const auto at = std::ranges::find(objects_, object);
     if (at == objects_.end()) return std::nullopt;
     return static_cast<std::size_t>(at - objects_.begin());
   }
 
-  /// Moves the reference at `from` so that its index is `to`; those between move by one place.
+  /// Moves the reference at `from` to index `to`; the references in between shift by one.
   void Move(std::size_t from, std::size_t to) {
     const auto source = Checked(from);
     const auto target = Checked(to);
@@ -38,17 +38,17 @@ class ObjectList {
     if (to < from) std::rotate(target, source, source + 1);
   }
 
-  /// How many references there are.
+  /// Returns the number of references.
   [[nodiscard]] std::size_t Count() const noexcept { return objects_.size(); }
-  /// The reference at `index`.
+  /// Returns the reference at `index`.
   [[nodiscard]] Object* At(std::size_t index) const {
     CheckIndex(index);
     return objects_[index];
   }
 
-  /// The first reference, for loops.
+  /// Returns an iterator to the first reference.
   [[nodiscard]] auto begin() const noexcept { return objects_.begin(); }
-  /// Past the last reference.
+  /// Returns an iterator past the last reference.
   [[nodiscard]] auto end() const noexcept { return objects_.end(); }
 
   friend bool operator==(const ObjectList&, const ObjectList&) = default;

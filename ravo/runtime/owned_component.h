@@ -8,22 +8,22 @@
 
 namespace ravo {
 
-/// A component that answers for `Interface` and the platform's interfaces below it. References are counted,
-/// but its owner, or else its creator, frees it: no reference may outlive it.
+/// A component that implements `Interface` and the platform's interfaces that it derives from. References are
+/// counted, but its owner frees it, or its creator if it has no owner: no reference may outlive it.
 template <class Interface>
 class OwnedComponent : public TComponent, public Interface {
  public:
   using TComponent::TComponent;
 
-  /// As `ComponentObject` does.
+  /// Stores an interface in `object` as `ComponentObject` does.
   ResultCode RAVO_STDCALL QueryInterface(const Guid& interface_id, void** object) noexcept override {
     return AnswerQuery<Interface>(*this, interface_id, object);
   }
 
-  /// One reference more; answers how many there are, the owner's own among them.
+  /// Adds a reference; returns the new count, which includes the owner's reference.
   std::uint32_t RAVO_STDCALL AddRef() noexcept override { return ++references_; }
 
-  /// One reference less, which does not free the component; answers how many are left.
+  /// Removes a reference without freeing the component; returns the new count.
   std::uint32_t RAVO_STDCALL Release() noexcept override { return --references_; }
 
  private:

@@ -6,16 +6,16 @@
 
 namespace ravo {
 
-/// What a form or another component may own and frees with itself.
+/// A component that a form or another component may own. An owner frees its components when it is destroyed.
 class RAVO_API TComponent {
  public:
-  /// Without an owner where `AOwner` is null. An owned component must have been made by `new`.
+  /// Constructs a component; `AOwner` may be null. An owned component must be allocated with `new`.
   explicit TComponent(TComponent* AOwner);
   TComponent(const TComponent&) = delete;
   TComponent& operator=(const TComponent&) = delete;
   virtual ~TComponent();
 
-  /// Who frees it; null for none.
+  /// Returns the owner, or null.
   [[nodiscard]] TComponent* Owner() const noexcept { return owner_; }
 
  private:

@@ -17,7 +17,7 @@ std::u16string_view ValueOf(std::u16string_view line) {
   return equals == std::u16string_view::npos ? std::u16string_view() : line.substr(equals + 1);
 }
 
-// How many units the line break in front of `text` has.
+// Returns the length in units of the line break at the start of `text`.
 std::size_t BreakLength(std::u16string_view text) { return text.starts_with(u"\r\n") ? 2 : 1; }
 
 }  // namespace

@@ -1,3 +1,16 @@
+// The types that every other room uses, and the exact arithmetic below them.
+//
+// Text is UTF-16 (text.h, string_list.h). Errors are the classes of error.h; checked.h throws them where
+// integer arithmetic leaves its type. Numbers that are stored or shown are computed in integers: decimal.h
+// holds an exact decimal number, nearest_float.h rounds it to a float, float_text.h writes it, number_parse.h
+// and decimal_parse.h read it. Money is currency.h, dates are date_time.h and date_text.h, tagged values are
+// variant.h, bytes are byte_stream.h. Interfaces of the platform's component runtime are component.h and
+// dispatch.h, with component_ptr.h to hold a reference and component_object.h to implement one. wide_string.h
+// is the text that travels through them.
+//
+// Start here, then read error.h and decimal.h. This room includes no other room and no system header. The
+// results of its arithmetic depend neither on the floating-point types of the compiler nor on the state of
+// the processor.
 #pragma once
 
 #include <ravo/runtime/export.h>
@@ -6,47 +19,50 @@
 #include <string>
 #include <string_view>
 
-/// Small text helpers on UTF-16 that every room needs. Positions here are 0-based; `npos` means not found.
+/// Helpers for UTF-16 text. Positions are 0-based.
 namespace ravo {
 
-/// UTF-16 to UTF-8. An unpaired surrogate becomes U+FFFD.
+/// Returns `text` in UTF-8. An unpaired surrogate becomes U+FFFD.
 [[nodiscard]] RAVO_API std::string ToUtf8(std::u16string_view text);
 
-/// UTF-8 to UTF-16. Each maximal ill-formed piece becomes one U+FFFD.
+/// Returns `bytes`, which are UTF-8, in UTF-16. Each maximal ill-formed subsequence becomes one U+FFFD.
 [[nodiscard]] RAVO_API std::u16string FromUtf8(std::string_view bytes);
 
-/// `text` without the code units U+0000 to U+0020 at both ends.
+/// Returns `text` without leading and trailing code units U+0000 to U+0020. The view refers to the memory of
+/// `text`.
 [[nodiscard]] RAVO_API std::u16string_view Trimmed(std::u16string_view text) noexcept;
 
-/// `ch` with A to Z made lower case, every other code unit as it is.
+/// Returns the lower-case letter for A to Z, and `ch` itself for every other code unit.
 [[nodiscard]] constexpr char16_t AsciiLower(char16_t ch) noexcept {
   return ch >= u'A' && ch <= u'Z' ? static_cast<char16_t>(ch + (u'a' - u'A')) : ch;
 }
 
-/// Whether `ch` is one of A to Z or a to z.
+/// Returns whether `ch` is an ASCII letter: A to Z or a to z.
 [[nodiscard]] constexpr bool IsAsciiLetter(char16_t ch) noexcept {
   return AsciiLower(ch) >= u'a' && AsciiLower(ch) <= u'z';
 }
 
-/// Whether two texts are equal when A to Z and a to z count as the same.
+/// Returns whether two texts are equal, ignoring the case of ASCII letters only.
 [[nodiscard]] RAVO_API bool SameAsciiText(std::u16string_view left, std::u16string_view right) noexcept;
 
-/// `text` with the first `what` replaced by `with`; unchanged where `what` is empty or absent.
+/// Returns `text` with the first occurrence of `what` replaced by `with`; unchanged if `what` is empty or
+/// absent.
 [[nodiscard]] RAVO_API std::u16string ReplaceFirst(std::u16string_view text, std::u16string_view what,
                                                    std::u16string_view with);
 
-/// `text` with every `what` replaced by `with`, searched from left to right; unchanged where `what` is empty.
+/// Returns `text` with each occurrence of `what` replaced by `with`, searched from left to right; unchanged
+/// if `what` is empty.
 [[nodiscard]] RAVO_API std::u16string ReplaceAll(std::u16string_view text, std::u16string_view what,
                                                  std::u16string_view with);
 
-/// Decimal text, "-" in front of negative values.
+/// Returns `value` in decimal digits, with a leading "-" if it is negative.
 [[nodiscard]] RAVO_API std::u16string ToText(std::int64_t value);
 [[nodiscard]] RAVO_API std::u16string ToText(std::uint64_t value);
 
-/// `value` in upper-case hexadecimal digits, padded with zeros to at least `digits`.
+/// Returns `value` in upper-case hexadecimal digits, zero-padded to at least `digits` digits.
 [[nodiscard]] RAVO_API std::u16string ToHex(std::uint64_t value, int digits);
 
-/// The value of a hexadecimal digit of either case, or -1.
+/// Returns the value of a hexadecimal digit of either case, or -1 if `ch` is not one.
 [[nodiscard]] constexpr int HexDigitValue(char16_t ch) noexcept {
   if (ch >= u'0' && ch <= u'9') return ch - u'0';
   const char16_t lower = AsciiLower(ch);

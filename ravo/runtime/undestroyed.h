@@ -2,8 +2,8 @@
 
 namespace ravo {
 
-/// A value that is never destroyed: what lives in static memory can be used until the process is gone. With
-/// `constinit` it is there before any code runs.
+/// A value that is never destroyed: in static storage it stays usable until the process ends. With
+/// `constinit` it is initialized before any code runs.
 template <class Value>
 union Undestroyed {
   constexpr Undestroyed() : value() {}
@@ -11,7 +11,7 @@ union Undestroyed {
   Undestroyed& operator=(const Undestroyed&) = delete;
   ~Undestroyed() {}  // NOLINT(modernize-use-equals-default): a union's own would be deleted
 
-  Value value;  ///< made with its default constructor
+  Value value;  ///< default-constructed
 };
 
 }  // namespace ravo

@@ -7,7 +7,8 @@
 
 namespace ravo {
 
-/// A text for structures of C, whose units are of another type than those of C++ literals; with its zero.
+/// Returns a text with its terminating zero for C structures, whose code units have another type than those
+/// of C++ literals.
 template <std::size_t size>
 consteval std::array<std::uint16_t, size> Utf16Units(const char16_t (&text)[size]) {
   std::array<std::uint16_t, size> units{};

@@ -18,17 +18,17 @@ namespace ravo {
 /// A growable array of bytes, indexed from 0.
 using ByteArray = std::vector<std::uint8_t>;
 
-/// No value was ever assigned.
+/// The state of a variant that was never assigned a value.
 struct EmptyValue {
   friend bool operator==(EmptyValue, EmptyValue) = default;
 };
 
-/// There is deliberately no value: SQL's null.
+/// SQL's null: there is deliberately no value.
 struct NullValue {
   friend bool operator==(NullValue, NullValue) = default;
 };
 
-/// A date-time inside a variant, so that it is told apart from a plain float.
+/// A date-time in a variant; a type of its own distinguishes it from a float.
 struct DateValue {
   DateTime value = 0;  ///< the date-time itself
   friend bool operator==(const DateValue&, const DateValue&) = default;
@@ -37,12 +37,12 @@ struct DateValue {
 /// A tagged value: empty, null, integer, float, currency, date, text, boolean or bytes.
 class Variant {
  public:
-  /// What a variant may hold, one kind at a time.
+  /// The kinds of value that a variant may hold.
   using Value = std::variant<EmptyValue, NullValue, std::int32_t, std::int64_t, double, Currency, DateValue,
                              std::u16string, bool, ByteArray>;
 
   Variant() noexcept = default;
-  /// Null.
+  /// Constructs SQL's null.
   Variant(NullValue) noexcept : value_(NullValue{}) {}
   /// An integer of 32 bits.
   Variant(std::int32_t value) noexcept : value_(value) {}
@@ -60,18 +60,18 @@ class Variant {
   Variant(std::u16string value) noexcept : value_(std::move(value)) {}
   /// A copy of a text.
   Variant(std::u16string_view value) : value_(std::u16string(value)) {}
-  /// A copy of a text ended by a zero; not for null.
+  /// A copy of a zero-terminated text; must not be null.
   Variant(const char16_t* value) : value_(std::u16string(value)) {}
   /// Bytes.
   Variant(ByteArray value) noexcept : value_(std::move(value)) {}
 
-  /// The value with its kind.
+  /// Returns the value with its kind.
   [[nodiscard]] const Value& Get() const noexcept { return value_; }
-  /// Whether no value was ever assigned.
+  /// Returns whether no value was ever assigned.
   [[nodiscard]] bool IsEmpty() const noexcept { return std::holds_alternative<EmptyValue>(value_); }
-  /// Whether it is SQL's null.
+  /// Returns whether the value is SQL's null.
   [[nodiscard]] bool IsNull() const noexcept { return std::holds_alternative<NullValue>(value_); }
-  /// Whether it is either.
+  /// Returns whether the value is empty or null.
   [[nodiscard]] bool IsEmptyOrNull() const noexcept { return IsEmpty() || IsNull(); }
 
   friend bool operator==(const Variant&, const Variant&) = default;
@@ -80,19 +80,29 @@ class Variant {
   Value value_;
 };
 
-/// The text of a value: nothing for empty and null, digits for integers, the general float format for floats
-/// (15 significant digits), every digit of amounts without trailing zeros, both with the locale's decimal
-/// separator, the locale's date and time for dates (`ConvertError` for what is no date), "True" or "False".
-/// Bytes have no text: `VariantError`.
+/// Returns the text of a value in the format of the locale.
+///
+/// Empty and null give an empty text, integers their digits, floats the general float format (15 significant
+/// digits), amounts every digit without trailing zeros, dates the locale's date and time, booleans "True" or
+/// "False". Floats and amounts use the locale's decimal separator. Throws `ConvertError` for a date out of
+/// range, and `VariantError` for bytes, which have no text.
 [[nodiscard]] RAVO_API std::u16string VariantToText(const Variant& value, const FormatSettings& settings);
 
-/// The sum of two values. Null with anything is null. Bytes have no sum: `VariantError`. Empty counts as
-/// nothing: the sum is the other value as it is. Two texts are joined. A text beside any other kind must read
-/// as a number in the locale, else `VariantError`, and counts as a float. Integers add as the wider of both
-/// and raise `OverflowError`; a boolean counts as the 32-bit integer -1 or 0; a date makes the sum a date,
-/// else an amount makes it an amount, else a float makes it a float. Floats are rounded to the nearest, ties
-/// to even, to the four places of an amount, which raises `OverflowError`; a float sum that is not finite
-/// raises `FloatError`.
+/// Returns the sum of two values. The kinds are tested in this order:
+///
+///   null     with any value, the sum is null
+///   bytes    throw `VariantError`
+///   empty    the sum is the other value, unchanged
+///   texts    two texts are concatenated; a text with any other kind must be a number in the locale, else
+///            `VariantError` is thrown, and counts as a float
+///   date     the sum is a date
+///   amount   the sum is an amount
+///   float    the sum is a float
+///   integer  the sum has the wider type; a boolean counts as the 32-bit integer -1 or 0
+///
+/// Floats are rounded to the four decimal places of an amount, to nearest, ties to even. Throws
+/// `OverflowError` if the sum of integers or amounts does not fit, and `FloatError` if a float sum is not
+/// finite.
 [[nodiscard]] RAVO_API Variant VariantSum(const Variant& left, const Variant& right,
                                           const FormatSettings& settings);
 

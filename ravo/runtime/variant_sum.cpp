@@ -13,16 +13,16 @@
 namespace ravo {
 namespace {
 
-// What two values add as: the later of their kinds.
+// The kind that two values are added as: the later one of their kinds.
 enum class SumKind : std::uint8_t { Integer32, Integer64, Float, Amount, Date };
 
-[[noreturn]] void RaiseNoSum() { throw VariantError(u"Values of these kinds cannot be added"); }
+[[noreturn]] void RaiseNotAddable() { throw VariantError(u"Values of these kinds cannot be added"); }
 
-[[noreturn]] void RaiseNoNumber(const std::u16string& text) {
+[[noreturn]] void RaiseNotANumber(const std::u16string& text) {
   throw VariantError(u"'" + text + u"' is not a number");
 }
 
-// Empty and null values have no kind: they are dealt with before, and so are bytes.
+// Empty, null and bytes have no kind: they are handled before.
 struct KindOf {
   SumKind operator()(std::int32_t) const { return SumKind::Integer32; }
   SumKind operator()(bool) const { return SumKind::Integer32; }
@@ -34,7 +34,7 @@ struct KindOf {
   // Untested: these kinds are refused or joined before their number is read.
   template <class Other>
   SumKind operator()(const Other&) const {
-    RaiseNoSum();
+    RaiseNotAddable();
   }
 };
 
@@ -45,7 +45,7 @@ struct AsInteger {
   // Untested: these kinds are refused or joined before their number is read.
   template <class Other>
   std::int64_t operator()(const Other&) const {
-    RaiseNoSum();
+    RaiseNotAddable();
   }
 };
 
@@ -60,17 +60,17 @@ struct AsDecimal {
   DecimalNumber operator()(Currency value) const { return ToDecimal(value.raw, Currency::kPlaces); }
   DecimalNumber operator()(const std::u16string& text) const {
     auto number = TryParseDecimal(text, decimal_separator);
-    if (!number) RaiseNoNumber(text);
+    if (!number) RaiseNotANumber(text);
     return *std::move(number);
   }
   // Untested: these kinds are refused or joined before their number is read.
   template <class Other>
   DecimalNumber operator()(const Other&) const {
-    RaiseNoSum();
+    RaiseNotAddable();
   }
 };
 
-// A value as the nearest float. Only a text can be beyond the largest one.
+// A value as the nearest float. Only a text can exceed the largest finite one.
 struct AsFloat {
   AsDecimal as_decimal;
 
@@ -123,7 +123,7 @@ Variant SumOfNumbers(const Variant& left, const Variant& right, char16_t decimal
       return DateValue{SumOfFloats(number(left), number(right))};
   }
   // Untested: every kind with a sum returned above.
-  RaiseNoSum();
+  RaiseNotAddable();
 }
 
 bool HoldsBytes(const Variant& value) { return std::holds_alternative<ByteArray>(value.Get()); }
@@ -132,7 +132,7 @@ bool HoldsBytes(const Variant& value) { return std::holds_alternative<ByteArray>
 
 Variant VariantSum(const Variant& left, const Variant& right, const FormatSettings& settings) {
   if (left.IsNull() || right.IsNull()) return NullValue{};
-  if (HoldsBytes(left) || HoldsBytes(right)) RaiseNoSum();
+  if (HoldsBytes(left) || HoldsBytes(right)) RaiseNotAddable();
   if (left.IsEmpty()) return right;
   if (right.IsEmpty()) return left;
   const auto* const left_text = std::get_if<std::u16string>(&left.Get());

@@ -10,7 +10,7 @@ struct Wide128 {
   std::uint64_t low = 0;   ///< the lower 64 bits
 };
 
-/// The whole product of two 64-bit numbers.
+/// Returns the full 128-bit product of two 64-bit numbers.
 [[nodiscard]] constexpr Wide128 MultiplyWide(std::uint64_t left, std::uint64_t right) noexcept {
 #ifdef __SIZEOF_INT128__
   __extension__ using Uint128 = unsigned __int128;

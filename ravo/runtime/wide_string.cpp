@@ -8,7 +8,7 @@
 namespace ravo {
 namespace {
 
-// The length is kept in bytes, as a 32-bit number.
+// The length is stored in bytes, as a 32-bit number.
 constexpr std::size_t kMostUnits = std::numeric_limits<std::uint32_t>::max() / sizeof(char16_t);
 
 }  // namespace

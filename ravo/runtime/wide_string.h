@@ -9,40 +9,41 @@
 
 namespace ravo {
 
-/// A counted UTF-16 text of the platform's automation interfaces. It is allocated by the platform (a `BSTR`
-/// on Windows, the same layout elsewhere: the length in bytes in the four bytes before the first unit, a zero
-/// unit behind the last), so it can be handed over to whoever frees such texts.
+/// A counted UTF-16 text of the platform's automation interfaces. The platform allocates it (a `BSTR` on
+/// Windows, the same layout elsewhere: the length in bytes in the four bytes before the first unit, a zero
+/// unit after the last), so any component that frees such texts can own it.
 class RAVO_API WideString {
  public:
   WideString() noexcept = default;
 
-  /// Copies `text`. Raises `RangeError` where its length in bytes leaves 32 bits, `std::bad_alloc` without
-  /// memory.
+  /// Copies `text`. Throws `RangeError` if its length in bytes does not fit 32 bits, and `std::bad_alloc` if
+  /// memory runs out.
   explicit WideString(std::u16string_view text);
 
-  /// A copy in memory of its own. `std::bad_alloc` without memory.
+  /// Copies the text. Throws `std::bad_alloc` if memory runs out.
   WideString(const WideString& other) : WideString(other.View()) {}
-  /// Takes the text over; `other` is empty then.
+  /// Moves the text; `other` becomes empty.
   WideString(WideString&& other) noexcept : text_(std::exchange(other.text_, nullptr)) {}
-  /// Copies or takes over, as its argument was made.
+  /// Copies or moves, depending on how its argument was constructed.
   WideString& operator=(WideString other) noexcept {
     std::swap(text_, other.text_);
     return *this;
   }
   ~WideString();
 
-  /// Takes over a text that the platform allocated; null is the empty text.
+  /// Returns an object that owns a text allocated by the platform; null is the empty text.
   [[nodiscard]] static WideString Adopt(char16_t* text) noexcept;
 
-  /// Hands the text over to the caller, who frees it with the platform's own call; null for the empty text.
+  /// Releases ownership and returns the text, which the caller frees with the platform's own call; null for
+  /// the empty text.
   [[nodiscard]] char16_t* Release() noexcept { return std::exchange(text_, nullptr); }
 
-  /// UTF-16 units.
+  /// Returns the length in UTF-16 units.
   [[nodiscard]] std::size_t Length() const noexcept;
-  /// The text; the view lasts as long as the object keeps it.
+  /// Returns a view of the text, valid as long as the object holds it.
   [[nodiscard]] std::u16string_view View() const noexcept { return {text_ ? text_ : u"", Length()}; }
 
-  /// Whether the texts are equal.
+  /// Returns whether the texts are equal.
   friend bool operator==(const WideString& left, const WideString& right) noexcept {
     return left.View() == right.View();
   }
@@ -51,12 +52,12 @@ class RAVO_API WideString {
   char16_t* text_ = nullptr;
 };
 
-/// The allocator behind `WideString`. The platform provides it; `AllocateWideText` answers null without
-/// memory.
+/// Allocates a copy of `units` units of text, or returns null if memory runs out. The platform implements
+/// this and the two functions below for `WideString`.
 [[nodiscard]] char16_t* AllocateWideText(const char16_t* text, std::size_t units) noexcept;
-/// UTF-16 units of a platform's text; 0 for null.
+/// Returns the length of a platform's text in UTF-16 units; 0 for null.
 [[nodiscard]] std::size_t WideTextLength(const char16_t* text) noexcept;
-/// Frees a platform's text; nothing for null.
+/// Frees a platform's text; does nothing for null.
 void FreeWideText(char16_t* text) noexcept;
 
 }  // namespace ravo

@@ -15,7 +15,7 @@ using sysinfo::TextOf;
 
 constexpr std::size_t kMostBytes = 255;
 
-// One unit more than the bytes can fill, so that the last whole one is never without a zero behind it.
+// One unit more than the bytes fill, so a zero always follows the last whole one.
 using BiosBuffer = std::array<char16_t, (kMostBytes + 1) / 2 + 1>;
 
 BiosBuffer UnitsOf(std::span<const std::byte> bytes) {
@@ -41,8 +41,8 @@ void TRavoSystemInfo::AddBios(std::u16string_view Indent) {
   AddRow(FStrings, Indent, _rSystemBIOSExtendedInfo.View(), u"");
 }
 
-// The value is a list of texts. All of it is shown on the one kind of system that writes it so, elsewhere its
-// first text.
+// The value is a list of texts. On the one kind of system that writes it as a list all of it is shown,
+// elsewhere its first text.
 std::u16string TRavoSystemInfo::BiosVersion(const platform::RegistryKey& key) const {
   try {
     const auto bytes = key.Bytes(u"SystemBiosVersion", kMostBytes);

@@ -5,15 +5,15 @@
 #include <array>
 #include <string_view>
 
-/// The Czech captions of the support report. Modules load them by themselves too, so some of them do not
-/// occur in the report.
+/// The Czech captions of the support report. Modules also load them directly, so some of them do not occur in
+/// the report.
 namespace ravo::RavoInterfaceInfo {
 
 #define RAVO_STRING(name, id, text) /** #text */ inline constexpr ResourceString name{id, u##text};
 #include <ravo/sysinfo/captions.inc>
 #undef RAVO_STRING
 
-/// A caption under the name that it is exported by.
+/// A caption with the name that it is exported under.
 struct NamedReportCaption {
   std::string_view name;   ///< "_rRootClient"
   ResourceString caption;  ///< the caption

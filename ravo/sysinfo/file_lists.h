@@ -3,10 +3,10 @@
 #include <array>
 #include <string_view>
 
-/// The files of the suite that the report looks for, each list in its order.
+/// The files of the suite that the report looks for, in the order of the report.
 ///
-/// Eleven of the names are this library's own choice: the report layer's package `RavoReportLowLevel.bpl` and
-/// the ten `RavoPresentation*.bpl`, named after the modules whose presentation layer they are.
+/// Eleven names are defined by this library: the package of the report layer `RavoReportLowLevel.bpl` and the
+/// ten `RavoPresentation*.bpl`, named after the modules whose presentation layer they are.
 namespace ravo::sysinfo {
 
 /// Run-time packages of the user-interface framework.

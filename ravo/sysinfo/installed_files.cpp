@@ -37,10 +37,10 @@ constexpr std::u16string_view kVersionKeys[] = {u"CompanyName",  u"FileDescripti
                                                 u"InternalName", u"LegalCopyright",  u"OriginalFilename",
                                                 u"ProductName",  u"ProductVersion"};
 
-// How many units of a name belong to its folder, the delimiter behind it included; 0 for a bare name.
+// Returns the length of the folder part of a name, including the delimiter after it; 0 for a bare name.
 std::size_t FolderLength(std::u16string_view name) { return name.find_last_of(u"\\/:") + 1; }
 
-// The folder part of a name with one delimiter behind it.
+// Returns the folder part of a name, with one delimiter after it.
 std::u16string FolderOf(std::u16string_view name) {
   std::u16string_view folder = name.substr(0, FolderLength(name));
   if (!folder.empty() && folder.back() != u':') folder.remove_suffix(1);
@@ -51,7 +51,7 @@ std::u16string FolderOf(std::u16string_view name) {
 // InstalledFiles.ClientFilesAreLookedForInTheCurrentFolder
 std::u16string CurrentFolder() { return FolderOf(platform::Paths().FullPath(u"Ravo.exe")); }
 
-// A time stamp that no calendar date can name must not cost the user the whole report.
+// A time stamp outside the calendar must not fail the whole report.
 std::u16string TimeStampText(DateTime written) {
   try {
     return DateTimeText(written, platform::Locale().Settings());

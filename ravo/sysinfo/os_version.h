@@ -4,7 +4,7 @@
 
 namespace ravo::RavoInterfaceInfo {
 
-/// The kinds of operating system that the suite tells apart, numbered from 0.
+/// The kinds of operating system that the suite distinguishes, numbered from 0.
 enum TOSVersion : std::uint8_t {
   osUnknown,
   os95,

@@ -8,7 +8,7 @@
 
 namespace ravo::sysinfo {
 
-/// A value's text; empty where the key did not open or the value has no text.
+/// Returns the text of a value; empty if the key did not open or the value has no text.
 [[nodiscard]] inline std::u16string TextOf(const std::unique_ptr<platform::RegistryKey>& key,
                                            std::u16string_view name) {
   return key ? key->Text(name).value_or(std::u16string()) : std::u16string();

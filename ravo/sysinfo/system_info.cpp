@@ -44,7 +44,7 @@ std::u16string TRavoSystemInfo::AsText(TRavoSystemInfoTyp ATyp) {
   return FStrings.Text();
 }
 
-// One reading of the clock, so that a report made at midnight does not mix two days.
+// Reads the clock once, so a report made at midnight does not mix two days.
 void TRavoSystemInfo::AddDateTime(std::u16string_view Indent) {
   const FormatSettings locale = platform::Locale().Settings();
   const DateTime now = platform::Locale().Now();

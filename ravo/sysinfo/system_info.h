@@ -1,3 +1,12 @@
+// The support report: a text about the computer, its operating system, memory, disks and installed files of
+// the suite.
+//
+// `TRavoSystemInfo` collects it, one source file per section: bios.cpp, operating_system.cpp with
+// os_version.h, installed_files.cpp with file_lists.h. The lines are formed by report_lines.h, their captions
+// are rows of captions.inc.
+//
+// Start here. The report reads the machine through ravo/platform only, so a test can replace it. It changes
+// nothing on the machine, sends nothing, and leaves out no line because a value is missing.
 #pragma once
 
 #include <ravo/runtime/export.h>
@@ -13,11 +22,11 @@ namespace ravo::platform {
 class RegistryKey;
 }  // namespace ravo::platform
 
-/// The support report: facts about the computer, its system, memory and disks and the suite's installed
-/// files, as a text indented with tabs, for the user to copy into a request for support.
+/// The support report: facts about the computer, its system, memory, disks and the suite's installed files,
+/// as a text indented with tabs, for the user to copy into a support request.
 namespace ravo::RavoInterfaceInfo {
 
-/// Texts that the operating system is asked for.
+/// Texts that are read from the operating system.
 enum TApiString : std::uint8_t {
   asSystemDir,
   asWindowsDir,
@@ -27,7 +36,7 @@ enum TApiString : std::uint8_t {
   asAllDataApp
 };
 
-/// Amounts of memory that the operating system is asked for, in bytes.
+/// Amounts of memory that are read from the operating system, in bytes.
 enum TApiInteger : std::uint8_t {
   aiTotalPhysMemory,
   aiAvailPhysMemory,
@@ -37,15 +46,15 @@ enum TApiInteger : std::uint8_t {
   aiAvailPageFile
 };
 
-/// Who asks for the report: a client module with a user interface, or the application layer.
+/// The kind of module that asks for the report: a client with a user interface, or the application layer.
 enum TRavoSystemInfoTyp : std::uint8_t { siVisual, siBusiness };
 
-/// The folder of temporary files as the system reports it, with a delimiter at its end.
+/// Returns the folder for temporary files as the system reports it, with a delimiter at its end.
 [[nodiscard]] RAVO_API std::u16string GetTempDirectory();
 
-/// Collects the report. Everything is gathered when it is asked for; only the kind of operating system is
-/// worked out once, on construction. A value that the machine does not have is empty or zero and its line is
-/// there all the same. For one thread at a time.
+/// Collects the report. Values are read at each call; only the kind of operating system is determined once,
+/// on construction. A value that the machine does not have is empty or zero, and its line is still there. Use
+/// from one thread at a time.
 class RAVO_API TRavoSystemInfo {
  public:
   TRavoSystemInfo();
@@ -53,18 +62,20 @@ class RAVO_API TRavoSystemInfo {
   TRavoSystemInfo& operator=(const TRavoSystemInfo&) = delete;
   ~TRavoSystemInfo();
 
-  /// The whole report, each line followed by carriage return and line feed.
+  /// Returns the whole report, each line followed by carriage return and line feed.
   [[nodiscard]] std::u16string AsText(TRavoSystemInfoTyp ATyp);
 
-  /// The "FileVersion" text of a file's version resource; a name without a folder is looked for in the
-  /// current folder. Empty where the file or the text is missing, or the text has only one character.
+  /// Returns the "FileVersion" text of a file's version resource. A name without a folder is searched in the
+  /// current folder.
+  ///
+  /// Empty if the file or the text is missing. A text of one character is returned as empty too.
   [[nodiscard]] std::u16string FileVersion(std::u16string_view AFileName) const;
 
-  /// The kind of operating system, as worked out on construction.
+  /// Returns the kind of operating system, determined on construction.
   [[nodiscard]] TOSVersion OSVersion() const noexcept { return OSVersion_; }
 
  private:
-  // The sections, in the order of the report. `Indent` is the tabs that they stand behind.
+  // The sections, in the order of the report. `Indent` holds the tabs before each line.
   void AddDateTime(std::u16string_view Indent);
   void AddBios(std::u16string_view Indent);
   void AddOS(std::u16string_view Indent);

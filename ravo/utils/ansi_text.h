@@ -7,8 +7,8 @@
 
 namespace ravo::utils {
 
-/// A text of the system's 8-bit code page, for the members of families that end in "A"; `WStrToAStr` is the
-/// way back.
+/// Returns the UTF-16 form of a text in the system's 8-bit code page, for members that end in "A".
+/// `WStrToAStr` converts back.
 [[nodiscard]] inline std::u16string Wide(std::string_view text) {
   return platform::CodePages().FromCodePage(text);
 }

@@ -5,7 +5,7 @@
 
 namespace ravo::DIUtils {
 
-/// The upper-case form of each byte in code page 1252, whatever the system's code page is.
+/// The upper-case form of each byte in code page 1252, independent of the system's code page.
 inline constexpr std::array<std::uint8_t, 256> ANSI_UPPER_CHAR_TABLE = [] {
   std::array<std::uint8_t, 256> table{};
   for (unsigned byte = 0; byte < 256; ++byte) {

@@ -7,8 +7,8 @@
 
 namespace ravo::utils {
 
-/// The bytes of a text of so many UTF-16 units, which are counted in 31 bits: `RangeError` for 2^31 units and
-/// more, `OverflowError` from 2^30 on.
+/// Returns the size in bytes of a text of `units` UTF-16 units, counted in 31 bits. Throws `RangeError` for
+/// 2^31 units and more, else `OverflowError` from 2^30 units on.
 [[nodiscard]] inline std::size_t ByteCountOfUnits(std::size_t units) {
   return static_cast<std::size_t>(CheckedMultiply<std::int32_t>(CheckedCast<std::int32_t>(units), 2));
 }

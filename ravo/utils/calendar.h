@@ -7,125 +7,135 @@
 #include <cstdint>
 #include <string>
 
-/// Arithmetic on whole days in the proleptic Gregorian calendar. A date is one integer, its Julian Day
-/// Number: 2451545 is 1 January 2000. Years are astronomical (0 is 1 BC), months 1 to 12, days 1 to 31; the
-/// day of the week is 0 for Monday to 6 for Sunday, also before day 0. All arithmetic is checked: what leaves
-/// 32 bits raises `OverflowError`.
+/// Arithmetic on whole days in the proleptic Gregorian calendar.
+///
+/// A date is one integer, its Julian Day Number: 2451545 is 1 January 2000. Years are astronomical (0 is 1
+/// BC), months 1 to 12, days 1 to 31. The day of the week is 0 for Monday to 6 for Sunday, also before day 0.
+/// Every function throws `OverflowError` if a result does not fit 32 bits.
 namespace ravo::DIUtils {
 
-/// A day, by its Julian Day Number.
+/// A day as its Julian Day Number.
 using TJulianDate = std::int32_t;
-/// Where a day is kept.
+/// A pointer to a day.
 using PJulianDate = TJulianDate*;
 
 // Conversion.
 
-/// The Julian date of year, month and day by the formula of Fliegel and Van Flandern, for any numbers: a day
-/// beyond its month counts on. It is the calendar's from 1 March -4800 on.
+/// Returns the Julian date of a year, month and day, by the formula of Fliegel and Van Flandern.
+///
+/// Any numbers are accepted; a day past the end of its month runs on into the next one. The result agrees
+/// with the calendar from 1 March -4800 on.
 [[nodiscard]] RAVO_API TJulianDate YmdToJulianDate(std::int32_t year, std::uint16_t month, std::uint16_t day);
 
-/// The parts of a date, right for every day of the years -4800 and after. `RangeError` where the formula
-/// gives a negative month or day (far before); the parts are then as they were.
+/// Sets `year`, `month` and `day` to the parts of a date, exact from the year -4800 on.
+///
+/// Throws `RangeError` if the formula gives a negative month or day, which happens far before that; the parts
+/// are then unchanged.
 RAVO_API void JulianDateToYmd(TJulianDate date, std::int32_t& year, std::uint16_t& month, std::uint16_t& day);
 
-/// The day of the month, 1 to 31.
+/// Returns the day of the month, 1 to 31.
 [[nodiscard]] RAVO_API std::uint16_t DayOfJulianDate(TJulianDate date);
-/// The month, 1 to 12.
+/// Returns the month, 1 to 12.
 [[nodiscard]] RAVO_API std::uint16_t MonthOfJulianDate(TJulianDate date);
-/// The year of a date.
+/// Returns the year.
 [[nodiscard]] RAVO_API std::int32_t YearOfJuilanDate(TJulianDate date);
 
-/// The compact form, year * 10000 + month * 100 + day: 20240331. `RangeError` where that is negative.
+/// Returns the compact form of a date, year * 10000 + month * 100 + day: 20240331. Throws `RangeError` if it
+/// is negative.
 [[nodiscard]] RAVO_API std::uint32_t YmdToIsoDate(std::int32_t year, std::uint16_t month, std::uint16_t day);
-/// The compact form in decimal, padded with "0" to eight digits: "09990102". `RangeError` as above.
+/// Returns the compact form in decimal, zero-padded to eight digits: "09990102". Throws `RangeError` if it is
+/// negative.
 [[nodiscard]] RAVO_API std::string YmdToIsoDateA(std::int32_t year, std::uint16_t month, std::uint16_t day);
 [[nodiscard]] RAVO_API std::u16string YmdToIsoDateW(std::int32_t year, std::uint16_t month,
                                                     std::uint16_t day);
-/// The compact form of a day, as a number or as text. `RangeError` where it is negative.
+/// Returns the compact form of a day as a number or a text. Throws `RangeError` if it is negative.
 [[nodiscard]] RAVO_API std::uint32_t JulianDateToIsoDate(TJulianDate date);
 [[nodiscard]] RAVO_API std::string JulianDateToIsoDateA(TJulianDate date);
 [[nodiscard]] RAVO_API std::u16string JulianDateToIsoDateW(TJulianDate date);
 
-/// The three parts of a compact date as they stand, whether there is such a day or not.
+/// Sets `year`, `month` and `day` to the three parts of a compact date, whether there is such a day or not.
 RAVO_API void ISODateToYmd(std::uint32_t iso_date, std::int32_t& year, std::uint16_t& month,
                            std::uint16_t& day) noexcept;
-/// The day that a compact date names; a day beyond its month counts on.
+/// Returns the day of a compact date; a day past the end of its month runs on into the next one.
 [[nodiscard]] RAVO_API TJulianDate ISODateToJulianDate(std::uint32_t iso_date);
 
 // Weeks.
 
-/// 0 for Monday to 6 for Sunday.
+/// Returns the day of the week, 0 for Monday to 6 for Sunday.
 [[nodiscard]] RAVO_API std::int32_t DayOfWeek(TJulianDate date) noexcept;
 [[nodiscard]] RAVO_API std::int32_t DayOfWeekYmd(std::int32_t year, std::uint16_t month, std::uint16_t day);
 
-/// Whether the day is a Monday to Friday.
+/// Returns whether the day is a Monday to Friday.
 [[nodiscard]] RAVO_API bool JulianDateIsWeekDay(TJulianDate date) noexcept;
 
-/// The Monday and the Sunday of a day's week.
+/// Returns the Monday, or the Sunday, of the week of a day.
 [[nodiscard]] RAVO_API TJulianDate FirstDayOfWeek(TJulianDate date);
 [[nodiscard]] RAVO_API TJulianDate LastDayOfWeek(TJulianDate date);
 RAVO_API void FirstDayOfWeekYmd(std::int32_t& year, std::uint16_t& month, std::uint16_t& day);
 RAVO_API void LastDayOfWeekYmd(std::int32_t& year, std::uint16_t& month, std::uint16_t& day);
 
-/// The ISO 8601 week, 1 to 53.
+/// Returns the ISO 8601 week, 1 to 53.
 [[nodiscard]] RAVO_API std::int32_t ISOWeekNumber(TJulianDate date);
 [[nodiscard]] RAVO_API std::int32_t ISOWeekNumberYmd(std::int32_t year, std::uint16_t month,
                                                      std::uint16_t day);
-/// A day of an ISO week; `day_of_week` is 0 for Monday. Weeks and days beyond their range count on.
+/// Returns a day of an ISO 8601 week; `day_of_week` is 0 for Monday. Weeks and days out of range run on.
 [[nodiscard]] RAVO_API TJulianDate ISOWeekToJulianDate(std::int32_t iso_year, std::int32_t week,
                                                        std::int32_t day_of_week);
 
 // Months and years.
 
-/// The Gregorian rule; negative years follow it too.
+/// Returns whether `year` is a leap year of the Gregorian calendar; negative years follow the same rule.
 [[nodiscard]] RAVO_API bool IsLeapYear(std::int32_t year) noexcept;
 
-/// `RangeError` for a month outside 1 to 12.
+/// Returns the number of days of a month. Throws `RangeError` for a month outside 1 to 12.
 [[nodiscard]] RAVO_API std::uint16_t DaysInMonthYm(std::int32_t year, std::uint16_t month);
 [[nodiscard]] RAVO_API std::uint16_t DaysInMonth(TJulianDate date);
 
-/// The first and the last day of a day's month.
+/// Returns the first, or the last, day of the month of a day.
 [[nodiscard]] RAVO_API TJulianDate FirstDayOfMonth(TJulianDate date);
 [[nodiscard]] RAVO_API TJulianDate LastDayOfMonth(TJulianDate date);
-/// Always 1.
+/// Sets `day` to 1.
 RAVO_API void FirstDayOfMonthYmd(std::int32_t year, std::uint16_t month, std::uint16_t& day) noexcept;
-/// `RangeError` for a month outside 1 to 12.
+/// Sets `day` to the last day of a month. Throws `RangeError` for a month outside 1 to 12.
 RAVO_API void LastDayOfMonthYmd(std::int32_t year, std::uint16_t month, std::uint16_t& day);
 
-/// Whether the month has such a day. Any year is accepted; never raises.
+/// Returns whether the month has such a day. Any year is accepted; never throws.
 [[nodiscard]] RAVO_API bool IsDateValid(std::int32_t year, std::uint16_t month, std::uint16_t day) noexcept;
 
-/// The next day. `RangeError` for a month outside 1 to 12. Here and below the parts stay as they were where
-/// an error is raised.
+/// Advances the date to the next day. Throws `RangeError` for a month outside 1 to 12. If this or any of the
+/// functions below throws, the parts are unchanged.
 RAVO_API void IncDay(std::int32_t& year, std::uint16_t& month, std::uint16_t& day);
-/// The day `count` days later, or earlier when negative.
+/// Advances the date by `count` days; a negative `count` goes back.
 RAVO_API void IncDays(std::int32_t& year, std::uint16_t& month, std::uint16_t& day, std::int32_t count);
-/// The same day one month later, or the month's last where it has no such day.
+/// Advances the date by one month. A day past the end of the new month becomes its last day.
 RAVO_API void IncMonth(std::int32_t& year, std::uint16_t& month, std::uint16_t& day);
-/// The same day `count` months later, or earlier when negative; or the month's last.
+/// Advances the date by `count` months; a negative `count` goes back. A day past the end of the new month
+/// becomes its last day.
 RAVO_API void IncMonths(std::int32_t& year, std::uint16_t& month, std::uint16_t& day, std::int32_t count);
 
-// Feasts and today.
+// Holidays; the current date.
 
-/// Easter Sunday, exact for the years 1900 to 2099; a formula without century terms continues outside them,
-/// with remainders from 0 upwards for negative years too.
+/// Returns Easter Sunday, exact for the years 1900 to 2099.
+///
+/// Outside them a formula without century terms continues, with non-negative remainders for negative years
+/// too.
 [[nodiscard]] RAVO_API TJulianDate EasterSunday(std::int32_t year);
 RAVO_API void EasterSundayYmd(std::int32_t year, std::uint16_t& month, std::uint16_t& day);
 
-/// Sundays, 1 January, 1 May, 3 October, 24, 25, 26 and 31 December, Good Friday, Easter Monday, Ascension
-/// Day and Whit Monday.
+/// Returns whether a day is a holiday: Sundays, 1 January, 1 May, 3 October, 24, 25, 26 and 31 December, Good
+/// Friday, Easter Monday, Ascension Day and Whit Monday.
 [[nodiscard]] RAVO_API bool IsHolidayInGermany(TJulianDate date);
 [[nodiscard]] RAVO_API bool IsHolidayInGermanyYmd(std::int32_t year, std::uint16_t month, std::uint16_t day);
 
-/// From the local date of the system's clock.
+/// Returns the day of the month of the current local date.
 [[nodiscard]] RAVO_API std::uint16_t CurrentDay();
-/// The month, 1 to 12.
+/// Returns the current month, 1 to 12.
 [[nodiscard]] RAVO_API std::uint16_t CurrentMonth();
-/// The year.
+/// Returns the current year.
 [[nodiscard]] RAVO_API std::int32_t CurrentYear();
-/// 1 to 4.
+/// Returns the current quarter, 1 to 4.
 [[nodiscard]] RAVO_API std::uint16_t CurrentQuarter();
-/// Today.
+/// Returns the current local date as a Julian date.
 [[nodiscard]] RAVO_API TJulianDate CurrentJulianDate();
 
 }  // namespace ravo::DIUtils

@@ -10,13 +10,14 @@
 namespace ravo::DIUtils {
 namespace {
 
-// Years begin in March here, so that the leap day is the last: the first of them is March -4800.
+// Years begin in March here, so that the leap day is the last day of a year. The first one begins in March
+// -4800.
 constexpr std::int32_t kFirstMarch = -32044;
 constexpr std::uint32_t kYearsOfEveryday = 1469873;
 constexpr std::uint32_t kDaysOfEveryday = 536834387;
 
-// What a month adds: the days before it in the year from March, and the years from March -4800 to March 0,
-// one less for the months before March.
+// The contribution of a month: the days before it in a year that begins in March, and the years from March
+// -4800 to March 0, one less for the months before March.
 struct MonthStart {
   std::uint32_t days;
   std::uint32_t years;
@@ -36,7 +37,7 @@ constexpr std::array<MonthStart, 13> kMonthStarts = {{{0, 0},
                                                       {245, 4800},
                                                       {275, 4800}}};
 
-// Day and month of a day of the year from March, and 1 where January has passed.
+// The day and month of a day of the year that begins in March, and 1 from January on.
 struct alignas(4) DayOfYear {
   std::uint8_t day;
   std::uint8_t month;
@@ -50,7 +51,7 @@ constexpr std::array<DayOfYear, 366> MakeDaysOfYear() {
     const std::uint32_t first = kMonthStarts[month].days;
     for (std::uint8_t day = 1; day <= 31 && first + day <= days.size(); ++day) {
       DayOfYear& entry = days[first + day - 1];
-      // A later month takes what is beyond the end of the one before.
+      // A later month overwrites the days past the end of the previous one.
       if (entry.day == 0 || day < entry.day) entry = {day, month, month < 3};
     }
   }
@@ -59,7 +60,7 @@ constexpr std::array<DayOfYear, 366> MakeDaysOfYear() {
 
 constexpr std::array<DayOfYear, 366> kDaysOfYear = MakeDaysOfYear();
 
-// Apart, so that the way of everyday dates saves no registers for it.
+// Out of line: keeps register pressure low on the hot path of common dates.
 [[gnu::noinline, gnu::cold]] void SplitFarDate(TJulianDate date, std::int32_t& year, std::uint16_t& month,
                                                std::uint16_t& day) {
   const utils::JulianParts parts = utils::JulianPartsByFormula(date);
@@ -69,7 +70,7 @@ constexpr std::array<DayOfYear, 366> kDaysOfYear = MakeDaysOfYear();
   year = parts.year;
 }
 
-// Digits of the compact form: a year of 214748 at most, and four more.
+// The digits of the compact form: a year of at most 214748, and four more.
 template <class Text>
 Text PaddedDecimal(std::uint32_t value) {
   constexpr std::size_t kDigits = 8;
@@ -99,7 +100,7 @@ void JulianDateToYmd(TJulianDate date, std::int32_t& year, std::uint16_t& month,
   if (days >= kDaysOfEveryday) [[unlikely]]
     return SplitFarDate(date, year, month, day);
   const std::uint32_t centuries = (4 * days + 3) / 146097;
-  // With the leap days of the full centuries put back, every fourth year has one.
+  // With the leap days of the full centuries added back, every fourth year is a leap year.
   const std::uint32_t evened = days + centuries - centuries / 4;
   const std::uint32_t years = (4 * evened + 3) / 1461;
   const DayOfYear& entry = kDaysOfYear[evened - 1461 * years / 4];

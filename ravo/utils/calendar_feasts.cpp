@@ -31,14 +31,14 @@ bool IsFixedHoliday(const utils::Ymd& date) {
 }
 
 // Good Friday, Easter Monday, Ascension Day, Whit Monday.
-bool IsFeastAfterEaster(std::int32_t days) { return days == -2 || days == 1 || days == 39 || days == 50; }
+bool IsHolidayByEaster(std::int32_t days) { return days == -2 || days == 1 || days == 39 || days == 50; }
 
 DateParts Today() { return SplitDateTime(platform::Locale().Now()).date; }
 
 }  // namespace
 
 TJulianDate EasterSunday(std::int32_t year) {
-  // The paschal full moon, in days from the end of February.
+  // The paschal full moon, in days after the end of February.
   std::int32_t moon = Modulo(234 - 11 * Modulo(year, 19), 30) + 21;
   if (moon > 48) --moon;
   // Kept: Easter has no century terms: it is exact from 1900 to 2099, and 27 March for 2100. Test:
@@ -57,7 +57,7 @@ void EasterSundayYmd(std::int32_t year, std::uint16_t& month, std::uint16_t& day
 bool IsHolidayInGermany(TJulianDate date) {
   if (DayOfWeek(date) == kSunday) return true;
   const utils::Ymd parts = utils::PartsOf(date);
-  return IsFixedHoliday(parts) || IsFeastAfterEaster(date - EasterSunday(parts.year));
+  return IsFixedHoliday(parts) || IsHolidayByEaster(date - EasterSunday(parts.year));
 }
 
 bool IsHolidayInGermanyYmd(std::int32_t year, std::uint16_t month, std::uint16_t day) {

@@ -3,7 +3,8 @@
 
 namespace ravo::utils {
 
-// Fliegel and Van Flandern. Beyond the first product nothing can leave its range: month and day have 16 bits.
+// The formula of Fliegel and Van Flandern. After the first product nothing can overflow: month and day have
+// 16 bits.
 std::int32_t JulianDateByFormula(std::int32_t year, std::int32_t month, std::int32_t day) {
   const std::int32_t a = (month - 14) / 12;
   const std::int32_t years = CheckedAdd(CheckedAdd(year, 4800), a);
@@ -27,7 +28,7 @@ JulianParts JulianPartsByFormula(std::int32_t date) {
   return {100 * (n - 49) + i + l, j + 2 - 12 * l, day};
 }
 
-// Days of 400, 100 and 4 years are taken out in turn.
+// Removes whole periods of 400, 100 and 4 years in turn.
 std::int32_t IsoWeekByFormula(std::int32_t date) {
   const std::int32_t monday = CheckedAdd(date, 31741) - Modulo(date, 7);
   const std::int32_t d4 = Modulo(monday, 146097) % 36524 % 1461;

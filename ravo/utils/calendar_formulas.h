@@ -2,8 +2,8 @@
 
 #include <cstdint>
 
-/// The conversions of the calendar as they are defined, step by step in checked 32-bit arithmetic. The
-/// exported ones answer the same faster where the date is an everyday one, and call these for the rest.
+/// The calendar conversions as defined, step by step in checked 32-bit arithmetic. The exported functions
+/// give the same results faster for common dates and call these for the others.
 namespace ravo::utils {
 
 struct JulianParts {
@@ -12,14 +12,14 @@ struct JulianParts {
   std::int32_t day = 0;
 };
 
-/// Raises `OverflowError` where a step leaves 32 bits.
+/// Throws `OverflowError` if an intermediate result does not fit 32 bits.
 [[nodiscard]] std::int32_t JulianDateByFormula(std::int32_t year, std::int32_t month, std::int32_t day);
 [[nodiscard]] JulianParts JulianPartsByFormula(std::int32_t date);
 
 /// The ISO 8601 week.
 [[nodiscard]] std::int32_t IsoWeekByFormula(std::int32_t date);
 
-/// dividend modulo divisor, 0 to divisor - 1 for negative dividends too.
+/// Returns dividend modulo divisor, from 0 to divisor - 1 for negative dividends too.
 [[nodiscard]] constexpr std::int32_t Modulo(std::int32_t dividend, std::int32_t divisor) noexcept {
   const std::int32_t remainder = dividend % divisor;
   return remainder < 0 ? remainder + divisor : remainder;

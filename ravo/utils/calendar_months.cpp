@@ -19,7 +19,7 @@ std::uint16_t LengthOf(std::int32_t year, std::uint16_t month) {
   return kMonthLengths[IsLeapYear(year) ? 1 : 0][month - 1u];
 }
 
-// 0 is December of the year before, 13 January of the year after, and so on.
+// Normalizes a month number: 0 is December of the previous year, 13 January of the next one, and so on.
 utils::Ymd WithMonthCounted(std::int32_t year, std::int32_t month) {
   if (month > kMonths) {
     const auto rest = static_cast<std::uint16_t>(month % kMonths);

@@ -13,7 +13,8 @@ namespace {
 
 constexpr std::int32_t kDaysOfWeek = 7;
 
-// Days from Monday, 1 January -4799 on: the first of a four-year group, of a century and of 400 years.
+// Days are counted from Monday, 1 January -4799: the first day of a four-year group, of a century and of 400
+// years.
 constexpr std::uint32_t kBeforeEveryday = 31738;
 constexpr std::uint32_t kDaysOfEverydayWeek = std::uint32_t{1} << 29;
 
@@ -43,7 +44,7 @@ std::int32_t ISOWeekNumber(TJulianDate date) {
   const std::uint32_t days = static_cast<std::uint32_t>(date) + kBeforeEveryday;
   if (days >= kDaysOfEverydayWeek) [[unlikely]]
     return utils::IsoWeekByFormula(date);
-  // The year that the week's Thursday lies in decides, and which day of it that is.
+  // The Thursday of a week decides its year, and the position of that Thursday in the year its number.
   const std::uint32_t thursday = days / 7 * 7 + 3;
   const std::uint32_t centuries = (4 * thursday + 3) / 146097;
   const std::uint32_t evened = thursday + centuries - centuries / 4;

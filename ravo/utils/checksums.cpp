@@ -4,7 +4,7 @@
 
 #include <bit>
 
-// UTF-16 units are read as the bytes that they stand in.
+// UTF-16 units are read in their memory layout.
 static_assert(std::endian::native == std::endian::little);
 
 namespace ravo::DIUtils {

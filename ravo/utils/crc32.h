@@ -6,14 +6,14 @@
 
 namespace ravo {
 
-/// What a CRC-32 register holds before the first byte.
+/// The initial value of a CRC-32 register.
 inline constexpr std::uint32_t kCrc32Start = 0xFFFFFFFF;
 
-/// Carries the register of the CRC-32 of ISO-HDLC and IEEE 802.3 (reflected polynomial 0xEDB88320) over
-/// `bytes`. A text may come in pieces; the register after one is where the next one starts.
+/// Returns the register of the CRC-32 of ISO-HDLC and IEEE 802.3 (reflected polynomial 0xEDB88320) after
+/// `bytes`. Data may come in blocks: pass the register of one block to the next call.
 [[nodiscard]] std::uint32_t UpdateCrc32(std::uint32_t crc, std::span<const std::byte> bytes) noexcept;
 
-/// The checksum of `bytes`: the complement of the register behind the last one. 0 for none.
+/// Returns the checksum of `bytes`, the complement of the register after the last byte. 0 for no bytes.
 [[nodiscard]] inline std::uint32_t Crc32(std::span<const std::byte> bytes) noexcept {
   return ~UpdateCrc32(kCrc32Start, bytes);
 }

@@ -13,7 +13,7 @@ using utils::Wide;
 
 constexpr std::u16string_view kCurrentVersion = u"Software\\Microsoft\\Windows NT\\CurrentVersion";
 
-bool IsBehindASentence(char16_t unit) { return unit < 33 || unit == u'.'; }
+bool EndsSentence(char16_t unit) { return unit < 33 || unit == u'.'; }
 
 }  // namespace
 
@@ -50,7 +50,7 @@ std::u16string SysErrorMessage(std::uint32_t code) { return SysErrorMessageW(cod
 std::string SysErrorMessageA(std::uint32_t code) { return WStrToAStr(SysErrorMessageW(code)); }
 std::u16string SysErrorMessageW(std::uint32_t code) {
   std::u16string text = platform::Diagnostics().ErrorText(code);
-  while (!text.empty() && IsBehindASentence(text.back())) text.pop_back();
+  while (!text.empty() && EndsSentence(text.back())) text.pop_back();
   return text;
 }
 

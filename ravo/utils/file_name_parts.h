@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <string_view>
 
-/// The parts of a file's name as views of it; "\" and ":" end its folders.
+/// The parts of a file name as views of it; "\" and ":" end its folders.
 namespace ravo::utils {
 
 template <class Char>

@@ -11,7 +11,7 @@ namespace {
 using platform::FilePurpose;
 using utils::Wide;
 
-// The years that times of files can have.
+// The range of years of file times.
 constexpr std::int32_t kFirstYear = 1601;
 constexpr std::int32_t kLastYear = 30827;
 
@@ -32,7 +32,7 @@ std::int64_t GetFileSizeW(std::u16string_view name) {
 }
 
 bool SetFileDate(FileHandle file, std::int32_t year, std::uint16_t month, std::uint16_t day) {
-  // Not every system refuses such days.
+  // Not every system rejects such days.
   if (year < kFirstYear || year > kLastYear || !IsDateValid(year, month, day)) return false;
   return platform::Files().SetTimes(file, static_cast<std::uint16_t>(year), month, day);
 }
@@ -51,7 +51,7 @@ bool SetFileDateYmdW(std::u16string_view name, std::int32_t year, std::uint16_t 
 bool SetFileDate(std::u16string_view name, TJulianDate date) { return SetFileDateW(name, date); }
 bool SetFileDateA(std::string_view name, TJulianDate date) { return SetFileDateW(Wide(name), date); }
 bool SetFileDateW(std::u16string_view name, TJulianDate date) {
-  // The calendar's formulas do not reach every day.
+  // The calendar's formulas do not cover every day.
   if (date < YmdToJulianDate(kFirstYear, 1, 1) || date > YmdToJulianDate(kLastYear, 12, 31)) return false;
   std::int32_t year = 0;
   std::uint16_t month = 0;

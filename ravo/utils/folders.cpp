@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::size_t kShortestFolder = 3;
 
-// "C:", and what no system can delete without what is on it.
+// A drive, such as "C:": no system can delete one itself.
 bool IsDrive(std::u16string_view folder) { return folder.size() == 2 && folder.back() == u':'; }
 
 std::int64_t SpaceOf(std::u16string_view folder, std::int64_t platform::DiskSpace::*part) {
@@ -33,7 +33,7 @@ bool DirectoryExistsW(std::u16string_view folder) {
 bool ForceDirectories(std::u16string_view folder) { return ForceDirectoriesW(folder); }
 bool ForceDirectoriesA(std::string_view folder) { return ForceDirectoriesW(Wide(folder)); }
 bool ForceDirectoriesW(std::u16string_view folder) {
-  // The folder before its parents: they are made in the opposite order.
+  // A folder comes before its parents: they are created in reverse order.
   std::vector<std::u16string_view> missing;
   while (!DirectoryExistsW(folder)) {
     folder = utils::WithoutDelimiter(folder);

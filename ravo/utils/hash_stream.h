@@ -10,20 +10,20 @@
 
 namespace ravo {
 
-/// `HashBuf` and `HashBufIA` over bytes that come in pieces: the same value for the same bytes.
+/// Computes `HashBuf` or `HashBufIA` of bytes that come in blocks: the result depends only on the bytes.
 class RAVO_API HashStream {
  public:
-  /// Which bytes are hashed: those given, or their upper case by `ANSI_UPPER_CHAR_TABLE`.
+  /// The bytes to hash: as given, or in upper case by `ANSI_UPPER_CHAR_TABLE`.
   enum class Letters : std::uint8_t { AsTheyAre, InUpperCase };
 
-  /// `initial` chooses one of many independent hash functions.
+  /// `initial` selects one of many independent hash functions.
   explicit HashStream(std::uint32_t initial = 0, Letters letters = Letters::AsTheyAre) noexcept
       : state_{.c = initial}, letters_(letters) {}
 
-  /// The next bytes.
+  /// Adds bytes.
   void Update(std::span<const std::byte> bytes) noexcept;
 
-  /// The hash of all bytes so far. More may follow.
+  /// Returns the hash of all bytes so far. More may follow.
   [[nodiscard]] std::uint32_t Value() const noexcept;
 
  private:

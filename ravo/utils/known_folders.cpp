@@ -17,7 +17,7 @@ constexpr std::int32_t kDesktop = 0;
 constexpr std::int32_t kPersonal = 5;
 constexpr std::int32_t kDesktopDirectory = 16;
 
-// A name that the system gave, in the form that the functions of names take apart.
+// Returns a name of the system in the form that the functions of file names take.
 std::u16string InOurForm(std::u16string name) {
   std::ranges::replace(name, platform::Paths().PathDelimiter(), u'\\');
   return name;

@@ -3,10 +3,10 @@
 #include <cstddef>
 #include <cstdint>
 
-/// Bob Jenkins' hash of 1996 over bytes and over UTF-16 units, with what happens to each of them as a policy.
+/// Bob Jenkins' hash of 1996 over bytes and over UTF-16 units; a policy maps each byte or unit first.
 namespace ravo::utils {
 
-/// Bytes are taken in pieces of this size.
+/// Bytes are hashed in blocks of this size.
 inline constexpr std::size_t kLookup2Piece = 12;
 
 inline constexpr auto AsItIs = [](std::uint8_t byte) { return byte; };
@@ -42,7 +42,7 @@ struct Lookup2State {
   }
 };
 
-/// The hash behind the last whole piece, with the `left` bytes that follow it and the length of all.
+/// Returns the hash: mixes in the `left` bytes after the last whole block, and the length of all bytes.
 template <class Fold>
 [[nodiscard]] constexpr std::uint32_t FinishedLookup2(Lookup2State state, const std::uint8_t* bytes,
                                                       std::size_t left, std::uint32_t count,

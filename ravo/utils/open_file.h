@@ -6,7 +6,7 @@
 
 namespace ravo::utils {
 
-/// A file that is open for as long as this object lives.
+/// Owns an open file and closes it on destruction.
 class OpenFile {
  public:
   OpenFile(std::u16string_view name, platform::FilePurpose purpose)
@@ -20,7 +20,7 @@ class OpenFile {
   [[nodiscard]] bool IsOpen() const noexcept { return handle_ != kNoFile; }
   [[nodiscard]] FileHandle Handle() const noexcept { return handle_; }
 
-  /// Closes the file before its time; false where what was written to it is not safe.
+  /// Closes the file early; returns false if the system cannot confirm that all data was written.
   bool Close() {
     const FileHandle handle = handle_;
     handle_ = kNoFile;

@@ -26,14 +26,14 @@ constexpr std::uint32_t Tempered(std::uint32_t word) {
 
 std::uint32_t Scrambled(std::uint32_t word) { return word ^ (word >> 30); }
 
-// mantissa * 2^exponent for a mantissa of 53 bits, or of 2^53 after a carry, as the stored form of a normal
-// double: its hidden bit adds one to the exponent.
+// Returns mantissa * 2^exponent as the bits of a normal double. The mantissa has 53 bits, or is 2^53 after a
+// carry; its hidden bit adds one to the exponent.
 double Real(std::uint64_t mantissa, int exponent) {
   constexpr int kBias = 1074;
   return std::bit_cast<double>((static_cast<std::uint64_t>(exponent + kBias) << 52) + mantissa);
 }
 
-// value / 2^bits, exactly, for values of at most 53 bits.
+// Returns value / 2^bits, exactly, for values of at most 53 bits.
 double Fraction(std::uint64_t value, int bits) {
   if (value == 0) return 0;
   const int shift = std::countl_zero(value) - 11;
@@ -63,7 +63,7 @@ void TMT19937::init_genrand(std::uint32_t seed) noexcept {
   index_ = kWords;
 }
 
-// The first word is where the last one goes on, each time round.
+// Each round continues in the first word with the value of the last one.
 template <class Key>
 void TMT19937::SeedByKeys(std::span<const Key> keys, std::size_t steps) noexcept {
   init_genrand(kArraySeed);
@@ -100,8 +100,7 @@ void TMT19937::init_by_StrA(std::string_view seed) {
   SeedByKeys(keys, std::max<std::size_t>(kWords, seed.size() + 1));
 }
 
-// In three pieces, each of which reads behind what it writes, so that the compiler can take several words at
-// once.
+// Three loops: none reads a word that it wrote in the last 227 steps, so the compiler can vectorize them.
 void TMT19937::Regenerate() noexcept {
   if (index_ == kNeverSeeded) init_genrand(kDefaultSeed);
   std::uint32_t* const state = state_.data();
@@ -130,8 +129,7 @@ std::int64_t TMT19937::genrand_int64() {
   return high << 32 | low;
 }
 
-// The quotient by 2^32 - 1 repeats the 32 bits of the draw for ever, so no tie can be among the bits that
-// are cut off.
+// The quotient by 2^32 - 1 repeats the 32 bits of the draw forever, so the bits cut off are never a tie.
 double TMT19937::genrand_real1() noexcept {
   const std::uint64_t draw = genrand_int32();
   if (draw == 0) return 0;

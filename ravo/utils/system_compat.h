@@ -4,8 +4,7 @@
 
 namespace ravo::utils {
 
-/// The operating system as the module `DISystemCompat` records it when it starts. Nothing in the library
-/// reads the record.
+/// The version of the operating system, recorded when the module starts. Nothing in the library reads it.
 struct SystemRecord {
   std::uint32_t platform_id = 0;
   std::uint32_t major = 0;

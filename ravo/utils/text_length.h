@@ -8,8 +8,8 @@
 
 namespace ravo::utils {
 
-/// `length` as the length of a text; `RangeError` where no text of that kind has it. The standard library's
-/// own error for that is none of ours.
+/// Returns `length` as the length of a text. Throws `RangeError` if it is negative or exceeds the length of
+/// any text, rather than the standard library's own error.
 template <class Char>
 [[nodiscard]] std::size_t CheckedLength(std::ptrdiff_t length) {
   if (length < 0 || std::cmp_greater(length, std::basic_string<Char>().max_size())) {

@@ -20,7 +20,7 @@ static_assert(std::endian::native == std::endian::little, "units are stored low 
 
 constexpr std::size_t kSmallestBuffer = 4096;
 
-// Makes room for `bytes` bytes, which are counted in 31 bits.
+// Resizes the text to `bytes` bytes, counted in 31 bits.
 template <class Char>
 std::span<std::byte> Room(std::basic_string<Char>& text, std::int64_t bytes) {
   const auto count = static_cast<std::size_t>(CheckedCast<std::int32_t>(bytes));
@@ -28,13 +28,13 @@ std::span<std::byte> Room(std::basic_string<Char>& text, std::int64_t bytes) {
   return std::as_writable_bytes(std::span(text)).first(count);
 }
 
-// More than `bytes`: twice as many where that is allowed.
+// Returns a larger size: twice `bytes` if that is allowed.
 std::int64_t GrownFrom(std::int64_t bytes) {
   constexpr std::int64_t most = std::numeric_limits<std::int32_t>::max();
   return std::max(bytes + 1, std::min(2 * bytes, most));
 }
 
-// Reads from the file to its end, which its size only suggests: some files have none and others grow.
+// Reads to the end of the file. Its size is only a hint: some files report none and others grow.
 template <class Char>
 bool ReadAll(FileHandle file, std::int64_t size, std::basic_string<Char>& text) {
   const platform::FileCalls& files = platform::Files();

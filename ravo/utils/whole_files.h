@@ -8,36 +8,39 @@
 #include <string>
 #include <string_view>
 
-/// Whole files as texts and bytes, taken and written as they are: no byte-order mark is recognised, removed
-/// or written. Names are as `utils/files.h` says; the "A" or "W" behind "Str" is the text's, the one at the
-/// end the name's. Saving replaces what a file held; where it fails, the file may be there in part.
+/// Whole files as texts and bytes, unchanged: a byte-order mark is neither recognized, removed nor written.
+/// Names are as `utils/files.h` says. The "A" or "W" after "Str" is the kind of the text, the one at the end
+/// that of the name. Saving replaces the contents of a file; if it fails, part of the file may have been
+/// written.
 namespace ravo::DIUtils {
 
-/// The bytes of a file. False, and `text` as it was, where the file cannot be opened or read. Raises
-/// `RangeError` for 2 GiB and more.
+/// Reads the bytes of a file into `text`. Returns false and leaves `text` unchanged if the file cannot be
+/// opened or read. Throws `RangeError` for 2 GiB and more.
 RAVO_API bool LoadStrAFromFile(std::u16string_view name, std::string& text);
 RAVO_API bool LoadStrAFromFileA(std::string_view name, std::string& text);
 RAVO_API bool LoadStrAFromFileW(std::u16string_view name, std::string& text);
 
-/// The UTF-16 units of a file, low byte first; half a unit at its end is left out. False and errors as above.
+/// Reads the little-endian UTF-16 units of a file into `text`; an odd last byte is dropped. Fails and throws
+/// as above.
 RAVO_API bool LoadStrWFromFileA(std::string_view name, std::u16string& text);
 RAVO_API bool LoadStrWFromFileW(std::u16string_view name, std::u16string& text);
 
-/// Writes `count` bytes to an open file where it stands; it stays open. False where not all were written.
+/// Writes `count` bytes at the position of an open file, which stays open. Returns false if not all were
+/// written.
 RAVO_API bool SaveBufToFile(const void* bytes, std::size_t count, FileHandle file);
 
-/// Makes a file of `count` bytes. True only where opening, writing all and closing succeeded.
+/// Writes a file of `count` bytes. Returns true only if opening, writing and closing all succeed.
 RAVO_API bool SaveBufToFile(const void* bytes, std::size_t count, std::u16string_view name);
 RAVO_API bool SaveBufToFileA(const void* bytes, std::size_t count, std::string_view name);
 RAVO_API bool SaveBufToFileW(const void* bytes, std::size_t count, std::u16string_view name);
 
-/// The same with the bytes of a text.
+/// Writes a file with the bytes of a text.
 RAVO_API bool SaveStrAToFile(std::string_view text, std::u16string_view name);
 RAVO_API bool SaveStrAToFileA(std::string_view text, std::string_view name);
 RAVO_API bool SaveStrAToFileW(std::string_view text, std::u16string_view name);
 
-/// The same with the UTF-16 units of a text, low byte first. Raises `RangeError` for 2^31 units and more,
-/// `OverflowError` from 2^30 on.
+/// Writes a file with the little-endian UTF-16 units of a text. Throws `RangeError` for 2^31 units and more,
+/// else `OverflowError` from 2^30 units on.
 RAVO_API bool SaveStrWToFile(std::u16string_view text, std::u16string_view name);
 RAVO_API bool SaveStrWToFileA(std::u16string_view text, std::string_view name);
 RAVO_API bool SaveStrWToFileW(std::u16string_view text, std::u16string_view name);

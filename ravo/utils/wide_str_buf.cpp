@@ -17,9 +17,8 @@ std::uint32_t Grown(std::uint32_t capacity, std::size_t count) {
   return CheckedAdd(CheckedAdd(capacity, static_cast<std::uint32_t>(count)), kSlack);
 }
 
-// The bytes of the block for a capacity: up to a quarter more than it needs. The block has to move only where
-// that changes, so that a long text is not copied once for every 4096 units where the system cannot extend a
-// block in place.
+// Returns the size of the block for a capacity, up to a quarter larger. The block moves only when this
+// changes, so a long text is not copied once per 4096 units if the system cannot extend a block in place.
 std::size_t BlockSize(std::uint32_t capacity) {
   const std::uint64_t step = std::max(std::bit_floor(capacity) / 4, std::uint32_t{1});
   const std::uint64_t bytes = (capacity + step - 1) / step * step * sizeof(char16_t);

@@ -11,9 +11,9 @@
 
 namespace ravo::DIUtils {
 
-/// Builds a long UTF-16 text from many small pieces. Appending grows the capacity by what is asked for and
-/// 4096 units more. It raises `std::bad_alloc` without memory and `OverflowError` where the capacity would
-/// leave 32 bits; the content is then as it was.
+/// Builds a long UTF-16 text from many small pieces. Appending grows the capacity by the required units plus
+/// 4096. It throws `std::bad_alloc` if memory runs out and `OverflowError` if the capacity does not fit 32
+/// bits; the content is then unchanged.
 class RAVO_API TWideStrBuf {
  public:
   TWideStrBuf() noexcept = default;
@@ -21,23 +21,23 @@ class RAVO_API TWideStrBuf {
   TWideStrBuf& operator=(const TWideStrBuf&) = delete;
   ~TWideStrBuf();
 
-  /// One unit more.
+  /// Appends one unit.
   void AddChar(char16_t unit) {
     if (position_ == end_) GrowBuffer(1);
     *position_++ = unit;
   }
 
-  /// Grows also where the text would fill the capacity to the last unit.
+  /// Appends a text. The capacity grows also if the text would fill it exactly.
   void AddStr(std::u16string_view text) {
     // Kept: the buffer grows also if the text just fits. Test:
     // TWideStrBuf.AddStrGrowsAlsoWhereTheTextJustFits
     if (Free() <= text.size()) GrowBuffer(text.size());
     Append(text.data(), text.size());
   }
-  /// The same with a platform's text.
+  /// Appends a platform's text.
   void AddStr(const WideString& text) { AddStr(text.View()); }
 
-  /// As `AddStr`; nothing for a null pointer.
+  /// Appends `count` units; does nothing for a null pointer.
   void AddBuf(const char16_t* units, std::uint32_t count) {
     if (units) AddStr({units, count});
   }
@@ -49,36 +49,36 @@ class RAVO_API TWideStrBuf {
     *position_++ = u'\n';
   }
 
-  /// Takes `count` units out from a 0-based index on, or all from there where there are not more. Nothing for
-  /// an index behind the last unit.
+  /// Removes `count` units from a 0-based `index` on, or all from there if there are fewer. Does nothing if
+  /// `index` is past the end.
   void Delete(std::uint32_t index, std::uint32_t count) noexcept;
 
-  /// Empties the content and keeps the memory.
+  /// Removes the content and keeps the memory.
   void Reset() noexcept { position_ = start_; }
 
-  /// Empties the content and frees the memory.
+  /// Removes the content and frees the memory.
   void Clear() noexcept;
 
-  /// UTF-16 units.
+  /// Returns the length of the content in UTF-16 units.
   [[nodiscard]] std::uint32_t GetCount() const noexcept {
     return static_cast<std::uint32_t>(position_ - start_);
   }
-  /// Whether there is no unit.
+  /// Returns whether the content is empty.
   [[nodiscard]] bool IsEmpty() const noexcept { return position_ == start_; }
-  /// Whether there are units.
+  /// Returns whether the content is not empty.
   [[nodiscard]] bool IsNotEmpty() const noexcept { return position_ > start_; }
 
-  /// A copy of the content. `RangeError` from 2^31 units on.
+  /// Returns a copy of the content. Throws `RangeError` from 2^31 units on.
   [[nodiscard]] WideString GetAsStr() const;
 
-  /// A copy of the content without the units below 33 at its end.
+  /// Returns a copy of the content without trailing units below 33.
   [[nodiscard]] WideString GetAsStrTrimRight() const;
 
  protected:
-  /// Makes the capacity larger by `count` and 4096 units.
+  /// Grows the capacity by `count` plus 4096 units.
   void GrowBuffer(std::size_t count);
 
-  /// UTF-16 units that fit without growing again.
+  /// Returns the capacity in UTF-16 units.
   [[nodiscard]] std::uint32_t Capacity() const noexcept { return static_cast<std::uint32_t>(end_ - start_); }
 
  private:

@@ -66,7 +66,7 @@ TEST(Captions, StandInTheirSets) {
   EXPECT_TRUE(std::ranges::equal(CaptionRows(), expected, {}, &CaptionRow::group));
 }
 
-// The letter behind the mark, or nothing for a caption without one.
+// Returns the letter after the accelerator mark, or an empty text.
 std::u16string_view Accelerator(std::u16string_view caption) {
   const std::size_t mark = caption.find(u'&');
   return mark == std::u16string_view::npos ? std::u16string_view() : caption.substr(mark + 1, 1);

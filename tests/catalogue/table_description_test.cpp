@@ -65,7 +65,7 @@ std::map<std::int32_t, Expected> ExpectedById() {
   return tables;
 }
 
-// The dispatcher as it is documented: each module in turn, as long as there is no answer.
+// The dispatcher as documented: asks each module in turn until one returns a text.
 std::u16string FirstAnswer(std::int32_t id) {
   std::u16string result;
   for (const ModuleLookUp& module : kModules) {

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Subjects of commits: `room: verb what` in the imperative, and of merges what they bring; at most 72 characters.
 
-Passes over, and says so, where there is no history to read: in an archive of the sources, in a shallow clone.
+Skipped with a message if there is no history: in an archive of the sources, in a shallow clone.
 """
 
 import pathlib
@@ -18,10 +18,10 @@ LONGEST = 72
 ROOM = r"\.?\w[\w./+-]*"
 CHANGE = re.compile(rf'{ROOM}(?:, {ROOM})*: (?P<verb>[a-z][\w-]*) \S.*(?<![.\s])|Revert ".+"')
 MERGE = re.compile(r"Merge .+: \S.*(?<![.\s])|Merge branch 'main' into \S+")
-# Adds, added, adding; and verbs that end so by themselves.
+# Adds, added, adding; and imperative verbs with such an ending.
 OTHER_FORM = re.compile(r"(?:ed|ing|[^su]s)$")
 VERBS = {"bring", "embed", "feed", "need", "ring", "seed", "speed", "string"}
-# The rules hold after this commit.
+# The rules apply after this commit.
 BEFORE = "5dbb2a71976659d1092659e12858c35af2684670"
 RULES = [("--no-merges", CHANGE, "room: verb what"), ("--merges", MERGE, "Merge branch 'name': what it brings")]
 
@@ -78,7 +78,7 @@ PLANTED = [
 
 
 def history(root: pathlib.Path, subject: str) -> str:
-    """A new history with a commit before the rules, which breaks them, and one after it. Returns the first."""
+    """Creates a history with a commit before the rules, which violates them, and one after it. Returns the first."""
 
     def commit(text: str, *parents: str) -> str:
         made = git(root, "-c", "user.name=a", "-c", "user.email=a@b", "commit-tree", "-m", text,

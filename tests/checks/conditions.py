@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Both sides of every #if of the library and its tools are compiled by some preset.
 
-A condition that is not in the table below is a finding: whoever writes one says here which presets compile it.
+A condition that is not in the table below is a finding: add it with the presets that compile it.
 """
 
 import json
@@ -11,24 +11,24 @@ from source_tree import code_files, main, read, without_comments
 
 PRESETS = "CMakePresets.json"
 EVERY = "linux-gcc"
-# Each condition with a preset in which it holds and one in which it does not; None where no code stands on that side,
-# or where the words beside it tell why no preset of ours can.
+# Each condition with a preset in which it holds and one in which it does not; None if that side has no code,
+# or if its comment says why no preset covers it.
 CONDITIONS = {
     "__SSE2__": ("linux-gcc", "linux-plain"),
     "__SIZEOF_INT128__": ("linux-gcc", "windows-32"),
     "_WIN32": ("windows-64", "linux-gcc"),
     "RAVO_STATIC": (EVERY, EVERY),  # each preset builds the library shared and static
-    "RAVO_BUILDING": (EVERY, EVERY),  # the library itself and whoever uses it
+    "RAVO_BUILDING": (EVERY, EVERY),  # the library itself and its users
     "RAVO_STATIC || _WIN32": (EVERY, EVERY),
     "__clang__": ("linux-clang", EVERY),
-    "__cplusplus": (EVERY, EVERY),  # the tests load the package from C too
-    "__cplusplus < 202002L": (None, EVERY),  # what must not compile is tried by the test consumers.public_headers
+    "__cplusplus": (EVERY, EVERY),  # the tests also load the package from C
+    "__cplusplus < 202002L": (None, EVERY),  # the test consumers.public_headers covers the error
     "RC_INVOKED": ("windows-32", EVERY),
     "LDBL_MANT_DIG == 64": (EVERY, None),
     "__SSE2__ && __x86_64__": (EVERY, "windows-32"),
-    "__x86_64__ || __i386__": (EVERY, None),  # processors of another kind: nobody tests them
+    "__x86_64__ || __i386__": (EVERY, None),  # other processors are not tested
 }
-# What a file of rows or a header asks for its own sake: "is my own macro defined yet?"
+# Tests of a file's own macro: "is it already defined?"
 OWN = re.compile(r"RAVO_(?:TYPE_LIBRARY|HOST_INTERFACE|HOST_CLASS|CAPTION_GROUP)$")
 IF = re.compile(r"^[ \t]*#[ \t]*(?:if|ifdef|ifndef|elif)[ \t]+([^\n]*)", re.MULTILINE)
 
@@ -44,7 +44,7 @@ def check(root):
     for path in code_files(root, "ravo", "tools"):
         for condition in conditions(path):
             if condition not in CONDITIONS and not OWN.match(condition):
-                findings.append(f"{path.relative_to(root)}: nobody knows which presets compile '#if {condition}'")
+                findings.append(f"{path.relative_to(root)}: no entry for the presets that compile '#if {condition}'")
     return findings
 
 

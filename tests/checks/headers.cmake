@@ -1,15 +1,15 @@
-# Every header compiles alone and bears being included twice; the public ones, on Windows, before and after
-# <windows.h> too, with and without UNICODE, whose macros rename whatever is called like one of its functions.
+# Every header compiles alone and can be included twice; on Windows the public ones also compile before and
+# after <windows.h>, with and without UNICODE, whose macros rename functions of the same name.
 file(GLOB_RECURSE headers CONFIGURE_DEPENDS RELATIVE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/ravo/*.h)
 if(WIN32)
   list(FILTER headers EXCLUDE REGEX "/platform/(posix|linux)/")
-  # No other room knows the system (check_layering); Linux compiles the rest.
+  # No other room depends on the system (check_layering); Linux compiles the rest.
   list(FILTER headers INCLUDE REGEX "^ravo/([^/]*\\.h$|platform/|runtime/)")
 else()
   list(FILTER headers EXCLUDE REGEX "/platform/win32/")
 endif()
 
-# Writes a file that changes only when its text does, so that nothing is compiled again for nothing.
+# Writes a file only if its text changed, so that nothing is recompiled needlessly.
 function(ravo_header_source path text)
   file(CONFIGURE OUTPUT ${path} CONTENT "${text}" @ONLY)
 endfunction()

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Who may include whom: rooms, circles, the operating system's names, and what public headers pull in."""
+"""Layering: which room may include which, cycles, names of the operating system, and the headers that public ones include."""
 
 import pathlib
 import re
@@ -14,18 +14,18 @@ PUBLIC = "ravo/*.h"
 HOST_HEADER = "ravo/package.h"
 CHARACTERS = "ravo/unicode/characters"
 EXPORT_HEADER = "ravo/runtime/export.h"
-# Rows of messages that a lower room raises too.
+# Rows of messages that a lower room uses too.
 UTILS_MESSAGES = "ravo/utils/messages.inc"
 # Parts of a room that have arrows of their own and no row in the document.
 PARTS = {HOST_HEADER, CHARACTERS, EXPORT_HEADER, UTILS_MESSAGES}
-# What a room may use beside what its row in the document says.
+# Parts that a room may use in addition to its row in the document.
 UNSAID = {
     "ravo/unicode": {"unicode/characters"},
     "ravo/runtime": {"runtime/export.h"},
     "ravo/utils": {"utils/messages.inc"},
 }
 
-# The arrows. docs/architecture.md shows the same table to people; check_document holds the two together.
+# The arrows. docs/architecture.md has the same table; check_document compares the two.
 MAY_USE: dict[str, set[str] | None] = {
     PUBLIC: ANYTHING,
     HOST_HEADER: {"runtime", "frame"},
@@ -52,7 +52,7 @@ SYSTEM_NAME = re.compile(
     r"\b(_WIN32|_WIN64|WIN32|__MINGW32__|__MINGW64__|__CYGWIN__|__linux__|__unix__|__APPLE__|_MSC_VER)\b"
 )
 SYSTEM_HEADER = re.compile(r"^(windows|winver|unistd|dlfcn|sys/.*|win(base|nt|user|reg)|ole.*|shlobj)\.h$", re.I)
-# Sources that CMake picks by the target's system say so in their name; tests mirror the library.
+# Sources that CMake selects by the target system have names that say so; tests mirror the library.
 SYSTEM_SOURCE = re.compile(r"^(ravo/platform/|tests/platform/|tests/support/|tests/\w+/(posix|linux|win32|windows_names)/)|^ravo/runtime/export\.h$|_(win32|posix)\.(cpp|c|h)$")
 C_STANDARD = {"stddef.h", "stdint.h"}
 # Vector instructions have one home, and the one job elsewhere that is made of nothing else.
@@ -70,7 +70,7 @@ def room_of(name: str) -> str | None:
         return name
     if re.fullmatch(r"ravo/[^/]+\.h", name):
         return PUBLIC
-    # `characters` is a part of the room `unicode` with arrows of its own, a folder or files of that stem.
+    # `characters` is a part of the room `unicode` with its own arrows, a folder or files of that stem.
     if re.match(r"ravo/unicode/characters[./_]", name):
         return CHARACTERS
     rooms = [room for room in MAY_USE if name.startswith(room + "/")]
@@ -157,7 +157,7 @@ def check_vector_headers(root):
 
 
 def public_files(graph: Graph) -> list[str]:
-    """What a program can reach from the public face, in a fixed order."""
+    """The headers that a program can reach from the public ones, in a fixed order."""
     reached, waiting = set(), [name for name in graph if room_of(name) in (PUBLIC, HOST_HEADER)]
     while waiting:
         name = waiting.pop()
@@ -201,7 +201,7 @@ def check_systems(graph):
 
 
 def document_table(root):
-    """Room -> the words of its 'may use' cell, from the table of docs/architecture.md."""
+    """Room -> the text of its 'may use' cell, from the table of docs/architecture.md."""
     table = {}
     for line in read(root / "docs/architecture.md").splitlines():
         cells = [cell.strip() for cell in line.strip("|").split("|")]
@@ -212,10 +212,10 @@ def document_table(root):
 
 
 def arrows_of(cell):
-    """The rooms that a cell names before its first ";", what follows being a remark."""
+    """The rooms that a cell names before its first ";"; the rest is a remark."""
     if cell == "everything":
         return ANYTHING
-    face = {PUBLIC} if cell.startswith("the public face") else set()
+    face = {PUBLIC} if cell.startswith("the public headers") else set()
     return face | set(re.findall(r"`([^`]+)`", cell.split(";")[0]))
 
 
@@ -256,7 +256,7 @@ def _document(changed=None):
         if uses is ANYTHING:
             return "everything"
         named = sorted(uses - UNSAID.get(room, set()), key=lambda use: (use != PUBLIC, use))
-        words = ", ".join("the public face" if use == PUBLIC else f"`{use}`" for use in named)
+        words = ", ".join("the public headers" if use == PUBLIC else f"`{use}`" for use in named)
         remark = "; its `characters` use `runtime/export.h` alone" if room == "ravo/unicode" else ""
         return (words or "nothing of ours") + remark
 

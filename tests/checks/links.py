@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Every link of a page inside this tree leads to a file that is there, and to a heading that it has."""
+"""Every link between pages of this tree leads to an existing file, and to an existing heading."""
 
 import re
 
@@ -15,7 +15,7 @@ def pages(root):
 
 
 def anchors(page):
-    """The names by which readers of Markdown link to the headings."""
+    """The anchors of the headings in Markdown."""
     headings = re.findall(r"^#+ (.*)$", re.sub(r"^```.*?^```$", "", page, flags=re.DOTALL | re.MULTILINE), re.MULTILINE)
     return {re.sub(r"[^\w -]", "", heading.lower()).strip().replace(" ", "-") for heading in headings}
 

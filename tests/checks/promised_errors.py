@@ -5,20 +5,20 @@ import re
 
 from source_tree import includes, main, read
 
-# For hosts in C, which know no errors.
+# For hosts in C, which have no exceptions.
 HOST_HEADERS = ("ravo/package.h", "ravo/constants.h")
 ERROR = re.compile(r"^class (?:RAVO_API )?(\w+)(?: final)? : public (?:std::exception|\w*Error)\b", re.MULTILINE)
 COMMENT = re.compile(r"//[^\n]*|/\*.*?\*/", re.DOTALL)
 
 
 def umbrellas(root):
-    """The headers that modules include, by their names; the one for hosts in C is none of them."""
+    """The headers that modules include, by name, without those for hosts in C."""
     names = sorted(f"ravo/{path.name}" for path in (root / "ravo").glob("*.h"))
     return [name for name in names if name not in HOST_HEADERS]
 
 
 def reached(root, name):
-    """A header and what it includes of ours, directly or not."""
+    """A header and the headers of ours that it includes, directly or not."""
     found, waiting = set(), [name]
     while waiting:
         header = waiting.pop()

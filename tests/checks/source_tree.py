@@ -1,4 +1,4 @@
-"""What the checks of the source tree share: reading sources, reporting, and the self-test's planted trees.
+"""Shared by the checks of the source tree: reading sources, reporting, and the self-test's planted trees.
 
 A check is a function that takes the root of a tree and returns a list of findings, each a line of text. Its
 self-test is a list of plantings: files that are put into an empty tree, and a piece of text that some finding
@@ -35,7 +35,7 @@ def read(path: pathlib.Path) -> str:
 
 
 def without_comments(text: str, keep_strings: bool = False) -> str:
-    """Code with comments, and unless they are kept literals, made blank; lines keep their numbers."""
+    """Code with comments replaced by blanks, and literals unless they are kept; line numbers stay."""
 
     def blank(match: re.Match[str]) -> str:
         token = match.group(0)
@@ -47,7 +47,7 @@ def without_comments(text: str, keep_strings: bool = False) -> str:
 
 
 def includes(path: pathlib.Path) -> Iterator[tuple[int, str, str]]:
-    """(line number, "<" or the quote, name) of every #include line of a file that is no comment."""
+    """(line number, "<" or the quote, name) of every #include line of a file, comments aside."""
     text = without_comments(read(path), keep_strings=True)
     for match in _INCLUDE.finditer(text):
         yield text.count("\n", 0, match.start()) + 1, match.group(1), match.group(2)
@@ -61,7 +61,7 @@ def plant(root: pathlib.Path, files: dict[str, str]) -> None:
 
 
 def failures_of(check: Check, plantings: list[Planting]) -> Iterator[str]:
-    """What the check does not find, or finds without cause, in the planted trees."""
+    """Planted defects that the check misses, and findings without a defect."""
     for title, files, wanted in plantings:
         with tempfile.TemporaryDirectory() as folder:
             root = pathlib.Path(folder)

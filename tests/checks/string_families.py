@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """Every string function: its declaration, its place in docs/strings.md and a test that calls it agree. Every example
-of that page stands, with the result that the page gives, in a test."""
+of that page is in a test, with the same result."""
 
 import re
 
@@ -33,9 +33,9 @@ def tested(root):
     return {name for path in paths for name in re.findall(r"\b\w+\b", without_comments(read(path)))}
 
 
-# What an example says, and how the test says it; blanks do not count.
+# The form of an example, and of its test; blanks are ignored.
 FORMS = [
-    (r'`(.+?)` makes `("[^`]*")` to `(.+)`', r'EXPECT_EQ(After({1}, [](std::string& text) {{ {0}; }}), "{2}");'),
+    (r'`(.+?)` changes `("[^`]*")` to `(.+)`', r'EXPECT_EQ(After({1}, [](std::string& text) {{ {0}; }}), "{2}");'),
     (r"`(.+?)` is negative", "EXPECT_LT({0}, 0);"),
     (r"`(.+?)` is (-?\d+)", "EXPECT_EQ({0}, {1});"),
     (r"`(.+?)` is `(.+)`", 'EXPECT_EQ({0}, "{1}");'),
@@ -44,7 +44,7 @@ FORMS = [
 
 
 def packed(code):
-    """Without blanks, and without what tells the types of literals apart: u"", '' and 2u."""
+    """Code without blanks and without the marks of literal types: u"", '' and 2u."""
     code = re.sub(r"\bu(?=[\"'])", "", re.sub(r"(?<=\d)u\b", "", code)).replace("'", '"')
     return re.sub(r"\s+", "", code)
 

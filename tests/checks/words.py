@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Words that have no place in this tree: papers outside it, numbers of a tracker, places of one machine, registries,
+"""Words that must not occur in this tree: papers outside it, numbers of a tracker, paths of one machine, registries,
 the marks of a merge that is not done.
 
 The patterns are written so that they do not match their own text: no file is exempt.

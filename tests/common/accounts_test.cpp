@@ -74,7 +74,7 @@ TEST(ValidVS, ChecksTheLuhnDigit) {
   for (const std::u16string_view text : {u"", u" 0", u"0 ", u"7992739871x"}) EXPECT_FALSE(ValidVS(text));
 }
 
-// Luhn's rule as it is usually written, with an unbounded sum.
+// Luhn's rule in its usual form, with an unbounded sum.
 bool PlainLuhn(std::u16string_view digits) {
   unsigned long long sum = 0;
   for (std::size_t i = 0; i < digits.size(); ++i) {
@@ -96,7 +96,7 @@ TEST(ValidVS, EqualsThePlainRule) {
 
 #ifndef RAVO_SANITIZED
 TEST(ValidVS, RaisesWhenTheSumLeaves32Bits) {
-  // 9 at every place: 2^31 / 9 digits are enough. 480 MB of text: a 64-bit machine's job.
+  // A 9 in every position: 2^31 / 9 digits are enough. The text of 480 MB needs a 64-bit machine.
   if constexpr (sizeof(void*) < 8) GTEST_SKIP() << "the text does not fit into 32-bit memory";
   EXPECT_THROW(static_cast<void>(ValidVS(std::u16string(238'609'300, u'9'))), OverflowError);
 }
@@ -113,7 +113,7 @@ TEST(UcetMod11, ChecksBankAccounts) {
   }
 }
 
-// The weights 2^(n-i+1) mod 11 as they are defined, by repeated doubling.
+// The weights 2^(n-i+1) mod 11 by definition, by repeated doubling.
 bool PlainMod11(std::u16string_view digits) {
   int sum = 0, weight = 1;
   for (std::size_t i = digits.size(); i-- > 0;) {
@@ -133,7 +133,7 @@ TEST(UcetMod11, EqualsThePlainRuleUpTo62Digits) {
 }
 
 TEST(UcetMod11, PrefixAndBaseNumberFormOneSum) {
-  // Neither part is right by itself; their sum is.
+  // Neither part is valid alone, but their sum is.
   EXPECT_FALSE(UcetMod11(u"1"));
   EXPECT_FALSE(UcetMod11(u"9"));
   EXPECT_TRUE(UcetMod11(u"1-9"));

@@ -34,7 +34,7 @@ TEST(Allocations, CountingWorks) {
 
 TEST(Allocations, ValidatorsMakeNone) {
   if (!test::kAllocationsCounted) GTEST_SKIP() << "the sanitizer has an allocator of its own";
-  // Results that hold text already have room for theirs.
+  // Results of text type already have enough capacity.
   std::u16string first(16, u' ');
   std::u16string second(16, u' ');
   std::u16string third(16, u' ');

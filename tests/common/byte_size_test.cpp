@@ -70,7 +70,7 @@ TEST(BytesToStr, TiesGoToTheEvenTenth) {
 
 #if LDBL_MANT_DIG == 64
 
-// What the processor's own 80-bit arithmetic gives, in the words of the definition.
+// The result of the processor's own 80-bit arithmetic, following the definition.
 std::u16string Witness(std::int64_t size) {
   const bool large = size > 1048576;
   const auto tenths = std::llrint(static_cast<long double>(size) / (large ? 1048576.0L : 1024.0L) * 10.0L);

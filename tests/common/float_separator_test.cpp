@@ -36,11 +36,11 @@ TEST_F(StrToFloat, TakesTheGivenSeparator) {
   EXPECT_EQ(StrToFloat_(u"-0.25", u'.'), -0.25);
   EXPECT_EQ(StrToFloat_(u"1;5E3", u';'), 1500);
   EXPECT_EQ(StrToFloat_(u"100", u'.'), 100);
-  // The locale's own separator is still understood.
+  // The locale's separator is still accepted.
   EXPECT_EQ(StrToFloat_(u"1,5", u'.'), 1.5);
 }
 
-// The mantissa is full before it is rounded up.
+// The mantissa is all ones before it is rounded up.
 TEST_F(StrToFloat, RoundsUpToAPowerOfTwo) {
   EXPECT_EQ(StrToFloat_(u"18446744073709551615.6", u'.'), Extended{18446744073709551616.0});
   EXPECT_EQ(StrToFloat_(u"0.9999999999999999999999", u'.'), 1);

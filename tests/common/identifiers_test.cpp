@@ -69,18 +69,18 @@ TEST(TimestampToBytes, ShortTextsGiveNothing) {
 TEST(TimestampToBytes, BrokenPairsRaise) {
   constexpr std::u16string_view rows[] = {
       u"0x12",                // seven pairs are missing
-      u"0x0x",                // all of them
-      u"0x000000000000",      // two
+      u"0x0x",                // all pairs are missing
+      u"0x000000000000",      // two pairs are missing
       u"0x00000000000007D",   // half a pair
-      u"0x00000000000007G1",  // no digit
-      u"0X00000000000007D1",  // only a small "x" is removed
-      u"x1000000000000000",   // what an integer may begin with is no digit here
+      u"0x00000000000007G1",  // not a digit
+      u"0X00000000000007D1",  // only a lower-case "x" is removed
+      u"x1000000000000000",   // the prefix of an integer is not accepted
       u" 100000000000000",
       u"-100000000000000",
       u"+100000000000000",
       u"$100000000000000",
       u"1 00000000000000",
-      u"00xx000000000000",  // what a removal brings together stays
+      u"00xx000000000000",  // a "0x" formed by a removal stays
       u"ěš00000000000000",
   };
   for (const std::u16string_view text : rows) {

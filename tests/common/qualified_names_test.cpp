@@ -28,8 +28,8 @@ TEST(RemoveTableFromProperties, Rows) {
       {u"F", u"", u""},
       {u"", u"", u""},
       {u"", u"A.B;C.D.", u"AB;CD"},
-      {u"F", u"FF..A", u"A"},  // a deletion brings the next one together
-      {u"F", u"XF.A", u"XA"},  // the end of a longer name counts too
+      {u"F", u"FF..A", u"A"},  // a deletion forms the next occurrence
+      {u"F", u"XF.A", u"XA"},  // the end of a longer name matches too
       {u"F.", u"F..A;F.B", u"A;F.B"},
       {u"Faktury", u"Faktury.", u""},
       {u"Faktury", u"Faktury", u"Faktury"},
@@ -41,7 +41,7 @@ TEST(RemoveTableFromProperties, Rows) {
   }
 }
 
-// The definition itself.
+// The definition.
 std::u16string PlainRemove(std::u16string_view table, std::u16string properties) {
   const std::u16string prefix = std::u16string(table) + u'.';
   for (std::size_t at; (at = properties.find(prefix)) != properties.npos;) {
@@ -73,7 +73,7 @@ TEST(RemoveTableFromProperties, IsThePlainLoopOnAllSmallTexts) {
   }
 }
 
-// The plain loop would need hours for these.
+// The plain loop would take hours for these texts.
 TEST(RemoveTableFromProperties, LongTextsTakeTimeInProportion) {
   constexpr std::size_t many = 1 << 20;
   const std::u16string dots(many, u'.');

@@ -180,7 +180,7 @@ TEST(RoundDPH, OnlyTheFiveUpperCaseLettersRound) {
   }
 }
 
-// Amounts of every magnitude, many of them at and beside halves.
+// Amounts of every magnitude, many of them at and next to halves.
 class AmountSource {
  public:
   explicit AmountSource(std::uint64_t seed) : random_(seed) {}
@@ -208,7 +208,7 @@ class AmountSource {
   std::mt19937_64 random_;
 };
 
-// The result, or none where the routine raised.
+// Returns the result, or no value if the function throws.
 template <class Routine>
 auto Attempt(Routine routine) -> std::optional<decltype(routine())> {
   try {
@@ -222,7 +222,7 @@ std::optional<std::uint64_t> Bits(std::optional<double> value) {
   return value ? std::optional(std::bit_cast<std::uint64_t>(*value)) : std::nullopt;
 }
 
-// RAVO_ROUNDING_ROWS asks for a longer walk, RAVO_ROUNDING_SEED for another one.
+// RAVO_ROUNDING_ROWS sets the number of rows, RAVO_ROUNDING_SEED the seed.
 std::uint64_t FromEnvironment(const char* name, std::uint64_t otherwise) {
   const char* text = std::getenv(name);
   return text ? std::strtoull(text, nullptr, 10) : otherwise;

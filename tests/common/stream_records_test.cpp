@@ -89,7 +89,7 @@ TEST(StringFromStream, EveryCutOfARecord) {
   }
 }
 
-// A stream of zeros of any size that gives and takes at most `most` bytes at a time.
+// A stream of zeros of any size that transfers at most `most` bytes at a time.
 class ZeroStream final : public ByteStream {
  public:
   ZeroStream(std::int64_t size, std::size_t most) : size_(size), most_(most) {}

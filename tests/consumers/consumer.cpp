@@ -1,4 +1,4 @@
-// A program of somebody else: a look-up, a text, a number, an error that crosses the border of the library.
+// A foreign program: a look-up, a text, a number, an exception that crosses the border of the library.
 #include <ravo/DIUtils.h>
 #include <ravo/RavoInterface.h>
 #include <ravo/RavoInterfaceCommon.h>

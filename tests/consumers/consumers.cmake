@@ -1,5 +1,5 @@
-# The library as others get it: installed into a folder of the build tree, then used by a project of its own.
-# Watched builds are for our own tests.
+# The library as users get it: installed into a folder of the build tree, then used by a separate project.
+# Instrumented builds are only for our own tests.
 if(RAVO_SANITIZE OR RAVO_COVERAGE OR NOT RAVO_INSTALL)
   return()
 endif()
@@ -30,8 +30,8 @@ foreach(way package pkgconfig)
     ravo_consumer(${way}.shared -DCONSUMER_WAY=${way} -DCONSUMER_PREFIX=${prefix})
   endif()
 endforeach()
-# The whole library once more, without optimisation: shared here, static for Windows. One compiler each is enough for
-# what takes this long.
+# The whole library again, without optimization: shared here, static for Windows. It takes long, so one
+# compiler each is enough.
 if(CMAKE_CXX_COMPILER_ID STREQUAL Clang OR RAVO_WINDOWS_BITS EQUAL 32)
   set(subproject_static OFF)
   if(WIN32)
@@ -41,7 +41,7 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL Clang OR RAVO_WINDOWS_BITS EQUAL 32)
     -DCMAKE_BUILD_TYPE=Debug -DCMAKE_UNITY_BUILD=ON)
 endif()
 
-# What must not compile, each beside a twin that does, from what is installed.
+# Code that must not compile, each with a twin that does, against the installed library.
 file(GLOB refused CONFIGURE_DEPENDS ${CMAKE_CURRENT_LIST_DIR}/refused/*.cpp)
 set(compile ${CMAKE_CXX_COMPILER} -std=c++20 -fsyntax-only -Werror=unused-result -I${prefix}/${CMAKE_INSTALL_INCLUDEDIR})
 set(reason_money_from_double "could not convert|no viable conversion")
@@ -62,7 +62,7 @@ foreach(source ${refused})
   endif()
 endforeach()
 
-# Each public header by itself.
+# Each public header alone.
 ravo_find_python(python)
 add_test(NAME consumers.public_headers
   COMMAND ${python} -B ${CMAKE_CURRENT_LIST_DIR}/public_headers.py ${prefix}/${CMAKE_INSTALL_INCLUDEDIR} ${CMAKE_CXX_COMPILER})

@@ -1,4 +1,4 @@
-# Installs a built tree into an empty folder, and looks at what came: the public headers, and no private one.
+# Installs a built tree into an empty folder and checks its headers: the public ones, and no private one.
 file(REMOVE_RECURSE ${PREFIX})
 execute_process(COMMAND ${CMAKE_COMMAND} --install ${BUILD} --prefix ${PREFIX} OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
 foreach(header ravo/package.h ravo/constants.h ravo/RavoInterface.h ravo/runtime/text.h ravo/hostapi/interfaces.inc)

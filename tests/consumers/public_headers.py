@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""What a translation unit gets from each public header alone: the errors that its comments promise, and from a compiler
-older than C++20 one clear message before all others.
+"""Each public header, included alone, declares the errors that its comments promise, and gives a compiler
+older than C++20 one clear message before any other.
 
 usage: public_headers.py INCLUDE_FOLDER COMPILER
 """
@@ -16,7 +16,7 @@ MESSAGE = "RavoInterface needs C++20"
 
 
 def compiled(folder, compiler, standard, text):
-    """Whether a text compiles, and the lines of the errors."""
+    """Returns whether a text compiles, and the lines of the errors."""
     done = subprocess.run([compiler, f"-std={standard}", "-fsyntax-only", f"-I{folder}", "-xc++", "-"],
                           input=text, capture_output=True, text=True)
     return done.returncode == 0, [line for line in done.stderr.splitlines() if "error:" in line]

@@ -55,7 +55,7 @@ TEST(Win1250ToPDFDocEncoding, EscapesNothingElse) {
 
 TEST(Win1250ToPDFDocEncoding, ReplacesWhatTheCodePageLacks) { EXPECT_EQ(TextString(u"語"), "\xFE\xFF\0?"s); }
 
-// All bytes of the code page, beside the rule of one character.
+// All bytes of the code page, compared with the rule for one character.
 TEST(Win1250ToPDFDocEncoding, WritesEveryCharacterOfTheCodePage) {
   for (int byte = 0; byte < 256; ++byte) {
     const std::u16string text = platform::CodePages().FromCodePage(std::string(1, static_cast<char>(byte)));
@@ -67,7 +67,7 @@ TEST(Win1250ToPDFDocEncoding, WritesEveryCharacterOfTheCodePage) {
   }
 }
 
-// Longer than any buffer on the way.
+// Longer than any buffer involved.
 TEST(Win1250ToPDFDocEncoding, WritesLongTexts) {
   std::u16string text;
   std::string expected = "\xFE\xFF";
@@ -106,7 +106,7 @@ TEST(FillPDFFieldAsInteger, WritesAName) {
   EXPECT_EQ(IntegerField(u"", std::numeric_limits<std::int32_t>::min()), "<</T()/V/-2147483648>>");
 }
 
-// No line break between fields; each begins where the stream stands.
+// No line break separates fields; each begins at the position of the stream.
 TEST(FormFields, FollowEachOther) {
   MemoryStream stream;
   stream.WriteChecked(std::as_bytes(std::span("[....", 5)));
@@ -119,7 +119,7 @@ TEST(FormFields, FollowEachOther) {
   EXPECT_EQ(Bytes(stream), "[<</T(a)/V(b)>><</T(c)/V(\xFE\xFF\0d)>><</T(e)/V/1>>"s);
 }
 
-// Takes a few bytes and then no more, as a full disk does.
+// Accepts a few bytes and then no more, like a full disk.
 class FullStream final : public ByteStream {
  public:
   explicit FullStream(std::size_t room) : room_(room) {}

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""A real PDF form is filled from the table of the samples by a real filler, read back and drawn.
+"""A real PDF filler fills a form from the table of the samples; the form is read back and rendered.
 
 usage: form_test.py RAVO_COMMAND...
 """
@@ -57,7 +57,7 @@ def make_form(rows):
 
 
 def fields_of(pdf):
-    """The values of the fields, as the filler's own reader sees them."""
+    """The values of the fields, as the filler reads them."""
     text = run(["pdftk", pdf, "dump_data_fields_utf8"]).decode()
     values = {}
     for block in text.split("---"):
@@ -69,7 +69,7 @@ def fields_of(pdf):
 
 
 def drawn_rows(pdf, folder, count):
-    """For each row of the form, how many of its dots are dark."""
+    """The number of dark dots in each row of the form."""
     run(["pdftoppm", "-r", 72 * DOTS_PER_POINT, "-gray", "-singlefile", pdf, folder / "page"])
     image = (folder / "page.pgm").read_bytes()
     header = re.match(rb"P5\s+(\d+)\s+(\d+)\s+255\s", image)

@@ -25,7 +25,7 @@ TEST(Date2XML, IgnoresTheTimeOfDay) {
   EXPECT_EQ(Date2XML(-1.25), u"1899-12-29");
 }
 
-// 4 tenths of a millisecond before midnight and 6 tenths.
+// 0.4 ms before midnight, and 0.6 ms.
 TEST(FormDates, AreTheDaysOfSqlTexts) {
   constexpr double kDay = 86'400'000;
   const DateTime last_moment = EncodeDate(2024, 12, 31) + (kDay - 0.4) / kDay;

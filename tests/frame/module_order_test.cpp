@@ -7,7 +7,7 @@
 namespace ravo::frame {
 namespace {
 
-// The names in starting order, or nothing where there is no order.
+// Returns the names in starting order, or an empty list if there is no valid order.
 std::vector<std::string_view> Ordered(std::span<const ModuleRow> rows) {
   std::vector<std::size_t> order(rows.size());
   if (!OrderModules(rows, order)) return {};

@@ -72,7 +72,7 @@ TEST(ModuleList, LinksTheRecordsThatWereListedBefore) {
   UnregisterModule(second);
 }
 
-// More than there is room for without memory.
+// More records than fit without allocation.
 TEST(ModuleList, HoldsAnyNumberOfRecords) {
   static int many_places[300];
   std::vector<RavoModule> modules;
@@ -83,7 +83,7 @@ TEST(ModuleList, HoldsAnyNumberOfRecords) {
   for (RavoModule& module : modules) EXPECT_EQ(FindModule(module.Instance), nullptr);
 }
 
-// Lists and unlists a record that does not live longer than that.
+// Adds and removes a record with a lifetime of just that.
 void ComeAndGo(int& place) {
   for (int i = 0; i < 2000; ++i) {
     const auto module = std::make_unique<RavoModule>(RecordOf(&place));

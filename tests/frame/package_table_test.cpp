@@ -14,7 +14,7 @@
 namespace ravo::frame {
 namespace {
 
-// The names of the package description, written out here a second time on purpose.
+// The names of the package description, deliberately written out again.
 constexpr std::string_view kContainedNames[] = {"RavoInterface",
                                                 "DISystemCompat",
                                                 "SysInit",
@@ -150,7 +150,7 @@ std::vector<std::int32_t> Counters() {
   return counters;
 }
 
-// As they were when the program began: once they are released nothing brings them back.
+// The state at the start of the program: once released, the names do not return.
 const auto kNarrowDays = utils::ShortGermanDaysA();
 const auto kWideDays = utils::ShortGermanDaysW();
 
@@ -206,7 +206,7 @@ TEST(Initialize, NeedsNoMemory) {
   }
 }
 
-// What is counted above would be seen.
+// Shows that the counter used above works.
 TEST(Initialize, WouldBeSeenToNeedMemory) {
   test::FakeMachine machine;
   machine.version.service_pack = u"a text too long for a string without memory of its own";
@@ -231,7 +231,7 @@ TEST(Finalize, ReleasesTheGermanDayNamesThatWereThereAtFirst) {
   EXPECT_TRUE(DaysAreReleased());
 }
 
-// The module has work at its stop alone.
+// The module has work only when it stops.
 TEST(Initialize, DoesNotBringTheGermanDayNamesBack) {
   for (int i = 0; i < 2; ++i) {
     DIUtils_Initialize();

@@ -13,7 +13,7 @@ struct Row {
   std::u16string_view text;
 };
 
-// Every list that the library's string table is made from.
+// Every list that contributes to the library's string table.
 constexpr Row kRows[] = {
 #define RAVO_CAPTION_GROUP(prefix, title)
 #define RAVO_STRING(name, id, text) {#name, id, u##text},
@@ -54,7 +54,7 @@ TEST(StringTable, MessagesOfReaderWriterAndUtilitiesHaveTheirIdentifiers) {
   }
 }
 
-// English texts belong to texts of the library.
+// Each English text belongs to a text of the library.
 TEST(StringTable, LanguageModuleKnowsOnlyNamesAndIdentifiersOfTheLibrary) {
   constexpr Row english[] = {
 #define RAVO_STRING(name, id, text) {#name, id, u##text},

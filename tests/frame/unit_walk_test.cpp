@@ -9,7 +9,7 @@ namespace {
 
 std::string calls;
 
-// Modules that write down when they are started (capital) and stopped.
+// Modules that log their start (upper case) and stop (lower case).
 constexpr RavoPackageUnit kUnits[] = {
     {nullptr, nullptr},
     {[] { calls += 'A'; }, [] { calls += 'a'; }},

@@ -26,7 +26,7 @@ void Offer(FakeMachine& machine, const Guid& class_id, Counts& counts) {
   machine.components[class_id] = [&counts] { return MakeComponent<CountedObject<Interface>>(counts); };
 }
 
-// The object is the caller's, with one reference, and ends with it.
+// The caller owns the object by one reference, which frees it.
 template <class Interface, class Creation>
 void ExpectOneReference(const Counts& counts, Creation creation) {
   {
@@ -97,7 +97,7 @@ TEST(CoClasses, ReleaseTheInstanceThatLacksTheInterface) {
   EXPECT_EQ(counts.references, 0);
 }
 
-// The class identifier of the profile information and its interface identifier differ in one digit.
+// The class and interface identifiers of the profile information differ in one digit.
 TEST(CoClasses, AskForTheClassAndNotForTheInterface) {
   Counts counts;
   FakeMachine machine;

@@ -7,13 +7,13 @@
 
 namespace ravo::test {
 
-/// What objects under test leave behind: none of both when all went well.
+/// The objects and references that are alive; both 0 after a correct test.
 struct Counts {
   std::atomic<int> objects{0};
   std::atomic<int> references{0};
 };
 
-/// Counts itself and the references to it.
+/// Counts the object and its references.
 template <class Base>
 class CountedBase : public Base {
  public:
@@ -34,7 +34,7 @@ class CountedBase : public Base {
   Counts& counts_;
 };
 
-/// An object of a dual interface without operations of its own.
+/// An object with a dual interface and no operations of its own.
 template <class Interface>
 class CountedObject final : public CountedBase<DispatchObject<Interface>> {
  public:
@@ -46,7 +46,7 @@ class CountedObject final : public CountedBase<DispatchObject<Interface>> {
   }
 };
 
-/// An object that supports no interface but the platform's base.
+/// An object that supports only the platform's base interface.
 using RefusingObject = CountedBase<ComponentObject<IUnknown>>;
 
 }  // namespace ravo::test

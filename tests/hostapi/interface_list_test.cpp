@@ -73,7 +73,7 @@ constexpr Declared Facts(std::string_view module, const Guid& constant) {
           std::is_base_of_v<IDispatch, Twin>};
 }
 
-// By the names under which modules know them, each in the namespace of its module.
+// The names that modules use, each in the namespace of its module.
 constexpr Declared kDeclared[] = {
 #define RAVO_HOST_INTERFACE(library, name, base, identifier, operations) \
   Facts<library##_TLB::name, library##_TLB::name##Disp>(#library "_TLB", library##_TLB::IID_##name),
@@ -187,7 +187,7 @@ constexpr Guid kAllIdentifiers[] = {
 #include <ravo/hostapi/interfaces.inc>
 };
 
-// Proved by the compiler, so that no program with two equal identifiers can be built.
+// Checked at compile time, so a program with two equal identifiers cannot be built.
 constexpr bool AllDifferent(std::span<const Guid> identifiers) {
   for (std::size_t i = 0; i < identifiers.size(); ++i) {
     if (std::ranges::count(identifiers, identifiers[i]) != 1) return false;

@@ -1,6 +1,6 @@
 #include <ravo/RavoManager_TLB.h>
 
-// Compiled alone, once for each list.
+// Compiled separately for each list.
 #ifdef TEST_LIST_fitting
 #define OPERATIONS(OPERATION) \
   OPERATION(First, ()) OPERATION(Second, (int value)) OPERATION(Third, (int* answer))

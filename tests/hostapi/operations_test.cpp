@@ -12,7 +12,7 @@
 namespace ravo {
 namespace {
 
-// An object of a declared interface with one operation behind those of its base.
+// An object of a declared interface with one operation after those of its base.
 template <class Interface>
 struct Above : Interface {
   virtual ResultCode RAVO_STDCALL Own(std::int32_t value) noexcept = 0;
@@ -39,7 +39,7 @@ class DualObject final : public DispatchObject<Above<Interface>> {
   }
 };
 
-// As a client calls that knows nothing but the operation table: by the slot.
+// Calls by slot, as a client that knows only the operation table.
 ResultCode CallSlot(void* object, std::size_t slot, std::int32_t value) {
   using Operation = ResultCode(RAVO_STDCALL*)(void*, std::int32_t);
   void** const table = *static_cast<void***>(object);
@@ -55,7 +55,7 @@ void ExpectFirstSlot(const char* name) {
   EXPECT_EQ(CallSlot(face, kIsDual ? 7 : 3, 5), kSeen + 5) << name;
 }
 
-// Three slots of the platform's base, four more of its automation base.
+// The platform's base has three slots, its automation base four more.
 TEST(OperationTable, OwnOperationsFollowTheBase) {
 #define RAVO_HOST_INTERFACE(library, name, base, identifier, operations) \
   ExpectFirstSlot<library##_TLB::name>(#name);                           \

@@ -7,7 +7,7 @@
 
 namespace ravo::test {
 
-/// What a creation of a component raises; a code of 0 where it raises nothing.
+/// The error that creating a component throws; code 0 if it throws nothing.
 struct Raised {
   ResultCode code = 0;
   std::u16string text;

@@ -14,8 +14,8 @@
 
 #include <gtest/gtest.h>
 
-// What this process offers itself, on the real machine: on Windows through the platform's component runtime,
-// elsewhere through the library's own registry.
+// Classes that this process registers, on the real machine: on Windows in the platform's component runtime,
+// elsewhere in the library's own registry.
 namespace ravo {
 namespace {
 
@@ -35,7 +35,7 @@ class RegisteredClasses : public testing::Test {
     return [&counts] { return MakeComponent<test::RefusingObject>(counts); };
   }
 
-  // The code that a creation raises.
+  // Returns the code that a creation throws.
   template <class Creation>
   static ResultCode CodeOf(Creation creation) {
     try {
@@ -65,7 +65,7 @@ TEST_F(RegisteredClasses, AreCreated) {
   EXPECT_EQ(counts_.references, 0);
 }
 
-// The same calls as those to servers outside this program.
+// The same calls as to servers outside this program.
 TEST_F(RegisteredClasses, AnswerCalls) {
   const RegisteredClass zipper(CLASS_RavoZipper, [this] { return MakeComponent<test::ZipObject>(counts_); });
   const RegisteredClass information(RavoProfileInfo_TLB::CLASS_RavoProfileInformation,
@@ -122,7 +122,7 @@ TEST_F(RegisteredClasses, PassOnTheCodeThatTheirFactoryRaises) {
   EXPECT_EQ(CodeOf(CoRavoZipper::Create), result_code::kOutOfMemory);
 }
 
-// A factory may use the creators itself.
+// A factory may call the creators itself.
 TEST_F(RegisteredClasses, MayBeMadeFromOneAnother) {
   const RegisteredClass zipper(CLASS_RavoZipper, Zipper(counts_));
   Counts own;
@@ -152,7 +152,8 @@ TEST_F(RegisteredClasses, ServeSeveralThreadsAtOnce) {
   EXPECT_EQ(counts_.references, 0);
 }
 
-// Classes come and go while others create them: each creation gives an object or says that there is no class.
+// Classes are registered and removed while other threads create objects: each creation returns an object or
+// fails because the class is not registered.
 TEST_F(RegisteredClasses, MayGoWhileOthersCreateThem) {
   constexpr int kThreads = 4;
   std::atomic<bool> is_over{false};

@@ -5,8 +5,8 @@
 #include <limits>
 #include <new>
 
-// The linker sends every call of a function of memory in this program's own objects here, and calls of
-// `__real_x` to the function itself.
+// The linker redirects every call of an allocation function in this program's objects to these functions;
+// `__real_x` calls the original.
 extern "C" {
 void* __real_malloc(std::size_t bytes);
 void* __real_calloc(std::size_t count, std::size_t bytes);
@@ -23,7 +23,7 @@ std::atomic<std::int64_t> left{kNever};
 std::atomic<bool> has_failed{false};
 std::atomic<std::int64_t> live{0};
 
-// Whether this request succeeds.
+// Returns whether this allocation succeeds.
 bool Grant() noexcept {
   if (left == kNever) return true;
   if (left-- > 0) return true;

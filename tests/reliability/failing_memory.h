@@ -2,11 +2,11 @@
 
 #include <cstdint>
 
-/// Memory that runs out at a chosen moment, for the whole program: every call of `malloc`, `calloc` and
-/// `realloc` that this program's own code makes, `operator new` included, can be the one that fails.
+/// Makes memory run out at a chosen moment, for the whole program: any call of `malloc`, `calloc` and
+/// `realloc` in this program's own code, `operator new` included, can be the one that fails.
 namespace ravo::test {
 
-/// From now on `requests` requests succeed and all further ones fail, until the object goes.
+/// Until this object is destroyed, `requests` allocations succeed and all further ones fail.
 class FailingMemory {
  public:
   explicit FailingMemory(std::int64_t requests) noexcept;
@@ -14,14 +14,14 @@ class FailingMemory {
   FailingMemory& operator=(const FailingMemory&) = delete;
   ~FailingMemory();
 
-  /// Whether a request has failed.
+  /// Returns whether an allocation has failed.
   [[nodiscard]] bool HasFailed() const noexcept;
 
-  /// How many requests more would succeed.
+  /// Returns the number of allocations that would still succeed.
   [[nodiscard]] std::int64_t Left() const noexcept;
 };
 
-/// Blocks that were taken and not given back.
+/// Returns the number of blocks that are allocated and not freed.
 [[nodiscard]] std::int64_t LiveBlocks() noexcept;
 
 }  // namespace ravo::test

@@ -8,9 +8,9 @@
 #include <string>
 #include <vector>
 
-// Files, folders and what the system is asked for, with memory that runs out at every request in turn:
-// nothing but `std::bad_alloc` comes out, no file stays open, and what was on the disk before is there or
-// gone whole.
+// Files, folders and system queries, with memory that runs out at each allocation in turn: only
+// `std::bad_alloc` is thrown, no file stays open, and existing files are either unchanged or deleted
+// completely.
 namespace ravo {
 namespace {
 
@@ -19,7 +19,7 @@ using test::ExpectSurvivesScarceMemory;
 using test::ScratchFolder;
 using test::SuiteName;
 
-// Longer than any text that needs no memory of its own.
+// Longer than any text with inline storage.
 const std::u16string kText(300, u'č');
 const std::string kBytes(300, '\xE8');
 const std::u16string kName = u"a file whose name is longer than a short text.txt";
@@ -73,7 +73,7 @@ TEST(FilesOutOfMemory, WholeFiles) {
   EXPECT_EQ(OpenFiles(), open_before);
 }
 
-// A text that a file could not be loaded into is what it was.
+// A text is unchanged if loading a file into it fails.
 TEST(FilesOutOfMemory, ATextStaysWhole) {
   const ScratchFolder scratch;
   const std::u16string name = scratch.File(kName);
@@ -93,7 +93,7 @@ TEST(FilesOutOfMemory, ATextStaysWhole) {
   EXPECT_EQ(text, kBytes);
 }
 
-// A file is emptied and written only once there is memory for all that this takes.
+// A file is truncated and written only once all memory for it is allocated.
 TEST(FilesOutOfMemory, AFileStaysWhole) {
   const ScratchFolder scratch;
   const std::u16string name = scratch.File(kName);
@@ -128,7 +128,7 @@ TEST(FilesOutOfMemory, Folders) {
   EXPECT_EQ(OpenFiles(), open_before);
 }
 
-// Whatever a deletion that failed has left, another one takes away, and nothing beside it.
+// A second deletion removes whatever a failed one left, and nothing else.
 TEST(FilesOutOfMemory, ADeletionCanBeTriedAgain) {
   const ScratchFolder scratch;
   scratch.Write("beside", "x");
@@ -150,7 +150,7 @@ TEST(FilesOutOfMemory, ADeletionCanBeTriedAgain) {
   EXPECT_EQ(GetFileSizeW(scratch.File(u"beside")), 1);
 }
 
-// A machine for each attempt, because it keeps a list of what it was asked for.
+// A new machine for each attempt, because it logs its calls.
 TEST(FilesOutOfMemory, Environment) {
   using platform::RegistryRoot;
   ExpectSurvivesScarceMemory([] {
@@ -167,7 +167,7 @@ TEST(FilesOutOfMemory, Environment) {
   });
 }
 
-// The same of the machine itself.
+// The same for the real machine.
 TEST(FilesOutOfMemory, EnvironmentOfThisMachine) {
   ExpectSurvivesScarceMemory([] { static_cast<void>(SysErrorMessageW(2)); });
   ExpectSurvivesScarceMemory([] { static_cast<void>(RegReadRegisteredOwnerW()); });

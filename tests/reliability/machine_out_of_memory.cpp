@@ -19,8 +19,7 @@
 
 #include <string>
 
-// Memory that runs out in questions to the operating system, in the package's resources, and in what stands
-// on both.
+// Memory that runs out in system queries, in the package's resources, and in the code that uses both.
 namespace ravo {
 namespace {
 
@@ -74,7 +73,7 @@ TEST(MachineOutOfMemory, TheVersionOfAFile) {
   });
 }
 
-// The report of a server asks for other files than that of a client.
+// The report of a server queries other files than that of a client.
 TEST(MachineOutOfMemory, TheServersReport) {
   ExpectSurvivesScarceMemory([] {
     RavoInterfaceInfo::TRavoSystemInfo info;
@@ -82,7 +81,7 @@ TEST(MachineOutOfMemory, TheServersReport) {
   });
 }
 
-// To read a text takes no memory.
+// Reading a text allocates nothing.
 TEST(FrameOutOfMemory, LanguageModules) {
   const ResourceString caption = RavoInterfaceResources::rPropertyDokladPZPohledavka;
   test::FakeMachine machine;
@@ -100,7 +99,7 @@ TEST(FrameOutOfMemory, LanguageModules) {
   EXPECT_EQ(caption.Text(), caption.built_in);
 }
 
-// Starting and stopping ask for no memory that they could lack.
+// Starting and stopping allocate nothing.
 TEST(FrameOutOfMemory, StartAndStop) {
   const std::int64_t before = test::LiveBlocks();
   Initialize();

@@ -13,14 +13,14 @@
 #include <string>
 #include <vector>
 
-// The main operations with memory that runs out at every one of their requests in turn: nothing leaks,
-// nothing but `std::bad_alloc` comes out, and what existed before can still be used.
+// The main operations with memory that runs out at each of their allocations in turn: nothing leaks, only
+// `std::bad_alloc` is thrown, and existing objects remain usable.
 namespace ravo {
 namespace {
 
 using test::ExpectSurvivesScarceMemory;
 
-// Longer than any text that needs no memory of its own.
+// Longer than any text with inline storage.
 const std::u16string kLong(200, u'ž');
 const std::string kLongBytes(200, 'a');
 
@@ -55,7 +55,7 @@ TEST(OutOfMemory, StringLists) {
   });
 }
 
-// A list that existed before has its old lines or its new ones.
+// An existing list has its old lines or its new ones.
 TEST(OutOfMemory, AStringListStaysWhole) {
   StringList list;
   list.Add(kLong);
@@ -107,7 +107,7 @@ TEST(OutOfMemory, Streams) {
   });
 }
 
-// What a stream held before a failed write is what it holds after it.
+// A failed write leaves the contents of a stream unchanged.
 TEST(OutOfMemory, AStreamStaysWhole) {
   MemoryStream stream;
   stream.WriteChecked(std::as_bytes(std::span(kLongBytes)));
@@ -129,7 +129,7 @@ TEST(OutOfMemory, SupportReport) {
   });
 }
 
-// A report after one that failed is like any other.
+// A report after a failed one is complete.
 TEST(OutOfMemory, ACollectorStaysUsable) {
   test::FakeMachine machine;
   const platform::ScopedMachine scope(machine);
@@ -184,7 +184,7 @@ TEST(OutOfMemory, AWideStringBufferStaysWhole) {
   EXPECT_EQ(buffer.GetAsStr().View(), expected);
 }
 
-// The block of a text of 128 MiB moves a few times for each doubling, not once for every 4096 units.
+// The block of a text of 128 MiB moves a few times per doubling, not once per 4096 units.
 TEST(OutOfMemory, AWideStringBufferMovesSeldom) {
   constexpr std::int64_t granted = 1000;
   constexpr std::uint32_t units = std::uint32_t{1} << 26;

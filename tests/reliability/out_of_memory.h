@@ -11,19 +11,19 @@
 
 namespace ravo::test {
 
-/// How an operation went that was tried with memory for ever more requests.
+/// The outcome of an operation that was tried with memory for more and more allocations.
 struct Scarcity {
-  std::int64_t failures = 0;  ///< attempts in which a request failed
+  std::int64_t failures = 0;  ///< attempts in which an allocation failed
   std::int64_t leaked = 0;    ///< blocks that an attempt did not give back
-  bool succeeded = false;     ///< whether it came to its end once there was enough
+  bool succeeded = false;     ///< whether it completed with enough memory
 };
 
 /// Tries an operation with memory for 0, 1, 2 ... requests until none fails. Nothing but `std::bad_alloc` may
-/// come out of it, and nothing may stay behind.
+/// be thrown, and nothing may leak.
 template <class Operation>
 Scarcity TryWithScarceMemory(const Operation& operation) {
   constexpr std::int64_t kMostRequests = 100'000;
-  // What is made once and stays is made now.
+  // Creates whatever is created only once.
   operation();
   Scarcity result;
   for (std::int64_t requests = 0; requests < kMostRequests && !result.succeeded; ++requests) {
@@ -32,7 +32,7 @@ Scarcity TryWithScarceMemory(const Operation& operation) {
       const FailingMemory memory(requests);
       try {
         operation();
-        // An operation may come to its end in spite of a failure where it can do without.
+        // An operation may complete despite a failure that it tolerates.
       } catch (const std::bad_alloc&) {
         static_cast<void>(memory.HasFailed());
       }

@@ -66,7 +66,7 @@ TEST(TextOutOfMemory, Reader) {
   }
 }
 
-// What a reader has collected stays, and it goes on where it was.
+// A reader keeps its collected text and continues at its position.
 TEST(TextOutOfMemory, AReaderStaysUsable) {
   DIUnicode::TDIUnicodeReader reader;
   reader.SetReadMethods(DIUnicode::Read_Windows_1250);
@@ -112,7 +112,7 @@ TEST(TextOutOfMemory, Writer) {
   }
 }
 
-// The bytes of a writer are whole characters of what was asked for, and more can follow.
+// The bytes of a writer are whole characters of its input, and writing can continue.
 TEST(TextOutOfMemory, AWriterStaysUsable) {
   DIUnicode::TDIUnicodeWriter writer;
   writer.SetWriteMethods(DIUnicode::Write_UTF_16_BE);

@@ -5,7 +5,7 @@
 
 #include <string>
 
-// Documents with memory that runs out at every request in turn.
+// Documents with memory that runs out at each allocation in turn.
 namespace ravo {
 namespace {
 
@@ -43,7 +43,7 @@ TEST(XmlOutOfMemory, LoadingAndSaving) {
   });
 }
 
-// What a loading that failed leaves behind can be saved, emptied and loaded again.
+// The remains of a failed load can be saved, cleared and loaded again.
 TEST(XmlOutOfMemory, ADocumentStaysUsable) {
   TECXMLParser parser;
   Load(parser);
@@ -116,7 +116,7 @@ TEST(XmlOutOfMemory, MovingBetweenParents) {
   });
 }
 
-// A document that is there stays what it was, or becomes what it was to be.
+// An existing document is unchanged, or completely changed.
 TEST(XmlOutOfMemory, ATextStaysWhole) {
   TECXMLParser parser;
   Load(parser);

@@ -36,7 +36,7 @@ class Object final : public ComponentObject<ILeft> {
   }
 };
 
-// Answers every question with what it was told to.
+// Returns whatever result it was configured with.
 class Liar final : public ComponentObject<ILeft> {
  public:
   Liar(ResultCode code, void* object) : code_(code), object_(object) {}
@@ -114,7 +114,7 @@ TEST(ComponentPtr, QueryRaisesWhereTheInterfaceIsMissing) {
   EXPECT_EQ(object->References(), 1U);
 }
 
-// The code that a query raises; 0 where it raises nothing.
+// Returns the code that a query throws; 0 if it throws nothing.
 ResultCode CodeOfQuery(const ComponentPtr<Liar>& object) {
   try {
     static_cast<void>(object.Query<IRight>());
@@ -181,7 +181,7 @@ TEST(ComponentPtr, TakesANullPointerAsNone) {
   EXPECT_FALSE(pointer);
 }
 
-// A factory that raises the code of a success has made nothing all the same.
+// A factory that throws a success code has failed nevertheless.
 TEST(MakeInstance, ASuccessThatIsRaisedIsAFailure) {
   ComponentPtr<IUnknown> instance;
   const auto raise = [](ResultCode code) {

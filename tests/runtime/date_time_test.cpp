@@ -90,7 +90,7 @@ TEST(DateTime, AFullDayCarries) {
   EXPECT_THROW((void)SplitDateTime(kLastDay + 0.9999999999), ConvertError);
 }
 
-// What is left of doubles of 2^50 days and more are quarters, halves and whole days.
+// Doubles of 2^50 days and more have only quarters, halves and whole days.
 TEST(DateTime, TimeOfDayOfAnyDay) {
   struct Row {
     double value;
@@ -126,7 +126,7 @@ TEST(DateTime, SplitRefusesWhatIsNoDate) {
   }
 }
 
-// The standard library's calendar as witness, for every day there is.
+// The standard library's calendar as witness, for every day in range.
 TEST(DateTime, EveryDayOfTheYears1To9999) {
   using namespace std::chrono;
   const sys_days epoch = year{1899} / December / 30;

@@ -21,12 +21,12 @@ using test::Decimal;
 
 constexpr bool kIs80Bits = Limits::digits == 64;
 
-// The bytes of a float that carry its value; what pads the type is no part of them.
+// The bytes of a float without the padding of its type.
 std::string BytesOf(Extended value) {
   return {reinterpret_cast<const char*>(&value), kIs80Bits ? std::size_t{10} : sizeof value};
 }
 
-// Half of a number is five times its digits, one place further behind the point.
+// Half of a number has five times its digits, one place further after the point.
 DecimalNumber Halved(const DecimalNumber& number) {
   DecimalNumber half{number.negative, number.digits, number.point};
   int carry = 0;
@@ -171,8 +171,7 @@ TEST(Decimal, ToExtendedOfSimpleNumbers) {
   for (const Row& row : rows) EXPECT_EQ(BytesOf(ToExtended(row.number.Number())), BytesOf(row.value));
 }
 
-// Halfway between 2^digits and its upper neighbour, 2^digits + 2, stands 2^digits + 1: the even mantissa
-// wins.
+// 2^digits + 1 is halfway between 2^digits and its upper neighbour 2^digits + 2: the even mantissa wins.
 TEST(Decimal, ToExtendedRoundsTiesToEven) {
   struct Row {
     std::string_view digits80;
@@ -195,14 +194,14 @@ TEST(Decimal, ToExtendedRoundsTiesToEven) {
 TEST(Decimal, ToExtendedAtTheUpperEnd) {
   EXPECT_EQ(BytesOf(ToExtended(ToDecimal(Limits::max()))), BytesOf(Limits::max()));
   DecimalNumber beyond = ToDecimal(Limits::max());
-  beyond.digits += "9";  // still nearer to the largest value than to what would follow it
+  beyond.digits += "9";  // still nearer to the largest value than to its hypothetical successor
   EXPECT_EQ(BytesOf(ToExtended(beyond)), BytesOf(Limits::max()));
   for (const int point : {Limits::max_exponent10 + 2, 5001, std::numeric_limits<int>::max()}) {
     EXPECT_THROW((void)ToExtended({false, "1", point}), ConvertError) << point;
   }
 }
 
-// Half of the smallest value is a tie with zero, the even one; anything above it is not.
+// Half of the smallest value is a tie with zero, which is even; anything above it is not.
 TEST(Decimal, ToExtendedAtTheLowerEnd) {
   const DecimalNumber smallest = ToDecimal(Limits::denorm_min());
   EXPECT_EQ(BytesOf(ToExtended(smallest)), BytesOf(Limits::denorm_min()));

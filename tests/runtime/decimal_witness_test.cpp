@@ -1,4 +1,4 @@
-// The C library's own conversions, which are exact here, as witness over random bit patterns.
+// The C library's own conversions, which are exact here, as witnesses for random bit patterns.
 #include <ravo/runtime/decimal.h>
 #include <ravo/runtime/nearest_float.h>
 
@@ -21,8 +21,8 @@ using ExtendedBits = FloatBits<Extended>;
 
 constexpr int kPatterns = 200'000;
 
-// Random values of which one in 200 has any exponent at all; those at the ends have thousands of digits and
-// take their time.
+// Random values, one in 200 with an arbitrary exponent; those at the ends have thousands of digits and are
+// slow.
 class RandomFloats {
  public:
   Extended Next() {
@@ -31,7 +31,7 @@ class RandomFloats {
     const bool is_any = random_() % 200 == 0;
     const int exponent = is_any ? Between(format.lowest_exponent, format.highest_exponent)
                                 : Between(-format.bits - 100, 100 - format.bits);
-    // A mantissa without its highest bit belongs to the lowest exponent.
+    // A mantissa without its highest bit needs the lowest exponent.
     const std::uint64_t highest_bit = std::uint64_t{1} << (format.bits - 1);
     const bool is_denormal = is_any && random_() % 4 == 0;
     return ExtendedBits::Join({random_() % 2 != 0, is_denormal ? mantissa : mantissa | highest_bit,
@@ -52,8 +52,8 @@ std::string Printed(Extended value, int digits) {
   return text.data();
 }
 
-// The C library rounds ties to even where ours go away from zero, so all digits are compared, not rounded
-// ones: a number's first 40 digits, cut off, from 60 printed ones.
+// The C library rounds ties to even, ours away from zero, so all digits are compared instead of rounded ones:
+// the first 40 digits, truncated, of 60 printed ones.
 TEST(DecimalWitness, ToDecimalHasTheDigitsThatTheCLibraryPrints) {
   RandomFloats floats;
   for (int i = 0; i < kPatterns; ++i) {
@@ -100,7 +100,7 @@ TEST(DecimalWitness, FloatsComeBackFromTheirDigits) {
   for (int i = 0; i < kPatterns; ++i) {
     const Extended value = floats.Next();
     const DecimalNumber number = ToDecimal(value);
-    // Rounding the largest values up leaves the format.
+    // Rounding the largest values up overflows the format.
     const auto back = NearestFloat<Extended>(RoundedToDigits(number, kRoundTripDigits));
     if (back) {
       ASSERT_EQ(*back, value);

@@ -1,4 +1,4 @@
-// The states that other tests run in must be felt by plain arithmetic, and must be gone afterwards.
+// The states that other tests run in must affect plain arithmetic, and must be restored afterwards.
 #include "support/float_environment.h"
 
 #include <cfenv>
@@ -9,7 +9,8 @@
 namespace ravo::test {
 namespace {
 
-// One third, computed now: the compiler knows neither operand and cannot move the division out of the state.
+// One third, computed at run time: the compiler knows neither operand and cannot move the division out of the
+// state.
 template <class Float>
 Float Third() {
   const volatile Float one = 1;

@@ -83,7 +83,7 @@ TEST(FloatText, GeneralTextOfFewerDigits) {
   EXPECT_EQ(GeneralText({false, "9996", 3}, u'.', 3), u"1E3");
 }
 
-// Witness: "%.*e" of the C library, but for the exponent's least number of digits.
+// The witness is "%.*e" of the C library, except for the minimum digits of the exponent.
 TEST(FloatText, ScientificText) {
   EXPECT_EQ(ScientificText({false, "15", 1}, 4, u','), u"1,500E+000");
   EXPECT_EQ(ScientificText({true, "15", 1}, 1, u','), u"-2E+000");
@@ -125,7 +125,7 @@ TEST(FloatText, FixedText) {
       {{false, "1", 21}, 0, u"100000000000000000000"},
       {{false, "12345678901234567", 17}, 2, u"12345678901234600,00"},
       {{false, "12345678901234567", 2}, 15, u"12,345678901234600"},
-      // Rounded once: by way of 15 digits the second place would become 3.
+      // Rounded once: after rounding to 15 digits the second place would become 3.
       {{false, "12499999999999999", 0}, 2, u"0,12"},
   };
   for (const Row& row : rows) EXPECT_EQ(FixedText(row.number.Number(), row.decimals, u','), row.text);

@@ -26,7 +26,7 @@ double RandomDouble(std::mt19937_64& random) {
   }
 }
 
-// Two doubles whose exponents are close enough for the smaller one to count.
+// Two doubles with exponents close enough for the smaller one to matter.
 std::pair<double, double> RandomSummands(std::mt19937_64& random) {
   const double left = RandomDouble(random);
   const auto apart = static_cast<int>(random() % 120) - 60;

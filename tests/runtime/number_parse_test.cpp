@@ -189,7 +189,8 @@ TEST(NumberParse, FloatsAtTheEndsOfTheFormat) {
   EXPECT_EQ(TryParseFloat(u"1.8225997659412373013e-4951", u'.'), Floats::denorm_min());
 }
 
-// A separator that is a digit, a sign or the exponent letter is a locale gone wrong; reading must still end.
+// A separator that is a digit, a sign or the exponent letter comes from a broken locale; parsing must still
+// terminate.
 TEST(NumberParse, OddSeparators) {
   EXPECT_EQ(TryParseFloat(u"1e5", u'e'), Extended{1.5});
   EXPECT_EQ(TryParseFloat(u"1-5", u'-'), Extended{1.5});

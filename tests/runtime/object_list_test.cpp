@@ -11,7 +11,7 @@ namespace {
 
 class Objects : public testing::Test {
  protected:
-  // The objects of the list by their numbers; -1 for null.
+  // Returns the numbers of the objects in the list; -1 for null.
   [[nodiscard]] std::vector<int> Numbers() const {
     std::vector<int> numbers;
     for (const int* const object : list) numbers.push_back(object ? *object : -1);

@@ -7,7 +7,7 @@
 namespace ravo {
 namespace {
 
-// Writes its name into a log when it goes.
+// Logs its name when it is destroyed.
 class Named : public TComponent {
  public:
   Named(TComponent* owner, char name, std::string& log) : TComponent(owner), name_(name), log_(log) {}

@@ -30,13 +30,13 @@ TEST(Text, IllFormedUtf8BecomesReplacementCharacters) {
     std::u16string_view utf16;
   };
   constexpr Row rows[] = {
-      {"\x80", u"\uFFFD"},                                // a trail byte alone
+      {"\x80", u"\uFFFD"},                                // a trailing byte alone
       {"\xC0\xAF", u"\uFFFD\uFFFD"},                      // overlong
       {"\xE0\x9F\xBF", u"\uFFFD\uFFFD\uFFFD"},            // overlong
-      {"\xE2\x82", u"\uFFFD"},                            // cut short
-      {"\xE2\x82z", u"\uFFFDz"},                          // broken off by a letter
+      {"\xE2\x82", u"\uFFFD"},                            // truncated
+      {"\xE2\x82z", u"\uFFFDz"},                          // interrupted by a letter
       {"\xED\xA0\x80", u"\uFFFD\uFFFD\uFFFD"},            // a surrogate
-      {"\xF4\x90\x80\x80", u"\uFFFD\uFFFD\uFFFD\uFFFD"},  // beyond U+10FFFF
+      {"\xF4\x90\x80\x80", u"\uFFFD\uFFFD\uFFFD\uFFFD"},  // past U+10FFFF
       {"\xFF", u"\uFFFD"},
   };
   for (const Row& row : rows) EXPECT_EQ(FromUtf8(row.utf8), row.utf16);

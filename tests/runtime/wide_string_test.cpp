@@ -67,7 +67,7 @@ TEST(WideString, CopiesAreIndependentAndMovesHandOver) {
 }
 
 TEST(WideString, ALengthBeyondThirtyTwoBitsRaises) {
-  // Only the length is looked at: the units behind the first are never read.
+  // Only the length is used: the units after the first are never read.
   const std::u16string_view endless(u"a", std::size_t{0x80000000});
   EXPECT_THROW(WideString{endless}, RangeError);
 }

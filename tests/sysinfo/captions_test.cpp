@@ -25,7 +25,7 @@ struct Row {
   std::u16string_view text;
 };
 
-// Those that do not occur in the report; the others are compared there.
+// The captions that do not occur in the report; the others are compared there.
 TEST(ReportCaptions, ForModulesOnly) {
   constexpr Row rows[] = {
       {_rRootADO, 65522, u"Informace o databázovém jádru"},

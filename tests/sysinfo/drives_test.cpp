@@ -45,7 +45,7 @@ TEST_F(Drives, AFailedQueryRepeatsTheDriveBefore) {
                           u"\t\t\tVelikost: 8 B", u"\t\t\tVolné místo: 1 B"));
 }
 
-// The letters go on behind "Z" where a system sets such a bit.
+// The letters continue after "Z" if a system sets such a bit.
 TEST_F(Drives, AllThirtyTwoBits) {
   machine.drives = {{u"A:", {DriveKind::Fixed, DiskSpace{1, 1}}},
                     {u"`:", {DriveKind::Fixed, DiskSpace{2, 2}}}};

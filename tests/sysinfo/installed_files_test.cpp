@@ -19,7 +19,7 @@ class InstalledFiles : public test::Report {
     for (const std::u16string_view name : names) machine.files[std::u16string(folder).append(name)];
   }
 
-  // The names of the files in a list of the report.
+  // Returns the names of the files in a list of the report.
   [[nodiscard]] Lines Names(std::u16string_view list, Kind kind = siVisual) const {
     Lines names = Section(list, kind);
     std::erase_if(names, [](const std::u16string& line) { return line[3] == u'\t'; });

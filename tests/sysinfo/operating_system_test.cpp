@@ -10,7 +10,7 @@ class OperatingSystem : public test::Report {
   static constexpr std::u16string_view kHeading = u"\tOperační systém";
   static constexpr std::u16string_view kHotfixKey =
       u"SOFTWARE\\Microsoft\\WindowsNT\\CurrentVersion\\Hotfix\\Q246009";
-  // The key as the system itself would name it.
+  // The key by the name that the system uses.
   static constexpr std::u16string_view kKeyWithBlank =
       u"SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Hotfix\\Q246009";
 
@@ -164,7 +164,7 @@ TEST_F(OperatingSystem, AMachineWithoutAnswersHasEveryRow) {
                   u"\t\t\tAvailPageFile: 0 B"));
 }
 
-// Windows NT 4 before its last service packs does not know the extended record.
+// Windows NT 4 before its last service packs lacks the extended record.
 TEST_F(OperatingSystem, VersionIsThatOfTheBasicRecord) {
   platform::SystemVersion basic;
   basic.family = platform::SystemFamily::WindowsNt;

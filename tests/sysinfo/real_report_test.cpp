@@ -16,7 +16,7 @@ namespace {
 using testing::ElementsAre;
 using testing::StartsWith;
 
-// Makes a folder the current one for as long as this object lives.
+// Sets the current folder for the lifetime of this object.
 class CurrentFolder {
  public:
   explicit CurrentFolder(const std::filesystem::path& folder) { std::filesystem::current_path(folder); }
@@ -33,8 +33,8 @@ std::u16string FullName(std::u16string_view name) {
          std::u16string(name);
 }
 
-// The lines about a file of the current folder in the report of this very machine, as UTF-8 and without
-// their indent.
+// Returns the lines about a file of the current folder in the report of the real machine, as UTF-8 and
+// without their indent.
 std::vector<std::string> BlockOf(std::u16string_view name) {
   StringList report;
   report.SetText(TRavoSystemInfo().AsText(siVisual));
@@ -73,7 +73,7 @@ TEST(RealReport, ListsAFileWithTheStringsOfItsVersionResource) {
 
 #ifdef RAVO_TEST_PACKAGE
 
-// The tests run where our own package stands.
+// The tests run in the folder of our own package.
 TEST(RealReport, ListsOurOwnPackage) {
   const std::u16string name = FromUtf8(RAVO_TEST_PACKAGE);
   const std::string size = std::to_string(std::filesystem::file_size(RAVO_TEST_PACKAGE));

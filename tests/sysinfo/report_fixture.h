@@ -14,7 +14,7 @@
 
 namespace ravo::test {
 
-/// A report about a machine that a test makes up. The machine starts empty, with the Czech locale.
+/// A report about a machine that the test defines. The machine starts empty, with the Czech locale.
 class Report : public testing::Test {
  protected:
   using Lines = std::vector<std::u16string>;
@@ -31,7 +31,7 @@ class Report : public testing::Test {
     return RavoInterfaceInfo::TRavoSystemInfo().AsText(kind);
   }
 
-  /// The lines behind a heading, up to the next one that stands no deeper.
+  /// Returns the lines after a heading, up to the next one at the same depth or above.
   [[nodiscard]] Lines Section(std::u16string_view heading, Kind kind = RavoInterfaceInfo::siVisual) const {
     StringList all;
     all.SetText(Text(kind));
@@ -54,7 +54,7 @@ class Report : public testing::Test {
     machine.version.service_pack = service_pack;
   }
 
-  /// Texts as a registry value of several texts stores them, without the zero that ends the list.
+  /// Returns texts in the form of a registry value of several texts, without the zero that ends the list.
   [[nodiscard]] static std::vector<std::byte> Stored(std::u16string_view units) {
     std::vector<std::byte> bytes;
     for (const char16_t unit : units) {

@@ -175,7 +175,7 @@ TEST_F(WholeReport, IsGatheredAnewEachTime) {
   EXPECT_NE(info.AsText(siVisual), first);
 }
 
-// Any other number than the two means the client, as the first of them does.
+// Any number other than the two means the client, the first of them.
 TEST_F(WholeReport, AnUnknownKindIsAClient) {
   EXPECT_EQ(Text(static_cast<TRavoSystemInfoTyp>(7)), Text(siVisual));
 }

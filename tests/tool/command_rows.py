@@ -1,4 +1,4 @@
-"""Command lines of `ravo` and what must come of each."""
+"""Command lines of `ravo` and their expected results."""
 
 import pathlib
 import random
@@ -67,7 +67,7 @@ LEDGER_FAULTS = (
 
 
 def drawn(seed, alphabet, count):
-    """The text that a Mersenne Twister seeded by the seed's bytes draws, from Python's own one."""
+    """The text that Python's own Mersenne Twister draws when seeded with the seed's bytes."""
     words = [19650218]
     for i in range(1, 624):
         words.append((1812433253 * (words[-1] ^ words[-1] >> 30) + i) & 0xFFFFFFFF)
@@ -248,7 +248,7 @@ ROWS = [
     Row(["date", "2023-12-31", "--month", "1", "--calendar"], out=("January 2024\n", " 1   1*  2 ", " 5  29  30 [31]\n")),
     Row(["date", "2021-01-31", "--calendar"], out=("January 2021\n", "53                   1*  2   3*\n", " 4  25  26  27  28  29  30 [31]\n")),
     Row(["date", "2024-03-29", "--calendar", "--json"], WRONG_USAGE),
-    # Random texts: what the generator of Python draws from the same keys.
+    # Random texts, compared with Python's generator and the same keys.
     Row(["random", "--seed", "seed", "--count", "20", "--alphabet", "abcdefg"], exact=drawn("seed", "abcdefg", 20)),
     Row(["random", "--seed", "sůl", "--alphabet", "áčď", "--count", "50"], exact=drawn("sůl", "áčď", 50)),
     Row(["random", "--seed", "x", "--count", "0"], exact="\n"),
@@ -256,9 +256,9 @@ ROWS = [
     Row(["random"], WRONG_USAGE),
     Row(["random", "--seed", ""], WRONG_USAGE, err=("the seed is empty",)),
     Row(["random", "--seed", "x", "--alphabet", ""], WRONG_USAGE, err=("the alphabet is empty",)),
-    Row(["random", "--seed", "x", "--alphabet", "a😀"], WRONG_USAGE, err=("beyond U+FFFF",)),
+    Row(["random", "--seed", "x", "--alphabet", "a😀"], WRONG_USAGE, err=("past U+FFFF",)),
     Row(["random", "--seed", "x", "--count", "-1"], WRONG_USAGE),
-    # The tour: each command as typed and its answer; no colours where nobody watches.
+    # The tour: each command as typed and its output; no colours without a terminal.
     Row(["--help"], out=("\nThe suite:\n  table ", "\nAccounting:\n  check ", "\n  tour "), holds=without("Subcommands:")),
     Row(["tour"], holds=without("\033"), out=(
         "$ ravo table 71710 100121 72510\n71710\tÚčetní deník\n", "not valid: wrong check digit, right: 4006381333931\n(exit status 1)\n",
@@ -294,7 +294,7 @@ ROWS = [
     # Standard input, which is empty here.
     Row(["hash", "crc32"], exact="00000000  -\n"),
     Row(["hash", "crc32", "-"], exact="00000000  -\n"),
-    Row(["hash", "--check"], WRONG_USAGE, exact="", err=("-: no line of it is a sum",)),
+    Row(["hash", "--check"], WRONG_USAGE, exact="", err=("-: has no line with a sum",)),
     Row(["hash"], WRONG_USAGE),
     Row(["hash", "md5", "x"], WRONG_USAGE, err=("crc32, hash, hash-ia",)),
     Row(["hash", "crc32", "missing"], WRONG_USAGE, exact="", err=("missing: cannot be read",)),

@@ -9,7 +9,7 @@
 namespace tool {
 namespace {
 
-// Gives a text in pieces of at most `most` bytes.
+// Returns a text in blocks of at most `most` bytes.
 CsvReader::Source InPieces(std::string text, std::size_t most) {
   return [text = std::move(text), most, at = std::size_t{0}](std::span<char> to) mutable {
     const std::size_t count = std::min({most, to.size(), text.size() - at});
@@ -101,7 +101,7 @@ TEST(CsvReader, DamagedRowsNameTheirLine) {
   ExpectError("\"a\" ;b", 1);
 }
 
-// Rows longer than the buffer, and fields that end at its edge.
+// Rows longer than the buffer, and fields that end at its boundary.
 TEST(CsvReader, RowsOfAnyLength) {
   for (const std::size_t length : {(1U << 20) - 2, (1U << 20) - 1, 1U << 20, (1U << 20) + 1, 5U << 20}) {
     const std::string plain(length, 'x');

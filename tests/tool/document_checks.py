@@ -16,7 +16,7 @@ XML_ONE_LINE = '<?xml version="1.0" encoding="%s"?><Účet Číslo="á"><Část>
 
 
 def xml_rows(name):
-    """Each work of `ravo xml` on the document above, one after the other."""
+    """The commands of `ravo xml` on the document above, in sequence."""
     return [
         Row(["xml", "show", name], exact='Faktury\n  Faktura Číslo="1" Poznámka="a < b": první řádek\n    br\n  Faktura Číslo="2"\n'),
         Row(["xml", "show", "--color", name], out=("\x1b[1;34mFaktury\x1b[0m\n", '\x1b[36mČíslo\x1b[0m=\x1b[32m"2"\x1b[0m\n')),
@@ -70,7 +70,7 @@ def check_xml(program):
 
 
 def check_xml_encodings(program):
-    """Documents in UTF-8 read as such and stay so; a mark at the front is stepped over."""
+    """Documents in UTF-8 are read and written as UTF-8; a byte-order mark is skipped."""
     file = program.folder / "utf8.xml"
     whole = XML_ONE_LINE % "UTF-8"
     for content in (whole.encode(), b"\xef\xbb\xbf" + whole.encode(), (XML_ONE_LINE % "windows-1250").encode("cp1250")):
@@ -86,7 +86,7 @@ def check_xml_encodings(program):
 
 
 def check_xml_unreadable(program):
-    """What cannot be read as XML names file and line; a document without a first element is read by its items."""
+    """The error for malformed XML has file and line; a document without a first element is read by its items."""
     file = program.folder / "broken.xml"
     for content, line in ((b"<a>\n<b>\n<c", 3), (b"<a>\n<![CDATA[ x", 2), (b"<a></a>\n</b>\n", 2), (b"x" * 65536, 1)):
         file.write_bytes(content)
@@ -102,13 +102,13 @@ def check_xml_unreadable(program):
 
 
 def strict(element):
-    """What a strict reader of XML makes of an element."""
+    """An element as a strict XML parser reads it."""
     texts = [(text or "").strip() for text in (element.text, element.tail)]
     return [element.tag, dict(element.attrib), texts, [strict(child) for child in element]]
 
 
 def check_xml_samples(program):
-    """Documents of other programs say the same to a strict reader before and after."""
+    """A strict parser reads the same from documents of other programs before and after."""
     saved = program.folder / "saved.xml"
     samples = sorted((pathlib.Path(__file__).parents[2] / "samples" / "xml").iterdir())
     if len(samples) < 4:
@@ -128,7 +128,7 @@ FORM_END = b"]>>>>\nendobj\ntrailer\n<</Root 1 0 R>>\n%%EOF\n"
 
 
 def check_forms(program):
-    """A table of fields becomes a forms data file, byte for byte; what no form can take names its line."""
+    """A table of fields becomes a forms data file, byte for byte; the error for an invalid row has its line."""
     table, form = program.folder / "pole.csv", program.folder / "formulář.fdf"
     command = ["form", table.name, "-o", form.name]
     for text, fields in (
@@ -153,11 +153,11 @@ def check_forms(program):
         ("field,value\na,(\n", "line 2: '(' has"),
         ("field,value\na,)(\n", "line 2: ')(' has"),
         ("field,value\na,C:\\\n", "line 2: 'C:\\' has"),
-        ("field,value\na,語\n", "line 2: the code page of forms has no '語'"),
+        ("field,value\na,語\n", "line 2: the code page of forms lacks '語'"),
         ("field,value\n(,a\n", "line 2: '(' has"),
-        ("field,value,kind\na,1,box\n", "line 2: 'box' is no kind"),
-        ("field,value,kind\na,1.5,number\n", "line 2: '1.5' is no number"),
-        ("field,value,kind\na,2147483648,number\n", "line 2: '2147483648' is no number"),
+        ("field,value,kind\na,1,box\n", "line 2: 'box' is not a kind"),
+        ("field,value,kind\na,1.5,number\n", "line 2: '1.5' is not a 32-bit number"),
+        ("field,value,kind\na,2147483648,number\n", "line 2: '2147483648' is not a 32-bit number"),
     ):
         table.write_text(text, encoding="utf-8", newline="")
         yield from program.failures(Row(command, WRONG_USAGE, exact="", err=(table.name, told)))

@@ -31,7 +31,7 @@ def commands(page):
         else:
             found += [(line, None) for line in block.splitlines() if line.startswith("ravo ")]
     inline = INLINE.findall(ANY_FENCE.sub("", page).replace("\n", " "))
-    # Words in capitals stand for whatever the reader has.
+    # Words in capitals are placeholders.
     return found + [(line, None) for line in inline if not re.search(r"\bCOMMAND\b", line)]
 
 
@@ -46,7 +46,7 @@ def failures(page, ravo, folder):
 
 
 def all_failures(project, pages, ravo):
-    """In a folder of its own, where the project's samples are and files may be written."""
+    """Runs in a separate folder with the project's samples, where files may be written."""
     with tempfile.TemporaryDirectory() as folder:
         for name in ("samples", "README.md"):
             os.symlink(project / name, pathlib.Path(folder) / name)

@@ -1,4 +1,4 @@
-"""Files that `ravo` reads and writes, and where it writes to: reports, sums, conversions, tables, sorted lines."""
+"""Files that `ravo` reads and writes: reports, sums, conversions, tables, sorted lines."""
 
 import json
 import os
@@ -11,7 +11,7 @@ from harness import NO, WRONG_USAGE, YES, Row
 
 
 def outline(nodes, depth=0):
-    """Depth, caption and whether there is a value, line by line, from the report's JSON."""
+    """Depth, caption and presence of a value, line by line, from the report's JSON."""
     for node in nodes:
         yield depth, node["caption"], "value" in node
         yield from outline(node.get("items", []), depth + 1)
@@ -25,20 +25,20 @@ def outline_of_text(report):
 
 
 def check_report_json(program):
-    """The JSON of the report has every line of its text: at its depth, in its order."""
+    """The JSON of the report has every line of its text, at the same depth and in the same order."""
     layers: tuple[list[str], ...] = ([], ["--business"])
     for layer in layers:
         text = list(outline_of_text(program.run(["report", *layer]).out))
         nested = list(outline(json.loads(program.run(["report", "--json", *layer]).out)))
         if text != nested:
             yield f"report {layer}: lines and JSON differ: {set(text) ^ set(nested)}"
-        # What every machine has, even one without disks and without a file of the suite.
+        # The minimum of any machine, even without disks and files of the suite.
         if len(text) < 35:
             yield f"report {layer}: only {len(text)} lines"
 
 
 def check_report_file(program):
-    """A report in a file keeps its CR LF, replaces what was there, and leaves nothing beside it."""
+    """A report in a file keeps its CR LF, replaces the old file, and leaves no draft beside it."""
     name = "zpráva o počítači.txt"
     file = program.folder / name
     for before in (None, "an older, longer text" * 1000):
@@ -59,7 +59,7 @@ def check_report_file(program):
 
 
 def check_sums(program):
-    """Sums of files of any size are zlib's, and a list of them checks until a file changes."""
+    """Sums of files of any size equal zlib's, and a list of them verifies until a file changes."""
     contents = {"prázdný": b"", "check 1": b"123456789", "large": bytes(range(251)) * 3000}
     for name, content in contents.items():
         (program.folder / name).write_bytes(content)
@@ -88,7 +88,7 @@ def check_sums(program):
         yield f"hash --check of a list from standard input: {result}"
     sums.write_text(labelled + "nonsense\n", encoding="utf-8")
     result = program.run(["hash", "--check", "list.sum"])
-    if (result.status, result.out) != (NO, "check 1: OK\n" * 3) or "1 lines are no sums" not in result.err:
+    if (result.status, result.out) != (NO, "check 1: OK\n" * 3) or "1 lines are not sums" not in result.err:
         yield f"hash --check with a line too many: {result}"
     sums.write_text(wanted + "CBF43926  gone\n", encoding="utf-8")
     (program.folder / "check 1").write_bytes(b"123456788")
@@ -105,12 +105,12 @@ def check_sums(program):
 
 
 def check_conversions(program):
-    """Texts come out in the other encoding; what cannot be read or written ends it, and an old file stays."""
+    """Texts are converted; unreadable input or output ends the conversion and keeps the old file."""
     source, target = program.folder / "příliš.txt", program.folder / "cíl.txt"
     text = "Příliš žluťoučký kůň\r\n" * 1000
 
     def convert(*options, content, status=YES):
-        """What stands in the target; the old bytes are "old"."""
+        """The contents of the target; the old bytes are "old"."""
         source.write_bytes(content)
         target.write_bytes(b"old")
         result = program.run(["convert", *options, source.name, "-o", target.name])
@@ -171,7 +171,7 @@ def check_conversions(program):
 
 
 def check_full_device(program):
-    """Output that cannot be written is no success."""
+    """Output that cannot be written is a failure."""
     if program.emulated or not pathlib.Path("/dev/full").exists():
         return
     with open("/dev/full", "wb") as full:
@@ -196,7 +196,7 @@ PIPED = {
 
 
 def check_pipes(program):
-    """A pipe that has a name is read like a file of the same bytes."""
+    """A named pipe is read like a file of the same bytes."""
     if program.emulated or not hasattr(os, "mkfifo"):
         return
     file = program.folder / "piped"
@@ -215,7 +215,7 @@ def check_pipes(program):
 
 
 def check_unreadable(program):
-    """What fails when it is read is no empty file. The memory of a process has nothing at its beginning."""
+    """A read error is not an empty file. The memory of a process has nothing at its start."""
     memory = pathlib.Path("/proc/self/mem")
     if program.emulated or not memory.exists():
         return
@@ -228,7 +228,7 @@ def check_unreadable(program):
 
 
 def check_colours(program):
-    """The tour is coloured on a terminal that shows colours, and on no other."""
+    """The tour is coloured only on a terminal that supports colours."""
     if len(program.command) > 1 or not hasattr(os, "openpty"):
         return
     for kind, coloured in (("xterm", True), ("dumb", False)):
@@ -248,11 +248,11 @@ def check_colours(program):
 
 
 def check_damaged_files(program):
-    """A file that is no table names the line at which it stops being one."""
+    """The error for a file that is not a table has the line of the fault."""
     file = program.folder / "účty.csv"
     for content, told in (
         (b'VS\n1\n"2', "line 3: a quote is never closed"),
-        (b'VS;X\n"0"0;1\n', "line 2: text behind a closing quote"),
+        (b'VS;X\n"0"0;1\n', "line 2: text after a closing quote"),
         (b"VS;X\n0;1\n0;1;2\n", "line 3: 3 fields, not 2"),
         (b"", "no first row"),
     ):
@@ -266,7 +266,7 @@ def check_damaged_files(program):
 
 
 def check_sorted_files(program):
-    """Lines of files come out sorted, numbers by value where that is wanted, even where that order has circles."""
+    """Lines of files are sorted, optionally with numbers by value, even if that order has cycles."""
     (program.folder / "utf8.txt").write_bytes("účet10\r\nÚčet9\nfile10\nfile9".encode())
     (program.folder / "ansi.txt").write_bytes("účet9\n".encode("cp1250"))
     (program.folder / "circle.txt").write_bytes(b"105\n20\n15\n105\n15\n20\n")
@@ -280,6 +280,6 @@ def check_sorted_files(program):
         if (result.status, result.out) != (YES, wanted):
             yield f"sort {arguments}: {result}"
     if sorted(program.run(["sort", "--natural", "circle.txt"]).out.split()) != ["105", "105", "15", "15", "20", "20"]:
-        yield "sort --natural: lines are lost where the order has circles"
+        yield "sort --natural: lines are lost if the order has cycles"
     for name in ("utf8.txt", "ansi.txt", "circle.txt"):
         (program.folder / name).unlink()

@@ -1,4 +1,4 @@
-"""What the tests of the command-line program share: a command line with what must come of it, and the program itself."""
+"""Shared by the tests of the command-line program: a command line with its expected result, and the program itself."""
 
 import json
 import os
@@ -10,23 +10,23 @@ from typing import Callable, Optional
 
 YES, NO, WRONG_USAGE, SKIPPED = 0, 1, 2, 77
 
-# The emulator's host of drivers may fall as a session starts, on a busy machine, and says so where the program writes.
-# Where the program itself falls, its exit status tells.
+# On a busy machine the emulator's driver host may crash at the start of a session and print into the output.
+# A crash of the program itself shows in its exit status.
 EMULATOR_FALL = re.compile(r"^wine: Unhandled page fault .* starting debugger\.\.\.\r?\n", re.MULTILINE)
 
 
 @dataclass
 class Row:
-    """A command line and what must come of it. Texts are looked for; `exact` is the whole standard output."""
+    """A command line and its expected result. The output must contain the texts; `exact` is the whole standard output."""
 
     arguments: list[str]
     status: int = YES
     out: tuple[str, ...] = ()
     exact: Optional[str] = None
     err: tuple[str, ...] = ()
-    # Gives a remark about what is wrong, or something false.
+    # Returns a remark about a defect, or a false value.
     holds: Optional[Callable[[str], object]] = None
-    # A no that is said on standard output alone.
+    # The answer no is printed only on standard output.
     silent: bool = False
 
 
@@ -44,7 +44,7 @@ class Program:
 
     def run(self, arguments, out=None, given=None):
         """`given` is the name of a file that is standard input."""
-        # Into files: the servers that an emulator leaves behind would hold pipes open for seconds.
+        # Files rather than pipes: an emulator's servers would hold pipes open for seconds.
         source = self.folder / given if given else os.devnull
         with open(source, "rb") as own_in, tempfile.TemporaryFile() as own_out, tempfile.TemporaryFile() as err:
             done = subprocess.run(
@@ -53,7 +53,7 @@ class Program:
             texts = []
             for file in (own_out, err):
                 file.seek(0)
-                texts.append(file.read().decode("utf-8"))  # bytes that are no UTF-8 end the test here
+                texts.append(file.read().decode("utf-8"))  # invalid UTF-8 ends the test here
         return Result(done.returncode, texts[0], EMULATOR_FALL.sub("", texts[1]) if self.emulated else texts[1])
 
     def failures(self, row):

@@ -1,4 +1,4 @@
-"""Long work: what it shows on a terminal, and what is left where it is ended from outside."""
+"""Long work: its output on a terminal, and its files after an interruption."""
 
 import os
 import re
@@ -31,7 +31,7 @@ class Watched:
                 stream.close()
 
     def sees(self, pattern):
-        """Reads on until the terminal shows it; false where the program ends before."""
+        """Reads until the terminal shows the pattern; false if the program ends before."""
         while not re.search(pattern, self.shown):
             try:
                 piece = self.reader.read(4096)
@@ -44,12 +44,12 @@ class Watched:
 
 
 def check_progress(program):
-    """Long work shows a bar on a terminal, or a count where there is no telling how long it is, and takes it away."""
+    """Long work shows a bar on a terminal, or a count if the total is unknown, and erases it."""
     if program.emulated or not hasattr(os, "openpty"):
         return
     large = program.folder / "large"
     with open(large, "wb") as file:
-        file.truncate(1 << 40)  # a hole: nothing of it is on the disk
+        file.truncate(1 << 40)  # a sparse file: nothing of it is on the disk
     with Watched(program, ["hash", "crc32", "large"], subprocess.DEVNULL) as watched:
         if not watched.sees(r"\rlarge \[#*\.+\] \d+ %"):
             yield f"hash of a large file: no bar in {watched.shown!r}"
@@ -93,7 +93,7 @@ def check_streaming(program):
 
 
 def check_interruption(program):
-    """A conversion that is ended from outside leaves the old file, and nothing beside it."""
+    """An interrupted conversion leaves the old file, and no draft beside it."""
     if program.emulated:
         return
     target = program.folder / "cíl.txt"
@@ -109,7 +109,7 @@ def check_interruption(program):
             assert running.stdin
             running.stdin.write(piece)
             running.stdin.flush()
-            # In the middle of it: some of the text is in a file, and more is to come.
+            # Interrupted in the middle: some of the text is in a file, and more follows.
             patience = time.monotonic() + 60
             while not any(path.stat().st_size for path in beside()) and time.monotonic() < patience:
                 time.sleep(0.01)

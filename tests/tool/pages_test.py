@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""The manual page and the completion know every command and option that `ravo --help` shows.
+"""The manual page and the completion have every command and option that `ravo --help` shows.
 
 usage: pages_test.py [--self-test] PROGRAM MAN BASH
 """
@@ -15,13 +15,13 @@ def help_of(program, *command):
 
 
 def commands_of(text):
-    """The commands that help lists below its themes."""
+    """The commands that help lists under its themes."""
     body = text.split("Options:\n", 1)[1].split("\n\n", 1)[1].split("Exit status:", 1)[0]
     return re.findall(r"^  ([a-z][a-z0-9-]*) ", body, re.MULTILINE)
 
 
 def all_commands(program, commands):
-    """The commands, each with its own behind it ("xml", "xml show")."""
+    """The commands, each followed by its sub-commands ("xml", "xml show")."""
     for command in commands:
         yield command
         own = help_of(program, command).partition("\nSubcommands:\n")[2].partition("\n\n")[0]
@@ -33,14 +33,14 @@ def options_of(text):
 
 
 def completed(script, *words):
-    """What bash offers for the last word."""
+    """The completions that bash offers for the last word."""
     code = 'source "$1"; shift; COMP_WORDS=("$@"); COMP_CWORD=$(($# - 1)); _ravo; printf "%s\\n" "${COMPREPLY[@]}"'
     done = subprocess.run(["bash", "-c", code, "-", script, *words], capture_output=True, text=True, check=True)
     return sorted(done.stdout.split())
 
 
 def man_remarks(page):
-    """The page through groff, warnings on; nothing where this machine has no groff."""
+    """The page formatted by groff with warnings on; empty if this machine has no groff."""
     try:
         done = subprocess.run(["groff", "-man", "-Kutf8", "-Tutf8", "-ww", "-z"], input=page.encode(), capture_output=True)
     except FileNotFoundError:

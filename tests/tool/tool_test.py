@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
-"""Runs the command-line program by its command line and looks at exit status, standard output and standard error.
+"""Runs the command-line program and checks exit status, standard output and standard error.
 
-usage: tool_test.py [--self-test] -- COMMAND...      (COMMAND: the program, an emulator in front where it needs one)
+usage: tool_test.py [--self-test] -- COMMAND...      (COMMAND: the program, with an emulator before it if needed)
 
-Exits 77 where the emulator says that this machine cannot run the program.
+Exits 77 if the emulator reports that this machine cannot run the program.
 """
 
 import pathlib
@@ -18,7 +18,7 @@ from file_checks import (check_colours, check_conversions, check_damaged_files, 
 from harness import NO, SKIPPED, YES, Program, Row, differs
 from long_work_checks import check_interruption, check_progress, check_streaming
 
-# What the harness itself must find wrong, each for the named reason.
+# Rows that the harness itself must reject, each for the named reason.
 MUST_FAIL = [
     (Row(["table", "10110"], NO), "status 0, not 1"),
     (Row(["table", "10110"], exact="10110 Profil\n"), "standard output is not"),
@@ -53,7 +53,7 @@ CHECKS = (
 
 
 def tested(program):
-    # An emulator mostly waits for its own servers.
+    # An emulator mostly waits for its servers.
     with ThreadPoolExecutor(max_workers=4 if program.emulated else 2) as pool:
         for failures in pool.map(program.failures, ROWS):
             yield from failures
@@ -70,7 +70,7 @@ def self_tested(program):
 def main(arguments):
     self_test = arguments[:1] == ["--self-test"]
     command = arguments[arguments.index("--") + 1 :]
-    # Below the build tree: a program under an emulator may see nothing else.
+    # Inside the build tree: a program under an emulator may have access to nothing else.
     with tempfile.TemporaryDirectory(dir=".") as folder:
         program = Program(command, pathlib.Path(folder).resolve())
         if program.run(["--version"]).status == SKIPPED:

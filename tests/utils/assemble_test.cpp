@@ -40,8 +40,8 @@ TEST(Padding, ANegativeLengthReturnsTheText) {
   }
 }
 
-// The standard library raises `std::length_error` and, on 32 bits, an 8-bit text may be as long as a
-// `std::ptrdiff_t` goes.
+// The standard library throws `std::length_error`; on 32 bits, an 8-bit text may have any length of
+// `std::ptrdiff_t`.
 TEST(Padding, ALengthThatNoTextHasIsARangeError) {
   constexpr auto kMost = std::numeric_limits<std::ptrdiff_t>::max();
   EXPECT_THROW(static_cast<void>(PadLeftW(u"42", kMost)), RangeError);

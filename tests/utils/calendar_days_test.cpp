@@ -1,4 +1,4 @@
-// Every day of the years -4800 to 9999, beside the calendar of the standard library.
+// Every day of the years -4800 to 9999, compared with the calendar of the standard library.
 #include "support/tried.h"
 #include <ravo/utils/calendar.h>
 #include <ravo/utils/calendar_formulas.h>
@@ -25,7 +25,7 @@ TJulianDate JulianDateOf(chrono::sys_days day) {
   return static_cast<TJulianDate>(day.time_since_epoch().count()) + kUnixEpoch;
 }
 
-// The week by its definition: the week of a year that its Thursday lies in, counted from the first.
+// The week by definition: a week belongs to the year of its Thursday, and weeks are counted from the first.
 int IsoWeek(chrono::sys_days day) {
   const auto weekday = chrono::weekday(day).iso_encoding();
   const chrono::sys_days thursday = day + chrono::days(4) - chrono::days(weekday);

@@ -24,7 +24,7 @@ TJulianDate GregorianEaster(std::int32_t year) {
                          static_cast<std::uint16_t>(days % 31 + 1));
 }
 
-// The formula as it is stated, in the order of its steps, for years that are not negative.
+// The formula as stated, step by step, for years that are not negative.
 TJulianDate EasterByFormula(std::int32_t year) {
   const std::int32_t d = (234 - 11 * (year % 19)) % 30;
   const std::int32_t p = d + 21;
@@ -55,7 +55,7 @@ TEST(EasterSunday, IsTheBareFormulaOutside) {
     EXPECT_EQ(EasterSunday(year), EasterByFormula(year)) << year;
 }
 
-// By hand: year -1 leaves 18 of 19, the moon is on day 27, and the weekday of the formula is 6.
+// By hand: year -1 has the remainder 18 of 19, the moon is on day 27, and the weekday of the formula is 6.
 TEST(EasterSunday, OfNegativeYearsTakesRemaindersUpwards) {
   EXPECT_EQ(EasterSunday(-1), YmdToJulianDate(-1, 3, 1) + 27);
   EXPECT_EQ(EasterSunday(-19), YmdToJulianDate(-19, 3, 1) + 45 + 6 - 2);
@@ -80,7 +80,7 @@ TEST(IsHolidayInGermany, Has24And31December) {
     EXPECT_FALSE(IsHolidayInGermanyYmd(2024, 12, day)) << day;
 }
 
-// Every day of the years in which Easter is the Gregorian one, beside a list made year by year.
+// Every day of the years in which Easter is the Gregorian one, compared with a list made for each year.
 TEST(IsHolidayInGermany, IsTheStatedListOnEveryDay) {
   for (std::int32_t year = 1900; year <= 2099; ++year) {
     std::set<TJulianDate> holidays;

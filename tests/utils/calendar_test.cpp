@@ -260,7 +260,7 @@ TEST(IncMonths, CountsBothWays) {
   EXPECT_THROW(later({kSmallest, 1, 1}, -1), OverflowError);
 }
 
-// Months counted from year 0 need no cases.
+// Months counted from year 0 need no special cases.
 TEST(IncMonths, IsTheCountOfMonthsFromYear0) {
   for (std::uint16_t month = 1; month <= 12; ++month) {
     for (std::int32_t count = -200; count <= 200; ++count) {

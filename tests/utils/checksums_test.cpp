@@ -39,7 +39,7 @@ TEST(UpdateCrc32OfBuf, TwoHalvesGiveTheWhole) {
   }
 }
 
-// Such a text is never read, so none needs to be there.
+// The text is never read, so no memory is needed.
 TEST(Crc32OfStrW, RaisesFrom2To30UnitsOn) {
   const char16_t unit = u'x';
   const std::u16string_view text(&unit, std::size_t{1} << 30);

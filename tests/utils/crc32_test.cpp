@@ -14,7 +14,7 @@ namespace {
 
 std::span<const std::byte> BytesOf(std::string_view text) { return std::as_bytes(std::span(text)); }
 
-// The definition itself, bit by bit.
+// The definition, bit by bit.
 std::uint32_t PlainUpdate(std::uint32_t crc, std::span<const std::byte> bytes) {
   for (const std::byte byte : bytes) {
     crc ^= std::to_integer<std::uint32_t>(byte);
@@ -36,7 +36,7 @@ std::vector<std::byte> RandomBytes(std::size_t count) {
   return bytes;
 }
 
-// Every test on every kernel, through the one function that the library calls.
+// Runs every test on every kernel, through the function that the library calls.
 class Crc32OfKernel : public ::testing::TestWithParam<utils::Crc32Kernel> {
  protected:
   void SetUp() override {
@@ -64,7 +64,7 @@ TEST_P(Crc32OfKernel, IsTheDefinitionAtEveryLengthAndAlignment) {
   }
 }
 
-// Starts that are not aligned, without a byte to spare behind the end.
+// Unaligned starts, with an unreadable page directly after the end.
 TEST_P(Crc32OfKernel, ReadsNoByteTooMany) {
   const std::vector<std::byte> bytes = RandomBytes(300);
   for (std::size_t count = 0; count <= bytes.size(); ++count) {
@@ -74,7 +74,8 @@ TEST_P(Crc32OfKernel, ReadsNoByteTooMany) {
   }
 }
 
-// Each bit of a long text tells: the checksum is linear, so that this checks all texts of these lengths.
+// Each bit of a long text changes the result: the checksum is linear, so this covers all texts of these
+// lengths.
 TEST_P(Crc32OfKernel, EveryBitOfATextCounts) {
   for (const std::size_t count : {333u, 1337u}) {
     std::vector<std::byte> bytes(count);
@@ -94,7 +95,7 @@ TEST_P(Crc32OfKernel, LongTexts) {
         << count;
 }
 
-// Lengths around those at which a kernel begins to go another way or to use a place again.
+// Lengths around those at which a kernel switches its method or reuses a buffer.
 TEST_P(Crc32OfKernel, EveryLengthAroundATurn) {
   const std::vector<std::byte> bytes = RandomBytes(40000);
   std::vector<std::uint32_t> expected = {kCrc32Start};
@@ -141,7 +142,7 @@ TEST(Crc32Kernels, BeginWithTheReference) {
   EXPECT_TRUE(kernels[1].runs_here());
 }
 
-// A kernel that no other could be mistaken for.
+// A kernel that differs from every other one.
 TEST(ScopedCrc32Kernel, ForcesAndReturns) {
   constexpr utils::Crc32Kernel kOdd = {"odd",
                                        [](std::uint32_t, std::span<const std::byte>) noexcept { return 42u; },

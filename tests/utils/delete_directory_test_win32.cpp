@@ -3,7 +3,7 @@
 #include <ravo/DIUtils.h>
 
 #include <gtest/gtest.h>
-// The system's own order.
+// The system's headers need this order.
 // clang-format off
 #include <windows.h>
 #include <shellapi.h>
@@ -27,8 +27,8 @@ TEST(DeleteDirectory, AFileInUseStays) {
   EXPECT_TRUE(DeleteDirectoryW(SuiteName(scratch.Path() / "tree"), true));
 }
 
-// The shell decides: Wine's makes such a file writable and deletes it, as that of Windows does without a
-// question.
+// The shell decides: Wine's makes such a file writable and deletes it, as that of Windows does when it runs
+// without prompts.
 TEST(DeleteDirectory, AReadOnlyFileIsTheShellsToDecide) {
   const ScratchFolder scratch;
   scratch.Write("tree/file", "x");
@@ -38,14 +38,14 @@ TEST(DeleteDirectory, AReadOnlyFileIsTheShellsToDecide) {
   SetFileAttributesW((scratch.Path() / "tree/file").c_str(), FILE_ATTRIBUTE_NORMAL);
 }
 
-// What is under the recycle bins of this drive, which Wine keeps where the desktop does.
+// The number of entries in the recycle bins of this drive; Wine stores them where the desktop does.
 std::size_t CountInRecycleBin() {
   SHQUERYRBINFO bin{};
   bin.cbSize = sizeof bin;
   return SHQueryRecycleBinW(nullptr, &bin) == S_OK ? static_cast<std::size_t>(bin.i64NumItems) : 0;
 }
 
-// What a deletion that can be undone does.
+// Moves a path to the recycle bin, as an undoable deletion does.
 bool MoveToRecycleBin(const std::filesystem::path& path) {
   std::wstring source = path.wstring();
   source.push_back(L'\0');
@@ -63,13 +63,13 @@ TEST(DeleteDirectory, NothingGoesIntoTheRecycleBin) {
   const std::size_t before = CountInRecycleBin();
   EXPECT_TRUE(DeleteDirectoryW(SuiteName(scratch.Path() / "tree"), true));
   EXPECT_EQ(CountInRecycleBin(), before);
-  // The count is one that rises.
+  // Check that the count increases.
   ASSERT_TRUE(MoveToRecycleBin(scratch.Path() / "undone"));
   EXPECT_EQ(CountInRecycleBin(), before + 1);
 }
 
-// The shell reaches no name beyond its longest one: what the answer says is what happened.
-// Some shells lose themselves in such names and delete what is in the current folder.
+// The shell cannot handle names past its maximum length: the result says what happened. Some shells then
+// delete the contents of the current folder.
 TEST(DeleteDirectory, KeepsAFolderWithNamesTooLongForTheShell) {
   const ScratchFolder scratch;
   scratch.Write("bystander", "");
@@ -88,7 +88,8 @@ TEST(DeleteDirectory, KeepsAFolderWithNamesTooLongForTheShell) {
   EXPECT_TRUE(exists(scratch.Path() / "bystander"));
 }
 
-// Makes a link to a folder by a program of the system that Wine runs on; false where there is none.
+// Creates a link to a folder with a program of the system that Wine runs on; returns false if there is no
+// such program.
 bool MakeLink(const std::filesystem::path& folder, const wchar_t* target) {
   STARTUPINFOW start{};
   start.cb = sizeof start;
@@ -98,16 +99,16 @@ bool MakeLink(const std::filesystem::path& folder, const wchar_t* target) {
                       &start, &process)) {
     return false;
   }
-  // The program runs outside of Wine: its process is no measure of when it ends.
+  // The program runs outside Wine, so its process does not tell when it ends.
   for (int i = 0; i < 500 && !exists(folder / "link"); ++i) Sleep(10);
   CloseHandle(process.hThread);
   CloseHandle(process.hProcess);
   return exists(folder / "link");
 }
 
-// Wine 8.0 shows links of the system that it runs on without saying where they lead, and its shell and its
-// calls follow them whatever they are asked: a folder with such a link stays as it is. Of links to files it
-// tells nothing at all, so that nobody can do anything about these.
+// Wine 8.0 shows links of the host system without their targets, and its shell and calls always follow them:
+// a folder with such a link is left unchanged. Links to files are not visible as links at all, so they cannot
+// be handled.
 TEST(DeleteDirectory, FollowsNoLinkOutOfTheFolder) {
   const ScratchFolder scratch;
   scratch.Write("outside/kept", "1");

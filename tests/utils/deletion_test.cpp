@@ -9,7 +9,7 @@
 namespace ravo::DIUtils {
 namespace {
 
-// Where the system's header makes "DeleteFile" this name, UTF-16 must still do.
+// If the system's header renames "DeleteFile" to this, UTF-16 names must still work.
 TEST(DeleteFileA, TakesNamesInUtf16Too) {
   const test::ScratchFolder scratch;
   scratch.Write("file", "");
@@ -18,7 +18,7 @@ TEST(DeleteFileA, TakesNamesInUtf16Too) {
   EXPECT_FALSE(DeleteFileA(test::SuiteName(scratch.Path() / "file")));
 }
 
-// Two characters are a drive only where the second is a colon.
+// Two characters are a drive only if the second one is a colon.
 TEST(DeleteDirectory, DeletesTheShortestNames) {
   const test::ScratchFolder scratch;
   create_directory(scratch.Path() / "ab");

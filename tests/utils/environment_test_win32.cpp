@@ -45,7 +45,7 @@ TEST(RegReadStrDef, TakesStringsAndExpandableStringsAlone) {
 TEST(RegReadStrDef, CutsTheLastUnitOffWhateverItIs) {
   const ScratchKey scratch;
   const std::u16string text(5000, u'ž');
-  // The system itself takes along a zero that follows what it is given.
+  // The system itself also stores a zero that follows the given text.
   scratch.Set(L"unterminated", REG_SZ, u"abcde", 8);
   scratch.Set(L"odd", REG_SZ, u"abcd", 5);
   scratch.Set(L"inner zero", REG_SZ, u"ab\0cd", 12);
@@ -64,7 +64,7 @@ TEST(RegReadStrDef, CutsTheLastUnitOffWhateverItIs) {
   EXPECT_EQ(Read(u"long"), text);
 }
 
-// A text of the key that tells of the system, as the system itself reads it.
+// Reads a text of the system's version key with the system's own call.
 std::u16string OfTheSystem(const wchar_t* value) {
   wchar_t text[1024] = L"";
   DWORD size = sizeof text;
@@ -76,14 +76,14 @@ std::u16string OfTheSystem(const wchar_t* value) {
 TEST(RegReadRegistered, AreWhatTheSystemHas) {
   EXPECT_EQ(RegReadRegisteredOwnerW(), OfTheSystem(L"RegisteredOwner"));
   EXPECT_EQ(RegReadRegisteredOrganizationW(), OfTheSystem(L"RegisteredOrganization"));
-  // A value that every system has, so that these two are looked for where something is.
+  // A value that every system has, which shows that the key is right.
   EXPECT_NE(OfTheSystem(L"CurrentVersion"), u"");
   EXPECT_EQ(RegReadStrDefW(RegistryRoot::LocalMachine, u"Software\\Microsoft\\Windows NT\\CurrentVersion",
                            u"CurrentVersion", u""),
             OfTheSystem(L"CurrentVersion"));
 }
 
-// The language of the calling thread for as long as this object lives.
+// Sets the language of the calling thread for the lifetime of this object.
 class ScopedThreadLocale {
  public:
   explicit ScopedThreadLocale(LANGID language) : before_(GetThreadLocale()) {
@@ -97,7 +97,7 @@ class ScopedThreadLocale {
   LCID before_;
 };
 
-// Wine has shorter words for this error than Windows ("The system cannot find the file specified").
+// Wine has a shorter message for this error than Windows ("The system cannot find the file specified").
 TEST(SysErrorMessage, IsInTheLanguageOfTheThread) {
   {
     const ScopedThreadLocale czech(MAKELANGID(LANG_CZECH, SUBLANG_DEFAULT));
@@ -122,13 +122,13 @@ TEST(SysErrorMessage, OfTheLastErrorIsOfThisThread) {
 }
 
 TEST(SysErrorMessage, IsEmptyForATextOf256UnitsAndMore) {
-  // The length of each text as the system itself counts it.
+  // The length of each text by the system's own count.
   for (std::uint32_t code = 0; code < 16000; ++code) {
     wchar_t text[4096];
     const DWORD length = FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
                                         code, 0, text, 4096, nullptr);
     const bool fits = length != 0 && length < 256;
-    // What is nothing but blanks and stops would be empty too; no system has such a text.
+    // A text of only blanks and full stops would be empty too; no system has such a text.
     EXPECT_EQ(SysErrorMessageW(code).empty(), !fits) << code;
   }
 }
@@ -169,7 +169,7 @@ TEST(GetSpecialFolder, IsWhatTheShellSays) {
   EXPECT_TRUE(GetPersonalFolderW().ends_with(u'\\'));
   EXPECT_TRUE(GetDesktopDirectoryFolderW().starts_with(u"C:\\"));
   EXPECT_EQ(GetDesktopFolderW(), GetDesktopDirectoryFolderW());
-  // The printers and the like are no folders of the file system.
+  // Printers and the like are not folders of the file system.
   EXPECT_EQ(GetSpecialFolderW(17), u"");
 }
 

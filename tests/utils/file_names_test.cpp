@@ -6,7 +6,7 @@
 namespace ravo::DIUtils {
 namespace {
 
-// The parts of a name; each function has an 8-bit form that must agree.
+// The parts of a name; the 8-bit form of each function must agree.
 struct NameParts {
   std::u16string_view name;
   std::u16string_view path;

@@ -111,7 +111,7 @@ TEST(GetFileSize, Has64Bits) {
   EXPECT_EQ(GetFileSizeW(scratch.File(u"large")), size);
 }
 
-// Midnight UTC of a day as the file system's clock counts.
+// Midnight UTC of a day on the file system's clock.
 std::filesystem::file_time_type Midnight(int year, unsigned month, unsigned day) {
   using namespace std::chrono;
   const sys_days date = std::chrono::year(year) / std::chrono::month(month) / std::chrono::day(day);

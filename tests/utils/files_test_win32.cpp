@@ -11,7 +11,7 @@ namespace {
 using test::ScratchFolder;
 using test::SuiteName;
 
-// An open file of the system, closed when it goes.
+// An open file of the system, closed on destruction.
 class SystemFile {
  public:
   SystemFile(const std::filesystem::path& path, DWORD access, DWORD share)
@@ -59,7 +59,7 @@ TEST(ReadOnlyFiles, AreReadAndNotWritten) {
   EXPECT_EQ(text, "text");
   EXPECT_FALSE(DeleteFileW(name));
   EXPECT_EQ(GetFileSizeW(name), 4);
-  // Wine asks the system that it runs on, and that lets its superuser write.
+  // Wine asks the host system, which lets the superuser write.
   const bool is_denied = !SetFileDateYmdW(name, 2024, 1, 2);
   EXPECT_EQ(SaveStrAToFileW("new", name), !is_denied);
   EXPECT_EQ(GetFileSizeW(name), is_denied ? 4 : 3);
@@ -84,11 +84,11 @@ TEST(SetFileDate, SetsAllThreeTimes) {
   constexpr std::uint64_t day = 119'600'064'000'000'000 + 864'000'000'000;
   EXPECT_EQ(Ticks(written), day);
   EXPECT_EQ(Ticks(read), day);
-  // Wine keeps no time of creation: it tells the last write, or the change of what the disk notes of a file.
+  // Wine stores no creation time: it returns the last write, or the last change of the file's metadata.
   EXPECT_TRUE(Ticks(created) >= day);
 }
 
-// Of the system that Wine runs on; Windows itself has no such device.
+// A device of the host system of Wine; Windows has no such device.
 TEST(FullDisk, TheDeviceThatIsAlwaysFullReportsFalse) {
   const std::u16string name = u"Z:\\dev\\full";
   if (!SaveStrAToFileW("", name)) GTEST_SKIP() << "no device that is always full";
@@ -96,8 +96,8 @@ TEST(FullDisk, TheDeviceThatIsAlwaysFullReportsFalse) {
   EXPECT_FALSE(SaveStrWToFileW(u"x", name));
 }
 
-// Names that reach a folder over the network's form of names; Wine maps its own drives under "\\?\UNC" as
-// well as "\\?\", and shares of this machine it has none.
+// Names that reach a folder by its network name; Wine maps its drives under "\\?\UNC" as well as "\\?\", and
+// has no shares of this machine.
 TEST(NetworkNames, OfAMissingServerAreNothing) {
   const std::u16string name = u"\\\\ravo-missing-server\\share\\file";
   std::string text;
@@ -113,7 +113,7 @@ TEST(NetworkNames, OfAMissingServerAreNothing) {
             u"\\\\ravo-missing-server\\share\\b");
 }
 
-// More than the 260 units of a plain name: the system takes them behind its own mark.
+// More than the 260 units of a plain name: the system accepts them after a prefix.
 TEST(LongNames, BeyondTheLongestPlainName) {
   const ScratchFolder scratch;
   std::u16string folder = u"\\\\?\\" + SuiteName(scratch.Path());

@@ -15,7 +15,7 @@ using test::FakeMachine;
 using test::ScratchFolder;
 using test::SuiteName;
 
-// A drive that this machine has not; "B:" where it has all.
+// A drive that this machine lacks; "B:" if it has all.
 std::u16string MissingDrive() {
   const std::uint32_t drives = platform::Drives().LogicalDrives();
   char16_t letter = u'Z';
@@ -51,7 +51,7 @@ TEST(ForceDirectories, IsFalseOnAMissingDrive) {
   EXPECT_FALSE(DirectoryExistsW(drive + u"\\a"));
 }
 
-// The two early answers: nothing exists on this machine, and nothing can be made.
+// The two early results: nothing exists on this machine, and nothing can be created.
 TEST(ForceDirectories, IsTrueWhereNothingWasTried) {
   const FakeMachine machine;
   const platform::ScopedMachine scope(machine);
@@ -83,7 +83,7 @@ TEST(ForceDirectories, IsFalseWhereAFileIsInTheWay) {
 }
 
 TEST(ForceDirectories, NestsAsDeepAsNamesGo) {
-  // Each level that is missing costs no stack.
+  // Missing levels use no stack.
   const FakeMachine machine;
   const platform::ScopedMachine scope(machine);
   std::u16string folder = u"C:";
@@ -91,7 +91,7 @@ TEST(ForceDirectories, NestsAsDeepAsNamesGo) {
   EXPECT_FALSE(ForceDirectoriesW(folder));
 }
 
-// A copy of each missing level would need memory that is quadratic in the length of the name: 1.8 GB here.
+// Copying each missing level would need memory quadratic in the length of the name: 1.8 GB here.
 TEST(ForceDirectories, ALongNameCostsLittleMemory) {
   if (!test::kAllocationsCounted) GTEST_SKIP() << "a sanitizer allocates";
   const FakeMachine machine;

@@ -11,7 +11,7 @@
 namespace ravo::DIUtils {
 namespace {
 
-// A file system of its own in a scratch folder, of few pages.
+// A small file system of its own in a scratch folder.
 class SmallDisk {
  public:
   SmallDisk() : is_mounted_(mount("tmpfs", Folder(), "tmpfs", MS_NOSUID | MS_NODEV, "size=64k") == 0) {
@@ -46,7 +46,7 @@ TEST(FullDisk, SavingReportsFalse) {
   EXPECT_FALSE(SaveStrAToFileW(large, disk.File(u"large")));
   EXPECT_FALSE(SaveBufToFileW(large.data(), large.size(), disk.File(u"large")));
   EXPECT_FALSE(SaveStrWToFileW(std::u16string(1 << 20, u'x'), disk.File(u"large")));
-  // The half that it took is there, and its size says so.
+  // The part that fitted is there, and its size says so.
   EXPECT_LT(GetFileSizeW(disk.File(u"large")), 1 << 20);
   EXPECT_EQ(DiskFreeW(disk.Path()), 0);
   EXPECT_EQ(GetFileSizeW(disk.File(u"fits")), 4096);

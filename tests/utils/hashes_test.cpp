@@ -19,7 +19,7 @@ namespace {
 
 using Triple = std::array<std::uint32_t, 3>;
 
-// lookup2 over what is added to a, b and c, step by step: an independent reading of the algorithm.
+// lookup2 over the values added to a, b and c, step by step: an independent implementation of the algorithm.
 std::uint32_t PlainHash(const std::vector<Triple>& added, std::uint32_t initial) {
   Triple v = {0x9E3779B9, 0x9E3779B9, initial};
   for (const Triple& words : added) {
@@ -35,7 +35,7 @@ std::uint32_t PlainHash(const std::vector<Triple>& added, std::uint32_t initial)
   return v[2];
 }
 
-// The length takes the low byte of the last word.
+// The length occupies the low byte of the last word.
 std::uint32_t PlainHashOfBytes(std::vector<std::uint8_t> bytes, std::uint32_t initial) {
   const auto length = static_cast<std::uint32_t>(bytes.size());
   const std::size_t whole = bytes.size() / 12 * 12;
@@ -55,7 +55,7 @@ std::uint32_t PlainHashOfUnits(std::u16string text, std::uint32_t initial) {
   text.resize(whole + 6);
   if (left >= 3) text[whole + 2] = 0;
   if (left >= 4) text[whole + 3] = 0;
-  // Of five units the last stands in the upper half of b.
+  // The last of five units is in the upper half of b.
   if (left == 5) std::swap(text[whole + 3], text[whole + 4]);
   std::vector<Triple> added(text.size() / 6);
   for (std::size_t i = 0; i < text.size(); ++i)

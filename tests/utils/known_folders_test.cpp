@@ -13,7 +13,7 @@ using test::FakeMachine;
 using test::ScratchFolder;
 using test::SuiteName;
 
-// The current folder as it was.
+// Restores the current folder on destruction.
 class ScopedCurrentFolder {
  public:
   ScopedCurrentFolder() : before_(std::filesystem::current_path()) {}

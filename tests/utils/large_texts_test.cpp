@@ -1,4 +1,4 @@
-// Texts that need more than 31 bits for their bytes. Pages that are only read cost no memory.
+// Texts whose size in bytes needs more than 31 bits. Pages that are only read use no memory.
 #include <ravo/utils/strings/char_search.h>
 #include <ravo/utils/strings/compare.h>
 #include <ravo/utils/strings/natural_order.h>
@@ -20,7 +20,7 @@ struct Free {
   void operator()(void* memory) const { std::free(memory); }
 };
 
-// U+0000 throughout, but for the last unit.
+// U+0000 throughout, except for the last unit.
 class LargeTexts : public testing::Test {
  protected:
   static void SetUpTestSuite() {

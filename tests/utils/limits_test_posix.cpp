@@ -10,7 +10,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-// What would wait, or need more than the system gives, is asked for in a process of its own.
+// Operations that might block or exceed the system's limits run in a separate process.
 namespace ravo::DIUtils {
 namespace {
 
@@ -19,7 +19,7 @@ using test::SuiteName;
 
 constexpr unsigned kMostSeconds = 30;
 
-// Folders of the name "d" in each other, each with a file and a folder that is not empty beside the next one.
+// Nested folders named "d", each with a file and a non-empty folder beside the next one.
 void Nest(const std::filesystem::path& outermost, int levels) {
   mkdir(outermost.c_str(), 0700);
   int at = open(outermost.c_str(), O_RDONLY | O_DIRECTORY);
@@ -40,7 +40,7 @@ bool LimitOpenFiles(rlim_t count) {
   return setrlimit(RLIMIT_NOFILE, &limit) == 0;
 }
 
-// 0 if a tree of so many levels goes while few files may be open.
+// Returns 0 if a tree of so many levels is deleted while few files may be open.
 int DeletesATree(const ScratchFolder& scratch, int levels) {
   Nest(scratch.Path() / "tree", levels);
   alarm(kMostSeconds);

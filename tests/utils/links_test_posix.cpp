@@ -15,7 +15,7 @@ namespace {
 using test::ScratchFolder;
 using test::SuiteName;
 
-// A tree with links to what is outside of it: a folder, an empty folder, a file, nothing, and itself.
+// A tree with links to targets outside it: a folder, an empty folder, a file, nothing, and itself.
 void FillWithLinks(const ScratchFolder& scratch) {
   const auto& path = scratch.Path();
   scratch.Write("outside/folder/kept", "1");
@@ -57,7 +57,7 @@ TEST(DeleteDirectory, OfALinkIsTheLinkAlone) {
   }
 }
 
-// Whoever names a folder by a link to it means the folder.
+// A link as the name of a folder denotes the folder.
 TEST(DeleteDirectory, ContentsOfALinkAreThoseOfItsFolder) {
   const ScratchFolder scratch;
   FillWithLinks(scratch);
@@ -79,7 +79,7 @@ TEST(DeleteDirectory, GoesAsDeepAsNamesReach) {
   EXPECT_TRUE(is_empty(scratch.Path()));
 }
 
-// A user without the rights of the superuser, for as long as this object lives.
+// Drops the superuser's rights for the lifetime of this object.
 class OrdinaryUser {
  public:
   OrdinaryUser() : before_(geteuid()), is_ordinary_(before_ != 0 || seteuid(kNobody) == 0) {}
@@ -95,7 +95,7 @@ class OrdinaryUser {
   bool is_ordinary_;
 };
 
-// What can go goes, and the answer says that something stays.
+// Everything deletable is deleted, and the result says that something remains.
 TEST(DeleteDirectory, IsFalseForWhatTheUserMayNotDelete) {
   const OrdinaryUser user;
   if (!user.IsOrdinary()) GTEST_SKIP() << "this user may delete all";
@@ -120,7 +120,7 @@ TEST(DeleteDirectory, TakesPipesAndSocketsAwayUnopened) {
   EXPECT_TRUE(is_empty(scratch.Path()));
 }
 
-// In a process of its own, which this folder is lost to.
+// In a separate process, which loses its current folder.
 int AskedInALostFolder() {
   {
     const ScratchFolder scratch;
@@ -183,7 +183,7 @@ TEST(LoadStr, ReadsFilesThatTellNoSize) {
 }
 
 TEST(SysErrorMessage, HasTheWordsOfTheSystem) {
-  // The word that every language's text of this code is about, in the language of this process.
+  // The message of this code in the language of this process.
   EXPECT_EQ(SysErrorMessageW(2), u"No such file or directory");
   EXPECT_EQ(SysErrorMessageW(0), u"");
 }

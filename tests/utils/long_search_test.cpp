@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-// Search without case in texts and for texts beyond what is common.
+// Case-insensitive search in and for unusually long texts.
 namespace ravo::DIUtils {
 namespace {
 
@@ -29,7 +29,7 @@ TEST(StrPosI, FindsLongTexts) {
   }
 }
 
-// A long text that is nearly there all the time, and then is there.
+// A long text that almost matches everywhere, and then matches.
 TEST(StrPos, FindsLongTexts) {
   for (const std::size_t length : {2U, 17U, 18U, 19U, 20U, 100U, 1'000U}) {
     for (const std::size_t differing : {std::size_t{1}, length / 2, length - 2}) {
@@ -46,7 +46,7 @@ TEST(StrPos, FindsLongTexts) {
   }
 }
 
-// What a text folds to stands for it, one place after the other.
+// The reference: compares folded texts, position by position.
 std::size_t PlainPosI(std::u16string_view search, std::u16string_view text) {
   const auto folded = [](std::u16string_view units) {
     std::u16string result(units);
@@ -56,7 +56,7 @@ std::size_t PlainPosI(std::u16string_view search, std::u16string_view text) {
   return folded(text).find(folded(search)) + 1;
 }
 
-// Letters whose variants are many are looked for in pieces of the text, which overlap.
+// Letters with many variants are searched in overlapping blocks of the text.
 TEST(StrPosI, FindsLettersOfManyVariantsAnywhere) {
   std::u16string text;
   for (std::size_t i = 0; text.size() < 2'000; ++i) text += i % 7 == 0 ? u"Σφάλμα " : u"Счёт ";

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-// Each is compiled with the system's header before or after ours, with UNICODE or without.
+// Each is compiled with the system's header before or after ours, with or without UNICODE.
 namespace names_before_plain {
 bool DeletesUnderEachName(const std::u16string& folder);
 }

@@ -27,7 +27,7 @@ TEST(StrCompNumW, Rows) {
   EXPECT_EQ(StrCompNumW(u"a", u"B"), u'a' - u'B');
 }
 
-// The neighbours of the digits are none.
+// The neighbours of the digits are not digits.
 TEST(StrCompNumW, DigitsBeginAtZeroAndEndAtNine) {
   EXPECT_EQ(StrCompNumW(u"/9", u"/10"), -1);
   EXPECT_EQ(StrCompNumW(u"a/", u"a:"), u'/' - u':');

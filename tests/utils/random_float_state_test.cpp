@@ -1,4 +1,4 @@
-// Everything in this file computes as a host does that was compiled for the x87 unit.
+// Code in this file computes like a host compiled for the x87 unit.
 #if defined(__i386__) && defined(__GNUC__) && !defined(__clang__)
 #pragma GCC target("fpmath=387")
 #endif

@@ -19,7 +19,7 @@ using Keys = std::vector<std::uint32_t>;
 
 constexpr int kDraws = 5000;
 
-// A text whose bytes stand for keys.
+// A text whose bytes are the keys.
 std::string TextOf(std::size_t length) {
   std::string text;
   for (std::size_t i = 0; i < length; ++i) text += static_cast<char>(i * 37 + 1);
@@ -32,7 +32,7 @@ Keys KeysOf(const std::string& text) {
   return keys;
 }
 
-// Seeding by keys as it is defined, over words of 64 bits, with the number of steps as an argument.
+// Seeding by keys by definition, over words of 64 bits, with the number of steps as a parameter.
 class PlainTwister {
  public:
   explicit PlainTwister(const Keys& keys, std::size_t steps) {
@@ -51,7 +51,7 @@ class PlainTwister {
     mt_[0] = 0x80000000;
   }
 
-  // The standard library's generator in this state: it reads and writes its words as text.
+  // Returns the standard library's generator in this state: it reads and writes its words as text.
   [[nodiscard]] std::mt19937 Generator() const {
     std::string state;
     for (const std::uint64_t word : mt_) state += std::to_string(word) + " ";

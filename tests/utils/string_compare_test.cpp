@@ -126,7 +126,8 @@ TEST(StrCompIW, ComparesFoldedCharacters) {
   EXPECT_EQ(StrCompIW(u"Čč", u"č"), 1);
 }
 
-// A difference at every place of texts of every length up to some blocks of any kernel, behind a guard page.
+// A difference at every position of texts of every length up to several blocks of any kernel, with a guard
+// page.
 TEST(StrCompIW, FindsTheDifferenceAtEveryPlace) {
   const std::u16string lower(70, u'č');
   for (std::size_t length = 1; length <= lower.size(); ++length) {

@@ -1,4 +1,4 @@
-// What every family gives for no text at all, and for positions beyond the end. A default view has a null
+// The results of every family for an empty text and for positions past the end. A default view has a null
 // pointer.
 #include <ravo/DIUtils.h>
 

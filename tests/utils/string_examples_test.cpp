@@ -1,4 +1,4 @@
-// The examples of docs/strings.md, in its order; a check holds the two together.
+// The examples of docs/strings.md, in its order; a check compares the two.
 #include <ravo/DIUtils.h>
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// The ways to do one thing: by vectors and plainly, with identical results.
+// Vector kernels and plain loops have identical results.
 #include "support/guarded_buffer.h"
 #include <ravo/codec/kernels/kernel_set.h>
 #include <ravo/utils/strings/find.h>
@@ -14,7 +14,7 @@
 namespace ravo::strings {
 namespace {
 
-// Few characters, so that near hits abound; some differ in case alone, some beyond ASCII.
+// Few characters, so that near hits are common; some differ only in case, some are past ASCII.
 constexpr std::u16string_view kUnits = u"aAbčČž\u0130i\u212AkKſs";
 
 template <class Char>
@@ -80,7 +80,7 @@ INSTANTIATE_TEST_SUITE_P(Kernels, StringsOfKernel,
 
 template <class Char>
 void ExpectSameLongSearch(std::mt19937& random) {
-  // A long text without the ends of what is looked for, with a few of them sprinkled in.
+  // A long text without the first and last units of the search text, with a few of them sprinkled in.
   String<Char> text(random() % 1500, static_cast<Char>('.'));
   const String<Char> search = RandomText<Char>(random, 1 + random() % 6, 3);
   for (std::size_t count = random() % 40; count > 0 && !text.empty(); --count) {
@@ -107,7 +107,7 @@ TEST_P(StringsOfKernel, SearchesLongTextsAsThePlainOne) {
   }
 }
 
-// One hit in a text of nothing else, at every place and so at every alignment.
+// One hit in a uniform text, at every position and so at every alignment.
 TEST_P(StringsOfKernel, FindsAHitAtEveryPlace) {
   for (std::size_t size = 1; size < 700; size += 1 + size / 40) {
     std::u16string text(size, u'.');
@@ -169,7 +169,7 @@ TEST(StringKernels, EveryPairOfUnitsFoldsAsThePlainOne) {
   }
 }
 
-// Every unit beside those whose code is near to it, where a rule for pairs of letters may go wrong.
+// Every unit beside those with nearby codes, where a rule for pairs of letters may fail.
 TEST(StringKernels, UnitsThatAreNearFoldAsThePlainOne) {
   for (unsigned code = 0; code < 0x10000; ++code) {
     for (const unsigned distance : {1u, 2u, 8u, 16u, 26u, 31u, 32u, 33u, 48u, 80u, 0x79u, 0x8000u}) {

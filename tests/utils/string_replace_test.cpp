@@ -26,14 +26,14 @@ TEST(StrReplaceIA, Rows) {
 }
 TEST(StrReplaceIW, Rows) { EXPECT_EQ(StrReplaceIW(u"Čč", u"č", u"x"), u"xx"); }
 
-// Every pass makes more places for the next one.
+// Every pass creates more occurrences for the next one.
 TEST(StrReplaceLoopA, EndsWithAnErrorWhereTheTextGrowsAndGrows) {
   std::string text;
   for (int i = 0; i < 64; ++i) text += "ab";
   EXPECT_THROW(static_cast<void>(StrReplaceLoopA(text, "ab", "bbaa")), RangeError);
 }
 
-// It would end, but after more passes than anybody waits for.
+// It would end, but after too many passes.
 TEST(StrReplaceLoopW, EndsWithAnErrorAfterTooManyPasses) {
   const std::u16string long_text = u"aaaaaaaaaaaaaaab";
   const auto short_text = std::u16string_view(long_text).substr(6);

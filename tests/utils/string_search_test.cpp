@@ -134,7 +134,7 @@ TEST(StrContainsIW, Rows) {
   EXPECT_FALSE(StrContainsIW(u"ČA", u"účet"));
 }
 
-// Texts of few letters, so that near hits abound; the standard library says what is right.
+// Texts of few letters, so that near hits are common; the standard library is the witness.
 template <class Char>
 std::basic_string<Char> RandomText(std::mt19937& random, std::size_t length, unsigned letters) {
   std::basic_string<Char> text;

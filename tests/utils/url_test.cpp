@@ -39,7 +39,7 @@ TEST(StrDecodeUrlA, EveryByteComesBack) {
   EXPECT_EQ(StrDecodeUrlA(StrEncodeUrlA(bytes)), bytes);
 }
 
-// The rules byte by byte, which the vectors are compared with.
+// The rules byte by byte, as the reference for the vectors.
 std::string EncodedPlainly(std::string_view text) {
   std::string result;
   for (const char c : text) {
@@ -101,7 +101,7 @@ TEST(StrEncodeUrlA, LongerThanOnePiece) {
   }
 }
 TEST(StrEncodeUrlA, RaisesWhereTheWorstCaseCannotBeCounted) {
-  // The text is not read: there is none.
+  // The text is never read, so no memory is needed.
   const std::string_view text("", std::numeric_limits<std::size_t>::max() / 3 + 1);
   EXPECT_THROW(static_cast<void>(StrEncodeUrlA(text)), OverflowError);
 }

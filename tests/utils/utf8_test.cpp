@@ -78,7 +78,7 @@ TEST(StrEncodeUtf8, LongerThanOnePiece) {
   }
 }
 TEST(StrEncodeUtf8, RaisesWhereTheWorstCaseCannotBeCounted) {
-  // The text is not read: there is none.
+  // The text is never read, so no memory is needed.
   const std::u16string_view text(u"", std::numeric_limits<std::size_t>::max() / 3 + 1);
   EXPECT_THROW(static_cast<void>(StrEncodeUtf8(text)), OverflowError);
 }
@@ -98,8 +98,8 @@ TEST(StrEncodeUtf8, EveryUnitComesBack) {
   }
 }
 
-// Random bytes, behind a guard page, at every length that a kernel might treat apart: decoded as a whole they
-// give what their pieces give where the cut is before a byte that is no trail.
+// Random bytes with a guard page, at every length that a kernel might treat separately: decoding the whole
+// equals decoding the parts, if the split is not before a trailing byte.
 TEST(StrDecodeUtf8, CutsBeforeLeadsChangeNothing) {
   std::mt19937 random(13);
   const char pieces[] = "aaaaaaaaaaaaaaaa\xC4\x8D\xC5\xBE\xE2\x82\xAC\xF0\x9F\x98\x80\xED\xA0\xFF";

@@ -134,7 +134,7 @@ TEST(SaveStrW, RaisesForImpossibleLengths) {
   if constexpr (sizeof(std::size_t) > 4) {
     const FakeMachine machine;
     const platform::ScopedMachine scope(machine);
-    // Nothing of these texts is read.
+    // These texts are never read.
     const char16_t unit = u'x';
     const std::size_t limit = std::size_t{1} << 30;
     EXPECT_THROW((void)SaveStrWToFileW(std::u16string_view(&unit, limit), u"C:\\file"), OverflowError);
@@ -194,7 +194,7 @@ TEST(LoadStr, ReadsAPipeToItsEnd) {
   EXPECT_TRUE(text == content);
 }
 
-// The memory of a process has nothing at its beginning that could be read.
+// The memory of a process has nothing readable at its start.
 TEST(LoadStr, IsFalseForWhatFailsWhenItIsRead) {
   constexpr std::u16string_view unreadable = u"/proc/self/mem";
   if (!std::filesystem::exists(unreadable))

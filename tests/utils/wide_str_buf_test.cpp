@@ -12,7 +12,7 @@
 namespace ravo::DIUtils {
 namespace {
 
-// Its capacity can be seen.
+// Exposes the capacity.
 class Buffer : public TWideStrBuf {
  public:
   using TWideStrBuf::Capacity;
@@ -157,7 +157,7 @@ TEST(TWideStrBuf, GetAsStrTrimRightLeavesTheBufferAlone) {
   EXPECT_EQ(buffer.Trimmed(), u"\xA0");
 }
 
-// The stated growth beside a plain model of it, over pieces of many sizes.
+// The stated growth compared with a plain model, over pieces of many sizes.
 TEST(TWideStrBuf, GrowsToTheUnitAsStated) {
   std::mt19937 random(5);
   Buffer buffer;
@@ -180,7 +180,7 @@ TEST(TWideStrBuf, RaisesWhereTheCapacityLeaves32Bits) {
   buffer.AddStr(u"abc");
   EXPECT_THROW(buffer.GrowBuffer(0xFFFFFFFF), OverflowError);
   EXPECT_THROW(buffer.GrowBuffer(0xFFFFFFFF - 4099 - 4096 + 1), OverflowError);
-  // Nothing is read there; the compiler must not know how short it is.
+  // Never read; the compiler must not know its length.
   const char16_t* volatile somewhere = u"x";
   const volatile std::uint32_t most = 0xFFFFFFFF;
   EXPECT_THROW(buffer.AddBuf(somewhere, most), OverflowError);
@@ -192,8 +192,8 @@ TEST(TWideStrBuf, RaisesWhereTheCapacityLeaves32Bits) {
   EXPECT_EQ(buffer.Capacity(), 4099u);
 }
 
-// In a process of its own: 0 where the error came and changed nothing, 1 where it did not, 2 where memory
-// cannot be made scarce.
+// In a separate process: returns 0 if the error came and changed nothing, 1 if it did not come, 2 if memory
+// cannot be limited.
 int GrownWithoutMemory() {
   constexpr std::size_t kLimit = std::size_t{1} << 30;
   Buffer buffer;
@@ -214,7 +214,7 @@ TEST(TWideStrBufDeathTest, StaysAsItWasWithoutMemory) {
 #endif
 }
 
-// 32 bits have no room for four such buffers.
+// Four such buffers do not fit 32 bits.
 TEST(TWideStrBuf, RaisesWithoutMemory) {
   if constexpr (sizeof(std::size_t) == 4) {
     Buffer buffers[4];

@@ -77,7 +77,7 @@ TEST(StrMatchesIA, StarAndQuestionMark) {
   EXPECT_FALSE(StrMatchesIA("abc", "A?"));
 }
 
-// The definition: a wild character is nothing, or takes one more character.
+// The definition: a wild character matches nothing, or one more character.
 bool Plainly(std::string_view text, std::string_view mask) {
   if (mask.empty()) return text.empty();
   if (mask[0] == '*')
@@ -101,7 +101,7 @@ TEST(StrMatchWildW, IsTheDefinition) {
   }
 }
 
-// With one step back per wild character, this mask would keep a program busy for ages.
+// With backtracking at every wild character, this mask would take exponential time.
 TEST(StrMatchWildW, NoMaskIsExponential) {
   const std::u16string text(2000, u'a');
   std::u16string mask;

@@ -60,7 +60,7 @@ TEST(ExtractWordStartsA, Rows) {
   EXPECT_EQ(ExtractWordStartsA("a b", 0), "");
   EXPECT_EQ(ExtractWordStartsA(" .,"), "");
 }
-// Letters, digits and "_" make words; their neighbours in ASCII do not, and bytes beyond it do.
+// Letters, digits and "_" form words; other ASCII characters do not, and bytes past ASCII do.
 TEST(ExtractWordStartsA, EveryByteBelongsOrSeparates) {
   constexpr std::string_view kWordCharacters =
       "_0123456789abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ";

@@ -15,10 +15,10 @@ SOURCE = pathlib.Path("/usr/share/unicode")
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 FOLDER = "ravo/unicode/characters/generated"
 UNITS = 0x10000
-SPAN = 64  # single values within so many units are told apart by one constant
-LATIN_END = 0x0250  # most text lies below: those letters are reached first
+SPAN = 64  # one constant tests single values within this many units
+LATIN_END = 0x0250  # most text is below: those letters are reached first
 
-# Function and the general categories (or beginnings of them) for which it answers true.
+# Function and the general categories (or their first letters) for which it returns true.
 CATEGORIES = {
     "CharIsLetterW": "L", "CharIsLetterUpperCaseW": "Lu", "CharIsLetterLowerCaseW": "Ll",
     "CharIsLetterTitleCaseW": "Lt", "CharIsLetterModifierW": "Lm", "CharIsLetterOtherW": "Lo",
@@ -49,7 +49,7 @@ def code_points(text):
 
 
 class Data:
-    """What the text files say of each code unit."""
+    """The properties of each code unit, from the text files."""
 
     def __init__(self):
         version = re.search(r"-([\d.]+)\.txt", (SOURCE / "CaseFolding.txt").read_text(encoding="utf-8"))
@@ -90,7 +90,7 @@ class Data:
         return [part for one in to for part in self.expanded(one, compatible)]
 
     def decomposition(self, code, compatible):
-        """Fully expanded, marks in canonical order; none where the character stands for itself."""
+        """Fully expanded, marks in canonical order; empty if the character is its own decomposition."""
         codes = self.expanded(code, compatible)
         if codes == [code]:
             return None
@@ -108,7 +108,7 @@ class Data:
 
 
 def trees(data):
-    """Function -> code units for which it answers true."""
+    """Function -> code units for which it returns true."""
     sets = {name: data.units_of(category) for name, category in CATEGORIES.items()}
     letters = sets["CharIsLetterW"]
     sets["CharIsLetterCommonW"] = {unit for block in COMMON_BLOCKS for unit in block if unit in letters}
@@ -131,7 +131,7 @@ def ranges_of(units):
 
 
 def clusters_of(ranges):
-    """Neighbours that lie within one constant, together; a longer range alone."""
+    """Groups neighbours that one constant covers; a longer range is a group of its own."""
     clusters: list[list[list[int]]] = []
     for one in ranges:
         if clusters and one[1] - clusters[-1][0][0] < SPAN and clusters[-1][0][0] >= LATIN_END <= one[0]:
@@ -160,7 +160,7 @@ def leaf(cluster, low, high):
 
 
 def weight(low: int, high: int) -> int:
-    """How often a code unit from `low` to `high` is asked about: all alike, but half of all text is Latin."""
+    """The weight of the code units from `low` to `high`: uniform, but half of all text is Latin."""
     latin = max(0, min(high, LATIN_END - 1) - low + 1)
     return high - low + 1 + latin * (UNITS // LATIN_END)
 
@@ -168,7 +168,7 @@ def weight(low: int, high: int) -> int:
 def branch(clusters, low, high, indent):
     if len(clusters) == 1:
         return [indent + leaf(clusters[0], low, high)]
-    # The comparison that leaves equal weights on both sides, so that what is asked often is answered soon.
+    # The comparison that balances the weights of both sides, so frequent code units are found early.
     half = min(range(1, len(clusters)), key=lambda at: abs(
         weight(low, clusters[at][0][0] - 1) - weight(clusters[at][0][0], high)))
     middle = clusters[half][0][0]
@@ -217,7 +217,7 @@ def render_table(name, entries, block_size, entry_type, figures):
     first, blocks = two_stages(entries, block_size)
     width = 2 if entry_type == "std::uint8_t" else 4
     figures.append((f"k{name}", len(first), block_size, len(blocks), len(first) + (len(blocks) + 1) * block_size * width // 2))
-    # A block of defaults stands in front for block number 0, so that a look-up needs no branch.
+    # Block number 0 holds the defaults, so a look-up needs no branch.
     flat = [0] * block_size + [entry for block in blocks for entry in block]
     return [
         f"const std::uint8_t k{name}Blocks[{len(first)}] = {{", *numbers(first, 2, 18), "};",
@@ -247,7 +247,7 @@ def render_mappings(data, figures):
 
 
 class Pool:
-    """Sequences behind each other: a byte with the number of code units, the units in little-endian order."""
+    """Concatenated sequences: a byte with the number of code units, the units in little-endian order."""
 
     def __init__(self):
         self.bytes, self.offsets = bytearray(1), {}
@@ -294,7 +294,7 @@ def document(data, functions, tables, pools):
         *[f"| `{name}` | {units} | {ranges} | {leaves} |" for name, units, ranges, leaves in functions], "",
         "## Two-stage tables", "",
         "A block number of 0 in the first stage, or an entry of 0, means the default answer. Block 0, all zeros, is not counted",
-        "but stands in front of the others, so that a look-up needs no branch.", "",
+        "but comes before the others, so that a look-up needs no branch.", "",
         "| table | first stage [bytes] | block size | blocks | bytes in all |", "|---|---|---|---|---|",
         *[f"| `{name}` | {first} | {size} | {blocks} | {total} |" for name, first, size, blocks, total in tables], "",
         "## Sequence pools", "",

@@ -1,4 +1,4 @@
-"""What the packages of the distribution know of an encoding: bytes to text, from glibc's character maps (package
+"""The maps of an encoding in the packages of the distribution: bytes to text, from glibc's character maps (package
 "locales"), Perl's Encode (package "perl") and Python's codecs."""
 import gzip
 import pathlib
@@ -22,7 +22,7 @@ def glibc(name, _keys):
     found: dict[bytes, str] = {}
     with gzip.open(CHARMAPS / f"{name}.gz", "rt", encoding="latin-1") as lines:
         for line in lines:
-            # Ranges stand for characters beyond U+FFFF alone.
+            # Only characters past U+FFFF are given as ranges.
             if (row := ROW.match(line)) and not row[2]:
                 text = "".join(chr(int(unit, 16)) for unit in UNIT.findall(row[1]))
                 found.setdefault(bytes.fromhex(row[3].replace("/x", "")), text)

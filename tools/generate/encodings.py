@@ -20,7 +20,7 @@ UNASSIGNED = 0xFFFD
 BYTES = [bytes([byte]) for byte in range(256)]
 LINEAR_END = 39420  # four bytes of GB 18030 below U+10000 have the numbers before this one
 
-# What is not the first source's word: (name, bytes) -> (character, why).
+# Characters not taken from the first source: (name, bytes) -> (character, why).
 FIRST_OF_2005 = "the edition of 2005 gave U+1E3F its two bytes; Python has the edition of 2000"
 CHOICES = {
     ("JIS_X0201", "5c"): (0x00A5, "the Roman half of the standard has the yen sign there; Perl takes it for ASCII"),
@@ -37,10 +37,10 @@ WRITTEN = {
     "Mac_Arabic": DIRECTIONS,
     "Mac_Farsi": DIRECTIONS,
 }
-VARIANT = "the others are variants of it: the source has a mark of Apple's behind the character"
+VARIANT = "the others are variants of it: the source has a mark of Apple's after the character"
 
 VARIANT_MARKS = "".join(map(chr, range(0xF870, 0xF880)))
-# Why the first source was preferred where others differ.
+# Why the first source was preferred to the others.
 ASCII_OF_APPLE = "Perl's tables of Apple's encodings lack bytes of ASCII"
 REASONS = {
     "CP_424": "two of three agree",
@@ -64,7 +64,7 @@ def plain(text):
 
 
 class Table:
-    """One encoding as its sources have it, and what was chosen."""
+    """One encoding: the table of each source, and the chosen one."""
 
     def __init__(self, row, keys):
         self.row, self.keys = row, keys
@@ -168,7 +168,7 @@ def quad_key(linear):
 
 
 def ranges(units):
-    """(number, character) wherever the characters do not go on by one; unassigned numbers stay U+FFFD."""
+    """(number, character) wherever the characters are not consecutive; unassigned numbers stay U+FFFD."""
     before: int | None = None
     for number, unit in enumerate(units):
         goes_on = before is not None and unit == (before if before == UNASSIGNED else before + 1)

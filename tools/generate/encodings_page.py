@@ -1,4 +1,4 @@
-"""docs/encodings.md: the encodings, what is decided about them, and where their sources differ."""
+"""docs/encodings.md: the encodings, the decisions about them, and the differences between their sources."""
 
 HEAD = """# Encodings
 
@@ -6,38 +6,38 @@ Written by `tools/generate/encodings.py` from the rows of `ravo/codec/rows.inc` 
 they name: character maps of the C library (`glibc`, package `locales`), Perl's Encode (`perl`), Python's codecs
 (`python`). A new single-byte encoding is a row there and a run of that script.
 
-## What is decided
+## Decisions
 
-- A byte that a single-byte encoding does not assign reads as U+FFFD; U+FFFD and every character without a byte are
-  refused in writing. If several bytes mean one character, the lowest one is written that is no variant in another
-  position or shape.
-- UTF-8: a sequence that is not the shortest, a byte that begins none and a sequence that ends early give one U+FFFD
-  each; what does not continue a sequence is read as the next character. Surrogates pass as three bytes each.
-- UTF-16, UCS-2, UTF-32, UCS-4: bytes that do not make a whole unit at the end of the data are not read; a high
-  surrogate at the end of UTF-16 is one U+FFFD. The unit that ends the data (a low surrogate) is stepped over.
-- UTF-7 reading: any byte below 80 but "+" stands for itself outside base 64, also those that RFC 2152 leaves to
-  base 64; a byte from 80 on is U+FFFD. "+-" is "+". A run ends at the first byte that is no base 64, "-" is taken with
-  it. One U+FFFD stands at the end of a run that is empty or whose last bits are six or more or not zero. Units of
-  UTF-16 pass as they are, surrogates too. The end of all data ends a run.
-- UTF-7 writing: letters, digits, `'(),-./:?`, blank, tab, carriage return and line feed as they are, "+" as "+-",
-  everything else in base 64; `Write_UTF_7_ODC` also writes ``!"#$%&*;<=>@[]^_`{|}`` as they are. A run is closed with
-  "-" where a character of base 64 or "-" follows. `Flush` writes the last bits and "-". What was not flushed is lost
+- A byte that a single-byte encoding does not assign is read as U+FFFD; U+FFFD and every character without a byte cannot
+  be written. If several bytes decode to one character, the lowest one that is not a variant in another position or
+  shape is written.
+- UTF-8: an overlong sequence, a byte that cannot start a sequence and a truncated sequence give one U+FFFD each; the
+  byte that does not continue a sequence is read as the next character. Surrogates are three bytes each.
+- UTF-16, UCS-2, UTF-32, UCS-4: an incomplete unit at the end of the data is not read; a high surrogate at the end of
+  UTF-16 is one U+FFFD. The unit that ends the data (a low surrogate) is consumed.
+- UTF-7 reading: any byte below 80 but "+" is itself outside base 64, also those that RFC 2152 reserves for base 64; a
+  byte from 80 on is U+FFFD. "+-" is "+". A run ends at the first byte that is not base 64; a "-" is consumed with it.
+  One U+FFFD ends a run that is empty, or that has six or more bits or non-zero bits left. UTF-16 units are unchanged,
+  surrogates too. The end of all data ends a run.
+- UTF-7 writing: letters, digits, `'(),-./:?`, blank, tab, carriage return and line feed are themselves, "+" is "+-",
+  everything else is base 64; `Write_UTF_7_ODC` also writes ``!"#$%&*;<=>@[]^_`{|}`` as they are. A run is closed with
+  "-" if a character of base 64 or "-" follows. `Flush` writes the last bits and "-". Bits that were not flushed are lost
   when the write methods change.
-- The record behind the state of UTF-7 has 12 bytes; the first is 0 outside base 64. Where methods are put in place
-  without their `Init` (a source that is popped), the first character makes it. Where a source in UTF-7 ends on top of
-  one in another encoding, the record goes with it.
-- A source in UTF-7 that is left inside base 64 leaves the next one inside it, and a source that is read anew too:
-  `SetReadMethods` begins outside.
-- GB 18030: a byte 80 or FF, four bytes without a character and four bytes of a character beyond U+FFFF are one U+FFFD;
-  so is a sequence that ends early, and what does not continue it is read as the next character.
+- The state of UTF-7 is a record of 12 bytes; the first is 0 outside base 64. If methods are restored without their
+  `Init` (when a source is popped), the first character creates the record. If a source in UTF-7 ends on top of one in
+  another encoding, the record is freed with it.
+- A source in UTF-7 that ends inside base 64 leaves the next source inside it, also a source that is read again;
+  `SetReadMethods` resets the state.
+- GB 18030: a byte 80 or FF, four bytes without a character and four bytes of a character past U+FFFF are one U+FFFD; so
+  is a truncated sequence, and the byte that does not continue it is read as the next character.
 
 ## Names
 
 An encoding is found by its exported name, each of its other names, its code page number with or without "cp", and its label
-with or without what it says in parentheses. Case does not count, nor does anything but letters and digits. A name that has a
-meaning keeps it: none is ever given to another encoding.
+with or without the part in parentheses. Case is ignored, and so is every character that is not a letter or digit. A name keeps
+its meaning: it is never reassigned to another encoding.
 
-The labels of the [Encoding Standard](https://encoding.spec.whatwg.org/) are all names, as far as their encodings are here. Some
+The labels of the [Encoding Standard](https://encoding.spec.whatwg.org/) are all names, if the library has their encoding. Some
 mean a larger encoding there; here they are the encoding that they name:
 
 | labels | here | in the Standard |
@@ -50,8 +50,8 @@ mean a larger encoding there; here they are the encoding that they name:
 | `ucs-2`, `iso-10646-ucs-2`, `csunicode` | `UCS_2_BE` | UTF-16LE |
 | `utf-16` | `UTF_16_BE` | UTF-16LE |
 
-Labels of an encoding that is here under another name have the meaning of the Standard: `iso-8859-11` is `CP_874`, and
-`iso-8859-8-i` is `Iso_8859_8`, which differs from it in the direction of a page alone. Unknown are the labels of GBK, which reads
+Labels of an encoding that has another name here have the meaning of the Standard: `iso-8859-11` is `CP_874`, and
+`iso-8859-8-i` is `Iso_8859_8`, from which only the direction of a page differs. Unknown are the labels of GBK, which reads
 80 as the euro sign and could be written, Big5, EUC-JP, ISO-2022-JP, Shift_JIS, EUC-KR, replacement and x-user-defined.
 """
 
@@ -100,7 +100,7 @@ def shared(tables):
 
 
 def differences(tables):
-    yield ("\n## Where sources differ\n\nEach row has one choice; several bytes stand together where all is alike. "
+    yield ("\n## Differences between sources\n\nEach row has one choice; bytes with the same choice share a row. "
            "\"None\" means that the source assigns nothing.\n\n| name | bytes | sources | chosen | why |\n|---|---|---|---|---|\n")
     for table in tables:
         groups: dict[tuple[str, str], list[tuple[bytes, list[str], str]]] = {}
@@ -111,7 +111,7 @@ def differences(tables):
 
 
 def kind(key, texts, chosen, table):
-    """What is told in one row: which sources are against the choice, and how."""
+    """The key of one row: which sources differ from the choice, and how."""
     against = tuple("" if not text else "same" if text == chosen else "other" for text in texts)
     return against + (bool(chosen),), table.reason(key)
 

@@ -4,7 +4,7 @@
 usage: python3 tools/generate/table_hash.py > ravo/catalogue/generated/table_hash.h
        python3 tools/generate/table_hash.py --check      1 where the checked-in header differs
 
-The index has 2^BITS slots; an identifier stands at the upper BITS bits of its product with the multiplier. The
+The index has 2^BITS slots; the slot of an identifier is the upper BITS bits of its product with the multiplier. The
 multiplier is the first odd one, counted upwards from 2^32 divided by the golden ratio, that gives every identifier
 of ravo/catalogue/tables.inc a slot of its own.
 """
@@ -53,7 +53,7 @@ def is_perfect(ids, multiplier):
 def header():
     ids = list(identifiers((ROOM / "tables.inc").read_text(encoding="utf-8")))
     if len(set(ids)) != len(ids):
-        sys.exit("an identifier stands twice in tables.inc")
+        sys.exit("an identifier occurs twice in tables.inc")
     candidates = (number & 0xFFFFFFFF for number in itertools.count(FIRST, 2))
     multiplier = next(number for number in candidates if is_perfect(ids, number))
     return HEADER.format(count=len(ids), multiplier=multiplier)

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""Draws the tables of docs/performance.md as docs/performance/*.svg: a bar to the right where ours is faster.
+"""Draws the tables of docs/performance.md as docs/performance/*.svg: a bar points right if ours is faster.
 
-Lengths are logarithms, so that twice as fast and half as fast are as long as each other. Misses are drawn like wins.
+Lengths are logarithmic, so twice as fast and half as fast have equal bars. Misses are drawn like wins.
 """
 
 import html
@@ -13,11 +13,11 @@ from common import ROOT, command_line, outdated, write
 from source_tree import Planting, read
 
 PAGE, PICTURES = "docs/performance.md", "docs/performance"
-# A section that has a picture, and the two kinds of rows that are drawn.
+# A section with a chart, and the two kinds of rows that are drawn.
 SECTION = re.compile(r"^## .*?\n(?P<before>.*?)!\[[^\]]*\]\(performance/(?P<name>\w+\.svg)\)\n(?P<body>.*?)(?=^## |\Z)", re.DOTALL | re.MULTILINE)
 RATIO = re.compile(r"^\| `(?P<job>[^`]*)` \|[^|]*\| `(?P<rival>[^`]*)` \|[^|]*\| (?P<ratio>[\d.]+)x \| (?:(?P<wanted>[\d.]+)x)? \|", re.MULTILINE)
 GROWTH = re.compile(r"^\| (?P<job>[^`|]*) \|(?P<costs>(?: ~?[\d.]+ (?:ns|µs|ms|s) \|){3}) [\d.]+ \|$", re.MULTILINE)
-# Every row of comparisons and of growth; the list of what was missed names them once more.
+# Every row of comparisons and of growth, excluding the list of missed targets.
 ROWS = re.compile(r"^\| .* \|(?: ~?[\d.]+ (?:ns|µs|ms|s) \|){3}.*$|^\|(?:[^|]*\|){4} [\d.]+x \|[^|]*\|[^|]*\|$", re.MULTILINE)
 LINE, MIDDLE, WIDTH, SPAN = 20, 470, 900, 340
 TICKS = (0.1, 0.5, 1, 2, 10, 50)
@@ -26,7 +26,7 @@ NANOSECONDS = {"ns": 1, "µs": 1e3, "ms": 1e6, "s": 1e9}
 
 
 def place(ratio: float) -> int:
-    """Where a ratio stands; a factor of 100 is the end on either side."""
+    """The x position of a ratio; a factor of 100 is the end on either side."""
     return round(MIDDLE + SPAN * max(-1, min(1, math.log(max(ratio, 0.001), 100))))
 
 
@@ -64,7 +64,7 @@ def ratio_picture(rows: list[re.Match[str]]) -> str:
 
 
 def growth_picture(rows: list[re.Match[str]]) -> str:
-    """Three bars for each job: the cost of one item beside that of the smallest work, which is one unit long."""
+    """Three bars per job: the cost of one item relative to the smallest work, which is one unit long."""
     lines: list[str] = []
     unit, y = 150, 10
     for row in rows:
@@ -95,7 +95,7 @@ def render(root: pathlib.Path) -> dict[str, str]:
 
 
 def left_over(root: pathlib.Path) -> list[pathlib.Path]:
-    """Pictures of tables that the page has no longer."""
+    """Pictures of tables that the page no longer has."""
     drawn = render(root)
     return [path for path in sorted((root / PICTURES).glob("*.svg")) if path.relative_to(root).as_posix() not in drawn]
 

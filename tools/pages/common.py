@@ -1,7 +1,7 @@
-"""What the writers of pages share: blocks between markers, tables, indentation, files, and one command line.
+"""Shared by the generators of pages: blocks between markers, tables, indentation, files, and one command line.
 
-usage of every page: PAGE.py --check [TREE]       fails where the page is not what its sources say
-                     PAGE.py --self-test          fails where a planted defect is not found
+usage of every page: PAGE.py --check [TREE]       fails if the page differs from its sources
+                     PAGE.py --self-test          fails if a planted defect is not found
                      PAGE.py [INPUT...] --write   writes the page
 """
 
@@ -50,9 +50,9 @@ def write(root: pathlib.Path, files: dict[str, str]) -> None:
 
 
 def command_line(check: Check, plantings: list[Planting], planted: Check | None = None) -> argparse.Namespace:
-    """Checks or tests itself if the command line says so, and ends; otherwise returns its `inputs` and `write`.
+    """Runs the check or the self-test and exits if the command line asks for it; otherwise returns its `inputs` and `write`.
 
-    `planted` is what finds the planted defects if it is more than the check.
+    `planted` finds the planted defects if the check alone does not.
     """
     parser = argparse.ArgumentParser()
     parser.add_argument("inputs", nargs="*")

@@ -22,10 +22,10 @@ PAGE = "docs/coverage.md"
 EXPECTATION = re.compile(r"\b(?:EXPECT|ASSERT)_[A-Z_]+\(")
 MARK = re.compile(r"^(?P<code>.*?)//\s*Untested:\s*(?P<reason>.*)$")
 COMMENT = re.compile(r"^\s*//")
-# What no test can run both ways: what the compiler decides or makes, the missing case of a `switch` over an
-# enumeration, and what processors can do, of which the tests force each kernel.
+# Code that no test can run both ways: compile-time decisions and generated code, the missing case of a
+# `switch` over an enumeration, and processor features, because the tests force each kernel.
 GENERAL = re.compile(r"\bconsteval\b|\bif constexpr\b|= default;|^\s*switch \(|\b__builtin_cpu_supports\b")
-# What LLVM writes of a file: see `llvm-cov export`.
+# LLVM's record of a file: see `llvm-cov export`.
 File = dict[str, Any]
 
 
@@ -52,7 +52,7 @@ def rooms_table(files: dict[str, File]) -> str:
 
 
 def uncovered(file: File) -> Iterator[tuple[int, int, str]]:
-    """(line, column, what) of the places of a file that no test runs."""
+    """(line, column, kind) of the places of a file that no test runs."""
     for line, column, count, has_count, is_entry, is_gap in (segment[:6] for segment in file["segments"]):
         if has_count and is_entry and not is_gap and count == 0:
             yield line, column, "not run"
@@ -78,7 +78,7 @@ def end_of_statement(lines: list[str], first: int) -> int:
 
 
 def marks(text: str) -> Iterator[tuple[int, range, str]]:
-    """(line, lines that it speaks of, reason) of every mark of a source; all count from 1."""
+    """(line, lines that it covers, reason) of every mark of a source; all are 1-based."""
     lines = text.splitlines()
     for index, line in enumerate(lines):
         if not (mark := MARK.match(line)):
@@ -112,7 +112,7 @@ def idle_marks(project: pathlib.Path, files: dict[str, File]) -> Iterator[str]:
 
 
 def evaluated(project: pathlib.Path, name: str, file: File) -> tuple[int, int]:
-    """How many expectations are in a test's source, and how often they were evaluated."""
+    """The number of expectations in a test's source, and of their evaluations."""
     segments = sorted(file["segments"])
     keys = [(segment[0], segment[1]) for segment in segments]
     written = times = 0
@@ -125,7 +125,7 @@ def evaluated(project: pathlib.Path, name: str, file: File) -> tuple[int, int]:
 
 
 def report(project: pathlib.Path, coverage: pathlib.Path, listing: pathlib.Path) -> str:
-    """The text of the page's block; what is neither run nor marked goes into the listing."""
+    """The text of the page's block; places that are neither run nor marked go into the listing."""
     data = json.loads(read(coverage))["data"][0]
     ours = {file["filename"].removeprefix(f"{project}/"): file for file in data["files"]}
     library = {name: file for name, file in sorted(ours.items()) if name.startswith("ravo/")}
@@ -134,16 +134,16 @@ def report(project: pathlib.Path, coverage: pathlib.Path, listing: pathlib.Path)
     marked = sum(len(list(marks(read(project / name)))) for name in library)
     listing.write_text("\n".join(places + idle) + "\n", encoding="utf-8")
     return (f"{rooms_table(library)}\nThe tests evaluate {sum(times for _, times in tests):,} expectations; "
-            f"{sum(written for written, _ in tests):,} stand in their sources.\n\n"
-            f"{marked} marks; {len(places)} places that no test runs and no mark explains.\n")
+            f"their sources contain {sum(written for written, _ in tests):,}.\n\n"
+            f"{marked} marks; {len(places)} places that are neither run nor marked.\n")
 
 
 def check(root: pathlib.Path) -> list[str]:
-    findings = [] if has_block(read(root / PAGE)) else [f"{PAGE}: wants one block that scripts/coverage writes"]
+    findings = [] if has_block(read(root / PAGE)) else [f"{PAGE}: needs exactly one block for scripts/coverage to write"]
     for path in code_files(root, "ravo", "tools"):
         for line, spoken_of, reason in marks(read(path)):
             if not spoken_of:
-                findings.append(f"{path.relative_to(root)}:{line}: a mark of nothing")
+                findings.append(f"{path.relative_to(root)}:{line}: a mark without code")
             if not reason:
                 findings.append(f"{path.relative_to(root)}:{line}: a mark without a reason")
     return findings
@@ -171,16 +171,16 @@ PLANTINGS: list[Planting] = [
     ("what is not run", _tree(_SOURCE), "ravo/a.cpp:7:1: not run: }"),
     ("what is never true", _tree(_SOURCE.replace("Untested: because", "")), "ravo/a.cpp:4:7: never true"),
     ("a mark of what is run", _tree(_SOURCE), "ravo/a.cpp:6: marked, and run"),
-    ("a mark before a blank line", _tree("// Untested: x\n\nint a;\n" + _SOURCE), "ravo/a.cpp:1: a mark of nothing"),
-    ("a mark at the end of a block", _tree("{\n  // Untested: x\n}\n" + _SOURCE), "ravo/a.cpp:2: a mark of nothing"),
-    ("a mark at the end", _tree(_SOURCE + "// Untested: x\n"), "ravo/a.cpp:8: a mark of nothing"),
+    ("a mark before a blank line", _tree("// Untested: x\n\nint a;\n" + _SOURCE), "ravo/a.cpp:1: a mark without code"),
+    ("a mark at the end of a block", _tree("{\n  // Untested: x\n}\n" + _SOURCE), "ravo/a.cpp:2: a mark without code"),
+    ("a mark at the end", _tree(_SOURCE + "// Untested: x\n"), "ravo/a.cpp:8: a mark without code"),
     ("a mark without a reason", _tree(_SOURCE + "int a;  // Untested:\n"), "a mark without a reason"),
-    ("no block", _tree(_SOURCE, ""), "wants one block"),
+    ("no block", _tree(_SOURCE, ""), "needs exactly one block"),
 ]
 
 if __name__ == "__main__":
     order = command_line(check, PLANTINGS, _planted)
     figures = report(ROOT, *map(pathlib.Path, order.inputs))
-    print(f"{figures}\nwhat is neither run nor marked, and marks of what is run: {order.inputs[1]}")
+    print(f"{figures}\nplaces neither run nor marked, and marks of code that is run: {order.inputs[1]}")
     if order.write:
         write(ROOT, {PAGE: with_block(read(ROOT / PAGE), figures)})

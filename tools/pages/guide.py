@@ -1,16 +1,16 @@
 #!/usr/bin/env python3
-"""Copies the code of examples and what they print into docs/guide.md.
+"""Copies the code and the output of the examples into docs/guide.md.
 
 usage: guide.py PROGRAMS --write         PROGRAMS is the folder where the examples are built
-       guide.py --output NAME PROGRAM... runs a program and compares what it prints with what the guide shows of it
+       guide.py --output NAME PROGRAM... runs a program and compares its output with the guide
        guide.py --prompt PROGRAM...      runs every command that the guide shows "at the prompt"; PROGRAM is ravo
 
-In the guide a comment stands before each block that is copied:
+In the guide a comment precedes each copied block:
 
     <!-- code: guide/accounts.cpp#include,check -->    these regions of examples/guide/accounts.cpp
-    <!-- output: guide_accounts -->                    what that program prints
+    <!-- output: guide_accounts -->                    the output of that program
 
-In a program a region stands between the lines `// [name]` and `// [/name]`.
+In a program a region is between the lines `// [name]` and `// [/name]`.
 """
 
 import difflib
@@ -39,13 +39,13 @@ def regions_of(program: str) -> dict[str, str]:
 
 
 def code_of(block: re.Match[str], program: str) -> str:
-    """What a block of code has to hold; KeyError names a region that the program has not."""
+    """The expected text of a block of code; KeyError has the name of a missing region."""
     regions = regions_of(program)
     return "\n".join(regions[name] for name in block["regions"].split(","))
 
 
 def replaced(document: str, text_of: Callable[[re.Match[str]], str]) -> str:
-    """The document with the text of every copied block replaced by what `text_of` answers for it."""
+    """The document with the text of every copied block replaced by the result of `text_of`."""
 
     def block(match: re.Match[str]) -> str:
         return match.group(0)[: match.start("text") - match.start()] + text_of(match) + "```"
@@ -88,7 +88,7 @@ def try_commands(program: list[str]) -> None:
         sys.exit(f"{DOCUMENT} shows only {len(commands)} commands")
     for command in commands:
         done = subprocess.run([*program, *shlex.split(command)[1:]], capture_output=True, check=False, timeout=300, cwd=ROOT)
-        # 1 is an answer: no such thing, not valid.
+        # 1 is a valid answer: not found, not valid.
         if done.returncode not in (0, 1):
             sys.exit(f"{command}: status {done.returncode}: {done.stderr.decode('utf-8', 'replace')}")
 

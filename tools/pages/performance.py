@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
-"""Makes docs/performance.md from the reports of the benchmarks.
+"""Writes docs/performance.md from the reports of the benchmarks.
 
 usage: performance.py FOLDER LOAD [--write]
 (FOLDER: a report in JSON of every benchmark program; LOAD: the machine's load before the run)
 
-Prints what was missed and what was noisy; exits 1 where bench/performance.toml speaks of what was not measured.
+Prints missed targets and noisy figures; exits 1 if bench/performance.toml refers to something that was not measured.
 """
 
 import collections
@@ -27,7 +27,7 @@ from source_tree import Planting, finish, read
 PAGE, DATA, GROWTH = "docs/performance.md", "bench/performance.toml", "growth_bench"
 OURS = "ravo"
 NOISY = 0.1
-# What a report, the data and one of its sections are: as they stand in their files.
+# A report, the data and one of its sections, as parsed from their files.
 Report = dict[str, Any]
 Section = dict[str, Any]
 UNITS = ((1e9, "s"), (1e6, "ms"), (1e3, "µs"), (1, "ns"))
@@ -35,7 +35,7 @@ UNITS = ((1e9, "s"), (1e6, "ms"), (1e3, "µs"), (1, "ns"))
 
 @dataclasses.dataclass
 class Figure:
-    """The median of the runs of one job; noisy where the middle half of them is far apart."""
+    """The median of the runs of one job; noisy if the interquartile range is large."""
     value: float
     noisy: bool
     is_time: bool
@@ -73,7 +73,7 @@ class Row:
 
 
 def figures(report: Report) -> Jobs:
-    """{job: {name: Figure}} of a report; the repetitions of one run stand in it one by one."""
+    """{job: {name: Figure}} of a report; it lists the repetitions of one run separately."""
     values: dict[tuple[str, str], list[float]] = collections.defaultdict(list)
     timed = {}
     for run in report["benchmarks"]:
@@ -102,21 +102,21 @@ def rows_of(section: Section, jobs: Jobs) -> list[Row]:
 
 
 def strays(section: Section, rows: list[Row]) -> Iterator[str]:
-    """Targets that no comparison answers to."""
+    """Targets without a comparison."""
     for job, rival, _ in section["targets"]:
         if not any(fnmatch.fnmatchcase(row.job, job) and fnmatch.fnmatchcase(row.rival, rival) for row in rows):
-            yield f"{DATA}: no comparison of {section['program']} answers to the target {job} / {rival}"
+            yield f"{DATA}: {section['program']} has no comparison for the target {job} / {rival}"
 
 
 def unknown_rivals(data: Report, rows: list[Row]) -> Iterator[str]:
     known = " ".join(data["rivals"])
     for rival in sorted({row.rival for row in rows}):
         if not re.search(rf"[(,;] ?{re.escape(rival)}[,;)]", known):
-            yield f"{DATA}: does not know the rival {rival}"
+            yield f"{DATA}: unknown rival {rival}"
 
 
 def workload(program: str) -> str:
-    """The comment at the head of a benchmark, or the first sentence of a script's."""
+    """The comment at the top of a benchmark, or the first sentence of a script's docstring."""
     path = ROOT / "bench" / f"{program}.cpp"
     if path.is_file():
         return " ".join(line[2:].strip() for line in itertools.takewhile(lambda line: line.startswith("//"), read(path).splitlines()))
@@ -132,7 +132,7 @@ def version_of(package: str) -> str:
 
 
 def library_flags() -> str:
-    """What our own objects were compiled with, warnings aside."""
+    """The compile options of our objects, without warnings."""
     text = read(ROOT / "build/linux-gcc/build.ninja")
     flags = re.findall(r"^build ravo/CMakeFiles/ravo_objects\.dir/\S+\.o:.*?^  FLAGS = ([^\n]*)", text, re.DOTALL | re.MULTILINE)
     return " ".join(flag for flag in flags[0].split() if not flag.startswith("-W"))
@@ -148,7 +148,7 @@ def machine_lines(reports: dict[str, Report], load: str) -> list[str]:
 
 
 def growth_table(jobs: Jobs) -> str:
-    """Cost of one item for 1, 10 and 100 times the work; the last column is what linear work keeps at 1."""
+    """The cost of one item for 1, 10 and 100 times the work; linear work keeps the last column at 1."""
     rows = []
     for job, sizes in sorted(jobs.items()):
         one, ten, hundred = (sizes[times] for times in ("1", "10", "100"))
@@ -183,7 +183,7 @@ def growth_lines(reports: dict[str, Report]) -> Iterator[str]:
 
 
 def noise(reports: dict[str, Report]) -> tuple[int, int]:
-    """How many medians there are, and how many of them are noisy."""
+    """The number of medians, and of noisy ones."""
     all_figures = [figure for report in reports.values() for job in figures(report).values() for figure in job.values()]
     return len(all_figures), sum(figure.noisy for figure in all_figures)
 
@@ -192,9 +192,9 @@ def page(data: Report, reports: dict[str, Report], sections: list[tuple[Section,
     measured, noisy = noise(reports)
     lines = ["# Performance\n",
              "Written by `make bench`; do not edit. Medians of nine runs of each job and its rivals, all in one process and in\n"
-             "random order. Times are of one call or one item, of the processor and not of the clock on the wall (whole programs aside); a\n"
-             "ratio above 1 means that ours is faster, or needs less. Charts show the same figures: green where ours is ahead, brown where it\n"
-             "is behind, a black line where the target is.\n",
+             "random order. Times are processor times of one call or one item (wall-clock times for whole programs); a ratio above 1\n"
+             "means that ours is faster, or needs less. Charts show the same figures: green if ours is ahead, brown if it is behind, with\n"
+             "a black line at the target.\n",
              "\n".join(machine_lines(reports, load)),
              f"- noise: {noisy} of {measured} medians come from runs whose middle half is more than {NOISY:.0%} apart; they are marked with ~\n",
              *target_lines(sections)]
@@ -209,7 +209,7 @@ def page(data: Report, reports: dict[str, Report], sections: list[tuple[Section,
 
 
 def report(folder: str, load: str, is_written: bool) -> list[str]:
-    """Prints what was missed and what was noisy, writes the page, and returns what the data says of nothing measured."""
+    """Prints missed targets and noisy figures, writes the page, and returns data that refers to nothing measured."""
     data = tomllib.loads(read(ROOT / DATA))
     reports = {path.stem: json.loads(read(path)) for path in sorted(pathlib.Path(folder).glob("*.json"))}
     listed = [section["program"] for section in data["section"]] + [GROWTH]

@@ -92,7 +92,7 @@ def render(root: pathlib.Path) -> dict[str, str]:
 
 def check(root: pathlib.Path) -> list[str]:
     known = {f"{suite}.{name}" for path in code_files(root, "tests") for suite, name in TEST.findall(read(path))}
-    findings = [] if has_block(read(root / PAGE)) else [f"{PAGE}: wants one block that make quirks writes"]
+    findings = [] if has_block(read(root / PAGE)) else [f"{PAGE}: needs exactly one block for make quirks to write"]
     for oddity in oddities(root):
         at = f"{oddity.file}:{oddity.line}"
         if not re.search(r"\w.*\.$", oddity.what) or not oddity.tests:
@@ -122,7 +122,7 @@ PLANTINGS: list[Planting] = [
     ("a comment without a test", _tree(code=_CODE + "// Kept: more.\n"), "a.cpp:11: not of the form"),
     ("a comment that says nothing", _tree(code=_CODE + "// Kept: Test: Odd.More\n"), "a.cpp:11: not of the form"),
     ("a test that is not there", _tree(test="TEST(Odd, Thing) {}\n"), "there is no test Odd.More"),
-    ("no block", _tree("# Oddities\n"), "wants one block"),
+    ("no block", _tree("# Oddities\n"), "needs exactly one block"),
 ]
 
 if __name__ == "__main__":

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Copies examples/first_look.cpp into README.md, whose only block of C++ it is, and keeps it short."""
+"""Copies examples/first_look.cpp into the only block of C++ in README.md, and limits its length."""
 
 import pathlib
 import re

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Prints a public header or a page as the API reference reads it; Doxygen calls this for each one.
+"""Filters a public header or a page for the API reference; Doxygen calls this for each one.
 
 usage: reference.py HEADER|PAGE | --self-test
 
@@ -50,7 +50,7 @@ def instance(parameters: list[str], body: str, arguments: list[str]) -> str:
 
 
 def expanded(text: str, macros: Macros) -> str:
-    """What the macros make of every call in a text; calls of other macros are left out."""
+    """The expansion of every macro call in a text; calls of other macros are dropped."""
 
     def made(name: str, arguments: str) -> str:
         text = instance(*macros[name], arguments_of(arguments))
@@ -61,7 +61,7 @@ def expanded(text: str, macros: Macros) -> str:
 
 
 def with_rows(header: str) -> str:
-    """The header with every #include of rows replaced by what its macros make of them."""
+    """The header with every #include of rows replaced by their expansion."""
     macros = {name: ([p.strip() for p in parameters.split(",")], body) for name, parameters, body in DEFINE.findall(header)}
 
     def rows(match: re.Match[str]) -> str:
@@ -71,7 +71,7 @@ def with_rows(header: str) -> str:
 
 
 def declarations(lines: list[str]) -> Iterator[list[str]]:
-    """Pieces of a header: runs of lines that end a declaration, a comment, or stand alone."""
+    """Pieces of a header: runs of lines that end a declaration, a comment, or single lines."""
     piece: list[str] = []
     for line in lines:
         piece.append(line)

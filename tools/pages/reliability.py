@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Sums what the tests report of themselves, and puts it into docs/reliability.md.
+"""Sums the reports of the test runs and writes them to docs/reliability.md.
 
 usage: reliability.py FOLDER [--write]     (FOLDER: a report in JSON of every test program)
 """
@@ -16,10 +16,10 @@ from source_tree import Planting, read
 
 PAGE, COVERAGE, RUNS = "docs/reliability.md", "docs/coverage.md", "docs/long-runs.md"
 Reports = dict[str, dict[str, Any]]
-# Numbers that the table of long runs has as words.
+# Numbers that the table of long runs writes as words.
 MINUTES = {"ten": 10}
-# Notes that are told in words of their own; all others stand under their own name.
-WORDS = {"requests_for_memory_that_failed": "requests for memory that were denied, each in a run of its own"}
+# Notes with a text of their own; all others appear under their name.
+WORDS = {"requests_for_memory_that_failed": "allocations that failed, each in its own run"}
 
 
 def tests_of(report: dict[str, Any]) -> list[dict[str, Any]]:
@@ -63,7 +63,7 @@ def fuzz_table() -> str:
     for target in sorted(ROOT.glob("fuzz/*_fuzz.cpp")):
         name = target.name.removesuffix("_fuzz.cpp")
         rows.append((f"`{name}`", len(list((ROOT / "fuzz/corpus" / name).glob("*")))))
-    return table(("fuzz target", "inputs that every test run replays"), rows)
+    return table(("fuzz target", "inputs replayed in every test run"), rows)
 
 
 def coverage_lines(page: str) -> str:
@@ -74,13 +74,13 @@ def coverage_lines(page: str) -> str:
 
 
 def fuzz_minutes(text: str) -> float:
-    """What the table says of the length of its runs: "in ten minutes", "601 s"."""
+    """The sum of the durations in the table: "in ten minutes", "601 s"."""
     minutes = sum(float(MINUTES.get(number, number)) for number in re.findall(r"\b(\w+) minutes", text))
     return minutes + sum(float(number) for number in re.findall(r"\b(\d+) s\b", text)) / 60
 
 
 def long_runs(page: str) -> str:
-    """The table of long runs below the sum of what it counts as inputs of fuzz targets."""
+    """The table of long runs, after the sum of its fuzz inputs."""
     text = page.split("\n\n", 2)[2]
     inputs = sum(int(number.replace(",", "")) for number in re.findall(r"\b([\d,]{5,}) (?:inputs|more)\b", text))
     rows = re.findall(r"^\|.*\|$", text, re.MULTILINE)[2:]
@@ -91,26 +91,26 @@ def long_runs(page: str) -> str:
 def figures(reports: Reports) -> str:
     return "\n".join([
         "### Tests on Linux\n", programs_table(reports),
-        "### What they walk through\n", walked_table(reports),
-        "### Kernels, where every test runs once for each\n", kernels_table(reports),
+        "### Cases that they run through\n", walked_table(reports),
+        "### Kernels: every test runs once for each\n", kernels_table(reports),
         "### Foreign input\n", fuzz_table(),
-        "### What runs\n", coverage_lines(read(ROOT / COVERAGE)),
-        "### Oddities held on purpose\n",
+        "### Coverage\n", coverage_lines(read(ROOT / COVERAGE)),
+        "### Deliberate oddities\n",
         f"{len(list(quirks.oddities(ROOT)))}, each with its comment and its test: [quirks.md](quirks.md).\n",
         "### Long runs\n", long_runs(read(ROOT / RUNS)),
     ])
 
 
 def check(root: pathlib.Path) -> list[str]:
-    """Figures come from a run of the tests; that they have their place can be said without."""
-    return [] if has_block(read(root / PAGE)) else [f"{PAGE}: wants one block that make reliability writes"]
+    """Only a test run has the figures; the check is that the page has a place for them."""
+    return [] if has_block(read(root / PAGE)) else [f"{PAGE}: needs exactly one block for make reliability to write"]
 
 
 _BLOCK = "<!-- written by x; do not edit -->\n<!-- end of what is written -->\n"
 PLANTINGS: list[Planting] = [
     ("a good tree", {PAGE: with_block(_BLOCK, "x")}, None),
-    ("no end of the block", {PAGE: _BLOCK.splitlines()[0]}, "wants one block"),
-    ("two blocks", {PAGE: _BLOCK * 2}, "wants one block"),
+    ("no end of the block", {PAGE: _BLOCK.splitlines()[0]}, "needs exactly one block"),
+    ("two blocks", {PAGE: _BLOCK * 2}, "needs exactly one block"),
 ]
 
 if __name__ == "__main__":

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Draws who uses whom among the rooms, from the #include lines, as docs/structure.svg.
+"""Draws which room uses which, from the #include lines, as docs/structure.svg.
 
 An arrow that follows from others is left out: frame uses runtime by way of platform.
 """
@@ -12,14 +12,14 @@ from layering import EXPORT_HEADER, HOST_HEADER, PUBLIC, UTILS_MESSAGES, Graph, 
 from source_tree import Planting
 
 PICTURE = "docs/structure.svg"
-# The host's header is the frame's face; what exports are, and rows of messages, are no use of anybody.
+# The host's header belongs to the frame; the export macros and the rows of messages count as no room.
 SAME = {HOST_HEADER: "ravo/frame", EXPORT_HEADER: None, UTILS_MESSAGES: None}
 # Room -> the rooms that it uses; a room, or a bend of an arrow: its ends and the level that it passes.
 Uses = dict[str, set[str]]
 Node = str | tuple[str, str, int]
 Chain = list[Node]
 Places = dict[Node, tuple[int, int]]
-NAMES = {PUBLIC: "public face"}
+NAMES = {PUBLIC: "public headers"}
 WIDTH, HEIGHT, GAP, RISE, BEND = 132, 34, 22, 66, 6
 
 
@@ -67,7 +67,7 @@ def chains(uses: Uses) -> Iterator[Chain]:
 
 
 def rows_of(uses: Uses) -> list[Chain]:
-    """Rooms and bends by level, from the lowest; in a row each stands over the middle of what it leads to."""
+    """Rooms and bends by level, from the lowest; each is placed over the middle of its targets."""
     level = levels(uses)
     below: dict[Node, list[Node]] = {}
     rows: list[Chain] = [[] for _ in range(max(level.values()) + 1)]

@@ -29,7 +29,7 @@ void Run(const AddressOptions& options, Outcome& outcome) {
 }
 
 constexpr const char* kAddressFooter =
-    "A line an address: the street, a tab, the house number (empty where the last word is none).\n"
+    "One line per address: the street, a tab, the house number (empty if the last word is not one).\n"
     "\n"
     "Examples:\n"
     "  ravo address \"Nádražní 1234/5\" \"Na Příkopě XIV\"\n";
@@ -39,7 +39,7 @@ constexpr const char* kAddressFooter =
 void AddAddressCommand(CLI::App& program, Outcome& outcome) {
   CLI::App* command = program.add_subcommand("address", "Splits addresses into street and house number");
   const auto options = std::make_shared<AddressOptions>();
-  command->add_option("ADDRESS", options->addresses, "Addresses of one line")->required();
+  command->add_option("ADDRESS", options->addresses, "Addresses, one line each")->required();
   command->add_flag("--json", options->json, "Write JSON");
   command->footer(kAddressFooter);
   command->callback([options, &outcome] { Run(*options, outcome); });

@@ -23,7 +23,7 @@ std::optional<ravo::Currency> ParseAmount(std::string_view text) {
   if (whole.empty() || decimals.size() > kDecimals || (point != std::string_view::npos && decimals.empty()))
     return {};
   if (!IsDigits(whole) || !IsDigits(decimals)) return {};
-  // All digits behind the sign, so that the smallest amount is read without leaving 64 bits.
+  // The digits keep their sign, so the smallest amount is parsed within 64 bits.
   std::string digits = negative ? "-" : "";
   digits.append(whole).append(decimals).append(kDecimals - decimals.size(), '0');
   std::int64_t raw = 0;

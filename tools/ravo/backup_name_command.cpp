@@ -20,9 +20,9 @@ void Run(const BackupNameOptions& options, Outcome& outcome) {
 }
 
 constexpr const char* kBackupNameFooter =
-    "Placeholders, in either case: %FIRMA% the company without the characters that a file name may not "
+    "Placeholders, in either case: %FIRMA% the company without the characters that a file name must not "
     "hold,\n"
-    "%DATUM% today as yymmdd, %CAS% the time as hhmmss. No file is touched.\n"
+    "%DATUM% the current date as yymmdd, %CAS% the time as hhmmss. No file is created.\n"
     "\n"
     "Examples:\n"
     "  ravo backup-name \"%FIRMA%_%DATUM%_%CAS%.zip\" \"A/B: s.r.o.\"\n";
@@ -30,7 +30,7 @@ constexpr const char* kBackupNameFooter =
 }  // namespace
 
 void AddBackupNameCommand(CLI::App& program, Outcome& outcome) {
-  CLI::App* command = program.add_subcommand("backup-name", "Makes the name of a backup file");
+  CLI::App* command = program.add_subcommand("backup-name", "Forms the name of a backup file");
   const auto options = std::make_shared<BackupNameOptions>();
   command->add_option("TEMPLATE", options->name_template, "The name with placeholders")->required();
   command->add_option("COMPANY", options->company, "The company's name");

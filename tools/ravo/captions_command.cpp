@@ -15,7 +15,7 @@ struct CaptionsOptions {
   bool json = false;
 };
 
-// Receives the captions one by one and keeps them as lines or as JSON.
+// Collects the captions as lines or as JSON.
 class Listing {
  public:
   explicit Listing(const CaptionsOptions& options) : options_(options) {}
@@ -37,7 +37,7 @@ class Listing {
     group_ = group;
   }
 
-  // A message breaks its lines with a carriage return; a listing has one line for each.
+  // A message breaks its lines with a carriage return; a listing has one line per message.
   void AddLine(std::string_view name, int id, const std::u16string& text) {
     lines_ += "  " + std::to_string(id) + "\t" + std::string(name) + "\t";
     lines_ += ravo::ToUtf8(ravo::ReplaceAll(text, u"\r", u" / ")) + "\n";
@@ -59,13 +59,13 @@ void Run(const CaptionsOptions& options, Outcome& outcome) {
 }
 
 constexpr const char* kCaptionsFooter =
-    "Each line has the identifier in the string table, the name in the library and the text; \" / \" stands "
+    "Each line has the identifier in the string table, the name in the library and the text; \" / \" is "
     "for\n"
     "the line break of a message. \"&\" marks the keyboard accelerator.\n"
     "\n"
     "Examples:\n"
-    "  ravo captions                  every caption and message, set by set\n"
-    "  ravo captions --plain          as they read in a list, without accelerators\n"
+    "  ravo captions                  every caption and message, by group\n"
+    "  ravo captions --plain          as shown in a list, without accelerators\n"
     "  ravo captions --json           for a program, line breaks kept\n";
 
 }  // namespace
@@ -73,7 +73,7 @@ constexpr const char* kCaptionsFooter =
 void AddCaptionsCommand(CLI::App& program, Outcome& outcome) {
   CLI::App* command = program.add_subcommand("captions", "Lists the captions and messages");
   const auto options = std::make_shared<CaptionsOptions>();
-  command->add_flag("--plain", options->plain, "Without the marks of accelerators");
+  command->add_flag("--plain", options->plain, "Without accelerator marks");
   command->add_flag("--json", options->json, "Write JSON: {group, items: {id, name, text}}");
   command->footer(kCaptionsFooter);
   command->callback([options, &outcome] { Run(*options, outcome); });

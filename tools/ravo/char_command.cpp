@@ -79,7 +79,7 @@ std::string Hex(const std::vector<std::uint8_t>& bytes) {
   return text;
 }
 
-// What stands for the character, by the encodings that have it.
+// The bytes of the character in the encodings that have it.
 Json BytesByEncoding(char16_t c) {
   Json all = Json::object();
   for (const unicode::EncodingRow& encoding : unicode::EncodingRows()) {
@@ -107,7 +107,7 @@ Json Describe(char16_t c) {
   return facts;
 }
 
-// "U+" and four hexadecimal digits, or the characters of the word itself.
+// Parses "U+" and four hexadecimal digits, or returns the characters of the word itself.
 std::u16string Units(const std::string& word) {
   std::u16string text = ravo::FromUtf8(word);
   if (!utils::StrSameStartI(text, u"U+") || text.size() < 3) return text;
@@ -116,7 +116,7 @@ std::u16string Units(const std::string& word) {
   return {static_cast<char16_t>(code)};
 }
 
-// A line for each sequence of bytes, with all encodings that share it.
+// One line per sequence of bytes, with all encodings that share it.
 std::string TextOfBytes(const Json& by_encoding) {
   Json shared = Json::object();
   for (const auto& [encoding, bytes] : by_encoding.items())
@@ -155,7 +155,7 @@ void Run(const CharOptions& options, Outcome& outcome) {
 }
 
 constexpr const char* kCharFooter =
-    "Characters outside the plane of 65,536 are shown as the two halves that stand for them.\n"
+    "Characters past U+FFFF are shown as their two surrogates.\n"
     "\n"
     "Exit status: 0, or 2 wrong usage.\n"
     "\n"
@@ -168,7 +168,7 @@ constexpr const char* kCharFooter =
 
 void AddCharCommand(CLI::App& program, Outcome& outcome) {
   CLI::App* command = program.add_subcommand(
-      "char", "Tells category, class, mappings, decompositions and bytes in every encoding");
+      "char", "Shows category, class, mappings, decompositions and bytes in every encoding");
   const auto options = std::make_shared<CharOptions>();
   command->add_option("CHARACTER", options->characters, "Characters, or U+ and a hexadecimal number")
       ->required();

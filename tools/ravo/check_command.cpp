@@ -24,7 +24,8 @@ struct CheckOptions {
 };
 
 std::string CheckKindName(const std::string& name) {
-  return FindCheckKind(name) ? std::string() : "'" + name + "' is no kind; there are " + CheckKindNames(", ");
+  return FindCheckKind(name) ? std::string()
+                             : "'" + name + "' is not a kind; kinds are " + CheckKindNames(", ");
 }
 
 ColumnCheck ColumnOf(const std::string& text) {
@@ -108,7 +109,7 @@ void Run(const CheckOptions& options, Outcome& outcome) {
 std::string CheckFooter() {
   return "Kinds:\n" + KindLines(CheckKinds()) +
          "\n"
-         "Exit status: 0 everything is valid, 1 something is not, 2 wrong usage or an unusable file.\n"
+         "Exit status: 0 all values are valid, 1 a value is not, 2 wrong usage or an unusable file.\n"
          "\n"
          "Examples:\n"
          "  ravo check banka 19-2000145399/0800\n"
@@ -123,22 +124,23 @@ void AddCheckCommand(CLI::App& program, Outcome& outcome) {
       program.add_subcommand("check", "Checks accounts, bank accounts, payment references and EAN codes");
   const auto options = std::make_shared<CheckOptions>();
   CLI::Option* kind =
-      command->add_option("KIND", options->kind, "What the values are: " + CheckKindNames(", "));
+      command->add_option("KIND", options->kind, "The kind of the values: " + CheckKindNames(", "));
   kind->check(CLI::Validator(CheckKindName, ""));
   CLI::Option* values = command->add_option("VALUE", options->values, "The values to check");
   CLI::Option* file = command->add_option(
-      "--csv", options->file, "Check a file (UTF-8 or Windows-1250) whose first row names its columns");
+      "--csv", options->file, "Check a file (UTF-8 or Windows-1250) whose first row has the column names");
   file->type_name("FILE")->excludes(kind)->excludes(values);
-  command->add_option("--column", options->columns, "A column to check and what it holds; may be repeated")
+  command
+      ->add_option("--column", options->columns,
+                   "A column to check and the kind of its values; may be repeated")
       ->type_name("NAME=KIND")
       ->check(CLI::Validator(CheckColumn, ""))
       ->needs(file);
-  command
-      ->add_option("--delimiter", options->delimiter, "What stands between fields; found out when not given")
+  command->add_option("--delimiter", options->delimiter, "The delimiter between fields; detected by default")
       ->type_name("CHAR")
       ->check(CLI::IsMember({";", ",", "\t", "|"}))
       ->needs(file);
-  command->add_flag("--allow-empty", options->allow_empty, "Pass over empty fields")->needs(file);
+  command->add_flag("--allow-empty", options->allow_empty, "Skip empty fields")->needs(file);
   command->add_flag("--json", options->json, "Write JSON");
   command->footer(CheckFooter());
   command->callback([options, &outcome] { Run(*options, outcome); });

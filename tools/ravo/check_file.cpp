@@ -9,8 +9,7 @@
 namespace tool {
 namespace {
 
-// Widens a value unit by unit: the checks look at ASCII alone, and no byte of another character becomes
-// ASCII.
+// Widens a value byte by byte: the checks accept only ASCII, and no other byte becomes ASCII.
 class Widened {
  public:
   explicit Widened(std::string_view bytes) {

@@ -8,7 +8,7 @@
 
 namespace tool {
 
-/// A column to check, by the name in the file's first row.
+/// A column to check, by its name in the first row of the file.
 struct ColumnCheck {
   std::string name;
   const CheckKind* kind = nullptr;
@@ -16,7 +16,7 @@ struct ColumnCheck {
   std::size_t invalid = 0;
 };
 
-/// A value that is not right.
+/// An invalid value.
 struct BadValue {
   std::size_t line = 0;
   std::size_t column = 0;  // index into the checks
@@ -30,9 +30,9 @@ struct FileCheck {
   std::vector<BadValue> bad;
 };
 
-/// Checks the named columns of a file whose first row names its columns; `name` is UTF-8, a delimiter of 0 is
-/// found out. Empty values are passed over where `allow_empty` says so. Raises `CsvError` or
-/// `std::runtime_error` for a file that cannot be read, lacks a column or has a row of another length.
+/// Checks the named columns of a file whose first row has the column names. `name` is UTF-8; a delimiter of 0
+/// is detected; `allow_empty` skips empty values. Throws `CsvError` or `std::runtime_error` if the file
+/// cannot be read, lacks a column or has a row of another length.
 [[nodiscard]] FileCheck CheckFile(const std::string& name, std::vector<ColumnCheck> columns, char delimiter,
                                   bool allow_empty);
 

@@ -14,7 +14,7 @@ Verdict CheckAccount(std::u16string_view text) { return {common::ValidUcet(text)
 Verdict CheckSynthetic(std::u16string_view text) { return {common::ValidSU(text), {}}; }
 Verdict CheckAnalytic(std::u16string_view text) { return {common::ValidAU(text), {}}; }
 
-// An account or a reference of absurd length is no valid one.
+// An account or a reference of excessive length is invalid.
 template <bool (*kRule)(std::u16string_view)>
 Verdict CheckByRule(std::u16string_view text) {
   try {

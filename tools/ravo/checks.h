@@ -6,13 +6,13 @@
 
 namespace tool {
 
-/// What a check says of a value: whether it is right and, where there is more to say, what.
+/// The result of a check: whether the value is valid, and a remark, which may be empty.
 struct Verdict {
   bool valid = false;
   std::string remark;
 };
 
-/// One kind of value that can be checked. `check` takes any text and never raises.
+/// A kind of value. `check` accepts any text and never throws.
 struct CheckKind {
   std::string_view name;
   std::string_view title;
@@ -22,10 +22,10 @@ struct CheckKind {
 /// Returns all kinds, in the order of the help text.
 [[nodiscard]] std::span<const CheckKind> CheckKinds();
 
-/// The kind of that name, or null.
+/// Returns the kind of this name, or null.
 [[nodiscard]] const CheckKind* FindCheckKind(std::string_view name);
 
-/// The names of all kinds, separated by `between`.
+/// Returns the names of all kinds, separated by `between`.
 [[nodiscard]] std::string CheckKindNames(std::string_view between);
 
 }  // namespace tool

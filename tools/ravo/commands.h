@@ -4,7 +4,7 @@
 
 #include <CLI/CLI.hpp>
 
-/// The sub-commands. Each function adds one to the program; when the command line names it, it fills the
+/// The sub-commands. Each function adds one to the program; if the command line names it, it fills in the
 /// outcome.
 namespace tool {
 

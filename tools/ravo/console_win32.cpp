@@ -29,7 +29,7 @@ std::wstring ToWide(std::string_view utf8) {
   return text;
 }
 
-// A console takes a limited number of units at once; a file or pipe may take fewer bytes than it was offered.
+// A console accepts a limited number of units at once; a file or pipe may accept fewer bytes than offered.
 constexpr std::size_t kMostUnits = 8192;
 
 bool WriteToConsole(HANDLE console, std::wstring_view text) {
@@ -58,7 +58,7 @@ HANDLE HandleOf(Channel channel) {
 
 }  // namespace
 
-// What `main` is given went through the 8-bit code page; the wide command line has lost nothing.
+// The arguments of `main` were converted to the 8-bit code page; the wide command line is lossless.
 std::vector<std::string> Arguments(int, const char* const*) {
   std::vector<std::string> arguments;
   int count = 0;
@@ -74,7 +74,7 @@ bool Write(Channel channel, std::string_view utf8) {
   return GetConsoleMode(handle, &mode) ? WriteToConsole(handle, ToWide(utf8)) : WriteBytes(handle, utf8);
 }
 
-// The end of a pipe is an error for the system.
+// The system reports the end of a pipe as an error.
 std::size_t ReadInput(std::span<std::byte> to) {
   DWORD count = 0;
   const HANDLE input = GetStdHandle(STD_INPUT_HANDLE);
@@ -88,7 +88,7 @@ bool IsTerminal(Channel channel) {
   return GetConsoleMode(HandleOf(channel), &mode) != 0;
 }
 
-// A console reads colour codes only where it is told to; old ones cannot.
+// A console interprets colour codes only in a special mode; old ones have no such mode.
 bool ShowsColours(Channel channel) {
   constexpr DWORD kReadCodes = 0x0004;
   DWORD mode = 0;

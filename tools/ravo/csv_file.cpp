@@ -14,7 +14,7 @@ namespace {
 
 constexpr std::size_t kRowsBetweenShows = 4096;
 
-// 0 where it is not known.
+// Returns 0 if the size is unknown.
 std::int64_t SizeOf(const std::string& name) {
   std::error_code error;
   const auto size = std::filesystem::file_size(PathOf(name), error);
@@ -28,7 +28,7 @@ CsvFile::CsvFile(const std::string& name, const std::string& doing, char delimit
       reader_([this](std::span<char> to) { return ReadSome(to); }, delimiter),
       progress_(doing + " " + name, SizeOf(name)) {
   if (!file_) throw std::runtime_error("cannot be read");
-  if (!reader_.Next(fields_)) throw std::runtime_error("has no first row with the names of its columns");
+  if (!reader_.Next(fields_)) throw std::runtime_error("has no first row with column names");
   for (const std::string_view field : fields_) columns_.push_back(ForeignText(field));
 }
 

@@ -11,25 +11,26 @@
 
 namespace tool {
 
-/// A table of fields in a file whose first row names its columns. Everything raises `CsvError` or
-/// `std::runtime_error` for a file that cannot be read or is no such table.
+/// A table in a file whose first row has the column names. All members throw `CsvError` or
+/// `std::runtime_error` if the file cannot be read or is not such a table.
 class CsvFile {
  public:
-  /// `name` is UTF-8, a delimiter of 0 is found out. `doing` is what a progress bar says of the work.
+  /// `name` is UTF-8; a delimiter of 0 is detected. `doing` is the label of the progress bar.
   CsvFile(const std::string& name, const std::string& doing, char delimiter);
 
-  /// The place of a column in each row, by its name in UTF-8.
+  /// Returns the index of a column by its name in UTF-8.
   [[nodiscard]] std::size_t Column(std::string_view name) const;
   [[nodiscard]] bool HasColumn(std::string_view name) const;
 
-  /// Reads the next row; false at the end. Raises for a row of another length than the first.
+  /// Reads the next row; returns false at the end. Throws `CsvError` if its length differs from the first
+  /// row's.
   [[nodiscard]] bool Next();
 
-  /// A field of the row that was read last, bytes as they stand.
+  /// Returns a field of the current row, its bytes unchanged.
   [[nodiscard]] std::string_view Field(std::size_t column) const { return fields_[column]; }
-  /// The line, from 1, on which that row begins.
+  /// Returns the 1-based line on which the current row begins.
   [[nodiscard]] std::size_t Line() const noexcept { return reader_.Line(); }
-  /// Rows read, without the first.
+  /// Returns the number of rows read, without the first.
   [[nodiscard]] std::size_t Rows() const noexcept { return rows_; }
 
  private:

@@ -7,7 +7,7 @@
 namespace tool {
 namespace {
 
-// The place of `byte` in text[from, to), or `to`.
+// Returns the index of `byte` in text[from, to), or `to`.
 std::size_t Find(const char* text, char byte, std::size_t from, std::size_t to) {
   const void* found = from < to ? std::memchr(text + from, byte, to - from) : nullptr;
   return found ? static_cast<std::size_t>(static_cast<const char*>(found) - text) : to;
@@ -21,8 +21,8 @@ CsvError::CsvError(std::size_t line, const std::string& what)
 CsvReader::CsvReader(Source source, char delimiter, std::size_t first_buffer)
     : source_(std::move(source)), delimiter_(delimiter), buffer_(first_buffer) {}
 
-// Keeps the bytes that belong to no row yet and reads behind them; a row that fills the whole buffer doubles
-// it, so a row is scanned again only as often as its length doubles.
+// Keeps the bytes that belong to no row yet and reads more after them. A row that fills the buffer doubles
+// it, so a row is scanned again only when its length doubles.
 bool CsvReader::Fill() {
   if (at_end_) return false;
   std::copy(buffer_.begin() + static_cast<std::ptrdiff_t>(begin_),
@@ -51,7 +51,7 @@ void CsvReader::Begin() {
   delimiter_ = std::ranges::count(first, ';') >= std::ranges::count(first, ',') ? ';' : ',';
 }
 
-// Leaves begin_ at the first byte of a row; false where there is none.
+// Moves begin_ to the first byte of a row; returns false at the end of the file.
 bool CsvReader::SkipEmptyLines() {
   for (;;) {
     while (begin_ < end_ && (buffer_[begin_] == '\n' || buffer_[begin_] == '\r')) {
@@ -62,7 +62,7 @@ bool CsvReader::SkipEmptyLines() {
   }
 }
 
-// A quoted field without its quotes, its doubled quotes halved.
+// Returns a quoted field without its quotes, with doubled quotes made single.
 std::string_view CsvReader::Unescaped(std::string_view quoted) {
   std::string text;
   for (std::size_t i = 0; i < quoted.size(); ++i) {
@@ -72,7 +72,7 @@ std::string_view CsvReader::Unescaped(std::string_view quoted) {
   return unescaped_.emplace_back(std::move(text));
 }
 
-// Takes the field whose opening quote stands at `at` and leaves `at` behind its closing one.
+// Reads the field whose opening quote is at `at` and moves `at` past its closing quote.
 CsvReader::Scan CsvReader::ScanQuoted(std::size_t& at, std::vector<std::string_view>& fields) {
   const std::size_t first = at + 1;
   bool doubled = false;
@@ -91,7 +91,7 @@ CsvReader::Scan CsvReader::ScanQuoted(std::size_t& at, std::vector<std::string_v
   return Scan::Row;
 }
 
-// Closes the row that `line_end` ends, with as many line ends inside it as were counted.
+// Ends the row at `line_end`; it contains the counted line ends.
 CsvReader::Scan CsvReader::EndRow(std::size_t line_end) {
   line_ = next_line_;
   next_line_ += scanned_lines_ + (line_end < end_ ? 1 : 0);
@@ -99,12 +99,12 @@ CsvReader::Scan CsvReader::EndRow(std::size_t line_end) {
   return Scan::Row;
 }
 
-// Where the text of a line ends whose line feed (or whose end of the file) stands at `line_end`.
+// Returns the end of the text of a line whose line feed, or end of file, is at `line_end`.
 std::size_t CsvReader::TextEnd(std::size_t from, std::size_t line_end) const {
   return line_end > from && buffer_[line_end - 1] == '\r' ? line_end - 1 : line_end;
 }
 
-// A row without quotes, which most are: nothing but delimiters to look for.
+// A row without quotes, as most rows are: only delimiters to find.
 CsvReader::Scan CsvReader::SplitLine(std::size_t line_end, std::vector<std::string_view>& fields) {
   const char* text = buffer_.data();
   const std::size_t text_end = TextEnd(begin_, line_end);
@@ -116,8 +116,8 @@ CsvReader::Scan CsvReader::SplitLine(std::size_t line_end, std::vector<std::stri
   }
 }
 
-// Takes one field and leaves `at` behind its delimiter, or behind the end of its line. `line_end` is the end
-// of the line that was looked at last; a quoted field may lead into another.
+// Reads one field and moves `at` past its delimiter, or past the end of its line. `line_end` is the end of
+// the line found last; a quoted field may extend into another line.
 CsvReader::Scan CsvReader::ScanField(std::size_t& at, std::vector<std::string_view>& fields,
                                      std::size_t& line_end) {
   const bool quoted = at < end_ && buffer_[at] == '"';
@@ -127,7 +127,7 @@ CsvReader::Scan CsvReader::ScanField(std::size_t& at, std::vector<std::string_vi
   if (line_end == end_ && !at_end_) return Scan::NeedsMore;
   const std::size_t text_end = TextEnd(at, line_end);
   const std::size_t field_end = Find(buffer_.data(), delimiter_, at, text_end);
-  if (quoted && field_end != at) throw CsvError(next_line_ + scanned_lines_, "text behind a closing quote");
+  if (quoted && field_end != at) throw CsvError(next_line_ + scanned_lines_, "text after a closing quote");
   if (!quoted) fields.emplace_back(buffer_.data() + first, field_end - first);
   at = field_end < text_end ? field_end + 1 : line_end + 1;
   return Scan::Row;
@@ -140,7 +140,7 @@ CsvReader::Scan CsvReader::ScanRow(std::vector<std::string_view>& fields) {
   std::size_t line_end = Find(buffer_.data(), '\n', begin_, end_);
   if (line_end == end_ && !at_end_) return Scan::NeedsMore;
   if (Find(buffer_.data(), '"', begin_, line_end) == line_end) return SplitLine(line_end, fields);
-  // Behind the line end stands the next row; a field may move that end.
+  // The next row is after the line end; a quoted field may move that end.
   for (std::size_t at = begin_; at <= line_end;) {
     if (ScanField(at, fields, line_end) == Scan::NeedsMore) return Scan::NeedsMore;
   }

@@ -11,7 +11,7 @@
 
 namespace tool {
 
-/// A file that is no table of fields; the message names the line.
+/// A file is not a table of fields; the message has the line.
 class CsvError : public std::runtime_error {
  public:
   CsvError(std::size_t line, const std::string& what);
@@ -22,28 +22,28 @@ class CsvError : public std::runtime_error {
 };
 
 /// Reads rows of fields (RFC 4180, with any one-byte delimiter): lines end in LF or CR LF, a field in double
-/// quotes may hold delimiters, line ends and doubled quotes. A byte-order mark of UTF-8 in front is skipped,
-/// and so are empty lines. Bytes are handed on as they stand, whatever their encoding. Time and memory are
-/// linear in the file and in its longest row.
+/// quotes may contain delimiters, line ends and doubled quotes. A leading byte-order mark of UTF-8 and empty
+/// lines are skipped. Bytes are returned unchanged, in any encoding. Time and memory are linear in the size
+/// of the file and of its longest row.
 class CsvReader {
  public:
-  /// Fills the span with the next bytes and answers how many; 0 at the end.
+  /// A function that fills the span with the next bytes and returns their number; 0 at the end.
   using Source = std::function<std::size_t(std::span<char>)>;
 
   static constexpr std::size_t kFirstBuffer = std::size_t{1} << 20;
 
-  /// A delimiter of 0 takes ";" or ",", whichever the first line has more of. The buffer begins with
-  /// `first_buffer` bytes, at least 4, and grows with the longest row.
+  /// With a delimiter of 0, the reader uses ";" or ",", whichever is more frequent in the first line. The
+  /// buffer starts with `first_buffer` bytes, at least 4, and grows to the longest row.
   CsvReader(Source source, char delimiter, std::size_t first_buffer = kFirstBuffer);
 
-  /// The next row's fields, which live until the next call; false at the end. Raises `CsvError` for a quote
-  /// that is never closed and for text behind a closing quote.
+  /// Stores the fields of the next row, valid until the next call; returns false at the end. Throws
+  /// `CsvError` for an unclosed quote and for text after a closing quote.
   [[nodiscard]] bool Next(std::vector<std::string_view>& fields);
 
-  /// The line, from 1, on which the row that was read last begins.
+  /// Returns the 1-based line on which the current row begins.
   [[nodiscard]] std::size_t Line() const noexcept { return line_; }
 
-  /// Bytes taken from the source so far.
+  /// Returns the number of bytes read from the source.
   [[nodiscard]] std::size_t BytesRead() const noexcept { return bytes_read_; }
 
  private:
@@ -64,8 +64,8 @@ class CsvReader {
   char delimiter_;
   std::vector<char> buffer_;
   std::size_t begin_ = 0;  // the first byte that belongs to no row yet
-  std::size_t end_ = 0;    // behind the last byte read
-  bool at_end_ = false;    // the source has no more
+  std::size_t end_ = 0;    // past the last byte read
+  bool at_end_ = false;    // the source is exhausted
   bool begun_ = false;
   std::size_t line_ = 0;       // of the row read last
   std::size_t next_line_ = 1;  // of the byte at begin_

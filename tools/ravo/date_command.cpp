@@ -49,7 +49,7 @@ std::optional<ravo::DateTime> ParseDate(const std::string& text) {
 }
 
 std::string CheckDate(const std::string& text) {
-  return ParseDate(text) ? std::string() : "'" + text + "' is no date YYYY-MM-DD [HH:MM:SS.mmm]";
+  return ParseDate(text) ? std::string() : "'" + text + "' is not a date YYYY-MM-DD [HH:MM:SS.mmm]";
 }
 
 ravo::DateTime Moved(const DateOptions& options) {
@@ -64,7 +64,7 @@ utils::TJulianDate JulianDateOf(const ravo::DateParts& parts) {
                                 static_cast<std::uint16_t>(parts.day));
 }
 
-// "2024-W13": the year is the one that the week's Thursday lies in.
+// "2024-W13": the year of a week is that of its Thursday.
 std::string WeekText(utils::TJulianDate date) {
   const std::int32_t year = utils::YearOfJuilanDate(utils::FirstDayOfWeek(date) + 3);
   const std::string week = std::to_string(utils::ISOWeekNumber(date));
@@ -73,7 +73,7 @@ std::string WeekText(utils::TJulianDate date) {
          (week.size() < 2 ? "0" : "") + week;
 }
 
-// Every holiday of the year that is no Sunday.
+// All holidays of the year except Sundays.
 Json Holidays(std::int32_t year) {
   constexpr std::int32_t kSunday = 6;
   Json dates = Json::array();
@@ -105,7 +105,7 @@ Json Describe(ravo::DateTime date) {
           {"holiday", utils::IsHolidayInGermany(day)}};
 }
 
-// Lists are written with blanks between.
+// A list is written with blanks between its elements.
 std::string Value(const Json& value) {
   if (!value.is_array()) return value.is_string() ? value.get<std::string>() : value.dump();
   std::string text;
@@ -129,16 +129,16 @@ void Run(const DateOptions& options, Outcome& outcome) {
     }
     for (const auto& [name, value] : facts.items()) outcome.out += name + "\t" + Value(value) + "\n";
   } catch (const ravo::Error&) {
-    outcome.err = "ravo: the date leaves the years 1 to 9999\n";
+    outcome.err = "ravo: the date is outside the years 1 to 9999\n";
     outcome.answer = Answer::No;
   }
 }
 
 constexpr const char* kDateFooter =
-    "Dates and times are shown as they are written into SQL statements. Holidays are those of the suite's\n"
+    "Dates and times are shown in the form of SQL statements. Holidays are those of the suite's\n"
     "list, which has German ones; Easter is exact for 1900 to 2099.\n"
     "\n"
-    "Exit status: 0, or 1 where a step leaves the years 1 to 9999, 2 wrong usage.\n"
+    "Exit status: 0, or 1 if a step leaves the years 1 to 9999, 2 wrong usage.\n"
     "\n"
     "Examples:\n"
     "  ravo date 2011-01-31 --month 1                     28 February\n"
@@ -150,19 +150,19 @@ constexpr const char* kDateFooter =
 }  // namespace
 
 void AddDateCommand(CLI::App& program, Outcome& outcome) {
-  CLI::App* command =
-      program.add_subcommand("date", "Tells about a day, steps periods, draws months, lists holidays");
+  CLI::App* command = program.add_subcommand(
+      "date", "Shows the facts of a day, steps months and years, prints a month, lists holidays");
   const auto options = std::make_shared<DateOptions>();
-  command->add_option("DATE", options->date, "YYYY-MM-DD, with a time HH:MM:SS.mmm if wanted")
+  command->add_option("DATE", options->date, "YYYY-MM-DD, optionally with a time HH:MM:SS.mmm")
       ->required()
       ->check(CLI::Validator(CheckDate, ""));
-  command->add_option("--month", options->month, "Months to step on, or back when negative")
+  command->add_option("--month", options->month, "Months to step forward, or back if negative")
       ->check(CLI::Range(-120000, 120000));
-  command->add_option("--year", options->year, "Years to step on, or back when negative")
+  command->add_option("--year", options->year, "Years to step forward, or back if negative")
       ->check(CLI::Range(-10000, 10000));
   CLI::Option* calendar = command->add_flag("--calendar", options->calendar,
-                                            "Draw the month instead: the day in brackets, holidays with *");
-  command->add_flag("--holidays", options->holidays, "List the year's holidays that are no Sundays too")
+                                            "Print the month instead: the day in brackets, holidays with *");
+  command->add_flag("--holidays", options->holidays, "Also list the year's holidays, except Sundays")
       ->excludes(calendar);
   command->add_flag("--json", options->json, "Write JSON")->excludes(calendar);
   command->footer(kDateFooter);

@@ -57,7 +57,7 @@ void Run(const EncodingOptions& options, Outcome& outcome) {
     rows.push_back(RowJson(row));
   }
   if (rows.empty()) {
-    outcome.err += "ravo: no encoding is called '" + options.wanted + "'\n";
+    outcome.err += "ravo: there is no encoding '" + options.wanted + "'\n";
     outcome.answer = Answer::No;
   }
   if (options.json) outcome.out = JsonText(rows);
@@ -66,23 +66,23 @@ void Run(const EncodingOptions& options, Outcome& outcome) {
 constexpr const char* kEncodingsFooter =
     "A line has the name, a label, the Windows code page number if there is one, whether the encoding is "
     "read\n"
-    "and written, and other names. Names are found in any case, with or without what is no letter or digit.\n"
+    "and written, and other names. Names are found in any case; characters other than letters and digits are "
+    "ignored.\n"
     "\n"
-    "Exit status: 0 something is found, 1 nothing is, 2 wrong usage.\n"
+    "Exit status: 0 found, 1 not found, 2 wrong usage.\n"
     "\n"
     "Examples:\n"
     "  ravo encodings                  all of them\n"
-    "  ravo encodings windows-1250     the one of that name, alias or code page number\n"
+    "  ravo encodings windows-1250     by name, alias or code page number\n"
     "  ravo encodings 852 --json\n";
 
 }  // namespace
 
 void AddEncodingsCommand(CLI::App& program, Outcome& outcome) {
   const auto options = std::make_shared<EncodingOptions>();
-  CLI::App* const command =
-      program.add_subcommand("encodings", "Lists the encodings that text is read and written in");
-  command->add_option("NAME", options->wanted, "A name, another name, a label or a code page number");
-  command->add_flag("--json", options->json, "A JSON array with all that is known of them");
+  CLI::App* const command = program.add_subcommand("encodings", "Lists the encodings of text");
+  command->add_option("NAME", options->wanted, "A name, an alias, a label or a code page number");
+  command->add_flag("--json", options->json, "Write a JSON array with all properties");
   command->footer(kEncodingsFooter);
   command->callback([options, &outcome] { Run(*options, outcome); });
 }

@@ -45,7 +45,7 @@ class Sums {
   ravo::HashStream hash_ia_{0, ravo::HashStream::Letters::InUpperCase};
 };
 
-// The sums of all that `read` gives, piece by piece until it gives nothing more.
+// Computes the sums of all bytes that `read` returns, block by block.
 template <class Read>
 FileSums SumsOf(Read read, const FileSumKind* only, Progress&& progress) {
   Sums sums(only);

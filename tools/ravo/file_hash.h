@@ -9,7 +9,7 @@
 
 namespace tool {
 
-/// The 32-bit sums that a file can have.
+/// The 32-bit sums of a file.
 enum class FileSum : std::uint8_t { Crc32, Hash, HashIA };
 
 struct FileSumKind {
@@ -26,26 +26,26 @@ inline constexpr std::array<FileSumKind, 3> kFileSums = {
 
 using FileSums = std::array<std::uint32_t, kFileSums.size()>;
 
-/// The sums of a file, or of standard input, in one reading, of whatever size, or `only` one of them (the
-/// others are then anything). `name` is UTF-8. No value where it cannot be read.
+/// Returns the sums of a file, or of standard input, of any size in one pass; with `only`, just that sum is
+/// valid. `name` is UTF-8. No value if it cannot be read.
 [[nodiscard]] std::optional<FileSums> SumsOfFile(const std::string& name, const FileSumKind* only);
 
 [[nodiscard]] const FileSumKind* FileSumNamed(std::string_view name);
 [[nodiscard]] const FileSumKind* FileSumLabelled(std::string_view label);
 
-/// A line of a list of sums: a label such as "CRC32" or none, the sum, the file's name.
+/// A line of a list of sums: an optional label such as "CRC32", the sum, the file name.
 struct SumLine {
   std::string label;
   std::uint32_t sum = 0;
   std::string name;
 };
 
-/// "CBF43926  name", or "CRC32 (name) = CBF43926" where there is a label. Line ends in a name are written
-/// "\n" and "\r" and the line begins with "\" then.
+/// Returns "CBF43926  name", or "CRC32 (name) = CBF43926" if there is a label. Line ends in a name are
+/// written as "\n" and "\r"; the line then begins with "\".
 [[nodiscard]] std::string SumLineText(const SumLine& line);
 
-/// What such a line says; hexadecimal digits of either case, and "*" before the name as some tools write it.
-/// No value for any other text.
+/// Parses such a line; hexadecimal digits may have either case, and "*" may precede the name. No value for
+/// any other text.
 [[nodiscard]] std::optional<SumLine> ParseSumLine(std::string_view text);
 
 }  // namespace tool

@@ -5,8 +5,8 @@
 
 namespace tool {
 
-/// Text of a foreign file as UTF-8: bytes that are UTF-8 already as they stand, any others as the suite's
-/// 8-bit code page (Windows-1250).
+/// Returns the text of a foreign file in UTF-8: bytes that are UTF-8 unchanged, any others decoded from
+/// Windows-1250, the suite's 8-bit code page.
 [[nodiscard]] std::string ForeignText(std::string_view bytes);
 
 }  // namespace tool

@@ -32,13 +32,13 @@ void Run(const FormOptions& options, Outcome& outcome) {
 }
 
 constexpr const char* kFormFooter =
-    "The table (UTF-8 or Windows-1250) has a first row that names its columns: field, value and, if wanted,\n"
+    "The first row of the table (UTF-8 or Windows-1250) has the column names: field, value and, optionally,\n"
     "kind. Kinds are\n"
-    "  text     a text with Czech characters; what a row without a kind is\n"
+    "  text     a text with Czech characters; the default\n"
     "  plain    a text in the 8-bit code page of forms\n"
     "  number   the state of a check box or a choice\n"
     "\n"
-    "Exit status: 0 the form is written, 2 wrong usage or a table that no form can take.\n"
+    "Exit status: 0 the form is written, 2 wrong usage or a table that does not fit a form.\n"
     "\n"
     "Examples:\n"
     "  ravo form samples/form.csv -o form.fdf\n"
@@ -51,8 +51,7 @@ void AddFormCommand(CLI::App& program, Outcome& outcome) {
   const auto options = std::make_shared<FormOptions>();
   command->add_option("FIELDS.csv", options->fields, "The table of fields and values")->required();
   command->add_option("-o,--output", options->form, "The file to write")->type_name("FORM.fdf")->required();
-  command
-      ->add_option("--delimiter", options->delimiter, "What stands between columns; found out when not given")
+  command->add_option("--delimiter", options->delimiter, "The delimiter between columns; detected by default")
       ->type_name("CHAR")
       ->check(CLI::IsMember({";", ",", "\t", "|"}));
   command->footer(kFormFooter);

@@ -29,7 +29,8 @@ std::optional<std::int32_t> Number(std::string_view text) {
   return value;
 }
 
-// A form's texts stand between parentheses and unescaped: what would end or change them has no place in one.
+// A form's texts are in parentheses and unescaped, so a text must not contain characters that end or change
+// them.
 bool FitsAForm(std::u16string_view text) {
   int open = 0;
   for (const char16_t ch : text) {
@@ -65,7 +66,7 @@ class FormWriter {
     } else if (kind.empty() || kind == "text" || kind == "plain") {
       ravo::RavoFileCommon::FillPDFField(stream_, name, TextOf(value_), kind != "plain");
     } else {
-      Refuse("'" + kind + "' is no kind; there are text, plain, number");
+      Refuse("'" + kind + "' is not a kind; kinds are text, plain, number");
     }
   }
 
@@ -73,15 +74,15 @@ class FormWriter {
     const std::string text = ForeignText(file_.Field(column));
     std::u16string wide = ravo::FromUtf8(text);
     if (!FitsAForm(wide)) {
-      Refuse("'" + text + "' has a backslash, a carriage return or parentheses that do not pair");
+      Refuse("'" + text + "' has a backslash, a carriage return or unbalanced parentheses");
     }
     if (const std::string lacking = Lacking(wide); !lacking.empty()) {
-      Refuse("the code page of forms has no '" + lacking + "'");
+      Refuse("the code page of forms lacks '" + lacking + "'");
     }
     return wide;
   }
 
-  // The first character that the forms' code page lacks.
+  // Returns the first character that the forms' code page lacks.
   static std::string Lacking(std::u16string_view text) {
     const std::u16string back = ravo::FromCodePage(ravo::ToCodePage(text));
     for (std::size_t i = 0; i < text.size(); ++i) {
@@ -92,7 +93,7 @@ class FormWriter {
 
   [[nodiscard]] std::int32_t NumberOf(std::size_t column) const {
     const std::optional<std::int32_t> number = Number(file_.Field(column));
-    if (!number) Refuse("'" + ForeignText(file_.Field(column)) + "' is no number of 32 bits");
+    if (!number) Refuse("'" + ForeignText(file_.Field(column)) + "' is not a 32-bit number");
     return *number;
   }
 

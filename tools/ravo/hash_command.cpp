@@ -20,7 +20,7 @@ struct HashOptions {
   bool json = false;
 };
 
-// What the words say: a kind of sum in front or not, and files.
+// The parsed arguments: an optional kind of sum, and files.
 struct HashTask {
   const FileSumKind* kind = nullptr;
   std::vector<std::string> files;
@@ -37,7 +37,7 @@ HashTask TaskOf(const HashOptions& options) {
   if (!options.all && !task.files.empty()) task.kind = FileSumNamed(task.files.front());
   if (task.kind) task.files.erase(task.files.begin());
   if (!task.kind && !options.all && !options.check)
-    throw CLI::ValidationError("hash: the first word must be one of " + Names() + ", or say --all");
+    throw CLI::ValidationError("hash: the first word must be one of " + Names() + ", or use --all");
   if (task.files.empty()) task.files.emplace_back(kInputName);
   return task;
 }
@@ -81,7 +81,7 @@ struct Tally {
   std::size_t other_lines = 0;
 };
 
-// The kind of a line: its own label, or what the command line says.
+// Returns the kind of a line: its own label, or the one given on the command line.
 const FileSumKind* KindOf(const SumLine& line, const FileSumKind* said) {
   return line.label.empty() ? said : FileSumLabelled(line.label);
 }
@@ -112,11 +112,11 @@ void Report(const std::string& name, const Tally& tally, Outcome& outcome) {
   const auto complain = [&](std::size_t count, const std::string& what) {
     if (count > 0) Complain(outcome, name, std::to_string(count) + " " + what, Answer::No);
   };
-  complain(tally.other_lines, "lines are no sums");
+  complain(tally.other_lines, "lines are not sums");
   complain(tally.unreadable, "listed files could not be read");
   complain(tally.bad, "sums do NOT match");
   if (tally.good + tally.bad + tally.unreadable == 0)
-    Complain(outcome, name, "no line of it is a sum", Answer::WrongUsage);
+    Complain(outcome, name, "has no line with a sum", Answer::WrongUsage);
 }
 
 void CheckList(const HashTask& task, const std::string& name, Outcome& outcome) {
@@ -138,13 +138,13 @@ void Run(const HashOptions& options, Outcome& outcome) {
 std::string HashFooter() {
   return "Sums:\n" + KindLines(kFileSums) +
          "\n"
-         "Exit status: 0, 1 a sum does not match or a line of a list is none, 2 wrong usage or an unusable "
+         "Exit status: 0, 1 a sum does not match or a line is not a sum, 2 wrong usage or an unusable "
          "file.\n"
          "\n"
          "Examples:\n"
          "  ravo hash crc32 backup.zip > backup.sum\n"
          "  ravo hash crc32 --check backup.sum\n"
-         "  ravo report | ravo hash crc32             what a program writes\n"
+         "  ravo report | ravo hash crc32             the output of a program\n"
          "  ravo hash --all backup.zip              every sum, each with its name\n"
          "  ravo hash --all --json backup.zip\n";
 }
@@ -155,10 +155,10 @@ void AddHashCommand(CLI::App& program, Outcome& outcome) {
   CLI::App* command = program.add_subcommand("hash", "Computes and checks sums of files");
   const auto options = std::make_shared<HashOptions>();
   command->add_option("SUM FILE", options->words,
-                      "Which sum (" + Names() + "), and the files; none, or \"-\", is standard input");
-  command->add_flag("--all", options->all, "Every sum; the words are all files");
-  CLI::Option* check = command->add_flag(
-      "--check", options->check, "The files are lists of sums; compare each with its file as it is now");
+                      "The kind of sum (" + Names() + "), then files; standard input for \"-\" or no file");
+  command->add_flag("--all", options->all, "Compute every sum; all words are files");
+  CLI::Option* check = command->add_flag("--check", options->check,
+                                         "The files are lists of sums; compare each with the current file");
   command->add_flag("--json", options->json, "Write JSON")->excludes(check);
   command->footer(HashFooter());
   command->callback([options, &outcome] { Run(*options, outcome); });

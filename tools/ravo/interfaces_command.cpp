@@ -16,7 +16,7 @@ struct InterfaceOptions {
   bool json = false;
 };
 
-// What the user looks for: an identifier, or a part of a name.
+// The search text: an identifier, or a part of a name.
 class Wanted {
  public:
   explicit Wanted(const std::string& text) : name_(Lower(text)), identifier_(Identifier(text)) {}
@@ -27,7 +27,7 @@ class Wanted {
     return Lower(std::string(prefix) + std::string(row.name)).find(name_) != std::u16string::npos;
   }
 
-  // Of a library the whole name is needed: much in it has a part of that name.
+  // A library must match by its whole name: many of its rows contain part of it.
   [[nodiscard]] bool IsLibrary(const ravo::TypeLibraryRow& row) const {
     if (identifier_) return row.identifier == *identifier_;
     const std::u16string name = Lower(row.name);
@@ -41,7 +41,7 @@ class Wanted {
     return lower;
   }
 
-  // Any spelling: with braces or without, with dashes or without, digits of either case, blanks around it.
+  // Accepts any spelling: with or without braces and dashes, digits of either case, blanks around it.
   static std::optional<ravo::Guid> Identifier(std::string_view text) {
     std::string digits;
     for (const char ch : text) {
@@ -85,7 +85,7 @@ Json RowJson(const ravo::HostClassRow& row) {
   return {{"name", row.name}, {"returns", row.returned}, {"identifier", Text(row.identifier)}};
 }
 
-// A library with those of its rows that are wanted: all of them where the library itself is.
+// A library with its matching rows: all of them if the library itself matches.
 struct Branch {
   std::string text;
   Json interfaces = Json::array();
@@ -121,7 +121,7 @@ void Run(const InterfaceOptions& options, Outcome& outcome) {
                          {"classes", std::move(branch.classes)}});
   }
   if (libraries.empty()) {
-    outcome.err += "ravo: no interface, class or library is called '" + options.wanted + "'\n";
+    outcome.err += "ravo: there is no interface, class or library '" + options.wanted + "'\n";
     outcome.answer = Answer::No;
   }
   if (options.json) outcome.out = JsonText(libraries);
@@ -131,11 +131,11 @@ constexpr const char* kInterfacesFooter =
     "A line of an interface has its name, kind, base, identifier and number of own operations; one of a\n"
     "factory class has its name, the interface that it returns and the identifier of the class.\n"
     "\n"
-    "Exit status: 0 something is found, 1 nothing is, 2 wrong usage.\n"
+    "Exit status: 0 found, 1 not found, 2 wrong usage.\n"
     "\n"
     "Examples:\n"
     "  ravo interfaces                 the host's object model, by library\n"
-    "  ravo interfaces session         whatever has this in its name\n"
+    "  ravo interfaces session         all names that contain this\n"
     "  ravo interfaces '{904F0BB6-AB48-492D-BFF6-09A944EA24C9}'\n"
     "  ravo interfaces 904f0bb6ab48492dbff609a944ea24c9 --json\n";
 

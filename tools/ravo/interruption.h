@@ -5,15 +5,15 @@
 
 namespace tool {
 
-/// While it lives, a file goes with the program where somebody ends that from outside (Ctrl+C, a request to
-/// end, a closed terminal). Where the system keeps files that are open, the file stays. The last one made
-/// counts.
-class GoesOnInterruption {
+/// Deletes a file if the process is interrupted (Ctrl+C, a termination request, a closed terminal) while this
+/// object exists. If the system does not delete open files, the file remains. Only the object created last is
+/// active.
+class DeleteOnInterruption {
  public:
-  explicit GoesOnInterruption(const std::filesystem::path& file);
-  ~GoesOnInterruption();
-  GoesOnInterruption(const GoesOnInterruption&) = delete;
-  GoesOnInterruption& operator=(const GoesOnInterruption&) = delete;
+  explicit DeleteOnInterruption(const std::filesystem::path& file);
+  ~DeleteOnInterruption();
+  DeleteOnInterruption(const DeleteOnInterruption&) = delete;
+  DeleteOnInterruption& operator=(const DeleteOnInterruption&) = delete;
 
  private:
   struct Watch;

@@ -12,11 +12,11 @@ namespace {
 
 constexpr std::array kSignals = {SIGINT, SIGTERM, SIGHUP};
 
-// What the handler may touch.
+// The state that the signal handler accesses.
 std::atomic<const char*> file_to_remove{nullptr};
 static_assert(std::atomic<const char*>::is_always_lock_free);
 
-// The program ends by the signal, as if nobody had watched for it.
+// Ends the process by the default action of the signal.
 extern "C" void EndByRemoving(int number) {
   if (const char* const name = file_to_remove.load()) unlink(name);
   std::signal(number, SIG_DFL);
@@ -25,13 +25,13 @@ extern "C" void EndByRemoving(int number) {
 
 }  // namespace
 
-struct GoesOnInterruption::Watch {
+struct DeleteOnInterruption::Watch {
   std::string name;
   const char* previous_name = nullptr;
   std::array<struct sigaction, kSignals.size()> previous_actions{};
 };
 
-GoesOnInterruption::GoesOnInterruption(const std::filesystem::path& file)
+DeleteOnInterruption::DeleteOnInterruption(const std::filesystem::path& file)
     : watch_(std::make_unique<Watch>()) {
   watch_->name = file.string();
   watch_->previous_name = file_to_remove.exchange(watch_->name.c_str());
@@ -40,12 +40,12 @@ GoesOnInterruption::GoesOnInterruption(const std::filesystem::path& file)
   for (std::size_t i = 0; i < kSignals.size(); ++i) {
     struct sigaction& previous = watch_->previous_actions[i];
     sigaction(kSignals[i], nullptr, &previous);
-    // Whoever started the program may have told it to go on.
+    // The parent process may have set the signal to be ignored.
     if (previous.sa_handler != SIG_IGN) sigaction(kSignals[i], &action, nullptr);
   }
 }
 
-GoesOnInterruption::~GoesOnInterruption() {
+DeleteOnInterruption::~DeleteOnInterruption() {
   for (std::size_t i = 0; i < kSignals.size(); ++i) {
     sigaction(kSignals[i], &watch_->previous_actions[i], nullptr);
   }

@@ -2,10 +2,10 @@
 
 namespace tool {
 
-// A file that a program still has open cannot be removed on this system.
-struct GoesOnInterruption::Watch {};
+// This system cannot delete a file that is open.
+struct DeleteOnInterruption::Watch {};
 
-GoesOnInterruption::GoesOnInterruption(const std::filesystem::path&) {}
-GoesOnInterruption::~GoesOnInterruption() = default;
+DeleteOnInterruption::DeleteOnInterruption(const std::filesystem::path&) {}
+DeleteOnInterruption::~DeleteOnInterruption() = default;
 
 }  // namespace tool

@@ -6,10 +6,10 @@
 
 namespace tool {
 
-/// JSON whose members keep the order in which they were added.
+/// JSON whose members keep their insertion order.
 using Json = nlohmann::ordered_json;
 
-/// Indented text with a line end; what is no UTF-8 becomes U+FFFD rather than an error.
+/// Returns indented JSON with a final line end; bytes that are not UTF-8 become U+FFFD instead of an error.
 [[nodiscard]] std::string JsonText(const Json& value);
 
 }  // namespace tool

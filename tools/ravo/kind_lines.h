@@ -6,7 +6,7 @@
 
 namespace tool {
 
-/// Returns one line per kind for a help text: its `name`, and its `title` in a column of its own.
+/// Returns one line per kind for a help text: its `name`, and its `title` in an aligned column.
 template <class Kinds>
 [[nodiscard]] std::string KindLines(const Kinds& kinds) {
   std::size_t width = 0;

@@ -27,9 +27,9 @@ void Run(const MatchOptions& options, Outcome& outcome) {
 }
 
 constexpr const char* kMatchFooter =
-    "Prints the texts that match as a whole. * stands for any run of characters, ? for one.\n"
+    "Prints the texts that match as a whole. * matches any run of characters, ? one character.\n"
     "\n"
-    "Exit status: 0 when one matches, 1 when none does, 2 wrong usage.\n"
+    "Exit status: 0 if a text matches, 1 if none does, 2 wrong usage.\n"
     "\n"
     "Examples:\n"
     "  ravo match \"faktura-*.pdf\" faktura-1.pdf objednavka-1.pdf\n"
@@ -42,7 +42,7 @@ void AddMatchCommand(CLI::App& program, Outcome& outcome) {
   const auto options = std::make_shared<MatchOptions>();
   command->add_option("MASK", options->mask, "The mask")->required();
   command->add_option("TEXT", options->texts, "Texts")->required();
-  command->add_flag("--ignore-case", options->ignore_case, "Match without regard to case");
+  command->add_flag("--ignore-case", options->ignore_case, "Ignore case");
   command->footer(kMatchFooter);
   command->callback([options, &outcome] { Run(*options, outcome); });
 }

@@ -26,7 +26,7 @@ std::string Cell(utils::TJulianDate date, utils::TJulianDate marked) {
   return " " + day + (utils::IsHolidayInGermany(date) ? "*" : " ");
 }
 
-// What comes behind the last mark of a line is left out.
+// Trailing blanks of a line are dropped.
 std::string Week(utils::TJulianDate monday, utils::TJulianDate marked) {
   std::string line = Padded(utils::ISOWeekNumber(monday)) + " ";
   for (utils::TJulianDate date = monday; date < monday + 7; ++date) {

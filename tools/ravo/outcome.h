@@ -2,8 +2,8 @@
 
 #include <string>
 
-/// What a sub-command leaves behind: its texts, in UTF-8 with "\n" at line ends, and the answer that the
-/// process gives to its caller.
+/// The result of a sub-command: its texts, in UTF-8 with "\n" at line ends, and the answer for the exit
+/// status.
 namespace tool {
 
 enum class Answer { Yes = 0, No = 1, WrongUsage = 2 };

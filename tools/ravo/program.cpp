@@ -10,16 +10,17 @@ namespace tool {
 namespace {
 
 constexpr const char* kProgramFooter =
-    "Exit status: 0 yes, 1 no (such as a table that no module knows), 2 wrong usage or an unusable file.\n"
+    "Exit status: 0 yes, 1 no (such as an unknown table), 2 wrong usage or an unusable file.\n"
     "\n"
     "Examples:\n"
-    "  ravo tour                      the commands at work, one after the other\n"
+    "  ravo tour                      the commands at work, one by one\n"
     "  ravo report\n"
     "  ravo table 100121\n"
     "  ravo captions --plain\n"
     "  ravo COMMAND --help            options and examples of a command\n";
 
-// The house by theme, in the order of `ravo --help` and of the manual page. A new command is a line here.
+// The commands by theme, in the order of `ravo --help` and of the manual page. A new command needs a line
+// here.
 struct Theme {
   const char* title;
   std::vector<void (*)(CLI::App&, Outcome&)> commands;
@@ -47,8 +48,8 @@ void AddTheme(CLI::App& program, const Theme& theme, Outcome& outcome) {
   }
 }
 
-// Help and version are answers; every other end of parsing is wrong usage, whatever number the parser gives
-// it.
+// Help and version succeed; every other early end of parsing is wrong usage, whatever code the parser
+// returns.
 Outcome Ended(const CLI::App& program, const CLI::ParseError& end) {
   std::ostringstream out;
   std::ostringstream err;
@@ -60,9 +61,9 @@ Outcome Ended(const CLI::App& program, const CLI::ParseError& end) {
 
 void Describe(CLI::App& program, Outcome& outcome) {
   program.name("ravo");
-  program.description("The shared interface library of the accounting suite at the prompt");
+  program.description("Command-line access to the shared interface library of the accounting suite");
   program.require_subcommand(1);
-  program.set_version_flag("--version", "ravo " RAVO_VERSION, "Print the version and end");
+  program.set_version_flag("--version", "ravo " RAVO_VERSION, "Print the version and exit");
   program.footer(kProgramFooter);
   for (const Theme& theme : Themes()) AddTheme(program, theme, outcome);
 }
@@ -71,7 +72,7 @@ Outcome Run(std::vector<std::string> arguments) {
   CLI::App program;
   Outcome outcome;
   Describe(program, outcome);
-  // The parser takes its arguments from the back.
+  // The parser takes its arguments in reverse order.
   std::reverse(arguments.begin(), arguments.end());
   try {
     program.parse(std::move(arguments));

@@ -1,3 +1,13 @@
+// The command-line program ravo: the library through its public headers, one source file per sub-command.
+//
+// A file NAME_command.cpp adds its sub-command to the program, parses its options and forms its output. The
+// work on files is in separate sources that the tests and fuzz targets reach too: csv_reader.h, check_file.h,
+// file_hash.h, form_file.h. Texts leave the program through console.h alone, in UTF-8; text_file.h replaces
+// files atomically. pages/ generates the manual page and the completion from the same definitions as the
+// help.
+//
+// Start here, then read program.cpp and one command, such as round_command.cpp. A command never exits by
+// itself: it returns its result in an `Outcome`, which main.cpp writes.
 #pragma once
 
 #include "outcome.h"
@@ -7,14 +17,14 @@
 
 #include <CLI/CLI.hpp>
 
-/// The whole program: its sub-commands by theme, and a run of one command line.
+/// The whole program: its sub-commands by theme, and the run of one command line.
 namespace tool {
 
-/// Adds everything that a command line may say; what the named sub-command has to tell goes into `outcome`.
+/// Adds all commands and options to `program`; the command that runs writes its result to `outcome`.
 void Describe(CLI::App& program, Outcome& outcome);
 
-/// What becomes of the arguments (without the program's name). Wrong usage is told in the outcome; what a
-/// sub-command raises beyond that passes through.
+/// Runs the arguments (without the program's name) and returns the outcome, which also reports wrong usage.
+/// Other exceptions of a sub-command pass through.
 [[nodiscard]] Outcome Run(std::vector<std::string> arguments);
 
 }  // namespace tool

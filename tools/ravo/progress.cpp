@@ -12,7 +12,7 @@ constexpr auto kPatience = std::chrono::seconds(1);
 constexpr auto kPause = std::chrono::milliseconds(100);
 constexpr std::size_t kWidth = 30;
 
-// A count where the whole is not known.
+// A count if the total is unknown.
 std::string Bar(std::int64_t done, std::int64_t whole) {
   if (whole <= 0) return std::to_string(done);
   const double share = std::min(1.0, static_cast<double>(done) / static_cast<double>(whole));

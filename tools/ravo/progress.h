@@ -6,11 +6,11 @@
 
 namespace tool {
 
-/// A progress bar on standard error, or a count where the whole is not known; shown only on a terminal and
-/// only once the work has taken a second; gone when the object goes.
+/// A progress bar on standard error, or a count if the total is unknown. It appears only on a terminal and
+/// only after one second of work, and is erased on destruction.
 class Progress {
  public:
-  /// `whole` is the amount of work, in whatever unit `Show` counts; 0 where it is not known.
+  /// `whole` is the total amount of work, in the unit of `Show`; 0 if unknown.
   Progress(std::string what, std::int64_t whole);
   Progress(const Progress&) = delete;
   Progress& operator=(const Progress&) = delete;

@@ -15,12 +15,12 @@ struct RandomOptions {
   std::ptrdiff_t count = 16;
 };
 
-// Characters are drawn unit by unit: half a pair of surrogates is none.
+// Characters are drawn unit by unit, so a surrogate pair would be split.
 std::string CheckAlphabet(const std::string& text) {
   const std::u16string units = ravo::FromUtf8(text);
   const auto is_surrogate = [](char16_t unit) { return unit >= 0xD800 && unit <= 0xDFFF; };
   if (units.empty()) return "the alphabet is empty";
-  return std::ranges::any_of(units, is_surrogate) ? "the alphabet has characters beyond U+FFFF" : "";
+  return std::ranges::any_of(units, is_surrogate) ? "the alphabet has characters past U+FFFF" : "";
 }
 
 std::string CheckSeed(const std::string& text) { return text.empty() ? "the seed is empty" : ""; }
@@ -32,7 +32,7 @@ void Run(const RandomOptions& options, Outcome& outcome) {
 }
 
 constexpr const char* kRandomFooter =
-    "The same seed, alphabet and count give the same text on every machine; no text made so is a secret. "
+    "The same seed, alphabet and count give the same text on every machine; do not use it as a secret. "
     "The\n"
     "seed counts as its bytes in UTF-8.\n"
     "\n"
@@ -48,13 +48,15 @@ void AddRandomCommand(CLI::App& program, Outcome& outcome) {
   constexpr std::ptrdiff_t kMost = 100'000'000;
   CLI::App* command = program.add_subcommand("random", "Writes a reproducible random text");
   const auto options = std::make_shared<RandomOptions>();
-  command->add_option("--seed", options->seed, "What the text is drawn from")
+  command->add_option("--seed", options->seed, "The seed of the generator")
       ->required()
       ->check(CLI::Validator(CheckSeed, ""));
-  command->add_option("--alphabet", options->alphabet, "The characters to draw; twice makes twice as likely")
+  command
+      ->add_option("--alphabet", options->alphabet,
+                   "The characters to draw from; repeat one to make it more likely")
       ->check(CLI::Validator(CheckAlphabet, ""))
       ->capture_default_str();
-  command->add_option("--count", options->count, "How many characters")
+  command->add_option("--count", options->count, "The number of characters")
       ->check(CLI::Range(std::ptrdiff_t{0}, kMost))
       ->capture_default_str();
   command->footer(kRandomFooter);

@@ -23,7 +23,7 @@ std::string ReportText(bool business) {
   return ravo::ToUtf8(info.AsText(business ? siBusiness : siVisual));
 }
 
-// On the standard output the lines end as those of every other command; a file keeps the report as it is.
+// Standard output has the line ends of every other command; a file keeps the report unchanged.
 std::string WithoutReturns(const std::string& text) {
   return ravo::ToUtf8(ravo::ReplaceAll(ravo::FromUtf8(text), u"\r\n", u"\n"));
 }
@@ -55,9 +55,10 @@ constexpr const char* kReportFooter =
 void AddReportCommand(CLI::App& program, Outcome& outcome) {
   CLI::App* command = program.add_subcommand("report", "Writes the support report of this machine");
   const auto options = std::make_shared<ReportOptions>();
-  command->add_flag("--business", options->business, "As the application layer sees it, not a client module");
+  command->add_flag("--business", options->business,
+                    "The report of the application layer instead of a client module");
   command->add_flag("--json", options->json, "Write JSON: nested {caption, value, items}");
-  command->add_option("-o", options->file, "Write to this file, whole or not at all")->type_name("FILE");
+  command->add_option("-o", options->file, "Write to this file, atomically")->type_name("FILE");
   command->footer(kReportFooter);
   command->callback([options, &outcome] { Run(*options, outcome); });
 }

@@ -22,8 +22,8 @@ Json Entry(std::string_view line) {
 
 Json ReportTree(std::string_view report) {
   Json roots = Json::array();
-  // The lists that the next line may go into, from the outermost; pointers stay valid because only the last
-  // entry of the innermost list grows.
+  // The lists that the next line may be added to, from the outermost. The pointers stay valid because only
+  // the last entry of the innermost list grows.
   std::vector<Json*> lists{&roots};
   while (!report.empty()) {
     const std::size_t end = std::min(report.find(kLineEnd), report.size());

@@ -6,7 +6,7 @@
 
 namespace tool {
 
-/// The report as an array of {caption, value?, items?}, nested as its lines are indented with tabs. A line
+/// Returns the report as an array of {caption, value?, items?}, nested by the tabs of its lines. A line
 /// "caption: value" has a value, which may be empty; a heading has none. `report` is UTF-8, its lines end in
 /// CR LF.
 [[nodiscard]] Json ReportTree(std::string_view report);

@@ -26,7 +26,7 @@ const std::map<std::string, common::TRoundType> kModes{
     {"up", common::rtUp}, {"down", common::rtDown}, {"math", common::rtMath}};
 
 std::string CheckAmount(const std::string& text) {
-  return ParseAmount(text) ? std::string() : "'" + text + "' is no amount of at most four decimals";
+  return ParseAmount(text) ? std::string() : "'" + text + "' is not an amount of at most four decimals";
 }
 
 ravo::Currency Rounded(ravo::Currency amount, const RoundOptions& options) {
@@ -51,10 +51,10 @@ void Run(const RoundOptions& options, Outcome& outcome) {
 }
 
 constexpr const char* kRoundFooter =
-    "Rules of VAT: H to hundredths, D to tenths, M to whole crowns, each with halves away from zero;\n"
+    "Rules for VAT: H to hundredths, D to tenths, M to whole crowns, each with halves away from zero;\n"
     "P to the nearest 0.50; N to tenths away from zero.\n"
     "\n"
-    "Exit status: 0, or 1 where an amount leaves the range, 2 wrong usage.\n"
+    "Exit status: 0, or 1 if an amount leaves the range, 2 wrong usage.\n"
     "\n"
     "Examples:\n"
     "  ravo round 1.234 --mode up               1.24\n"
@@ -74,7 +74,7 @@ void AddRoundCommand(CLI::App& program, Outcome& outcome) {
                                           "up (away from zero), down (toward zero) or math (halves away)");
   mode->check(CLI::IsMember({"up", "down", "math"}))->capture_default_str();
   CLI::Option* decimals =
-      command->add_option("--decimals", options->decimals, "Decimals to keep; -1 keeps tens");
+      command->add_option("--decimals", options->decimals, "Decimals to keep; -1 rounds to tens");
   decimals->check(CLI::Range(-4, 14))->capture_default_str();
   command->add_option("--dph", options->dph, "Round VAT by a rule instead: H, D, P, N or M")
       ->check(CLI::IsMember({"H", "D", "P", "N", "M"}))

@@ -42,8 +42,8 @@ Order OrderOf(const SortOptions& options) {
   return options.ignore_case ? utils::StrCompIW : utils::StrCompW;
 }
 
-// A merge sort of our own: the natural order has circles, which the standard library's algorithms may not
-// meet.
+// A merge sort of our own: the natural order is not transitive, which the standard library's algorithms
+// require.
 void Sort(std::span<TextLine> lines, Order order) {
   if (lines.size() < 2) return;
   const std::span<TextLine> left = lines.first(lines.size() / 2);
@@ -78,7 +78,7 @@ void Run(const SortOptions& options, Outcome& outcome) {
 }
 
 constexpr const char* kSortFooter =
-    "Lines come out in UTF-8. Without an option they are sorted by the codes of their characters.\n"
+    "Output is UTF-8. Without an option, lines are sorted by character codes.\n"
     "\n"
     "Exit status: 0, or 2 wrong usage or an unusable file.\n"
     "\n"
@@ -89,12 +89,12 @@ constexpr const char* kSortFooter =
 }  // namespace
 
 void AddSortCommand(CLI::App& program, Outcome& outcome) {
-  CLI::App* command = program.add_subcommand("sort", "Sorts lines, numbers in them by value if wanted");
+  CLI::App* command = program.add_subcommand("sort", "Sorts lines, optionally with numbers by value");
   const auto options = std::make_shared<SortOptions>();
   command->add_option("FILE", options->files, "Files in UTF-8 or the 8-bit code page; - for standard input")
       ->required();
   command->add_flag("--natural", options->natural, "Compare runs of digits by value");
-  command->add_flag("--ignore-case", options->ignore_case, "Compare without regard to case");
+  command->add_flag("--ignore-case", options->ignore_case, "Ignore case");
   command->footer(kSortFooter);
   command->callback([options, &outcome] { Run(*options, outcome); });
 }

@@ -36,7 +36,7 @@ std::string Escaped(std::string_view name) {
   return text;
 }
 
-// Null where a "\" stands before anything else.
+// Returns no value if a "\" precedes anything else.
 std::optional<std::string> Unescaped(std::string_view text) {
   std::string name;
   for (std::size_t i = 0; i < text.size(); ++i) {
@@ -59,12 +59,12 @@ bool IsLabel(std::string_view text) {
 // "LABEL (name) = 12345678": the label is the first word, the sum the last.
 std::optional<SumLine> ParseLabelled(std::string_view text) {
   constexpr std::string_view kBefore = " (";
-  constexpr std::string_view kBehind = ") = ";
+  constexpr std::string_view kBeforeSum = ") = ";
   const std::size_t label_end = text.find(kBefore);
-  const std::size_t name_end = text.rfind(kBehind);
+  const std::size_t name_end = text.rfind(kBeforeSum);
   if (label_end == std::string_view::npos || name_end == std::string_view::npos) return {};
   const std::size_t name_begin = label_end + kBefore.size();
-  const auto sum = FromHex(text.substr(name_end + kBehind.size()));
+  const auto sum = FromHex(text.substr(name_end + kBeforeSum.size()));
   if (!sum || name_end <= name_begin || label_end == 0 || !IsLabel(text.substr(0, label_end))) return {};
   return SumLine{std::string(text.substr(0, label_end)), *sum,
                  std::string(text.substr(name_begin, name_end - name_begin))};

@@ -29,7 +29,7 @@ std::optional<std::int32_t> Identifier(std::string_view text) {
 }
 
 std::string CheckIdentifier(const std::string& text) {
-  return Identifier(text) ? std::string() : "'" + text + "' is no table identifier";
+  return Identifier(text) ? std::string() : "'" + text + "' is not a table identifier";
 }
 
 std::string ModuleNames() {
@@ -50,7 +50,7 @@ std::optional<ravo::TableModule> ModuleNamed(std::string_view name) {
 }
 
 std::string CheckModule(const std::string& name) {
-  return ModuleNamed(name) ? std::string() : "'" + name + "' is no module; there are " + ModuleNames();
+  return ModuleNamed(name) ? std::string() : "'" + name + "' is not a module; modules are " + ModuleNames();
 }
 
 std::string RangeText(const ravo::TableRow& row) {
@@ -90,7 +90,7 @@ void LookUp(const TableOptions& options, Outcome& outcome) {
     const std::string description = ravo::ToUtf8(Description(module, id));
     answers.push_back({{"id", id}, {"description", description.empty() ? Json() : Json(description)}});
     if (description.empty()) {
-      outcome.err += "ravo: no " + asked + " knows table " + std::to_string(id) + "\n";
+      outcome.err += "ravo: no " + asked + " has table " + std::to_string(id) + "\n";
       outcome.answer = Answer::No;
     } else {
       outcome.out += std::to_string(id) + "\t" + description + "\n";
@@ -106,17 +106,17 @@ void Run(const TableOptions& options, Outcome& outcome) {
 }
 
 constexpr const char* kTableFooter =
-    "Exit status: 0 every table is known, 1 one is not, 2 wrong usage.\n"
+    "Exit status: 0 all tables are known, 1 a table is not, 2 wrong usage.\n"
     "\n"
     "Examples:\n"
-    "  ravo table 100121 72510        what these two tables are called\n"
+    "  ravo table 100121 72510        the descriptions of two tables\n"
     "  ravo table --module Mzda       the tables of the payroll module\n"
     "  ravo table --all --json        the whole catalogue, for a program\n";
 
 }  // namespace
 
 void AddTableCommand(CLI::App& program, Outcome& outcome) {
-  CLI::App* command = program.add_subcommand("table", "Names the suite's data tables");
+  CLI::App* command = program.add_subcommand("table", "Shows the descriptions of the suite's data tables");
   const auto options = std::make_shared<TableOptions>();
   CLI::Option* ids = command->add_option("ID", options->ids, "Table identifiers to look up");
   ids->check(CLI::Validator(CheckIdentifier, "NUMBER"));

@@ -8,8 +8,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// A name beside `target` that nobody else uses.
-fs::path Beside(const fs::path& target) {
+// Returns an unused name beside `target`.
+fs::path DraftName(const fs::path& target) {
   static constexpr char kLetters[] = "abcdefghijklmnopqrstuvwxyz234567";
   std::random_device random;
   std::string suffix = ".";
@@ -19,26 +19,26 @@ fs::path Beside(const fs::path& target) {
   return name;
 }
 
-// The file that is meant: through a symbolic link, so that the link stays one.
-fs::path Meant(const fs::path& path) {
+// Resolves a symbolic link, so that the link itself is kept.
+fs::path Resolved(const fs::path& path) {
   std::error_code error;
-  const fs::path meant = fs::canonical(path, error);
-  return error ? path : meant;
+  const fs::path resolved = fs::canonical(path, error);
+  return error ? path : resolved;
 }
 
 }  // namespace
 
 fs::path PathOf(const std::string& utf8) { return {std::u8string(utf8.begin(), utf8.end())}; }
 
-WholeFile::WholeFile(const std::string& name) : target_(Meant(PathOf(name))) {
+WholeFile::WholeFile(const std::string& name) : target_(Resolved(PathOf(name))) {
   std::error_code error;
   const fs::file_status status = fs::status(target_, error);
   is_folder_ = fs::is_directory(status);
-  if (!fs::is_other(status)) interruption_.emplace(draft_ = Beside(target_));
+  if (!fs::is_other(status)) interruption_.emplace(draft_ = DraftName(target_));
   if (!is_folder_) file_.open(draft_.empty() ? target_ : draft_, std::ios::binary | std::ios::trunc);
 }
 
-// The file beside the target is there unless it took the target's name.
+// The draft file still exists unless it was renamed to the target.
 WholeFile::~WholeFile() {
   file_.close();
   std::error_code ignored;

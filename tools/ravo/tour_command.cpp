@@ -9,7 +9,7 @@
 namespace tool {
 namespace {
 
-// A stop of the tour: why one would type it, the command as typed, and how many lines of its answer to show.
+// A stop of the tour: its purpose, the command as typed, and the number of output lines to show.
 struct Stop {
   const char* why;
   const char* command;
@@ -17,26 +17,27 @@ struct Stop {
 };
 
 constexpr Stop kStops[] = {
-    {"Tables have numbers all over the suite; these are their names.", "table 71710 100121 72510", 10},
-    {"All that a module has.", "table --module DCF", 6},
-    {"How a choice reads in Czech.", "captions --plain", 8},
-    {"Is this a bank account? The weights of its digits say so.", "check banka 19-2000145399/0800", 4},
-    {"One digit mistyped: the exit status says no, and so does the answer.",
+    {"The suite identifies tables by number; these are their descriptions.", "table 71710 100121 72510", 10},
+    {"All tables of a module.", "table --module DCF", 6},
+    {"The Czech captions of choices.", "captions --plain", 8},
+    {"A bank account is valid if the weighted sum of its digits is.", "check banka 19-2000145399/0800", 4},
+    {"One digit mistyped: the output says so, and the exit status is 1.",
      "check ean 4006381333931 4006381333932", 4},
-    {"Halves go away from zero, never through binary fractions.", "round 1.005 -1.005 2,675", 4},
+    {"Halves are rounded away from zero, without binary fractions.", "round 1.005 -1.005 2,675", 4},
     {"Value-added tax to the nearest half crown, for a program to read.", "round 12,25 --dph P --json", 8},
-    {"The accounting period a month on, from the last day of January.", "date 2011-01-31 --month 1", 8},
+    {"One month later, from the last day of January.", "date 2011-01-31 --month 1", 8},
     {"Weeks, Easter and holidays.", "date 2024-03-28 --calendar", 12},
-    {"Street and house number, of an address as people write it.", "address \"Nádražní 1234/5\"", 4},
-    {"A name that every file system takes.", "backup-name \"%FIRMA%_%DATUM%.zip\" \"A/B: s.r.o.\"", 2},
+    {"The street and house number of an address as people write it.", "address \"Nádražní 1234/5\"", 4},
+    {"A file name without characters that a file system rejects.",
+     "backup-name \"%FIRMA%_%DATUM%.zip\" \"A/B: s.r.o.\"", 2},
     {"A reproducible random text: the same everywhere for the same seed.", "random --seed 2024 --count 40",
      2},
-    {"What the character tables know of a character.", "char č", 8},
-    {"Names against a mask, whatever the case.", "match --ignore-case \"p??jem*\" Příjemka Výdejka", 2},
-    {"A text on its way into an address of the web.", "url encode \"Kč & €\"", 2},
+    {"The Unicode properties of a character.", "char č", 8},
+    {"Names that match a mask, ignoring case.", "match --ignore-case \"p??jem*\" Příjemka Výdejka", 2},
+    {"A text encoded for a web address.", "url encode \"Kč & €\"", 2},
     {"The suite's 8-bit encoding, by any of its names.", "encodings cp1250", 2},
     {"The interfaces of the host's object model.", "interfaces IRavoSession", 6},
-    {"What support wants to know about this machine.", "report", 12},
+    {"The support report of this machine.", "report", 12},
 };
 
 struct Colours {
@@ -47,7 +48,7 @@ struct Colours {
 
 Colours OfTerminal(bool on) { return on ? Colours{"\033[1m", "\033[32m", "\033[0m"} : Colours{}; }
 
-// The first lines of a text, and how many there are more.
+// Returns the first lines of a text, and the number of lines left out.
 std::string Top(const std::string& text, std::size_t most) {
   std::istringstream lines(text);
   std::string top;
@@ -64,7 +65,7 @@ void Visit(const Stop& stop, const Colours& colours, Outcome& tour) {
   tour.out += Top(answer.out, stop.lines);
   if (answer.answer == Answer::No) tour.out += "(exit status 1)\n";
   tour.out += "\n";
-  // Nobody wants to be shown how not to call a program: such a stop is a mistake in the table above.
+  // Wrong usage in a stop is a mistake in the table above.
   if (answer.answer != Answer::WrongUsage) return;
   tour.err += answer.err;
   tour.answer = Answer::WrongUsage;

@@ -23,13 +23,13 @@ void AddCoder(CLI::App& command, const char* name, const char* description,
 
 std::string Encoded(const std::string& text) { return ravo::DIUtils::StrEncodeUrlA(text); }
 
-// What the bytes are is unknown; what is no UTF-8 becomes U+FFFD.
+// The encoding of the bytes is unknown; bytes that are not UTF-8 become U+FFFD.
 std::string Decoded(const std::string& text) {
   return ravo::ToUtf8(ravo::FromUtf8(ravo::DIUtils::StrDecodeUrlA(text)));
 }
 
 constexpr const char* kUrlFooter =
-    "Texts are encoded as forms are, by the bytes of their UTF-8; each gives a line.\n"
+    "Texts are form-encoded, by the bytes of their UTF-8; each gives one line.\n"
     "\n"
     "Exit status: 0, or 2 wrong usage.\n"
     "\n"
@@ -40,7 +40,7 @@ constexpr const char* kUrlFooter =
 }  // namespace
 
 void AddUrlCommand(CLI::App& program, Outcome& outcome) {
-  CLI::App* command = program.add_subcommand("url", "Encodes and decodes texts in addresses of the web");
+  CLI::App* command = program.add_subcommand("url", "Encodes and decodes texts for web addresses");
   command->require_subcommand(1);
   command->footer(kUrlFooter);
   AddCoder(*command, "encode", "Encodes texts", Encoded, outcome);

@@ -11,7 +11,7 @@ struct CachedFields {
   std::u16string_view fields;
 };
 
-// The first row of a name counts.
+// If a name occurs twice, its first row is used.
 constexpr CachedFields kCachedFields[] = {
     {u"Mena", u"STAT_UID"},
     // Kept: no look-up finds the second row of "Mena": the first one hides it. Test:

@@ -5,7 +5,7 @@
 
 #include <string_view>
 
-/// Tests and mappings of one character. Those of UTF-16 are the character database's own.
+/// Tests and mappings of one character. Those for UTF-16 are the character database's own.
 namespace ravo::DIUtils {
 
 using DIUnicode::CharCanonicalCombiningClassW;
@@ -73,15 +73,15 @@ using DIUnicode::IsCharWhiteSpaceOrColonW;
 using DIUnicode::IsCharWhiteSpaceOrNoBreakSpaceW;
 using DIUnicode::IsCharWordSeparatorW;
 
-/// Carriage return or line feed.
+/// Returns whether `c` is a carriage return or line feed.
 [[nodiscard]] RAVO_API bool CharIsCrLf(char16_t c) noexcept;
 [[nodiscard]] RAVO_API bool CharIsCrLfA(char c) noexcept;
 
-/// A decimal digit: of every script in UTF-16, 0 to 9 in bytes.
+/// Returns whether `c` is a decimal digit: of any script in UTF-16, 0 to 9 in 8-bit text.
 [[nodiscard]] RAVO_API bool CharIsDigit(char16_t c) noexcept;
 [[nodiscard]] RAVO_API bool CharIsDigitA(char c) noexcept;
 
-/// Whether `c` is one of `chars`.
+/// Returns whether `c` is one of `chars`.
 [[nodiscard]] RAVO_API bool CharIn(char16_t c, std::u16string_view chars) noexcept;
 [[nodiscard]] RAVO_API bool CharIn(char c, std::string_view chars) noexcept;
 

@@ -6,15 +6,15 @@
 
 namespace ravo::strings {
 
-/// The units that a character of a search text may stand for; what is no further one repeats another.
+/// The units that a character of a search text matches; unused elements repeat another one.
 template <class Char>
 using Variants = std::array<Char, 3>;
 
-/// Where a character folds to a unit beyond these, it may have variants that `VariantsOf` does not know.
+/// A character that folds to a unit past this one may have variants that `VariantsOf` does not know.
 inline constexpr char16_t kLastWithKnownVariants = 0x17F;
 
-/// The one unit that folds to `folded` and is neither it nor its upper case: the long s, the signs of kelvin
-/// and of ångström, the capital sharp s.
+/// Returns the unit that folds to `folded` and is neither it nor its upper case: long s, kelvin sign,
+/// angstrom sign, capital sharp s. Returns `folded` if there is no such unit.
 [[nodiscard]] constexpr char16_t FurtherVariant(char16_t folded) noexcept {
   switch (folded) {
     case u's':
@@ -30,7 +30,7 @@ inline constexpr char16_t kLastWithKnownVariants = 0x17F;
   }
 }
 
-/// All units that fold like `c` does, perhaps with others among them.
+/// Returns all units that fold like `c`, possibly with others.
 [[nodiscard]] inline Variants<char16_t> VariantsOf(char16_t c) noexcept {
   const char16_t folded = Folded::Of(c);
   return {folded, DIUnicode::UpperUnit(folded), FurtherVariant(folded)};
@@ -41,7 +41,7 @@ inline constexpr char16_t kLastWithKnownVariants = 0x17F;
   return {folded, is_letter ? static_cast<char>(folded - ('a' - 'A')) : folded, folded};
 }
 
-/// Whether `VariantsOf` knows them all.
+/// Returns whether `VariantsOf` knows all variants of `c`.
 [[nodiscard]] inline bool AreVariantsKnown(char16_t c) noexcept {
   return Folded::Of(c) <= kLastWithKnownVariants;
 }

@@ -7,10 +7,11 @@
 
 namespace ravo::strings {
 
-/// What `encode` makes of `text`: it takes a view and a place with room for three bytes per character and one
-/// more, and gives the end of what it wrote; each character is encoded by itself. The result is allocated
-/// once, for the worst case, and only what is used of it is ever touched. `OverflowError` where that is too
-/// long to count.
+/// Returns `text` encoded block by block.
+///
+/// `encode` takes a view and a buffer with room for three bytes per character plus one, encodes each
+/// character by itself, and returns the end of its output. The result is allocated once, for the worst case,
+/// and only the part in use is touched. Throws `OverflowError` if the worst case is too long to count.
 template <class Char, class Encode>
 [[nodiscard]] std::string EncodedInPieces(View<Char> text, Encode encode) {
   constexpr std::size_t kPiece = 1024;

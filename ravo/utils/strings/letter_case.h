@@ -5,30 +5,31 @@
 #include <string>
 #include <string_view>
 
-/// Upper, lower and proper case, character by character: the letters of ASCII in 8-bit text, `CharToUpperW`
-/// and `CharToLowerW` in UTF-16. The length never changes.
+/// Upper, lower and proper case, character by character: ASCII letters in 8-bit text, `CharToUpperW` and
+/// `CharToLowerW` in UTF-16. The length never changes.
 namespace ravo::DIUtils {
 
-/// `text` in upper case.
+/// Returns `text` in upper case.
 [[nodiscard]] RAVO_API std::u16string StrToUpper(std::u16string_view text);
 [[nodiscard]] RAVO_API std::string StrToUpperA(std::string_view text);
 [[nodiscard]] RAVO_API std::u16string StrToUpperW(std::u16string_view text);
-/// Puts `text` itself into upper case.
+/// Converts `text` to upper case in place.
 RAVO_API void StrToUpperInPlace(std::u16string& text) noexcept;
 RAVO_API void StrToUpperInPlaceA(std::string& text) noexcept;
 RAVO_API void StrToUpperInPlaceW(std::u16string& text) noexcept;
 
-/// `text` in lower case.
+/// Returns `text` in lower case.
 [[nodiscard]] RAVO_API std::u16string StrToLower(std::u16string_view text);
 [[nodiscard]] RAVO_API std::string StrToLowerA(std::string_view text);
 [[nodiscard]] RAVO_API std::u16string StrToLowerW(std::u16string_view text);
-/// Puts `text` itself into lower case.
+/// Converts `text` to lower case in place.
 RAVO_API void StrToLowerInPlace(std::u16string& text) noexcept;
 RAVO_API void StrToLowerInPlaceA(std::string& text) noexcept;
 RAVO_API void StrToLowerInPlaceW(std::u16string& text) noexcept;
 
-/// The first character of each word in upper case, the rest in lower case. Words are what stands between word
-/// separators: `IsCharWordSeparatorW`, or every byte of ASCII that is no letter, digit or "_".
+/// Returns `text` with the first character of each word in upper case and the rest in lower case; the members
+/// `ByRef` convert in place. Words are separated by `IsCharWordSeparatorW` in UTF-16, and in 8-bit text by
+/// every ASCII character other than letters, digits and "_".
 [[nodiscard]] RAVO_API std::string ProperCaseA(std::string_view text);
 [[nodiscard]] RAVO_API std::u16string ProperCaseW(std::u16string_view text);
 RAVO_API void ProperCaseByRefA(std::string& text) noexcept;

@@ -36,8 +36,8 @@ void SkipZeros(View<Char>& text) {
   while (!text.empty() && text.front() == Char{'0'}) text.remove_prefix(1);
 }
 
-// Two numbers from their first difference on. The longer one is larger; among equally long ones the first
-// digits that differ decide, or the difference before the zeros where none do.
+// Compares two numbers from their first difference on. The longer one is greater; if both are equally long
+// the first different digit decides, or else the difference before the zeros.
 template <class Fold, class Char>
 std::ptrdiff_t CompareNumbers(View<Char> left, View<Char> right) {
   std::ptrdiff_t result = Difference<Fold>(left.front(), right.front());

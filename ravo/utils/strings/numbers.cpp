@@ -38,10 +38,10 @@ std::int32_t HexValue(View<Char> text, std::int32_t default_value) {
   return error == 0 ? static_cast<std::int32_t>(value) : default_value;
 }
 
-// There may be more zeros than the sixteen digits of the largest value.
+// Pads by itself, because `digits` may exceed the sixteen digits of the largest value.
 std::u16string PaddedHex(std::uint64_t value, int digits) { return PadLeftW(ToHex(value, 1), digits, u'0'); }
 
-// Digits are of ASCII.
+// The digits are ASCII.
 std::string Narrowed(const std::u16string& digits) {
   std::string text(digits.size(), '\0');
   std::transform(digits.begin(), digits.end(), text.begin(), [](char16_t c) { return static_cast<char>(c); });

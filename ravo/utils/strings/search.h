@@ -6,11 +6,11 @@
 #include <string_view>
 
 /// Search for a text in another. Positions are 1-based, 0 means not found; an empty search text is never
-/// found. `start` is where the search begins (0 counts as 1). The text that is searched for comes first. `I`
-/// ignores case; a buffer is a pointer (null for none) and a length in characters.
+/// found. The first parameter is the text to search for; the search begins at `start` (0 counts as 1). `I`
+/// ignores case. A buffer is a pointer, which may be null if the buffer is empty, and a length in characters.
 namespace ravo::DIUtils {
 
-/// The position of the first `search` in `text` from `start` on.
+/// Returns the position of the first `search` in `text` at or after `start`.
 [[nodiscard]] RAVO_API std::size_t StrPos(std::u16string_view search, std::u16string_view text,
                                           std::size_t start = 1) noexcept;
 [[nodiscard]] RAVO_API std::size_t StrPosA(std::string_view search, std::string_view text,
@@ -24,13 +24,13 @@ namespace ravo::DIUtils {
 [[nodiscard]] RAVO_API std::size_t StrPosIW(std::u16string_view search, std::u16string_view text,
                                             std::size_t start = 1) noexcept;
 
-/// The position of the last `search` in `text` that begins at `start` or before it.
+/// Returns the position of the last `search` in `text` that begins at or before `start`.
 [[nodiscard]] RAVO_API std::size_t StrPosBackA(std::string_view search, std::string_view text,
                                                std::size_t start = std::string_view::npos) noexcept;
 [[nodiscard]] RAVO_API std::size_t StrPosBackIA(std::string_view search, std::string_view text,
                                                 std::size_t start = std::string_view::npos) noexcept;
 
-/// The same in a buffer.
+/// Returns the position of the first `search` in a buffer at or after `start`.
 [[nodiscard]] RAVO_API std::size_t BufPosA(std::string_view search, const char* buffer, std::size_t length,
                                            std::size_t start = 1) noexcept;
 [[nodiscard]] RAVO_API std::size_t BufPosIA(std::string_view search, const char* buffer, std::size_t length,
@@ -40,7 +40,7 @@ namespace ravo::DIUtils {
 [[nodiscard]] RAVO_API std::size_t BufPosIW(std::u16string_view search, const char16_t* buffer,
                                             std::size_t length, std::size_t start = 1) noexcept;
 
-/// Whether `search` stands in `text`.
+/// Returns whether `text` contains `search`.
 [[nodiscard]] RAVO_API bool StrContains(std::u16string_view search, std::u16string_view text) noexcept;
 [[nodiscard]] RAVO_API bool StrContainsA(std::string_view search, std::string_view text) noexcept;
 [[nodiscard]] RAVO_API bool StrContainsW(std::u16string_view search, std::u16string_view text) noexcept;

@@ -1,3 +1,11 @@
+// String and buffer functions for two kinds of text: 8-bit and UTF-16.
+//
+// A family is one template in a .cpp file, over the type of characters and over `Exact` or `Folded`; its
+// exported members are thin wrappers in the header of the same stem. Positions are 1-based in the headers and
+// 0-based inside: `Place` and `Position` convert. docs/strings.md lists the families. kernels.h chooses the
+// vector kernels of this processor, and the plain loops define their results.
+//
+// Start here, then read search.h and find.h. Only narrow.h asks the system, for its 8-bit code page.
 #pragma once
 
 #include <ravo/unicode/characters/mapping_tables.h>
@@ -7,8 +15,8 @@
 #include <string>
 #include <string_view>
 
-/// What the families of string functions are made of: one template each, over the type of characters and the
-/// way in which they are compared.
+/// The building blocks of the string families: each family is one template, over the type of characters and
+/// the way to compare them.
 namespace ravo::strings {
 
 template <class Char>
@@ -18,17 +26,17 @@ using String = std::basic_string<Char>;
 
 inline constexpr std::size_t kNone = static_cast<std::size_t>(-1);
 
-/// A buffer as a view; a null pointer is an empty one.
+/// Returns a view of a buffer; empty for a null pointer.
 template <class Char>
 [[nodiscard]] constexpr View<Char> Buffer(const Char* buffer, std::size_t length) noexcept {
   return buffer ? View<Char>(buffer, length) : View<Char>();
 }
 
-/// The code of a character, 0 to 255 or 0 to 65535.
+/// Returns the code of a character, 0 to 255 or 0 to 65535.
 [[nodiscard]] constexpr unsigned Code(char c) noexcept { return static_cast<unsigned char>(c); }
 [[nodiscard]] constexpr unsigned Code(char16_t c) noexcept { return c; }
 
-/// Characters are compared as they are.
+/// Compares characters exactly.
 struct Exact {
   static constexpr bool kIsExact = true;
   template <class Char>
@@ -37,7 +45,7 @@ struct Exact {
   }
 };
 
-/// Case does not count: the letters of ASCII in bytes, every case folding of one unit for one in UTF-16.
+/// Compares characters ignoring case: ASCII letters in 8-bit text, every one-to-one case folding of UTF-16.
 struct Folded {
   static constexpr bool kIsExact = false;
   [[nodiscard]] static constexpr char Of(char c) noexcept {
@@ -51,10 +59,10 @@ template <class Fold, class Char>
   return left == right || (!Fold::kIsExact && Fold::Of(left) == Fold::Of(right));
 }
 
-/// Whether two texts of one length are the same.
+/// Returns whether two texts of equal length are equal.
 template <class Fold, class Char>
 [[nodiscard]] bool SameUnits(const Char* left, const Char* right, std::size_t length) noexcept {
-  // What is long is worth a call; for UTF-16, the standard library's comparison goes one by one.
+  // A long text is worth a call; for UTF-16 the standard library compares unit by unit.
   if (Fold::kIsExact && length > 16) return std::memcmp(left, right, length * sizeof(Char)) == 0;
   for (std::size_t i = 0; i < length; ++i) {
     if (!SameChar<Fold>(left[i], right[i])) return false;
@@ -62,12 +70,12 @@ template <class Fold, class Char>
   return true;
 }
 
-/// The 0-based place of a 1-based position; position 0 counts as the first.
+/// Returns the 0-based index of a 1-based position; position 0 counts as 1.
 [[nodiscard]] constexpr std::size_t Place(std::size_t position) noexcept {
   return position == 0 ? 0 : position - 1;
 }
 
-/// The 1-based position of a 0-based place, 0 for none.
+/// Returns the 1-based position of a 0-based index, 0 for `kNone`.
 [[nodiscard]] constexpr std::size_t Position(std::size_t place) noexcept { return place + 1; }
 
 static_assert(Position(kNone) == 0);

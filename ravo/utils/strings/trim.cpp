@@ -26,7 +26,7 @@ String<Char> Trimmed(View<Char> text, Test test) {
   return String<Char>(LeftTrimmed(RightTrimmed(text, test), test));
 }
 
-// Writes behind its own reading place, which it never overtakes.
+// Compacts in place: the write position never overtakes the read position.
 template <class Char, class Test>
 void TrimAndCompress(String<Char>& text, Char replacement, Test test) {
   std::size_t written = 0;

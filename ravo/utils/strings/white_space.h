@@ -5,13 +5,13 @@
 
 namespace ravo::strings {
 
-/// White space of a text that names no characters of its own: bytes 0 to 32, or the property of Unicode.
+/// Returns whether `c` is white space: bytes 0 to 32, or the Unicode property.
 [[nodiscard]] inline bool IsWhiteSpace(char c) noexcept { return Code(c) <= 0x20; }
 [[nodiscard]] inline bool IsWhiteSpace(char16_t c) noexcept {
   return c < 0x80 ? c == u' ' || (c >= u'\t' && c <= u'\r') : DIUnicode::CharIsWhiteSpaceW(c);
 }
 
-/// A test for white space that can be handed on.
+/// A test for white space as a function object.
 struct WhiteSpaceTest {
   template <class Char>
   [[nodiscard]] bool operator()(Char c) const noexcept {
@@ -19,7 +19,7 @@ struct WhiteSpaceTest {
   }
 };
 
-/// A test for one of several characters.
+/// Returns a test for any of several characters.
 template <class Char>
 [[nodiscard]] auto IsOneOf(View<Char> chars) noexcept {
   return [chars](Char c) { return chars.find(c) != View<Char>::npos; };

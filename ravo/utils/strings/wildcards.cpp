@@ -9,8 +9,8 @@ using strings::Folded;
 using strings::kNone;
 using strings::View;
 
-// A mask is pieces between wild characters. The first must stand at the start of the text and the last at its
-// end; each one between may take the first place that it finds, for no later place leaves more text to the
+// A mask is split at its wild characters. The first piece must match at the start of the text, the last one
+// at its end. Each piece between them may take its first match, because a later match leaves less text to the
 // rest.
 template <class Fold, class Char>
 class Matcher {
@@ -19,14 +19,14 @@ class Matcher {
 
   bool Matches(View<Char> mask) {
     const std::size_t first_wild = mask.find(wild_);
-    if (first_wild == View<Char>::npos) return text_.size() == mask.size() && StandsAt(0, mask);
+    if (first_wild == View<Char>::npos) return text_.size() == mask.size() && MatchesAt(0, mask);
     const std::size_t last_wild = mask.rfind(wild_);
     return TakeStart(mask.substr(0, first_wild)) && TakeEnd(mask.substr(last_wild + 1)) &&
            TakeBetween(mask.substr(first_wild, last_wild - first_wild));
   }
 
  private:
-  bool StandsAt(std::size_t at, View<Char> piece) const {
+  bool MatchesAt(std::size_t at, View<Char> piece) const {
     for (std::size_t i = 0; i < piece.size(); ++i) {
       if (piece[i] != one_ && !strings::SameChar<Fold>(piece[i], text_[at + i])) return false;
     }
@@ -34,13 +34,13 @@ class Matcher {
   }
 
   bool TakeStart(View<Char> piece) {
-    if (piece.size() > text_.size() || !StandsAt(0, piece)) return false;
+    if (piece.size() > text_.size() || !MatchesAt(0, piece)) return false;
     text_.remove_prefix(piece.size());
     return true;
   }
 
   bool TakeEnd(View<Char> piece) {
-    if (piece.size() > text_.size() || !StandsAt(text_.size() - piece.size(), piece)) return false;
+    if (piece.size() > text_.size() || !MatchesAt(text_.size() - piece.size(), piece)) return false;
     text_.remove_suffix(piece.size());
     return true;
   }
@@ -63,7 +63,7 @@ class Matcher {
     if (piece.find(one_) == View<Char>::npos) return strings::Find<Fold>(piece, text_, 0);
     if (piece.size() > text_.size()) return kNone;
     for (std::size_t at = 0; at <= text_.size() - piece.size(); ++at) {
-      if (StandsAt(at, piece)) return at;
+      if (MatchesAt(at, piece)) return at;
     }
     return kNone;
   }

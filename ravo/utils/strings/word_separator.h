@@ -5,7 +5,8 @@
 
 namespace ravo::strings {
 
-/// What stands between words: in bytes all of ASCII but letters, digits and "_"; other bytes are letters.
+/// Returns whether `c` separates words: in 8-bit text all of ASCII but letters, digits and "_"; other bytes
+/// are letters.
 [[nodiscard]] constexpr bool IsWordSeparator(char c) noexcept {
   const char lower = Folded::Of(c);
   return Code(c) < 0x80 && !(lower >= 'a' && lower <= 'z') && !(c >= '0' && c <= '9') && c != '_';

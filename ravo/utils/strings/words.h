@@ -7,15 +7,17 @@
 #include <string>
 #include <string_view>
 
-/// Words of a text. Positions are 1-based; position 0 counts as 1.
+/// Extraction of words. Positions are 1-based; position 0 counts as 1.
 namespace ravo::DIUtils {
 
-/// The word at `position` or behind it, delimited by characters of `separators`; empty where there is none.
+/// Returns the word at or after `position`, delimited by characters of `separators`; empty if there is no
+/// further word.
 [[nodiscard]] RAVO_API std::string ExtractWordA(std::string_view text, std::string_view separators,
                                                 std::size_t position = 1);
 
-/// The same, and `position` becomes the place directly behind the word (behind the text where there is none):
-/// calls with the same variable give word after word. Separators are a set of characters, or a test.
+/// Returns the word at or after `position` and advances `position` directly past it, or past the end of the
+/// text if there is no further word: repeated calls return word after word. Separators are a set of
+/// characters, or a test.
 [[nodiscard]] RAVO_API std::u16string ExtractNextWord(std::u16string_view text,
                                                       std::u16string_view separators, std::size_t& position);
 [[nodiscard]] RAVO_API std::u16string ExtractNextWord(std::u16string_view text, CharTestW is_separator,
@@ -29,8 +31,8 @@ namespace ravo::DIUtils {
 [[nodiscard]] RAVO_API std::u16string ExtractNextWordW(std::u16string_view text, CharTestW is_separator,
                                                        std::size_t& position);
 
-/// The first characters of the first `count` words, in order: "Jan Amos Komenský" gives "JAK". Separators are
-/// those of `ProperCaseA` and `ProperCaseW`.
+/// Returns the first characters of the first `count` words, in order: "Jan Amos Komenský" gives "JAK".
+/// Separators are those of `ProperCaseA` and `ProperCaseW`.
 [[nodiscard]] RAVO_API std::string ExtractWordStartsA(std::string_view text,
                                                       std::size_t count = std::string_view::npos);
 [[nodiscard]] RAVO_API std::u16string ExtractWordStartsW(std::u16string_view text,

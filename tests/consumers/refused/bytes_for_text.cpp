@@ -1,4 +1,4 @@
-// Text is UTF-16; bytes in some code page are no text until somebody says in which.
+// Text is UTF-16; bytes are not text without a code page.
 #include <ravo/RavoInterface.h>
 
 std::u16string Heading() {

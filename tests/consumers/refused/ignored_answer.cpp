@@ -1,4 +1,4 @@
-// An answer that is the whole point of a call is not thrown away.
+// The result of a pure function must not be ignored.
 #include <ravo/RavoInterfaceCommon.h>
 
 bool Known() {

@@ -1,4 +1,4 @@
-// A malformed identifier is found by the compiler.
+// The compiler rejects a malformed identifier.
 #include <ravo/RavoInterface.h>
 
 #ifdef REFUSED

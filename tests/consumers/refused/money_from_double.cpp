@@ -1,4 +1,4 @@
-// Money is never made of a floating-point number by accident.
+// A floating-point number does not convert to money implicitly.
 #include <ravo/RavoInterfaceCommon.h>
 
 ravo::Currency Price() {

@@ -1,4 +1,4 @@
-// Nor does money become one.
+// Money does not convert to a floating-point number implicitly.
 #include <ravo/RavoInterfaceCommon.h>
 
 double Price(ravo::Currency price) {

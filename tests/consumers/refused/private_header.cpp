@@ -1,4 +1,4 @@
-// What is private to a room is not installed.
+// Private headers of a room are not installed.
 #ifdef REFUSED
 #include <ravo/runtime/decimal.h>
 #else

@@ -41,7 +41,7 @@ ChildEnd RunChild(const std::string& program, const std::string& argument) {
   return WaitFor(child);
 }
 
-// The last thing that a process does is to write what its open files still hold.
+// The last action of a process is to flush its open files.
 void LingerAtTheEnd() {
   constexpr auto write_slowly = [](void*, const char*, std::size_t size) {
     std::this_thread::sleep_for(kStep * 10);

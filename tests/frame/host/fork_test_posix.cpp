@@ -1,5 +1,5 @@
-// Processes that were forked while other threads read texts, changed the list of modules and made documents
-// can do so too. usage: fork_test LANGUAGE-MODULE
+// Processes forked while other threads read texts, changed the list of modules and created documents can do
+// so too. usage: fork_test LANGUAGE-MODULE
 #include <ravo/ECXMLParser.h>
 #include <ravo/frame/module_record.h>
 #include <ravo/frame/resource_string.h>
@@ -16,13 +16,13 @@
 namespace {
 
 constexpr int kForks = 150;
-// A child that hangs is ended by the system and fails the test.
+// The system kills a child that hangs, which fails the test.
 constexpr unsigned kSeconds = 30;
 constexpr ravo::ResourceString kInvoice{65485, u"&Faktura"};
 
 std::atomic<bool> is_over{false};
 
-// Whether a module of its own comes and goes as it should.
+// Returns whether a module can be added to the list and removed.
 bool ListsAModule() {
   int place = 0;
   RavoModule module{nullptr, &place, nullptr, nullptr, &place};
@@ -40,7 +40,7 @@ void Change() {
   while (!is_over) ListsAModule();
 }
 
-// Whether an item keeps a text, which it does in the code page in force.
+// Returns whether an item keeps a text, which it stores in the current code page.
 bool MakesADocument() {
   ravo::ECXMLParser::TXMLItem item;
   item.SetText(u"Účet");

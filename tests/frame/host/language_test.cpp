@@ -1,5 +1,5 @@
-// Captions of the shared library before, while and after a language module is attached to it. The texts here
-// are only what the identifiers fall back to.
+// Captions of the shared library before, during and after the attachment of a language module. The texts here
+// are only fallbacks of the identifiers.
 #include <ravo/frame/module_record.h>
 #include <ravo/frame/resource_string.h>
 #include <ravo/runtime/text.h>
@@ -44,7 +44,7 @@ int main(int argc, char** argv) {
     ravo::DetachResourceModule();
     ExpectCzech("the captions are Czech again");
   }
-  // Left attached: the library lets it go when the program ends.
+  // Left attached: the library releases it when the program ends.
   Expect(ravo::AttachResourceModule(file), "the language module is attached at last");
   ExpectEnglish();
   std::puts("language_test: captions follow the attached module");

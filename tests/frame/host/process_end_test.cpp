@@ -1,5 +1,6 @@
-// A process ends while its threads read texts: it always comes to its end. The program runs itself as a
-// child, many times, since only some ends meet a thread at the wrong moment.
+// A process ends while its threads read texts, and always terminates. The program runs itself as a child many
+// times, because only some ends coincide with a thread at the wrong moment.
+//
 // usage: process_end_test PROGRAM LANGUAGE-MODULE
 #include "child_process.h"
 #include <ravo/frame/module_record.h>
@@ -17,10 +18,10 @@ namespace {
 
 constexpr int kRuns = 100;
 constexpr int kThreads = 2;
-// Needs no memory in either language: a thread that is ended inside the heap leaves it locked under Wine, and
-// the compiler's run-time library returns memory to it when its modules are unloaded.
+// Allocates nothing in either language: a thread that ends inside the heap leaves it locked under Wine, and
+// the compiler's run-time library frees memory when its modules are unloaded.
 constexpr ravo::ResourceString kZeroRate{65481, u"&Nulová"};
-// What a child is given where it reads the library's own texts.
+// The argument of a child that reads the library's own texts.
 constexpr std::string_view kNoLanguage = "-";
 
 std::atomic<int> reading{0};

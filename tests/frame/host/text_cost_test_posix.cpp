@@ -1,5 +1,5 @@
-// A text takes no lock and asks the dynamic loader nothing while no language module is attached: the
-// functions of the system that would do so are counted.
+// A text look-up takes no lock and does not call the dynamic loader while no language module is attached: the
+// system functions involved are counted.
 #include <ravo/frame/module_record.h>
 #include <ravo/frame/resource_string.h>
 
@@ -22,7 +22,7 @@ Function* Real(const char* name) {
 
 }  // namespace
 
-// These stand before the system's own for the library too.
+// These definitions take precedence over the system's, also for the library.
 extern "C" [[gnu::visibility("default")]] int dladdr(const void* address, Dl_info* facts) noexcept {
   ++calls;
   return Real<int(const void*, Dl_info*)>("dladdr")(address, facts);

@@ -3,7 +3,7 @@
 
 #include <windows.h>
 
-// A server of classes in a library: what the component runtime loads into the process of a client.
+// A server of classes in a library, which the component runtime loads into the process of a client.
 namespace ravo {
 namespace {
 
@@ -16,7 +16,7 @@ ComponentFactory FactoryOf(const Guid& class_id) {
   if (class_id == RavoProfileInfo_TLB::CLASS_RavoProfileInformation) {
     return [] { return MakeComponent<test::ProfileInfoObject>(counts); };
   }
-  // A class whose objects lack the interface that its factory is to return.
+  // A class whose objects lack the interface that its factory must return.
   if (class_id == RavoProfileInfo_TLB::CLASS_RavoProfileModule) {
     return [] { return MakeComponent<test::RefusingObject>(counts); };
   }
@@ -40,6 +40,6 @@ __declspec(dllexport) HRESULT WINAPI
 
 __declspec(dllexport) HRESULT WINAPI DllCanUnloadNow() { return ravo::counts.objects == 0 ? S_OK : S_FALSE; }
 
-/// The references to all objects, for the tests.
+/// The number of references to all objects, for the tests.
 __declspec(dllexport) int RavoTestReferences() { return ravo::counts.references; }
 }

@@ -8,9 +8,10 @@
 
 #include <windows.h>
 
-// A server of classes in a program of its own, which the component runtime starts. It ends with its last
-// object, and after two minutes whatever happens.
-//   --fail     ends at once, without having offered its classes
+// A server of classes in a separate program, which the component runtime starts. It ends with its last
+// object, and in any case after two minutes.
+//
+//   --fail     ends at once, before it registers its classes
 //   --refuse   its objects support no interface
 namespace ravo {
 namespace {

@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
-// The library's own declarations beside those of the system's headers.
+// Compares the library's own declarations with those of the system's headers.
 namespace ravo {
 namespace {
 
@@ -49,7 +49,7 @@ class Echo final : public DispatchObject<RavoManager_TLB::IRavoBox> {
   }
 };
 
-// A client that knows the system's headers only.
+// A client that uses only the system's headers.
 TEST(Layout, AClientOfTheSystemCallsAnObjectOfTheLibrary) {
   const auto object = MakeComponent<Echo>();
   auto* unknown = reinterpret_cast<::IUnknown*>(object.Get());

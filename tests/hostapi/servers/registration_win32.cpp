@@ -8,7 +8,7 @@ namespace ravo::test {
 namespace {
 
 constexpr const wchar_t* kClasses = L"Software\\Classes\\";
-// Stands below what these tests registered.
+// A key under every entry that these tests registered.
 constexpr const wchar_t* kMark = L"\\RavoTest";
 
 std::wstring Text(const Guid& guid) {
@@ -43,7 +43,7 @@ bool ClassesOfTheUserAreSeen() {
   return are_seen;
 }
 
-// The classes of the user. Wine 8 does not see them among the classes of the system, as Windows does: there
+// The classes of the user. Unlike Windows, Wine 8 does not merge them into the classes of the system: there
 // they are registered for the machine as well.
 const std::vector<HKEY>& Roots() {
   static const std::vector<HKEY> roots = ClassesOfTheUserAreSeen()
@@ -66,7 +66,7 @@ Registration::~Registration() {
 }
 
 void Registration::AddKey(const std::wstring& key) {
-  // What a test left behind that did not come to its end may go.
+  // Entries of a test that was aborted may be removed.
   for (const HKEY root : Roots()) {
     if (Exists(root, kClasses + key + kMark)) RegDeleteTreeW(root, (kClasses + key).c_str());
   }
@@ -96,7 +96,7 @@ void Registration::AddInterface(const ServedType& type, const std::wstring& file
   AddKey(library);
   AddKey(interface_key);
   SetText(library + L"\\1.0\\0\\" + (sizeof(void*) == 8 ? L"win64" : L"win32"), nullptr, file);
-  // The system's own carrier of calls that a type library describes.
+  // The system's own marshaller for interfaces that a type library describes.
   SetText(interface_key + L"\\ProxyStubClsid32", nullptr, L"{00020424-0000-0000-C000-000000000046}");
   SetText(interface_key + L"\\TypeLib", nullptr, Text(type.library));
   SetText(interface_key + L"\\TypeLib", L"Version", L"1.0");

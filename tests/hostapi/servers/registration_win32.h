@@ -7,15 +7,15 @@
 
 namespace ravo::test {
 
-/// Entries of the component runtime's registry below the classes of the current user, taken out again when
-/// this goes. What somebody else registered is left alone: that is an error.
+/// Entries of the component runtime's registry under the classes of the current user, removed on destruction.
+/// Existing entries of another program are an error and stay unchanged.
 class Registration {
  public:
-  /// A class that a library serves, and one that a program serves.
+  /// Registers a class that a library, or a program, serves.
   void AddLibraryServer(const Guid& class_id, const std::wstring& file);
   void AddProgramServer(const Guid& class_id, const std::wstring& command);
-  /// How calls of an interface travel between processes: as its type library says, which is written to
-  /// `file`.
+  /// Registers how calls of an interface are marshalled between processes: by its type library, which is
+  /// written to `file`.
   void AddInterface(const ServedType& type, const std::wstring& file);
 
   Registration() = default;
@@ -29,7 +29,7 @@ class Registration {
   std::vector<std::wstring> files_;
 };
 
-/// A file beside this program.
+/// Returns the path of a file beside this program.
 [[nodiscard]] std::wstring BesideThisProgram(const std::wstring& name);
 
 }  // namespace ravo::test

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-/// The calls of a client, wherever the object is: in this process, in a library, in another process.
+/// The calls of a client, with the object in this process, in a library or in another process.
 namespace ravo::test {
 
 /// Calls each operation through the operation table.
@@ -35,7 +35,7 @@ inline LateAnswer CallById(IDispatch& object, std::int32_t id, std::int32_t valu
   return answer;
 }
 
-/// Calls each operation by its dispatch identifier, as a late-binding client: through the twin.
+/// Calls each operation by its dispatch identifier, as a late-bound client: through the dispatch interface.
 template <class Served, class Twin, class Interface>
 void ExpectDispatch(const ComponentPtr<Interface>& object) {
   const ComponentPtr<Twin> twin = object.template Query<Twin>();
@@ -49,7 +49,7 @@ void ExpectDispatch(const ComponentPtr<Interface>& object) {
   EXPECT_EQ(CallById(*twin, 0, 5).code, result_code::kMemberNotFound);
 }
 
-/// Both ways to reach a profile information and an archive.
+/// Makes both kinds of calls to a profile information and an archive.
 inline void ExpectProfileInfo(const ComponentPtr<RavoProfileInfo_TLB::IRavoProfileInfo>& information) {
   ASSERT_TRUE(information);
   ExpectOperationTable<ServedProfileInfo>(information);

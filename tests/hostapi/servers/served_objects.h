@@ -5,7 +5,7 @@
 
 namespace ravo::test {
 
-/// Answers late-bound calls of the operations.
+/// Implements late-bound calls of the operations.
 template <class Served>
 class ServedBase : public CountedBase<DispatchObject<Served>> {
  public:

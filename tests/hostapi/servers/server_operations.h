@@ -7,9 +7,9 @@
 #include <cstddef>
 #include <cstdint>
 
-/// The operations that the servers of these tests give two interfaces, as many as each declares. Their names
-/// are their dispatch identifiers; operation n answers the hundredfold of its argument and n, so that each
-/// answer tells which one was called.
+/// The operations that the servers of these tests give two interfaces, as many as each declares. Their
+/// numbers are their dispatch identifiers; operation n returns 100 times its argument plus n, so each result
+/// identifies the operation.
 namespace ravo::test {
 
 // clang-format off
@@ -52,7 +52,7 @@ inline constexpr auto kServedOperations<ServedZip> = [] {
 }();
 #undef TEST_ADDRESS
 
-/// What operation `number` answers.
+/// Returns the result of operation `number`.
 [[nodiscard]] constexpr std::int32_t ServedAnswer(std::size_t number, std::int32_t value) noexcept {
   return 100 * value + static_cast<std::int32_t>(number);
 }

@@ -51,7 +51,7 @@ class LibraryServer : public Servers {
     }
   }
 
-  // What the library still holds; nothing before it is loaded.
+  // Returns the references that the library still holds; 0 before it is loaded.
   static int References() {
     const HMODULE library = GetModuleHandleW(kLibrary);
     if (!library) return 0;
@@ -84,7 +84,7 @@ TEST_F(LibraryServer, ThatRefusesTheInterfaceIsReleased) {
 TEST_F(Servers, WhoseLibraryIsMissingDoNotStart) {
   registration_.AddLibraryServer(CLASS_RavoZipper, test::BesideThisProgram(L"missing_server.dll"));
   const Raised raised = RaisedBy(CoRavoZipper::Create);
-  // Windows says that the module is missing, Wine that the class or its key is.
+  // Windows reports that the module is missing, Wine that the class or its key is.
   EXPECT_THAT(raised.code, testing::AnyOf(kModuleNotFound, result_code::kClassNotRegistered, kKeyMissing));
   EXPECT_EQ(raised.text, platform::Components().ComponentErrorText(raised.code));
 }
@@ -112,7 +112,7 @@ class ProgramServer : public Servers {
     return alive != nullptr;
   }
 
-  // The server ends when the last reference to its last object is gone.
+  // The server ends with the last reference to its last object.
   static bool IsGone() {
     for (int i = 0; i < 600 && Runs(); ++i) Sleep(50);
     return !Runs();
@@ -152,7 +152,7 @@ TEST_F(ProgramServer, ThatRefusesTheInterfaceIsReleased) {
 TEST_F(ProgramServer, ThatEndsAtOnceDoesNotStart) {
   Register(L" --fail");
   const Raised raised = RaisedBy(CoRavoZipper::Create);
-  // Wine calls this a missing interface.
+  // Wine reports a missing interface.
   EXPECT_THAT(raised.code, testing::AnyOf(result_code::kServerFailed, result_code::kNoInterface));
   EXPECT_EQ(raised.text, platform::Components().ComponentErrorText(raised.code));
 }
@@ -160,7 +160,7 @@ TEST_F(ProgramServer, ThatEndsAtOnceDoesNotStart) {
 TEST_F(Servers, WhoseProgramIsMissingDoNotStart) {
   registration_.AddProgramServer(CLASS_RavoZipper, test::BesideThisProgram(L"missing_server.exe"));
   const Raised raised = RaisedBy(CoRavoZipper::Create);
-  // Windows says that the file is missing or that the server does not start, Wine as above.
+  // Windows reports that the file is missing or that the server failed to start, Wine as above.
   EXPECT_THAT(raised.code, testing::AnyOf(kFileNotFound, result_code::kServerFailed,
                                           result_code::kClassNotRegistered, kKeyMissing));
   EXPECT_EQ(raised.text, platform::Components().ComponentErrorText(raised.code));
@@ -174,8 +174,8 @@ TEST_F(Servers, OnAComputerThatCannotBeReachedAreNotFound) {
 
 bool IsWine() { return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr; }
 
-// Wine 8 has no way to other computers: it leaves the computer's name aside and looks on this one, so that a
-// computer that cannot be reached is never noticed there.
+// Wine 8 does not connect to other computers: it ignores the computer's name and searches on this one, so an
+// unreachable computer is never reported.
 TEST_F(ProgramServer, OnAComputerThatCannotBeReached) {
   Register();
   const auto create = [] { return CoRavoZipper::CreateRemote(u"no-such-computer.invalid"); };

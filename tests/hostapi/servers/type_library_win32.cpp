@@ -7,7 +7,7 @@ namespace {
 
 constexpr SYSKIND kSystem = sizeof(void*) == 8 ? SYS_WIN64 : SYS_WIN32;
 
-// Ends a chain of calls at the first that fails.
+// Stops a chain of calls at the first failure.
 class Chain {
  public:
   template <class Call>

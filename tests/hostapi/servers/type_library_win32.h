@@ -6,7 +6,7 @@
 
 namespace ravo::test {
 
-/// A dual interface as the servers of these tests implement it: operations 1 to `operations`.
+/// A dual interface that the servers of these tests implement: operations 1 to `operations`.
 struct ServedType {
   Guid library;
   const wchar_t* library_name;
@@ -15,8 +15,8 @@ struct ServedType {
   int operations;
 };
 
-/// Writes a type library with that interface, which the component runtime needs to carry its calls from one
-/// process to another. Answers the code of the first call that failed.
+/// Writes a type library with that interface, which the component runtime needs to marshal its calls between
+/// processes. Returns the code of the first call that failed.
 [[nodiscard]] long WriteTypeLibrary(const ServedType& type, const std::wstring& file);
 
 }  // namespace ravo::test

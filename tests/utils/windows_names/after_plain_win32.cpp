@@ -1,6 +1,6 @@
 #undef UNICODE
 #undef _UNICODE
-// Behind the system's header, which is the point.
+// After the system's header, which is what this tests.
 // clang-format off
 #include <windows.h>
 #include <ravo/DIUtils.h>

@@ -5,7 +5,7 @@
 namespace pages {
 namespace {
 
-// The words of the command are those that a sub-command takes up; the first other word ends them.
+// The command is the longest sequence of words that are sub-commands; the first other word ends it.
 constexpr const char* kHead =
     R"(# Completion of ravo for bash; made from the definitions of the commands, do not edit.
 _ravo() {
@@ -22,7 +22,7 @@ constexpr const char* kMiddle = R"(      *) break ;;
   case "$command $previous" in
 )";
 
-// Nothing of ours fits a file name: then the shell completes names of files.
+// If no word matches, the shell completes file names.
 constexpr const char* kTail = R"(  esac
   mapfile -t COMPREPLY < <(compgen -W "$words" -- "$word")
 }
@@ -37,7 +37,7 @@ bool IsWord(const std::string& text) {
   });
 }
 
-// The values of an option that takes one of a set: the parser names its type "TEXT:{up,down}".
+// Returns the values of an option with a fixed set: the parser calls its type "TEXT:{up,down}".
 std::string Values(const CLI::Option& option) {
   const std::string type = option.get_type_name();
   const auto begin = type.find('{');
@@ -60,7 +60,7 @@ std::string OptionWords(const CLI::App& app) {
   return CLI::detail::join(words, " ");
 }
 
-// What follows an option that takes a value: one of its set, or the name of a file.
+// The words after an option that takes a value: one of its set, or a file name.
 std::string ValueRows(const Command& command) {
   std::string rows;
   for (const CLI::Option* option : command.app->get_options()) {
@@ -78,7 +78,8 @@ std::string CommandNames(const CLI::App& app) {
   return names;
 }
 
-// What a command takes itself: its own commands, and options once a hyphen is typed or nothing else can come.
+// The words that a command itself takes: its sub-commands; also its options after a hyphen, or if it has no
+// sub-commands.
 std::string CommandRow(const Command& command) {
   const std::string names = CommandNames(*command.app);
   const std::string words = "words='" + names + OptionWords(*command.app) + "' ;;\n";
@@ -93,7 +94,7 @@ std::string BashCompletion(const CLI::App& program) {
   for (const Command& command : Commands(program)) {
     known += "      '" + command.words + "') command='" + command.words + "' ;;\n";
     rows += ValueRows(command);
-    // The longer one first: "xml show" is no "xml".
+    // Longer commands come first: "xml show" must not match as "xml".
     options.insert(0, CommandRow(command));
   }
   return kHead + known + kMiddle + rows + options + "    ' '*) words='" + CommandNames(program) +

@@ -5,8 +5,7 @@
 namespace pages {
 namespace {
 
-// Text as groff shows it unchanged: a hyphen stays the one that is typed, a line that begins with a dot is no
-// macro.
+// Escapes text for groff: a hyphen stays a typed hyphen, and a line that begins with a dot is not a macro.
 std::string Escaped(std::string_view text) {
   std::string escaped;
   for (const char character : text) {
@@ -41,7 +40,7 @@ std::vector<std::string> Paragraphs(const std::string& text) {
   return paragraphs;
 }
 
-// Help lays its lists out with spaces, below a heading: they stay as they are.
+// Help aligns its lists with spaces below a heading; they stay as they are.
 std::string Footer(const CLI::App& app) {
   std::string text;
   for (const std::string& paragraph : Paragraphs(app.get_footer())) {
@@ -75,7 +74,7 @@ std::string Section(const Command& command) {
          Escaped(Usage(*command.app, name)) + "\\fR\n" + Options(*command.app) + Footer(*command.app);
 }
 
-// A command's own commands stand in its theme.
+// Nested commands are listed in the theme of their parent.
 std::string CommandsByTheme(const CLI::App& program) {
   std::string text, theme;
   for (const Command& command : Commands(program)) {
