@@ -23,7 +23,7 @@ std::size_t ChildList::Capacity() const noexcept {
 
 void ChildList::Grow(std::size_t least) {
   const std::size_t capacity = std::max<std::size_t>({least, std::size_t{Count()} * 2, 4});
-  auto* grown = static_cast<Slots*>(::operator new(sizeof(Slots) + capacity * sizeof(ItemStore*)));
+  auto* grown = static_cast<Slots*>(::operator new(Slots::BytesFor(capacity)));
   Init(grown, CheckedCast<std::uint32_t>(capacity), true);
   std::ranges::copy(All(), grown->First());
   grown->count = Count();
@@ -41,7 +41,7 @@ void ChildList::Append(ItemStore* child) {
 void ChildList::AppendAll(std::span<ItemStore* const> children, Arena& arena) {
   if (slots_ == nullptr) {
     const auto count = CheckedCast<std::uint32_t>(children.size());
-    slots_ = static_cast<Slots*>(arena.Allocate(sizeof(Slots) + children.size() * sizeof(ItemStore*)));
+    slots_ = static_cast<Slots*>(arena.Allocate(Slots::BytesFor(children.size())));
     Init(slots_, count, false);
   } else if (Capacity() - Count() < children.size()) {
     Grow(Count() + children.size());

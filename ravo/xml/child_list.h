@@ -47,6 +47,9 @@ class ChildList {
     std::uint32_t capacity;
     std::uint32_t head;
     std::uint32_t owned;
+    static constexpr std::size_t BytesFor(std::size_t capacity) noexcept {
+      return sizeof(Slots) + capacity * sizeof(void*);
+    }
     [[nodiscard]] ItemStore** First() noexcept { return reinterpret_cast<ItemStore**>(this + 1) + head; }
   };
 

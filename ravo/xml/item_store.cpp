@@ -8,6 +8,7 @@
 #include <vector>
 
 namespace ravo::xml {
+
 void FreeItem::operator()(ItemStore* item) const noexcept { ItemObjects::Free(*item); }
 
 ItemStore::ItemStore(ItemStore& owner, ItemPool& pool) noexcept
@@ -123,7 +124,7 @@ void ItemStore::LeavePool() noexcept {
 }
 
 void ItemStore::UsePool(ItemPool& pool) noexcept {
-  if (in_pool_) return;
+  if (in_pool_ || !children_.IsEmpty()) return;
   LeavePool();
   pool.AddUser();
   SetPool(&pool);

@@ -21,7 +21,7 @@ namespace ravo::xml {
 class CodePage;
 class ItemPool;
 
-/// What an item of a document holds: its owner and children, its name, attributes and text.
+/// The content of an item and its place in the tree: owner and children, name, attributes and text.
 ///
 /// Name and attributes are kept as the bytes between "<" and ">" of a saved opening tag, text as the escaped
 /// bytes of the saved document, both in the code page of the item's pool. Loading copies them from the source
@@ -66,7 +66,7 @@ class ItemStore {
   }
   /// The pool whose memory holds the item itself, or null.
   [[nodiscard]] ItemPool* OwnMemory() const noexcept { return in_pool_ ? PoolOrNull() : nullptr; }
-  /// Makes a cleared item use `pool`. An item in memory of a pool keeps that one.
+  /// Makes an item without bytes of its source use `pool`, unless it has children or is in memory of a pool.
   void UsePool(ItemPool& pool) noexcept;
 
   [[nodiscard]] std::u16string Name() const;

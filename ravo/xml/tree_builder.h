@@ -17,7 +17,7 @@ namespace ravo::xml {
 /// and its joined text are stored when it is closed: a list then takes just the memory that it needs.
 class TreeBuilder : public TokenListener {
  public:
-  /// `top` must be cleared. Tokens that close it go on in its owner.
+  /// `top` must be cleared. Tokens that close it continue in its owner.
   TreeBuilder(ItemStore& top, bool reports_changes);
   TreeBuilder(const TreeBuilder&) = delete;
   TreeBuilder& operator=(const TreeBuilder&) = delete;

@@ -208,6 +208,19 @@ TEST(ItemStore, LoadsBytesOfAnotherCodePageThanItsOwn) {
   EXPECT_EQ(top.Children().At(1)->Text(), u"\u010D");
 }
 
+// A handler that adds a child before the first token.
+TEST(TreeBuilder, FreesChildrenThatWereThereBefore) {
+  ItemStore top;
+  top.NewChild().SetName(u"before");
+  SplitStream stream("<a><b/></a>");
+  ECXMLTokenizer::TXMLTokenizer tokenizer(stream);
+  Recorder recorder(top, false);
+  ReadTokens(tokenizer, recorder);
+  recorder.Finish();
+  EXPECT_FALSE(top.Pool().AllowsBulkFree());
+  EXPECT_EQ(Written(top), u"<a>\r\n  <before/>\r\n  <b/>\r\n</a>\r\n");
+}
+
 TEST(TreeBuilder, ReportsEachStepOfATreeThatIsUpToDate) {
   ItemStore top;
   top.SetOnOneLine(true);
