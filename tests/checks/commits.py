@@ -22,7 +22,7 @@ MERGE = re.compile(r"Merge .+: \S.*(?<![.\s])|Merge branch 'main' into \S+")
 OTHER_FORM = re.compile(r"(?:ed|ing|[^su]s)$")
 VERBS = {"bring", "embed", "feed", "need", "ring", "seed", "speed", "string"}
 # The rules hold after this commit.
-BEFORE = "b0a0318da01ed16220cb4ecf07edef74587d2d6a"
+BEFORE = "5dbb2a71976659d1092659e12858c35af2684670"
 RULES = [("--no-merges", CHANGE, "room: verb what"), ("--merges", MERGE, "Merge branch 'name': what it brings")]
 
 

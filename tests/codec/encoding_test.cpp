@@ -1,6 +1,8 @@
 // Steps over spans: however a text is cut, the parts give what the whole gives, and each step says why it
 // ended.
 #include "one_by_one.h"
+#include <ravo/codec/byte_order_mark.h>
+#include <ravo/codec/place.h>
 #include <ravo/codec/texts.h>
 
 #include <random>
@@ -14,13 +16,13 @@ namespace {
 using namespace std::string_literals;
 using test::AsBytes;
 
-const Encoding& Named(std::string_view name) {
+const Encoding& RowOf(std::string_view name) {
   const Encoding* const row = FindEncoding(name);
   EXPECT_NE(row, nullptr) << name;
   return *row;
 }
 
-std::string_view AlphabetOf(const Encoding& row) {
+std::string_view KindsOfBytes(const Encoding& row) {
   if (row.engine.starts_with("Utf7")) return "aB+-/9 \xE1";
   if (row.engine == "Utf8") return "ab\xC3\xA1\xC5\x99\xE2\x82\xAC\xF0\x80\xED\xA0\xFE";
   if (row.engine == "Gb18030") return "ab\x81\x30\xB0\xA1\xFF";
@@ -28,8 +30,8 @@ std::string_view AlphabetOf(const Encoding& row) {
   return std::string_view("a\0\0\0\0\xD8\xDC\x20", 8);
 }
 
-std::string RandomBytes(std::mt19937& random, const Encoding& row) {
-  const std::string_view alphabet = AlphabetOf(row);
+std::string SomeBytes(std::mt19937& random, const Encoding& row) {
+  const std::string_view alphabet = KindsOfBytes(row);
   std::string bytes(random() % 70, 'x');
   for (char& byte : bytes) {
     if (random() % 3 != 0) byte = alphabet[random() % alphabet.size()];
@@ -79,7 +81,7 @@ TEST(Decode, InStepsGivesWhatSingleCharactersGive) {
   for (const Encoding& row : Encodings()) {
     if (row.decode_one == nullptr) continue;
     for (int i = 0; i < 400; ++i) {
-      const std::string bytes = RandomBytes(random, row);
+      const std::string bytes = SomeBytes(random, row);
       const std::size_t block = 1 + random() % 20;
       const std::size_t room = 1 + random() % 40;
       ASSERT_EQ(ReadInSteps(row, bytes, block, room), ReadOneByOneToTheEnd(row, bytes))
@@ -118,14 +120,14 @@ TEST(Decode, SaysWhyItEnded) {
   for (const StopRow& row : kStops) {
     State state;
     std::vector<char16_t> units(row.room);
-    const Step step = Decode(Named(row.encoding), state, AsBytes(row.bytes), units, row.input);
+    const Step step = Decode(RowOf(row.encoding), state, AsBytes(row.bytes), units, row.input);
     EXPECT_EQ(step.stop, row.stop) << row.encoding << ' ' << row.bytes;
     EXPECT_EQ(step.taken, row.taken) << row.encoding << ' ' << row.bytes;
     EXPECT_EQ(std::u16string_view(units.data(), step.made), row.text) << row.encoding << ' ' << row.bytes;
   }
 }
 
-std::u16string RandomText(std::mt19937& random) {
+std::u16string SomeText(std::mt19937& random) {
   std::u16string text;
   for (std::size_t left = random() % 60; left > 0; --left) {
     const char16_t units[] = {u'a', u'+', u'č', u'-', u'!', u'€', static_cast<char16_t>(random())};
@@ -139,7 +141,7 @@ TEST(Encode, InStepsGivesWhatSingleCharactersGive) {
   for (const Encoding& row : Encodings()) {
     if (row.encode_one == nullptr) continue;
     for (int i = 0; i < 400; ++i) {
-      std::u16string text = RandomText(random);
+      std::u16string text = SomeText(random);
       std::erase_if(text, [&](char16_t ch) { return !test::WriteOneByOne(row, {&ch, 1}); });
       const std::size_t block = 1 + random() % 20;
       std::vector<std::uint8_t> room(kMostBytesAtOnce + random() % 20);
@@ -162,7 +164,7 @@ TEST(Encode, InStepsGivesWhatSingleCharactersGive) {
 TEST(Encode, StopsBeforeWhatTheEncodingLacks) {
   State state;
   std::vector<std::uint8_t> room(20);
-  const Step step = Encode(Named("Windows_1250"), state, std::u16string_view(u"ř\u4E00z"), room);
+  const Step step = Encode(RowOf("Windows_1250"), state, std::u16string_view(u"ř\u4E00z"), room);
   EXPECT_EQ(step.stop, Stop::NotEncodable);
   EXPECT_EQ(step.taken, 1U);
   EXPECT_EQ(step.made, 1U);
@@ -171,28 +173,71 @@ TEST(Encode, StopsBeforeWhatTheEncodingLacks) {
 TEST(Encode, TakesNothingThatDoesNotFit) {
   State state;
   std::vector<std::uint8_t> room(2);
-  const Step step = Encode(Named("UTF_8"), state, std::u16string_view(u"a€"), room);
+  const Step step = Encode(RowOf("UTF_8"), state, std::u16string_view(u"a€"), room);
   EXPECT_EQ(step.stop, Stop::RoomUsed);
   EXPECT_EQ(step.taken, 1U);
   EXPECT_EQ(step.made, 1U);
   // UTF-7 holds bits back: what does not fit leaves the state as it was.
   std::vector<std::uint8_t> small(3);
   State seven;
-  EXPECT_EQ(Encode(Named("UTF_7"), seven, std::u16string_view(u"řx"), small).taken, 1U);
+  EXPECT_EQ(Encode(RowOf("UTF_7"), seven, std::u16string_view(u"řx"), small).taken, 1U);
   EXPECT_TRUE(seven.in_base64);
-  EXPECT_EQ(Encode(Named("UTF_7"), seven, std::u16string_view(u"x"), std::span(small).first(2)).stop,
+  EXPECT_EQ(Encode(RowOf("UTF_7"), seven, std::u16string_view(u"x"), std::span(small).first(2)).stop,
             Stop::RoomUsed);
   EXPECT_TRUE(seven.in_base64);
 }
 
 TEST(Texts, OfAnEncodingWithWhatItLacks) {
-  EXPECT_EQ(Encoded(Named("Windows_1250"), u"a\u4E00ř"), "a?\xF8");
-  EXPECT_EQ(Encoded(Named("UTF_7"), u"řa"), "+AVk-a");
-  EXPECT_EQ(Encoded(Named("UTF_7"), u"ř"), "+AVk-");
-  EXPECT_EQ(Encoded(Named("UTF_16_BE"), u"\xD800"), "\0?"s);
-  EXPECT_EQ(Decoded(Named("UTF_7"), "+AVk-a+"), u"řa\uFFFD");
-  EXPECT_EQ(Decoded(Named("UTF_16_LE"), "a\0\0\xDCz\0"s), u"a");
-  EXPECT_EQ(Encoded(Named("CP_437"), std::u16string(10000, u'é')), std::string(10000, '\x82'));
+  EXPECT_EQ(Encoded(RowOf("Windows_1250"), u"a\u4E00ř"), "a?\xF8");
+  EXPECT_EQ(Encoded(RowOf("UTF_7"), u"řa"), "+AVk-a");
+  EXPECT_EQ(Encoded(RowOf("UTF_7"), u"ř"), "+AVk-");
+  EXPECT_EQ(Encoded(RowOf("UTF_16_BE"), u"\xD800"), "\0?"s);
+  EXPECT_EQ(Decoded(RowOf("UTF_7"), "+AVk-a+"), u"řa\uFFFD");
+  EXPECT_EQ(Decoded(RowOf("UTF_16_LE"), "a\0\0\xDCz\0"s), u"a");
+  EXPECT_EQ(Encoded(RowOf("CP_437"), std::u16string(10000, u'é')), std::string(10000, '\x82'));
+}
+
+// Character by character: a break ends a line, the line feed of a pair stays with its carriage return.
+struct PlainPlace {
+  std::uint64_t line = 1;
+  std::uint64_t column = 0;
+  char16_t last = 0;
+
+  void Advance(char16_t ch) {
+    const bool starts = last == u'\n' || (last == u'\r' && ch != u'\n');
+    const bool completes = last == u'\r' && ch == u'\n';
+    if (starts) ++line;
+    column = starts ? 1 : completes ? column : column + 1;
+    last = ch;
+  }
+};
+
+TEST(Place, IsThatOfTheLastCharacterHoweverTheTextIsCut) {
+  std::mt19937 random(9);
+  for (int round = 0; round < 2000; ++round) {
+    Place place;
+    PlainPlace plain;
+    for (int piece = 0; piece < 4; ++piece) {
+      std::u16string text(random() % 70, u'a');
+      for (char16_t& ch : text) ch = random() % 4 == 0 ? (random() % 2 == 0 ? u'\r' : u'\n') : ch;
+      place.Advance(text);
+      for (const char16_t ch : text) plain.Advance(ch);
+      ASSERT_EQ(place.Line(), plain.line) << round;
+      ASSERT_EQ(place.Column(), plain.column) << round;
+    }
+  }
+}
+
+TEST(FindByteOrderMark, KnowsFive) {
+  const auto found = [](std::string_view bytes) { return FindByteOrderMark(AsBytes(bytes)); };
+  EXPECT_EQ(found("\xEF\xBB\xBFz").encoding, "UTF_8");
+  EXPECT_EQ(found("\xEF\xBB\xBFz").length, 3U);
+  EXPECT_EQ(found("\xFE\xFFz").order, ByteOrder::Utf16BigEndian);
+  EXPECT_EQ(found("\xFF\xFEz\0"s).order, ByteOrder::Utf16LittleEndian);
+  EXPECT_EQ(found("\xFF\xFE\0\0"s).order, ByteOrder::Utf32LittleEndian);
+  EXPECT_EQ(found("\0\0\xFE\xFF"s).encoding, "UTF_32_BE");
+  for (const std::string& none : {""s, "\xEF\xBB"s, "\xFE"s, "ab"s, "\0\0\xFE"s})
+    EXPECT_EQ(found(none).length, 0U) << none;
 }
 
 }  // namespace

@@ -144,6 +144,10 @@ def check_conversions(program):
         got = convert(*options, content=content, status=NO).decode()
         if not got.startswith("old") or told not in got or source.name not in got:
             yield f"convert {' '.join(options)}: {got!r}"
+    source.write_bytes("ab\nc\u4e00d".encode())
+    early = program.run(["convert", "-f", "utf-8", "-t", "1250", source.name])
+    if (early.status, early.out) != (NO, "ab\nc") or "2:2: U+4E00" not in early.err:
+        yield f"convert to standard output, up to what ends it: {early}"
     source.write_bytes("č".encode("cp1250"))
     several = program.run(["convert", "-f", "1250", "-t", "utf-8", source.name, "-", source.name])
     if (several.status, several.out, several.err) != (YES, "čč", ""):

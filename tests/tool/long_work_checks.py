@@ -73,6 +73,25 @@ def check_progress(program):
             yield "hash of standard input: no sum behind the count"
 
 
+def check_streaming(program):
+    """A conversion to standard output writes what is converted before its input ends."""
+    if program.emulated or not hasattr(os, "set_blocking"):
+        return
+    command = program.command + ["convert", "-f", "1250", "-t", "utf-8"]
+    piece = "Příliš žluťoučký kůň\r\n" * 1000
+    with subprocess.Popen(command, stdin=subprocess.PIPE, stdout=subprocess.PIPE) as running:
+        assert running.stdin and running.stdout
+        running.stdin.write(piece.encode("cp1250"))
+        running.stdin.flush()
+        early = select.select([running.stdout], [], [], 60)[0]
+        running.stdin.close()
+        text = running.stdout.read()
+    if not early:
+        yield "convert: no output before the input ends"
+    if text != piece.encode() or running.returncode != 0:
+        yield f"convert: {text[:40]!r}, status {running.returncode}"
+
+
 def check_interruption(program):
     """A conversion that is ended from outside leaves the old file, and nothing beside it."""
     if program.emulated:

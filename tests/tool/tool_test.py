@@ -9,13 +9,14 @@ Exits 77 where the emulator says that this machine cannot run the program.
 import pathlib
 import sys
 import tempfile
+from concurrent.futures import ThreadPoolExecutor
 
 from command_rows import ROWS
 from document_checks import check_forms, check_xml, check_xml_encodings, check_xml_samples, check_xml_unreadable
 from file_checks import (check_colours, check_conversions, check_damaged_files, check_full_device, check_pipes, check_report_file,
                          check_report_json, check_sorted_files, check_sums, check_unreadable)
 from harness import NO, SKIPPED, YES, Program, Row, differs
-from long_work_checks import check_interruption, check_progress
+from long_work_checks import check_interruption, check_progress, check_streaming
 
 # What the harness itself must find wrong, each for the named reason.
 MUST_FAIL = [
@@ -36,6 +37,7 @@ CHECKS = (
     check_progress,
     check_conversions,
     check_interruption,
+    check_streaming,
     check_full_device,
     check_pipes,
     check_unreadable,
@@ -51,8 +53,10 @@ CHECKS = (
 
 
 def tested(program):
-    for row in ROWS:
-        yield from program.failures(row)
+    # An emulator mostly waits for its own servers.
+    with ThreadPoolExecutor(max_workers=4 if program.emulated else 2) as pool:
+        for failures in pool.map(program.failures, ROWS):
+            yield from failures
     for check in CHECKS:
         yield from check(program)
 

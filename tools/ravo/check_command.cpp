@@ -3,6 +3,7 @@
 #include "commands.h"
 #include "csv_reader.h"
 #include "json_text.h"
+#include "kind_lines.h"
 #include <ravo/RavoInterface.h>
 
 #include <memory>
@@ -105,12 +106,7 @@ void Run(const CheckOptions& options, Outcome& outcome) {
 }
 
 std::string CheckFooter() {
-  std::string text = "Kinds:\n";
-  for (const CheckKind& kind : CheckKinds()) {
-    text += "  " + std::string(kind.name) + std::string(8 - kind.name.size(), ' ') + std::string(kind.title) +
-            "\n";
-  }
-  return text +
+  return "Kinds:\n" + KindLines(CheckKinds()) +
          "\n"
          "Exit status: 0 everything is valid, 1 something is not, 2 wrong usage or an unusable file.\n"
          "\n"

@@ -19,7 +19,7 @@ struct CheckKind {
   Verdict (*check)(std::u16string_view text);
 };
 
-/// ucet, su, au, banka, vs, ean.
+/// Returns all kinds, in the order of the help text.
 [[nodiscard]] std::span<const CheckKind> CheckKinds();
 
 /// The kind of that name, or null.

@@ -2,6 +2,7 @@
 #include "console.h"
 #include "file_hash.h"
 #include "json_text.h"
+#include "kind_lines.h"
 #include "whole_input.h"
 
 #include <memory>
@@ -135,11 +136,7 @@ void Run(const HashOptions& options, Outcome& outcome) {
 }
 
 std::string HashFooter() {
-  std::string text = "Sums:\n";
-  for (const FileSumKind& kind : kFileSums)
-    text += "  " + std::string(kind.name) + std::string(9 - kind.name.size(), ' ') + std::string(kind.title) +
-            "\n";
-  return text +
+  return "Sums:\n" + KindLines(kFileSums) +
          "\n"
          "Exit status: 0, 1 a sum does not match or a line of a list is none, 2 wrong usage or an unusable "
          "file.\n"

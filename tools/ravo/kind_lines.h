@@ -1,0 +1,22 @@
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <string>
+
+namespace tool {
+
+/// Returns one line per kind for a help text: its `name`, and its `title` in a column of its own.
+template <class Kinds>
+[[nodiscard]] std::string KindLines(const Kinds& kinds) {
+  std::size_t width = 0;
+  for (const auto& kind : kinds) width = std::max(width, kind.name.size());
+  std::string text;
+  for (const auto& kind : kinds) {
+    const std::string gap(width - kind.name.size() + 2, ' ');
+    text.append("  ").append(kind.name).append(gap).append(kind.title).append("\n");
+  }
+  return text;
+}
+
+}  // namespace tool
