@@ -225,8 +225,10 @@ int main(int argc, char** argv) {
   RegisterMask("hard_ones", Text(4000, u'a'), middle + u"?a*");
   RegisterReplace("many_hits", Repeated(kAscii, 65536), u"o");
   RegisterReplace("few_hits", Repeated(kAscii, 65536) + u"needle", u"needle");
-  RegisterUtf8("ascii", Repeated(kAscii, 65536));
-  RegisterUtf8("czech", Repeated(kCzech, 65536));
+  for (const auto& [name, size] : {std::pair{"_4k", 4096U}, {"", 65536U}, {"_1m", 1048576U}}) {
+    RegisterUtf8(std::string("ascii") + name, Repeated(kAscii, size));
+    RegisterUtf8(std::string("czech") + name, Repeated(kCzech, size));
+  }
   RegisterUrl("ascii", Repeated(kAscii, 65536));
   RegisterUrl("czech", Repeated(kCzech, 65536));
   return ravo::bench::RunWithRatios(argc, argv);
