@@ -7,6 +7,7 @@
 #include <cstring>
 #include <cwchar>
 #include <functional>
+#include <random>
 
 #include <curl/curl.h>
 #include <fnmatch.h>
@@ -28,6 +29,18 @@ constexpr std::u16string_view kCzech = u"Příliš žluťoučký kůň úpěl ď
 Text Repeated(std::u16string_view piece, std::size_t length) {
   Text text;
   while (text.size() < length) text += piece;
+  text.resize(length);
+  return text;
+}
+
+// The words of a text in random order: a repeated text is one that the processor's branch predictor learns.
+Text Shuffled(std::u16string_view words, std::size_t length) {
+  std::vector<std::u16string_view> list;
+  for (std::size_t at = 0; at < words.size(); at = words.find(u' ', at) + 1)
+    list.push_back(words.substr(at, words.find(u' ', at) + 1 - at));
+  std::mt19937 random(20240229);
+  Text text;
+  while (text.size() < length) text += list[random() % list.size()];
   text.resize(length);
   return text;
 }
@@ -225,8 +238,10 @@ int main(int argc, char** argv) {
   RegisterMask("hard_ones", Text(4000, u'a'), middle + u"?a*");
   RegisterReplace("many_hits", Repeated(kAscii, 65536), u"o");
   RegisterReplace("few_hits", Repeated(kAscii, 65536) + u"needle", u"needle");
-  RegisterUtf8("ascii", Repeated(kAscii, 65536));
-  RegisterUtf8("czech", Repeated(kCzech, 65536));
+  for (const auto& [name, size] : {std::pair{"_4k", 4096U}, {"", 65536U}, {"_1m", 1048576U}}) {
+    RegisterUtf8(std::string("ascii") + name, Shuffled(kAscii, size));
+    RegisterUtf8(std::string("czech") + name, Shuffled(kCzech, size));
+  }
   RegisterUrl("ascii", Repeated(kAscii, 65536));
   RegisterUrl("czech", Repeated(kCzech, 65536));
   return ravo::bench::RunWithRatios(argc, argv);

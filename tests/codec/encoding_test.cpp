@@ -1,6 +1,8 @@
 // Steps over spans: however a text is cut, the parts give what the whole gives, and each step says why it
 // ended.
 #include "one_by_one.h"
+#include <ravo/codec/byte_order_mark.h>
+#include <ravo/codec/place.h>
 #include <ravo/codec/texts.h>
 
 #include <random>
@@ -193,6 +195,49 @@ TEST(Texts, OfAnEncodingWithWhatItLacks) {
   EXPECT_EQ(Decoded(RowOf("UTF_7"), "+AVk-a+"), u"řa\uFFFD");
   EXPECT_EQ(Decoded(RowOf("UTF_16_LE"), "a\0\0\xDCz\0"s), u"a");
   EXPECT_EQ(Encoded(RowOf("CP_437"), std::u16string(10000, u'é')), std::string(10000, '\x82'));
+}
+
+// Character by character: a break ends a line, the line feed of a pair stays with its carriage return.
+struct PlainPlace {
+  std::uint64_t line = 1;
+  std::uint64_t column = 0;
+  char16_t last = 0;
+
+  void Advance(char16_t ch) {
+    const bool starts = last == u'\n' || (last == u'\r' && ch != u'\n');
+    const bool completes = last == u'\r' && ch == u'\n';
+    if (starts) ++line;
+    column = starts ? 1 : completes ? column : column + 1;
+    last = ch;
+  }
+};
+
+TEST(Place, IsThatOfTheLastCharacterHoweverTheTextIsCut) {
+  std::mt19937 random(9);
+  for (int round = 0; round < 2000; ++round) {
+    Place place;
+    PlainPlace plain;
+    for (int piece = 0; piece < 4; ++piece) {
+      std::u16string text(random() % 70, u'a');
+      for (char16_t& ch : text) ch = random() % 4 == 0 ? (random() % 2 == 0 ? u'\r' : u'\n') : ch;
+      place.Advance(text);
+      for (const char16_t ch : text) plain.Advance(ch);
+      ASSERT_EQ(place.Line(), plain.line) << round;
+      ASSERT_EQ(place.Column(), plain.column) << round;
+    }
+  }
+}
+
+TEST(FindByteOrderMark, KnowsFive) {
+  const auto found = [](std::string_view bytes) { return FindByteOrderMark(AsBytes(bytes)); };
+  EXPECT_EQ(found("\xEF\xBB\xBFz").encoding, "UTF_8");
+  EXPECT_EQ(found("\xEF\xBB\xBFz").length, 3U);
+  EXPECT_EQ(found("\xFE\xFFz").order, ByteOrder::Utf16BigEndian);
+  EXPECT_EQ(found("\xFF\xFEz\0"s).order, ByteOrder::Utf16LittleEndian);
+  EXPECT_EQ(found("\xFF\xFE\0\0"s).order, ByteOrder::Utf32LittleEndian);
+  EXPECT_EQ(found("\0\0\xFE\xFF"s).encoding, "UTF_32_BE");
+  for (const std::string& none : {""s, "\xEF\xBB"s, "\xFE"s, "ab"s, "\0\0\xFE"s})
+    EXPECT_EQ(found(none).length, 0U) << none;
 }
 
 }  // namespace

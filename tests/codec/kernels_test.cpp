@@ -127,6 +127,15 @@ TEST_P(Kernels, DecodeAPrefixOfUtf8) {
   }
 }
 
+// Pairs make fewer units than bytes: blocks of ASCII after them may not be counted as room for as many.
+TEST_P(Kernels, KeepToTheRoomInAsciiAfterPairs) {
+  for (std::size_t pairs = 0; pairs < 200; pairs += 8) {
+    const std::u16string text = std::u16string(pairs, u'č') + std::u16string(700, u'x');
+    for (std::size_t room = 0; room < 500; room += 7)
+      ASSERT_NO_FATAL_FAILURE(ExpectDecoded(GetParam(), text, room));
+  }
+}
+
 // What the faster sets are for: they do not leave such texts to the engine of one character.
 TEST_P(Kernels, TakeWholeTextsOfTheirKind) {
   if (GetParam().name == "plain") GTEST_SKIP() << "leaves everything";

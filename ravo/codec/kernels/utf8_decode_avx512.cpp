@@ -7,6 +7,73 @@
 namespace ravo::codec {
 namespace {
 
+using Places = std::array<std::uint8_t, kWide>;
+
+// Thirty-two bytes from `first` on, each with the one after it.
+// Untested: runs at compile time only.
+constexpr Places PairsFrom(std::uint8_t first) {
+  Places places{};
+  for (std::size_t i = 0; i < kWide; ++i) places[i] = static_cast<std::uint8_t>(first + i / 2 + i % 2);
+  return places;
+}
+
+// The second half of a block is taken from its second byte on, so that the byte after its last one is there.
+alignas(Vector) constexpr Places kPairs[] = {PairsFrom(0), PairsFrom(kHalf - 1)};
+
+// Each byte of half a block as a unit: by itself, or if it is one of `leads` with the trail byte after it.
+template <std::size_t half>
+RAVO_AVX512 inline Vector UnitsOfPairs(const std::uint8_t* block, Bits all_leads) {
+  constexpr Bits kEveryByte = ~Bits{0};
+  const __mmask32 leads = HalfOf<half>(all_leads);
+  const Vector pairs =
+      _mm512_maskz_permutexvar_epi8(kEveryByte, Load(kPairs[half].data()), Load(block + half));
+  const Vector weights = _mm512_mask_blend_epi16(leads, _mm512_set1_epi16(1), _mm512_set1_epi16(0x140));
+  const Vector units = _mm512_maddubs_epi16(pairs, weights);
+  // What the marks of lead and trail byte add.
+  return _mm512_mask_sub_epi16(units, leads, units, _mm512_set1_epi16(0xC0 * 0x40 + 0x80));
+}
+
+RAVO_AVX512 inline char16_t* PutKept(Vector units, __mmask32 kept, char16_t* to) {
+  _mm512_storeu_si512(to, _mm512_maskz_compress_epi16(kept, units));
+  return to + _mm_popcnt_u32(kept);
+}
+
+// Whole blocks of ASCII and pairs, with room for a unit per byte, up to a block with something else.
+RAVO_AVX512 inline Run DecodePairs(ByteSpan bytes, TextRoom text) {
+  const std::size_t most = std::min(bytes.size(), text.size());
+  std::size_t at = 0;
+  char16_t* to = text.data();
+  Bits expected = 0;
+  while (most - at >= kWide + kLongestRest) {
+    const std::uint8_t* const from = bytes.data() + at;
+    const Vector block = Load(from);
+    const Bits beyond = _mm512_movepi8_mask(block);
+    if ((beyond | expected) == 0) {
+      const std::size_t more =
+          WidenBlocks(bytes.subspan(at, most - at), text.subspan(static_cast<std::size_t>(to - text.data())));
+      at += more;
+      to += more;
+      continue;
+    }
+    const Bits trails = beyond & ~From(block, 0xC0);
+    const Bits leads =
+        _mm512_cmplt_epu8_mask(_mm512_sub_epi8(block, Everywhere(0xC2)), Everywhere(0xE0 - 0xC2));
+    const Bits wrong = (beyond ^ (trails | leads)) | (trails ^ (leads << 1 | expected));
+    if (wrong != 0) break;
+    to = PutKept(UnitsOfPairs<0>(from, leads), HalfOf<0>(~trails), to);
+    to = PutKept(UnitsOfPairs<1>(from, leads), HalfOf<1>(~trails), to);
+    expected = leads >> (kWide - 1);
+    at += kWide;
+  }
+  // A pair that crosses the end was made before its trail byte was seen.
+  if (expected != 0) {
+    const bool is_pair = (bytes[at] & 0xC0) == 0x80;
+    at = is_pair ? at + 1 : at - 1;
+    if (!is_pair) --to;
+  }
+  return {at, static_cast<std::size_t>(to - text.data())};
+}
+
 // A sequence may cross into the next block.
 class Utf8Engine {
  public:
@@ -60,20 +127,22 @@ class Utf8Engine {
     return right >= 2 && (long_leads >> (right - 2) & 1) != 0 ? right - 2 : right;
   }
 
-  // Each byte as a unit: by itself, or as the lead of a sequence with the bytes after it.
   template <std::size_t half>
-  RAVO_AVX512 static std::size_t Append(const ByteBlock& block, const Sequences& sequences, TextRoom to) {
-    const std::uint8_t* const from = block.from + half * kHalf;
+  RAVO_AVX512 static Vector UnitsOfAll(const std::uint8_t* from, const Sequences& sequences) {
     const Vector bytes = Widened(from);
     const Vector six_bits = _mm512_set1_epi16(0x3F);
     const Vector second = _mm512_and_si512(Widened(from + 1), six_bits);
+    const Vector third = _mm512_and_si512(Widened(from + 2), six_bits);
     const Vector upper = _mm512_slli_epi16(_mm512_and_si512(bytes, _mm512_set1_epi16(0x1F)), 6);
-    Vector text = _mm512_mask_add_epi16(bytes, HalfOf<half>(sequences.leads), upper, second);
-    if (sequences.long_leads != 0) {
-      const Vector third = _mm512_and_si512(Widened(from + 2), six_bits);
-      text =
-          _mm512_mask_add_epi16(text, HalfOf<half>(sequences.long_leads), _mm512_slli_epi16(text, 6), third);
-    }
+    const Vector text = _mm512_mask_add_epi16(bytes, HalfOf<half>(sequences.leads), upper, second);
+    return _mm512_mask_add_epi16(text, HalfOf<half>(sequences.long_leads), _mm512_slli_epi16(text, 6), third);
+  }
+
+  // Each byte as a unit: by itself, or as the lead of a sequence with the bytes after it.
+  template <std::size_t half>
+  RAVO_AVX512 static std::size_t Append(const ByteBlock& block, const Sequences& sequences, TextRoom to) {
+    const Vector text = sequences.long_leads == 0 ? UnitsOfPairs<half>(block.from, sequences.leads)
+                                                  : UnitsOfAll<half>(block.from + half * kHalf, sequences);
     const __mmask32 kept = HalfOf<half>(sequences.starts);
     const auto made = static_cast<std::size_t>(_mm_popcnt_u32(kept));
     StoreUnits(to, made, _mm512_maskz_compress_epi16(kept, text));
@@ -86,7 +155,19 @@ class Utf8Engine {
 }  // namespace
 
 RAVO_AVX512 Run DecodeUtf8Avx512(ByteSpan bytes, TextRoom text) noexcept {
-  return DecodeBlocks<false>(Utf8Engine{}, bytes, std::min(bytes.size(), text.size()), text);
+  // Sequences of three bytes seldom come alone: so many bytes go the way that takes all kinds.
+  constexpr std::size_t kMixed = 16 * kWide;
+  Run run;
+  for (;;) {
+    const Run pairs = DecodePairs(bytes.subspan(run.taken), text.subspan(run.made));
+    run = {run.taken + pairs.taken, run.made + pairs.made};
+    const ByteSpan rest = bytes.subspan(run.taken);
+    const TextRoom room = text.subspan(run.made);
+    const Run mixed =
+        DecodeBlocks<false>(Utf8Engine{}, rest, std::min({rest.size(), room.size(), kMixed}), room);
+    if (mixed.taken == 0) return run;
+    run = {run.taken + mixed.taken, run.made + mixed.made};
+  }
 }
 
 RAVO_AVX512 RunUntil DecodeUtf8UntilAvx512(ByteSpan bytes, TextRoom text, EndBytes ends) noexcept {
