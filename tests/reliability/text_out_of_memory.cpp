@@ -3,6 +3,7 @@
 #include <ravo/DIUtils.h>
 #include <ravo/RavoFileCommon.h>
 #include <ravo/runtime/byte_stream.h>
+#include <ravo/runtime/text.h>
 
 #include <string>
 
