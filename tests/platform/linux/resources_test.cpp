@@ -14,7 +14,7 @@ class Resources : public ::testing::Test {
     return machine_.LoadResources(FromUtf8(file));
   }
 
-  const LinuxResources machine_;
+  const LinuxResources machine_{};
 };
 
 TEST_F(Resources, TextsOfAModule) {
