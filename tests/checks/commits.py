@@ -22,7 +22,7 @@ MERGE = re.compile(r"Merge .+: \S.*(?<![.\s])|Merge branch 'main' into \S+")
 OTHER_FORM = re.compile(r"(?:ed|ing|[^su]s)$")
 VERBS = {"bring", "embed", "feed", "need", "ring", "seed", "speed", "string"}
 # The rules apply after this commit.
-BEFORE = "5dbb2a71976659d1092659e12858c35af2684670"
+BEFORE = "a9fa3957f719eb75a24e713b172150ccf7932076"
 RULES = [("--no-merges", CHANGE, "room: verb what"), ("--merges", MERGE, "Merge branch 'name': what it brings")]
 
 
