@@ -1,7 +1,7 @@
 // Whole texts between encodings and UTF-16, beside ICU's converters and the C library's iconv.
 #include "ratio.h"
 #include <ravo/DIUnicode.h>
-#include <ravo/unicode/encodings/encoding_of.h>
+#include <ravo/unicode/encoding_of.h>
 
 #include <cerrno>
 #include <random>

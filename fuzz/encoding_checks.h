@@ -2,7 +2,7 @@
 
 #include <ravo/DIUnicode.h>
 #include <ravo/codec/kernels/kernel_set.h>
-#include <ravo/unicode/encodings/encoding_of.h>
+#include <ravo/unicode/encoding_of.h>
 
 #include <cstdlib>
 #include <memory>

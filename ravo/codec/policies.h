@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ravo/codec/single_byte_table.h>
+#include <ravo/codec/kernels/single_byte_table.h>
 
 #include <cstdint>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ravo/codec/run.h>
+#include <ravo/codec/kernels/run.h>
 
 namespace ravo::codec {
 

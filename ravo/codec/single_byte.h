@@ -1,7 +1,7 @@
 #pragma once
 
 #include <ravo/codec/byte_spans.h>
-#include <ravo/codec/single_byte_table.h>
+#include <ravo/codec/kernels/single_byte_table.h>
 
 #include <cstddef>
 #include <cstdint>

@@ -1,6 +1,6 @@
 // Texts, numbers, files and streams through a writer. Where the encoding encodes whole runs, those go at
 // once; a character that needs a decision goes by itself.
-#include <ravo/codec/run.h>
+#include <ravo/codec/kernels/run.h>
 #include <ravo/platform/file_stream.h>
 #include <ravo/runtime/checked.h>
 #include <ravo/runtime/text.h>

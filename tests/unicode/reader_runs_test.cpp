@@ -2,7 +2,7 @@
 // kind of source.
 #include "decoded_sources.h"
 #include <ravo/codec/kernels/kernel_set.h>
-#include <ravo/unicode/encodings/encoding_of.h>
+#include <ravo/unicode/encoding_of.h>
 
 #include <array>
 #include <functional>

@@ -1,6 +1,6 @@
 // Whole runs through a writer give what single characters give, invalid ones included.
 #include <ravo/DIUnicode.h>
-#include <ravo/unicode/encodings/encoding_of.h>
+#include <ravo/unicode/encoding_of.h>
 
 #include <random>
 #include <string>

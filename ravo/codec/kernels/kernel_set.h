@@ -1,8 +1,8 @@
 #pragma once
 
 #include <ravo/codec/kernels/kernel_choice.h>
-#include <ravo/codec/run.h>
-#include <ravo/codec/single_byte_table.h>
+#include <ravo/codec/kernels/run.h>
+#include <ravo/codec/kernels/single_byte_table.h>
 
 #include <span>
 #include <string_view>

@@ -1,6 +1,6 @@
 #include <ravo/codec/codecs.h>
 #include <ravo/unicode/encodings.h>
-#include <ravo/unicode/encodings/utf7_state.h>
+#include <ravo/unicode/utf7_state.h>
 
 // The routines and constants of every row, over its codec.
 namespace ravo::DIUnicode {
