@@ -1,6 +1,6 @@
 #include <ravo/codec/encoding.h>
-#include <ravo/unicode/encodings.h>
 #include <ravo/unicode/encoding_of.h>
+#include <ravo/unicode/encodings.h>
 
 #include <array>
 

@@ -1,7 +1,7 @@
 // The families that read and skip, each from one loop. If the encoding decodes whole runs, what belongs is
 // taken at once, and the reader is then as if it had read the characters one by one.
-#include <ravo/codec/kernels/run_search.h>
 #include <ravo/codec/kernels/run.h>
+#include <ravo/codec/kernels/run_search.h>
 #include <ravo/unicode/characters/character_kinds.h>
 #include <ravo/unicode/predicates.h>
 #include <ravo/unicode/unicode_reader.h>

@@ -1,8 +1,8 @@
 // Sources on top of each other, and how the bytes of the next one come.
 #include <ravo/unicode/encodings.h>
-#include <ravo/unicode/utf7_state.h>
 #include <ravo/unicode/source_buffer.h>
 #include <ravo/unicode/unicode_reader.h>
+#include <ravo/unicode/utf7_state.h>
 
 #include <algorithm>
 #include <cstring>

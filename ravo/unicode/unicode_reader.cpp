@@ -1,5 +1,5 @@
-#include <ravo/unicode/encodings.h>
 #include <ravo/unicode/encoding_of.h>
+#include <ravo/unicode/encodings.h>
 #include <ravo/unicode/unicode_reader.h>
 
 #include <algorithm>
