@@ -17,6 +17,7 @@
 namespace ravo {
 
 // A base class cannot be in parentheses.
+// NOLINTBEGIN(bugprone-macro-parentheses)
 #define RAVO_TYPE_LIBRARY(library, identifier)                   \
   namespace library##_TLB {                                      \
     /** Identifier of the type library #library: #identifier. */ \

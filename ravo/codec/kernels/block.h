@@ -99,9 +99,10 @@ class Block {
   }
   [[nodiscard]] Block Within(Unit first, Unit last) const noexcept {
     constexpr unsigned kLeast = kIsBytes ? 0x80 : 0x8000;
-    const auto from = static_cast<unsigned>(first);
+    const unsigned from = static_cast<std::make_unsigned_t<Unit>>(first);
+    const unsigned to = static_cast<std::make_unsigned_t<Unit>>(last);
     const Block moved = *this - Block(static_cast<Unit>(from - kLeast));
-    return moved.SignedLess(Block(static_cast<Unit>(static_cast<unsigned>(last) - from + 1 + kLeast)));
+    return moved.SignedLess(Block(static_cast<Unit>(to - from + 1 + kLeast)));
   }
 
   /// The top bit of each byte.
