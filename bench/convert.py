@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
-"""Times `ravo convert` on 100 MB of Czech text, Windows-1250 and UTF-8, beside iconv and uconv; and beside cat, which
-writes the same file without converting it.
+"""Times `ravo convert` against iconv and uconv on 100 MB of Czech text, from Windows-1250 to UTF-8 and back, and
+against cat, which only copies the file.
 
 usage: convert.py RAVO FOLDER REPORT      (FOLDER keeps the files between runs)
 
-All run in turn, several times, each into a file; what is printed are the medians of processor and wall time and the
-ratios. REPORT has every run, in the form in which the other benchmarks report.
+The programs run in turn, several times, each into a file. Prints the medians of processor and wall time, and their
+ratios. REPORT has every run, in the format of the other benchmarks.
 """
 
 import json
@@ -24,7 +24,7 @@ WORDS = ("účet předkontace zákazník dodavatel faktura částka splatnost ú
 
 
 def czech_text(folder, codec):
-    """Lines of six to sixteen words, a megabyte of them again and again."""
+    """A file of lines of six to sixteen words: about a megabyte, repeated."""
     file = folder / f"czech-{codec}.txt"
     if not file.exists():
         generator = random.Random(20240229)
@@ -35,7 +35,7 @@ def czech_text(folder, codec):
 
 
 def seconds(command, target):
-    """Processor time and wall time."""
+    """Processor time and wall time of a command, in seconds."""
     with open(target, "wb") as out:
         before, start = resource.getrusage(resource.RUSAGE_CHILDREN), time.perf_counter()
         subprocess.run(command, check=True, stdout=out)
@@ -45,7 +45,7 @@ def seconds(command, target):
 
 
 def commands(ravo, folder):
-    """The job, and each program that does it."""
+    """Each job, and the command of each program for it."""
     for job, codec, source, to in (("1250 to UTF-8", "cp1250", "CP1250", "UTF-8"), ("UTF-8 to 1250", "utf-8", "UTF-8", "CP1250")):
         file = str(czech_text(folder, codec))
         yield job, {
@@ -57,7 +57,7 @@ def commands(ravo, folder):
 
 
 def measure(rivals, folder):
-    """Program to its runs; those that this machine lacks are left out."""
+    """The times of each program's runs; programs that are not installed are left out."""
     rivals = {name: command for name, command in rivals.items() if name == "ravo" or shutil.which(command[0])}
     times: dict[str, list[tuple[float, float]]] = {name: [] for name in rivals}
     for run in range(RUNS + 1):

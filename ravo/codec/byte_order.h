@@ -20,7 +20,7 @@ struct BigEndian {
     target.WriteByte(static_cast<std::uint8_t>(unit & 0xFF));
   }
 
-  /// The halves of four bytes, from the first on.
+  /// Whether the upper half of a four-byte unit comes first.
   static constexpr bool kUpperHalfFirst = true;
 };
 

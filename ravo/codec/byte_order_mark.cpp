@@ -11,7 +11,7 @@ struct Mark {
   std::array<std::uint8_t, kLongestByteOrderMark> bytes;
 };
 
-// FF FE 00 00 before its beginning FF FE.
+// FF FE 00 00 precedes its prefix FF FE.
 constexpr Mark kMarks[] = {{{ByteOrder::Utf32BigEndian, "UTF_32_BE", 4}, {0x00, 0x00, 0xFE, 0xFF}},
                            {{ByteOrder::Utf32LittleEndian, "UTF_32_LE", 4}, {0xFF, 0xFE, 0x00, 0x00}},
                            {{ByteOrder::Utf8, "UTF_8", 3}, {0xEF, 0xBB, 0xBF}},

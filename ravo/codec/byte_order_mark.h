@@ -8,7 +8,7 @@
 
 namespace ravo::codec {
 
-/// What the byte-order mark at the start of a text says.
+/// The encoding that a byte-order mark names.
 enum class ByteOrder : std::uint8_t {
   Unknown,
   Utf8,
@@ -24,10 +24,10 @@ struct ByteOrderMark {
   std::size_t length = 0;     ///< in bytes
 };
 
-/// Of the longest mark.
+/// The length of the longest mark in bytes.
 inline constexpr std::size_t kLongestByteOrderMark = 4;
 
-/// Returns the mark at the front of `bytes`. If fewer than four bytes are given, they are all that there are.
+/// Returns the mark at the start of `bytes`. Fewer than four bytes are taken as the whole text.
 [[nodiscard]] ByteOrderMark FindByteOrderMark(ByteSpan bytes) noexcept;
 
 }  // namespace ravo::codec

@@ -5,13 +5,13 @@
 #include <cstddef>
 #include <cstdint>
 
-/// Bytes in memory as what engines read from and write to.
+/// Sources and targets of engines in memory.
 ///
 /// An engine reads from a source (`PeekByte`, `SkipByte`, `NextByte`) and writes to a target (`WriteByte`):
-/// these two, or a caller's own that refills and flushes on the way.
+/// these two, or a caller's own that refills and flushes.
 namespace ravo::codec {
 
-/// A source that remembers whether a byte past the end was asked for.
+/// A source that records whether a byte past the end was requested.
 class SpanSource {
  public:
   explicit SpanSource(ByteSpan bytes) noexcept : bytes_(bytes) {}
@@ -39,7 +39,7 @@ class SpanSource {
   bool exhausted_ = false;
 };
 
-/// A target with room for what is written; the caller sees to that.
+/// A target without bounds checks: the caller provides enough room.
 class SpanTarget {
  public:
   explicit SpanTarget(ByteRoom bytes) noexcept : bytes_(bytes) {}

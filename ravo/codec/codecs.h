@@ -7,8 +7,8 @@
 #include <ravo/codec/utf8.h>
 #include <ravo/codec/wide_units.h>
 
-/// The codec of every encoding, under its name: its engine over its table. A codec has `Decode` over a source
-/// of bytes, `Encode` over a target, or both; `kHasState` where it keeps something between characters.
+/// The codec of every encoding, under its name: an engine over a table. A codec has `Decode` from a source of
+/// bytes, `Encode` to a target, or both; `kHasState` if it keeps state between characters.
 namespace ravo::codec::codecs {
 
 #define RAVO_CODEC_SingleByte(table) SingleByte<tables::k##table>
@@ -21,7 +21,7 @@ namespace ravo::codec::codecs {
 #define RAVO_CODEC_Utf7Odc(table) Utf7Encoder<Utf7Direct::Optional>
 #define RAVO_CODEC_Gb18030(table) Gb18030
 
-// A name that is declared takes no parentheses.
+// A declared name cannot be in parentheses.
 // NOLINTBEGIN(bugprone-macro-parentheses)
 #define RAVO_ENCODING(name, label, code_page, aliases, engine, ways, table, sources, notes) \
   using name = RAVO_CODEC_##engine(table);

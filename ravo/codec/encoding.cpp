@@ -24,7 +24,7 @@ bool EncodeOne(SpanTarget& bytes, State& state, char16_t ch) {
     return Codec::Encode(bytes, ch);
 }
 
-// What a row says in words, then its functions.
+// The texts of a row; its functions come from its codec.
 struct Words {
   std::string_view name;
   std::string_view label;
@@ -60,7 +60,7 @@ constexpr Encoding kEncodings[] = {
 };
 #undef RAVO_ENCODING
 
-// The next character, also across the end of the bytes if those are the last.
+// Decodes the next character, even if it is truncated by the end of the last bytes.
 bool DecodeNext(const Encoding& encoding, State& state, ByteSpan bytes, TextRoom text, Input input,
                 Step& step) {
   const State before = state;
@@ -78,7 +78,7 @@ bool DecodeNext(const Encoding& encoding, State& state, ByteSpan bytes, TextRoom
   return made;
 }
 
-// Through memory of its own: how many bytes a unit makes is known only then.
+// Encodes into a local buffer, because the length is known only afterwards.
 bool EncodeNext(const Encoding& encoding, State& state, char16_t unit, ByteRoom bytes, Step& step) {
   const State before = state;
   std::array<std::uint8_t, kMostBytesAtOnce> made{};
@@ -109,7 +109,7 @@ Step Decode(const Encoding& encoding, State& state, ByteSpan bytes, TextRoom tex
       step.taken += run.taken;
       step.made += run.made;
     }
-    // An encoding with state may have something to say at the end.
+    // An encoding with state may produce a character at the end.
     const bool used =
         step.taken == bytes.size() && (encoding.decode_run != nullptr || input != Input::IsLast);
     if (used) return {step.taken, step.made, Stop::SourceUsed};

@@ -1,4 +1,4 @@
-// How an encoding is found by its names.
+// Lookup of encodings by name.
 #include <ravo/codec/encoding.h>
 #include <ravo/runtime/text.h>
 
@@ -7,7 +7,7 @@
 namespace ravo::codec {
 namespace {
 
-// The next letter or digit of a name, lower case; 0 at its end.
+// Removes the next letter or digit from a name and returns it in lower case; 0 at its end.
 char NextLetter(std::string_view& name) {
   while (!name.empty()) {
     const auto ch = static_cast<unsigned char>(name.front());
@@ -25,7 +25,7 @@ bool SameName(std::string_view left, std::string_view right) {
   }
 }
 
-// By the label, with or without the part in parentheses.
+// Compares with the label, with and without its part in parentheses.
 bool HasLabel(const Encoding& row, std::string_view name) {
   return SameName(row.label, name) || SameName(row.label.substr(0, row.label.find(" (")), name);
 }
@@ -58,7 +58,7 @@ std::uint32_t NumberOf(std::string_view digits) {
   return number;
 }
 
-// Strips "cp" in any case, with a separator, off a number.
+// Returns a number without the prefix "cp", in any case, and its separator.
 std::string_view WithoutCp(std::string_view name) {
   if (name.size() < 2 || (name[0] | 0x20) != 'c' || (name[1] | 0x20) != 'p') return name;
   name.remove_prefix(2);

@@ -10,10 +10,10 @@
 #include <bit>
 #include <cstddef>
 
-/// An engine over spans: kernels as far as they go, single characters where those stop.
+/// An engine over spans: kernels as far as they go, single characters in between.
 namespace ravo::codec {
 
-/// Character by character, while each is whole.
+/// Decodes complete characters one by one.
 template <class Codec>
 Run DecodeSingly(ByteSpan bytes, TextRoom text) {
   Run run;
@@ -39,7 +39,7 @@ Run EncodeSingly(TextSpan text, ByteRoom bytes) {
   return run;
 }
 
-/// The kernels of an engine; none unless said below.
+/// The kernels of an engine; none unless specialized.
 template <class Codec>
 struct Blocks {
   static Run Decode(ByteSpan, TextRoom) { return {}; }
@@ -79,7 +79,7 @@ struct Blocks<Utf16<Order>> : UnitBlocks<Order, true> {};
 template <class Order>
 struct Blocks<Ucs2<Order>> : UnitBlocks<Order, false> {};
 
-/// Blocks as far as they go, then some characters singly, until neither makes progress.
+/// Alternates blocks, as far as they go, with some single characters, until neither makes progress.
 template <class Source, class Target, class InBlocks, class Singly>
 Run Alternate(Source source, Target target, InBlocks in_blocks, Singly singly) {
   constexpr std::size_t kSome = 16;
@@ -111,7 +111,8 @@ Run EncodeWith(TextSpan text, ByteRoom bytes) {
   return Alternate(text, bytes, Blocks<Codec>::Encode, singly);
 }
 
-/// Runs that end before a byte, if bytes below 0x80 are ASCII and no others are.
+/// Runs that end before a given byte, for encodings in which ASCII characters and bytes below 0x80 are the
+/// same.
 template <class Codec>
 struct Until {
   static constexpr DecodeUntil kDecode = nullptr;

@@ -12,7 +12,7 @@ constexpr char16_t kTwoBytes[126 * kTrails] = {
 #include <ravo/codec/generated/gb18030_two_bytes.inc>
 };
 
-// Characters go on by one up to the next run; U+FFFD stands for a run of numbers without character.
+// Characters increase by one up to the next run; U+FFFD marks a run of indices without characters.
 struct RunOfFour {
   std::uint16_t number;
   char16_t ch;

@@ -6,13 +6,13 @@
 
 namespace ravo::codec {
 
-/// The character of two bytes, 81 to FE and 40 to FE without 7F.
+/// Returns the character of two bytes, 81 to FE and 40 to FE except 7F.
 [[nodiscard]] char16_t Gb18030OfTwo(std::uint8_t lead, std::uint8_t trail) noexcept;
-/// The character of four bytes by their number in the order of the encoding; U+FFFD where they have none or
-/// one beyond U+FFFF.
+/// Returns the character of a four-byte sequence by its index in the encoding; U+FFFD if it has none or one
+/// past U+FFFF.
 [[nodiscard]] char16_t Gb18030OfFour(std::uint32_t number) noexcept;
 
-/// GB 18030, read only. What does not continue a sequence is left for the next character.
+/// GB 18030, read-only. A byte that does not continue a sequence begins the next character.
 struct Gb18030 {
   template <class Source>
   static bool Decode(Source& source, char16_t& ch) {

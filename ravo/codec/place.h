@@ -5,13 +5,13 @@
 
 namespace ravo::codec {
 
-/// The place of a character in a text. A carriage return, a line feed and the pair of both end a line; the
-/// line feed of a pair has the column of its carriage return.
+/// The line and column of a character in a text. A carriage return, a line feed and a pair of both end a
+/// line; the line feed of a pair has the column of its carriage return.
 class Place {
  public:
-  /// From 1.
+  /// Returns the 1-based line.
   [[nodiscard]] std::uint64_t Line() const noexcept { return line_; }
-  /// From 1; 0 before the first character.
+  /// Returns the 1-based column; 0 before the first character.
   [[nodiscard]] std::uint64_t Column() const noexcept { return column_; }
 
   /// Advances to the last character of `text`, which follows the current one.

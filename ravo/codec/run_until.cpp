@@ -13,7 +13,7 @@ std::size_t WholeBlocksOf(std::size_t length) {
   return (length + kSearchBlock - 1) / kSearchBlock * kSearchBlock;
 }
 
-// Widens the ASCII before the first byte that ends it; returns how much. Writes whole blocks.
+// Widens the ASCII before the first of `ends` and returns its length. Writes whole blocks.
 std::size_t WidenAsciiBefore(ByteSpan bytes, TextRoom to, const Ends& ends) {
   const std::size_t most = std::min(bytes.size(), to.size());
   std::size_t at = 0;
@@ -27,8 +27,8 @@ std::size_t WidenAsciiBefore(ByteSpan bytes, TextRoom to, const Ends& ends) {
   return at;
 }
 
-// Decodes everything before a byte that ends it. Bytes after that one are decoded too if that makes whole
-// blocks, but do not count: among the last characters, the first one that ends it is the end.
+// Decodes everything before the first of `ends`. To decode whole blocks it may go past that byte, and then
+// counts only the characters before it.
 Run DecodeMixedBefore(DecodeRun decode, ByteSpan bytes, TextRoom to, const Ends& ends) {
   const auto within = bytes.first(std::min(bytes.size(), to.size()));
   const std::size_t length = LengthBefore(within, ends);

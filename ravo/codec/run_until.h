@@ -4,8 +4,8 @@
 
 namespace ravo::codec {
 
-/// Decodes as `DecodeRun`, up to the first of `ends`, which stays: by the blocks of `decode`. For encodings
-/// whose bytes below 0x80 are ASCII wherever they are, and only these.
+/// Decodes as `DecodeRun`, up to the first of `ends`, which is not decoded, with the block function `decode`.
+/// Only for encodings whose bytes below 0x80 are always ASCII.
 [[nodiscard]] RunUntil DecodeUntilByBlocks(DecodeRun decode, ByteSpan bytes, TextRoom text, EndBytes ends);
 
 }  // namespace ravo::codec

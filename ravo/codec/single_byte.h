@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 
-/// The engine of the single-byte encodings, over a table and its reverse.
+/// The engine of single-byte encodings, over a table and its reverse.
 namespace ravo::codec {
 
 template <const ByteTable& table>

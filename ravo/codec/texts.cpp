@@ -14,7 +14,7 @@ constexpr ByteTable kWindows1250OfSystem = WithControls(tables::kWindows_1250);
 using StringUtf8 = Utf8Engine<Utf8OfStrings>;
 using System1250 = SingleByte<kWindows1250OfSystem>;
 
-// Texts up to this length are encoded on the stack: faster than to count their bytes before.
+// Texts up to this length are encoded on the stack: faster than counting their bytes first.
 constexpr std::size_t kShort = 512;
 constexpr std::size_t kPiece = 4096;
 
@@ -26,8 +26,8 @@ void Append(std::string& to, ByteSpan bytes) {
   to.append(reinterpret_cast<const char*>(bytes.data()), bytes.size());
 }
 
-// Decodes the front of `bytes`, which it takes off: all of it if there is room. Runs, and single characters
-// between them; a sequence that the end cuts short is one too.
+// Decodes the front of `bytes` and removes it; all of it if there is room. Alternates runs and single
+// characters; a sequence that the end truncates counts as one.
 template <class Engine>
 std::size_t DecodeFront(ByteSpan& bytes, TextRoom text) {
   std::size_t made = 0;
@@ -42,7 +42,7 @@ std::size_t DecodeFront(ByteSpan& bytes, TextRoom text) {
   }
 }
 
-// No engine here makes more units than it takes bytes.
+// No engine here gives more units than it takes bytes.
 template <class Engine>
 std::u16string DecodedBy(std::string_view bytes) {
   return Written<char16_t>(bytes.size(), [bytes](char16_t* to, std::size_t room) {
@@ -51,7 +51,7 @@ std::u16string DecodedBy(std::string_view bytes) {
   });
 }
 
-// Encodes into room that is long enough, with "?" for what the encoding lacks.
+// Encodes into enough room, with "?" for what the encoding lacks.
 template <class Engine>
 std::size_t EncodeAll(TextSpan text, ByteRoom bytes) {
   std::size_t made = 0;
@@ -80,7 +80,7 @@ std::string EncodedBy(std::u16string_view text, std::size_t size) {
 
 std::u16string Decoded(const Encoding& encoding, std::string_view bytes) {
   State state;
-  // One more: an encoding with state may have a character at the end.
+  // One more unit: an encoding with state may produce a character at the end.
   std::u16string text(bytes.size() + 1, u'\0');
   text.resize(Decode(encoding, state, BytesOf(bytes), text, Input::IsLast).made);
   return text;

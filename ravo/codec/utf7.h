@@ -5,14 +5,14 @@
 
 #include <cstdint>
 
-/// UTF-7 of RFC 2152. The caller keeps what is remembered between characters.
+/// UTF-7 by RFC 2152. The caller keeps the state between characters.
 namespace ravo::codec {
 
-/// The characters that may stand as they are, by RFC 2152.
+/// Whether a character may be written directly, by RFC 2152.
 enum class Utf7Direct : std::uint8_t { Always, Optional, Never };
 [[nodiscard]] Utf7Direct Utf7DirectKind(char16_t ch) noexcept;
 
-/// The six bits of a byte of base 64; negative for any other byte.
+/// Returns the six bits of a base 64 byte; negative for any other byte.
 [[nodiscard]] int Base64Value(std::uint8_t byte) noexcept;
 [[nodiscard]] std::uint8_t Base64Byte(std::uint32_t six_bits) noexcept;
 
@@ -50,7 +50,7 @@ struct Utf7Decoder {
     return ch;
   }
 
-  /// Ends a run. False, with U+FFFD, where it is empty or its last bits are more than what fills a byte.
+  /// Ends a run. False, with U+FFFD, if the run is empty or has six or more bits, or nonzero ones, left.
   static bool LeavesWhole(Utf7State& state, char16_t& ch) {
     const bool whole = !state.empty && state.bit_count < 6 && state.bits == 0;
     state = {};
@@ -58,7 +58,7 @@ struct Utf7Decoder {
     return whole;
   }
 
-  /// True where six more bits complete a unit.
+  /// Adds six bits. True if they complete a unit.
   static bool Add(Utf7State& state, std::uint32_t six_bits, char16_t& ch) {
     state.empty = false;
     state.bits = state.bits << 6 | six_bits;
@@ -71,7 +71,7 @@ struct Utf7Decoder {
   }
 };
 
-/// Writes the characters of `most` and those that may always stand as they are; all others in base 64.
+/// Writes characters that are always direct, and those of `most`, as they are; all others in base 64.
 template <Utf7Direct most>
 struct Utf7Encoder {
   static constexpr bool kHasState = true;

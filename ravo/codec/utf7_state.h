@@ -4,11 +4,11 @@
 
 namespace ravo::codec {
 
-/// What UTF-7 remembers between characters.
+/// The state of UTF-7 between characters.
 struct Utf7State {
   bool in_base64 = false;
-  bool empty = false;          ///< the run has had no byte of base 64 yet
-  std::uint8_t bit_count = 0;  ///< of `bits`, those that make no whole unit or byte yet
+  bool empty = false;          ///< the run has no base 64 byte yet
+  std::uint8_t bit_count = 0;  ///< the number of pending bits in `bits`
   std::uint8_t unused = 0;
   std::uint32_t bits = 0;
   std::uint32_t unused_too = 0;

@@ -8,7 +8,7 @@
 
 namespace ravo::codec {
 
-/// UTF-8 of units of UTF-16, each by itself, by one of the policies of policies.h.
+/// UTF-8 of single UTF-16 units, by one of the policies of policies.h.
 template <class Policy>
 struct Utf8Engine {
   static constexpr std::size_t kMostBytes = 3;
@@ -41,7 +41,7 @@ struct Utf8Engine {
  private:
   static std::uint8_t Continuation(char16_t ch) { return static_cast<std::uint8_t>(0x80 | (ch & 0x3F)); }
 
-  /// How many bytes continue a sequence of this lead byte; 0 where it leads none.
+  /// Returns the number of trailing bytes after a lead byte; 0 for any other byte.
   static int Continuations(std::uint8_t lead) {
     if (lead < 0xC0) return 0;
     if (lead < 0xE0) return 1;
@@ -53,7 +53,7 @@ struct Utf8Engine {
 
   template <class Source>
   static char16_t DecodeSequence(Source& source, std::uint8_t lead) {
-    // The least value of one and of two continuations; all that is longer lies beyond a unit.
+    // The least value of one and of two trailing bytes; longer sequences exceed a unit.
     static constexpr std::array<std::uint32_t, 3> kLeast = {0, 0x80, 0x800};
     const int count = Continuations(lead);
     std::uint32_t value = lead & (count == 1 ? 0x1F : 0x0F);

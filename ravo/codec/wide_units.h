@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <utility>
 
-/// The encodings of two and of four bytes. A unit that the end of the data cuts short ends the data.
+/// The encodings of two and four bytes per unit. A unit that the end of the data truncates ends the data.
 namespace ravo::codec {
 
 template <class Order>
@@ -35,8 +35,8 @@ struct Utf16 {
     if (!IsSurrogate(ch)) return true;
     // Kept: a low surrogate ends the data. Test: ReadUtf16.LowSurrogateEndsTheData
     if (ch >= 0xDC00) return false;
-    // Kept: a high surrogate takes the next two bytes with it: a pair is one U+FFFD, because the library has
-    // no code point past U+FFFF. Test: ReadUtf16.SurrogatePairIsOneReplacement
+    // Kept: a high surrogate consumes the next two bytes: a pair is one U+FFFD, because the library has no
+    // code point past U+FFFF. Test: ReadUtf16.SurrogatePairIsOneReplacement
     char16_t second = 0;
     static_cast<void>(Order::Next(source, second));
     ch = kReplacement;

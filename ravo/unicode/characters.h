@@ -1,6 +1,6 @@
 #pragma once
 
-/// The character database: categories, kinds, mappings and decompositions of one code unit of UTF-16.
+/// The character database: categories, kinds, mappings and decompositions of one UTF-16 unit.
 #include <ravo/unicode/characters/categories.h>
 #include <ravo/unicode/characters/character_kinds.h>
 #include <ravo/unicode/characters/decompositions.h>

@@ -6,7 +6,7 @@
 
 namespace ravo {
 
-// The system's own conversion if it has one, then the encodings of the library.
+// The system's own conversion takes precedence over the encodings of the library.
 std::u16string FromCodePage(std::string_view bytes, std::uint32_t code_page) {
   if (code_page == kSystemCodePage) return platform::CodePages().FromCodePage(bytes);
   if (auto text = platform::CodePages().DecodeCodePage(code_page, bytes)) return *std::move(text);

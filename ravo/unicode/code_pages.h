@@ -8,18 +8,19 @@
 
 namespace ravo {
 
-/// The number that means the system's own 8-bit code page.
+/// The code page number for the system's own 8-bit code page.
 inline constexpr std::uint32_t kSystemCodePage = 0;
 
-/// Returns 8-bit text of a code page as UTF-16; empty if the code page is unknown.
+/// Returns the UTF-16 form of `bytes`, which are text in a code page; empty if the code page is unknown.
 ///
-/// `code_page` is the number that Windows gives it.
+/// `code_page` is its Windows number.
 [[nodiscard]] RAVO_API std::u16string FromCodePage(std::string_view bytes,
                                                    std::uint32_t code_page = kSystemCodePage);
 
-/// Returns UTF-16 text as 8-bit text of a code page; empty if the code page is unknown.
+/// Returns `text` in a code page; empty if the code page is unknown.
 ///
-/// A character that the code page lacks becomes what the system puts in its place, "?" at the latest.
+/// `code_page` is its Windows number. The system replaces characters that the code page lacks, by "?" as a
+/// last resort.
 [[nodiscard]] RAVO_API std::string ToCodePage(std::u16string_view text,
                                               std::uint32_t code_page = kSystemCodePage);
 
@@ -27,7 +28,7 @@ inline constexpr std::uint32_t kSystemCodePage = 0;
 
 namespace ravo::DIUnicode {
 
-/// The number of the 8-bit code page of a locale; that of the system if the locale is unknown.
+/// Returns the number of a locale's 8-bit code page; the system's code page if the locale is unknown.
 [[nodiscard]] RAVO_API std::uint32_t CodePageFromLocale(std::uint32_t Locale);
 
 }  // namespace ravo::DIUnicode

@@ -2,7 +2,7 @@
 #include <ravo/unicode/encodings.h>
 #include <ravo/unicode/utf7_state.h>
 
-// The routines and constants of every row, over its codec.
+// Defines the routines and constants of every row, over its codec.
 namespace ravo::DIUnicode {
 namespace {
 

@@ -6,7 +6,7 @@
 namespace ravo::unicode {
 namespace {
 
-// Both lists are in the order of rows.inc.
+// Both lists have the order of rows.inc.
 template <class Test>
 const codec::Encoding* EncodingWhere(Test test) noexcept {
   const auto rows = DIUnicode::EncodingRows();

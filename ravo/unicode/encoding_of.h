@@ -6,7 +6,7 @@
 
 namespace ravo::unicode {
 
-/// Returns the encoding whose routines those methods have; null if they are not of this library.
+/// Returns the encoding with these routines; null if they are not of this library.
 [[nodiscard]] const codec::Encoding* EncodingOf(const DIUnicode::TDIUnicodeReadMethods& methods) noexcept;
 [[nodiscard]] const codec::Encoding* EncodingOf(const DIUnicode::TDIUnicodeWriteMethods& methods) noexcept;
 

@@ -17,7 +17,7 @@ constexpr EncodingRow kRows[] = {
 };
 #undef RAVO_ENCODING
 
-// The rows of the engines' own list are in the same order.
+// The rows of ravo/codec have the same order.
 const EncodingRow* RowOf(const codec::Encoding* encoding) {
   return encoding == nullptr ? nullptr : &kRows[encoding - codec::Encodings().data()];
 }

@@ -7,22 +7,21 @@
 #include <cstdint>
 #include <memory>
 
-/// How the arrays of reader and writer grow: by a quarter and four, a full array at a time.
+/// Growth of the arrays of reader and writer: by a quarter plus four, only when full.
 namespace ravo::unicode {
 
-/// What follows on a capacity once it is used up. `RangeError` where 32 bits cannot hold it.
+/// Returns the next capacity of an array that is full. Throws `RangeError` if it does not fit 32 bits.
 [[nodiscard]] constexpr std::uint32_t GrownCapacity(std::uint32_t full) {
   return CheckedCast<std::uint32_t>((std::uint64_t{full} + full / 4 + 4) & ~std::uint64_t{3});
 }
 
-/// The capacity that an array has once `needed` units were stored one by one.
+/// Returns the capacity after storing `needed` units one by one.
 [[nodiscard]] constexpr std::uint32_t CapacityFor(std::uint64_t needed, std::uint32_t capacity) {
   while (capacity < needed) capacity = GrownCapacity(capacity);
   return capacity;
 }
 
-/// Moves the first `used` units to a new array of that capacity, whose other units are zero, and `beyond`
-/// more.
+/// Moves the first `used` units to a new array of `capacity` + `beyond` units; its other units are zero.
 template <class Unit>
 void Reallocate(std::unique_ptr<Unit[]>& array, std::uint32_t used, std::uint32_t capacity,
                 std::size_t beyond = 0) {

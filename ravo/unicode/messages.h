@@ -2,7 +2,7 @@
 
 #include <ravo/frame/resource_string.h>
 
-/// The messages of reader and writer. They are exported, so that callers recognise them in every language.
+/// The error messages of reader and writer, exported so that callers recognize them in every language.
 namespace ravo::DIUnicode {
 
 #define RAVO_STRING(name, id, text) /** #text */ inline constexpr ResourceString name{id, u##text};

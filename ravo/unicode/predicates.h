@@ -5,7 +5,7 @@
 
 namespace ravo::unicode {
 
-/// The test that a caller brought, or white space where he brought none.
+/// Returns the caller's test, or white space if it is null.
 [[nodiscard]] inline DIUnicode::CharPredicate OrWhiteSpace(DIUnicode::CharPredicate validate) noexcept {
   return validate != nullptr ? validate : DIUnicode::CharIsWhiteSpaceW;
 }

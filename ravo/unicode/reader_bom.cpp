@@ -4,13 +4,13 @@
 namespace ravo::DIUnicode {
 
 TDIBOM TDIUnicodeReader::ReadBOM() {
-  // Only a source that has no byte left may be left for the one below it.
+  // A source is popped only if it has no bytes left.
   if (UnreadBytes().empty()) FillSourceBuffer(true);
   while (UnreadBytes().size() < codec::kLongestByteOrderMark && FillFromStream(true) != 0) {
   }
   const codec::ByteOrderMark mark = codec::FindByteOrderMark(UnreadBytes());
   FSourceBufferPosition += static_cast<std::uint32_t>(mark.length);
-  // Both enumerations have the same marks in the same order.
+  // Both enumerations have the same order.
   static_assert(static_cast<int>(codec::ByteOrder::Utf32LittleEndian) ==
                 static_cast<int>(TDIBOM::bomutf32le));
   return static_cast<TDIBOM>(mark.order);

@@ -1,4 +1,4 @@
-// The characters that a reader collects.
+// The collected characters of a reader.
 #include <ravo/platform/file_stream.h>
 #include <ravo/unicode/characters/character_kinds.h>
 #include <ravo/unicode/growth.h>
@@ -12,7 +12,7 @@
 
 namespace ravo::DIUnicode {
 
-// Makes room for `needed` characters; the first `filled` are there, whether they count yet or not.
+// Makes room for `needed` characters and keeps the first `filled`, which may exceed `FDataSize`.
 void TDIUnicodeReader::GrowData(std::uint64_t needed, std::uint32_t filled) {
   const std::uint32_t capacity = unicode::CapacityFor(needed, FDataCapacity);
   unicode::Reallocate(FData, filled, capacity, kRoomBeyondData);
@@ -32,7 +32,7 @@ void TDIUnicodeReader::AddCrLf() {
   AddChar(u'\n');
 }
 
-// Room for `count` characters more, which count already.
+// Adds `count` characters to the Data and returns them for the caller to fill.
 std::span<char16_t> TDIUnicodeReader::ExtendData(std::size_t count) {
   const std::uint64_t needed = FDataSize + std::uint64_t{count};
   if (needed > FDataCapacity) GrowData(needed, FDataSize);

@@ -1,4 +1,4 @@
-// The collected characters as texts, trimmed or whole, and what they are.
+// The collected characters as text, trimmed or whole, and tests of them.
 #include <ravo/runtime/text.h>
 #include <ravo/unicode/characters/mappings.h>
 #include <ravo/unicode/code_pages.h>

@@ -1,5 +1,5 @@
-// The families that read and skip, each from one loop. If the encoding decodes whole runs, what belongs is
-// taken at once, and the reader is then as if it had read the characters one by one.
+// The families that read and skip, over one loop. If the encoding decodes whole runs, they take matching
+// characters a run at a time, with the same result as one by one.
 #include <ravo/codec/kernels/run.h>
 #include <ravo/codec/kernels/run_search.h>
 #include <ravo/unicode/characters/character_kinds.h>
@@ -22,11 +22,9 @@ using codec::RunUntil;
 using unicode::OrWhiteSpace;
 
 constexpr std::size_t kLongestRun = 1024;
-// Most words and numbers are shorter than the first run that is decoded to be searched; a longer run follows
-// each full one.
+// Most words and numbers fit into the first run; each full run doubles the next.
 constexpr std::size_t kFirstRun = 32;
 
-// A caller's test.
 struct Passing {
   CharPredicate validate;
 
@@ -59,7 +57,7 @@ constexpr bool kIsUntil = false;
 template <std::size_t count>
 constexpr bool kIsUntil<Not<OneOf<count>>> = true;
 
-// Whether the first byte that does not belong can be found among the bytes: what ends the run is ASCII.
+// Returns whether the run ends at a byte of ASCII, which can be found without decoding.
 template <class Belongs>
 bool EndsByAscii(const Belongs& belongs) {
   // Untested: discarded in the other instances.
@@ -78,7 +76,7 @@ std::size_t LengthIn(std::span<const Unit> run, const Belongs& belongs) {
     return static_cast<std::size_t>(std::ranges::find_if_not(run, belongs) - run.begin());
 }
 
-// How many bytes at the front are ASCII that belongs.
+// Returns the number of leading bytes that are matching ASCII.
 template <class Belongs>
 std::size_t AsciiLengthIn(std::span<const std::uint8_t> bytes, const Belongs& belongs) {
   std::size_t length = 0;
@@ -106,8 +104,8 @@ void TDIUnicodeReader::AddRun(std::span<Unit> run) {
   std::ranges::copy(run, ExtendData(run.size()).begin());
 }
 
-// Advances position, line and column past the run; its last unit becomes the current character. In one line,
-// only the character before the run can be a break that others follow.
+// Advances position, line and column past the run; its last unit becomes the current character. With
+// `Lines::One`, only the character before the run can be a line break followed by others.
 template <class Unit>
 void TDIUnicodeReader::CountRun(std::span<const Unit> run, Lines lines) noexcept {
   if (run.empty()) return;
@@ -125,7 +123,7 @@ void TDIUnicodeReader::CountRun(std::span<const Unit> run, Lines lines) noexcept
   if (FChar == u'\n' && before == u'\r') --FCharCol;
 }
 
-// ASCII that belongs, from its bytes. Answers whether there may be more.
+// Takes matching ASCII directly from the bytes. Returns whether more may follow.
 template <class Belongs>
 bool TDIUnicodeReader::TakeAscii(const Belongs& belongs, bool store) {
   const auto unread = UnreadBytes().first(std::min(UnreadBytes().size(), kLongestRun));
@@ -136,8 +134,9 @@ bool TDIUnicodeReader::TakeAscii(const Belongs& belongs, bool store) {
   return !run.empty() && run.size() == unread.size();
 }
 
-// Takes everything before a character that ends it, decoded in its place in the Data or, without Data, in
-// `room`, and that character, which becomes the current one. Nothing if something else is in between.
+// Takes everything before the first ending character, and that character, which becomes the current one.
+// Decodes directly into the Data if it is stored there, else into `room`. `Taken::All` if the ending
+// character was reached.
 template <class Belongs>
 inline auto TDIUnicodeReader::TakeUntil(std::span<char16_t> room, const Belongs& belongs, bool store)
     -> Taken {
@@ -165,7 +164,7 @@ inline auto TDIUnicodeReader::TakeUntil(std::span<char16_t> room, const Belongs&
     FCharCol += run.made + 1;
     FChar = unread[run.taken];
   } else {
-    // Reading units that were just stored would stall on store forwarding; their bytes are at hand.
+    // Reading units that were just stored would stall on store forwarding; the bytes are equal to them.
     if (run.made == run.taken)
       CountRun(unread.first(run.taken), run.lines);
     else
@@ -175,13 +174,13 @@ inline auto TDIUnicodeReader::TakeUntil(std::span<char16_t> room, const Belongs&
   return Taken::All;
 }
 
-// Takes what belongs among decoded characters.
+// Decodes a run and takes its leading characters that match.
 template <class Belongs>
 std::size_t TDIUnicodeReader::TakeDecoded(std::span<char16_t> room, const Belongs& belongs, bool store) {
   const auto unread = UnreadBytes();
   Run run = FDecodeRun(unread, room);
   const std::size_t length = LengthIn(std::span<const char16_t>(room.first(run.made)), belongs);
-  // The shorter run tells how many bytes it has.
+  // Decodes again to learn the byte count of the shorter run.
   if (length < run.made) run = FDecodeRun(unread, room.first(length));
   const auto chars = std::span<const char16_t>(room.first(run.made));
   if (store) AddRun(chars);
@@ -190,7 +189,7 @@ std::size_t TDIUnicodeReader::TakeDecoded(std::span<char16_t> room, const Belong
   return run.made;
 }
 
-// Whether the character that ends it all is the current one already.
+// Returns whether the ending character is already the current one.
 template <class Belongs>
 bool TDIUnicodeReader::TakeRuns(const Belongs& belongs, bool store) {
   if (FDecodeRun == nullptr || FPeekedCount != 0) return false;
@@ -274,8 +273,8 @@ void TDIUnicodeReader::ReadWhiteSpace() { TakeWhile(WhiteSpace{}, true); }
 void TDIUnicodeReader::SkipWhiteSpace() { TakeWhile(WhiteSpace{}, false); }
 void TDIUnicodeReader::ReadCharsTillWhiteSpace() { TakeWhile(NoWhiteSpace{}, true); }
 
-// Reads the rest of the line break that is the current character, and the character after it, from the
-// buffer, as `ReadChar` does. A branch can be predicted; a computed count would be a dependency chain.
+// Reads the rest of the current line break, and the character after it, from the buffer, as `ReadChar` does.
+// A branch can be predicted; a computed count would be a dependency chain.
 inline bool TDIUnicodeReader::TakeBufferedBreak() {
   const auto unread = UnreadBytes();
   if (FDecodeUntil == nullptr || FPeekedCount != 0 || unread.size() < 2) return false;
@@ -286,7 +285,7 @@ inline bool TDIUnicodeReader::TakeBufferedBreak() {
   return true;
 }
 
-// `first` is `count` bytes away, after a break that ends in `before`.
+// Makes `first`, `count` bytes ahead and after a line break that ends in `before`, the current character.
 inline void TDIUnicodeReader::BeginLine(std::uint8_t first, std::uint32_t count, char16_t before) {
   if (first < 0x80) [[likely]] {
     FSourceBufferPosition += count;

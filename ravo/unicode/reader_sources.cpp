@@ -1,4 +1,4 @@
-// Where the bytes of a reader come from: buffers, streams, files.
+// The sources of a reader: buffers, streams, files.
 #include <ravo/platform/file_stream.h>
 #include <ravo/runtime/checked.h>
 #include <ravo/unicode/messages.h>
@@ -16,7 +16,7 @@ void TDIUnicodeReader::Raise(const ResourceString& message, std::uint32_t number
   RaiseError(u"TDIUnicodeReader", message, number);
 }
 
-// Characters that were decoded do not count any more.
+// Discards decoded characters.
 void TDIUnicodeReader::ForgetChars() noexcept {
   FPeekedCount = 0;
   FCharOK = false;

@@ -1,4 +1,4 @@
-// Sources on top of each other, and how the bytes of the next one come.
+// The stack of sources, and refilling the buffer from it.
 #include <ravo/unicode/encodings.h>
 #include <ravo/unicode/source_buffer.h>
 #include <ravo/unicode/unicode_reader.h>
@@ -28,8 +28,8 @@ bool TDIUnicodeReader::PopSource() {
   if (FAutoFreeSourceStreams != TAutoFreeSourceStreams::afNone) delete FSourceStream;
   const std::unique_ptr<TUnicodeReaderSource> entry(FSourceStack);
   FSourceStack = entry->Next;
-  // Kept: the last character of an included source counts for the including one: a line feed at its end
-  // starts a new line there. Test: PushSource.TheLastCharacterOfASourceCountsForTheNext
+  // Kept: the location continues from the last character of a popped source: a line feed at its end starts a
+  // new line in the source below. Test: PushSource.TheLastCharacterOfASourceCountsForTheNext
   FCharPos = entry->CharPos;
   FCharLine = entry->CharLine;
   FCharCol = entry->CharCol;
@@ -39,7 +39,7 @@ bool TDIUnicodeReader::PopSource() {
   FSourceFile = std::move(entry->SourceFile);
   FSourceStream = entry->SourceStream;
   if (entry->ReadMethods.ReadChar != nullptr) {
-    // Frees our record, which has no user any more. What others keep in the state is theirs.
+    // Frees the library's own record, which is no longer used. State of other decoders is theirs to free.
     if (FReadMethods.Finalize == Read_UTF_7_Finalize && entry->ReadMethods.Finalize != Read_UTF_7_Finalize)
       unicode::FreeUtf7State(*this);
     UseReadMethods(entry->ReadMethods);
@@ -60,7 +60,7 @@ const std::u16string& TDIUnicodeReader::FirstSourceFile() const noexcept {
 }
 
 std::uint32_t TDIUnicodeReader::FillSourceBuffer(bool MoveEndToFront) {
-  // A buffer without room is no end of the stream.
+  // A full buffer is not the end of the stream.
   if (FSourceStream != nullptr && MoveEndToFront && UnreadBytes().size() == unicode::kSourceBufferSize)
     return unicode::kSourceBufferSize;
   const std::uint32_t count = FillFromStream(MoveEndToFront);

@@ -12,21 +12,21 @@ struct ResourceString;
 
 namespace ravo::DIUnicode {
 
-/// A test of one character. Where one is asked for, a null one means white space.
+/// A test of one character. Functions that take one use white space if it is null.
 using CharPredicate = bool (*)(char16_t c);
 
-/// What reader and writer share: an owner, and how they report errors.
+/// The base of reader and writer: owner and error reporting.
 class RAVO_API TDIUnicodeBase : public TComponent {
  public:
   using TComponent::TComponent;
   ~TDIUnicodeBase() override;
 
  protected:
-  /// Raises `Error` with "Class ", the name, ": " and the text.
+  /// Throws `Error` with a message of "Class ", `class_name`, ": " and `text`.
   [[noreturn]] static void RaiseError(std::u16string_view class_name, std::u16string_view text);
-  /// The same with a message of the library.
+  /// Throws `Error` with a message of the library.
   [[noreturn]] static void RaiseError(std::u16string_view class_name, const ResourceString& message);
-  /// The same with `number` in the place of the message's "%d".
+  /// Throws `Error` with a message of the library in which `number` replaces "%d".
   [[noreturn]] static void RaiseError(std::u16string_view class_name, const ResourceString& message,
                                       std::uint64_t number);
 };

@@ -10,12 +10,12 @@ TDIUnicodeReader::TDIUnicodeReader(TComponent* AOwner) : TDIUnicodeBase(AOwner) 
 TDIUnicodeReader::~TDIUnicodeReader() {
   ClearSourceStack();
   if (FReadMethods.Finalize != nullptr) FReadMethods.Finalize(*this);
-  // Kept: the destructor does not free the first stream, whatever `AutoFreeSourceStreams` is. Test:
+  // Kept: the destructor does not delete the first stream, whatever `AutoFreeSourceStreams` is. Test:
   // AutoFreeSourceStreams.LeavesTheFirstStreamOfAReaderThatGoes
   if (FSourceStream != nullptr) DropStreamBuffer();
 }
 
-// Methods that are complete: what is missing is put in its place.
+// Sets the methods, completed with defaults.
 void TDIUnicodeReader::UseReadMethods(const TDIUnicodeReadMethods& methods) {
   FReadMethods = methods;
   if (FReadMethods.ReadChar == nullptr) {
@@ -28,7 +28,7 @@ void TDIUnicodeReader::UseReadMethods(const TDIUnicodeReadMethods& methods) {
 }
 
 void TDIUnicodeReader::SetReadMethods(const TDIUnicodeReadMethods& methods) {
-  // They may be our own, which `Finalize` may still look at.
+  // `methods` may refer to `FReadMethods`, which `Finalize` may still read.
   const TDIUnicodeReadMethods copy = methods;
   if (FReadMethods.Finalize != nullptr) FReadMethods.Finalize(*this);
   FState = 0;
@@ -41,8 +41,7 @@ bool TDIUnicodeReader::AddCharReadChar() {
   return ReadChar();
 }
 
-// A source that ended is left before the decoder is chosen, so that the one that goes on is read with its
-// own.
+// Pops a source that ended before choosing the decoder, so that the next source is read with its own.
 bool TDIUnicodeReader::Decode(char16_t& ch) {
   if (FSourceStack != nullptr && FSourceBufferPosition >= FSourceBufferSize) FillSourceBuffer(false);
   return FReadMethods.ReadChar(*this, ch);
@@ -65,7 +64,7 @@ bool TDIUnicodeReader::PeekChars(std::uint32_t Count) {
   return true;
 }
 
-// What is peeked begins at the front again, with room for `Count` in all.
+// Moves peeked characters to the front of an array with room for `Count`.
 void TDIUnicodeReader::MakePeekRoom(std::uint32_t Count) {
   if (FPeekedCapacity >= Count) {
     std::copy_n(FPeekedChars.get() + FPeekedStart, FPeekedCount, FPeekedChars.get());

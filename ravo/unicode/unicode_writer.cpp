@@ -12,7 +12,7 @@ TDIUnicodeWriter::~TDIUnicodeWriter() {
   try {
     if (FDataStream != nullptr) FlushDataBuffer();
   } catch (const std::exception&) {
-    // Whoever wants to know flushes before.
+    // A destructor must not throw; `FlushDataBuffer` before shows the error.
   }
   if (FWriteMethods.Finalize != nullptr) FWriteMethods.Finalize(*this);
 }
@@ -23,7 +23,7 @@ void TDIUnicodeWriter::Raise(const ResourceString& message, std::uint64_t number
   RaiseError(u"TDIUnicodeWriter", message, number);
 }
 
-// Methods that are complete: what is missing is put in its place.
+// Sets the methods, completed with defaults.
 void TDIUnicodeWriter::UseWriteMethods(const TDIUnicodeWriteMethods& methods) {
   FWriteMethods = methods;
   if (FWriteMethods.WriteChar == nullptr) {
@@ -35,7 +35,7 @@ void TDIUnicodeWriter::UseWriteMethods(const TDIUnicodeWriteMethods& methods) {
 }
 
 void TDIUnicodeWriter::SetWriteMethods(const TDIUnicodeWriteMethods& methods) {
-  // They may be our own, which `Finalize` may still look at.
+  // `methods` may refer to `FWriteMethods`, which `Finalize` may still read.
   const TDIUnicodeWriteMethods copy = methods;
   if (FWriteMethods.Finalize != nullptr) FWriteMethods.Finalize(*this);
   FState = 0;
@@ -43,7 +43,7 @@ void TDIUnicodeWriter::SetWriteMethods(const TDIUnicodeWriteMethods& methods) {
   if (FWriteMethods.Init != nullptr) FWriteMethods.Init(*this);
 }
 
-// Whether the handler's answer, or its replacement, settled the matter; `answer` is then the result.
+// Returns whether the handler or its replacement settled the matter; `answer` is then the result.
 bool TDIUnicodeWriter::AskAboutChar(char16_t c, bool& answer) {
   char16_t replacement = FReplacementChar;
   for (std::uint32_t attempt = 0;; ++attempt) {

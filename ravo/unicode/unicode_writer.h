@@ -18,163 +18,165 @@ namespace ravo::DIUnicode {
 
 class TDIUnicodeWriter;
 
-/// What plugs an encoding into a writer. All but `WriteChar` may be null.
+/// The routines with which a writer encodes an encoding. All but `WriteChar` may be null.
 struct TDIUnicodeWriteMethods {
-  /// Called when the methods are plugged in.
+  /// Called after the methods are set.
   void (*Init)(TDIUnicodeWriter& writer) = nullptr;
-  /// Encodes a character; false where the encoding lacks it.
+  /// Encodes a character. False if the encoding lacks it.
   bool (*WriteChar)(TDIUnicodeWriter& writer, char16_t ch) = nullptr;
-  /// Writes what the encoder holds back.
+  /// Writes pending output of the encoder.
   void (*Flush)(TDIUnicodeWriter& writer) = nullptr;
-  /// Called when others take their place, and at the end.
+  /// Called before other methods replace them, and by the destructor.
   void (*Finalize)(TDIUnicodeWriter& writer) = nullptr;
 };
 
-/// Methods that stand somewhere.
+/// A pointer to write methods, owned by someone else.
 using PDIUnicodeWriteMethods = const TDIUnicodeWriteMethods*;
 
-/// What is to be done about a character that the encoding lacks: write the replacement; nothing, the handler
-/// wrote something itself; give up.
+/// What the writer does about a character that the encoding lacks. `icWrite`: writes the replacement.
+/// `icOwnerWrite`: nothing; the handler wrote something itself. `icAbort`: gives up.
 enum class TDIInvalidCharAction : std::uint8_t { icWrite, icOwnerWrite, icAbort };
 
-/// Decides about a character that the encoding lacks. `ReplacementChar` and `Action` may be changed.
-/// `Attempt` counts from 0 how often it was asked about this character: it is asked again as long as it
-/// brings another replacement that the encoding lacks too.
+/// Decides about a character that the encoding lacks. It may change `ReplacementChar` and `Action`. `Attempt`
+/// counts its calls for this character from 0: it is called again as long as it gives a different replacement
+/// that the encoding lacks too.
 using TDIInvalidCharEvent =
     std::function<void(TDIUnicodeWriter& Sender, char16_t InvalidChar, char16_t& ReplacementChar,
                        std::uint32_t Attempt, TDIInvalidCharAction& Action)>;
 
-/// Encodes UTF-16 characters, one at a time, into bytes of a chosen encoding. The bytes collect in a buffer,
-/// the Data, or go on to a stream in blocks. Errors are raised as `Error` whose message begins
-/// "Class TDIUnicodeWriter: ". One thread uses one object at a time.
+/// Encodes UTF-16 characters, one at a time, into bytes of a chosen encoding.
+///
+/// The bytes collect in a buffer, the Data, or are written to a stream in blocks. Errors are thrown as
+/// `Error` with a message that begins "Class TDIUnicodeWriter: ". One thread at a time may use an object.
 class RAVO_API TDIUnicodeWriter : public TDIUnicodeBase {
  public:
-  /// The published properties, in their order.
+  /// The names of the published properties, in order.
   static constexpr auto kPublishedProperties =
       std::to_array<std::string_view>({"ReplacementChar", "OnInvalidChar", "Data", "DataSize", "DataCapacity",
                                        "DataStream", "WriteMethods", "State"});
 
-  /// Writes ISO-8859-1 until told otherwise.
+  /// Creates a writer of ISO-8859-1, without a stream.
   explicit TDIUnicodeWriter(TComponent* AOwner = nullptr);
-  /// Hands what is held back to the stream, if there is one. Errors of the stream are lost here:
-  /// `FlushDataBuffer` before shows them. The stream is not freed.
+  /// Flushes to the stream, if there is one, and does not delete it. Errors of the stream are lost here; call
+  /// `FlushDataBuffer` before to see them.
   ~TDIUnicodeWriter() override;
 
-  /// Plugs another encoding in: the old `Finalize` is called, the state becomes 0, the new `Init` is called.
-  /// What the old encoder holds back is lost unless flushed before. Methods without `WriteChar` mean
+  /// Sets the encoding: calls the old `Finalize`, sets the state to 0 and calls the new `Init`. Pending
+  /// output of the old encoder is lost unless it is flushed before. Methods without `WriteChar` mean
   /// ISO-8859-1.
   void SetWriteMethods(const TDIUnicodeWriteMethods& methods);
   [[nodiscard]] const TDIUnicodeWriteMethods& WriteMethods() const noexcept { return FWriteMethods; }
-  /// The encoder's own state: a number or a pointer. 0 whenever write methods are set.
+  /// Returns the encoder's own state, a number or a pointer. Setting write methods resets it to 0.
   [[nodiscard]] std::uintptr_t State() const noexcept { return FState; }
   void SetState(std::uintptr_t state) noexcept { FState = state; }
 
-  /// What is written in the place of a character that the encoding lacks.
+  /// Returns the replacement for characters that the encoding lacks.
   [[nodiscard]] char16_t ReplacementChar() const noexcept { return FReplacementChar; }
   void SetReplacementChar(char16_t c) noexcept { FReplacementChar = c; }
-  /// The handler of a character that the encoding lacks; may be empty.
+  /// Returns the handler of characters that the encoding lacks; may be empty.
   [[nodiscard]] const TDIInvalidCharEvent& OnInvalidChar() const noexcept { return FOnInvalidChar; }
   void SetOnInvalidChar(TDIInvalidCharEvent Handler) { FOnInvalidChar = std::move(Handler); }
 
-  // Where the bytes go.
+  // The output.
 
-  /// Passes bytes on to a stream in blocks, or, for null, collects them again. Bytes that wait for the stream
-  /// before are written to it; collected ones go to the new stream. The caller keeps the
-  /// stream, frees it, and keeps it at least as long as the writer uses it.
+  /// Writes bytes to a stream in blocks, or collects them if it is null. Bytes buffered for the previous
+  /// stream are written to it; collected ones go to the new stream. The caller owns the stream and keeps it
+  /// at least as long as the writer uses it.
   void SetDataStream(ByteStream* AStream);
   [[nodiscard]] ByteStream* DataStream() const noexcept { return FDataStream; }
-  /// Flushes, then frees the stream, whoever made it, by `delete`.
+  /// Flushes, then deletes the stream, also one of the caller's.
   void FreeDataStream();
-  /// Writes what the encoder holds back, and to the stream, if there is one, what waits for it.
+  /// Writes pending output of the encoder, and all buffered bytes to the stream, if there is one.
   void FlushDataBuffer();
-  /// Makes room: hands the bytes to the stream, or grows the Data by a quarter and four.
+  /// Makes room: writes the buffered bytes to the stream or, without one, grows the Data by a quarter plus
+  /// four bytes.
   void RequestData();
 
-  /// The bytes so far; with a stream, those that wait for it.
+  /// Returns the collected bytes; with a stream, those that are not yet written to it.
   [[nodiscard]] std::span<const std::uint8_t> Data() const noexcept { return {FData.get(), FDataSize}; }
-  /// In bytes.
+  /// Returns the size of the Data in bytes.
   [[nodiscard]] std::uint32_t DataSize() const noexcept { return FDataSize; }
-  /// How many bytes fit without more memory.
+  /// Returns how many bytes fit before the Data is reallocated.
   [[nodiscard]] std::uint32_t DataCapacity() const noexcept { return FDataCapacity; }
-  /// Adds the next byte of the buffer as it is. Raises without a buffer ("Data is not assigned") and where it
-  /// is full ("DataSize out of bounds").
+  /// Adds the next byte of the buffer as it is. Throws `Error` if there is no buffer ("Data is not assigned")
+  /// or it is full ("DataSize out of bounds").
   void IncDataSize();
-  /// Shortens the Data, or lengthens it by zeros. With a stream, raises beyond the capacity ("DataSize out of
-  /// bounds").
+  /// Sets the size of the Data in bytes; added bytes are zero. With a stream, throws `Error` if `Size`
+  /// exceeds the capacity ("DataSize out of bounds").
   void SetDataSize(std::uint32_t Size);
-  /// Forgets all bytes and what the encoder holds back, and starts that anew. Without a stream the memory is
-  /// freed.
+  /// Discards all bytes and pending output of the encoder, and resets its state. Without a stream the memory
+  /// is freed.
   void Clear();
 
   // Bytes, for encoders.
 
-  /// One byte.
+  /// Writes one byte.
   void WriteByte(std::uint8_t byte) {
     if (FDataSize == FDataCapacity) RequestData();
     if (FDataSize < FDataCapacity) FData[FDataSize++] = byte;
   }
-  /// `Size` bytes as they are.
+  /// Writes `Size` bytes as they are.
   void WriteBufDirect(const void* Buffer, std::uint32_t Size);
-  /// The bytes as they are.
+  /// Writes bytes as they are.
   void WriteStrRaw(std::string_view Value);
 
-  // Characters. False if one could be encoded in no way; those after it are not written.
+  // Characters. These return false if a character cannot be encoded at all; those after it are not written.
 
-  /// Encodes a character; what the encoding lacks goes to `WriteInvalidChar`.
+  /// Encodes a character; calls `WriteInvalidChar` if the encoding lacks it.
   bool WriteCharW(char16_t c) { return FWriteMethods.WriteChar(*this, c) || WriteInvalidChar(c); }
-  /// Calls the encoder; nothing else.
+  /// Encodes a character; false if the encoding lacks it.
   bool TryWriteCharW(char16_t c) { return FWriteMethods.WriteChar(*this, c); }
-  /// Writes something in the place of a character that the encoding lacks: what the handler decides, else the
-  /// replacement character, as a last resort "?". False where none of it can be encoded or the handler gives
-  /// up.
+  /// Writes a replacement for a character that the encoding lacks: the handler's, else the replacement
+  /// character, else "?". False if the encoding lacks all of them or the handler gives up.
   bool WriteInvalidChar(char16_t c);
-  /// The same character `Count` times.
+  /// Writes the same character `Count` times.
   bool WriteCharsW(char16_t c, std::uint32_t Count);
-  /// The characters of a buffer.
+  /// Writes the characters of a buffer.
   bool WriteBufW(const char16_t* Buffer, std::uint32_t CharCount);
-  /// The characters of a text.
+  /// Writes the characters of a text.
   bool WriteStrW(std::u16string_view Value);
-  /// A text, and carriage return and line feed.
+  /// Writes a text, then carriage return and line feed.
   bool WriteStrLineBreakW(std::u16string_view Value);
-  /// 8-bit text of a code page; 0 means the system's. Nothing for an unknown code page.
+  /// Writes text given in a code page; 0 means the system's. Writes nothing if the code page is unknown.
   bool WriteBufA(const char* Buffer, std::uint32_t CharCount, std::uint32_t CodePage = 0);
-  /// A text of a code page; 0 means the system's.
+  /// Writes text given in a code page; 0 means the system's.
   bool WriteStrA(std::string_view Value, std::uint32_t CodePage = 0);
-  /// A text of a code page, and carriage return and line feed.
+  /// Writes text given in a code page, then carriage return and line feed.
   bool WriteStrLineBreakA(std::string_view Value, std::uint32_t CodePage = 0);
-  /// Carriage return and line feed, straight to the encoder.
+  /// Writes carriage return and line feed by the encoder alone, without a replacement.
   bool WriteLineBreak();
-  /// The number of the character in decimal digits, or in upper-case hexadecimal ones, without leading zeros.
+  /// Writes the code of a character in decimal digits, without leading zeros.
   bool WriteDecimalCodePoint(char16_t c);
-  /// The number of the character in upper-case hexadecimal digits, without leading zeros.
+  /// Writes the code of a character in upper-case hexadecimal digits, without leading zeros.
   bool WriteHexCodePoint(char16_t c);
-  /// A number in decimal digits, "-" in front of a negative one; with `StartDiv`, a power of ten, with zeros
-  /// in front up to the digit that it stands for: 7 with 100 gives 007.
+  /// Writes a number in decimal digits, with "-" if it is negative. `StartDiv`, a power of ten, adds leading
+  /// zeros up to its own digit: 7 with 100 gives 007.
   bool WriteDecimalNumber(std::int32_t Number);
   bool WriteDecimalNumber(std::int32_t Number, std::int64_t StartDiv);
   bool WriteDecimalNumber(std::int64_t Number);
   bool WriteDecimalNumber(std::int64_t Number, std::int64_t StartDiv);
 
-  /// Every character of a file, or of a stream from its position on; nothing for null. A byte-order mark is a
-  /// character too. Raises `StreamError` where the file cannot be opened.
+  /// Writes every character of a file, including a byte-order mark. Throws `StreamError` if the file cannot
+  /// be opened.
   bool WriteFile(std::u16string_view AFileName, const TDIUnicodeReadMethods& AReadMethods);
-  /// Every character of a stream from its position on; nothing for null.
+  /// Writes every character of a stream from its position on, including a byte-order mark; nothing if it is
+  /// null.
   bool WriteStream(ByteStream* AStream, const TDIUnicodeReadMethods& AReadMethods);
 
-  /// The Data as UTF-16 text, for what was written so: two bytes a character in the machine's order, an odd
-  /// last byte left out.
+  /// Returns the Data as UTF-16 text, if it was written in UTF-16: two bytes per character in the machine's
+  /// byte order, without an odd last byte.
   [[nodiscard]] std::u16string DataToStr() const { return DataToStrW(); }
   [[nodiscard]] std::u16string DataToStrW() const;
-  /// The same text in the 8-bit text of a code page; 0 means the system's.
+  /// Returns `DataToStrW` in a code page; 0 means the system's.
   [[nodiscard]] std::string DataToStrA(std::uint32_t CodePage = 0) const;
-  /// The bytes of the Data as they are.
+  /// Returns the bytes of the Data as they are.
   [[nodiscard]] std::string DataToStrRaw() const;
 
-  /// Writes the Data to another stream. Raises "Destination stream is not assigned" for null, and
-  /// `StreamError` where the stream does not take it all. What the encoder holds back is not in the Data
-  /// before it is flushed.
+  /// Writes the Data to a stream. Throws `Error` if it is null ("Destination stream is not assigned") and
+  /// `StreamError` if it does not take all of it. The Data lacks pending output of the encoder until it is
+  /// flushed.
   void SaveDataToStream(ByteStream* Stream) const;
-  /// Makes or replaces the file.
+  /// Creates or replaces the file.
   void SaveDataToFile(std::u16string_view FileName) const;
 
  private:
@@ -199,7 +201,7 @@ class RAVO_API TDIUnicodeWriter : public TDIUnicodeBase {
   char16_t FReplacementChar = u'?';
   TDIInvalidCharEvent FOnInvalidChar;
 
-  /// The run beside the write methods in force, or null.
+  /// Encodes a run in the encoding of `FWriteMethods`; null if it cannot.
   codec::Run (*FEncodeRun)(std::span<const char16_t> text, std::span<std::uint8_t> bytes) = nullptr;
 };
 

@@ -4,11 +4,11 @@
 
 #include <cstdint>
 
-/// What UTF-7 remembers between characters, in a record to which the `State` of a reader or writer points.
+/// The UTF-7 state of a reader or writer: its `State` points to a record.
 namespace ravo::unicode {
 
-/// Returns the record, and makes it first if `State` is 0: a source that was popped brings its routines back
-/// without their `Init`.
+/// Returns the record, created first if `State` is 0: popping a source restores its routines without a call
+/// of `Init`.
 template <class Holder>
 codec::Utf7State& Utf7StateOf(Holder& holder) {
   if (holder.State() == 0) holder.SetState(reinterpret_cast<std::uintptr_t>(new codec::Utf7State));

@@ -2,7 +2,7 @@
 
 #include <ravo/frame/resource_string.h>
 
-/// The messages that the reader shares with the general utilities, which stand above it: their rows alone.
+/// The messages that the reader shares with ravo/utils. Only the rows, because that room is above this one.
 namespace ravo::unicode {
 
 #define RAVO_STRING(name, id, text) inline constexpr ResourceString name{id, u##text};

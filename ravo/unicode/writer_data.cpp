@@ -1,4 +1,4 @@
-// The bytes that a writer collects, and the stream that takes them.
+// The collected bytes of a writer, and its stream.
 #include <ravo/platform/file_stream.h>
 #include <ravo/runtime/checked.h>
 #include <ravo/unicode/growth.h>
@@ -56,7 +56,7 @@ void TDIUnicodeWriter::SetDataStream(ByteStream* AStream) {
 void TDIUnicodeWriter::FreeDataStream() {
   if (FDataStream == nullptr) return;
   const std::unique_ptr<ByteStream> stream(FDataStream);
-  // It goes also where it refuses what is left.
+  // Deletes the stream also if the flush throws.
   try {
     FlushDataBuffer();
   } catch (...) {
@@ -87,7 +87,7 @@ void TDIUnicodeWriter::Clear() {
   SetWriteMethods(FWriteMethods);
 }
 
-// Piece by piece, as single bytes would fill the buffer.
+// Fills the buffer piece by piece, to the same block sizes as single bytes would.
 void TDIUnicodeWriter::WriteBufDirect(const void* Buffer, std::uint32_t Size) {
   const auto* bytes = static_cast<const std::uint8_t*>(Buffer);
   if (FDataStream == nullptr && Size > FDataCapacity - FDataSize) GrowData(std::uint64_t{FDataSize} + Size);

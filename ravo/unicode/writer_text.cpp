@@ -1,5 +1,5 @@
-// Texts, numbers, files and streams through a writer. Where the encoding encodes whole runs, those go at
-// once; a character that needs a decision goes by itself.
+// Texts, numbers, files and streams for a writer. If the encoding encodes whole runs, they are written run by
+// run; a character that needs a decision is written singly.
 #include <ravo/codec/kernels/run.h>
 #include <ravo/platform/file_stream.h>
 #include <ravo/runtime/checked.h>
@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::size_t kPiece = 4096;
 
-// `start_div` as a power of ten with at least as many digits as the number.
+// Returns `start_div` as a power of ten with at least as many digits as `number`.
 std::uint64_t LargestPower(std::uint64_t number, std::uint64_t start_div) {
   std::uint64_t power = 1;
   while (start_div / power >= 10 || number / power >= 10) power *= 10;
@@ -26,7 +26,7 @@ std::uint64_t Magnitude(std::int64_t number) {
 
 }  // namespace
 
-// Encodes what comes at once and fits into the buffer; gives how many characters that were.
+// Encodes a run that fits into the buffer and returns its length in characters.
 std::size_t TDIUnicodeWriter::WriteRun(std::u16string_view text) {
   if (FEncodeRun == nullptr) return 0;
   const std::span room(FData.get() + FDataSize, FDataCapacity - FDataSize);

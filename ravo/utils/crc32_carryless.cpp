@@ -11,8 +11,8 @@ namespace ravo::utils {
 namespace {
 
 // Polynomials over the field of two elements. A register has the highest power in its lowest bit, as the
-// bytes of a text have. Hence the product of two 64-bit registers, read as a register of 128 bits, is the
-// product of the polynomials times x; the constants have one power less for that.
+// bytes of a text do. So the product of two 64-bit registers, read as a register of 128 bits, is the product
+// of the polynomials times x; the constants have one power less to compensate.
 constexpr std::uint64_t kPolynomial = 0x104C11DB7;
 constexpr std::uint64_t kPolynomialRegister = 0x1DB710641;
 constexpr std::size_t kBlock = 16;
@@ -24,14 +24,14 @@ constexpr std::uint64_t PowerModuloPolynomial(std::size_t power) {
   return value;
 }
 
-// The polynomial in the last bits of a register of `bits`.
+// Returns the polynomial as a register of `bits`, in its last bits.
 constexpr std::uint64_t AsRegister(std::uint64_t polynomial, int bits) {
   std::uint64_t reversed = 0;
   for (int i = 0; i < bits; ++i) reversed |= (polynomial >> i & 1) << (bits - 1 - i);
   return reversed;
 }
 
-// x^96 divided by the polynomial, as a register of the powers 64 to 1.
+// Returns x^96 divided by the polynomial, as a register of the powers 64 to 1.
 constexpr std::uint64_t QuotientRegister() {
   std::uint64_t quotient = 0;
   std::uint64_t rest = std::uint64_t{1} << 32;
@@ -45,7 +45,7 @@ constexpr std::uint64_t QuotientRegister() {
 
 using Block = __m128i;
 
-// What carries the two halves of a block over `blocks` blocks.
+// Returns the constants that fold the two halves of a block `blocks` blocks ahead.
 template <std::size_t blocks>
 RAVO_CARRYLESS Block Distance() {
   constexpr std::uint64_t first = AsRegister(PowerModuloPolynomial(blocks * kBlockBits + 63), 64);
@@ -57,14 +57,14 @@ RAVO_CARRYLESS Block Load(const std::byte* from) {
   return _mm_loadu_si128(reinterpret_cast<const Block*>(from));
 }
 
-// `block` carried over a distance onto `onto`.
+// Folds `block` over `distance` into `onto`.
 RAVO_CARRYLESS Block Fold(Block block, Block distance, Block onto) {
   const Block first = _mm_clmulepi64_si128(block, distance, 0x00);
   const Block second = _mm_clmulepi64_si128(block, distance, 0x11);
   return _mm_xor_si128(_mm_xor_si128(first, onto), second);
 }
 
-// Four blocks of a text side by side, the first carried over to the last in the end.
+// Folds four blocks in parallel, and at the end all of them into the last one.
 RAVO_CARRYLESS Block FoldFours(Block first, const std::byte*& from, std::size_t& count) {
   Block four[4] = {first, Load(from + kBlock), Load(from + 2 * kBlock), Load(from + 3 * kBlock)};
   for (from += 4 * kBlock, count -= 4 * kBlock; count >= 4 * kBlock;
@@ -76,7 +76,7 @@ RAVO_CARRYLESS Block FoldFours(Block first, const std::byte*& from, std::size_t&
   return Fold(second, Distance<2>(), fourth);
 }
 
-// Appends the last `count` bytes of a text, fewer than a block, whose last block is `last`.
+// Folds in the last `count` bytes of a text, fewer than a block; `last` is the block that ends with them.
 RAVO_CARRYLESS Block FoldRest(Block block, Block last, std::size_t count) {
   static constexpr std::array<std::uint8_t, 3 * kBlock> kShifts = {
       0x80, 0x80, 0x80, 0x80, 0x80, 0x80, 0x80, 0x80, 0x80, 0x80, 0x80, 0x80, 0x80, 0x80, 0x80, 0x80,  //
@@ -89,7 +89,7 @@ RAVO_CARRYLESS Block FoldRest(Block block, Block last, std::size_t count) {
   return Fold(pushed_out, Distance<1>(), _mm_blendv_epi8(kept, last, towards_front));
 }
 
-// The remainder of a block times x^32: 96 bits by one product, then Barrett's division.
+// Returns the remainder of a block times x^32: 96 bits by one product, then Barrett reduction.
 RAVO_CARRYLESS std::uint32_t Reduce(Block block) {
   const Block constants = _mm_set_epi64x(static_cast<long long>(QuotientRegister()),
                                          static_cast<long long>(AsRegister(PowerModuloPolynomial(95), 32)));

@@ -7,8 +7,8 @@
 #include <span>
 #include <string_view>
 
-/// The ways to compute the one CRC-32. They give identical results; `UpdateCrc32` uses the fastest that the
-/// processor can run. Here for tests and benchmarks.
+/// The kernels of the CRC-32. They give identical results; `UpdateCrc32` uses the fastest one that the
+/// processor can run. Declared here for tests and benchmarks.
 namespace ravo::utils {
 
 struct Crc32Kernel {
@@ -19,19 +19,19 @@ struct Crc32Kernel {
 
 extern constinit codec::KernelChoice<Crc32Kernel> crc32_choice;
 
-/// All of them, the plain reference first and the fastest last.
+/// Returns all kernels, the plain reference first and the fastest last.
 [[nodiscard]] inline std::span<const Crc32Kernel> Crc32Kernels() noexcept { return crc32_choice.All(); }
 
-/// Makes `UpdateCrc32` use one kernel for as long as this object lives. For tests; not for several threads.
+/// Makes `UpdateCrc32` use one kernel for the lifetime of this object. For tests; not thread-safe.
 class ScopedCrc32Kernel : public codec::ScopedKernel<Crc32Kernel> {
  public:
   explicit ScopedCrc32Kernel(const Crc32Kernel& kernel) noexcept : ScopedKernel(crc32_choice, kernel) {}
 };
 
-/// Byte by byte.
+/// The reference: byte by byte, with one table.
 [[nodiscard]] std::uint32_t UpdateCrc32Bytewise(std::uint32_t crc, std::span<const std::byte> bytes) noexcept;
 
-/// Five words at a time, each through tables of its own, so that their look-ups do not wait for each other.
+/// Five words at a time in independent strands, which shortens the dependency chain of table lookups.
 [[nodiscard]] std::uint32_t UpdateCrc32Braided(std::uint32_t crc, std::span<const std::byte> bytes) noexcept;
 
 /// Carry-less multiplication (PCLMULQDQ with SSE4.1), if `CanMultiplyCarryless`.

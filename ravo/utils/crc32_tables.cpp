@@ -11,8 +11,7 @@ static_assert(std::endian::native == std::endian::little, "a word's first byte i
 
 using Word = std::size_t;
 constexpr std::size_t kWordBytes = sizeof(Word);
-// Strands of words, every fifth word of a text to each: none waits for the look-ups of another. More than
-// five have no registers left.
+// Independent strands: each takes every fifth word, so lookups overlap. More than five run out of registers.
 constexpr std::size_t kStrands = 5;
 constexpr std::size_t kRowBytes = kStrands * kWordBytes;
 constexpr std::size_t kFewestRows = 4;
@@ -20,7 +19,7 @@ constexpr std::size_t kFewestRows = 4;
 template <std::size_t count>
 using Tables = std::array<std::array<std::uint32_t, 256>, count>;
 
-// Table k carries a register over its lowest byte, which `first` + k more bytes follow.
+// Table k advances a register past its lowest byte, with `first` + k more bytes after it.
 // Untested: runs at compile time only.
 template <std::size_t first>
 constexpr Tables<kWordBytes> MakeTables() {
@@ -42,8 +41,8 @@ constexpr Tables<kWordBytes> MakeTables() {
   return wanted;
 }
 
-// Over a word that the words of all strands, its own included, separate from where its register goes on; and
-// over a word alone.
+// Advance a register past a word: `kOverRow` to the same strand in the next row, `kOverWord` to the next
+// word.
 constexpr auto kOverRow = MakeTables<kRowBytes - kWordBytes>();
 constexpr auto kOverWord = MakeTables<0>();
 
@@ -59,7 +58,7 @@ std::uint32_t Carried(Word word, const Tables<kWordBytes>& tables) {
   return crc;
 }
 
-// `rows` rows of five words, at least one: the registers of the strands meet in the last one.
+// Advances past `rows` rows of five words, at least one; the last row combines the strands.
 std::uint32_t OverRows(std::uint32_t crc, const std::byte* from, std::size_t rows) {
   std::array<std::uint32_t, kStrands> strands{crc};
   for (; rows > 1; --rows, from += kRowBytes) {

@@ -1,4 +1,4 @@
-// Whole runs against single characters, with sources and room that end at a guard page.
+// Compares whole runs with single characters; sources and room end at a guard page.
 #include "one_by_one.h"
 #include "support/guarded_buffer.h"
 #include <ravo/codec/kernels/kernel_set.h>
@@ -17,7 +17,8 @@ using test::WriteOneByOne;
 
 using Bytes = std::vector<std::uint8_t>;
 
-// Runs as far as they go, a single character where they stop, as a reader does it. Room at a guard page.
+// Decodes runs as far as they go and a single character where they stop, as a reader does. Room ends at a
+// guard page.
 std::u16string ByRuns(const Encoding& row, const Bytes& bytes, std::size_t room) {
   const test::GuardedBuffer source(std::as_bytes(std::span(bytes)));
   const std::vector<std::byte> empty(2 * room);
@@ -35,7 +36,7 @@ std::u16string ByRuns(const Encoding& row, const Bytes& bytes, std::size_t room)
   }
 }
 
-// Bytes of long words of few kinds, so that blocks of a kind and changes between them both occur.
+// Returns words of few kinds of bytes, so that both uniform blocks and changes of kind occur.
 Bytes RandomBytes(std::mt19937& random, std::string_view alphabet) {
   Bytes bytes;
   const std::size_t words = random() % 12;
@@ -83,7 +84,7 @@ TEST_P(EncodingRunsOfKernel, DecodeWhatSingleCharactersDecode) {
   }
 }
 
-// A run up to an end is what single characters give in front of the end, or some of it; bytes and room end at
+// Expects a run up to an end to be a prefix of the single characters before the end; bytes and room end at
 // guard pages.
 void ExpectRunUntil(const Encoding& row, const Bytes& bytes, std::size_t room, EndBytes ends) {
   const test::GuardedBuffer source(std::as_bytes(std::span(bytes)));
@@ -121,7 +122,7 @@ TEST_P(EncodingRunsOfKernel, EndBeforeAByte) {
   }
 }
 
-// Sequences at every place of the blocks, whole, cut short and overlong.
+// Complete, truncated and overlong sequences at every position of a block.
 TEST_P(EncodingRunsOfKernel, TakeSequencesAcrossBlocks) {
   using namespace std::string_view_literals;
   const Encoding& row = *FindEncoding("UTF_8");
@@ -134,7 +135,7 @@ TEST_P(EncodingRunsOfKernel, TakeSequencesAcrossBlocks) {
         const Bytes bytes(text.begin(), text.end());
         ASSERT_EQ(ByRuns(row, bytes, 300), ReadOneByOne(row, text)) << before << ' ' << behind;
         ASSERT_NO_FATAL_FAILURE(ExpectRunUntil(row, bytes, 300, EndBytes('y', '\n', '\n')));
-        // The blocks of others than ASCII.
+        // Also for blocks that are not ASCII.
         text.insert(0, "\xC5\xBE");
         const Bytes mixed(text.begin(), text.end());
         ASSERT_EQ(ByRuns(row, mixed, 300), ReadOneByOne(row, text)) << before << ' ' << behind;
@@ -159,14 +160,14 @@ std::u16string RandomText(std::mt19937& random, const Encoding& row) {
   return text;
 }
 
-// A run stops at the first refused character or where the room ends, and has the bytes of single characters.
+// A run stops at the first refused character or at the end of the room, with the bytes of single characters.
 TEST_P(EncodingRunsOfKernel, EncodeWhatSingleCharactersEncode) {
   std::mt19937 random(2);
   for (const Encoding& row : Encodings()) {
     if (row.encode_run == nullptr) continue;
     for (int i = 0; i < 120; ++i) {
       std::u16string text = RandomText(random, row);
-      // Every other time only what the encoding has.
+      // Every second text has only characters of the encoding.
       if (i % 2 == 0)
         std::erase_if(text, [&](char16_t ch) { return !WriteOneByOne(row, std::u16string_view(&ch, 1)); });
       const std::vector<std::byte> empty(random() % 700);

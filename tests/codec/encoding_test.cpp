@@ -1,5 +1,4 @@
-// Steps over spans: however a text is cut, the parts give what the whole gives, and each step says why it
-// ended.
+// Steps over spans: any division of a text gives the same result, and each step reports why it stopped.
 #include "one_by_one.h"
 #include <ravo/codec/byte_order_mark.h>
 #include <ravo/codec/place.h>
@@ -39,8 +38,8 @@ std::string SomeBytes(std::mt19937& random, const Encoding& row) {
   return bytes;
 }
 
-// Blocks of bytes and of room, both small; what is cut short is given again with what follows. Goes on after
-// bytes that end the data, as a reader that is asked again.
+// Decodes with small blocks of bytes and of room; passes incomplete characters again with what follows.
+// Continues after bytes that end the data, as a reader can.
 std::u16string ReadInSteps(const Encoding& row, std::string_view bytes, std::size_t block, std::size_t room) {
   State state;
   std::u16string text;
@@ -177,7 +176,7 @@ TEST(Encode, TakesNothingThatDoesNotFit) {
   EXPECT_EQ(step.stop, Stop::RoomUsed);
   EXPECT_EQ(step.taken, 1U);
   EXPECT_EQ(step.made, 1U);
-  // UTF-7 holds bits back: what does not fit leaves the state as it was.
+  // UTF-7 has pending bits: output that does not fit leaves the state unchanged.
   std::vector<std::uint8_t> small(3);
   State seven;
   EXPECT_EQ(Encode(RowOf("UTF_7"), seven, std::u16string_view(u"řx"), small).taken, 1U);
@@ -197,7 +196,8 @@ TEST(Texts, OfAnEncodingWithWhatItLacks) {
   EXPECT_EQ(Encoded(RowOf("CP_437"), std::u16string(10000, u'é')), std::string(10000, '\x82'));
 }
 
-// Character by character: a break ends a line, the line feed of a pair stays with its carriage return.
+// The reference, one character at a time: a line break ends a line, the line feed of a pair belongs to its
+// carriage return.
 struct PlainPlace {
   std::uint64_t line = 1;
   std::uint64_t column = 0;

@@ -1,4 +1,4 @@
-// Every set of kernels against plain loops, with sources and room that end at a guard page.
+// Compares every set of kernels with plain loops; sources and room end at a guard page.
 #include "support/guarded_buffer.h"
 #include <ravo/codec/kernels/block.h>
 #include <ravo/codec/kernels/kernel_set.h>
@@ -22,7 +22,7 @@ class Kernels : public testing::TestWithParam<KernelSet> {
 INSTANTIATE_TEST_SUITE_P(Sets, Kernels, testing::ValuesIn(KernelSets().begin(), KernelSets().end()),
                          [](const auto& row) { return std::string(row.param.name); });
 
-// Each unit by itself, as the Unicode Standard forms sequences of up to three bytes.
+// Encodes each unit by itself, as the Unicode Standard forms sequences of up to three bytes.
 std::string EncodedPlainly(std::u16string_view text) {
   std::string bytes;
   for (const char16_t unit : text) {
@@ -37,7 +37,7 @@ std::string EncodedPlainly(std::u16string_view text) {
   return bytes;
 }
 
-// Long runs of one length of sequence, and all mixed.
+// Returns text with long runs of one sequence length, and mixed ones.
 std::u16string TextOf(std::mt19937& random, std::size_t size) {
   std::u16string text;
   while (text.size() < size) {
@@ -90,7 +90,7 @@ TEST_P(Kernels, EncodeAPrefixOfUtf8) {
   }
 }
 
-// More than a lane can count.
+// Texts too long for the counter in a lane.
 TEST_P(Kernels, CountTheBytesOfLongTexts) {
   constexpr std::size_t kSize = 1'100'007;
   EXPECT_EQ(GetParam().utf8_length(std::u16string(kSize, u'a')), kSize);
@@ -127,7 +127,7 @@ TEST_P(Kernels, DecodeAPrefixOfUtf8) {
   }
 }
 
-// Pairs make fewer units than bytes: blocks of ASCII after them may not be counted as room for as many.
+// Pairs give fewer units than bytes, so the room for ASCII after them must be counted in units.
 TEST_P(Kernels, KeepToTheRoomInAsciiAfterPairs) {
   for (std::size_t pairs = 0; pairs < 200; pairs += 8) {
     const std::u16string text = std::u16string(pairs, u'č') + std::u16string(700, u'x');
@@ -136,7 +136,7 @@ TEST_P(Kernels, KeepToTheRoomInAsciiAfterPairs) {
   }
 }
 
-// What the faster sets are for: they do not leave such texts to the engine of one character.
+// The faster sets must not leave such texts to the engine of one character.
 TEST_P(Kernels, TakeWholeTextsOfTheirKind) {
   if (GetParam().name == "plain") GTEST_SKIP() << "leaves everything";
   const bool only_ascii = GetParam().name == "baseline";
@@ -152,7 +152,7 @@ TEST_P(Kernels, TakeWholeTextsOfTheirKind) {
   }
 }
 
-// A malformed piece at every place of the blocks: all before it, or some of that, is decoded.
+// A malformed piece at every position of a block: a prefix of what precedes it is decoded.
 TEST_P(Kernels, StopBeforeMalformedSequences) {
   for (const std::string_view piece :
        {"\xC4", "\x8D", "\xC1\xBF", "\xE0\x9F\xBF", "\xE2\x82", "\xF0\x9F\x98\x80", "\xFF"}) {
@@ -209,7 +209,7 @@ TEST(ScopedKernels, ForceASetAndGiveTheChoiceBack) {
   EXPECT_TRUE(before.runs_here());
 }
 
-// Each lane of a block answers by itself.
+// Compares each lane of a block separately.
 template <class Unit>
 void ExpectLanes(unsigned low, unsigned high) {
   constexpr std::size_t kUnits = Block<Unit>::kUnits;

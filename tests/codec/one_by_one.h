@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-/// The reference of the engines: one character after the other, without runs.
+/// The reference of the engines: single characters, without runs.
 namespace ravo::test {
 
 inline codec::ByteSpan AsBytes(std::string_view bytes) {
@@ -17,7 +17,7 @@ inline codec::ByteSpan AsBytes(std::string_view bytes) {
 
 inline std::string TextOf(codec::ByteSpan bytes) { return {bytes.begin(), bytes.end()}; }
 
-/// Every character until the data end.
+/// Returns every character up to the end of the data.
 inline std::u16string ReadOneByOne(const codec::Encoding& encoding, std::string_view bytes) {
   codec::State state;
   codec::SpanSource source(AsBytes(bytes));
@@ -26,7 +26,7 @@ inline std::u16string ReadOneByOne(const codec::Encoding& encoding, std::string_
   return text;
 }
 
-/// The bytes of a text, what is held back included; none if a character is refused.
+/// Returns the bytes of a text after a flush; nothing if a character is refused.
 inline std::optional<std::string> WriteOneByOne(const codec::Encoding& encoding, std::u16string_view text) {
   codec::State state;
   std::string bytes;

@@ -1,4 +1,4 @@
-// Where callers of one engine differ, and that every set of kernels gives what single characters give.
+// Differences between callers of one engine; every set of kernels has the results of single characters.
 #include "one_by_one.h"
 #include "support/guarded_buffer.h"
 #include <ravo/codec/kernels/kernel_set.h>
@@ -13,7 +13,7 @@ namespace {
 
 std::u16string ReadUtf8(std::string_view bytes) { return test::ReadOneByOne(*FindEncoding("UTF_8"), bytes); }
 
-// Five bytes of 80 after FE or FF: trailing bytes of a string, nothing that an encoding knows.
+// Five bytes 80 after FE or FF are trailing bytes for strings, and malformed for encodings.
 TEST(Utf8Policies, DifferInTheLastTwoLeadBytes) {
   for (unsigned lead = 0x80; lead < 0x100; ++lead) {
     const std::string bytes = static_cast<char>(lead) + std::string(5, '\x80') + "A";
@@ -64,7 +64,7 @@ INSTANTIATE_TEST_SUITE_P(Kernels, TextsOfKernels,
                          ::testing::ValuesIn(KernelSets().begin(), KernelSets().end()),
                          [](const auto& kernels) { return std::string(kernels.param.name); });
 
-// From memory that ends at an unreadable page.
+// The bytes end at a guard page.
 void ExpectSameUtf8(const KernelSet& kernels, const std::string& bytes) {
   const test::GuardedBuffer buffer(std::as_bytes(std::span(bytes)));
   const std::string_view guarded(reinterpret_cast<const char*>(buffer.Bytes().data()), bytes.size());
@@ -97,7 +97,7 @@ TEST_P(TextsOfKernels, AreThoseOfSingleCharacters) {
   }
 }
 
-// Well formed for the most part, so that runs are long, with a broken piece now and then.
+// Mostly well-formed, so that runs are long, with a malformed piece now and then.
 TEST_P(TextsOfKernels, AreAlikeForTextsWithBrokenPieces) {
   constexpr std::string_view kPieces[] = {"a",        "bc",   "č",    "ř",        "\xDF\xBF", "\xC2\x80", "€",
                                           "\xC1\xBF", "\xC4", "\x8D", "\xE2\x82", "😀",        "\xFF"};
@@ -111,7 +111,7 @@ TEST_P(TextsOfKernels, AreAlikeForTextsWithBrokenPieces) {
   }
 }
 
-// Longer than what is converted on the stack, with a unit of each length at the end of every piece.
+// Longer than the buffer on the stack, with a unit of each length at the end of every block.
 TEST_P(TextsOfKernels, AreAlikeForLongTexts) {
   for (std::size_t size = 480; size < 560; ++size) {
     for (const std::u16string_view end : {u"x", u"č", u"€", u"\xD800"}) {
@@ -122,7 +122,7 @@ TEST_P(TextsOfKernels, AreAlikeForLongTexts) {
   }
 }
 
-// Each two bytes, at each place of a vector and of the border between two.
+// Every pair of bytes at every position of a vector and across the boundary of two.
 TEST_P(TextsOfKernels, AreAlikeForEveryTwoBytes) {
   const auto decoded = [](const KernelSet& set, const std::string& bytes) {
     const ScopedKernels chosen(set);

@@ -6,7 +6,7 @@
 
 namespace ravo::test {
 
-/// A category test and the general categories for which it must answer true, by the beginning of their names.
+/// A category test and the prefixes of the general categories that it must accept.
 struct CategoryTest {
   const char* name;
   bool (*function)(char16_t) noexcept;

@@ -1,4 +1,4 @@
-// Every function of the character database for every code unit, against the text files of the standard.
+// Compares every function of the character database for every unit with the text files of the standard.
 #include "category_list.h"
 #include "support/tried.h"
 

@@ -67,7 +67,7 @@ TEST(CharDecomposeHangulW, SyllablesAlone) {
   EXPECT_EQ(CharDecomposeHangulW(0xD7A4), u"");
 }
 
-// Of the detailed categories only the surrogates' own answers for one, and no mapping changes it.
+// Among the detailed categories, only the one for surrogates accepts a surrogate, and no mapping changes it.
 TEST(Characters, SurrogatesAreOfOneDetailedCategory) {
   for (unsigned code = 0xD800; code <= 0xDFFF; ++code) {
     const auto unit = static_cast<char16_t>(code);
@@ -94,7 +94,7 @@ TEST(CharIsLetterCommonW, EuropeanAlphabets) {
     EXPECT_FALSE(CharIsLetterCommonW(unit)) << unsigned{unit};
 }
 
-// Each kind over all units, as the set of those for which it answers true.
+// Returns all units that a kind accepts.
 std::u16string Members(bool (*function)(char16_t) noexcept) {
   std::u16string members;
   for (unsigned unit = 0; unit < test::kUnits; ++unit) {

@@ -1,4 +1,4 @@
-// 8-bit text by the number of its code page, on the real machine.
+// Text by code page number, on the real machine.
 #include <ravo/DIUnicode.h>
 
 #include <string>
@@ -65,7 +65,7 @@ TEST(CodePages, TheSystemsIsTheDefault) {
   EXPECT_EQ(ToCodePage(u"abc", 4711), "");
 }
 
-// The published table has nothing there; systems have controls.
+// The published table leaves them unassigned; systems map them to control characters.
 TEST(CodePages, FiveBytesOfWindows1250AreControlsOfTheSystemAlone) {
   for (const char16_t control : {u'\u0081', u'\u0083', u'\u0088', u'\u0090', u'\u0098'}) {
     const std::string byte(1, static_cast<char>(control));

@@ -10,13 +10,13 @@
 
 namespace ravo::test {
 
-/// Bytes under a reader, in one of the ways that bytes can come.
+/// A source of bytes for a reader, in one of the ways that a reader supports.
 class SourceUnderTest {
  public:
   enum class Way { Buffer, Stream, StingyStream, SingleBytes, TwoPieces };
 
-  /// `cut` is where the second of two pieces begins: what is in front of it is read as a source of its own on
-  /// top of the other.
+  /// `cut` is the start of the second of two pieces; the first piece is a source of its own on top of the
+  /// other.
   SourceUnderTest(DIUnicode::TDIUnicodeReader& reader, std::string_view bytes, Way way, std::size_t cut = 0)
       : guarded_(std::as_bytes(std::span(bytes))), stream_(guarded_.Bytes()) {
     switch (way) {
@@ -42,7 +42,7 @@ class SourceUnderTest {
   }
 
  private:
-  // The first read ends at the cut.
+  // A stream whose first read ends at the cut.
   class CutStream final : public ByteStream {
    public:
     CutStream(ByteStream& inner, std::size_t cut) : inner_(inner), cut_(static_cast<std::int64_t>(cut)) {}

@@ -1,4 +1,4 @@
-// The labels that texts of the web have, and all names that the listing shows.
+// The labels of the web, and all names in the listing.
 #include <ravo/DIUnicode.h>
 
 #include <map>
@@ -22,7 +22,7 @@ constexpr LabelRow kLabels[] = {
 };
 #undef RAVO_LABELS
 
-// Labels that are the names of another encoding of ours than the larger one that the Standard reads them as.
+// Labels that the Standard maps to a larger encoding, but that name an encoding of the library.
 const std::map<std::string_view, std::string_view> kExact = {
     {"ansi_x3.4-1968", "US_ASCII"}, {"ascii", "US_ASCII"},         {"us-ascii", "US_ASCII"},
     {"cp819", "Iso_8859_1"},        {"csisolatin1", "Iso_8859_1"}, {"ibm819", "Iso_8859_1"},
@@ -70,7 +70,7 @@ TEST(FindEncoding, KnowsTheLabelsOfTheEncodingStandard) {
   EXPECT_EQ(exact, kExact.size());
 }
 
-// An encoding of the Standard is called so here too.
+// The names of the Standard's encodings are names here too.
 TEST(FindEncoding, KnowsTheEncodingsOfTheEncodingStandardByTheirNames) {
   for (const LabelRow& row : kLabels) {
     const std::string_view name = NameOf(row.encoding);
@@ -79,8 +79,8 @@ TEST(FindEncoding, KnowsTheEncodingsOfTheEncodingStandardByTheirNames) {
   }
 }
 
-// What a person copies from the listing: the name, the label with and without what is in parentheses, the
-// number, the same after "cp", and the other names.
+// Every form in the listing: the name, the label with and without its part in parentheses, the number, the
+// number after "cp", and the aliases.
 TEST(FindEncoding, KnowsEveryNameThatTheListingShows) {
   for (const EncodingRow& row : EncodingRows()) {
     EXPECT_EQ(FindEncoding(row.name), &row);

@@ -14,7 +14,7 @@ TEST(FindEncoding, ANumberIsThatOfACodePageAndNothingElse) {
     EXPECT_EQ(FindEncoding(none), nullptr) << none;
 }
 
-// A row of the caller's own is of no encoding here.
+// A row that the caller made belongs to no encoding.
 TEST(EncodedCharacter, OfAnotherRowIsNone) {
   const TDIUnicodeWriteMethods own{nullptr, [](TDIUnicodeWriter&, char16_t) { return true; }, nullptr,
                                    nullptr};
@@ -24,7 +24,7 @@ TEST(EncodedCharacter, OfAnotherRowIsNone) {
   EXPECT_TRUE(EncodedCharacter(row, u'a').empty());
 }
 
-// GB 18030 is read only.
+// GB 18030 is read-only.
 TEST(EncodingsOfCodePages, WhatIsNotWrittenGivesNoText) {
   TDIUnicodeWriter writer;
   writer.SetWriteMethods(Write_UTF_16_LE);

@@ -1,5 +1,5 @@
-// All bytes, all pairs of bytes and mixtures of telling bytes, against the rules of the encodings of several
-// bytes.
+// Compares the multi-byte encodings with their rules, for all bytes, all pairs of bytes and mixtures of
+// significant bytes.
 #include "encoding_texts.h"
 #include "support/tried.h"
 
@@ -15,7 +15,7 @@ using test::Read;
 using test::Write;
 using namespace std::string_literals;
 
-// The rules over bytes in memory, each as a function from what is left to a character and a length.
+// The rules for bytes in memory, each a function from the rest of the bytes to a character and a length.
 
 struct Step {
   char16_t ch;
@@ -43,7 +43,7 @@ Step Utf8Rule(std::string_view bytes) {
   return {shortest ? static_cast<char16_t>(value) : char16_t{0xFFFD}, wanted + 1};
 }
 
-// Only whether a sequence is whole, with a stand-in for its character.
+// Tests only whether a sequence is complete, with a placeholder for its character.
 std::size_t Gb18030Length(std::string_view bytes, bool& whole) {
   const auto at = [bytes](std::size_t i) {
     return i < bytes.size() ? static_cast<unsigned char>(bytes[i]) : 0U;
@@ -99,7 +99,7 @@ TEST(EncodingRules, Utf8OfAllPairsAndOfMixtures) {
   ForEachMixture("\x41\x80\xBF\xE2\xF1\xF9\xFC", 7, check);
 }
 
-// Pieces by the rule, each of which must read by itself as it does in the whole.
+// Splits bytes by the rule; each piece alone must read as it does in the whole.
 void ExpectGb18030InPieces(const std::string& bytes) {
   std::u16string pieces;
   for (std::size_t at = 0; at < bytes.size();) {
@@ -122,7 +122,7 @@ TEST(EncodingRules, Gb18030OfAllPairsAndOfMixtures) {
   ForEachMixture("\x29\x30\x39\x3A\x40\x7E\x7F\x80\x81\x84\x90\xFE\xFF", 5, ExpectGb18030InPieces);
 }
 
-// Reading always ends, with no more characters than bytes.
+// Reading always ends, with at most as many characters as bytes.
 TEST(EncodingRules, Utf7OfMixturesEnds) {
   ForEachMixture("+-A/z! \x80", 6, [](const std::string& bytes) {
     ASSERT_LE(Read(Read_UTF_7, bytes).size(), bytes.size()) << bytes;
@@ -150,7 +150,7 @@ TEST(EncodingRules, EveryUnitOfTwoBytes) {
   }
 }
 
-// What an encoding writes, it reads.
+// Every encoding reads what it writes.
 TEST(EncodingRules, WhatIsWrittenIsRead) {
   for (const EncodingRow& row : EncodingRows()) {
     const TDIUnicodeReadMethods& read = row.read != nullptr ? *row.read : Read_UTF_7;

@@ -8,14 +8,14 @@
 #include <string>
 #include <string_view>
 
-/// Bytes through a reader and text through a writer, for the tests of encodings.
+/// Reading bytes and writing text, for the tests of encodings.
 namespace ravo::test {
 
 inline std::span<const std::uint8_t> AsBytes(std::string_view bytes) {
   return {reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size()};
 }
 
-/// Every character until the data end.
+/// Returns every character up to the end of the data.
 inline std::u16string ReadAll(DIUnicode::TDIUnicodeReader& reader) {
   std::u16string text;
   while (reader.ReadChar()) text += reader.Char();
@@ -31,7 +31,7 @@ inline std::u16string Read(const DIUnicode::TDIUnicodeReadMethods& methods, std:
 
 inline std::string TextOf(std::span<const std::uint8_t> bytes) { return {bytes.begin(), bytes.end()}; }
 
-/// The bytes of a text, what is held back included; none where a character is refused.
+/// Returns the bytes of a text after a flush; nothing if a character is refused.
 inline std::optional<std::string> Write(const DIUnicode::TDIUnicodeWriteMethods& methods,
                                         std::u16string_view text) {
   DIUnicode::TDIUnicodeWriter writer;

@@ -1,4 +1,4 @@
-// Every malformed shape of the encodings of several bytes, read to the end, however the bytes arrive.
+// Reads every malformed form of the multi-byte encodings to the end, from every kind of source.
 #include "decoded_sources.h"
 #include "encoding_texts.h"
 
@@ -17,8 +17,8 @@ struct Vector {
   std::u16string text;
 };
 
-// What is cut short at the end, in the middle and by another sequence; what is too long, overlong, stray, or
-// of the wrong kind.
+// Sequences truncated at the end, in the middle and by another sequence; sequences that are too long,
+// overlong or stray, or lead bytes of the wrong kind.
 const Vector kUtf8[] = {
     {Read_UTF_8, "\xC3", u"\uFFFD"},
     {Read_UTF_8, "\xC3z", u"\uFFFDz"},
@@ -120,7 +120,7 @@ std::u16string ReadBy(const TDIUnicodeReadMethods& methods, std::string_view byt
   return test::ReadAll(reader);
 }
 
-// Padding that is whole characters in every one of the encodings: four zeros are one or more U+0000.
+// Adds padding of zeros, four at a time, which are whole characters U+0000 in every encoding.
 void ExpectBehindPadding(const Vector& vector, std::size_t count) {
   const std::string padding(4 * count, '\0');
   const std::u16string padded = Read(vector.methods, padding);

@@ -1,5 +1,5 @@
-// Every byte and character of the encodings that other programs know, against those programs. Where they
-// differ from us or from each other stands in encoding_differences.txt, line by line.
+// Compares every byte and character with other programs that know the encoding. encoding_differences.txt
+// lists all differences among them and the library, one per line.
 #include "encoding_texts.h"
 #include <ravo/DIUnicode.h>
 #include <ravo/runtime/text.h>
@@ -74,7 +74,7 @@ std::u16string UnHexUnits(std::string_view digits) {
   return text;
 }
 
-// The lines of the listed differences that begin with a word.
+// Returns the listed differences whose line begins with `kind`.
 std::multiset<std::string> Listed(std::string_view kind) {
   std::multiset<std::string> listed;
   for (const std::string& line : LinesOf("encoding_differences.txt")) {

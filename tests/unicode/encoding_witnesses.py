@@ -1,13 +1,13 @@
 #!/usr/bin/env python3
-"""What other programs of this machine make of every byte and character of the single-byte encodings, of GB 18030 and
-of UTF-7: the C library's iconv, Perl's Encode, Python's codecs. The tests compare the library with it.
+"""Converts every byte and character of the single-byte encodings, GB 18030 and UTF-7 with other programs of this
+machine: the C library's iconv, Perl's Encode, Python's codecs. The tests compare the library with the results.
 
 usage: encoding_witnesses.py FILE
 
 Lines of FILE, fields separated by blanks:
-  read NAME WITNESS 256 values        the character of each byte in hexadecimal, "-" where it has none
+  read NAME WITNESS 256 values        the character of each byte in hexadecimal, "-" if it has none
   write NAME WITNESS byte:unit ...    the byte of each character that has one
-  text NAME WITNESS bytes units       what those bytes mean; the bytes are what the witness writes for the units
+  text NAME WITNESS bytes units       the decoded bytes; the witness wrote the bytes for the units
 """
 import ctypes
 import ctypes.util
@@ -36,7 +36,7 @@ class Iconv:
         self.known = self.handle != ctypes.c_void_p(-1).value
 
     def __call__(self, data):
-        """The converted bytes; None where something in them is not known."""
+        """The converted bytes; None if some of them cannot be converted."""
         libc.iconv(self.handle, None, None, None, None)
         out = ctypes.create_string_buffer(8 * len(data) + 16)
         source, left = ctypes.c_void_p(ctypes.cast(ctypes.c_char_p(data), ctypes.c_void_p).value), ctypes.c_size_t(len(data))
@@ -76,7 +76,7 @@ for my $byte (0 .. 255) {
   my $text = eval { Encode::decode($name, chr $byte, Encode::FB_CROAK) };
   print defined $text ? join("+", map { sprintf "%04X", ord } split //, $text) : "-", "\n";
 }
-# No single-byte encoding has ideographs or syllables of Hangul; Python is asked for them too.
+# No single-byte encoding has ideographs or Hangul syllables; only Python is tested with them.
 for my $unit (0 .. 0x33FF, 0xE000 .. 0xFFFF) {
   my $bytes = eval { Encode::encode($name, chr $unit, Encode::FB_CROAK) };
   printf "%04X %s\n", $unit, unpack "H*", $bytes if defined $bytes;
@@ -97,7 +97,7 @@ def written(read, encode):
 
 
 def single_bytes(out):
-    """The libraries that a row names as its sources are asked: glibc by its converter, not by its character map."""
+    """The witnesses are the sources of a row, but the converter of glibc instead of its character map."""
     witnesses = {"glibc": ("iconv", by_iconv), "perl": ("perl", by_perl), "python": ("python", by_python)}
     rows = encoding_sources.rows((ROOT / "ravo/codec/rows.inc").read_text(encoding="utf-8"))
     for row in (row for row in rows if row["engine"] == "SingleByte"):
@@ -136,7 +136,7 @@ def gb_keys():
 
 
 def gb_18030(out):
-    """By rows of one lead byte and trail kind, so that a line is not too long."""
+    """One row per lead byte and kind of trailing byte keeps lines short."""
     decode = Iconv("UTF-16BE", "GB18030")
 
     def by_iconv_(key):
@@ -162,7 +162,7 @@ def utf_7(out):
     for unit in [*range(0x80), 0x80, 0x158, 0xFFFF]:
         text_line(out, "UTF_7_ODC", "python", chr(unit).encode("utf-7"), chr(unit))
     for _ in range(4000):
-        # Pairs stay whole: iconv refuses halves.
+        # Pairs stay whole: iconv rejects unpaired surrogates.
         text = "".join(kind if len(kind) == 2 else generator.choice(kind)
                        for kind in generator.choices(kinds, k=generator.randrange(12)))
         text_line(out, "UTF_7_ODC", "python", text.encode("utf-7", "surrogatepass"), text)

@@ -1,4 +1,4 @@
-// The list of encodings, and the stated cases of each engine.
+// The list of encodings, and stated cases of each engine.
 #include "encoding_texts.h"
 #include <ravo/DIUnicode.h>
 
@@ -118,7 +118,7 @@ TEST(WriteMacThai, AMarkAsItsOwnByteNotAsOneOfItsPositions) {
   EXPECT_EQ(Read(Read_Mac_Thai, "\x83\x88\x98\xE8"), u"\u0E48\u0E48\u0E48\u0E48");
 }
 
-// Where several bytes mean one character and none is a variant, the lowest is written.
+// If several bytes decode to one character and none is a variant, the lowest is written.
 TEST(WriteSharedCharacters, TheLowestByte) {
   for (unsigned char byte = 0x20; byte < 0x7F; ++byte) {
     const std::string alone(1, static_cast<char>(byte));
@@ -153,7 +153,7 @@ TEST(ReadUtf8, FourBytesAreOneReplacement) {
 TEST(ReadUtf16, SurrogatePairIsOneReplacement) {
   EXPECT_EQ(Read(Read_UTF_16_BE, "\xD8\x3D\xDE\0\0z"s), u"\uFFFDz");
   EXPECT_EQ(Read(Read_UTF_16_LE, "\x3D\xD8\0\xDEz\0"s), u"\uFFFDz");
-  EXPECT_EQ(Read(Read_UTF_16_BE, "\xD8\x3D\0a\0z"s), u"\uFFFDz");  // whatever the two bytes hold
+  EXPECT_EQ(Read(Read_UTF_16_BE, "\xD8\x3D\0a\0z"s), u"\uFFFDz");  // whatever the second unit is
   EXPECT_EQ(Read(Read_UTF_16_BE, "\xD8\x3D\0"s), u"\uFFFD");
   EXPECT_EQ(Read(Read_UTF_16_BE, "\xD8\x3D"s), u"\uFFFD");
 }

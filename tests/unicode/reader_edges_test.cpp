@@ -1,4 +1,4 @@
-// What readers do about nothing at all and about methods that they do not know.
+// Readers without a source, and with read methods of the caller.
 #include <ravo/DIUnicode.h>
 #include <ravo/runtime/byte_stream.h>
 
@@ -17,7 +17,7 @@ TEST(SourceBufferAsStr, OfNoBufferIsEmpty) {
   EXPECT_EQ(reader.SourceBufferAsStrW(), u"") << "half a character";
 }
 
-// One character after the other, since nobody decodes runs of them.
+// These methods have no run function, so characters are decoded one by one.
 TEST(WriteStream, TakesReadMethodsOfTheCaller) {
   const TDIUnicodeReadMethods shifted{nullptr,
                                       [](TDIUnicodeReader& reader, char16_t& ch) {

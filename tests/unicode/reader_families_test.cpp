@@ -1,4 +1,4 @@
-// What each operation that reads or skips passes over, and where it stops.
+// The characters that each reading or skipping operation passes, and where it stops.
 #include <ravo/DIUnicode.h>
 
 #include <functional>
@@ -18,7 +18,7 @@ struct Family {
   std::function<void(Reader&)> read;
   std::function<void(Reader&)> skip;
   std::u16string_view text;    // in Latin-1
-  std::u16string_view passed;  // what is collected, and stepped over
+  std::u16string_view passed;  // the characters read or skipped
   std::u16string_view rest;    // from the current character on
 };
 

@@ -1,5 +1,5 @@
-// Whole runs give what single characters give: each operation on the same bytes by both paths, from every
-// kind of source.
+// Decoding whole runs and single characters has identical results: each operation on the same bytes both
+// ways, from every kind of source.
 #include "decoded_sources.h"
 #include <ravo/codec/kernels/kernel_set.h>
 #include <ravo/unicode/encoding_of.h>
@@ -24,7 +24,7 @@ using Reader = TDIUnicodeReader;
 using Way = test::SourceUnderTest::Way;
 using namespace std::string_view_literals;
 
-// An encoding with runs, and the same by routines that nobody knows a run of.
+// An encoding with runs, and the same encoding by routines without runs.
 struct Encoding {
   std::string_view name;
   const TDIUnicodeReadMethods& known;
@@ -100,7 +100,7 @@ void ExpectSameStanding(const Reader& expected, const Reader& reader, const std:
   ASSERT_EQ(reader.PeekedChars(), expected.PeekedChars()) << what;
 }
 
-// Random operations on both, from the same source.
+// Runs random operations on both, from the same source.
 void RunBothHere(const Encoding& encoding, std::string_view bytes, Way way, std::uint32_t seed,
                  std::size_t cut) {
   Reader expected;
@@ -113,7 +113,7 @@ void RunBothHere(const Encoding& encoding, std::string_view bytes, Way way, std:
   for (int idle = 0; idle < 3;) {
     const std::size_t operation = random() % std::size(kOperations);
     const std::uint32_t before = expected.CharPos();
-    // One reads on, lest none of the others belongs.
+    // Advances once, in case no operation matches the current character.
     expected.ReadChar();
     reader.ReadChar();
     kOperations[operation](expected);
@@ -130,7 +130,7 @@ void RunBothHere(const Encoding& encoding, std::string_view bytes, Way way, std:
   }
 }
 
-// With every kernel.
+// Repeats the comparison with every kernel.
 void RunBoth(const Encoding& encoding, std::string_view bytes, Way way, std::uint32_t seed,
              std::size_t cut = 0) {
   for (const KernelSet& kernel : KernelSets()) {
@@ -141,7 +141,7 @@ void RunBoth(const Encoding& encoding, std::string_view bytes, Way way, std::uin
   }
 }
 
-// Text with runs of many lengths, and bytes that mean nothing here and there.
+// Returns text with runs of many lengths and some invalid bytes.
 std::string RandomText(std::mt19937& random, std::size_t size) {
   constexpr std::string_view pieces[] = {"a",
                                          "e",
@@ -167,7 +167,7 @@ std::string RandomText(std::mt19937& random, std::size_t size) {
   return text;
 }
 
-// The same text in two or four bytes a character.
+// Returns the text in two or four bytes per character.
 std::string Widened(std::string_view text, std::size_t bytes_each, bool high_first) {
   std::string wide;
   for (const char c : text) {
@@ -180,7 +180,7 @@ std::string Widened(std::string_view text, std::size_t bytes_each, bool high_fir
 
 std::string BytesFor(const Encoding& encoding, std::mt19937& random, std::size_t size) {
   std::string text = RandomText(random, size);
-  // Here and there bytes stay as they are: broken characters of all kinds.
+  // Some bytes stay unchanged: malformed characters of all kinds.
   if (random() % 4 == 0) return text;
   if (encoding.name.ends_with("_LE")) return Widened(text, 2, false);
   if (encoding.name == "UTF_16_BE") return Widened(text, 2, true);
@@ -244,7 +244,7 @@ TEST(WholeRuns, GiveTheSameAcrossTheEdgeOfTheBuffer) {
   }
 }
 
-// A source ends in the middle of a run, and the one below goes on in another encoding.
+// A source ends inside a run, and the source below it has another encoding.
 TEST(WholeRuns, EndWithTheirSource) {
   const std::string text(100, 'x');
   for (const bool known : {false, true}) {

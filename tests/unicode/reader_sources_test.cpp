@@ -1,4 +1,4 @@
-// Where the bytes come from: buffers, streams, files, and sources on top of each other.
+// The sources of a reader: buffers, streams, files, and stacked sources.
 #include "support/counted_stream.h"
 #include "support/error_text.h"
 #include "support/fake_stream.h"
@@ -24,7 +24,7 @@ using Mode = TAutoFreeSourceStreams;
 
 MemoryStream StreamOf(std::string_view bytes) { return MemoryStream(std::as_bytes(std::span(bytes))); }
 
-// Two bytes a character, high byte first.
+// Decodes two bytes per character, high byte first.
 bool ReadPair(TDIUnicodeReader& reader, char16_t& ch) {
   std::uint8_t high = 0;
   std::uint8_t low = 0;
@@ -233,7 +233,7 @@ TEST(SetSourceFile, ReadsAPipe) {
   reader.FreeSourceStream();
 }
 
-// The memory of a process has nothing at its beginning that could be read.
+// Reading address 0 of a process's memory fails.
 TEST(SetSourceFile, AFailedReadIsNoEnd) {
   constexpr std::u16string_view unreadable = u"/proc/self/mem";
   if (!std::filesystem::exists(unreadable))
@@ -402,7 +402,7 @@ TEST(ClearSourceStack, GoesToTheBottom) {
   EXPECT_EQ(Rest(reader), u"ab");
 }
 
-// The streams that a reader has freed when its two sources have ended, and when it has gone.
+// The streams that a reader has deleted after its two sources ended, and after its destructor.
 struct FreedRow {
   Mode mode;
   int first_at_end;
@@ -572,7 +572,7 @@ TEST(ReadBOM, LeavesNoUnreadByteOfAStackedSource) {
   EXPECT_EQ(Rest(reader), u"-outer");
 }
 
-// Decoders see bytes as if there were no blocks.
+// Block boundaries are invisible to decoders.
 TEST(PeekByte, RefillsAndSkips) {
   std::string bytes;
   for (int i = 0; i < 4100; ++i) bytes.push_back(static_cast<char>(i % 251));

@@ -1,4 +1,4 @@
-// One character after the other: the location, peeking, read methods.
+// Single characters: location, peeking, read methods.
 #include "support/error_text.h"
 #include <ravo/DIUnicode.h>
 
@@ -162,7 +162,7 @@ TEST(PeekChars, AreClearedAndNotReadAgain) {
   EXPECT_EQ(PlaceOf(reader), (Place{u'd', 1, 1, 1}));
 }
 
-// Taking characters one by one out of many is no work that grows with the square.
+// Reading peeked characters one by one takes linear time.
 TEST(PeekChars, ManyAreTakenQuickly) {
   const std::string text(1 << 20, 'x');
   TDIUnicodeReader reader;
@@ -173,7 +173,7 @@ TEST(PeekChars, ManyAreTakenQuickly) {
   EXPECT_EQ(reader.CharPos(), 1u << 20);
 }
 
-// Counts its calls in the state, to which each call of `Init` adds a million.
+// Counts its calls in the state; each call of `Init` adds a million.
 std::vector<std::string> calls;
 
 void CountInit(TDIUnicodeReader& reader) {

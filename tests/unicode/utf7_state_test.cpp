@@ -1,4 +1,4 @@
-// What UTF-7 remembers between characters, and what it holds back.
+// The state of UTF-7 between characters, and its pending output.
 #include "encoding_texts.h"
 
 #include <gtest/gtest.h>
@@ -39,8 +39,8 @@ TEST(Utf7State, IsMadeWhereInitWasNotCalled) {
   EXPECT_EQ(test::TextOf(writer.Data()), "+AVk-");
 }
 
-// A source in UTF-7 ends on top of one in another encoding: the record goes with it, also where no routine is
-// called for it.
+// A source in UTF-7 ends on top of one in another encoding: its record is freed, even if no routine is called
+// for it.
 TEST(Utf7State, GoesWithItsSource) {
   TDIUnicodeReader reader;
   reader.SetReadMethods(Read_Windows_1250);
@@ -54,7 +54,7 @@ TEST(Utf7State, GoesWithItsSource) {
   EXPECT_EQ(reader.ReadMethods().ReadChar, Read_Windows_1250.ReadChar);
 }
 
-// Two sources in UTF-7 on top of each other use one record; without stored methods it stays with the reader.
+// Two stacked sources in UTF-7 use one record; without stored methods it stays with the reader.
 TEST(Utf7State, StaysWhereUtf7GoesOn) {
   for (const bool store : {false, true}) {
     TDIUnicodeReader reader;
@@ -68,7 +68,7 @@ TEST(Utf7State, StaysWhereUtf7GoesOn) {
   }
 }
 
-// What other routines keep in the state is not touched when their source ends.
+// State of other routines is not touched when their source ends.
 TEST(Utf7State, OfOthersIsTheirs) {
   TDIUnicodeReader reader;
   reader.SetSourceBuffer(test::AsBytes("ab"));
@@ -79,7 +79,7 @@ TEST(Utf7State, OfOthersIsTheirs) {
   EXPECT_EQ(reader.State(), 7U);
 }
 
-// A reader that has read "a" of the run "+AGEAYg-", two bits of the next unit included.
+// A run "+AGEAYg-" of which a reader has read "a", and with it two bits of the next unit.
 constexpr std::string_view kRun = "+AGEAYg-";
 
 void ReadIntoARun(TDIUnicodeReader& reader) {
@@ -101,8 +101,8 @@ TEST(Utf7State, ANewSourceBeginsInsideTheRunThatWasLeft) {
   streams.SetSourceStream(&bytes);
   EXPECT_EQ(test::ReadAll(streams), u"bc");
 
-  // The plus sign is 62, six bits of the unit: 00 111110 000000 00, 0110 000100 000000, twelve bits left
-  // over.
+  // "+" is 62 in base 64, six bits of the unit: 00 111110 000000 00, 0110 000100 000000, with twelve bits
+  // left over.
   TDIUnicodeReader rewound;
   ReadIntoARun(rewound);
   rewound.RewindSource();
@@ -129,7 +129,7 @@ TEST(Utf7State, SetReadMethodsBeginsOutsideARun) {
   EXPECT_EQ(test::ReadAll(reader), u"ab");
 }
 
-// The end of all data ends a run: whoever reads a source to its end meets nothing of it in the next one.
+// The end of all data ends a run, so it does not affect the next source.
 TEST(Utf7State, TheEndOfTheDataEndsARun) {
   TDIUnicodeReader reader;
   reader.SetReadMethods(Read_UTF_7);
@@ -139,7 +139,7 @@ TEST(Utf7State, TheEndOfTheDataEndsARun) {
   EXPECT_EQ(test::ReadAll(reader), u"AYg");
 }
 
-// A writer reads each stream from the start of an encoding.
+// A writer starts each stream at the initial state of the encoding.
 TEST(Utf7State, OfAStreamIsNotThatOfTheNextOneInAWriter) {
   TDIUnicodeWriter writer;
   writer.SetWriteMethods(Write_Windows_1250);

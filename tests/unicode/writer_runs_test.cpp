@@ -1,4 +1,4 @@
-// Whole runs through a writer give what single characters give, invalid ones included.
+// Writing whole runs and single characters has identical results, invalid characters included.
 #include <ravo/DIUnicode.h>
 #include <ravo/unicode/encoding_of.h>
 
@@ -23,7 +23,7 @@ std::u16string RandomUnits(std::mt19937& random, std::size_t size) {
   return text;
 }
 
-// The same routine, of which nobody knows a run.
+// The same routine without runs.
 const TDIUnicodeWriteMethods* hidden = nullptr;
 bool WriteHidden(TDIUnicodeWriter& writer, char16_t ch) { return hidden->WriteChar(writer, ch); }
 
@@ -35,7 +35,7 @@ struct Outcome {
   bool operator==(const Outcome&) const = default;
 };
 
-// How a handler decides: not there, another replacement, by itself, by giving up at U+4E00.
+// `handler` 0: no handler; 1: gives another replacement; 2: writes by itself; 3: gives up at U+4E00.
 Outcome Write(const TDIUnicodeWriteMethods& methods, std::span<const std::u16string> texts, unsigned handler,
               MemoryStream* stream) {
   Outcome outcome;
@@ -48,7 +48,7 @@ Outcome Write(const TDIUnicodeWriteMethods& methods, std::span<const std::u16str
                                                 TDIInvalidCharAction& action) {
       outcome.asked.push_back({invalid, replacement, static_cast<char16_t>(attempt)});
       replacement = u"\x4E00\x159!"[std::min<std::uint32_t>(attempt, 2)];
-      // An encoding without digits would ask about those too.
+      // An encoding without digits would call the handler for them too.
       if (handler == 2 && invalid > 0x7F && sender.TryWriteCharW(u'0')) sender.WriteHexCodePoint(invalid);
       if (handler == 2) action = TDIInvalidCharAction::icOwnerWrite;
       if (handler == 3 && invalid == 0x4E00) action = TDIInvalidCharAction::icAbort;
@@ -85,7 +85,7 @@ TEST(WriterRuns, GiveWhatSingleCharactersGive) {
   }
 }
 
-// The row's bytes 80 to FF and some texts between them, read by every encoding.
+// Every encoding reads its bytes 80 to FF with some texts between them.
 TEST(ReaderRuns, OfEveryEncodingGiveWhatSingleCharactersGive) {
   std::mt19937 random(74);
   for (const EncodingRow& row : EncodingRows()) {

@@ -1,4 +1,4 @@
-// The Data of a writer, its stream, and what it does about characters that the encoding lacks.
+// The Data of a writer, its stream, and characters that the encoding lacks.
 #include "support/counted_stream.h"
 #include "support/error_text.h"
 #include "support/fake_machine.h"
@@ -36,7 +36,7 @@ constexpr TDIUnicodeWriteMethods kAscii{nullptr, WriteAscii, nullptr, nullptr};
 constexpr TDIUnicodeWriteMethods kNothing{nullptr, [](TDIUnicodeWriter&, char16_t) { return false; }, nullptr,
                                           nullptr};
 
-// Two bytes a character, low byte first.
+// Encodes two bytes per character, low byte first.
 bool WritePair(TDIUnicodeWriter& writer, char16_t ch) {
   writer.WriteByte(static_cast<std::uint8_t>(ch & 0xFF));
   writer.WriteByte(static_cast<std::uint8_t>(ch >> 8));
@@ -44,7 +44,7 @@ bool WritePair(TDIUnicodeWriter& writer, char16_t ch) {
 }
 constexpr TDIUnicodeWriteMethods kWritePairs{nullptr, WritePair, nullptr, nullptr};
 
-// Holds one character back, in the state; calls are counted.
+// Keeps one character pending in the state; counts calls.
 std::vector<std::string> write_calls;
 void HoldInit(TDIUnicodeWriter& writer) {
   EXPECT_EQ(writer.State(), 0u);
@@ -238,7 +238,7 @@ TEST(FreeDataStream, FlushesAndFrees) {
 }
 
 TEST(FreeDataStream, FreesAlsoAStreamThatRefusesTheRest) {
-  // Takes nothing, and tells when it goes.
+  // Refuses every write, and records its deletion.
   class Refusing final : public ByteStream {
    public:
     explicit Refusing(int& freed) : freed_(freed) {}
@@ -261,7 +261,7 @@ TEST(FreeDataStream, FreesAlsoAStreamThatRefusesTheRest) {
   EXPECT_EQ(writer.DataStream(), nullptr);
 }
 
-// Larger than the buffer of a stream: block by block.
+// A buffer larger than the block of a stream is written block by block.
 TEST(WriteBufDirect, PassesLargeBuffersOn) {
   for (const std::size_t size : {4095U, 4096U, 4097U, 8192U, 10'000U}) {
     std::string bytes(size, 'x');
@@ -317,7 +317,7 @@ TEST(WriterDataToStr, ReadsTheDataAsUtf16) {
   EXPECT_EQ(writer.DataToStrRaw(), "a\0\x0D\x01\x07"sv);
 }
 
-// What a handler was asked, and what it answered.
+// The arguments of a call of the handler.
 struct Asked {
   char16_t invalid;
   char16_t replacement;
@@ -329,7 +329,7 @@ class InvalidChars : public ::testing::Test {
  protected:
   InvalidChars() { writer.SetWriteMethods(kAscii); }
 
-  // Answers with these replacements one after the other, the last one again and again.
+  // Sets a handler that gives these replacements in order, repeating the last one.
   void AnswerWith(std::u16string replacements) {
     writer.SetOnInvalidChar([this, replacements](TDIUnicodeWriter& sender, char16_t invalid,
                                                  char16_t& replacement, std::uint32_t attempt,
@@ -448,7 +448,7 @@ TEST(WriterText, WritesTextsAndBreaks) {
   EXPECT_EQ(writer.DataToStr(), u"ab\x10D\r\n\x10D\x159\x17E\r\n...\r\n");
 }
 
-// Nothing at all; all but one character; where a member fails, it has said so.
+// Encodings that lack everything, or all but one character: a member that fails returns false.
 TEST(WriterText, IsFalseWhereACharacterCannotBeWritten) {
   TDIUnicodeWriter writer;
   writer.SetWriteMethods(kNothing);

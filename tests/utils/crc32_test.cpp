@@ -14,7 +14,7 @@ namespace {
 
 std::span<const std::byte> BytesOf(std::string_view text) { return std::as_bytes(std::span(text)); }
 
-// The definition, bit by bit.
+// The definition of the CRC, bit by bit.
 std::uint32_t PlainUpdate(std::uint32_t crc, std::span<const std::byte> bytes) {
   for (const std::byte byte : bytes) {
     crc ^= std::to_integer<std::uint32_t>(byte);

@@ -64,7 +64,7 @@ TEST(StringKernels, FoldedSearchAcrossItsPieces) {
   }
 }
 
-// Every set of kernels that this processor runs.
+// Repeats each test with every set of kernels that this processor runs.
 class StringsOfKernel : public testing::TestWithParam<codec::KernelSet> {
  protected:
   void SetUp() override {
@@ -169,7 +169,7 @@ TEST(StringKernels, EveryPairOfUnitsFoldsAsThePlainOne) {
   }
 }
 
-// Every unit beside those with nearby codes, where a rule for pairs of letters may fail.
+// Compares every unit with those of nearby codes, where a rule for pairs of letters may fail.
 TEST(StringKernels, UnitsThatAreNearFoldAsThePlainOne) {
   for (unsigned code = 0; code < 0x10000; ++code) {
     for (const unsigned distance : {1u, 2u, 8u, 16u, 26u, 31u, 32u, 33u, 48u, 80u, 0x79u, 0x8000u}) {

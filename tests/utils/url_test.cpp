@@ -39,7 +39,7 @@ TEST(StrDecodeUrlA, EveryByteComesBack) {
   EXPECT_EQ(StrDecodeUrlA(StrEncodeUrlA(bytes)), bytes);
 }
 
-// The rules byte by byte, as the reference for the vectors.
+// The reference for the vectors: the rules byte by byte.
 std::string EncodedPlainly(std::string_view text) {
   std::string result;
   for (const char c : text) {

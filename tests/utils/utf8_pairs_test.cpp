@@ -1,4 +1,4 @@
-// `ToUtf8` and `FromUtf8` by every set of kernels: what single characters give.
+// `ToUtf8` and `FromUtf8` give the results of single characters with every set of kernels.
 #include "support/guarded_buffer.h"
 #include <ravo/codec/kernels/kernel_set.h>
 #include <ravo/runtime/text.h>
@@ -59,7 +59,7 @@ Sample SampleOf(std::mt19937& random, const Piece (&broken)[size]) {
   const bool is_whole = random() % 2 == 0;
   for (std::size_t count = random() % 80; count > 0; --count) {
     sample.Append(kWhole[random() % kinds]);
-    // A letter after it: two halves would make a pair.
+    // A letter separates them: two halves would form a pair.
     if (!is_whole && random() % 8 == 0) sample.Append(broken[random() % size]);
     if (!is_whole) sample.Append(kWhole[0]);
   }
@@ -88,7 +88,7 @@ TEST_P(Utf8PairsOfKernel, EncodesWhatIsWholeAndWhatIsBroken) {
   }
 }
 
-// Bytes of any kind: the set gives what the plain one gives.
+// Every set gives the result of the plain one for random bytes.
 TEST_P(Utf8PairsOfKernel, DecodesRandomBytesAsThePlainOne) {
   std::mt19937 random(43);
   for (int round = 0; round < 4000; ++round) {

@@ -2,10 +2,10 @@
 """Writes the tables of the single-byte encodings and of GB 18030, and docs/encodings.md.
 
 The rows are those of ravo/codec/rows.inc; each names its sources, packages of the distribution. The first
-source decides; where another one differs, the document lists both, with the choice below and why.
+source decides; if another one differs, the document lists both, with the choice below and its reason.
 
-usage: tools/generate/encodings.py            writes the checked-in files anew
-       tools/generate/encodings.py --check    exit status 1 where a checked-in file differs
+usage: tools/generate/encodings.py            writes the checked-in files
+       tools/generate/encodings.py --check    exit status 1 if a checked-in file differs
 """
 import pathlib
 import sys
@@ -30,14 +30,14 @@ CHOICES = {
     ("GB_18030", "8135f437"): (0xE7C7, FIRST_OF_2005),
 }
 # Why one of several bytes for a character is written.
-DIRECTIONS = "the two are for either direction of writing; the byte of ASCII is written"
+DIRECTIONS = "one byte per writing direction; the ASCII byte is written"
 WRITTEN = {
     "CP_1006": "Python reads both so; the International Components for Unicode have the final form of alef at B1 alone",
     "Mac_Hebrew": DIRECTIONS,
     "Mac_Arabic": DIRECTIONS,
     "Mac_Farsi": DIRECTIONS,
 }
-VARIANT = "the others are variants of it: the source has a mark of Apple's after the character"
+VARIANT = "the others are variants: in the source, one of Apple's variant marks follows the character"
 
 VARIANT_MARKS = "".join(map(chr, range(0xF870, 0xF880)))
 # Why the first source was preferred to the others.

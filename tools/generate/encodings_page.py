@@ -51,8 +51,8 @@ mean a larger encoding there; here they are the encoding that they name:
 | `utf-16` | `UTF_16_BE` | UTF-16LE |
 
 Labels of an encoding that has another name here have the meaning of the Standard: `iso-8859-11` is `CP_874`, and
-`iso-8859-8-i` is `Iso_8859_8`, from which only the direction of a page differs. Unknown are the labels of GBK, which reads
-80 as the euro sign and could be written, Big5, EUC-JP, ISO-2022-JP, Shift_JIS, EUC-KR, replacement and x-user-defined.
+`iso-8859-8-i` is `Iso_8859_8`, from which only the direction of a page differs. The labels of GBK, Big5, EUC-JP, ISO-2022-JP,
+Shift_JIS, EUC-KR, replacement and x-user-defined are unknown (GBK differs from GB 18030: it reads 80 as the euro sign).
 """
 
 
@@ -111,7 +111,7 @@ def differences(tables):
 
 
 def kind(key, texts, chosen, table):
-    """The key of one row: which sources differ from the choice, and how."""
+    """The key of a row: which sources differ from the choice, and how."""
     against = tuple("" if not text else "same" if text == chosen else "other" for text in texts)
     return against + (bool(chosen),), table.reason(key)
 

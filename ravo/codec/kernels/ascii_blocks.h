@@ -2,10 +2,10 @@
 
 #include <ravo/codec/kernels/block.h>
 
-/// Blocks of ASCII from bytes to units and back.
+/// Conversion of ASCII blocks between bytes and units.
 namespace ravo::codec {
 
-/// Widens that many blocks of sixteen bytes; false, with nothing written, if a byte is not ASCII.
+/// Widens `blocks` blocks of sixteen bytes. False, with nothing written, if a byte is not ASCII.
 template <std::size_t blocks>
 bool WidenAscii(const std::uint8_t* from, char16_t* to) {
   using Bytes = Block<std::uint8_t>;
@@ -20,7 +20,7 @@ bool WidenAscii(const std::uint8_t* from, char16_t* to) {
   return true;
 }
 
-/// Narrows that many blocks of sixteen units; false, with nothing written, if one is not ASCII.
+/// Narrows `blocks` blocks of sixteen units. False, with nothing written, if one is not ASCII.
 template <std::size_t blocks>
 bool NarrowAscii(const char16_t* from, std::uint8_t* to) {
   using Units = Block<char16_t>;
@@ -32,7 +32,7 @@ bool NarrowAscii(const char16_t* from, std::uint8_t* to) {
   return true;
 }
 
-/// How many units whole blocks of sixteen have, of a source and room of that many.
+/// Returns the number of units in whole blocks that fit both the source and the room.
 constexpr std::size_t WholeBlocks(std::size_t source, std::size_t room, std::size_t block = 16) {
   return (source < room ? source : room) / block * block;
 }

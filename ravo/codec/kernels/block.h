@@ -11,12 +11,12 @@
 #include <emmintrin.h>
 #endif
 
-/// Sixteen bytes or eight UTF-16 units at once: the one type that searches, comparisons and conversions of
-/// every room are made of. A question is answered by lanes, all ones for yes. Without SSE2 the same is done
-/// lane by lane. Wider blocks need a processor that is asked first (kernel_set.h).
+/// Vectors of sixteen bytes or eight UTF-16 units, the one type for searches, comparisons and conversions in
+/// every room. A comparison gives lanes of ones for true. Without SSE2 the same operations work lane by lane.
+/// Wider blocks need a check of the processor (kernel_set.h).
 namespace ravo::codec {
 
-/// The lanes of a block that answered yes, in order.
+/// The lanes of a block for which a comparison is true, in order.
 template <class Unit>
 class Hits {
  public:
@@ -26,7 +26,7 @@ class Hits {
   [[nodiscard]] constexpr unsigned Bits() const noexcept { return bits_; }
   [[nodiscard]] constexpr bool None() const noexcept { return bits_ == 0; }
   [[nodiscard]] constexpr bool All() const noexcept { return bits_ == 0xFFFF; }
-  /// The first lane that answered yes; there must be one.
+  /// Returns the first lane; there must be one.
   [[nodiscard]] constexpr std::size_t First() const noexcept {
     return static_cast<std::size_t>(std::countr_zero(bits_)) / sizeof(Unit);
   }
@@ -65,7 +65,7 @@ class Block {
   [[nodiscard]] static Block Load(const void* from) noexcept {
     return Block(_mm_loadu_si128(static_cast<const __m128i*>(from)));
   }
-  /// The bytes of two numbers, of each from the lowest ones up.
+  /// Returns a block of the bytes of two integers, each in little-endian order.
   [[nodiscard]] static Block OfHalves(std::uint64_t low, std::uint64_t high) noexcept {
     return Block(_mm_set_epi64x(static_cast<long long>(high), static_cast<long long>(low)));
   }
@@ -78,14 +78,14 @@ class Block {
   [[nodiscard]] Block operator&(Block other) const noexcept {
     return Block(_mm_and_si128(lanes_, other.lanes_));
   }
-  /// The bits that `other` does not have.
+  /// Returns the bits that `other` lacks.
   [[nodiscard]] Block Without(Block other) const noexcept {
     return Block(_mm_andnot_si128(other.lanes_, lanes_));
   }
   [[nodiscard]] Block operator-(Block other) const noexcept {
     return Block(kIsBytes ? _mm_sub_epi8(lanes_, other.lanes_) : _mm_sub_epi16(lanes_, other.lanes_));
   }
-  /// Bits moved within each UTF-16 unit.
+  /// Shift the bits within each UTF-16 unit.
   [[nodiscard]] Block Left(int count) const noexcept { return Block(_mm_slli_epi16(lanes_, count)); }
   [[nodiscard]] Block Right(int count) const noexcept { return Block(_mm_srli_epi16(lanes_, count)); }
 
@@ -93,7 +93,7 @@ class Block {
     return Block(kIsBytes ? _mm_cmpeq_epi8(lanes_, other.lanes_) : _mm_cmpeq_epi16(lanes_, other.lanes_));
   }
   [[nodiscard]] Block EqualTo(Unit unit) const noexcept { return EqualTo(Block(unit)); }
-  /// Lanes that are less when both are taken as signed.
+  /// Returns ones in the lanes that are less, as signed numbers.
   [[nodiscard]] Block SignedLess(Block other) const noexcept {
     return Block(kIsBytes ? _mm_cmplt_epi8(lanes_, other.lanes_) : _mm_cmplt_epi16(lanes_, other.lanes_));
   }
@@ -105,10 +105,10 @@ class Block {
     return moved.SignedLess(Block(static_cast<Unit>(to - from + 1 + kLeast)));
   }
 
-  /// The top bit of each byte.
+  /// Returns the top bit of each byte.
   [[nodiscard]] unsigned Bits() const noexcept { return static_cast<unsigned>(_mm_movemask_epi8(lanes_)); }
   [[nodiscard]] bool AllAscii() const noexcept { return Bits() == 0; }
-  /// Lanes of ones as hits; of bytes as they are those from 0x80 on.
+  /// Returns the lanes of ones as hits; for plain bytes, those from 0x80 on.
   [[nodiscard]] Hits<Unit> AsHits() const noexcept {
     return Hits<Unit>(static_cast<unsigned>(_mm_movemask_epi8(lanes_)));
   }
@@ -117,7 +117,7 @@ class Block {
   __m128i lanes_;
 };
 
-/// The lesser and the greater of both in each lane, taken as signed.
+/// Return the minimum and the maximum of each lane, as signed numbers.
 [[nodiscard]] inline Block<char16_t> SignedLesser(Block<char16_t> left, Block<char16_t> right) noexcept {
   return Block<char16_t>(_mm_min_epi16(left.Lanes(), right.Lanes()));
 }
@@ -125,7 +125,7 @@ class Block {
   return Block<char16_t>(_mm_max_epi16(left.Lanes(), right.Lanes()));
 }
 
-/// Sixteen bytes as units of the same value: the first eight, the others.
+/// Return sixteen bytes widened to units: the first eight and the last eight.
 template <class Byte>
 [[nodiscard]] Block<char16_t> WidenedLow(Block<Byte> bytes) noexcept {
   return Block<char16_t>(_mm_unpacklo_epi8(bytes.Lanes(), _mm_setzero_si128()));
@@ -135,11 +135,11 @@ template <class Byte>
   return Block<char16_t>(_mm_unpackhi_epi8(bytes.Lanes(), _mm_setzero_si128()));
 }
 
-/// Sixteen units below 0x100 as bytes.
+/// Returns sixteen units below 0x100 narrowed to bytes.
 [[nodiscard]] inline Block<std::uint8_t> Narrowed(Block<char16_t> low, Block<char16_t> high) noexcept {
   return Block<std::uint8_t>(_mm_packus_epi16(low.Lanes(), high.Lanes()));
 }
-/// Lanes of ones or zeros of sixteen units, as lanes of bytes.
+/// Returns sixteen lanes of ones or zeros narrowed from units to bytes.
 [[nodiscard]] inline Block<std::uint8_t> NarrowedLanes(Block<char16_t> low, Block<char16_t> high) noexcept {
   return Block<std::uint8_t>(_mm_packs_epi16(low.Lanes(), high.Lanes()));
 }
@@ -266,20 +266,20 @@ template <class Byte>
 
 #endif
 
-/// `yes` in the lanes of ones of `condition`, `no` in the others.
+/// Returns `yes` in the lanes where `condition` is ones, `no` in the others.
 template <class Unit>
 [[nodiscard]] Block<Unit> Choose(Block<Unit> condition, Block<Unit> yes, Block<Unit> no) noexcept {
   return (condition & yes) | no.Without(condition);
 }
 
-/// The letters A to Z in lower case, every other lane as it is.
+/// Returns the letters A to Z in lower case, every other lane unchanged.
 template <class Unit>
 [[nodiscard]] Block<Unit> AsciiLowered(Block<Unit> text) noexcept {
   return text |
          (text.Within(static_cast<Unit>('A'), static_cast<Unit>('Z')) & Block(static_cast<Unit>(0x20)));
 }
 
-/// Whether eight or sixteen units are ASCII.
+/// Returns whether all units are ASCII.
 [[nodiscard]] inline bool AreAscii(Block<char16_t> units) noexcept {
   return (units & Block(char16_t{0xFF80})).EqualTo(u'\0').AsHits().All();
 }

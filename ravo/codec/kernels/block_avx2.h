@@ -5,12 +5,12 @@
 
 #include <immintrin.h>
 
-/// The instructions of sources named ..._avx2.cpp; their functions run only if `HasAvx2`.
+/// Enables AVX2 in sources named ..._avx2.cpp; their functions run only if `HasAvx2`.
 #define RAVO_AVX2 __attribute__((target("avx2,popcnt")))
 
 namespace ravo::codec {
 
-/// As `Block`, of 32 bytes.
+/// As `Block`, with 32 bytes.
 template <class Unit>
 class WideBlock {
   static constexpr bool kIsBytes = sizeof(Unit) == 1;
@@ -55,7 +55,7 @@ class WideBlock {
     return WideBlock(kIsBytes ? _mm256_cmpgt_epi8(other.lanes_, lanes_)
                               : _mm256_cmpgt_epi16(other.lanes_, lanes_));
   }
-  /// The top bit of each byte.
+  /// Returns the top bit of each byte.
   [[nodiscard]] RAVO_AVX2 std::uint32_t Bits() const noexcept {
     return static_cast<std::uint32_t>(_mm256_movemask_epi8(lanes_));
   }

@@ -6,8 +6,8 @@
 
 #include <immintrin.h>
 
-/// Sixty-four bytes at once: what the sources named ..._avx512.cpp have in common. Their functions run only
-/// if `HasAvx512`. A question is answered by a mask, one bit for each lane.
+/// Blocks of 64 bytes, for the sources named ..._avx512.cpp; their functions run only if `HasAvx512`. A
+/// comparison gives a mask, one bit for each lane.
 #define RAVO_AVX512 \
   __attribute__((target("avx512f,avx512bw,avx512vl,avx512vbmi,avx512vbmi2,bmi,bmi2,popcnt")))
 
@@ -19,7 +19,7 @@ using Bits = std::uint64_t;
 inline constexpr std::size_t kWide = sizeof(Vector);
 inline constexpr std::size_t kHalf = kWide / 2;
 
-/// The lowest bits, up to all of them.
+/// Returns a mask of the lowest `count` bits, up to all of them.
 RAVO_AVX512 inline Bits Lowest(std::size_t count) {
   return _bzhi_u64(~Bits{0}, static_cast<unsigned>(count));
 }
@@ -37,7 +37,7 @@ RAVO_AVX512 inline Bits From(Vector bytes, int first) {
   return _mm512_cmpge_epu8_mask(bytes, Everywhere(first));
 }
 
-/// Half a block of bytes as units of the same value.
+/// Returns half a block of bytes widened to units.
 RAVO_AVX512 inline Vector Widened(const std::uint8_t* from) {
   return _mm512_cvtepu8_epi16(_mm256_loadu_si256(reinterpret_cast<const __m256i*>(from)));
 }
@@ -47,8 +47,8 @@ RAVO_AVX512 inline __mmask32 HalfOf(Bits bits) {
   return static_cast<__mmask32>(bits >> (half * kHalf));
 }
 
-/// Stores the first `count` units, and the others too if there is room: a load of what a masked store wrote
-/// waits for it to reach the cache.
+/// Stores the first `count` units, and all of them if there is room: a load from a masked store cannot be
+/// forwarded and waits for the cache.
 RAVO_AVX512 inline void StoreUnits(std::span<char16_t> to, std::size_t count, Vector text) {
   if (to.size() >= kHalf)
     _mm512_storeu_si512(to.data(), text);

@@ -4,12 +4,12 @@
 #include <atomic>
 #include <span>
 
-/// The one way in which a faster form of a job is chosen when it runs.
+/// Run-time choice of the kernel for the processor.
 namespace ravo::codec {
 
-/// Some sets of functions that give identical results, and the one in use: the last that runs on this
-/// processor, unless a test says otherwise. `Kernel` has a member `runs_here`; the first one runs everywhere.
-/// Threads that ask at the same time choose the same one, and none waits.
+/// A list of kernels with identical results, and the one in use: the last one that the processor can run,
+/// unless a test chooses another. `Kernel` has a member `runs_here`; the first kernel runs everywhere.
+/// Lock-free: threads that ask at the same time choose the same one.
 template <class Kernel>
 class KernelChoice {
  public:
@@ -24,7 +24,7 @@ class KernelChoice {
     return kernel != nullptr ? *kernel : Choose();
   }
 
-  /// Puts `kernel` in use, or with null the choice back to the processor. Returns what was in use before.
+  /// Uses `kernel`, or the processor's choice if it is null. Returns the previous one.
   const Kernel* Use(const Kernel* kernel) noexcept {
     return chosen_.exchange(kernel, std::memory_order_relaxed);
   }
@@ -41,7 +41,7 @@ class KernelChoice {
   std::atomic<const Kernel*> chosen_{nullptr};
 };
 
-/// Puts a kernel in use for as long as this object lives. For tests, one thread at a time.
+/// Uses a kernel for the lifetime of this object. For tests; not thread-safe.
 template <class Kernel>
 class ScopedKernel {
  public:

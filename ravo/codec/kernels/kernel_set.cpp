@@ -22,7 +22,7 @@ std::size_t SkipNone(const Char*, const Char*, std::size_t, const Char (&)[2]) n
   return 0;
 }
 
-// Leaves everything to the engine of one character.
+// Converts nothing, so the engine of one character converts everything.
 constexpr KernelSet kPlain = {.name = "plain",
                               .runs_here = RunsEverywhere,
                               .decode_utf8 = DecodeNone,
@@ -37,7 +37,7 @@ constexpr KernelSet kPlain = {.name = "plain",
                               .skip_bytes = SkipNone<char>,
                               .skip_units = SkipNone<char16_t>};
 
-// Each of the others changes what it does better.
+// Every other set replaces the functions that it improves.
 
 // Untested: runs at compile time only.
 constexpr KernelSet Baseline() {

@@ -2,7 +2,7 @@
 
 #include <ravo/codec/kernels/kernel_set.h>
 
-/// The functions that the sets are made of; kernel_set.h says what each kind does.
+/// The functions of the sets; kernel_set.h describes each kind.
 namespace ravo::codec {
 
 /// On every processor.
@@ -28,7 +28,7 @@ namespace ravo::codec {
 [[nodiscard]] std::size_t SkipUnitsAvx2(const char16_t* text, const char16_t* last_text, std::size_t places,
                                         const char16_t (&ends)[2]) noexcept;
 
-/// Of the extensions, those that AVX-512 has on processors with VBMI2.
+/// Returns whether the processor has AVX-512 with the extensions that come with VBMI2.
 [[nodiscard]] bool HasAvx512() noexcept;
 [[nodiscard]] Run DecodeUtf8Avx512(ByteSpan bytes, TextRoom text) noexcept;
 [[nodiscard]] RunUntil DecodeUtf8UntilAvx512(ByteSpan bytes, TextRoom text, EndBytes ends) noexcept;

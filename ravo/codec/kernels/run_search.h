@@ -10,13 +10,13 @@
 #include <cstdint>
 #include <span>
 
-/// Searches a run for the first unit of a kind, sixteen units at a time. A unit is a UTF-16 unit, or a byte
+/// Search of a run for the first unit of a kind, sixteen units at a time. A unit is a UTF-16 unit, or a byte
 /// of a text whose bytes below 0x80 are ASCII.
 namespace ravo::codec {
 
 inline constexpr std::size_t kSearchBlock = 16;
 
-/// Sixteen units; a question about them is answered by a bit for each, the first in the lowest.
+/// Sixteen units. A comparison gives a bit for each, the first unit in the lowest bit.
 template <class Unit>
 class UnitBlock;
 
@@ -31,7 +31,7 @@ class UnitBlock<std::uint8_t> {
   [[nodiscard]] unsigned From(std::uint8_t first, std::uint8_t last) const noexcept {
     return units_.Within(first, last).AsHits().Bits();
   }
-  /// Bytes from 0x80 on.
+  /// Returns the bits of bytes from 0x80 on.
   [[nodiscard]] unsigned NoAscii() const noexcept { return units_.AsHits().Bits(); }
   /// Writes each byte as a unit.
   void Widen(char16_t* to) const noexcept {
@@ -62,7 +62,7 @@ class UnitBlock<char16_t> {
   Block<char16_t> high_;
 };
 
-/// Units equal to one of those given.
+/// Matches units that equal one of the arguments.
 template <std::size_t kCount>
 class OneOf {
  public:
@@ -95,7 +95,7 @@ OneOf(Chars...) -> OneOf<sizeof...(Chars)>;
 
 inline constexpr OneOf kLineBreaks(u'\r', u'\n');
 
-/// Blanks, and controls that are white space: nearly all of what is white space.
+/// Matches blanks and white-space controls, which are nearly all white space.
 struct PlainWhite {
   [[nodiscard]] constexpr bool operator()(char16_t c) const { return c == u' ' || (c >= 9 && c <= 13); }
   template <class Unit>
@@ -104,7 +104,7 @@ struct PlainWhite {
   }
 };
 
-/// Whatever a kind is not.
+/// Matches units that a kind does not match.
 template <class Kind>
 class Not {
  public:
@@ -121,14 +121,14 @@ class Not {
   Kind kind_;
 };
 
-/// The line starts among units: a unit after a line feed, or after a carriage return unless it is a line feed
-/// itself.
+/// The line starts in a run: each unit after a line feed, or after a carriage return unless it is a line
+/// feed.
 struct LineStarts {
   std::size_t count = 0;
-  std::size_t last = 0;  ///< the last of them
+  std::size_t last = 0;  ///< index of the last line start
 };
 
-/// `before` is the unit before the first one.
+/// Finds the line starts; `before` is the unit before the run.
 template <class Unit>
 [[nodiscard]] LineStarts FindLineStarts(char16_t before, std::span<const Unit> run) {
   LineStarts starts;
@@ -153,7 +153,7 @@ template <class Unit>
   return starts;
 }
 
-/// Returns how many units there are before the first one of a kind. The last block overlaps the one before.
+/// Returns the number of units before the first one of a kind. The last block overlaps the one before it.
 template <class Unit, class Kind>
 [[nodiscard]] std::size_t LengthBefore(std::span<const Unit> run, const Kind& kind) {
   std::size_t at = 0;

@@ -12,7 +12,7 @@ RAVO_AVX2 inline WideBlock<Char> Candidates(const Char* text, const Char* last_t
   return WideBlock<Char>::Load(text).EqualTo(first) & WideBlock<Char>::Load(last_text).EqualTo(last);
 }
 
-// Two blocks of places at a time.
+// Tests two blocks of positions at a time.
 template <class Char>
 RAVO_AVX2 inline std::size_t SkipBlocks(const Char* text, const Char* last_text, std::size_t places,
                                         const Char (&ends)[2]) {

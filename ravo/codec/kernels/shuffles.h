@@ -4,8 +4,8 @@
 #include <cstddef>
 #include <cstdint>
 
-/// One table of byte shuffles for each job: which bytes of a block stay, by a number of eight bits that the
-/// block's comparison gave. Those that stay move to the front.
+/// Tables of byte shuffles that move the kept bytes of a block to its front, indexed by eight bits of a
+/// comparison.
 namespace ravo::codec {
 
 using Shuffle = std::array<std::uint8_t, 16>;
@@ -24,18 +24,18 @@ constexpr Shuffles MakeShuffles(Stays stays) {
   return shuffles;
 }
 
-/// Eight units: those stay whose bit is set.
+/// Keeps those of eight units whose bit is set.
 inline constexpr Shuffles kUnitsThatStay =
     // Untested: runs at compile time only.
     MakeShuffles([](unsigned bits, unsigned byte) { return (bits >> (byte / 2) & 1) != 0; });
 
-/// Eight pairs of bytes: of those whose bit is set, only the first byte stays.
+/// Keeps eight pairs of bytes, but only the first byte of those whose bit is set.
 inline constexpr Shuffles kPairsOrFirst =
     // Untested: runs at compile time only.
     MakeShuffles([](unsigned bits, unsigned byte) { return byte % 2 == 0 || (bits >> (byte / 2) & 1) == 0; });
 
-/// Four groups of four bytes, of which the fourth goes. The second goes if the group's lower bit is set
-/// (ASCII), the first unless its upper bit is set (three bytes).
+/// Keeps three bytes of each of four groups of four. It drops the second byte too if the group's lower bit is
+/// set (ASCII), and the first unless the group's upper bit is set (three bytes).
 inline constexpr Shuffles kEndsOfTriples = MakeShuffles([](unsigned bits, unsigned byte) {
   // Untested: runs at compile time only.
   const bool is_ascii = (bits >> (byte / 4) & 1) != 0;

@@ -1,13 +1,13 @@
 #include <ravo/codec/kernels/kernels.h>
 
-// Single-byte encodings by look-ups in registers.
+// Single-byte encodings by table lookup in registers.
 #if defined(__SSE2__) && defined(__x86_64__)
 #include <ravo/codec/kernels/decode_avx512.inc>
 
 namespace ravo::codec {
 namespace {
 
-// Single bytes: the upper half of the table in four vectors.
+// Holds the upper half of the table in four vectors.
 class SingleByteEngine {
  public:
   struct Maker {

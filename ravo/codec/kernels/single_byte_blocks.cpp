@@ -7,14 +7,14 @@ namespace ravo::codec {
 namespace {
 
 constexpr std::size_t kBlock = 16;
-// So many ASCII characters in a row are rare in Czech text, so the branch on them is predicted for either
+// Runs of this many ASCII characters are rare in Czech text, so the branch on them is predictable in either
 // kind of text.
 constexpr std::size_t kAsciiBlocks = 4;
 constexpr std::size_t kBig = kAsciiBlocks * kBlock;
 
 using Indices = std::array<std::uint16_t, kBlock>;
 
-// Writes a block of bytes; false where one of them is 0.
+// Stores a block of bytes. False if one of them is 0.
 bool WriteBytes(const std::array<std::uint8_t, kBlock>& bytes, std::uint8_t* to) {
   unsigned missing = 0;
   for (const std::uint8_t byte : bytes) missing |= byte - 1U;
@@ -22,14 +22,14 @@ bool WriteBytes(const std::array<std::uint8_t, kBlock>& bytes, std::uint8_t* to)
   return missing < 0x100;
 }
 
-// Any characters.
+// Encodes a block of any characters.
 bool EncodeAny(const ReverseTable& table, const char16_t* from, std::uint8_t* to) {
   std::array<std::uint8_t, kBlock> bytes{};
   for (std::size_t i = 0; i < kBlock; ++i) bytes[i] = table[from[i]];
   return WriteBytes(bytes, to);
 }
 
-// Places of eight characters in the second and third page; false if one is elsewhere.
+// Looks up the indices of eight characters in the second and third page. False if one is in another page.
 bool PlacesOf(std::uint8_t script, const char16_t* from, std::uint16_t* places) {
   using Units = Block<char16_t>;
   const Units text = Units::Load(from);
@@ -39,14 +39,14 @@ bool PlacesOf(std::uint8_t script, const char16_t* from, std::uint16_t* places) 
   return (is_low | page.EqualTo(char16_t{script})).AsHits().All();
 }
 
-// Eight bytes as one number, the first in its lowest bits.
+// Returns eight bytes as one integer, the first in its lowest bits.
 std::uint64_t EightBytes(const std::uint8_t* pages, const std::uint16_t* places) {
   std::uint64_t bytes = 0;
   for (std::size_t i = 8; i-- > 0;) bytes = bytes << 8 | pages[places[i]];
   return bytes;
 }
 
-// Most characters are in two pages: one look-up each.
+// Most characters are in two pages, so one lookup each suffices.
 bool EncodeBlock(const ReverseTable& table, const char16_t* from, std::uint8_t* to) {
   alignas(kBlockBytes) Indices places;
   const bool first = PlacesOf(table.script, from, places.data());
@@ -59,12 +59,12 @@ bool EncodeBlock(const ReverseTable& table, const char16_t* from, std::uint8_t* 
   return bytes.EqualTo(0).AsHits().None();
 }
 
-// So few that the compiler writes the look-ups out.
+// Short enough that the compiler unrolls the lookups.
 void DecodeBlock(const ByteTable& table, const std::uint8_t* from, char16_t* to) {
   for (std::size_t i = 0; i < kBlock; ++i) to[i] = table[from[i]];
 }
 
-// How many characters of a big block were encoded.
+// Encodes a big block and returns the number of encoded characters.
 std::size_t EncodeBig(const ReverseTable& table, const char16_t* from, std::uint8_t* to) {
   std::size_t at = 0;
   while (at < kBig && EncodeBlock(table, from + at, to + at)) at += kBlock;

@@ -7,24 +7,24 @@
 #include <cstddef>
 #include <cstdint>
 
-/// Tables of single-byte encodings: 256 characters, and the reverse, made from it at compile time.
+/// Tables of single-byte encodings: 256 characters, and the reverse table, built at compile time.
 namespace ravo::codec {
 
 using ByteTable = std::array<char16_t, 256>;
 
-/// The bytes of a table that mean a character in another position or shape, not the character itself.
+/// The bytes of a table that are variants: a character in another position or shape.
 template <const ByteTable& table>
 inline constexpr std::array<std::uint8_t, 0> kVariants{};
 
-/// A table from characters to bytes. The first page is empty and stands for all pages without characters, the
-/// second is that of the characters below U+0100, the third that of the script. If several bytes mean one
-/// character, the lowest that is no variant stands for it.
+/// A table from characters to bytes. The first page is empty and serves all pages without characters, the
+/// second has the characters below U+0100, the third those of the script. If several bytes decode to one
+/// character, it maps to the lowest one that is not a variant.
 struct ReverseTable {
-  const std::uint16_t* page_of;  ///< by the upper byte of the character: where its page begins
-  const std::uint8_t* pages;     ///< 256 bytes each; 0 means none, but for the character 0
-  std::uint8_t script;           ///< the upper byte of most other characters; 0 where there are none
+  const std::uint16_t* page_of;  ///< the start of its page, by the upper byte of the character
+  const std::uint8_t* pages;     ///< 256 bytes each; 0 means none, except for U+0000
+  std::uint8_t script;           ///< the upper byte of most other characters; 0 if there are none
 
-  /// The byte of `ch`; 0 if it has no byte. U+0000 has the byte 0 in every table.
+  /// Returns the byte of `ch`; 0 if it has none. U+0000 has the byte 0 in every table.
   [[nodiscard]] constexpr std::uint8_t operator[](char16_t ch) const noexcept {
     return pages[page_of[ch >> 8] + (ch & 0xFFU)];
   }
@@ -94,7 +94,7 @@ class Reversed {
   static constexpr Stages kStages = Make();
 };
 
-/// Whether the bytes below 80 are those of ASCII.
+/// Returns whether the bytes below 80 are those of ASCII.
 constexpr bool HasAscii(const ByteTable& table) noexcept {
   for (std::size_t byte = 0; byte < 0x80; ++byte) {
     if (table[byte] != byte) return false;
@@ -102,7 +102,7 @@ constexpr bool HasAscii(const ByteTable& table) noexcept {
   return true;
 }
 
-/// Whether no other byte is a character of ASCII, besides.
+/// Returns whether, in addition, no other byte is an ASCII character.
 // Untested: runs at compile time only.
 constexpr bool KeepsAscii(const ByteTable& table) noexcept {
   for (std::size_t byte = 0x80; byte < table.size(); ++byte) {

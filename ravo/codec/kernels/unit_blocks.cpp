@@ -10,7 +10,7 @@ constexpr std::size_t kUnits = Units::kUnits;
 
 Units Exchanged(Units units) { return units.Left(8) | units.Right(8); }
 
-// Copies eight units; false, with nothing written, if one is a surrogate and `plain_only`.
+// Copies eight units. False, with nothing written, if one is a surrogate and `plain_only`.
 bool CopyUnits(bool swap_before, bool swap_after, bool plain_only, const void* from, void* to) {
   Units units = Units::Load(from);
   if (swap_before) units = Exchanged(units);

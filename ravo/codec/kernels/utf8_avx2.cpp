@@ -19,13 +19,13 @@ RAVO_AVX2 inline bool HasNoneOf(Units units, unsigned bits) {
 }
 
 RAVO_AVX2 inline std::uint8_t* PutAscii(Units low, Units high, std::uint8_t* to) {
-  // Packing takes the halves of both blocks in turn.
+  // Packing interleaves the halves of both blocks.
   constexpr int kInOrder = 0b11'01'10'00;
   Bytes(_mm256_permute4x64_epi64(_mm256_packus_epi16(low.Lanes(), high.Lanes()), kInOrder)).Store(to);
   return to + Bytes::kUnits;
 }
 
-// A bit for each lane of two blocks; packing takes their halves in turn.
+// Returns a bit for each lane of two blocks, in packed order: their halves interleaved.
 RAVO_AVX2 inline std::uint32_t PackedBits(Units low, Units high) {
   return Bytes(_mm256_packs_epi16(low.Lanes(), high.Lanes())).Bits();
 }
@@ -45,14 +45,14 @@ RAVO_AVX2 inline char16_t* PutWidened(Bytes bytes, char16_t* to) {
   return to + Bytes::kUnits;
 }
 
-// The bytes that are `count` places before those of `bytes`.
+// Returns the bytes `count` positions earlier.
 template <int count>
 RAVO_AVX2 inline Bytes Before(Bytes bytes, Bytes before) {
   const __m256i halves = _mm256_permute2x128_si256(before.Lanes(), bytes.Lanes(), 0x21);
   return Bytes(_mm256_alignr_epi8(bytes.Lanes(), halves, 16 - count));
 }
 
-// Of each half of a block, its first and its last eight bytes.
+// Interleave the first and the last eight bytes of each half of two blocks.
 RAVO_AVX2 inline Bytes InterleavedLow(Bytes lower, Bytes upper) {
   return Bytes(_mm256_unpacklo_epi8(lower.Lanes(), upper.Lanes()));
 }

@@ -33,7 +33,7 @@ std::size_t SumOf(Units counts) {
   return std::accumulate(lanes.begin(), lanes.end(), std::size_t{0});
 }
 
-// How many bytes fewer than three each there are in whole blocks.
+// Returns how many bytes fewer than three per unit whole blocks need.
 std::size_t CountSaved(const char16_t* from, std::size_t blocks) {
   Units counts;
   for (; blocks > 0; --blocks, from += Units::kUnits) {

@@ -1,6 +1,6 @@
 #include <ravo/codec/kernels/kernels.h>
 
-// UTF-8: every mix of sequences of one to three bytes takes the same way.
+// UTF-8: all mixes of sequences of one to three bytes take the same path.
 #if defined(__SSE2__) && defined(__x86_64__)
 #include <ravo/codec/kernels/decode_avx512.inc>
 
@@ -9,7 +9,7 @@ namespace {
 
 using Places = std::array<std::uint8_t, kWide>;
 
-// Thirty-two bytes from `first` on, each with the one after it.
+// Returns the indices of thirty-two bytes from `first` on, each followed by the next one.
 // Untested: runs at compile time only.
 constexpr Places PairsFrom(std::uint8_t first) {
   Places places{};
@@ -17,10 +17,10 @@ constexpr Places PairsFrom(std::uint8_t first) {
   return places;
 }
 
-// The second half of a block is taken from its second byte on, so that the byte after its last one is there.
+// The second half of a block starts one byte late, so that the byte after its last one is in the block.
 alignas(Vector) constexpr Places kPairs[] = {PairsFrom(0), PairsFrom(kHalf - 1)};
 
-// Each byte of half a block as a unit: by itself, or if it is one of `leads` with the trail byte after it.
+// Decodes each byte of half a block as a unit: alone or, if it is one of `leads`, with its trailing byte.
 template <std::size_t half>
 RAVO_AVX512 inline Vector UnitsOfPairs(const std::uint8_t* block, Bits all_leads) {
   constexpr Bits kEveryByte = ~Bits{0};
@@ -29,7 +29,7 @@ RAVO_AVX512 inline Vector UnitsOfPairs(const std::uint8_t* block, Bits all_leads
       _mm512_maskz_permutexvar_epi8(kEveryByte, Load(kPairs[half].data()), Load(block + half));
   const Vector weights = _mm512_mask_blend_epi16(leads, _mm512_set1_epi16(1), _mm512_set1_epi16(0x140));
   const Vector units = _mm512_maddubs_epi16(pairs, weights);
-  // What the marks of lead and trail byte add.
+  // Subtracts the marker bits of lead and trailing byte.
   return _mm512_mask_sub_epi16(units, leads, units, _mm512_set1_epi16(0xC0 * 0x40 + 0x80));
 }
 
@@ -38,7 +38,7 @@ RAVO_AVX512 inline char16_t* PutKept(Vector units, __mmask32 kept, char16_t* to)
   return to + _mm_popcnt_u32(kept);
 }
 
-// Whole blocks of ASCII and pairs, with room for a unit per byte, up to a block with something else.
+// Decodes whole blocks of ASCII and pairs, with room for one unit per byte, up to any other block.
 RAVO_AVX512 inline Run DecodePairs(ByteSpan bytes, TextRoom text) {
   const std::size_t most = std::min(bytes.size(), text.size());
   std::size_t at = 0;
@@ -65,7 +65,7 @@ RAVO_AVX512 inline Run DecodePairs(ByteSpan bytes, TextRoom text) {
     expected = leads >> (kWide - 1);
     at += kWide;
   }
-  // A pair that crosses the end was made before its trail byte was seen.
+  // A pair across the end was decoded before its trailing byte was checked.
   if (expected != 0) {
     const bool is_pair = (bytes[at] & 0xC0) == 0x80;
     at = is_pair ? at + 1 : at - 1;
@@ -74,14 +74,14 @@ RAVO_AVX512 inline Run DecodePairs(ByteSpan bytes, TextRoom text) {
   return {at, static_cast<std::size_t>(to - text.data())};
 }
 
-// A sequence may cross into the next block.
+// Decodes blocks; a sequence may continue in the next block.
 class Utf8Engine {
  public:
   struct Maker {
     RAVO_AVX512 Utf8Engine operator()() const { return {}; }
   };
 
-  // False if a sequence is malformed; those before it are decoded.
+  // Decodes a block. False if a sequence is malformed; those before it are decoded.
   RAVO_AVX512 bool Decode(const ByteBlock& block, TextRoom to, Run& run) {
     const Vector bytes = Load(block.from);
     const Bits rests = block.beyond & ~From(bytes, 0xC0);
@@ -99,7 +99,7 @@ class Utf8Engine {
   }
 
   RAVO_AVX512 bool IsBetweenCharacters() const { return expected_ == 0; }
-  // A sequence that ends early, whose lead byte is the last or the last but one, is no character yet.
+  // Drops a last sequence that is incomplete: its lead byte is the last byte or the one before it.
   RAVO_AVX512 Run WithoutUnfinished(const Run& run, ByteSpan bytes) const {
     if (expected_ == 0) return run;
     return {run.taken - (bytes[run.taken - 1] >= 0xC0 ? 1 : 2), run.made - 1};
@@ -109,16 +109,17 @@ class Utf8Engine {
   struct Sequences {
     Bits leads;       ///< of two or three bytes
     Bits long_leads;  ///< of three bytes
-    Bits starts;      ///< bytes that begin a character that counts
+    Bits starts;      ///< bytes that begin a character of the result
   };
 
-  // Leads of more than three bytes, and those whose second byte makes them overlong.
+  // Returns lead bytes of more than three bytes, and those whose second byte makes them overlong.
   RAVO_AVX512 static Bits NoLongLeads(const ByteBlock& block) {
     const Vector bytes = Load(block.from);
     return From(bytes, 0xF0) | (EqualTo(bytes, 0xE0) & ~From(Load(block.from + 1), 0xA0));
   }
 
-  // Leaves out a sequence that is not whole. One that the block before began stays expected.
+  // Returns the length before an incomplete or malformed sequence. One that began in the previous block stays
+  // expected.
   RAVO_AVX512 std::size_t RightBefore(Bits wrong, Bits leads, Bits long_leads) {
     const std::size_t right = _tzcnt_u64(wrong);
     expected_ >>= right;
@@ -138,7 +139,7 @@ class Utf8Engine {
     return _mm512_mask_add_epi16(text, HalfOf<half>(sequences.long_leads), _mm512_slli_epi16(text, 6), third);
   }
 
-  // Each byte as a unit: by itself, or as the lead of a sequence with the bytes after it.
+  // Decodes each byte of half a block as a unit: alone or, if it is a lead byte, with its trailing bytes.
   template <std::size_t half>
   RAVO_AVX512 static std::size_t Append(const ByteBlock& block, const Sequences& sequences, TextRoom to) {
     const Vector text = sequences.long_leads == 0 ? UnitsOfPairs<half>(block.from, sequences.leads)
@@ -155,7 +156,7 @@ class Utf8Engine {
 }  // namespace
 
 RAVO_AVX512 Run DecodeUtf8Avx512(ByteSpan bytes, TextRoom text) noexcept {
-  // Sequences of three bytes seldom come alone: so many bytes go the way that takes all kinds.
+  // Sequences of three bytes cluster: after one, this many bytes take the path for all kinds.
   constexpr std::size_t kMixed = 16 * kWide;
   Run run;
   for (;;) {

@@ -11,12 +11,12 @@ namespace {
 
 constexpr std::size_t kUnits = kWide / sizeof(char16_t);
 constexpr std::size_t kStep = 2 * kUnits;
-// The last store of a step begins after three bytes for each unit but sixteen.
+// The last store of a step begins after three bytes for each unit but the last sixteen.
 constexpr std::size_t kStepRoom = 3 * (kStep - 16) + kWide;
-// A unit of three bytes seldom comes alone: so many steps are then taken without a test.
+// Units of three bytes cluster: after one, this many steps are taken without a test.
 constexpr std::size_t kLongSteps = 4;
 
-// With a mask of all lanes: without one, the compiler's header reads a vector that it leaves undefined.
+// Masks of all lanes: the intrinsics without a mask read an undefined vector in the compiler's header.
 constexpr Bits kEveryByte = ~Bits{0};
 constexpr Bits kFirstOfTwo = 0x5555'5555'5555'5555;
 constexpr Bits kThirdOfFour = 0x4444'4444'4444'4444;
@@ -37,13 +37,13 @@ RAVO_AVX512 inline __mmask32 HaveAny(Vector units, unsigned bits) {
 
 RAVO_AVX512 inline std::size_t CountBits(Bits bits) { return static_cast<std::size_t>(_mm_popcnt_u64(bits)); }
 
-// Compressing to memory is slow on some processors: the vector is stored whole.
+// Stores the whole vector, because compressing to memory is slow on some processors.
 RAVO_AVX512 inline std::uint8_t* PutKept(Vector bytes, Bits kept, std::uint8_t* to) {
   _mm512_storeu_si512(to, _mm512_maskz_compress_epi8(kept, bytes));
   return to + CountBits(kept);
 }
 
-// Thirty-two units below U+0800: each lane becomes lead and trail byte, or stays if it is ASCII.
+// Encodes thirty-two units below U+0800: each lane becomes lead and trailing byte, or stays if it is ASCII.
 RAVO_AVX512 inline std::uint8_t* PutPairs(Vector units, std::uint8_t* to) {
   const Vector trails = _mm512_and_si512(_mm512_slli_epi16(units, 8), AllUnits(0x3F00));
   const Vector both = _mm512_or_si512(_mm512_or_si512(trails, _mm512_srli_epi16(units, 6)), AllUnits(0x80C0));
@@ -51,7 +51,7 @@ RAVO_AVX512 inline std::uint8_t* PutPairs(Vector units, std::uint8_t* to) {
   return PutKept(pairs, _mm512_movepi8_mask(pairs) | kFirstOfTwo, to);
 }
 
-// Sixteen units of any kind, each in four bytes: of those, the third is the last of its sequence.
+// Encodes sixteen units of any kind into four bytes each, the third of which is the last of its sequence.
 RAVO_AVX512 inline Vector AsTriples(__m256i units) {
   constexpr long long kShifts = 0x0020'262C'0000'060C;  // by 12, 6 and 0 bits in each half
   const Vector wide = _mm512_maskz_cvtepu16_epi32(static_cast<__mmask16>(kEveryByte), units);
@@ -67,7 +67,7 @@ RAVO_AVX512 inline Vector AsTriples(__m256i units) {
 
 RAVO_AVX512 inline Bits KeptOfTriples(Vector triples) { return _mm512_movepi8_mask(triples) | kThirdOfFour; }
 
-// Two vectors of units of any kind.
+// Encodes two vectors of units of any kind.
 RAVO_AVX512 inline std::uint8_t* PutAny(const char16_t* from, std::uint8_t* to) {
   for (std::size_t at = 0; at < kStep; at += 16) {
     const Vector triples = AsTriples(_mm256_loadu_si256(reinterpret_cast<const __m256i*>(from + at)));
@@ -107,7 +107,7 @@ class Encoder {
     }
   }
 
-  // Some of the last units, stored under a mask; false if there is no room for them.
+  // Encodes some of the last units with a masked store. False if there is no room for them.
   RAVO_AVX512 bool PutLast() {
     const std::size_t count = std::min<std::size_t>(left_, 16);
     const auto present = static_cast<__mmask16>(LowestOfHalf(count));
@@ -133,7 +133,7 @@ class Encoder {
   std::size_t room_;
 };
 
-// How many bytes more than units there are among thirty-two units.
+// Returns how many more bytes than units thirty-two units need.
 RAVO_AVX512 inline std::size_t CountExtra(Vector units) {
   return CountBits(HaveAny(units, 0xFF80)) + CountBits(HaveAny(units, 0xF800));
 }

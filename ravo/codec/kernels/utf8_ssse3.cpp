@@ -37,7 +37,7 @@ RAVO_TARGET inline char16_t* PutWidened(Bytes bytes, char16_t* to) {
   return to + Bytes::kUnits;
 }
 
-// The bytes that are `count` places before those of `bytes`.
+// Returns the bytes `count` positions earlier.
 template <int count>
 RAVO_TARGET inline Bytes Before(Bytes bytes, Bytes before) {
   return Bytes(_mm_alignr_epi8(bytes.Lanes(), before.Lanes(), 16 - count));

@@ -9,7 +9,7 @@ namespace {
 // Units below `first` wrap to large numbers and fail the one comparison.
 constexpr bool Within(char16_t c, unsigned first, unsigned last) { return c - first <= last - first; }
 
-// Whether the bit of `c` is set in a constant that stands for the units from `first` on.
+// Returns whether the bit of `c` is set in a bit set that starts at the unit `first`.
 constexpr bool Among(char16_t c, unsigned first, std::uint64_t bits) {
   const unsigned at = c - first;
   return at < 64 && ((bits >> at) & 1) != 0;

@@ -2,9 +2,10 @@
 
 #include <ravo/runtime/export.h>
 
-/// General categories of Unicode, for one code unit of UTF-16. Each function answers whether the unit is of
-/// the category that its comment names; an unassigned unit is of none. The answers are compiled decision
-/// trees: constant time, no table, no allocation.
+/// Unicode general categories of one UTF-16 unit.
+///
+/// Each function returns whether the unit has the category that its comment names; an unassigned unit has
+/// none. They are compiled decision trees: constant time, no table, no allocation.
 namespace ravo::DIUnicode {
 
 /// L, a letter.
@@ -13,7 +14,7 @@ namespace ravo::DIUnicode {
 [[nodiscard]] RAVO_API bool CharIsLetterUpperCaseW(char16_t c) noexcept;
 /// Ll, a lower-case letter.
 [[nodiscard]] RAVO_API bool CharIsLetterLowerCaseW(char16_t c) noexcept;
-/// Lt, a letter of title case, such as U+01C5.
+/// Lt, a title-case letter, such as U+01C5.
 [[nodiscard]] RAVO_API bool CharIsLetterTitleCaseW(char16_t c) noexcept;
 /// Lm, a modifier letter.
 [[nodiscard]] RAVO_API bool CharIsLetterModifierW(char16_t c) noexcept;
@@ -22,11 +23,11 @@ namespace ravo::DIUnicode {
 
 /// M, a mark.
 [[nodiscard]] RAVO_API bool CharIsMarkW(char16_t c) noexcept;
-/// Mn, a mark that takes no room.
+/// Mn, a nonspacing mark.
 [[nodiscard]] RAVO_API bool CharIsMarkNon_SpacingW(char16_t c) noexcept;
-/// Mc, a mark that takes room.
+/// Mc, a spacing combining mark.
 [[nodiscard]] RAVO_API bool CharIsMarkSpacing_CombinedW(char16_t c) noexcept;
-/// Me, a mark around its letter.
+/// Me, an enclosing mark.
 [[nodiscard]] RAVO_API bool CharIsMarkEnclosingW(char16_t c) noexcept;
 
 /// N, a number.
@@ -44,9 +45,9 @@ namespace ravo::DIUnicode {
 [[nodiscard]] RAVO_API bool CharIsPunctuation_ConnectorW(char16_t c) noexcept;
 /// Pd, a dash or hyphen.
 [[nodiscard]] RAVO_API bool CharIsPunctuation_DashW(char16_t c) noexcept;
-/// Ps, an opening bracket or low quote.
+/// Ps, opening punctuation: a bracket or low quote.
 [[nodiscard]] RAVO_API bool CharIsPunctuation_OpenW(char16_t c) noexcept;
-/// Pe, a closing bracket.
+/// Pe, closing punctuation: a bracket.
 [[nodiscard]] RAVO_API bool CharIsPunctuation_CloseW(char16_t c) noexcept;
 /// Pi, an initial quote.
 [[nodiscard]] RAVO_API bool CharIsPunctuation_InitialQuoteW(char16_t c) noexcept;
@@ -70,25 +71,25 @@ namespace ravo::DIUnicode {
 [[nodiscard]] RAVO_API bool CharIsSeparatorW(char16_t c) noexcept;
 /// Zs, a space.
 [[nodiscard]] RAVO_API bool CharIsSeparatorSpaceW(char16_t c) noexcept;
-/// Zl, U+2028 alone.
+/// Zl, the line separator: only U+2028.
 [[nodiscard]] RAVO_API bool CharIsSeparatorLineW(char16_t c) noexcept;
-/// Zp, U+2029 alone.
+/// Zp, the paragraph separator: only U+2029.
 [[nodiscard]] RAVO_API bool CharIsSeparatorParagraphW(char16_t c) noexcept;
 
-/// C without the unassigned: Cc, Cf, Cs or Co.
+/// C except unassigned: Cc, Cf, Cs or Co.
 [[nodiscard]] RAVO_API bool CharIsOtherW(char16_t c) noexcept;
 /// Cc, a control character.
 [[nodiscard]] RAVO_API bool CharIsOtherControlW(char16_t c) noexcept;
 /// Cf, a format character, such as U+00AD.
 [[nodiscard]] RAVO_API bool CharIsOtherFormatW(char16_t c) noexcept;
-/// Cs, a surrogate: the one detailed category that answers for U+D800 to U+DFFF.
+/// Cs, a surrogate. Among the detailed categories, the only one of U+D800 to U+DFFF.
 [[nodiscard]] RAVO_API bool CharIsOtherSurrogateW(char16_t c) noexcept;
-/// Co, for private use: U+E000 to U+F8FF.
+/// Co, private use: U+E000 to U+F8FF.
 [[nodiscard]] RAVO_API bool CharIsOtherPrivateUseW(char16_t c) noexcept;
 
-/// A letter (L) of the alphabets of European correspondence: Latin with all its diacritics, Greek and
-/// Cyrillic (U+0000 to U+024F, U+0370 to U+052F, U+1E00 to U+1EFF). Letters of other scripts, modifier
-/// letters and letter-like symbols of other blocks are not common.
+/// A letter (L) of the alphabets in European correspondence: Latin with all diacritics, Greek and Cyrillic
+/// (U+0000 to U+024F, U+0370 to U+052F, U+1E00 to U+1EFF). Excludes other scripts, and modifier letters and
+/// letter-like symbols of other blocks.
 [[nodiscard]] RAVO_API bool CharIsLetterCommonW(char16_t c) noexcept;
 
 }  // namespace ravo::DIUnicode

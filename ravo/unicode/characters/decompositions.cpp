@@ -7,7 +7,7 @@ namespace {
 
 #include "generated/decompositions.inc"
 
-// The conjoining letters of Hangul: leading, vowels, trailing, and how many of the last two there are.
+// The conjoining jamo of Hangul: leading, vowel and trailing, and the counts of the last two.
 constexpr unsigned kSyllableBase = 0xAC00;
 constexpr unsigned kLeadBase = 0x1100;
 constexpr unsigned kVowelBase = 0x1161;

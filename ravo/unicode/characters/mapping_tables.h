@@ -4,8 +4,8 @@
 
 #include <cstdint>
 
-/// The tables of the mappings, for loops that cannot afford a call for every unit. A block number of 0 or
-/// an entry of 0 means that the unit stays as it is.
+/// The mapping tables, for hot loops without a call per unit. A block number of 0 or an entry of 0 means that
+/// the unit maps to itself.
 namespace ravo::DIUnicode {
 
 extern const std::uint8_t kCaseFoldBlocks[];

@@ -4,28 +4,28 @@
 
 #include <cstdint>
 
-/// Simple mappings and the combining class of one code unit of UTF-16: two array reads, no allocation. Each
-/// mapping gives one unit for one unit; what has no such mapping (U+00DF in upper case, surrogates) stays.
+/// Simple mappings and the combining class of one UTF-16 unit: two array reads, no allocation. A unit without
+/// a mapping to a single unit (U+00DF to upper case, surrogates) maps to itself.
 namespace ravo::DIUnicode {
 
-/// What two units have in common that differ in case alone. "A" and "a" give "a".
+/// Returns the case-folded form, equal for units that differ only in case: "a" for "A" and "a".
 [[nodiscard]] RAVO_INLINE_API char16_t CharToCaseFoldW(char16_t c) noexcept;
-/// The upper case.
+/// Returns the upper case of `c`.
 [[nodiscard]] RAVO_INLINE_API char16_t CharToUpperW(char16_t c) noexcept;
-/// The lower case.
+/// Returns the lower case of `c`.
 [[nodiscard]] RAVO_INLINE_API char16_t CharToLowerW(char16_t c) noexcept;
-/// The form of a first letter: the upper case, but U+01C5 for U+01C4 to U+01C6 and the like.
+/// Returns the title case of `c`: the upper case, but U+01C5 for U+01C4 to U+01C6 and the like.
 [[nodiscard]] RAVO_INLINE_API char16_t CharToTitleW(char16_t c) noexcept;
 
-/// The canonical combining class: 0 for what starts a sequence, otherwise the order of marks (230 for most
-/// marks above a letter).
+/// Returns the canonical combining class: 0 for a starter, else the rank of a mark (230 for most marks above
+/// a letter).
 [[nodiscard]] RAVO_INLINE_API std::uint8_t CharCanonicalCombiningClassW(char16_t c) noexcept;
 
-// Implementation. A look-up is shorter than a call, so it is inline; the tables stay in the library.
+// Implementation: inline, because a lookup is shorter than a call. The tables are in the library.
 
 namespace detail {
 
-/// The entry of `c`, or `fallback` where that is 0. Block 0 is the first one and holds zeros.
+/// Returns the entry of `c`, or `fallback` if it is 0. Block 0 is all zeros.
 template <unsigned block_bits, class Entry, class Default>
 [[nodiscard]] inline Default LookUp(const std::uint8_t* blocks, const Entry* entries, char16_t c,
                                     Default fallback) noexcept {
@@ -34,8 +34,8 @@ template <unsigned block_bits, class Entry, class Default>
   return entry != 0 ? entry : fallback;
 }
 
-/// Where the two stages of a table are. Users see their addresses, not the arrays: a program that is not
-/// position-independent would get a copy of the arrays, of the size they had when it was linked.
+/// Pointers to the two stages of a table. The arrays themselves are not exported: a copy relocation would put
+/// an array of the size known at link time into a program that is not position-independent.
 template <unsigned block_bits, class Entry>
 struct TwoStages {
   const std::uint8_t* blocks;

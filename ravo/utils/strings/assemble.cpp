@@ -89,7 +89,7 @@ std::u16string QuotedStrW(std::u16string_view text, char16_t quote) {
   std::size_t at = 1;
   for (const char16_t c : text) {
     result[at++] = c;
-    // The doubled quote is there already.
+    // Skips the doubled quote.
     if (c == quote) ++at;
   }
   return result;

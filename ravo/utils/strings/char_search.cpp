@@ -13,7 +13,7 @@ using strings::View;
 using ViewA = std::string_view;
 using ViewW = std::u16string_view;
 
-// Tests of one character, the target of a search.
+// The target of a search: a test of one character.
 template <class Char>
 auto Is(Char wanted) {
   return [wanted](Char c) { return c == wanted; };

@@ -12,7 +12,7 @@ namespace {
 using codec::Block;
 using codec::Hits;
 
-// Blocks with the characters that one character of a search text may stand for.
+// The characters that match one character of the search text, each in all lanes of a block.
 template <class Fold, class Char>
 class Wanted {
  public:
@@ -46,8 +46,8 @@ std::size_t SkipByKernel(const char16_t* text, const char16_t* last_text, std::s
   return codec::ChosenKernels().skip_units(text, last_text, places, ends);
 }
 
-// Searches for the first and the last character of `search` at their distance, a block of places at a time;
-// compares what is between only if both are there.
+// Searches for the first and the last character of `search` at their distance, a block of positions at a
+// time; compares the rest only where both match.
 template <class Fold, class Char>
 class Finder {
  public:
@@ -77,9 +77,9 @@ class Finder {
 
  private:
   static constexpr std::size_t kLanes = Block<Char>::kUnits;
-  // After so many pairs of blocks without a candidate, more such are likely.
+  // After this many pairs of blocks without a candidate, more are likely.
   static constexpr unsigned kManyEmpty = 4;
-  // Fewer are not worth the call.
+  // Fewer positions are not worth the call.
   static constexpr std::size_t kManyPlaces = 16 * kLanes;
 
   std::size_t Skipped(View<Char> text, std::size_t from, std::size_t places) const {
@@ -93,7 +93,7 @@ class Finder {
     return (first_.In(place) & last_.In(place + search_.size() - 1)).AsHits();
   }
 
-  // The first of the candidates that is a whole hit.
+  // Returns the position of the first candidate that is a match; else `kNone`.
   std::size_t Among(View<Char> text, std::size_t from, Hits<Char> candidates) const {
     for (; !candidates.None(); candidates = candidates.WithoutFirst()) {
       const std::size_t at = from + candidates.First();
@@ -102,7 +102,8 @@ class Finder {
     return kNone;
   }
 
-  // Variants may be some too many, but a character that stands for itself alone is right.
+  // Variants include false matches, so folded characters are compared again; exact first and last ones are
+  // not.
   bool IsHit(const Char* place) const {
     if (!Fold::kIsExact) return SameUnits<Fold>(place, search_.data(), search_.size());
     return search_.size() <= 2 || SameUnits<Exact>(place + 1, search_.data() + 1, search_.size() - 2);
@@ -125,7 +126,7 @@ constexpr std::size_t kLongestFolded = 128;
 template <std::size_t size>
 View<char16_t> FoldedInto(std::array<char16_t, size>& buffer, View<char16_t> text) {
   std::size_t at = 0;
-  // ASCII by blocks, other units one by one.
+  // Folds ASCII in blocks, other units one by one.
   using Units = Block<char16_t>;
   for (; text.size() - at >= Units::kUnits; at += Units::kUnits) {
     const Units units = Units::Load(text.data() + at);
@@ -140,13 +141,13 @@ View<char16_t> FoldedInto(std::array<char16_t, size>& buffer, View<char16_t> tex
   return {buffer.data(), text.size()};
 }
 
-// For characters whose variants are not known: everything is folded, piece by piece.
+// Folds the text block by block, for characters whose variants are unknown.
 std::size_t FindInFolded(View<char16_t> search, View<char16_t> text, std::size_t from) {
   if (search.empty() || search.size() > kLongestFolded) return FindPlainly<Folded>(search, text, from);
   std::array<char16_t, kLongestFolded> search_buffer;
   std::array<char16_t, kPiece> buffer;
   const View<char16_t> folded_search = FoldedInto(search_buffer, search);
-  // Pieces overlap by all but one character of what is looked for.
+  // Blocks overlap by all but one character of the search text.
   for (; from < text.size() && search.size() <= text.size() - from; from += kPiece - search.size() + 1) {
     const std::size_t at = FindExactly(folded_search, FoldedInto(buffer, text.substr(from, kPiece)), 0);
     if (at != kNone) return from + at;

@@ -4,8 +4,8 @@
 
 namespace ravo::strings {
 
-/// The plain search, which the others are compared with: the first place from `from` on at which `search`
-/// stands in `text`; `kNone` where there is none, and for an empty `search`.
+/// Returns the first index from `from` on at which `text` contains `search`; `kNone` if it does not or
+/// `search` is empty. The reference of the other searches.
 template <class Fold, class Char>
 [[nodiscard]] std::size_t FindPlainly(View<Char> search, View<Char> text, std::size_t from) noexcept {
   if (search.empty() || from >= text.size() || search.size() > text.size() - from) return kNone;
@@ -20,10 +20,10 @@ template <class Fold, class Char>
   return kNone;
 }
 
-/// The same by vectors, where the processor this is compiled for has them.
+/// As `FindPlainly`, case-sensitive, in vectors.
 [[nodiscard]] std::size_t FindExactly(View<char> search, View<char> text, std::size_t from) noexcept;
 [[nodiscard]] std::size_t FindExactly(View<char16_t> search, View<char16_t> text, std::size_t from) noexcept;
-/// The same after case folding.
+/// As `FindPlainly` after case folding, in vectors.
 [[nodiscard]] std::size_t FindFolded(View<char> search, View<char> text, std::size_t from) noexcept;
 [[nodiscard]] std::size_t FindFolded(View<char16_t> search, View<char16_t> text, std::size_t from) noexcept;
 
@@ -36,7 +36,8 @@ template <class Fold, class Char>
   }
 }
 
-/// The last place up to `from` at which `search` stands in `text`; `kNone` as above.
+/// Returns the last index up to `from` at which `text` contains `search`; `kNone` if it does not or `search`
+/// is empty.
 template <class Fold, class Char>
 [[nodiscard]] std::size_t FindBack(View<Char> search, View<Char> text, std::size_t from) noexcept {
   if (search.empty() || search.size() > text.size()) return kNone;

@@ -5,7 +5,8 @@
 
 namespace ravo::strings {
 
-/// The first place at which two texts of one length differ; the length if they are the same.
+/// Returns the first index from `from` on at which two texts of equal length differ; `length` if there is
+/// none.
 template <class Fold, class Char>
 [[nodiscard]] std::size_t MismatchPlainly(const Char* left, const Char* right, std::size_t from,
                                           std::size_t length) noexcept {
@@ -13,7 +14,7 @@ template <class Fold, class Char>
   return from;
 }
 
-/// The lanes at which two texts differ, as far as blocks can tell.
+/// Returns the lanes at which two texts may differ. Lanes that are not among them are equal.
 template <class Fold, class Char>
 [[nodiscard]] inline codec::Hits<Char> DifferentLanes(const Char* left, const Char* right) noexcept {
   auto here = codec::Block<Char>::Load(left);
@@ -27,8 +28,8 @@ template <class Fold, class Char>
 
 using Units = codec::Block<char16_t>;
 
-/// Lanes of ones where `upper` is an upper-case letter of Latin whose lower case is the next code: from
-/// U+0100 to U+017E even codes, but odd ones where the pairs begin at one.
+/// Returns ones in the lanes of Latin upper-case letters whose lower case is the next code: even codes from
+/// U+0100 to U+017E, but odd ones in the ranges whose pairs begin at an odd code.
 [[nodiscard]] inline Units HaveLowerNext(Units upper) noexcept {
   const Units odd = (upper & Units(char16_t{1})).EqualTo(char16_t{1});
   const Units begin_odd = upper.Within(0x138, 0x148) | upper.Within(0x178, 0x17E);
@@ -36,19 +37,19 @@ using Units = codec::Block<char16_t>;
   return letters & odd.EqualTo(begin_odd);
 }
 
-/// The same for letters of Latin-1 beyond ASCII, whose lower case is 32 codes after them.
+/// Returns ones in the lanes of Latin-1 upper-case letters past ASCII: their lower case is 32 codes later.
 [[nodiscard]] inline Units HaveLowerFar(Units upper) noexcept {
   return upper.Within(0xC0, 0xDE).Without(upper.EqualTo(char16_t{0xD7}));
 }
 
-/// The same for UTF-16 after case folding: two units that differ fold alike if the lower code is an
-/// upper-case letter and the distance is the one to its lower case. Letters beyond U+017F are left to others.
+/// As above for UTF-16 after case folding: two different units fold alike if the lower code is an upper-case
+/// letter and the higher one its lower case. Letters past U+017F count as different here.
 template <>
 [[nodiscard]] inline codec::Hits<char16_t> DifferentLanes<Folded, char16_t>(const char16_t* left,
                                                                             const char16_t* right) noexcept {
   const Units here = Units::Load(left);
   const Units there = Units::Load(right);
-  // Signed: codes from U+8000 on pair with nothing below them.
+  // Signed comparison is safe: codes from U+8000 on pair with no lower code.
   const Units upper = SignedLesser(here, there);
   const Units distance = SignedGreater(here, there) - upper;
   const Units is_far = distance.EqualTo(u' ');
@@ -60,7 +61,8 @@ template <>
   return different & ~latin.AsHits();
 }
 
-/// The first of those lanes at which two texts differ indeed.
+/// Returns the index of the first of `lanes` at which two texts differ after folding; `kNone` if there is
+/// none.
 template <class Fold, class Char>
 [[nodiscard]] std::size_t MismatchAmong(codec::Hits<Char> lanes, const Char* left, const Char* right,
                                         std::size_t at) noexcept {
@@ -71,7 +73,7 @@ template <class Fold, class Char>
   return kNone;
 }
 
-/// As `MismatchPlainly`, a block at a time.
+/// As `MismatchPlainly` from index 0, a block at a time.
 template <class Fold, class Char>
 [[nodiscard]] std::size_t Mismatch(const Char* left, const Char* right, std::size_t length) noexcept {
   constexpr std::size_t kLanes = codec::Block<Char>::kUnits;

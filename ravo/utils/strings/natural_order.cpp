@@ -36,8 +36,8 @@ void SkipZeros(View<Char>& text) {
   while (!text.empty() && text.front() == Char{'0'}) text.remove_prefix(1);
 }
 
-// Compares two numbers from their first difference on. The longer one is greater; if both are equally long
-// the first different digit decides, or else the difference before the zeros.
+// Compares two numbers from their first difference on. The longer one is greater; if they have the same
+// length, the first different digit decides, else the difference before the zeros.
 template <class Fold, class Char>
 std::ptrdiff_t CompareNumbers(View<Char> left, View<Char> right) {
   std::ptrdiff_t result = Difference<Fold>(left.front(), right.front());

@@ -17,7 +17,7 @@ using strings::View;
 using ViewA = std::string_view;
 using ViewW = std::u16string_view;
 
-// The limit on the length of a text that a loop does not shorten, before the loop counts as endless.
+// A loop that reaches this length without shortening the text counts as endless.
 constexpr std::size_t kMostCharacters = std::size_t{1} << 26;
 constexpr std::size_t kMostPasses = 10000;
 
@@ -25,7 +25,7 @@ template <class Fold, class Char>
 String<Char> Replaced(View<Char> text, View<Char> search, View<Char> replacement) {
   String<Char> result;
   std::size_t at = Find<Fold>(search, text, 0);
-  // Some room to grow, so that few texts are reallocated.
+  // Extra capacity avoids most reallocations.
   if (at != kNone) result.reserve(text.size() + (replacement.size() > search.size() ? text.size() / 8 : 0));
   std::size_t copied = 0;
   for (; at != kNone; at = Find<Fold>(search, text, copied)) {

@@ -16,7 +16,7 @@ using strings::Code;
 constexpr std::string_view kHexDigits = "0123456789ABCDEF";
 constexpr std::string_view kPlain = "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz@*-._";
 
-// What a byte becomes, and how many bytes that is. Four bytes, which are written at once.
+// The encoded form of a byte and its length. Four bytes, stored at once.
 struct Escape {
   char bytes[3];
   std::uint8_t size;
@@ -38,7 +38,7 @@ constexpr std::array<Escape, 256> Escapes() {
   return escapes;
 }
 
-// Where a byte is no digit; digits leave these bits alone.
+// Marks a byte that is not a digit; values of digits do not have this bit.
 constexpr unsigned kNoDigit = 0x100;
 
 // Untested: runs at compile time only.
@@ -56,7 +56,7 @@ constexpr std::array<std::uint16_t, 256> kHighDigit = DigitValues(16);
 constexpr std::array<std::uint16_t, 256> kLowDigit = DigitValues(1);
 
 constexpr std::size_t kBlock = codec::kBlockBytes;
-// Bytes that are decoded one by one if escapes are close together.
+// The number of bytes to decode one by one if escapes are close together.
 constexpr std::size_t kMany = 64;
 
 using Bytes = codec::Block<char>;
@@ -67,7 +67,7 @@ Bytes ArePlain(Bytes text) {
   return letters | marks | text.Within('0', '9');
 }
 
-// Sixteen bytes that are plain or blanks; false if others are among them.
+// Encodes sixteen bytes that are plain or blanks. False if there are others.
 bool EncodePlain(const char* text, char* out) {
   const Bytes bytes = Bytes::Load(text);
   const Bytes blanks = bytes.EqualTo(' ');
@@ -75,7 +75,7 @@ bool EncodePlain(const char* text, char* out) {
   return (ArePlain(bytes) | blanks).AsHits().All();
 }
 
-// How many bytes from the front are no escapes, as far as whole blocks go; they are in `out` then.
+// Decodes whole blocks without escapes into `out` and returns their length.
 std::size_t DecodePlain(std::string_view text, char* out) {
   std::size_t at = 0;
   for (; text.size() - at >= kBlock; at += kBlock) {
@@ -104,7 +104,7 @@ char* Encode(std::string_view text, char* out) {
   return EncodeBytes(text, out);
 }
 
-// The byte at `at`, which moves past it or past its escape.
+// Decodes the byte or escape at `at` and advances past it.
 char DecodeOne(const char*& at, const char* end) {
   const char c = *at++;
   if (c != '%') return c == '+' ? ' ' : c;
@@ -121,7 +121,7 @@ char* Decode(std::string_view text, char* out) {
     const std::size_t plain = DecodePlain({at, static_cast<std::size_t>(end - at)}, out);
     at += plain;
     out += plain;
-    // Escapes come in groups: a short run is followed by short ones.
+    // Escapes cluster: a short run is followed by short ones.
     for (std::size_t few = plain < kBlock / 2 ? kMany : 1; few > 0 && at != end; --few)
       *out++ = DecodeOne(at, end);
   }

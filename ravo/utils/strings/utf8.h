@@ -6,22 +6,24 @@
 #include <string>
 #include <string_view>
 
-/// UTF-8 of texts that hold code units of UTF-16 one by one. Each sequence of four bytes or more becomes one
-/// U+FFFD, each code unit becomes a sequence of one to three bytes, halves of surrogate pairs too. (`ToUtf8`
-/// and `FromUtf8` know pairs.) A buffer is a pointer (null for none) and a length.
+/// Conversion between UTF-8 and single UTF-16 units. Each sequence of four bytes or more is decoded as one
+/// U+FFFD; each unit is encoded as one to three bytes, surrogates too. (`ToUtf8` and `FromUtf8` know
+/// surrogate pairs.) A buffer is a pointer, which may be null if the buffer is empty, and a length.
 namespace ravo::DIUtils {
 
-/// The number of code units that decoding gives.
+/// Returns the number of UTF-16 units of the decoded text.
 [[nodiscard]] RAVO_API std::size_t BufCountUtf8Chars(const char* buffer, std::size_t length) noexcept;
 [[nodiscard]] RAVO_API std::size_t StrCountUtf8Chars(std::string_view bytes) noexcept;
 
-/// UTF-8 to UTF-16. One U+FFFD stands for each trail byte without a lead, each over-long form of two or three
-/// bytes, each sequence of four to six bytes, and each sequence that is cut short; the byte that cuts it
-/// short is looked at anew. Surrogate values are taken as they are.
+/// Returns UTF-8 decoded as UTF-16.
+///
+/// One U+FFFD replaces each trailing byte without a lead byte, each overlong sequence of two or three bytes,
+/// each sequence of four to six bytes, and each truncated sequence; the byte after a truncated sequence is
+/// decoded by itself. Surrogates are decoded as they are.
 [[nodiscard]] RAVO_API std::u16string BufDecodeUtf8(const char* buffer, std::size_t length);
 [[nodiscard]] RAVO_API std::u16string StrDecodeUtf8(std::string_view bytes);
 
-/// UTF-16 to UTF-8, each code unit by itself.
+/// Returns UTF-16 encoded as UTF-8, each unit by itself.
 [[nodiscard]] RAVO_API std::string BufEncodeUtf8(const char16_t* buffer, std::size_t length);
 [[nodiscard]] RAVO_API std::string StrEncodeUtf8(std::u16string_view text);
 

@@ -3,8 +3,8 @@
 #include <ravo/runtime/overwrite.h>
 #include <ravo/runtime/text.h>
 
-// `ToUtf8` and `FromUtf8`, which runtime declares: they need the kernels. Those know units of UTF-16 alone,
-// so surrogates and the lead bytes of what is not a single unit are treated here.
+// `ToUtf8` and `FromUtf8`, declared in ravo/runtime, defined here because they need the kernels. The kernels
+// know single UTF-16 units only, so surrogates and lead bytes of anything else are handled here.
 namespace ravo {
 namespace {
 
@@ -13,7 +13,7 @@ using codec::ByteSpan;
 using codec::Run;
 using codec::TextRoom;
 
-// Characters that are converted one by one before the kernels are tried again.
+// The number of characters to convert one by one before trying the kernels again.
 constexpr std::size_t kFew = 16;
 
 constexpr char32_t kReplacementCharacter = 0xFFFD;
@@ -21,7 +21,7 @@ constexpr char32_t kReplacementCharacter = 0xFFFD;
 constexpr bool IsHighSurrogate(char16_t unit) { return unit >= 0xD800 && unit <= 0xDBFF; }
 constexpr bool IsLowSurrogate(char16_t unit) { return unit >= 0xDC00 && unit <= 0xDFFF; }
 
-// Takes one character off the front of `rest`; an unpaired surrogate is U+FFFD.
+// Removes the first character of `rest` and returns it; U+FFFD for an unpaired surrogate.
 char32_t TakeUtf16(std::u16string_view& rest) {
   const char16_t unit = rest.front();
   rest.remove_prefix(1);
@@ -63,8 +63,8 @@ char16_t* PutUtf16(char32_t ch, char16_t* to) {
   return to;
 }
 
-// What may follow a lead byte: how many trail bytes, and the range of the first of them, which rules out
-// overlong forms, surrogates and values beyond U+10FFFF (Unicode Standard, table 3-7).
+// The sequence after a lead byte: the number of trailing bytes, and the range of the first of them, which
+// excludes overlong sequences, surrogates and values past U+10FFFF (Unicode Standard, table 3-7).
 struct Utf8Lead {
   int trails;
   unsigned char first_low;
@@ -101,7 +101,7 @@ char32_t TakeUtf8(std::string_view& rest) {
   return ch;
 }
 
-// Units or bytes from one to another of them.
+// Matches units or bytes from `first` to `last`.
 template <unsigned first, unsigned last>
 struct Between {
   template <class Unit>
@@ -114,15 +114,14 @@ struct Between {
   }
 };
 using Surrogates = Between<0xD800, 0xDFFF>;
-// Leads of surrogates, of sequences of four bytes, and some others.
+// Lead bytes of surrogates and of sequences of four bytes, with some others.
 using SpecialLeads = Between<0xED, 0xFF>;
 
 ByteSpan BytesOf(std::string_view bytes) {
   return {reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size()};
 }
 
-// Converts the front of `rest` up to `left` units before its end, without surrogates, then a few characters
-// of any kind.
+// Encodes `rest` until at most `left` units remain, then any surrogates at its front.
 std::uint8_t* Encode(std::u16string_view& rest, std::size_t left, std::uint8_t* to, std::uint8_t* end) {
   while (rest.size() > left) {
     const Run run = codec::ChosenKernels().encode_utf8(rest.substr(0, rest.size() - left), {to, end});
@@ -134,7 +133,7 @@ std::uint8_t* Encode(std::u16string_view& rest, std::size_t left, std::uint8_t* 
   return to;
 }
 
-// The same, up to special lead bytes.
+// Decodes `rest` until at most `left` bytes remain, then any characters with special lead bytes at its front.
 char16_t* Decode(std::string_view& rest, std::size_t left, char16_t* to, char16_t* end) {
   while (rest.size() > left) {
     const Run run =
@@ -150,7 +149,7 @@ char16_t* Decode(std::string_view& rest, std::size_t left, char16_t* to, char16_
 }  // namespace
 
 std::string ToUtf8(std::u16string_view text) {
-  // More than needed if there are pairs: each half counts three bytes.
+  // An upper bound: each half of a pair counts as three bytes.
   const std::size_t most = codec::ChosenKernels().utf8_length(text);
   return Written<char>(most, [text](char* out, std::size_t room) {
     auto* const begin = reinterpret_cast<std::uint8_t*>(out);

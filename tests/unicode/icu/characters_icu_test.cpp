@@ -1,4 +1,4 @@
-// Every function of the character database for every code unit, against the International Components for
+// Compares every function of the character database for every unit with the International Components for
 // Unicode.
 #include "../category_list.h"
 #include "support/tried.h"
@@ -45,7 +45,7 @@ TEST(CharactersAsIcu, CaseAndClass) {
   });
 }
 
-// Hangul is decomposed arithmetically there and here, but here by a function of its own.
+// ICU decomposes Hangul with the same function; the library has a separate one.
 void ExpectDecompositions(const icu::Normalizer2& normalizer, std::u16string (*function)(char16_t)) {
   ForEveryUnit([&](char16_t unit) {
     if (U16_IS_SURROGATE(unit)) return;

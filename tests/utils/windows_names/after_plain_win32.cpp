@@ -1,6 +1,6 @@
 #undef UNICODE
 #undef _UNICODE
-// After the system's header, which is what this tests.
+// Includes the library after the system's header, which is what this tests.
 // clang-format off
 #include <windows.h>
 #include <ravo/DIUtils.h>
