@@ -16,13 +16,13 @@ from source_tree import main
 
 LONGEST = 72
 ROOM = r"\.?\w[\w./+-]*"
-CHANGE = re.compile(rf'{ROOM}(?:, {ROOM})*: (?P<verb>[a-z][\w-]*) \S.*(?<![.\s])|Revert ".+"')
+CHANGE = re.compile(rf'{ROOM}: (?P<verb>[a-z][\w-]*) \S.*(?<![.\s])|Revert ".+"')
 MERGE = re.compile(r"Merge .+: \S.*(?<![.\s])|Merge branch 'main' into \S+")
 # Adds, added, adding; and imperative verbs with such an ending.
 OTHER_FORM = re.compile(r"(?:ed|ing|[^su]s)$")
 VERBS = {"bring", "embed", "feed", "need", "ring", "seed", "speed", "string"}
 # The rules apply after this commit.
-BEFORE = "a9fa3957f719eb75a24e713b172150ccf7932076"
+BEFORE = "b0a0318da01ed16220cb4ecf07edef74587d2d6a"
 RULES = [("--no-merges", CHANGE, "room: verb what"), ("--merges", MERGE, "Merge branch 'name': what it brings")]
 
 
@@ -61,7 +61,8 @@ def check(root: pathlib.Path, before: str = BEFORE) -> list[str]:
 
 PLANTED = [
     ("xml: free the arena in one step", None),
-    ("scripts/exports, .ci: say by patterns what leaves", None),
+    ("scripts/exports: say by patterns what leaves", None),
+    ("xml, utils: need less memory", "does not read 'room: verb what'"),
     ("xml: need less memory", None),
     ('Revert "xml: free the arena in one step"', None),
     ("Merge branch 'xml': one step to free the arena", None),
