@@ -60,6 +60,15 @@ constexpr Encoding kEncodings[] = {
 };
 #undef RAVO_ENCODING
 
+// Converts a whole run, if the encoding has a function for it.
+template <class From, class To>
+void Advance(Run (*convert)(From, To), From from, To to, Step& step) {
+  if (convert == nullptr) return;
+  const Run run = convert(from.subspan(step.taken), to.subspan(step.made));
+  step.taken += run.taken;
+  step.made += run.made;
+}
+
 // Decodes the next character, even if it is truncated by the end of the last bytes.
 bool DecodeNext(const Encoding& encoding, State& state, ByteSpan bytes, TextRoom text, Input input,
                 Step& step) {
@@ -104,11 +113,7 @@ std::span<const Encoding> Encodings() noexcept { return kEncodings; }
 Step Decode(const Encoding& encoding, State& state, ByteSpan bytes, TextRoom text, Input input) noexcept {
   Step step;
   do {
-    if (encoding.decode_run != nullptr) {
-      const Run run = encoding.decode_run(bytes.subspan(step.taken), text.subspan(step.made));
-      step.taken += run.taken;
-      step.made += run.made;
-    }
+    Advance(encoding.decode_run, bytes, text, step);
     // An encoding with state may produce a character at the end.
     const bool used =
         step.taken == bytes.size() && (encoding.decode_run != nullptr || input != Input::IsLast);
@@ -121,11 +126,7 @@ Step Decode(const Encoding& encoding, State& state, ByteSpan bytes, TextRoom tex
 Step Encode(const Encoding& encoding, State& state, TextSpan text, ByteRoom bytes) noexcept {
   Step step;
   do {
-    if (encoding.encode_run != nullptr) {
-      const Run run = encoding.encode_run(text.subspan(step.taken), bytes.subspan(step.made));
-      step.taken += run.taken;
-      step.made += run.made;
-    }
+    Advance(encoding.encode_run, text, bytes, step);
     if (step.taken == text.size()) return {step.taken, step.made, Stop::SourceUsed};
   } while (EncodeNext(encoding, state, text[step.taken], bytes, step));
   return step;
