@@ -32,7 +32,7 @@ void Show(const XmlOptions& options, Outcome& outcome) {
 }
 
 void AnswerNoSuchPlace(const XmlOptions& options, Outcome& outcome) {
-  outcome.err = "ravo: " + options.file + ": nothing stands at '" + options.path + "'\n";
+  outcome.err = "ravo: " + options.file + ": there is no item '" + options.path + "'\n";
   outcome.answer = Answer::No;
 }
 
@@ -144,7 +144,7 @@ constexpr const char* kXmlFooter =
     "A path names elements from the root on, by name and by number among those of their name, and an\n"
     "attribute behind \"@\" at its end: Invoice/Line[2]/@ID. Names are taken in either case.\n"
     "\n"
-    "Exit status: 0 done, 1 nothing stands at the path, 2 wrong usage or a file that cannot be read or "
+    "Exit status: 0 done, 1 there is no item at the path, 2 wrong usage or a file that cannot be read or "
     "written.\n"
     "\n"
     "Examples:\n"
