@@ -1,0 +1,135 @@
+#include "table_checker.h"
+
+#include "check_texts.h"
+
+#include <cstdio>
+#include <utility>
+
+namespace tool {
+namespace {
+
+using Fate = OpeningQuote::Fate;
+
+// Findings of a block are written early from this size on.
+constexpr std::size_t kLargeLines = std::size_t{512} << 10;
+
+// Widens a value byte by byte: the checks accept only ASCII, and no other byte becomes ASCII.
+class Widened {
+ public:
+  explicit Widened(std::string_view bytes) {
+    if (bytes.size() > std::size(short_)) {
+      long_.assign(bytes.size(), u'\0');
+      Copy(bytes, long_.data());
+      view_ = long_;
+    } else {
+      Copy(bytes, short_);
+      view_ = {short_, bytes.size()};
+    }
+  }
+  [[nodiscard]] std::u16string_view View() const { return view_; }
+
+ private:
+  static void Copy(std::string_view bytes, char16_t* to) {
+    for (std::size_t i = 0; i < bytes.size(); ++i) to[i] = static_cast<unsigned char>(bytes[i]);
+  }
+
+  char16_t short_[64];
+  std::u16string long_;
+  std::u16string_view view_;
+};
+
+std::string HexByte(char byte) {
+  char text[8];
+  std::snprintf(text, sizeof text, "0x%02X", static_cast<unsigned>(static_cast<unsigned char>(byte)));
+  return text;
+}
+
+}  // namespace
+
+TableChecker::TableChecker(const TableRules& rules, WriteEarly write_early)
+    : rules_(rules), write_early_(std::move(write_early)) {
+  counts_.columns.resize(rules_.columns.size());
+  for (const CheckedColumn& column : rules_.columns) {
+    of_empty_.push_back(column.kind->check({}));
+    of_empty_.back().reason = Reason::Empty;
+  }
+}
+
+void TableChecker::Check(BlockWork& work, std::size_t from, std::size_t line) {
+  work_ = &work;
+  text_ = work.block.Text().substr(from);
+  next_wrong_ = rules_.text->FirstWrong(text_, 0);
+  RowScanner scanner(text_, rules_.delimiter, line);
+  while (scanner.Next(row_)) {
+    CheckRow();
+    if (counts_.findings != findings_before_) Reject();
+    if (work.lines.size() > kLargeLines) write_early_(work);
+  }
+}
+
+void TableChecker::CheckRow() {
+  ++counts_.rows;
+  findings_before_ = counts_.findings;
+  const std::size_t fields = row_.fields.size();
+  if (fields != rules_.fields) {
+    AddRowFinding(row_.line, Reason::Ragged,
+                  Say(CheckText::FieldCount, {std::to_string(fields), std::to_string(rules_.fields)}));
+  }
+  if (row_.quote != Fate::Closed) {
+    const Reason reason = row_.quote == Fate::Open ? Reason::OpenQuote : Reason::TextAfterQuote;
+    AddRowFinding(row_.quote_line, reason, Say(reason));
+  }
+  if (next_wrong_ < row_.end) CheckBytes();
+  for (std::size_t i = 0; i < rules_.columns.size(); ++i) {
+    const std::size_t place = rules_.columns[i].place;
+    if (place < fields) CheckValue(i, ValueOf(row_.fields[place], unescaped_));
+  }
+}
+
+// Tells the first wrong byte of the row: in a table of another encoding there may be one in each word.
+void TableChecker::CheckBytes() {
+  const std::size_t line = row_.line + CountLineEnds(text_.substr(row_.begin, next_wrong_ - row_.begin));
+  const auto from = static_cast<std::size_t>(text_.data() - work_->block.buffer.data());
+  const std::string offset = std::to_string(work_->block.offset + from + next_wrong_);
+  AddRowFinding(line, Reason::WrongByte,
+                Say(CheckText::WrongByteAt, {HexByte(text_[next_wrong_]), offset, rules_.text->Label()}));
+  next_wrong_ = rules_.text->FirstWrong(text_, row_.end);
+}
+
+void TableChecker::CheckValue(std::size_t column, std::string_view value) {
+  if (value.empty() && rules_.allow_empty) return;
+  const Verdict verdict =
+      value.empty() ? of_empty_[column] : rules_.columns[column].kind->check(Widened(value).View());
+  ColumnCounts& counts = counts_.columns[column];
+  if (verdict.valid) {
+    ++counts.valid;
+    return;
+  }
+  ++counts.reasons[static_cast<std::size_t>(verdict.reason)];
+  ++counts_.findings;
+  if (!IsWanted()) return;
+  ++work_->findings;
+  rules_.lines->AppendValue(work_->lines, row_.line, column, value, verdict.reason, verdict.remark);
+}
+
+void TableChecker::AddRowFinding(std::size_t line, Reason reason, const std::string& what) {
+  ++counts_.rows_by_reason[static_cast<std::size_t>(reason)];
+  ++counts_.findings;
+  if (!IsWanted()) return;
+  ++work_->findings;
+  rules_.lines->AppendRow(work_->lines, line, reason, what);
+}
+
+// Adds the row to the rejected ones, joined with the one before if that is next to it.
+void TableChecker::Reject() {
+  ++counts_.rejected;
+  const auto from = static_cast<std::size_t>(text_.data() - work_->block.buffer.data());
+  auto& rejected = work_->rejected;
+  if (!rejected.empty() && rejected.back().end == from + row_.begin) {
+    rejected.back().end = from + row_.end;
+  } else {
+    rejected.push_back({from + row_.begin, from + row_.end});
+  }
+}
+
+}  // namespace tool

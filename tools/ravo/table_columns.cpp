@@ -1,0 +1,106 @@
+#include "table_columns.h"
+
+#include "check_texts.h"
+#include "table_text.h"
+#include <ravo/DIUnicode.h>
+#include <ravo/RavoInterface.h>
+
+#include <algorithm>
+#include <charconv>
+#include <numeric>
+
+namespace tool {
+namespace {
+
+using Indices = std::vector<std::size_t>;
+
+std::u16string Folded(std::string_view utf8) {
+  std::u16string text = ravo::FromUtf8(utf8);
+  for (char16_t& unit : text) unit = ravo::DIUnicode::CharToCaseFoldW(unit);
+  return text;
+}
+
+template <class Matches>
+Indices Where(const std::vector<std::string>& names, Matches matches) {
+  Indices found;
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    if (matches(names[i])) found.push_back(i);
+  }
+  return found;
+}
+
+std::string Numbers(const Indices& indices) {
+  std::string text;
+  for (const std::size_t index : indices) text += (text.empty() ? "" : ", ") + std::to_string(index + 1);
+  return text;
+}
+
+std::string Listed(const std::vector<std::string>& names) {
+  std::string text;
+  for (const std::string& name : names) text += (text.empty() ? "" : ", ") + Shown(name);
+  return text;
+}
+
+// The number of units to insert, delete or replace to make one text the other.
+std::size_t Distance(std::u16string_view left, std::u16string_view right) {
+  std::vector<std::size_t> row(right.size() + 1);
+  std::iota(row.begin(), row.end(), std::size_t{0});
+  for (std::size_t i = 0; i < left.size(); ++i) {
+    std::size_t diagonal = row[0]++;
+    for (std::size_t j = 0; j < right.size(); ++j) {
+      const std::size_t replaced = diagonal + (left[i] == right[j] ? 0 : 1);
+      diagonal = row[j + 1];
+      row[j + 1] = std::min({replaced, diagonal + 1, row[j] + 1});
+    }
+  }
+  return row.back();
+}
+
+// Returns ", did you mean ..." for the nearest name, or nothing if none is near.
+std::string Nearest(const std::vector<std::string>& names, std::string_view wanted) {
+  const std::u16string text = Folded(wanted);
+  std::size_t least = 1 + text.size() / 3;
+  std::string said;
+  for (const std::string& name : names) {
+    const std::size_t distance = Distance(text, Folded(name));
+    if (distance > least || (distance == least && !said.empty())) continue;
+    least = distance;
+    said = Say(CheckText::DidYouMean, {Shown(name)});
+  }
+  return said;
+}
+
+std::optional<std::size_t> Number(std::string_view text) {
+  std::size_t value = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+  if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
+  return value;
+}
+
+FoundColumn Numbered(const std::vector<std::string>& names, std::string_view wanted, std::size_t number,
+                     char delimiter) {
+  if (number >= 1 && number <= names.size()) return {number - 1, {}};
+  return {{}, Say(CheckText::NoColumnNumber,
+                  {wanted, std::to_string(names.size()), DelimiterName(delimiter), Listed(names)})};
+}
+
+}  // namespace
+
+std::string DelimiterName(char delimiter) {
+  return delimiter == '\t' ? "tab" : std::string{'\'', delimiter, '\''};
+}
+
+FoundColumn FindColumn(const std::vector<std::string>& names, std::string_view wanted, char delimiter) {
+  const Indices exact = Where(names, [&](const std::string& name) { return name == wanted; });
+  if (exact.size() == 1) return {exact[0], {}};
+  if (!exact.empty()) return {{}, Say(CheckText::SameName, {Numbers(exact), Shown(wanted)})};
+  const std::u16string folded = Folded(wanted);
+  const Indices near = Where(names, [&](const std::string& name) { return Folded(name) == folded; });
+  if (near.size() == 1) return {near[0], {}};
+  if (!near.empty()) return {{}, Say(CheckText::SameNameButForCase, {Numbers(near), Shown(wanted)})};
+  if (const auto number = Number(wanted)) return Numbered(names, wanted, *number, delimiter);
+  const std::string nearest = Nearest(names, wanted);
+  return {{}, Say(CheckText::NoColumn, {Shown(wanted), nearest, DelimiterName(delimiter), Listed(names)})};
+}
+
+}  // namespace tool
