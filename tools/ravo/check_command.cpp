@@ -63,7 +63,9 @@ const ravo::DIUnicode::EncodingRow* EncodingOf(const std::string& name) {
   if (name.empty()) return nullptr;
   const ravo::DIUnicode::EncodingRow* const row = ravo::DIUnicode::FindEncoding(name);
   if (row == nullptr) throw CLI::ValidationError("check: no encoding " + name + "; see ravo encodings");
-  if (!TableText::CanRead(*row)) throw CLI::ValidationError("check: tables in " + name + " cannot be read; convert them first: ravo convert");
+  if (!TableText::CanRead(*row))
+    throw CLI::ValidationError("check: tables in " + name +
+                               " cannot be read; convert them first: ravo convert");
   return row;
 }
 
@@ -107,9 +109,12 @@ void AddTableOptions(CLI::App& command, CheckOptions& options, CLI::Option* file
       ->type_name("CHAR")
       ->check(CLI::IsMember({";", ",", "\t", "|"}))
       ->needs(file);
-  command.add_option("--encoding", options.encoding, "The encoding of the tables; detected by default")->needs(file);
+  command.add_option("--encoding", options.encoding, "The encoding of the tables; detected by default")
+      ->needs(file);
   command.add_flag("--allow-empty", options.allow_empty, "Skip empty fields")->needs(file);
-  command.add_option("--limit", options.limit, "Write no more findings than this")->type_name("N")->needs(file);
+  command.add_option("--limit", options.limit, "Write no more findings than this")
+      ->type_name("N")
+      ->needs(file);
   command.add_option("--rejects", options.rejects, "Write the rows with findings to this file")
       ->type_name("FILE")
       ->needs(file);

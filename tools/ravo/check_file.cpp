@@ -22,7 +22,8 @@ namespace {
 constexpr unsigned kMostThreads = 16;
 
 void Complain(const std::string& file, const std::string& what) {
-  static_cast<void>(Write(Channel::Err, "ravo check: " + (file.empty() ? "" : Shown(file) + ": ") + what + "\n"));
+  static_cast<void>(
+      Write(Channel::Err, "ravo check: " + (file.empty() ? "" : Shown(file) + ": ") + what + "\n"));
 }
 
 // The rows with findings and the others, each in a file of its own if that is wanted.
@@ -44,7 +45,9 @@ class SplitFiles {
   }
 
   // Returns whether both files are written.
-  [[nodiscard]] bool Finish(const TableJob& job) { return Finish(rejects_, job.rejects) && Finish(clean_, job.clean); }
+  [[nodiscard]] bool Finish(const TableJob& job) {
+    return Finish(rejects_, job.rejects) && Finish(clean_, job.clean);
+  }
 
  private:
   static void Add(std::optional<WholeFile>& file, std::string_view bytes) {
@@ -134,7 +137,8 @@ class TableRun {
     if (header.quote != OpeningQuote::Fate::Closed) {
       BreakHeader(header.quote_line, is_open ? Reason::OpenQuote : Reason::TextAfterQuote);
     }
-    if (text_->FirstWrong(text.substr(0, header.end), 0) < header.end) BreakHeader(header.line, Reason::WrongByte);
+    if (text_->FirstWrong(text.substr(0, header.end), 0) < header.end)
+      BreakHeader(header.line, Reason::WrongByte);
     std::vector<std::string> names;
     std::string space;
     for (const TableField& field : header.fields) names.push_back(text_->Utf8(ValueOf(field, space)));

@@ -23,8 +23,8 @@ class CsvError : public std::runtime_error {
   std::size_t line_;
 };
 
-/// Reads the rows of a table one by one, split as `RowScanner` does. A leading byte-order mark of UTF-8 is skipped.
-/// Bytes are returned unchanged, in any encoding.
+/// Reads the rows of a table one by one, split as `RowScanner` does. A leading byte-order mark of UTF-8 is
+/// skipped. Bytes are returned unchanged, in any encoding.
 class CsvReader {
  public:
   using Source = BlockReader::Source;
@@ -32,15 +32,17 @@ class CsvReader {
   /// A delimiter of 0 is detected. `block` is the number of bytes split at once, at least 1.
   CsvReader(Source source, char delimiter, std::size_t block = BlockReader::kBlock);
 
-  /// Stores the fields of the next row, valid until the next call; returns false at the end. Throws `CsvError` for an
-  /// unclosed quote and for text after a closing quote.
+  /// Stores the fields of the next row, valid until the next call; returns false at the end. Throws
+  /// `CsvError` for an unclosed quote and for text after a closing quote.
   [[nodiscard]] bool Next(std::vector<std::string_view>& fields);
 
   /// Returns the 1-based line on which the current row begins.
   [[nodiscard]] std::size_t Line() const noexcept { return row_.line; }
 
   /// Returns the number of bytes read from the source.
-  [[nodiscard]] std::size_t BytesRead() const noexcept { return static_cast<std::size_t>(reader_.BytesRead()); }
+  [[nodiscard]] std::size_t BytesRead() const noexcept {
+    return static_cast<std::size_t>(reader_.BytesRead());
+  }
 
  private:
   void Begin();

@@ -27,8 +27,10 @@ class SafeEnd {
   // Moves at_ past all quotes whose fate is known; returns the first one whose is not, or the end.
   std::size_t SkipQuoted(std::string_view text) {
     while ((at_ = std::min(text.find('"', at_), text.size())) < text.size()) {
-      const bool opens = at_ == 0 || text[at_ - 1] == delimiter_ || text[at_ - 1] == '\n' || text[at_ - 1] == '\r';
-      const OpeningQuote quote = opens ? ReadQuote(text, at_, delimiter_, false) : OpeningQuote{Fate::Open, 0, false};
+      const bool opens =
+          at_ == 0 || text[at_ - 1] == delimiter_ || text[at_ - 1] == '\n' || text[at_ - 1] == '\r';
+      const OpeningQuote quote =
+          opens ? ReadQuote(text, at_, delimiter_, false) : OpeningQuote{Fate::Open, 0, false};
       if (quote.fate == Fate::Undecided) break;
       if (quote.fate == Fate::Closed) SkipField(text, quote.close);
       ++at_;
@@ -68,7 +70,8 @@ class SafeEnd {
 
 BlockReader::BlockReader(Source source, std::size_t block) : source_(std::move(source)), block_(block) {}
 
-// Reads until `buffer` has `wanted` bytes, of which it has `filled`, or the source ends; returns how many there are.
+// Reads until `buffer` has `wanted` bytes, of which it has `filled`, or the source ends; returns how many
+// there are.
 std::size_t BlockReader::Fill(std::vector<char>& buffer, std::size_t filled, std::size_t wanted) {
   if (buffer.size() < wanted) buffer.resize(wanted);
   while (!at_end_ && filled < wanted) {

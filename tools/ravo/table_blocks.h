@@ -21,8 +21,9 @@ struct TableBlock {
   [[nodiscard]] std::string_view Text() const { return {buffer.data(), size}; }
 };
 
-/// Cuts a table into blocks of whole rows, quoted line ends included, so that the rows of each can be read apart from
-/// the others. Looks only at quotes and what surrounds them. Memory is linear in the block and in the longest row.
+/// Cuts a table into blocks of whole rows, quoted line ends included, so that the rows of each can be read
+/// apart from the others. Looks only at quotes and what surrounds them. Memory is linear in the block and in
+/// the longest row.
 class BlockReader {
  public:
   /// A function that fills the span with the next bytes and returns their number; 0 at the end.
@@ -33,11 +34,12 @@ class BlockReader {
   /// `block` is the size of most blocks in bytes, at least 1.
   explicit BlockReader(Source source, std::size_t block = kBlock);
 
-  /// Returns the first `size` bytes, or fewer if the table has fewer, without consuming them. To be called before the
-  /// first `Next`.
+  /// Returns the first `size` bytes, or fewer if the table has fewer, without consuming them. To be called
+  /// before the first `Next`.
   [[nodiscard]] std::string_view Peek(std::size_t size);
 
-  /// Sets the delimiter and skips the first `skipped` bytes, a byte-order mark. To be called once before `Next`.
+  /// Sets the delimiter and skips the first `skipped` bytes, a byte-order mark. To be called once before
+  /// `Next`.
   void Begin(char delimiter, std::size_t skipped);
 
   /// Stores the next block; returns false at the end.

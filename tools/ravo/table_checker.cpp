@@ -97,9 +97,14 @@ void TableChecker::CheckBytes() {
 }
 
 void TableChecker::CheckValue(std::size_t column, std::string_view value) {
-  if (value.empty() && rules_.allow_empty) return;
-  const Verdict verdict =
-      value.empty() ? of_empty_[column] : rules_.columns[column].kind->check(Widened(value).View());
+  if (value.empty()) {
+    if (!rules_.allow_empty) Count(column, value, of_empty_[column]);
+    return;
+  }
+  Count(column, value, rules_.columns[column].kind->check(Widened(value).View()));
+}
+
+void TableChecker::Count(std::size_t column, std::string_view value, const Verdict& verdict) {
   ColumnCounts& counts = counts_.columns[column];
   if (verdict.valid) {
     ++counts.valid;

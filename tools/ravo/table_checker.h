@@ -38,6 +38,7 @@ class TableChecker {
   void CheckRow();
   void CheckBytes();
   void CheckValue(std::size_t column, std::string_view value);
+  void Count(std::size_t column, std::string_view value, const Verdict& verdict);
   void AddRowFinding(std::size_t line, Reason reason, const std::string& what);
   [[nodiscard]] bool IsWanted() const { return work_->findings < rules_.limit; }
   void Reject();

@@ -80,8 +80,9 @@ std::optional<std::size_t> Number(std::string_view text) {
 FoundColumn Numbered(const std::vector<std::string>& names, std::string_view wanted, std::size_t number,
                      char delimiter) {
   if (number >= 1 && number <= names.size()) return {number - 1, {}};
-  return {{}, Say(CheckText::NoColumnNumber,
-                  {wanted, std::to_string(names.size()), DelimiterName(delimiter), Listed(names)})};
+  return {{},
+          Say(CheckText::NoColumnNumber,
+              {wanted, std::to_string(names.size()), DelimiterName(delimiter), Listed(names)})};
 }
 
 }  // namespace

@@ -41,7 +41,8 @@ std::string JsonReasons(const std::array<std::size_t, kReasons>& counts) {
   return "{" + json + "}";
 }
 
-std::string JsonSummary(const std::vector<CheckedColumn>& columns, const TableCounts& counts, std::size_t shown) {
+std::string JsonSummary(const std::vector<CheckedColumn>& columns, const TableCounts& counts,
+                        std::size_t shown) {
   std::string list;
   for (std::size_t i = 0; i < columns.size(); ++i) {
     const ColumnCounts& column = counts.columns[i];
@@ -50,16 +51,18 @@ std::string JsonSummary(const std::vector<CheckedColumn>& columns, const TableCo
             ",\"reasons\":" + JsonReasons(column.reasons) + "}";
   }
   return "{\"type\":\"summary\",\"rows\":" + std::to_string(counts.rows) +
-         ",\"rejected\":" + std::to_string(counts.rejected) + ",\"findings\":" + std::to_string(counts.findings) +
-         ",\"shown\":" + std::to_string(shown) + ",\"reasons\":" + JsonReasons(counts.rows_by_reason) +
-         ",\"columns\":[" + list + "]}\n";
+         ",\"rejected\":" + std::to_string(counts.rejected) +
+         ",\"findings\":" + std::to_string(counts.findings) + ",\"shown\":" + std::to_string(shown) +
+         ",\"reasons\":" + JsonReasons(counts.rows_by_reason) + ",\"columns\":[" + list + "]}\n";
 }
 
-std::string SummaryLine(std::string_view name, std::string_view kind, std::size_t count, const std::string& what) {
+std::string SummaryLine(std::string_view name, std::string_view kind, std::size_t count,
+                        const std::string& what) {
   return Shown(name) + "\t" + std::string(kind) + "\t" + std::to_string(count) + "\t" + what + "\n";
 }
 
-std::string ReasonLines(std::string_view name, std::string_view kind, const std::array<std::size_t, kReasons>& counts) {
+std::string ReasonLines(std::string_view name, std::string_view kind,
+                        const std::array<std::size_t, kReasons>& counts) {
   std::string lines;
   for (std::size_t i = 0; i < kReasons; ++i) {
     if (counts[i] != 0) lines += SummaryLine(name, kind, counts[i], Say(ReasonAt(i)));
@@ -89,9 +92,11 @@ FindingLines::FindingLines(std::string_view file, std::string_view shown_file,
   std::tie(before_line_, after_line_) = Around(place);
   if (json) before_line_ = "{\"type\":\"finding\",\"file\":" + JsonString(file) + ",\"line\":";
   if (json) after_line_.clear();
-  for (const CheckedColumn& column : columns) columns_.push_back(ColumnPart(column.name, column.kind->name, json));
+  for (const CheckedColumn& column : columns)
+    columns_.push_back(ColumnPart(column.name, column.kind->name, json));
   for (std::size_t i = 0; i < kReasons; ++i) {
-    reasons_[i] = json ? "\",\"reason\":" + JsonString(CodeOf(ReasonAt(i))) + ",\"remark\":\"" : Say(ReasonAt(i));
+    reasons_[i] =
+        json ? "\",\"reason\":" + JsonString(CodeOf(ReasonAt(i))) + ",\"remark\":\"" : Say(ReasonAt(i));
   }
 }
 
@@ -105,8 +110,8 @@ void FindingLines::AppendValueText(std::string& lines, std::string_view value) c
   }
 }
 
-void FindingLines::AppendValue(std::string& lines, std::size_t line, std::size_t column, std::string_view value,
-                               Reason reason, std::string_view remark) const {
+void FindingLines::AppendValue(std::string& lines, std::size_t line, std::size_t column,
+                               std::string_view value, Reason reason, std::string_view remark) const {
   lines += before_line_;
   AppendNumber(lines, line);
   lines += after_line_;
@@ -124,7 +129,8 @@ void FindingLines::AppendValue(std::string& lines, std::size_t line, std::size_t
   }
 }
 
-void FindingLines::AppendRow(std::string& lines, std::size_t line, Reason reason, std::string_view what) const {
+void FindingLines::AppendRow(std::string& lines, std::size_t line, Reason reason,
+                             std::string_view what) const {
   lines += before_line_;
   AppendNumber(lines, line);
   lines += after_line_;

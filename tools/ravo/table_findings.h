@@ -29,7 +29,7 @@ struct ColumnCounts {
 /// What was counted in a table or in a part of it.
 struct TableCounts {
   std::size_t rows = 0;
-  std::size_t rejected = 0;                  // rows with findings
+  std::size_t rejected = 0;  // rows with findings
   std::size_t findings = 0;
   std::array<std::size_t, kReasons> rows_by_reason{};  // findings about whole rows
   std::vector<ColumnCounts> columns;
@@ -45,13 +45,12 @@ class FindingLines {
                const TableText& text, bool json);
 
   /// Appends the line of a value of a column that is not valid; `remark` may be empty.
-  void AppendValue(std::string& lines, std::size_t line, std::size_t column, std::string_view value, Reason reason,
-                   std::string_view remark) const;
+  void AppendValue(std::string& lines, std::size_t line, std::size_t column, std::string_view value,
+                   Reason reason, std::string_view remark) const;
   /// Appends the line of a row that has a fault; `what` is for people.
   void AppendRow(std::string& lines, std::size_t line, Reason reason, std::string_view what) const;
 
  private:
-
   void AppendValueText(std::string& lines, std::string_view value) const;
 
   const TableText& text_;
@@ -62,7 +61,8 @@ class FindingLines {
   std::array<std::string, kReasons> reasons_;
 };
 
-/// Returns the summary of a check, for people or for scripts. `shown` is the number of findings that were written.
+/// Returns the summary of a check, for people or for scripts. `shown` is the number of findings that were
+/// written.
 [[nodiscard]] std::string Summary(const std::vector<CheckedColumn>& columns, const TableCounts& counts,
                                   std::size_t shown, bool json);
 

@@ -18,7 +18,8 @@ TableInput::TableInput(const std::string& name) : is_standard_(name == kInputNam
   if (std::filesystem::is_directory(path, error)) throw std::runtime_error(Say(CheckText::IsFolder));
   errno = 0;
   file_.open(path, std::ios::binary);
-  if (!file_) throw std::runtime_error(Say(CheckText::CannotBeRead, {std::generic_category().message(errno)}));
+  if (!file_)
+    throw std::runtime_error(Say(CheckText::CannotBeRead, {std::generic_category().message(errno)}));
   const auto size = std::filesystem::file_size(path, error);
   size_ = error ? 0 : static_cast<std::int64_t>(size);
 }

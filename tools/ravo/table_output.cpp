@@ -23,7 +23,8 @@ std::size_t WidthOf(std::string_view utf8) {
   for (std::size_t i = 0; i < utf8.size(); ++i) {
     const auto byte = static_cast<unsigned char>(utf8[i]);
     const bool continues = (byte & 0xC0) == 0x80;
-    const bool combines = byte == 0xCC || (byte == 0xCD && i + 1 < utf8.size() && static_cast<unsigned char>(utf8[i + 1]) < 0xB0);
+    const bool combines = byte == 0xCC || (byte == 0xCD && i + 1 < utf8.size() &&
+                                           static_cast<unsigned char>(utf8[i + 1]) < 0xB0);
     width += continues || combines ? 0 : 1;
   }
   return width;

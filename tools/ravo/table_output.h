@@ -7,14 +7,15 @@
 
 namespace tool {
 
-/// Lines of fields separated by tabs on standard output: as they are in a file or a pipe, in columns on a terminal.
+/// Lines of fields separated by tabs on standard output: as they are in a file or a pipe, in columns on a
+/// terminal.
 class TableOutput {
  public:
   /// At most `limit` lines are written by `WriteLimited`.
   explicit TableOutput(std::size_t limit);
 
-  /// Writes whole lines, of which there are `count`, up to the limit. Throws `std::runtime_error` if they cannot be
-  /// written.
+  /// Writes whole lines, of which there are `count`, up to the limit. Throws `std::runtime_error` if they
+  /// cannot be written.
   void WriteLimited(std::string_view lines, std::size_t count);
   /// Writes whole lines and all that waits for its columns to be as wide as they get.
   void WriteLast(std::string_view lines);
@@ -35,8 +36,8 @@ class TableOutput {
   std::vector<std::size_t> widths_;
 };
 
-/// Returns lines of fields separated by tabs in columns with two blanks between them. `widths` has the least width of
-/// each column in characters and gets the new one.
+/// Returns lines of fields separated by tabs in columns with two blanks between them. `widths` has the least
+/// width of each column in characters and gets the new one.
 [[nodiscard]] std::string Aligned(const std::vector<std::string>& lines, std::vector<std::size_t>& widths);
 
 }  // namespace tool

@@ -27,9 +27,10 @@ struct BlockWork {
   bool is_done = false;
 };
 
-/// Hands the blocks of a table to workers and writes what they make of them in the order of the table. A worker that
-/// wants a block reads it; the one that completes the next block in order writes it, so no thread only reads or only
-/// writes. Memory is linear in `slots`: a worker waits for a block until an earlier one is written.
+/// Hands the blocks of a table to workers and writes what they make of them in the order of the table. A
+/// worker that wants a block reads it; the one that completes the next block in order writes it, so no thread
+/// only reads or only writes. Memory is linear in `slots`: a worker waits for a block until an earlier one is
+/// written.
 class BlockQueue {
  public:
   using Writer = std::function<void(BlockWork&)>;
@@ -67,8 +68,8 @@ class BlockQueue {
   std::exception_ptr error_;
 };
 
-/// Runs `work` on `count` threads, this one included, and returns when all have returned. Fewer threads than that run it
-/// if the system has no more. `work` does not throw.
+/// Runs `work` on `count` threads, this one included, and returns when all have returned. Fewer threads than
+/// that run it if the system has no more. `work` does not throw.
 void RunOnThreads(unsigned count, const std::function<void()>& work);
 
 }  // namespace tool

@@ -68,15 +68,21 @@ std::size_t CountLineEnds(std::string_view text) noexcept {
   return count;
 }
 
-std::string_view ValueOf(const TableField& field, std::string& space) {
-  if (!field.doubled) return field.bytes;
+std::string_view Unescaped(std::string_view quoted, std::string& space) {
   space.clear();
-  for (std::size_t i = 0; i < field.bytes.size(); ++i) {
-    space += field.bytes[i];
-    if (field.bytes[i] == '"') ++i;
+  for (std::size_t i = 0; i < quoted.size(); ++i) {
+    space += quoted[i];
+    if (quoted[i] == '"') ++i;
   }
   return space;
 }
+
+RowScanner::RowScanner(std::string_view text, char delimiter, std::size_t first_line)
+    : text_(text),
+      delimiter_(delimiter),
+      line_(first_line),
+      line_feed_(Find(text, '\n', 0, text.size())),
+      line_end_(Find(text, '\r', 0, line_feed_)) {}
 
 bool RowScanner::SkipEmptyLines() {
   for (; at_ < text_.size() && IsLineEnd(text_[at_]); ++at_) {
@@ -92,11 +98,11 @@ bool RowScanner::Next(TableRow& row) {
   row.begin = at_;
   row.line = line_;
   row.quote = Fate::Closed;
-  const std::size_t line_end = Find(text_, '\n', at_, text_.size());
+  const std::size_t line_end = LineFeed();
   const bool has_return = line_end > at_ && text_[line_end - 1] == '\r';
   const std::size_t text_end = has_return ? line_end - 1 : line_end;
   const bool is_plain =
-      Find(text_, '"', at_, text_end) == text_end && Find(text_, '\r', at_, text_end) == text_end;
+      Find(text_, '\r', at_, text_end) == text_end && Find(text_, '"', at_, text_end) == text_end;
   if (is_plain) {
     SplitPlain(row, text_end);
     at_ = std::min(line_end + 1, text_.size());
@@ -123,7 +129,7 @@ void RowScanner::SplitCareful(TableRow& row) {
     ReadField(row);
     if (at_ == text_.size()) return;
     if (text_[at_] == delimiter_) continue;
-    at_ = LineEndAt(at_);
+    at_ = PastLineEnd(at_);
     ++line_;
     return;
   }
@@ -133,7 +139,7 @@ void RowScanner::SplitCareful(TableRow& row) {
 void RowScanner::ReadField(TableRow& row) {
   const std::size_t first = at_;
   if (first < text_.size() && text_[first] == '"' && ReadQuoted(row)) return;
-  while (at_ < text_.size() && text_[at_] != delimiter_ && !IsLineEnd(text_[at_])) ++at_;
+  at_ = Find(text_, delimiter_, at_, LineEnd());
   row.fields.push_back({text_.substr(first, at_ - first), false});
 }
 
@@ -152,8 +158,20 @@ bool RowScanner::ReadQuoted(TableRow& row) {
   return true;
 }
 
+// Returns the index of the next line feed, or the size.
+std::size_t RowScanner::LineFeed() {
+  if (line_feed_ < at_) line_feed_ = Find(text_, '\n', at_, text_.size());
+  return line_feed_;
+}
+
+// Returns the index of the first byte of the next line end, or the size.
+std::size_t RowScanner::LineEnd() {
+  if (line_end_ < at_) line_end_ = Find(text_, '\r', at_, LineFeed());
+  return line_end_;
+}
+
 // Returns the index past the line end at `at`.
-std::size_t RowScanner::LineEndAt(std::size_t at) const {
+std::size_t RowScanner::PastLineEnd(std::size_t at) const {
   const bool is_pair = text_[at] == '\r' && at + 1 < text_.size() && text_[at + 1] == '\n';
   return at + (is_pair ? 2 : 1);
 }

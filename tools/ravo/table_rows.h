@@ -8,10 +8,10 @@
 
 /// Rows and fields of a table in memory (RFC 4180, with any one-byte delimiter).
 ///
-/// A line ends in LF, CR LF or CR. A field in double quotes may contain delimiters, line ends and doubled quotes. A
-/// quote opens a field only at the field's start, and only if it is closed: its closing quote is at most
-/// `kLongestQuoted` bytes away and a delimiter, a line end or the end of the file follows it. Any other quote is a
-/// character like any other, so one stray quote costs one row, not the rest of the file.
+/// A line ends in LF, CR LF or CR. A field in double quotes may contain delimiters, line ends and doubled
+/// quotes. A quote opens a field only at the field's start, and only if it is closed: its closing quote is at
+/// most `kLongestQuoted` bytes away and a delimiter, a line end or the end of the file follows it. Any other
+/// quote is a character like any other, so one stray quote costs one row, not the rest of the file.
 namespace tool {
 
 /// The most bytes between an opening quote and its closing one.
@@ -31,7 +31,8 @@ struct OpeningQuote {
 };
 
 /// Returns what becomes of the quote at `text[opener]`. `is_whole` tells that nothing follows `text`.
-[[nodiscard]] OpeningQuote ReadQuote(std::string_view text, std::size_t opener, char delimiter, bool is_whole);
+[[nodiscard]] OpeningQuote ReadQuote(std::string_view text, std::size_t opener, char delimiter,
+                                     bool is_whole);
 
 /// Returns the number of line ends in `text`.
 [[nodiscard]] std::size_t CountLineEnds(std::string_view text) noexcept;
@@ -43,7 +44,10 @@ struct TableField {
 };
 
 /// Returns the value of a field; `space` keeps it if its doubled quotes have to become single ones.
-[[nodiscard]] std::string_view ValueOf(const TableField& field, std::string& space);
+[[nodiscard]] std::string_view Unescaped(std::string_view quoted, std::string& space);
+[[nodiscard]] inline std::string_view ValueOf(const TableField& field, std::string& space) {
+  return field.doubled ? Unescaped(field.bytes, space) : field.bytes;
+}
 
 struct TableRow {
   std::vector<TableField> fields;
@@ -59,8 +63,7 @@ struct TableRow {
 class RowScanner {
  public:
   /// `first_line` is the 1-based line of the file on which `text` begins.
-  RowScanner(std::string_view text, char delimiter, std::size_t first_line = 1)
-      : text_(text), delimiter_(delimiter), line_(first_line) {}
+  RowScanner(std::string_view text, char delimiter, std::size_t first_line = 1);
 
   /// Stores the next row; returns false at the end.
   [[nodiscard]] bool Next(TableRow& row);
@@ -71,12 +74,17 @@ class RowScanner {
   void SplitCareful(TableRow& row);
   void ReadField(TableRow& row);
   [[nodiscard]] bool ReadQuoted(TableRow& row);
-  [[nodiscard]] std::size_t LineEndAt(std::size_t at) const;
+  [[nodiscard]] std::size_t LineFeed();
+  [[nodiscard]] std::size_t LineEnd();
+  [[nodiscard]] std::size_t PastLineEnd(std::size_t at) const;
 
   std::string_view text_;
   char delimiter_;
   std::size_t at_ = 0;
   std::size_t line_;
+  // The next ones at or after at_, unless they are before it: searched for once, however many rows there are.
+  std::size_t line_feed_;
+  std::size_t line_end_;
 };
 
 }  // namespace tool

@@ -3,6 +3,7 @@
 #include <ravo/RavoInterface.h>
 
 #include <algorithm>
+#include <bit>
 #include <cstdint>
 #include <cstdio>
 #include <cstring>
@@ -18,17 +19,20 @@ constexpr char16_t kUnreadable = 0xFFFD;
 unsigned char Byte(std::string_view text, std::size_t at) { return static_cast<unsigned char>(text[at]); }
 
 // Returns the index of the first byte from `at` on that is not ASCII, or the size.
+static_assert(std::endian::native == std::endian::little);
 std::size_t SkipAscii(std::string_view text, std::size_t at) {
-  for (; at + 16 <= text.size(); at += 16) {
-    std::uint64_t words[2];
-    std::memcpy(words, text.data() + at, 16);
-    if (((words[0] | words[1]) & 0x8080808080808080U) != 0) break;
+  for (; at + 8 <= text.size(); at += 8) {
+    std::uint64_t word = 0;
+    std::memcpy(&word, text.data() + at, 8);
+    word &= 0x8080808080808080U;
+    if (word != 0) return at + static_cast<std::size_t>(std::countr_zero(word)) / 8;
   }
   while (at < text.size() && Byte(text, at) < 0x80) ++at;
   return at;
 }
 
-// The least second byte after `lead` and the greatest one: no overlong forms, surrogates or numbers past U+10FFFF.
+// The least second byte after `lead` and the greatest one: no overlong forms, surrogates or numbers past
+// U+10FFFF.
 unsigned LeastSecond(unsigned lead) { return lead == 0xE0 ? 0xA0 : lead == 0xF0 ? 0x90 : 0x80; }
 unsigned GreatestSecond(unsigned lead) { return lead == 0xED ? 0x9F : lead == 0xF4 ? 0x8F : 0xBF; }
 
@@ -53,9 +57,12 @@ std::size_t SequenceAt(std::string_view text, std::size_t at) {
 
 std::size_t FirstWrongUtf8(std::string_view text, std::size_t at) {
   while ((at = SkipAscii(text, at)) < text.size()) {
-    const std::size_t length = SequenceAt(text, at);
-    if (length == 0) return at;
-    at += length;
+    // Sequences come in words: most follow each other or stand close.
+    do {
+      const std::size_t length = SequenceAt(text, at);
+      if (length == 0) return at;
+      at += length;
+    } while (at < text.size() && Byte(text, at) >= 0x80);
   }
   return at;
 }
@@ -110,7 +117,8 @@ bool TableText::CanRead(const EncodingRow& encoding) {
   return encoding.engine == "SingleByte";
 }
 
-TableText::TableText(const EncodingRow& encoding) : label_(encoding.label), is_utf8_(encoding.name == "UTF_8") {
+TableText::TableText(const EncodingRow& encoding)
+    : label_(encoding.label), is_utf8_(encoding.name == "UTF_8") {
   if (is_utf8_) return;
   for (unsigned i = 0; i < upper_.size(); ++i) {
     upper_[i] = CharacterOf(encoding, static_cast<unsigned char>(i + 0x80));
@@ -124,7 +132,8 @@ std::size_t TableText::FirstWrong(std::string_view text, std::size_t from) const
 }
 
 std::string TableText::Utf8(std::string_view bytes) const {
-  if (is_utf8_) return FirstWrong(bytes, 0) == bytes.size() ? std::string(bytes) : ravo::ToUtf8(ravo::FromUtf8(bytes));
+  if (is_utf8_)
+    return FirstWrong(bytes, 0) == bytes.size() ? std::string(bytes) : ravo::ToUtf8(ravo::FromUtf8(bytes));
   std::string utf8;
   for (std::size_t i = 0; i < bytes.size(); ++i) {
     const unsigned char byte = Byte(bytes, i);

@@ -9,8 +9,8 @@
 
 namespace tool {
 
-/// Returns the encoding of a table that starts with `sample`: by its byte-order mark, else UTF-8 if the sample is well
-/// formed, else Windows-1250. `is_whole` tells that nothing follows the sample.
+/// Returns the encoding of a table that starts with `sample`: by its byte-order mark, else UTF-8 if the
+/// sample is well formed, else Windows-1250. `is_whole` tells that nothing follows the sample.
 [[nodiscard]] const ravo::DIUnicode::EncodingRow& DetectEncoding(std::string_view sample, bool is_whole);
 
 /// Returns the length of the byte-order mark of UTF-8 at the start of `sample`, 0 if there is none.
@@ -27,7 +27,8 @@ class TableText {
 
   [[nodiscard]] std::string_view Label() const noexcept { return label_; }
 
-  /// Returns the index of the first byte of `text` from `from` on that is no part of a character, or the size.
+  /// Returns the index of the first byte of `text` from `from` on that is no part of a character, or the
+  /// size.
   [[nodiscard]] std::size_t FirstWrong(std::string_view text, std::size_t from) const noexcept;
 
   /// Returns `bytes` in UTF-8; what is no part of a character becomes U+FFFD.
@@ -42,8 +43,8 @@ class TableText {
 /// Whether all bytes are printable ASCII.
 [[nodiscard]] bool IsPrintableAscii(std::string_view text) noexcept;
 
-/// Returns `utf8` with its control characters written as escapes ("\t", "\u001B"), so that it fits a line of a table
-/// and cannot steer a terminal.
+/// Returns `utf8` with its control characters written as escapes ("\t", "\u001B"), so that it fits a line of
+/// a table and cannot steer a terminal.
 [[nodiscard]] std::string Shown(std::string_view utf8);
 
 /// Appends `utf8` to `json` as the inside of a JSON string.
