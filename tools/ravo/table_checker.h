@@ -35,17 +35,22 @@ class TableChecker {
   [[nodiscard]] const TableCounts& Counts() const noexcept { return counts_; }
 
  private:
+  struct ColumnCheck {
+    std::size_t place = 0;
+    Verdict (*check)(std::u16string_view text) = nullptr;
+  };
+
   void CheckRow();
   void CheckBytes();
   void CheckValue(std::size_t column, std::string_view value);
-  void Count(std::size_t column, std::string_view value, const Verdict& verdict);
+  void Report(std::size_t column, std::string_view value, const Verdict& verdict);
   void AddRowFinding(std::size_t line, Reason reason, const std::string& what);
   [[nodiscard]] bool IsWanted() const { return work_->findings < rules_.limit; }
   void Reject();
 
   const TableRules& rules_;
   WriteEarly write_early_;
-  std::vector<Verdict> of_empty_;  // the verdict of each column on an empty value
+  std::vector<ColumnCheck> columns_;
   TableCounts counts_;
   BlockWork* work_ = nullptr;
   std::string_view text_;
@@ -53,6 +58,7 @@ class TableChecker {
   TableRow row_;
   std::size_t findings_before_ = 0;
   std::string unescaped_;
+  std::u16string wide_ = std::u16string(64, u'\0');
 };
 
 }  // namespace tool

@@ -77,13 +77,6 @@ std::string_view Unescaped(std::string_view quoted, std::string& space) {
   return space;
 }
 
-RowScanner::RowScanner(std::string_view text, char delimiter, std::size_t first_line)
-    : text_(text),
-      delimiter_(delimiter),
-      line_(first_line),
-      line_feed_(Find(text, '\n', 0, text.size())),
-      line_end_(Find(text, '\r', 0, line_feed_)) {}
-
 bool RowScanner::SkipEmptyLines() {
   for (; at_ < text_.size() && IsLineEnd(text_[at_]); ++at_) {
     const bool is_pair = text_[at_] == '\r' && at_ + 1 < text_.size() && text_[at_ + 1] == '\n';
@@ -98,49 +91,32 @@ bool RowScanner::Next(TableRow& row) {
   row.begin = at_;
   row.line = line_;
   row.quote = Fate::Closed;
-  const std::size_t line_end = LineFeed();
-  const bool has_return = line_end > at_ && text_[line_end - 1] == '\r';
-  const std::size_t text_end = has_return ? line_end - 1 : line_end;
-  const bool is_plain =
-      Find(text_, '\r', at_, text_end) == text_end && Find(text_, '"', at_, text_end) == text_end;
-  if (is_plain) {
-    SplitPlain(row, text_end);
-    at_ = std::min(line_end + 1, text_.size());
-    line_ += line_end < text_.size() || has_return ? 1 : 0;
-  } else {
-    SplitCareful(row);
+  const std::string_view text = text_;
+  const char delimiter = delimiter_;
+  std::size_t end = 0;
+  for (std::size_t at = at_;; at = end + 1) {
+    end = marks_.Next(at);
+    if (end < text.size() && text[end] == '"') {
+      at_ = at;
+      end = ReadWithQuote(row);
+    } else {
+      row.fields.push_back({{text.data() + at, end - at}, false});
+    }
+    if (end == text.size() || text[end] != delimiter) break;
   }
+  if (end < text.size()) ++line_;
+  at_ = PastLineEnd(end);
   row.end = at_;
   return true;
 }
 
-// A line without quotes and lone carriage returns, as most lines are: only delimiters to find.
-void RowScanner::SplitPlain(TableRow& row, std::size_t text_end) const {
-  for (std::size_t at = at_;; ++at) {
-    const std::size_t field_end = Find(text_, delimiter_, at, text_end);
-    row.fields.push_back({{text_.data() + at, field_end - at}, false});
-    at = field_end;
-    if (at == text_end) return;
-  }
-}
-
-void RowScanner::SplitCareful(TableRow& row) {
-  for (;; ++at_) {
-    ReadField(row);
-    if (at_ == text_.size()) return;
-    if (text_[at_] == delimiter_) continue;
-    at_ = PastLineEnd(at_);
-    ++line_;
-    return;
-  }
-}
-
-// Reads the field at at_, up to its delimiter, line end or the end of the text.
-void RowScanner::ReadField(TableRow& row) {
-  const std::size_t first = at_;
-  if (first < text_.size() && text_[first] == '"' && ReadQuoted(row)) return;
-  at_ = Find(text_, delimiter_, at_, LineEnd());
-  row.fields.push_back({text_.substr(first, at_ - first), false});
+// Reads the field at at_, which has a quote; returns the index of its delimiter or line end, or the size.
+std::size_t RowScanner::ReadWithQuote(TableRow& row) {
+  if (text_[at_] == '"' && ReadQuoted(row)) return at_;
+  std::size_t end = marks_.Next(at_);
+  while (end < text_.size() && text_[end] == '"') end = marks_.Next(end + 1);
+  row.fields.push_back({{text_.data() + at_, end - at_}, false});
+  return end;
 }
 
 // Returns false, with the row marked, if the quote at at_ opens no field.
@@ -158,20 +134,9 @@ bool RowScanner::ReadQuoted(TableRow& row) {
   return true;
 }
 
-// Returns the index of the next line feed, or the size.
-std::size_t RowScanner::LineFeed() {
-  if (line_feed_ < at_) line_feed_ = Find(text_, '\n', at_, text_.size());
-  return line_feed_;
-}
-
-// Returns the index of the first byte of the next line end, or the size.
-std::size_t RowScanner::LineEnd() {
-  if (line_end_ < at_) line_end_ = Find(text_, '\r', at_, LineFeed());
-  return line_end_;
-}
-
-// Returns the index past the line end at `at`.
+// Returns the index past the line end at `at`, if there is one.
 std::size_t RowScanner::PastLineEnd(std::size_t at) const {
+  if (at == text_.size()) return at;
   const bool is_pair = text_[at] == '\r' && at + 1 < text_.size() && text_[at + 1] == '\n';
   return at + (is_pair ? 2 : 1);
 }

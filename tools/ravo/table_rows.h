@@ -1,5 +1,7 @@
 #pragma once
 
+#include "table_marks.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -63,28 +65,23 @@ struct TableRow {
 class RowScanner {
  public:
   /// `first_line` is the 1-based line of the file on which `text` begins.
-  RowScanner(std::string_view text, char delimiter, std::size_t first_line = 1);
+  RowScanner(std::string_view text, char delimiter, std::size_t first_line = 1)
+      : text_(text), delimiter_(delimiter), marks_(text, delimiter), line_(first_line) {}
 
   /// Stores the next row; returns false at the end.
   [[nodiscard]] bool Next(TableRow& row);
 
  private:
   [[nodiscard]] bool SkipEmptyLines();
-  void SplitPlain(TableRow& row, std::size_t text_end) const;
-  void SplitCareful(TableRow& row);
-  void ReadField(TableRow& row);
+  [[nodiscard]] std::size_t ReadWithQuote(TableRow& row);
   [[nodiscard]] bool ReadQuoted(TableRow& row);
-  [[nodiscard]] std::size_t LineFeed();
-  [[nodiscard]] std::size_t LineEnd();
   [[nodiscard]] std::size_t PastLineEnd(std::size_t at) const;
 
   std::string_view text_;
   char delimiter_;
+  TableMarks marks_;
   std::size_t at_ = 0;
   std::size_t line_;
-  // The next ones at or after at_, unless they are before it: searched for once, however many rows there are.
-  std::size_t line_feed_;
-  std::size_t line_end_;
 };
 
 }  // namespace tool

@@ -8,6 +8,10 @@
 #include <cstdio>
 #include <cstring>
 
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
+
 namespace tool {
 namespace {
 
@@ -55,14 +59,63 @@ std::size_t SequenceAt(std::string_view text, std::size_t at) {
   return length;
 }
 
+// Returns the index of the first byte from `at` on that starts no sequence, once past `enough`, or the size.
+std::size_t FirstWrongSequence(std::string_view text, std::size_t at, std::size_t enough) {
+  while (at < enough && (at = SkipAscii(text, at)) < text.size()) {
+    const std::size_t length = SequenceAt(text, at);
+    if (length == 0) return at;
+    at += length;
+  }
+  return at;
+}
+
+#if defined(__SSE2__)
+constexpr std::size_t kPiece = 64;
+
+struct PieceBytes {
+  std::uint64_t upper = 0;  // not ASCII
+  std::uint64_t trailing = 0;
+  std::uint64_t leads_of_two = 0;
+};
+
+PieceBytes BytesOf(const char* piece) {
+  PieceBytes all;
+  for (unsigned i = 0; i < kPiece; i += 16) {
+    const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(piece + i));
+    const auto bits = [i](__m128i mask) {
+      return std::uint64_t{static_cast<unsigned>(_mm_movemask_epi8(mask))} << i;
+    };
+    all.upper |= bits(bytes);
+    all.trailing |= bits(_mm_cmplt_epi8(bytes, _mm_set1_epi8(-0x40)));
+    all.leads_of_two |= bits(_mm_and_si128(_mm_cmpgt_epi8(bytes, _mm_set1_epi8(-0x3F)),
+                                           _mm_cmplt_epi8(bytes, _mm_set1_epi8(-0x20))));
+  }
+  return all;
+}
+
+// Returns the index past the pieces from `at` on that have only ASCII and whole sequences of two bytes.
+std::size_t SkipPairs(std::string_view text, std::size_t at) {
+  for (; at + kPiece <= text.size(); at += kPiece) {
+    const PieceBytes bytes = BytesOf(text.data() + at);
+    if (bytes.upper == 0) continue;
+    const bool are_pairs = bytes.upper == (bytes.trailing | bytes.leads_of_two) &&
+                           bytes.trailing == bytes.leads_of_two << 1 && bytes.leads_of_two >> 63 == 0;
+    if (!are_pairs) break;
+  }
+  return at;
+}
+#else
+constexpr std::size_t kPiece = 0;
+std::size_t SkipPairs(std::string_view text, std::size_t at) { return std::min(at, text.size()); }
+#endif
+
 std::size_t FirstWrongUtf8(std::string_view text, std::size_t at) {
-  while ((at = SkipAscii(text, at)) < text.size()) {
-    // Sequences come in words: most follow each other or stand close.
-    do {
-      const std::size_t length = SequenceAt(text, at);
-      if (length == 0) return at;
-      at += length;
-    } while (at < text.size() && Byte(text, at) >= 0x80);
+  while (at < text.size()) {
+    at = SkipPairs(text, at);
+    const std::size_t enough = kPiece != 0 ? std::min(at + kPiece, text.size()) : text.size();
+    const std::size_t reached = FirstWrongSequence(text, at, enough);
+    if (reached < enough) return reached;
+    at = reached;
   }
   return at;
 }
