@@ -78,7 +78,7 @@ def jobs_on(ravo, file, duckdb):
         "check --csv, with 1.9 million findings": {"ravo": lambda: seconds([*check, "--column", "Doklad=vs", "--csv", file])},
         "check --csv -, from a pipe": {"ravo": lambda: seconds([*check, "--allow-empty", "--csv", "-"], file)},
     }
-    if duckdb and shutil.which("node"):
+    if duckdb and (pathlib.Path(duckdb) / "node_modules").is_dir() and shutil.which("node"):
         for programs in jobs.values():
             programs["DuckDB, counting rows"] = lambda: count_seconds(duckdb, file)
     return jobs

@@ -50,6 +50,11 @@ def check_damaged_tables(program):
         file.write_bytes(content)
         row = Row(["check", "--csv", file.name, "--column", "VS=vs"], status, out=out, err=("ravo check: účty.csv: ", err))
         yield from program.failures(row)
+    # A form takes no table with a fault.
+    for content, err in ((b"field;value;field\na;b;c\n", "line 1: columns 1, 3 are all named 'field'"), (b'field;value\na;"b\n', "line 2: a quote is never"),
+                         (b"field;value\na;b;c\n", "line 2: 3 fields, not 2"), (b"fild,value\n", "did you mean 'fild'?")):
+        file.write_bytes(content)
+        yield from program.failures(Row(["form", file.name, "-o", "x.fdf"], WRONG_USAGE, exact="", err=(err,)))
     file.write_bytes(b"")
     row = Row(["check", "--csv", "-", "--column", "VS=vs"], WRONG_USAGE, exact="", err=("-: has no first row",))
     yield from program.failures(row)

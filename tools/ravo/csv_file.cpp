@@ -1,6 +1,7 @@
 #include "csv_file.h"
 
 #include "foreign_text.h"
+#include "table_columns.h"
 #include "text_file.h"
 
 #include <algorithm>
@@ -33,11 +34,9 @@ CsvFile::CsvFile(const std::string& name, const std::string& doing, char delimit
 }
 
 std::size_t CsvFile::Column(std::string_view name) const {
-  const auto found = std::ranges::find(columns_, name);
-  if (found == columns_.end()) {
-    throw CsvError(reader_.Line(), "there is no column '" + std::string(name) + "'");
-  }
-  return static_cast<std::size_t>(found - columns_.begin());
+  const FoundColumn found = FindColumn(columns_, name, reader_.Delimiter());
+  if (!found.index) throw CsvError(reader_.Line(), found.why);
+  return *found.index;
 }
 
 bool CsvFile::HasColumn(std::string_view name) const {

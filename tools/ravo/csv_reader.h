@@ -39,6 +39,9 @@ class CsvReader {
   /// Returns the 1-based line on which the current row begins.
   [[nodiscard]] std::size_t Line() const noexcept { return row_.line; }
 
+  /// Returns the delimiter; one that is detected is known after the first `Next`.
+  [[nodiscard]] char Delimiter() const noexcept { return delimiter_; }
+
   /// Returns the number of bytes read from the source.
   [[nodiscard]] std::size_t BytesRead() const noexcept {
     return static_cast<std::size_t>(reader_.BytesRead());

@@ -70,7 +70,7 @@ std::string Nearest(const std::vector<std::string>& names, std::string_view want
   return said;
 }
 
-std::optional<std::size_t> Number(std::string_view text) {
+std::optional<std::size_t> ColumnNumber(std::string_view text) {
   std::size_t value = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
   if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
@@ -99,7 +99,7 @@ FoundColumn FindColumn(const std::vector<std::string>& names, std::string_view w
   const Indices near = Where(names, [&](const std::string& name) { return Folded(name) == folded; });
   if (near.size() == 1) return {near[0], {}};
   if (!near.empty()) return {{}, Say(CheckText::SameNameButForCase, {Numbers(near), Shown(wanted)})};
-  if (const auto number = Number(wanted)) return Numbered(names, wanted, *number, delimiter);
+  if (const auto number = ColumnNumber(wanted)) return Numbered(names, wanted, *number, delimiter);
   const std::string nearest = Nearest(names, wanted);
   return {{}, Say(CheckText::NoColumn, {Shown(wanted), nearest, DelimiterName(delimiter), Listed(names)})};
 }

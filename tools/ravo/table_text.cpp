@@ -18,7 +18,7 @@ namespace {
 using namespace ravo::DIUnicode;
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-constexpr char16_t kUnreadable = 0xFFFD;
+constexpr char16_t kNoCharacter = 0xFFFD;
 
 unsigned char Byte(std::string_view text, std::size_t at) { return static_cast<unsigned char>(text[at]); }
 
@@ -70,7 +70,7 @@ std::size_t FirstWrongSequence(std::string_view text, std::size_t at, std::size_
 }
 
 #if defined(__SSE2__)
-constexpr std::size_t kPiece = 64;
+constexpr std::size_t kPairPiece = 64;
 
 struct PieceBytes {
   std::uint64_t upper = 0;  // not ASCII
@@ -80,7 +80,7 @@ struct PieceBytes {
 
 PieceBytes BytesOf(const char* piece) {
   PieceBytes all;
-  for (unsigned i = 0; i < kPiece; i += 16) {
+  for (unsigned i = 0; i < kPairPiece; i += 16) {
     const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(piece + i));
     const auto bits = [i](__m128i mask) {
       return std::uint64_t{static_cast<unsigned>(_mm_movemask_epi8(mask))} << i;
@@ -95,7 +95,7 @@ PieceBytes BytesOf(const char* piece) {
 
 // Returns the index past the pieces from `at` on that have only ASCII and whole sequences of two bytes.
 std::size_t SkipPairs(std::string_view text, std::size_t at) {
-  for (; at + kPiece <= text.size(); at += kPiece) {
+  for (; at + kPairPiece <= text.size(); at += kPairPiece) {
     const PieceBytes bytes = BytesOf(text.data() + at);
     if (bytes.upper == 0) continue;
     const bool are_pairs = bytes.upper == (bytes.trailing | bytes.leads_of_two) &&
@@ -105,14 +105,14 @@ std::size_t SkipPairs(std::string_view text, std::size_t at) {
   return at;
 }
 #else
-constexpr std::size_t kPiece = 0;
+constexpr std::size_t kPairPiece = 0;
 std::size_t SkipPairs(std::string_view text, std::size_t at) { return std::min(at, text.size()); }
 #endif
 
 std::size_t FirstWrongUtf8(std::string_view text, std::size_t at) {
   while (at < text.size()) {
     at = SkipPairs(text, at);
-    const std::size_t enough = kPiece != 0 ? std::min(at + kPiece, text.size()) : text.size();
+    const std::size_t enough = kPairPiece != 0 ? std::min(at + kPairPiece, text.size()) : text.size();
     const std::size_t reached = FirstWrongSequence(text, at, enough);
     if (reached < enough) return reached;
     at = reached;
@@ -126,7 +126,7 @@ std::string CharacterOf(const EncodingRow& encoding, unsigned char byte) {
   const std::string_view bytes(reinterpret_cast<const char*>(&byte), 1);
   reader.SetReadMethods(*encoding.read);
   reader.SetSourceBufferAsStrA(bytes);
-  const bool is_character = reader.ReadChar() && reader.Char() != kUnreadable;
+  const bool is_character = reader.ReadChar() && reader.Char() != kNoCharacter;
   return is_character ? ravo::ToUtf8(std::u16string(1, reader.Char())) : std::string();
 }
 
