@@ -38,7 +38,8 @@ void Read(RowScanner scanner, std::string_view text, std::vector<PlainRow>& rows
   for (TableRow row; scanner.Next(row);) {
     PlainRow plain{{}, std::string(text.substr(row.begin, row.end - row.begin)), row.line, row.quote, 0};
     if (row.quote != Fate::Closed) plain.quote_line = row.quote_line;
-    for (const TableField& field : row.fields) plain.fields.emplace_back(ValueOf(field, space));
+    for (std::size_t i = 0; i < row.fields.size(); ++i)
+      plain.fields.emplace_back(ValueOf(row.fields[i], space));
     rows.push_back(std::move(plain));
   }
 }

@@ -141,7 +141,9 @@ class TableRun {
       BreakHeader(header.line, Reason::WrongByte);
     std::vector<std::string> names;
     std::string space;
-    for (const TableField& field : header.fields) names.push_back(text_->Utf8(ValueOf(field, space)));
+    for (std::size_t i = 0; i < header.fields.size(); ++i) {
+      names.push_back(text_->Utf8(ValueOf(header.fields[i], space)));
+    }
     rules_.fields = names.size();
     for (const ColumnRequest& request : job_.columns) AddColumn(names, request);
     lines_.emplace(name_, job_.files.size() > 1 ? name_ : std::string(), rules_.columns, *text_, job_.json);

@@ -42,7 +42,8 @@ bool CsvReader::Next(std::vector<std::string_view>& fields) {
   }
   fields.clear();
   unescaped_.clear();
-  for (const TableField& field : row_.fields) {
+  for (std::size_t i = 0; i < row_.fields.size(); ++i) {
+    const TableField field = row_.fields[i];
     fields.push_back(field.doubled ? ValueOf(field, unescaped_.emplace_back()) : field.bytes);
   }
   return true;

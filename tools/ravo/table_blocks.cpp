@@ -109,6 +109,7 @@ bool BlockReader::Next(TableBlock& block) {
   rest_.assign(block.buffer.begin() + static_cast<std::ptrdiff_t>(end),
                block.buffer.begin() + static_cast<std::ptrdiff_t>(filled));
   block.size = end;
+  if (block.buffer.size() < end + TableBlock::kPadding) block.buffer.resize(end + TableBlock::kPadding);
   block.first_line = next_line_;
   block.offset = offset_;
   next_line_ += CountLineEnds(block.Text());

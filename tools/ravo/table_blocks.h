@@ -13,6 +13,9 @@ namespace tool {
 
 /// Bytes of whole rows.
 struct TableBlock {
+  /// The number of bytes past the text that may be read too.
+  static constexpr std::size_t kPadding = 32;
+
   std::vector<char> buffer;
   std::size_t size = 0;
   std::size_t first_line = 1;  // 1-based line of the file on which it begins

@@ -13,24 +13,9 @@ using Fate = OpeningQuote::Fate;
 // Findings of a block are written early from this size on.
 constexpr std::size_t kLargeLines = std::size_t{512} << 10;
 
-template <std::size_t count>
-void WidenSome(const char* bytes, char16_t* to) {
-  for (std::size_t i = 0; i < count; ++i) to[i] = static_cast<unsigned char>(bytes[i]);
-}
-
-// Widens a value byte by byte: the checks accept only ASCII, and no other byte becomes ASCII. So many at a
-// time, the last ones once more if need be: most values are short.
-void Widen(std::string_view bytes, char16_t* to) {
-  const std::size_t size = bytes.size();
-  if (size >= 8) {
-    for (std::size_t i = 0; i + 8 <= size; i += 8) WidenSome<8>(bytes.data() + i, to + i);
-    WidenSome<8>(bytes.data() + size - 8, to + size - 8);
-  } else if (size >= 4) {
-    WidenSome<4>(bytes.data(), to);
-    WidenSome<4>(bytes.data() + size - 4, to + size - 4);
-  } else {
-    for (std::size_t i = 0; i < size; ++i) to[i] = static_cast<unsigned char>(bytes[i]);
-  }
+// Widens a value byte by byte: the checks accept only ASCII, and no other byte becomes ASCII.
+void Widen(const char* bytes, std::size_t size, char16_t* to) {
+  for (std::size_t i = 0; i < size; ++i) to[i] = static_cast<unsigned char>(bytes[i]);
 }
 
 std::string HexByte(char byte) {
@@ -45,7 +30,7 @@ TableChecker::TableChecker(const TableRules& rules, WriteEarly write_early)
     : rules_(rules), write_early_(std::move(write_early)) {
   counts_.columns.resize(rules_.columns.size());
   for (const CheckedColumn& column : rules_.columns) {
-    columns_.push_back({column.place, column.kind->check});
+    columns_.push_back({column.place, column.kind->check, 0});
   }
 }
 
@@ -75,8 +60,7 @@ void TableChecker::CheckRow() {
   }
   if (next_wrong_ < row_.end) CheckBytes();
   for (std::size_t i = 0; i < columns_.size(); ++i) {
-    const std::size_t place = columns_[i].place;
-    if (place < fields) CheckValue(i, ValueOf(row_.fields[place], unescaped_));
+    if (columns_[i].place < fields) CheckField(i, row_.fields[columns_[i].place]);
   }
 }
 
@@ -90,16 +74,34 @@ void TableChecker::CheckBytes() {
   next_wrong_ = rules_.text->FirstWrong(text_, row_.end);
 }
 
-void TableChecker::CheckValue(std::size_t column, std::string_view value) {
-  if (value.empty() && rules_.allow_empty) return;
-  if (value.size() > wide_.size()) wide_.resize(value.size());
-  Widen(value, wide_.data());
-  const Verdict verdict = columns_[column].check({wide_.data(), value.size()});
+void TableChecker::CheckField(std::size_t column, const TableField& field) {
+  if (field.bytes.empty() && rules_.allow_empty) return;
+  const std::string_view value = ValueOf(field, unescaped_);
+  const Verdict verdict = columns_[column].check(field.doubled ? Widened(value) : WidenedInBlock(value));
   if (verdict.valid) {
-    ++counts_.columns[column].valid;
+    ++columns_[column].valid;
   } else {
     Report(column, value, verdict);
   }
+}
+
+// Most values are short; with the bytes past them, their length costs no branches.
+std::u16string_view TableChecker::WidenedInBlock(std::string_view value) {
+  if (value.size() > TableBlock::kPadding) return Widened(value);
+  Widen(value.data(), TableBlock::kPadding, wide_.data());
+  return {wide_.data(), value.size()};
+}
+
+std::u16string_view TableChecker::Widened(std::string_view value) {
+  if (value.size() > wide_.size()) wide_.resize(value.size());
+  Widen(value.data(), value.size(), wide_.data());
+  return {wide_.data(), value.size()};
+}
+
+TableCounts TableChecker::Counts() const {
+  TableCounts counts = counts_;
+  for (std::size_t i = 0; i < columns_.size(); ++i) counts.columns[i].valid = columns_[i].valid;
+  return counts;
 }
 
 void TableChecker::Report(std::size_t column, std::string_view value, const Verdict& verdict) {

@@ -32,17 +32,20 @@ class TableChecker {
   /// Checks the rows from the index `from` of the block's text on, which are from line `line` of the file on.
   void Check(BlockWork& work, std::size_t from, std::size_t line);
 
-  [[nodiscard]] const TableCounts& Counts() const noexcept { return counts_; }
+  [[nodiscard]] TableCounts Counts() const;
 
  private:
   struct ColumnCheck {
     std::size_t place = 0;
     Verdict (*check)(std::u16string_view text) = nullptr;
+    std::size_t valid = 0;
   };
 
   void CheckRow();
   void CheckBytes();
-  void CheckValue(std::size_t column, std::string_view value);
+  void CheckField(std::size_t column, const TableField& field);
+  [[nodiscard]] std::u16string_view WidenedInBlock(std::string_view value);
+  [[nodiscard]] std::u16string_view Widened(std::string_view value);
   void Report(std::size_t column, std::string_view value, const Verdict& verdict);
   void AddRowFinding(std::size_t line, Reason reason, const std::string& what);
   [[nodiscard]] bool IsWanted() const { return work_->findings < rules_.limit; }
@@ -58,7 +61,7 @@ class TableChecker {
   TableRow row_;
   std::size_t findings_before_ = 0;
   std::string unescaped_;
-  std::u16string wide_ = std::u16string(64, u'\0');
+  std::u16string wide_ = std::u16string(TableBlock::kPadding, u'\0');
 };
 
 }  // namespace tool

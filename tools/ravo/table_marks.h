@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <span>
 #include <string_view>
 #include <vector>
 
@@ -30,9 +31,20 @@ class TableMarks {
     return *next_ != kEnd ? *next_ : NextLoaded(from);
   }
 
+  /// Returns the marks from `from` on up to the first one that is not the delimiter, that one included; none
+  /// if not all of them are found yet.
+  [[nodiscard]] std::span<const std::size_t> FieldsFrom(std::size_t from) {
+    while (*next_ < from) ++next_;
+    const std::size_t* last = next_;
+    while (*last != kEnd && text_[*last] == delimiter_) ++last;
+    if (*last == kEnd) return {};
+    return {next_, last + 1};
+  }
+
  private:
   static constexpr std::size_t kPiece = 64;
   static constexpr std::size_t kPieces = 64;  // at once
+  static constexpr std::size_t kAtOnce = 8;
   static constexpr std::size_t kEnd = ~std::size_t{0};
 
   std::size_t NextLoaded(std::size_t from) {
@@ -46,12 +58,29 @@ class TableMarks {
   void Load() {
     std::size_t* found = found_.data();
     for (std::size_t i = 0; i < kPieces && base_ < text_.size(); ++i, base_ += kPiece) {
-      for (std::uint64_t bits = BitsAt(base_); bits != 0; bits &= bits - 1) {
-        *found++ = base_ + static_cast<std::size_t>(std::countr_zero(bits));
-      }
+      found = Add(BitsAt(base_), found);
     }
     *found = kEnd;
     next_ = found_.data();
+  }
+
+  // Stores the indices of the bits, eight at a time, so that their number costs few branches.
+  std::size_t* Add(std::uint64_t bits, std::size_t* found) const {
+    std::size_t* const end = found + Count(bits);
+    while (found < end) {
+      for (unsigned i = 0; i < kAtOnce; ++i, bits &= bits - 1) {
+        *found++ = base_ + static_cast<std::size_t>(std::countr_zero(bits));
+      }
+    }
+    return end;
+  }
+
+  // `std::popcount` is a call on processors that may lack the instruction.
+  static std::size_t Count(std::uint64_t bits) {
+    bits -= bits >> 1 & 0x5555555555555555U;
+    bits = (bits & 0x3333333333333333U) + (bits >> 2 & 0x3333333333333333U);
+    bits = (bits + (bits >> 4)) & 0x0F0F0F0F0F0F0F0FU;
+    return static_cast<std::size_t>(bits * 0x0101010101010101U >> 56);
   }
 
   [[nodiscard]] std::uint64_t BitsAt(std::size_t base) const {
@@ -90,7 +119,7 @@ class TableMarks {
   std::string_view text_;
   char delimiter_;
   std::size_t base_ = 0;  // of the next piece
-  std::vector<std::size_t> found_ = std::vector<std::size_t>(kPieces * kPiece + 1, kEnd);
+  std::vector<std::size_t> found_ = std::vector<std::size_t>(kPieces * kPiece + kAtOnce, kEnd);
   const std::size_t* next_ = found_.data();
 };
 

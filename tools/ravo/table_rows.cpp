@@ -85,29 +85,53 @@ bool RowScanner::SkipEmptyLines() {
   return at_ < text_.size();
 }
 
+TableField* TableFields::Space(std::size_t count) {
+  size_ += count;
+  if (size_ > added_.size()) added_.resize(size_ * 2);
+  return added_.data() + size_ - count;
+}
+
+std::size_t TableFields::Add(const char* text, std::size_t begin, std::span<const std::size_t> ends) {
+  TableField* field = Space(ends.size());
+  for (const std::size_t end : ends) {
+    *field++ = {{text + begin, end - begin}, false};
+    begin = end + 1;
+  }
+  return begin;
+}
+
 bool RowScanner::Next(TableRow& row) {
   if (!SkipEmptyLines()) return false;
-  row.fields.clear();
   row.begin = at_;
   row.line = line_;
   row.quote = Fate::Closed;
-  const std::string_view text = text_;
-  const char delimiter = delimiter_;
-  std::size_t end = 0;
-  for (std::size_t at = at_;; at = end + 1) {
-    end = marks_.Next(at);
-    if (end < text.size() && text[end] == '"') {
-      at_ = at;
-      end = ReadWithQuote(row);
-    } else {
-      row.fields.push_back({{text.data() + at, end - at}, false});
-    }
-    if (end == text.size() || text[end] != delimiter) break;
-  }
-  if (end < text.size()) ++line_;
+  const std::size_t end = ReadFields(row);
+  if (end < text_.size()) ++line_;
   at_ = PastLineEnd(end);
   row.end = at_;
   return true;
+}
+
+// Returns the index of the line end or the size.
+std::size_t RowScanner::ReadFields(TableRow& row) {
+  const std::span<const std::size_t> ends = marks_.FieldsFrom(at_);
+  if (!ends.empty() && text_[ends.back()] != '"') {
+    row.fields.Set(text_.data(), at_, ends);
+    return ends.back();
+  }
+  row.fields.Clear();
+  if (!ends.empty()) at_ = row.fields.Add(text_.data(), at_, ends.first(ends.size() - 1));
+  std::size_t end = ReadField(row);
+  for (; IsAt(end, delimiter_); end = ReadField(row)) at_ = end + 1;
+  return end;
+}
+
+// Returns the index of the delimiter or line end of the field at at_, or the size.
+std::size_t RowScanner::ReadField(TableRow& row) {
+  const std::size_t end = marks_.Next(at_);
+  if (IsAt(end, '"')) return ReadWithQuote(row);
+  row.fields.Add({text_.substr(at_, end - at_), false});
+  return end;
 }
 
 // Reads the field at at_, which has a quote; returns the index of its delimiter or line end, or the size.
@@ -115,7 +139,7 @@ std::size_t RowScanner::ReadWithQuote(TableRow& row) {
   if (text_[at_] == '"' && ReadQuoted(row)) return at_;
   std::size_t end = marks_.Next(at_);
   while (end < text_.size() && text_[end] == '"') end = marks_.Next(end + 1);
-  row.fields.push_back({{text_.data() + at_, end - at_}, false});
+  row.fields.Add({text_.substr(at_, end - at_), false});
   return end;
 }
 
@@ -129,7 +153,7 @@ bool RowScanner::ReadQuoted(TableRow& row) {
   }
   const std::string_view inside = text_.substr(at_ + 1, quote.close - at_ - 1);
   line_ += CountLineEnds(inside);
-  row.fields.push_back({inside, quote.doubled});
+  row.fields.Add({inside, quote.doubled});
   at_ = quote.close + 1;
   return true;
 }

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -51,8 +52,46 @@ struct TableField {
   return field.doubled ? Unescaped(field.bytes, space) : field.bytes;
 }
 
+/// The fields of a row. Those of a row without quotes are known by their ends alone: most are never looked
+/// at.
+class TableFields {
+ public:
+  /// Begins a row of fields that are added one by one.
+  void Clear() noexcept {
+    ends_ = nullptr;
+    size_ = 0;
+  }
+  void Add(const TableField& field) { *Space(1) = field; }
+  /// Adds fields without quotes, the first of which begins at `begin`; returns where the next one begins.
+  std::size_t Add(const char* text, std::size_t begin, std::span<const std::size_t> ends);
+  /// Sets the fields of a row that begins at `begin`, by the indices of their ends in the text.
+  void Set(const char* text, std::size_t begin, std::span<const std::size_t> ends) noexcept {
+    text_ = text;
+    begin_ = begin;
+    ends_ = ends.data();
+    size_ = ends.size();
+  }
+
+  [[nodiscard]] std::size_t size() const noexcept { return size_; }
+  [[nodiscard]] TableField operator[](std::size_t index) const {
+    if (ends_ == nullptr) return added_[index];
+    const std::size_t begin = index == 0 ? begin_ : ends_[index - 1] + 1;
+    return {{text_ + begin, ends_[index] - begin}, false};
+  }
+
+ private:
+  [[nodiscard]] TableField* Space(std::size_t count);
+
+  const char* text_ = nullptr;
+  std::size_t begin_ = 0;
+  const std::size_t* ends_ = nullptr;
+  std::size_t size_ = 0;
+  std::vector<TableField> added_;
+};
+
+/// A row, valid until the next one is read.
 struct TableRow {
-  std::vector<TableField> fields;
+  TableFields fields;
   std::size_t begin = 0;  // index of the first byte in the text
   std::size_t end = 0;    // past its line end
   std::size_t line = 0;   // 1-based line of the file on which it begins
@@ -73,6 +112,9 @@ class RowScanner {
 
  private:
   [[nodiscard]] bool SkipEmptyLines();
+  [[nodiscard]] std::size_t ReadFields(TableRow& row);
+  [[nodiscard]] std::size_t ReadField(TableRow& row);
+  [[nodiscard]] bool IsAt(std::size_t at, char byte) const { return at < text_.size() && text_[at] == byte; }
   [[nodiscard]] std::size_t ReadWithQuote(TableRow& row);
   [[nodiscard]] bool ReadQuoted(TableRow& row);
   [[nodiscard]] std::size_t PastLineEnd(std::size_t at) const;
