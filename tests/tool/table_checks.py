@@ -15,7 +15,7 @@ from harness import NO, WRONG_USAGE, YES, Row
 DAMAGED = [
     # A row of another length is a finding, and each of its fields is checked.
     (b"VS;X\n0;1\n1;1;2\n1\n", NO,
-     ("line 3\t\t\t3 fields, not 2\nline 3\tVS\t1\tnot valid\nline 4\t\t\t1 fields, not 2\nline 4\tVS\t1\tnot valid\n", "3 rows, 2 with",
+     ("line 3\t\t\t3 fields, not 2\nline 3\tVS\t1\tnot valid\nline 4\t\t\tone field, not 2\nline 4\tVS\t1\tnot valid\n", "3 rows, with findings: 2",
       "\n\t\t2\tanother number of fields\n"), "delimiter ';'"),
     # One stray quote costs one row.
     (b'VS;X\n0;1\n"1;1\n1;"2\n"\n1;3\n', NO,
@@ -34,7 +34,7 @@ DAMAGED = [
     ("VS\n\u0085č\n".encode(), NO, ("line 2\tVS\t\\u0085č\tnot valid\n",), "UTF-8"),
     ("VS\nč\n".encode("cp1250"), NO, ("line 2\tVS\tč\tnot valid\n",), "Windows-1250"),
     ("\ufeffVS\n1\n".encode(), NO, ("line 2\tVS\t1\tnot valid\n",), "UTF-8"),
-    (b"VS\n0\n", YES, ("1 rows, 0 with findings\nVS\tvs\t1\tvalid\n",), "UTF-8"),
+    (b"VS\n0\n", YES, ("one row, with findings: 0\nVS\tvs\t1\tvalid\n",), "UTF-8"),
     (b"", WRONG_USAGE, (), "no first row"),
     (b"\n\r\n\r", WRONG_USAGE, (), "no first row"),
     (b'VS;"X\n1;2\n', WRONG_USAGE, (), "line 1: a quote is never closed"),
@@ -68,7 +68,7 @@ def check_table_names(program):
     rows = [
         ("VS", NO, "line 2\tVS\t1\t", "UTF-8"), ("vs", YES, "vs\tvs\t1\tvalid\n", "UTF-8"), ("účet", NO, "\tÚčet\t2\t", "UTF-8"),
         ("3", NO, "\tÚčet\t2\t", "UTF-8"), ("2", NO, "line 2\t2\t3\t", "UTF-8"), ("Vs", WRONG_USAGE, "", "columns 1, 2 are named 'Vs' but for case"),
-        ("0", WRONG_USAGE, "", "there is no column 0, only 5"), ("Učet", WRONG_USAGE, "", "did you mean 'Účet'?"),
+        ("0", WRONG_USAGE, "", "there is no column 0, the last one is 5"), ("Učet", WRONG_USAGE, "", "did you mean 'Účet'?"),
     ]
     for name, status, out, err in rows:
         yield from program.failures(Row(["check", "--csv", file.name, "--column", f"{name}=vs"], status, out=(out,), err=(err,)))
@@ -78,6 +78,54 @@ def check_table_names(program):
     wrong = (f"line 150003\t\t\tbyte 0xE8 at offset {len(start) + 3} is not UTF-8", "line 150003\tVS\tA\ufffd\tnot valid\n",
              f"line 150005\t\t\tbyte 0xC5 at offset {len(start) + 9} is not UTF-8")
     yield from program.failures(Row(["check", "--csv", file.name, "--column", "VS=vs"], NO, out=wrong, err=("UTF-8",)))
+    file.unlink()
+
+
+def check_table_encodings(program):
+    """The encoding is that of the first characters past ASCII within 256 KiB, with a doubt told."""
+    file = program.folder / "kódy.csv"
+    text = "VS;Text\n" + "0;Příliš žluťoučký kůň úpěl ďábelské ódy\n" * 20 + "Ž;účet\n"
+    ascii_rows = "0;x\n" * 50000
+    for encoding, label in (("cp1250", "Windows-1250"), ("iso8859-2", "ISO 8859-2"), ("cp852", "Code page 852"), ("utf-8", "UTF-8")):
+        for start in ("", ascii_rows):
+            content = text.replace("\n", "\n" + start, 1)
+            file.write_bytes(content.encode(encoding))
+            wanted = f"line {content.count(chr(10))}\tVS\tŽ\tnot valid\n"
+            row = Row(["check", "--csv", file.name, "--column", "VS=vs"], NO, out=(wanted,), err=(f"kódy.csv: {label}, delimiter ';'\n",))
+            yield from program.failures(row)
+    file.write_bytes("VS\nč\n".encode("cp1250"))
+    row = Row(["check", "--csv", file.name, "--column", "VS=vs"], NO, err=("Windows-1250 (Windows-1250 and ISO 8859-2 read it alike), delimiter ';'\n",))
+    yield from program.failures(row)
+    file.write_bytes("Firma\tVS\na;b\t1\n".encode())
+    row = Row(["check", "--csv", file.name, "--column", "VS=vs", "--delimiter", "tab", "--encoding", "utf-8"], NO, silent=True,
+              out=("line 2\tVS\t1\tnot valid\n",))
+    yield from program.failures(row)
+    file.unlink()
+
+
+def check_long_values(program):
+    """A value is checked and told whole, however long it is and whatever is past it."""
+    file = program.folder / "dlouhé.csv"
+    values = [*("311" + "1" * length for length in range(100)), "č" * 40, '"' + "311" * 30 + '""x"', "50"]
+    file.write_bytes("\n".join(["ucet", *values]).encode())
+    result = program.run(["check", "--csv", file.name, "--column", "ucet=ucet", "--json"])
+    *findings, summary = map(json.loads, result.out.splitlines())
+    wanted = [*values[4:-2], "311" * 30 + '"x', "50"]
+    if [finding["value"] for finding in findings] != wanted or summary["columns"][0]["valid"] != 4:
+        yield f"check --csv of long values: {result.out[-600:]}"
+    file.unlink()
+
+
+def check_full_output(program):
+    """Findings that cannot be written end the check at once."""
+    if program.emulated or not os.path.exists("/dev/full"):
+        return
+    file = program.folder / "plná.csv"
+    file.write_bytes(b"VS\n" + b"1\n" * 400000)
+    with open("/dev/full", "wb") as full:
+        result = program.run(["check", "--csv", file.name, file.name, "--column", "VS=vs"], out=full)
+    if result.status != WRONG_USAGE or not result.err.endswith("delimiter ';'\nravo check: the output cannot be written\n"):
+        yield f"check --csv to a full device: {result}"
     file.unlink()
 
 
@@ -124,7 +172,7 @@ def check_split_tables(program):
         others = head + b"".join(b"\r\n" * row.endswith(b"\r\n\r\n") if is_bad else row for row, is_bad in zip(rows, bad))
         if result.status != NO or rejects.read_bytes() != wanted or clean.read_bytes() != others:
             yield f"check --rejects --clean, {threads} threads: other bytes, {result}"[:2000]
-        if f"30000 rows, {sum(bad)} with findings\n" not in result.out:
+        if f"30000 rows, with findings: {sum(bad)}\n" not in result.out:
             yield f"check --rejects: {result.out[:300]}, not {sum(bad)} rows"
     old = rejects.read_bytes()
     result = program.run(["check", "--csv", table.name, "--column", "nic=ucet", "--rejects", rejects.name])
@@ -166,7 +214,7 @@ def check_large_tables(program):
     if (piped.status, piped.out) != (alone.status, alone.out):
         yield f"check --csv - of a large table: {piped.status}, {piped.err}"
     limited = program.run(["check", "--csv", file.name, *columns, "--limit", "100003"])
-    if limited.out.splitlines()[:100003] != alone.out.splitlines()[:100003] or "100003 findings shown, 699997 left out" not in limited.out:
+    if limited.out.splitlines()[:100003] != alone.out.splitlines()[:100003] or "findings shown: 100003, left out: 699997" not in limited.out:
         yield f"check --csv --limit: {limited.out[-400:]}"
     if not program.emulated and hasattr(os, "wait4"):
         status, memory = peak_memory([*program.command, "check", "--csv", file.name, *columns, "--json"], program.folder)
@@ -200,7 +248,7 @@ def check_terminal_tables(program):
     file.write_bytes("Účet;VS\n50;1\n311;123456\n".encode())
     shown = shown_on_terminal(program, ["check", "--csv", file.name, "--column", "Účet=ucet", "--column", "VS=vs"])
     wanted = ("line 2  Účet  50      not valid\nline 2  VS    1       not valid\nline 3  VS    123456  not valid\n"
-              "2 rows, 2 with findings\nÚčet  ucet  1  valid\nÚčet  ucet  1  not valid\nVS    vs    0  valid\nVS    vs    2  not valid\n")
+              "2 rows, with findings: 2\nÚčet  ucet  1  valid\nÚčet  ucet  1  not valid\nVS    vs    0  valid\nVS    vs    2  not valid\n")
     if shown != wanted:
         yield f"check --csv on a terminal: {shown!r}"
     file.unlink()

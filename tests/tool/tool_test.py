@@ -17,8 +17,8 @@ from file_checks import (check_colours, check_conversions, check_full_device, ch
                          check_report_json, check_sorted_files, check_sums, check_unreadable)
 from harness import NO, SKIPPED, YES, Program, Row, differs
 from long_work_checks import check_interruption, check_progress, check_streaming
-from table_checks import (check_damaged_tables, check_large_tables, check_quoted_tables, check_split_tables, check_table_names,
-                          check_terminal_tables)
+from table_checks import (check_damaged_tables, check_full_output, check_large_tables, check_long_values, check_quoted_tables,
+                          check_split_tables, check_table_encodings, check_table_names, check_terminal_tables)
 
 # Rows that the harness itself must reject, each for the named reason.
 MUST_FAIL = [
@@ -46,6 +46,9 @@ CHECKS = (
     check_colours,
     check_damaged_tables,
     check_table_names,
+    check_table_encodings,
+    check_long_values,
+    check_full_output,
     check_quoted_tables,
     check_split_tables,
     check_large_tables,

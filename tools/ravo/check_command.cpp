@@ -4,6 +4,7 @@
 #include "json_text.h"
 #include "kind_lines.h"
 #include "table_text.h"
+#include "text.h"
 #include <ravo/RavoInterface.h>
 
 #include <limits>
@@ -62,18 +63,26 @@ void CheckValues(const CheckOptions& options, Outcome& outcome) {
 const ravo::DIUnicode::EncodingRow* EncodingOf(const std::string& name) {
   if (name.empty()) return nullptr;
   const ravo::DIUnicode::EncodingRow* const row = ravo::DIUnicode::FindEncoding(name);
-  if (row == nullptr) throw CLI::ValidationError("check: no encoding " + name + "; see ravo encodings");
-  if (!TableText::CanRead(*row))
-    throw CLI::ValidationError("check: tables in " + name +
-                               " cannot be read; convert them first: ravo convert");
+  if (row == nullptr)
+    throw CLI::ValidationError("check: " + Text("there is no encoding {0}; see ravo encodings", {name}));
+  if (!TableText::CanRead(*row)) {
+    throw CLI::ValidationError(
+        "check: " + Text("tables in {0} cannot be read; convert them first: ravo convert", {name}));
+  }
   return row;
+}
+
+std::string CheckOutputName(const std::string& name) {
+  if (name.empty()) return Text("the name of the file is empty");
+  return name == "-" ? Text("standard output has the findings; name a file") : std::string();
 }
 
 TableJob JobOf(const CheckOptions& options) {
   TableJob job;
   job.files = options.files;
   for (const std::string& column : options.columns) job.columns.push_back(ColumnOf(column));
-  if (!options.delimiter.empty()) job.delimiter = options.delimiter.front();
+  if (!options.delimiter.empty())
+    job.delimiter = options.delimiter == "tab" ? '\t' : options.delimiter.front();
   job.encoding = EncodingOf(options.encoding);
   job.allow_empty = options.allow_empty;
   job.json = options.json;
@@ -104,25 +113,35 @@ std::string CheckFooter() {
          "  ravo check --csv samples/ledger.csv --column \"Účet MD=ucet\" --column VS=vs --allow-empty\n";
 }
 
+void AddOutput(CLI::App& command, std::string& name, CLI::Option* file, const char* option,
+               const std::string& help) {
+  command.add_option(option, name, help)
+      ->type_name("FILE")
+      ->check(CLI::Validator(CheckOutputName, ""))
+      ->needs(file);
+}
+
 void AddTableOptions(CLI::App& command, CheckOptions& options, CLI::Option* file) {
-  command.add_option("--delimiter", options.delimiter, "The delimiter between fields; detected by default")
+  command
+      .add_option("--delimiter", options.delimiter, Text("The delimiter between fields; detected by default"))
       ->type_name("CHAR")
-      ->check(CLI::IsMember({";", ",", "\t", "|"}))
+      ->check(CLI::IsMember({";", ",", "\t", "tab", "|"}))
       ->needs(file);
-  command.add_option("--encoding", options.encoding, "The encoding of the tables; detected by default")
+  command.add_option("--encoding", options.encoding, Text("The encoding of the tables; detected by default"))
       ->needs(file);
-  command.add_flag("--allow-empty", options.allow_empty, "Skip empty fields")->needs(file);
-  command.add_option("--limit", options.limit, "Write no more findings than this")
+  command.add_flag("--allow-empty", options.allow_empty, Text("Skip empty fields"))->needs(file);
+  command.add_option("--limit", options.limit, Text("Write no more findings than this"))
       ->type_name("N")
+      ->check(CLI::NonNegativeNumber)
       ->needs(file);
-  command.add_option("--rejects", options.rejects, "Write the rows with findings to this file")
-      ->type_name("FILE")
-      ->needs(file);
-  command.add_option("--clean", options.clean, "Write all but the rows with findings to this file")
-      ->type_name("FILE")
-      ->needs(file);
-  command.add_option("--threads", options.threads, "Use so many threads; by default one for each processor")
+  AddOutput(command, options.rejects, file, "--rejects", Text("Write the rows with findings to this file"));
+  AddOutput(command, options.clean, file, "--clean",
+            Text("Write all but the rows with findings to this file"));
+  command
+      .add_option("--threads", options.threads,
+                  Text("Use so many threads; by default one for each processor"))
       ->type_name("N")
+      ->check(CLI::NonNegativeNumber)
       ->needs(file);
 }
 
@@ -136,12 +155,13 @@ void AddCheckCommand(CLI::App& program, Outcome& outcome) {
       command->add_option("KIND", options->kind, "The kind of the values: " + CheckKindNames(", "));
   kind->check(CLI::Validator(CheckKindName, ""));
   CLI::Option* values = command->add_option("VALUE", options->values, "The values to check");
-  CLI::Option* file = command->add_option(
-      "--csv", options->files, "Check tables whose first row has the column names; - is standard input");
+  CLI::Option* file =
+      command->add_option("--csv", options->files,
+                          Text("Check tables whose first row has the column names; - is standard input"));
   file->type_name("FILE")->excludes(kind)->excludes(values);
   command
       ->add_option("--column", options->columns,
-                   "A column, by name or number, and the kind of its values; may be repeated")
+                   Text("A column, by name or number, and the kind of its values; may be repeated"))
       ->type_name("NAME=KIND")
       ->check(CLI::Validator(CheckColumn, ""))
       ->needs(file);

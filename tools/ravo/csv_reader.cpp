@@ -1,6 +1,8 @@
 #include "csv_reader.h"
 
+#include "reasons.h"
 #include "table_shape.h"
+#include "text.h"
 
 #include <utility>
 
@@ -12,7 +14,7 @@ constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 }  // namespace
 
 CsvError::CsvError(std::size_t line, const std::string& what)
-    : std::runtime_error("line " + std::to_string(line) + ": " + what), line_(line) {}
+    : std::runtime_error(Text("line {0}: {1}", {std::to_string(line), what})), line_(line) {}
 
 CsvReader::CsvReader(Source source, char delimiter, std::size_t block)
     : reader_(std::move(source), block), delimiter_(delimiter) {}
@@ -38,7 +40,7 @@ bool CsvReader::Next(std::vector<std::string_view>& fields) {
   if (!NextRow()) return false;
   if (row_.quote != OpeningQuote::Fate::Closed) {
     const bool is_open = row_.quote == OpeningQuote::Fate::Open;
-    throw CsvError(row_.quote_line, is_open ? "a quote is never closed" : "text after a closing quote");
+    throw CsvError(row_.quote_line, Described(is_open ? Reason::OpenQuote : Reason::TextAfterQuote));
   }
   fields.clear();
   unescaped_.clear();

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 namespace tool {
@@ -23,11 +24,12 @@ enum class Reason : std::uint8_t {
 inline constexpr std::size_t kReasons = 9;
 
 /// Returns the code of a reason for scripts; it never changes and is never translated.
-[[nodiscard]] constexpr std::string_view CodeOf(Reason reason) noexcept {
-  constexpr std::string_view kCodes[kReasons] = {
-      "invalid", "empty",      "too-long",         "no-check-digit", "wrong-check-digit",
-      "ragged",  "open-quote", "text-after-quote", "wrong-byte"};
-  return kCodes[static_cast<std::size_t>(reason)];
-}
+[[nodiscard]] std::string_view CodeOf(Reason reason) noexcept;
+
+/// Returns a reason as people read it.
+[[nodiscard]] std::string Described(Reason reason);
+
+/// Describes a row that has another number of fields than the first row.
+[[nodiscard]] std::string DescribedRagged(std::size_t fields, std::size_t wanted);
 
 }  // namespace tool

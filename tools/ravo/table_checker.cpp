@@ -1,6 +1,6 @@
 #include "table_checker.h"
 
-#include "check_texts.h"
+#include "text.h"
 
 #include <cstdio>
 #include <utility>
@@ -51,12 +51,11 @@ void TableChecker::CheckRow() {
   findings_before_ = counts_.findings;
   const std::size_t fields = row_.fields.size();
   if (fields != rules_.fields) {
-    AddRowFinding(row_.line, Reason::Ragged,
-                  Say(CheckText::FieldCount, {std::to_string(fields), std::to_string(rules_.fields)}));
+    AddRowFinding(row_.line, Reason::Ragged, DescribedRagged(fields, rules_.fields));
   }
   if (row_.quote != Fate::Closed) {
     const Reason reason = row_.quote == Fate::Open ? Reason::OpenQuote : Reason::TextAfterQuote;
-    AddRowFinding(row_.quote_line, reason, Say(reason));
+    AddRowFinding(row_.quote_line, reason, Described(reason));
   }
   if (next_wrong_ < row_.end) CheckBytes();
   for (std::size_t i = 0; i < columns_.size(); ++i) {
@@ -69,8 +68,9 @@ void TableChecker::CheckBytes() {
   const std::size_t line = row_.line + CountLineEnds(text_.substr(row_.begin, next_wrong_ - row_.begin));
   const auto from = static_cast<std::size_t>(text_.data() - work_->block.buffer.data());
   const std::string offset = std::to_string(work_->block.offset + from + next_wrong_);
-  AddRowFinding(line, Reason::WrongByte,
-                Say(CheckText::WrongByteAt, {HexByte(text_[next_wrong_]), offset, rules_.text->Label()}));
+  AddRowFinding(
+      line, Reason::WrongByte,
+      Text("byte {0} at offset {1} is not {2}", {HexByte(text_[next_wrong_]), offset, rules_.text->Label()}));
   next_wrong_ = rules_.text->FirstWrong(text_, row_.end);
 }
 

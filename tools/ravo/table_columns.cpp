@@ -1,7 +1,7 @@
 #include "table_columns.h"
 
-#include "check_texts.h"
 #include "table_text.h"
+#include "text.h"
 #include <ravo/DIUnicode.h>
 #include <ravo/RavoInterface.h>
 
@@ -35,10 +35,11 @@ std::string Numbers(const Indices& indices) {
   return text;
 }
 
-std::string Listed(const std::vector<std::string>& names) {
-  std::string text;
-  for (const std::string& name : names) text += (text.empty() ? "" : ", ") + Shown(name);
-  return text;
+// Returns a line of its own with the names of all columns.
+std::string Columns(const std::vector<std::string>& names, char delimiter) {
+  std::string list;
+  for (const std::string& name : names) list += (list.empty() ? "" : ", ") + Shown(name);
+  return "\n  " + Text("columns, split at {0}: {1}", {DelimiterName(delimiter), list});
 }
 
 // The number of units to insert, delete or replace to make one text the other.
@@ -56,18 +57,18 @@ std::size_t Distance(std::u16string_view left, std::u16string_view right) {
   return row.back();
 }
 
-// Returns ", did you mean ..." for the nearest name, or nothing if none is near.
+// Returns the nearest name, or nothing if none is near.
 std::string Nearest(const std::vector<std::string>& names, std::string_view wanted) {
   const std::u16string text = Folded(wanted);
   std::size_t least = 1 + text.size() / 3;
-  std::string said;
+  std::string nearest;
   for (const std::string& name : names) {
     const std::size_t distance = Distance(text, Folded(name));
-    if (distance > least || (distance == least && !said.empty())) continue;
+    if (distance > least || (distance == least && !nearest.empty())) continue;
     least = distance;
-    said = Say(CheckText::DidYouMean, {Shown(name)});
+    nearest = Shown(name);
   }
-  return said;
+  return nearest;
 }
 
 std::optional<std::size_t> ColumnNumber(std::string_view text) {
@@ -81,27 +82,36 @@ FoundColumn Numbered(const std::vector<std::string>& names, std::string_view wan
                      char delimiter) {
   if (number >= 1 && number <= names.size()) return {number - 1, {}};
   return {{},
-          Say(CheckText::NoColumnNumber,
-              {wanted, std::to_string(names.size()), DelimiterName(delimiter), Listed(names)})};
+          Text("there is no column {0}, the last one is {1}", {wanted, std::to_string(names.size())}) +
+              Columns(names, delimiter)};
+}
+
+std::string NoColumn(const std::string& wanted, const std::string& nearest) {
+  if (nearest.empty()) return Text("there is no column '{0}'", {wanted});
+  return Text("there is no column '{0}'; did you mean '{1}'?", {wanted, nearest});
 }
 
 }  // namespace
 
 std::string DelimiterName(char delimiter) {
-  return delimiter == '\t' ? "tab" : std::string{'\'', delimiter, '\''};
+  return delimiter == '\t' ? Text("tab") : std::string{'\'', delimiter, '\''};
 }
 
 FoundColumn FindColumn(const std::vector<std::string>& names, std::string_view wanted, char delimiter) {
   const Indices exact = Where(names, [&](const std::string& name) { return name == wanted; });
   if (exact.size() == 1) return {exact[0], {}};
-  if (!exact.empty()) return {{}, Say(CheckText::SameName, {Numbers(exact), Shown(wanted)})};
+  if (!exact.empty())
+    return {{},
+            Text("columns {0} are all named '{1}'; name one by its number", {Numbers(exact), Shown(wanted)})};
   const std::u16string folded = Folded(wanted);
   const Indices near = Where(names, [&](const std::string& name) { return Folded(name) == folded; });
   if (near.size() == 1) return {near[0], {}};
-  if (!near.empty()) return {{}, Say(CheckText::SameNameButForCase, {Numbers(near), Shown(wanted)})};
+  if (!near.empty())
+    return {{},
+            Text("columns {0} are named '{1}' but for case; name one exactly or by its number",
+                 {Numbers(near), Shown(wanted)})};
   if (const auto number = ColumnNumber(wanted)) return Numbered(names, wanted, *number, delimiter);
-  const std::string nearest = Nearest(names, wanted);
-  return {{}, Say(CheckText::NoColumn, {Shown(wanted), nearest, DelimiterName(delimiter), Listed(names)})};
+  return {{}, NoColumn(Shown(wanted), Nearest(names, wanted)) + Columns(names, delimiter)};
 }
 
 }  // namespace tool

@@ -1,6 +1,6 @@
 #include "table_findings.h"
 
-#include "check_texts.h"
+#include "text.h"
 
 #include <charconv>
 
@@ -24,7 +24,7 @@ std::string ColumnPart(std::string_view name, std::string_view kind, bool json) 
   return ",\"column\":" + JsonString(name) + ",\"kind\":" + JsonString(kind) + ",\"value\":\"";
 }
 
-// The two texts around a number that takes the place of "{1}" or "{2}".
+// The two texts around the form feed in `text`, which stands for a number.
 std::pair<std::string, std::string> Around(const std::string& text) {
   const std::size_t place = text.find('\f');
   return {text.substr(0, place), text.substr(place + 1)};
@@ -65,7 +65,7 @@ std::string ReasonLines(std::string_view name, std::string_view kind,
                         const std::array<std::size_t, kReasons>& counts) {
   std::string lines;
   for (std::size_t i = 0; i < kReasons; ++i) {
-    if (counts[i] != 0) lines += SummaryLine(name, kind, counts[i], Say(ReasonAt(i)));
+    if (counts[i] != 0) lines += SummaryLine(name, kind, counts[i], Described(ReasonAt(i)));
   }
   return lines;
 }
@@ -87,8 +87,8 @@ void TableCounts::Add(const TableCounts& other) {
 FindingLines::FindingLines(std::string_view file, std::string_view shown_file,
                            const std::vector<CheckedColumn>& columns, const TableText& text, bool json)
     : text_(text), json_(json) {
-  const std::string place = shown_file.empty() ? Say(CheckText::Line, {"\f"})
-                                               : Say(CheckText::LineOfFile, {Shown(shown_file), "\f"});
+  const std::string place =
+      shown_file.empty() ? Text("line {0}", {"\f"}) : Text("{0}: line {1}", {Shown(shown_file), "\f"});
   std::tie(before_line_, after_line_) = Around(place);
   if (json) before_line_ = "{\"type\":\"finding\",\"file\":" + JsonString(file) + ",\"line\":";
   if (json) after_line_.clear();
@@ -96,7 +96,7 @@ FindingLines::FindingLines(std::string_view file, std::string_view shown_file,
     columns_.push_back(ColumnPart(column.name, column.kind->name, json));
   for (std::size_t i = 0; i < kReasons; ++i) {
     reasons_[i] =
-        json ? "\",\"reason\":" + JsonString(CodeOf(ReasonAt(i))) + ",\"remark\":\"" : Say(ReasonAt(i));
+        json ? "\",\"reason\":" + JsonString(CodeOf(ReasonAt(i))) + ",\"remark\":\"" : Described(ReasonAt(i));
   }
 }
 
@@ -148,13 +148,17 @@ std::string Summary(const std::vector<CheckedColumn>& columns, const TableCounts
   if (json) return JsonSummary(columns, counts, shown);
   std::string lines;
   if (shown < counts.findings) {
-    lines += Say(CheckText::LeftOut, {std::to_string(shown), std::to_string(counts.findings - shown)}) + "\n";
+    lines += Text("findings shown: {0}, left out: {1}",
+                  {std::to_string(shown), std::to_string(counts.findings - shown)}) +
+             "\n";
   }
-  lines += Say(CheckText::Rows, {std::to_string(counts.rows), std::to_string(counts.rejected)}) + "\n";
+  lines += TextOf(static_cast<std::int64_t>(counts.rows), "one row, with findings: {1}",
+                  "{0} rows, with findings: {1}", {std::to_string(counts.rejected)}) +
+           "\n";
   lines += ReasonLines({}, {}, counts.rows_by_reason);
   for (std::size_t i = 0; i < columns.size(); ++i) {
     const CheckedColumn& column = columns[i];
-    lines += SummaryLine(column.name, column.kind->name, counts.columns[i].valid, Say(CheckText::Valid));
+    lines += SummaryLine(column.name, column.kind->name, counts.columns[i].valid, Text("valid"));
     lines += ReasonLines(column.name, column.kind->name, counts.columns[i].reasons);
   }
   return lines;

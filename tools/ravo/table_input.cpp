@@ -1,7 +1,7 @@
 #include "table_input.h"
 
-#include "check_texts.h"
 #include "console.h"
+#include "text.h"
 #include "text_file.h"
 
 #include <cerrno>
@@ -15,11 +15,10 @@ TableInput::TableInput(const std::string& name) : is_standard_(name == kInputNam
   if (is_standard_) return;
   const std::filesystem::path path = PathOf(name);
   std::error_code error;
-  if (std::filesystem::is_directory(path, error)) throw std::runtime_error(Say(CheckText::IsFolder));
+  if (std::filesystem::is_directory(path, error)) throw std::runtime_error(Text("is a folder"));
   errno = 0;
   file_.open(path, std::ios::binary);
-  if (!file_)
-    throw std::runtime_error(Say(CheckText::CannotBeRead, {std::generic_category().message(errno)}));
+  if (!file_) throw std::runtime_error(Text("cannot be read: {0}", {std::generic_category().message(errno)}));
   const auto size = std::filesystem::file_size(path, error);
   size_ = error ? 0 : static_cast<std::int64_t>(size);
 }

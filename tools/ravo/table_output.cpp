@@ -1,11 +1,11 @@
 #include "table_output.h"
 
-#include "check_texts.h"
 #include "console.h"
+#include "table_text.h"
+#include "text.h"
 
 #include <algorithm>
 #include <cstdint>
-#include <stdexcept>
 
 namespace tool {
 namespace {
@@ -14,7 +14,7 @@ namespace {
 constexpr std::size_t kWaiting = 500;
 
 void WriteOut(std::string_view text) {
-  if (!tool::Write(Channel::Out, text)) throw std::runtime_error(Say(CheckText::OutputFailed));
+  if (!tool::Write(Channel::Out, text)) throw OutputError();
 }
 
 // Returns the number of characters; a combining mark of U+0300 to U+036F takes no place of its own.
@@ -62,6 +62,13 @@ std::string_view FirstLines(std::string_view text, std::size_t count) {
 }
 
 }  // namespace
+
+void Complain(const std::string& file, const std::string& what) {
+  static_cast<void>(
+      tool::Write(Channel::Err, "ravo check: " + (file.empty() ? "" : Shown(file) + ": ") + what + "\n"));
+}
+
+OutputError::OutputError() : std::runtime_error(Text("the output cannot be written")) {}
 
 std::string Aligned(const std::vector<std::string>& lines, std::vector<std::size_t>& widths) {
   for (const std::string& line : lines) Widen(widths, FieldsOf(line));

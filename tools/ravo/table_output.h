@@ -1,11 +1,21 @@
 #pragma once
 
 #include <cstddef>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace tool {
+
+/// Writes a message about a file, whose name may be empty, to standard error.
+void Complain(const std::string& file, const std::string& what);
+
+/// Standard output cannot be written.
+class OutputError : public std::runtime_error {
+ public:
+  OutputError();
+};
 
 /// Lines of fields separated by tabs on standard output: as they are in a file or a pipe, in columns on a
 /// terminal.
@@ -14,8 +24,8 @@ class TableOutput {
   /// At most `limit` lines are written by `WriteLimited`.
   explicit TableOutput(std::size_t limit);
 
-  /// Writes whole lines, of which there are `count`, up to the limit. Throws `std::runtime_error` if they
-  /// cannot be written.
+  /// Writes whole lines, of which there are `count`, up to the limit. Throws `OutputError` if they cannot
+  /// be written.
   void WriteLimited(std::string_view lines, std::size_t count);
   /// Writes whole lines and all that waits for its columns to be as wide as they get.
   void WriteLast(std::string_view lines);

@@ -148,13 +148,14 @@ void AppendControl(std::string& to, std::string_view utf8, std::size_t& at) {
 
 }  // namespace
 
-const EncodingRow& DetectEncoding(std::string_view sample, bool is_whole) {
-  if (sample.starts_with("\xFF\xFE")) return *FindEncoding("utf-16le");
-  if (sample.starts_with("\xFE\xFF")) return *FindEncoding("utf-16be");
+EncodingGuess GuessTableEncoding(std::string_view sample) {
+  constexpr std::size_t kCut = 3;  // the most bytes of a character that is cut
+  EncodingGuess guess = GuessEncoding(sample);
+  if (guess.encoding != "UTF_8" || MarkSize(sample) != 0) return guess;
   const std::size_t wrong = FirstWrongUtf8(sample, 0);
-  // The last character of the sample may be cut.
-  const bool is_cut = !is_whole && wrong + 3 >= sample.size();
-  return *FindEncoding(wrong == sample.size() || is_cut ? "utf-8" : "windows-1250");
+  if (wrong + kCut >= sample.size() || SkipAscii(sample, 0) < wrong) return guess;
+  // All before is ASCII, which tells nothing: the guess did not look so far.
+  return GuessEncoding(sample.substr(wrong - std::min(wrong, kCut)));
 }
 
 std::size_t MarkSize(std::string_view sample) noexcept {
@@ -171,7 +172,7 @@ bool TableText::CanRead(const EncodingRow& encoding) {
 }
 
 TableText::TableText(const EncodingRow& encoding)
-    : label_(encoding.label), is_utf8_(encoding.name == "UTF_8") {
+    : label_(encoding.label.substr(0, encoding.label.find(" ("))), is_utf8_(encoding.name == "UTF_8") {
   if (is_utf8_) return;
   for (unsigned i = 0; i < upper_.size(); ++i) {
     upper_[i] = CharacterOf(encoding, static_cast<unsigned char>(i + 0x80));

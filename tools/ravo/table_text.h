@@ -1,5 +1,6 @@
 #pragma once
 
+#include "encoding_guess.h"
 #include <ravo/DIUnicode.h>
 
 #include <array>
@@ -9,9 +10,8 @@
 
 namespace tool {
 
-/// Returns the encoding of a table that starts with `sample`: by its byte-order mark, else UTF-8 if the
-/// sample is well formed, else Windows-1250. `is_whole` tells that nothing follows the sample.
-[[nodiscard]] const ravo::DIUnicode::EncodingRow& DetectEncoding(std::string_view sample, bool is_whole);
+/// Returns the encoding of a table that starts with `sample`, which may end inside a character.
+[[nodiscard]] EncodingGuess GuessTableEncoding(std::string_view sample);
 
 /// Returns the length of the byte-order mark of UTF-8 at the start of `sample`, 0 if there is none.
 [[nodiscard]] std::size_t MarkSize(std::string_view sample) noexcept;
