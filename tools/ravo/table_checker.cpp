@@ -28,9 +28,8 @@ std::string HexByte(char byte) {
 
 TableChecker::TableChecker(const TableRules& rules, WriteEarly write_early)
     : rules_(rules), write_early_(std::move(write_early)) {
-  counts_.columns.resize(rules_.columns.size());
   for (const CheckedColumn& column : rules_.columns) {
-    columns_.push_back({column.place, column.kind->check, 0});
+    columns_.push_back({columns_.size(), column.place, column.kind->check, {}});
   }
 }
 
@@ -58,8 +57,8 @@ void TableChecker::CheckRow() {
     AddRowFinding(row_.quote_line, reason, Described(reason));
   }
   if (next_wrong_ < row_.end) CheckBytes();
-  for (std::size_t i = 0; i < columns_.size(); ++i) {
-    if (columns_[i].place < fields) CheckField(i, row_.fields[columns_[i].place]);
+  for (ColumnCheck& column : columns_) {
+    if (column.place < fields) CheckField(column, row_.fields[column.place]);
   }
 }
 
@@ -74,12 +73,12 @@ void TableChecker::CheckBytes() {
   next_wrong_ = rules_.text->FirstWrong(text_, row_.end);
 }
 
-void TableChecker::CheckField(std::size_t column, const TableField& field) {
+void TableChecker::CheckField(ColumnCheck& column, const TableField& field) {
   if (field.bytes.empty() && rules_.allow_empty) return;
   const std::string_view value = ValueOf(field, unescaped_);
-  const Verdict verdict = columns_[column].check(field.doubled ? Widened(value) : WidenedInBlock(value));
+  const Verdict verdict = column.check(field.doubled ? Widened(value) : WidenedInBlock(value));
   if (verdict.valid) {
-    ++columns_[column].valid;
+    ++column.counts.valid;
   } else {
     Report(column, value, verdict);
   }
@@ -88,29 +87,29 @@ void TableChecker::CheckField(std::size_t column, const TableField& field) {
 // Most values are short; with the bytes past them, their length costs no branches.
 std::u16string_view TableChecker::WidenedInBlock(std::string_view value) {
   if (value.size() > TableBlock::kPadding) return Widened(value);
-  Widen(value.data(), TableBlock::kPadding, wide_.data());
-  return {wide_.data(), value.size()};
+  Widen(value.data(), TableBlock::kPadding, short_);
+  return {short_, value.size()};
 }
 
 std::u16string_view TableChecker::Widened(std::string_view value) {
-  if (value.size() > wide_.size()) wide_.resize(value.size());
-  Widen(value.data(), value.size(), wide_.data());
-  return {wide_.data(), value.size()};
+  long_.resize(value.size());
+  Widen(value.data(), value.size(), long_.data());
+  return long_;
 }
 
 TableCounts TableChecker::Counts() const {
   TableCounts counts = counts_;
-  for (std::size_t i = 0; i < columns_.size(); ++i) counts.columns[i].valid = columns_[i].valid;
+  for (const ColumnCheck& column : columns_) counts.columns.push_back(column.counts);
   return counts;
 }
 
-void TableChecker::Report(std::size_t column, std::string_view value, const Verdict& verdict) {
+void TableChecker::Report(ColumnCheck& column, std::string_view value, const Verdict& verdict) {
   const Reason reason = value.empty() ? Reason::Empty : verdict.reason;
-  ++counts_.columns[column].reasons[static_cast<std::size_t>(reason)];
+  ++column.counts.reasons[static_cast<std::size_t>(reason)];
   ++counts_.findings;
   if (!IsWanted()) return;
   ++work_->findings;
-  rules_.lines->AppendValue(work_->lines, row_.line, column, value, reason, verdict.remark);
+  rules_.lines->AppendValue(work_->lines, row_.line, column.number, value, reason, verdict.remark);
 }
 
 void TableChecker::AddRowFinding(std::size_t line, Reason reason, const std::string& what) {

@@ -36,17 +36,18 @@ class TableChecker {
 
  private:
   struct ColumnCheck {
+    std::size_t number = 0;
     std::size_t place = 0;
     Verdict (*check)(std::u16string_view text) = nullptr;
-    std::size_t valid = 0;
+    ColumnCounts counts;
   };
 
   void CheckRow();
   void CheckBytes();
-  void CheckField(std::size_t column, const TableField& field);
+  void CheckField(ColumnCheck& column, const TableField& field);
   [[nodiscard]] std::u16string_view WidenedInBlock(std::string_view value);
   [[nodiscard]] std::u16string_view Widened(std::string_view value);
-  void Report(std::size_t column, std::string_view value, const Verdict& verdict);
+  void Report(ColumnCheck& column, std::string_view value, const Verdict& verdict);
   void AddRowFinding(std::size_t line, Reason reason, const std::string& what);
   [[nodiscard]] bool IsWanted() const { return work_->findings < rules_.limit; }
   void Reject();
@@ -61,7 +62,8 @@ class TableChecker {
   TableRow row_;
   std::size_t findings_before_ = 0;
   std::string unescaped_;
-  std::u16string wide_ = std::u16string(TableBlock::kPadding, u'\0');
+  char16_t short_[TableBlock::kPadding] = {};
+  std::u16string long_;
 };
 
 }  // namespace tool

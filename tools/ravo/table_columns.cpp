@@ -1,5 +1,6 @@
 #include "table_columns.h"
 
+#include "nearest.h"
 #include "table_text.h"
 #include "text.h"
 #include <ravo/DIUnicode.h>
@@ -7,17 +8,16 @@
 
 #include <algorithm>
 #include <charconv>
-#include <numeric>
 
 namespace tool {
 namespace {
 
 using Indices = std::vector<std::size_t>;
 
-std::u16string Folded(std::string_view utf8) {
+std::string Folded(std::string_view utf8) {
   std::u16string text = ravo::FromUtf8(utf8);
   for (char16_t& unit : text) unit = ravo::DIUnicode::CharToCaseFoldW(unit);
-  return text;
+  return ravo::ToUtf8(text);
 }
 
 template <class Matches>
@@ -42,33 +42,13 @@ std::string Columns(const std::vector<std::string>& names, char delimiter) {
   return "\n  " + Text("columns, split at {0}: {1}", {DelimiterName(delimiter), list});
 }
 
-// The number of units to insert, delete or replace to make one text the other.
-std::size_t Distance(std::u16string_view left, std::u16string_view right) {
-  std::vector<std::size_t> row(right.size() + 1);
-  std::iota(row.begin(), row.end(), std::size_t{0});
-  for (std::size_t i = 0; i < left.size(); ++i) {
-    std::size_t diagonal = row[0]++;
-    for (std::size_t j = 0; j < right.size(); ++j) {
-      const std::size_t replaced = diagonal + (left[i] == right[j] ? 0 : 1);
-      diagonal = row[j + 1];
-      row[j + 1] = std::min({replaced, diagonal + 1, row[j] + 1});
-    }
-  }
-  return row.back();
-}
-
-// Returns the nearest name, or nothing if none is near.
-std::string Nearest(const std::vector<std::string>& names, std::string_view wanted) {
-  const std::u16string text = Folded(wanted);
-  std::size_t least = 1 + text.size() / 3;
-  std::string nearest;
-  for (const std::string& name : names) {
-    const std::size_t distance = Distance(text, Folded(name));
-    if (distance > least || (distance == least && !nearest.empty())) continue;
-    least = distance;
-    nearest = Shown(name);
-  }
-  return nearest;
+// Returns the name that is nearest without case, or nothing.
+std::string NearestName(const std::vector<std::string>& names, std::string_view wanted) {
+  std::vector<std::string> folded;
+  for (const std::string& name : names) folded.push_back(Folded(name));
+  const std::string nearest = Nearest(Folded(wanted), folded);
+  if (nearest.empty()) return nearest;
+  return Shown(names[static_cast<std::size_t>(std::ranges::find(folded, nearest) - folded.begin())]);
 }
 
 std::optional<std::size_t> ColumnNumber(std::string_view text) {
@@ -103,7 +83,7 @@ FoundColumn FindColumn(const std::vector<std::string>& names, std::string_view w
   if (!exact.empty())
     return {{},
             Text("columns {0} are all named '{1}'; name one by its number", {Numbers(exact), Shown(wanted)})};
-  const std::u16string folded = Folded(wanted);
+  const std::string folded = Folded(wanted);
   const Indices near = Where(names, [&](const std::string& name) { return Folded(name) == folded; });
   if (near.size() == 1) return {near[0], {}};
   if (!near.empty())
@@ -111,7 +91,7 @@ FoundColumn FindColumn(const std::vector<std::string>& names, std::string_view w
             Text("columns {0} are named '{1}' but for case; name one exactly or by its number",
                  {Numbers(near), Shown(wanted)})};
   if (const auto number = ColumnNumber(wanted)) return Numbered(names, wanted, *number, delimiter);
-  return {{}, NoColumn(Shown(wanted), Nearest(names, wanted)) + Columns(names, delimiter)};
+  return {{}, NoColumn(Shown(wanted), NearestName(names, wanted)) + Columns(names, delimiter)};
 }
 
 }  // namespace tool
