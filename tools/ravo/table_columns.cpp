@@ -42,11 +42,14 @@ std::string Columns(const std::vector<std::string>& names, char delimiter) {
   return "\n  " + Text("columns, split at {0}: {1}", {DelimiterName(delimiter), list});
 }
 
+// One byte a letter, so that a wrong accent counts as one mistake.
+std::string InLetters(std::string_view utf8) { return ravo::ToCodePage(ravo::FromUtf8(utf8), 1250); }
+
 // Returns the name that is nearest without case, or nothing.
 std::string NearestName(const std::vector<std::string>& names, std::string_view wanted) {
   std::vector<std::string> folded;
-  for (const std::string& name : names) folded.push_back(Folded(name));
-  const std::string nearest = Nearest(Folded(wanted), folded);
+  for (const std::string& name : names) folded.push_back(InLetters(Folded(name)));
+  const std::string nearest = Nearest(InLetters(Folded(wanted)), folded);
   if (nearest.empty()) return nearest;
   return Shown(names[static_cast<std::size_t>(std::ranges::find(folded, nearest) - folded.begin())]);
 }
