@@ -1,10 +1,12 @@
 #!/usr/bin/env python3
-"""Times `ravo check --csv` on a million rows beside mawk, which merely splits the same file into the same columns.
+"""Times `ravo check --csv` on a million rows beside mawk and DuckDB, which merely split the same file or count its rows.
 
-usage: check_csv.py RAVO FOLDER REPORT      (FOLDER keeps the file between runs)
+usage: check_csv.py RAVO FOLDER REPORT [DUCKDB]      (FOLDER keeps the file between runs)
 
-The two run in turn, several times; what is printed are the medians of their wall times and the ratio. REPORT has
-every run, in the form in which the other benchmarks report.
+DUCKDB is a folder with DuckDB's package for Node.js; without it its rows are left out. Its time is that of its query
+alone, on as many threads as there are processors; all other times are those of a whole program. All run in turn, several
+times; the medians of their wall times and the ratios are printed. REPORT has every run, in the form in which the other
+benchmarks report.
 """
 
 import json
@@ -18,6 +20,14 @@ import time
 ROWS, COPIES, RUNS = 20_000, 50, 9
 COLUMNS = {"Účet MD": "ucet", "Účet D": "ucet", "VS": "vs", "Protiúčet": "banka", "EAN": "ean"}
 PLACES = (3, 4, 6, 7, 8)
+COUNT = """
+import { createRequire } from "node:module";
+const { DuckDBInstance } = createRequire(process.argv[1] + "/")("@duckdb/node-api");
+const connection = await (await DuckDBInstance.create(":memory:")).connect();
+const start = process.hrtime.bigint();
+await connection.runAndReadAll(`select count(*) from read_csv('${process.argv[2]}', all_varchar = true)`);
+console.log(Number(process.hrtime.bigint() - start) / 1e9);
+"""
 
 
 def million_rows(folder):
@@ -33,47 +43,73 @@ def million_rows(folder):
     return whole
 
 
-def seconds(command):
+def seconds(command, source=None):
+    """`source` is a file to pipe in."""
+    pipe = subprocess.Popen(["cat", source], stdout=subprocess.PIPE) if source else None
     start = time.perf_counter()
-    subprocess.run(command, check=True, stdout=subprocess.DEVNULL)
-    return time.perf_counter() - start
+    done = subprocess.run(command, check=False, stdin=pipe.stdout if pipe else subprocess.DEVNULL, stdout=subprocess.DEVNULL,
+                          stderr=subprocess.PIPE)
+    taken = time.perf_counter() - start
+    if pipe:
+        pipe.stdout.close()
+        pipe.wait()
+    if done.returncode not in (0, 1):
+        sys.exit(f"{command}: {done.stderr.decode()}")
+    return taken
 
 
-def report(times):
-    """The runs of all commands, in nanoseconds."""
-    runs = [{"run_name": f"check --csv/{name}", "run_type": "iteration", "cpu_time": taken * 1e9}
-            for name, all_runs in times.items() for taken in all_runs]
-    return json.dumps({"benchmarks": runs})
+def count_seconds(duckdb, file):
+    command = ["node", "--input-type=module", "-e", COUNT, duckdb, file]
+    return float(subprocess.run(command, check=True, stdout=subprocess.PIPE).stdout)
 
 
-def main(ravo, folder, report_file):
-    if not shutil.which("mawk"):
-        print("mawk is missing")
-        return 0
-    file = million_rows(pathlib.Path(folder))
-    check = [ravo, "check", "--csv", file, "--allow-empty"]
+def jobs_on(ravo, file, duckdb):
+    """{job: {program: a function that gives the seconds of a run}}"""
+    check = [ravo, "check"]
     for name, kind in COLUMNS.items():
         check += ["--column", f"{name}={kind}"]
     assignments = "; ".join(f"c{place} = ${place}" for place in PLACES)
-    commands = {
-        "ravo": check,
-        "mawk, the same columns": ["mawk", "-F;", "{ %s }" % assignments, file],
-        "mawk, counting fields": ["mawk", "-F;", "{ n += NF }", file],
+    jobs = {
+        "check --csv": {
+            "ravo": lambda: seconds([*check, "--allow-empty", "--csv", file]),
+            "mawk, the same columns": lambda: seconds(["mawk", "-F;", "{ %s }" % assignments, file]),
+            "mawk, counting fields": lambda: seconds(["mawk", "-F;", "{ n += NF }", file]),
+        },
+        "check --csv, with 1.9 million findings": {"ravo": lambda: seconds([*check, "--column", "Doklad=vs", "--csv", file])},
+        "check --csv -, from a pipe": {"ravo": lambda: seconds([*check, "--allow-empty", "--csv", "-"], file)},
     }
-    times: dict[str, list[float]] = {name: [] for name in commands}
+    if duckdb and (pathlib.Path(duckdb) / "node_modules").is_dir() and shutil.which("node"):
+        for programs in jobs.values():
+            programs["DuckDB, counting rows"] = lambda: count_seconds(duckdb, file)
+    return jobs
+
+
+def report(times):
+    """The runs of all programs, in nanoseconds."""
+    runs = [{"run_name": f"{job}/{name}", "run_type": "iteration", "cpu_time": taken * 1e9}
+            for (job, name), all_runs in times.items() for taken in all_runs]
+    return json.dumps({"benchmarks": runs})
+
+
+def main(ravo, folder, report_file, duckdb=None):
+    if not shutil.which("mawk"):
+        print("mawk is missing")
+        return 0
+    jobs = jobs_on(ravo, str(million_rows(pathlib.Path(folder))), duckdb)
+    times: dict[tuple[str, str], list[float]] = {(job, name): [] for job, programs in jobs.items() for name in programs}
     for run in range(RUNS + 1):
-        for name, command in commands.items():
-            taken = seconds(command)
-            if run > 0:  # the first run warms the file cache
-                times[name].append(taken)
+        for job, name in times:
+            taken = jobs[job][name]()
+            if run > 0:  # the first turn warms the file cache
+                times[job, name].append(taken)
     pathlib.Path(report_file).write_text(report(times), encoding="utf-8")
-    medians = {name: statistics.median(taken) for name, taken in times.items()}
-    for name, median in medians.items():
-        print(f"check --csv, a million rows  {name:24} {median:7.3f} s  {median / medians['ravo']:6.2f}x")
+    medians = {place: statistics.median(taken) for place, taken in times.items()}
+    for (job, name), median in medians.items():
+        print(f"{job:40} {name:24} {median:7.3f} s  {median / medians[job, 'ravo']:6.2f}x")
     return 0
 
 
 if __name__ == "__main__":
-    if len(sys.argv) != 4:
+    if len(sys.argv) not in (4, 5):
         sys.exit(__doc__)
     sys.exit(main(*sys.argv[1:]))

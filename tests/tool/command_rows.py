@@ -1,5 +1,6 @@
 """Command lines of `ravo` and their expected results."""
 
+import json
 import pathlib
 import random
 import re
@@ -61,9 +62,26 @@ SAMPLES = pathlib.Path(__file__).resolve().parents[2] / "samples"
 SAMPLE, SAMPLE_1250 = str(SAMPLES / "ledger.csv"), str(SAMPLES / "ledger-1250.csv")
 LEDGER = [argument for column in ("Účet MD=ucet", "VS=vs", "Protiúčet=banka") for argument in ("--column", column)]
 LEDGER_FAULTS = (
-    "line 18\tÚčet MD\t50\nline 59\tVS\t2026000579\nline 104\tProtiúčet\t19-2000145398/0800\nline 241\tVS\t20260024O7\n"
-    "300 rows\nÚčet MD (ucet): 299 valid, 1 not\nVS (vs): 268 valid, 2 not\nProtiúčet (banka): 237 valid, 1 not\n"
+    "line 18\tÚčet MD\t50\tnot valid\nline 59\tVS\t2026000579\tnot valid\n"
+    "line 104\tProtiúčet\t19-2000145398/0800\tnot valid\nline 241\tVS\t20260024O7\tnot valid\n"
+    "300 rows, with findings: 4\n"
+    "Účet MD\tucet\t299\tvalid\nÚčet MD\tucet\t1\tnot valid\nVS\tvs\t268\tvalid\nVS\tvs\t2\tnot valid\n"
+    "Protiúčet\tbanka\t237\tvalid\nProtiúčet\tbanka\t1\tnot valid\n"
 )
+
+
+def ean_findings(out):
+    """One finding and the summary, an object each line."""
+    finding, summary = map(json.loads, out.splitlines())
+    columns = summary.pop("columns")
+    finding.pop("file")
+    wanted = {"type": "finding", "line": 167, "column": "EAN", "kind": "ean", "value": "8590000000018",
+              "reason": "wrong-check-digit", "remark": "wrong check digit, right: 8590000000015"}
+    counts = {"type": "summary", "rows": 300, "rejected": 1, "findings": 1, "shown": 1, "reasons": {}}
+    if finding != wanted or summary != counts:
+        return f"{finding}, {summary}"
+    if [(column["column"], column["kind"], column["reasons"]) for column in columns] != [("EAN", "ean", {"wrong-check-digit": 1})]:
+        return f"columns {columns}"
 
 
 def drawn(seed, alphabet, count):
@@ -198,13 +216,34 @@ ROWS = [
     Row(["check", "--csv", "x"], WRONG_USAGE, err=("--column",)),
     Row(["check", "--csv", "x", "--column", "VS"], WRONG_USAGE, err=("NAME=KIND",)),
     Row(["check", "--csv", "chybí.csv", "--column", "VS=vs"], WRONG_USAGE, err=("chybí.csv", "cannot be read")),
-    Row(["check", "--csv", SAMPLE, "--column", "Firma=vs"], WRONG_USAGE, err=("ledger.csv: line 1", "'Firma'")),
-    Row(["check", "--csv", SAMPLE, "--column", "Doklad=vs", "--column", "Účet MD=ucet"], NO, silent=True,
-        out=("line 2\tDoklad\tFP26000001\n", "\n300 rows\n", "Účet MD (ucet): 299 valid, 1 not\n")),
-    Row(["check", "--csv", SAMPLE, *LEDGER, "--allow-empty"], NO, silent=True, exact=LEDGER_FAULTS),
-    Row(["check", "--csv", SAMPLE_1250, *LEDGER, "--allow-empty"], NO, silent=True, exact=LEDGER_FAULTS),
-    Row(["check", "--csv", SAMPLE, "--column", "EAN=ean", "--allow-empty", "--json"], NO, silent=True,
-        holds=as_json(lambda value: (value["rows"], len(value["bad"]), value["bad"][0]["line"]) != (300, 1, 167) and f"{value}")),
+    Row(["check", "--csv", str(SAMPLES), "--column", "VS=vs"], WRONG_USAGE, exact="", err=("samples: is a folder",)),
+    Row(["check", "--csv", SAMPLE, "--column", "Firma=vs"], WRONG_USAGE, exact="",
+        err=("ravo check: ", "ledger.csv: there is no column 'Firma'\n  columns, split at ';': Doklad, Datum, Účet MD, ")),
+    Row(["check", "--csv", SAMPLE, "--column", "Ucet D=vs"], WRONG_USAGE, exact="", err=("did you mean 'Účet D'?",)),
+    Row(["check", "--csv", SAMPLE, "--column", "10=vs"], WRONG_USAGE, exact="", err=("there is no column 10, the last one is 9\n",)),
+    Row(["check", "--csv", SAMPLE, "--column", "6=vs", "--column", "účet md=ucet"], NO, err=("ledger.csv: UTF-8",),
+        out=("line 18\tÚčet MD\t50\tnot valid\n", "VS\tvs\t2\tnot valid\n")),
+    Row(["check", "--csv", SAMPLE, "--column", "Doklad=vs", "--column", "Účet MD=ucet"], NO, err=("delimiter ';'\n",),
+        out=("line 2\tDoklad\tFP26000001\tnot valid\n", "\n300 rows, with findings: 300\n", "Účet MD\tucet\t299\tvalid\n")),
+    Row(["check", "--csv", SAMPLE, *LEDGER, "--allow-empty"], NO, err=("ledger.csv: UTF-8",), exact=LEDGER_FAULTS),
+    Row(["check", "--csv", SAMPLE_1250, *LEDGER, "--allow-empty"], NO, err=("Windows-1250",), exact=LEDGER_FAULTS),
+    Row(["check", "--csv", SAMPLE_1250, *LEDGER, "--allow-empty", "--encoding", "cp1250", "--delimiter", ";"], NO, silent=True,
+        exact=LEDGER_FAULTS),
+    Row(["check", "--csv", SAMPLE, "--column", "VS=vs", "--encoding", "nonsense"], WRONG_USAGE, err=("nonsense", "ravo encodings")),
+    *[Row(["check", "--csv", SAMPLE, "--column", "VS=vs", *wrong], WRONG_USAGE, exact="", err=(told,)) for wrong, told in (
+        (["--rejects", ""], "--rejects: the name of the file is empty"), (["--clean", "-"], "--clean: standard output has the findings"),
+        (["--limit", "-1"], "--limit"), (["--threads", "-1"], "--threads"), (["--delimiter", "ab"], "--delimiter"))],
+    Row(["check", "--csv", SAMPLE, "--column", "VS=vs", "--encoding", "utf-16"], WRONG_USAGE, err=("utf-16", "ravo convert")),
+    Row(["check", "--csv", SAMPLE, *LEDGER, "--allow-empty", "--limit", "1"], NO, err=("UTF-8",),
+        exact="line 18\tÚčet MD\t50\tnot valid\nfindings shown: 1, left out: 3\n" + LEDGER_FAULTS[LEDGER_FAULTS.index("300 rows"):]),
+    Row(["check", "--csv", SAMPLE, SAMPLE_1250, "chybí.csv", "--column", "EAN=ean", "--allow-empty"], WRONG_USAGE,
+        err=("ledger-1250.csv: Windows-1250", "chybí.csv: cannot be read: "), out=(
+            "ledger.csv: line 167\tEAN\t8590000000018\twrong check digit, right: ", "ledger-1250.csv: line 167\tEAN",
+            "\n600 rows, with findings: 2\n", "EAN\tean\t2\twrong check digit\n")),
+    Row(["check", "--csv", SAMPLE, "--column", "EAN=ean", "--allow-empty", "--json"], NO, err=("UTF-8",), holds=ean_findings),
+    Row(["check", "--csv", SAMPLE, "--column", "Datum=au", "--limit", "0", "--clean", "x", "--rejects", "./x"], WRONG_USAGE, exact="",
+        err=("name the same file",)),
+    Row(["check", "--csv", SAMPLE, SAMPLE, "--column", "Datum=au", "--clean", "x"], WRONG_USAGE, exact="", err=("take one table",)),
     # Rounding.
     Row(["round", "--help"], out=("--mode", "--decimals", "--dph", "Examples:")),
     Row(["round", "1.234", "--mode", "up"], exact="1.234\t1.24\n"),

@@ -247,24 +247,6 @@ def check_colours(program):
             yield f"tour on a terminal of kind {kind}: {shown[:200]!r}"
 
 
-def check_damaged_files(program):
-    """The error for a file that is not a table has the line of the fault."""
-    file = program.folder / "účty.csv"
-    for content, told in (
-        (b'VS\n1\n"2', "line 3: a quote is never closed"),
-        (b'VS;X\n"0"0;1\n', "line 2: text after a closing quote"),
-        (b"VS;X\n0;1\n0;1;2\n", "line 3: 3 fields, not 2"),
-        (b"", "no first row"),
-    ):
-        file.write_bytes(content)
-        row = Row(["check", "--csv", file.name, "--column", "VS=vs"], WRONG_USAGE, exact="", err=(file.name, told))
-        yield from program.failures(row)
-    file.write_bytes(b"VS,X\r\n0,\"a\r\nb\"\r\n1,c\r\n")
-    yield from program.failures(
-        Row(["check", "--csv", file.name, "--column", "VS=vs"], NO, silent=True, out=("line 4\tVS\t1\n", "2 rows\n")))
-    file.unlink()
-
-
 def check_sorted_files(program):
     """Lines of files are sorted, optionally with numbers by value, even if that order has cycles."""
     (program.folder / "utf8.txt").write_bytes("účet10\r\nÚčet9\nfile10\nfile9".encode())

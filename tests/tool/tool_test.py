@@ -13,10 +13,12 @@ from concurrent.futures import ThreadPoolExecutor
 
 from command_rows import ROWS
 from document_checks import check_forms, check_xml, check_xml_encodings, check_xml_samples, check_xml_unreadable
-from file_checks import (check_colours, check_conversions, check_damaged_files, check_full_device, check_pipes, check_report_file,
+from file_checks import (check_colours, check_conversions, check_full_device, check_pipes, check_report_file,
                          check_report_json, check_sorted_files, check_sums, check_unreadable)
 from harness import NO, SKIPPED, YES, Program, Row, differs
 from long_work_checks import check_interruption, check_progress, check_streaming
+from table_checks import (check_damaged_tables, check_full_output, check_large_tables, check_long_values, check_quoted_tables,
+                          check_split_tables, check_table_encodings, check_table_names, check_terminal_tables)
 
 # Rows that the harness itself must reject, each for the named reason.
 MUST_FAIL = [
@@ -42,7 +44,15 @@ CHECKS = (
     check_pipes,
     check_unreadable,
     check_colours,
-    check_damaged_files,
+    check_damaged_tables,
+    check_table_names,
+    check_table_encodings,
+    check_long_values,
+    check_full_output,
+    check_quoted_tables,
+    check_split_tables,
+    check_large_tables,
+    check_terminal_tables,
     check_sorted_files,
     check_xml,
     check_xml_encodings,

@@ -1,11 +1,13 @@
 #include "check_file.h"
 #include "checks.h"
 #include "commands.h"
-#include "csv_reader.h"
 #include "json_text.h"
 #include "kind_lines.h"
+#include "table_text.h"
+#include "text.h"
 #include <ravo/RavoInterface.h>
 
+#include <limits>
 #include <memory>
 #include <string>
 #include <vector>
@@ -16,9 +18,14 @@ namespace {
 struct CheckOptions {
   std::string kind;
   std::vector<std::string> values;
-  std::string file;
+  std::vector<std::string> files;
   std::vector<std::string> columns;
   std::string delimiter;
+  std::string encoding;
+  std::string rejects;
+  std::string clean;
+  std::size_t limit = std::numeric_limits<std::size_t>::max();
+  unsigned threads = 0;
   bool allow_empty = false;
   bool json = false;
 };
@@ -28,7 +35,7 @@ std::string CheckKindName(const std::string& name) {
                              : "'" + name + "' is not a kind; kinds are " + CheckKindNames(", ");
 }
 
-ColumnCheck ColumnOf(const std::string& text) {
+ColumnRequest ColumnOf(const std::string& text) {
   const std::size_t equals = text.rfind('=');
   if (equals == std::string::npos) return {};
   return {text.substr(0, equals), FindCheckKind(text.substr(equals + 1))};
@@ -52,69 +59,90 @@ void CheckValues(const CheckOptions& options, Outcome& outcome) {
   if (options.json) outcome.out = JsonText(answers);
 }
 
-std::string FileText(const FileCheck& result) {
-  std::string text;
-  for (const BadValue& bad : result.bad) {
-    text += "line " + std::to_string(bad.line) + "\t" + result.columns[bad.column].name + "\t" + bad.value;
-    text += bad.remark.empty() ? "\n" : "\t" + bad.remark + "\n";
+// Throws `CLI::ValidationError` for an encoding that no table can have.
+const ravo::DIUnicode::EncodingRow* EncodingOf(const std::string& name) {
+  if (name.empty()) return nullptr;
+  const ravo::DIUnicode::EncodingRow* const row = ravo::DIUnicode::FindEncoding(name);
+  if (row == nullptr)
+    throw CLI::ValidationError("check: " + Text("there is no encoding {0}; see ravo encodings", {name}));
+  if (!TableText::CanRead(*row)) {
+    throw CLI::ValidationError(
+        "check: " + Text("tables in {0} cannot be read; convert them first: ravo convert", {name}));
   }
-  text += std::to_string(result.rows) + " rows\n";
-  for (const ColumnCheck& column : result.columns) {
-    text += column.name + " (" + std::string(column.kind->name) + "): " + std::to_string(column.valid) +
-            " valid, " + std::to_string(column.invalid) + " not\n";
-  }
-  return text;
+  return row;
 }
 
-Json FileJson(const std::string& file, const FileCheck& result) {
-  Json columns = Json::array();
-  for (const ColumnCheck& column : result.columns) {
-    columns.push_back({{"name", column.name},
-                       {"kind", column.kind->name},
-                       {"valid", column.valid},
-                       {"invalid", column.invalid}});
-  }
-  Json rows = Json::array();
-  for (const BadValue& bad : result.bad) {
-    rows.push_back({{"line", bad.line},
-                    {"column", result.columns[bad.column].name},
-                    {"value", bad.value},
-                    {"remark", bad.remark}});
-  }
-  return {{"file", file}, {"rows", result.rows}, {"columns", columns}, {"bad", rows}};
+std::string CheckOutputName(const std::string& name) {
+  if (name.empty()) return Text("the name of the file is empty");
+  return name == "-" ? Text("standard output has the findings; name a file") : std::string();
 }
 
-void CheckWholeFile(const CheckOptions& options, Outcome& outcome) {
-  std::vector<ColumnCheck> columns;
-  for (const std::string& column : options.columns) columns.push_back(ColumnOf(column));
-  try {
-    const char delimiter = options.delimiter.empty() ? '\0' : options.delimiter.front();
-    const FileCheck result = CheckFile(options.file, std::move(columns), delimiter, options.allow_empty);
-    outcome.out = options.json ? JsonText(FileJson(options.file, result)) : FileText(result);
-    if (!result.bad.empty()) outcome.answer = Answer::No;
-  } catch (const std::runtime_error& error) {
-    outcome.err = "ravo: " + options.file + ": " + error.what() + "\n";
-    outcome.answer = Answer::WrongUsage;
-  }
+TableJob JobOf(const CheckOptions& options) {
+  TableJob job;
+  job.files = options.files;
+  for (const std::string& column : options.columns) job.columns.push_back(ColumnOf(column));
+  if (!options.delimiter.empty())
+    job.delimiter = options.delimiter == "tab" ? '\t' : options.delimiter.front();
+  job.encoding = EncodingOf(options.encoding);
+  job.allow_empty = options.allow_empty;
+  job.json = options.json;
+  job.limit = options.limit;
+  job.rejects = options.rejects;
+  job.clean = options.clean;
+  job.threads = options.threads;
+  return job;
 }
 
 void Run(const CheckOptions& options, Outcome& outcome) {
   const bool values = !options.values.empty();
-  const bool file = !options.file.empty();
+  const bool file = !options.files.empty();
   if (values == file) throw CLI::RequiredError("check: either a kind and values, or --csv and --column");
   if (file && options.columns.empty()) throw CLI::RequiredError("check --csv: at least one --column");
-  return file ? CheckWholeFile(options, outcome) : CheckValues(options, outcome);
+  if (!file) return CheckValues(options, outcome);
+  outcome.answer = CheckTables(JobOf(options));
 }
 
 std::string CheckFooter() {
   return "Kinds:\n" + KindLines(CheckKinds()) +
          "\n"
-         "Exit status: 0 all values are valid, 1 a value is not, 2 wrong usage or an unusable file.\n"
+         "Exit status: 0 nothing found, 1 findings, 2 wrong usage or some of the work could not be done.\n"
          "\n"
          "Examples:\n"
          "  ravo check banka 19-2000145399/0800\n"
          "  ravo check ean 4006381333931 400638133393\n"
          "  ravo check --csv samples/ledger.csv --column \"Účet MD=ucet\" --column VS=vs --allow-empty\n";
+}
+
+void AddOutput(CLI::App& command, std::string& name, CLI::Option* file, const char* option,
+               const std::string& help) {
+  command.add_option(option, name, help)
+      ->type_name("FILE")
+      ->check(CLI::Validator(CheckOutputName, ""))
+      ->needs(file);
+}
+
+void AddTableOptions(CLI::App& command, CheckOptions& options, CLI::Option* file) {
+  command
+      .add_option("--delimiter", options.delimiter, Text("The delimiter between fields; detected by default"))
+      ->type_name("CHAR")
+      ->check(CLI::IsMember({";", ",", "\t", "tab", "|"}))
+      ->needs(file);
+  command.add_option("--encoding", options.encoding, Text("The encoding of the tables; detected by default"))
+      ->needs(file);
+  command.add_flag("--allow-empty", options.allow_empty, Text("Skip empty fields"))->needs(file);
+  command.add_option("--limit", options.limit, Text("Write no more findings than this"))
+      ->type_name("N")
+      ->check(CLI::NonNegativeNumber)
+      ->needs(file);
+  AddOutput(command, options.rejects, file, "--rejects", Text("Write the rows with findings to this file"));
+  AddOutput(command, options.clean, file, "--clean",
+            Text("Write all but the rows with findings to this file"));
+  command
+      .add_option("--threads", options.threads,
+                  Text("Use so many threads; by default one for each processor"))
+      ->type_name("N")
+      ->check(CLI::NonNegativeNumber)
+      ->needs(file);
 }
 
 }  // namespace
@@ -127,20 +155,17 @@ void AddCheckCommand(CLI::App& program, Outcome& outcome) {
       command->add_option("KIND", options->kind, "The kind of the values: " + CheckKindNames(", "));
   kind->check(CLI::Validator(CheckKindName, ""));
   CLI::Option* values = command->add_option("VALUE", options->values, "The values to check");
-  CLI::Option* file = command->add_option(
-      "--csv", options->file, "Check a file (UTF-8 or Windows-1250) whose first row has the column names");
+  CLI::Option* file =
+      command->add_option("--csv", options->files,
+                          Text("Check tables whose first row has the column names; - is standard input"));
   file->type_name("FILE")->excludes(kind)->excludes(values);
   command
       ->add_option("--column", options->columns,
-                   "A column to check and the kind of its values; may be repeated")
+                   Text("A column, by name or number, and the kind of its values; may be repeated"))
       ->type_name("NAME=KIND")
       ->check(CLI::Validator(CheckColumn, ""))
       ->needs(file);
-  command->add_option("--delimiter", options->delimiter, "The delimiter between fields; detected by default")
-      ->type_name("CHAR")
-      ->check(CLI::IsMember({";", ",", "\t", "|"}))
-      ->needs(file);
-  command->add_flag("--allow-empty", options->allow_empty, "Skip empty fields")->needs(file);
+  AddTableOptions(*command, *options, file);
   command->add_flag("--json", options->json, "Write JSON");
   command->footer(CheckFooter());
   command->callback([options, &outcome] { Run(*options, outcome); });

@@ -1,76 +1,65 @@
 #include "check_file.h"
 
-#include "csv_file.h"
-#include "foreign_text.h"
+#include "table_run.h"
+#include "text.h"
 
-#include <string_view>
-#include <utility>
+#include <stdexcept>
 
 namespace tool {
 namespace {
 
-// Widens a value byte by byte: the checks accept only ASCII, and no other byte becomes ASCII.
-class Widened {
+// All tables of a job.
+class JobRun {
  public:
-  explicit Widened(std::string_view bytes) {
-    if (bytes.size() > std::size(short_)) {
-      long_.assign(bytes.size(), u'\0');
-      Copy(bytes, long_.data());
-      view_ = long_;
-    } else {
-      Copy(bytes, short_);
-      view_ = {short_, bytes.size()};
-    }
-  }
-  [[nodiscard]] std::u16string_view View() const { return view_; }
+  explicit JobRun(const TableJob& job) : job_(job), output_(job.limit) {}
 
- private:
-  static void Copy(std::string_view bytes, char16_t* to) {
-    for (std::size_t i = 0; i < bytes.size(); ++i) to[i] = static_cast<unsigned char>(bytes[i]);
-  }
-
-  char16_t short_[64];
-  std::u16string long_;
-  std::u16string_view view_;
-};
-
-class FileChecker {
- public:
-  FileChecker(const std::string& name, std::vector<ColumnCheck> columns, char delimiter, bool allow_empty)
-      : file_(name, "checking", delimiter), allow_empty_(allow_empty) {
-    result_.columns = std::move(columns);
-    for (const ColumnCheck& column : result_.columns) places_.push_back(file_.Column(column.name));
-  }
-
-  FileCheck Run() {
-    while (file_.Next()) {
-      for (std::size_t i = 0; i < places_.size(); ++i) CheckValue(i, file_.Field(places_[i]));
-    }
-    result_.rows = file_.Rows();
-    return std::move(result_);
+  Answer Run() {
+    for (const std::string& file : job_.files) CheckFile(file);
+    if (!columns_.empty()) output_.WriteLast(Summary(columns_, counts_, output_.Written(), job_.json));
+    if (is_incomplete_) return Answer::WrongUsage;
+    return counts_.findings == 0 ? Answer::Yes : Answer::No;
   }
 
  private:
-  void CheckValue(std::size_t index, std::string_view value) {
-    if (allow_empty_ && value.empty()) return;
-    ColumnCheck& column = result_.columns[index];
-    Verdict verdict = column.kind->check(Widened(value).View());
-    ++(verdict.valid ? column.valid : column.invalid);
-    if (verdict.valid) return;
-    result_.bad.push_back({file_.Line(), index, ForeignText(value), std::move(verdict.remark)});
+  void CheckFile(const std::string& file) {
+    try {
+      TableRun run(job_, file, output_);
+      if (!run.Run()) is_incomplete_ = true;
+      counts_.Add(run.Counts());
+      if (columns_.empty()) columns_ = run.Columns();
+    } catch (const OutputError&) {
+      throw;
+    } catch (const std::runtime_error& error) {
+      Complain(file, error.what());
+      is_incomplete_ = true;
+    }
   }
 
-  CsvFile file_;
-  bool allow_empty_;
-  std::vector<std::size_t> places_;
-  FileCheck result_;
+  const TableJob& job_;
+  TableOutput output_;
+  bool is_incomplete_ = false;
+  TableCounts counts_;
+  std::vector<CheckedColumn> columns_;
 };
 
 }  // namespace
 
-FileCheck CheckFile(const std::string& name, std::vector<ColumnCheck> columns, char delimiter,
-                    bool allow_empty) {
-  return FileChecker(name, std::move(columns), delimiter, allow_empty).Run();
+Answer CheckTables(const TableJob& job) {
+  const bool splits = !job.rejects.empty() || !job.clean.empty();
+  if (splits && job.files.size() > 1) {
+    Complain({}, Text("--rejects and --clean take one table to check"));
+    return Answer::WrongUsage;
+  }
+  if (TableSplit::AreSame(job.rejects, job.clean)) {
+    Complain({}, Text("--rejects and --clean name the same file"));
+    return Answer::WrongUsage;
+  }
+  try {
+    return JobRun(job).Run();
+  } catch (const OutputError& error) {
+    Complain({}, error.what());
+    return Answer::WrongUsage;
+  }
 }
 
 }  // namespace tool

@@ -1,39 +1,42 @@
 #pragma once
 
 #include "checks.h"
+#include "outcome.h"
+#include <ravo/DIUnicode.h>
 
 #include <cstddef>
+#include <limits>
 #include <string>
 #include <vector>
 
 namespace tool {
 
-/// A column to check, by its name in the first row of the file.
-struct ColumnCheck {
+/// A column to check, as a person names it: by its name in the first row or by its 1-based number.
+struct ColumnRequest {
   std::string name;
   const CheckKind* kind = nullptr;
-  std::size_t valid = 0;
-  std::size_t invalid = 0;
 };
 
-/// An invalid value.
-struct BadValue {
-  std::size_t line = 0;
-  std::size_t column = 0;  // index into the checks
-  std::string value;
-  std::string remark;
+/// A check of tables whose first row has the column names. Names are UTF-8.
+struct TableJob {
+  std::vector<std::string> files;  // "-" is standard input
+  std::vector<ColumnRequest> columns;
+  char delimiter = '\0';                                   // 0: detected
+  const ravo::DIUnicode::EncodingRow* encoding = nullptr;  // null: detected
+  bool allow_empty = false;                                // skip empty values
+  bool json = false;
+  std::size_t limit = std::numeric_limits<std::size_t>::max();  // of findings written
+  std::string rejects;   // the file for rows with findings; may be empty
+  std::string clean;     // the file for all other bytes; may be empty
+  unsigned threads = 0;  // 0: one for each processor
 };
 
-struct FileCheck {
-  std::size_t rows = 0;
-  std::vector<ColumnCheck> columns;
-  std::vector<BadValue> bad;
-};
-
-/// Checks the named columns of a file whose first row has the column names. `name` is UTF-8; a delimiter of 0
-/// is detected; `allow_empty` skips empty values. Throws `CsvError` or `std::runtime_error` if the file
-/// cannot be read, lacks a column or has a row of another length.
-[[nodiscard]] FileCheck CheckFile(const std::string& name, std::vector<ColumnCheck> columns, char delimiter,
-                                  bool allow_empty);
+/// Checks the tables, writes findings and summary to standard output as they come, and messages to standard
+/// error.
+///
+/// Findings have the order of the rows, whatever the number of threads. `rejects` and `clean` together have
+/// the bytes of the table. Returns `WrongUsage` if some of the work could not be done, else `No` if there are
+/// findings.
+[[nodiscard]] Answer CheckTables(const TableJob& job);
 
 }  // namespace tool

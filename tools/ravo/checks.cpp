@@ -10,26 +10,27 @@ namespace {
 
 namespace common = ravo::RavoInterfaceCommon;
 
-Verdict CheckAccount(std::u16string_view text) { return {common::ValidUcet(text), {}}; }
-Verdict CheckSynthetic(std::u16string_view text) { return {common::ValidSU(text), {}}; }
-Verdict CheckAnalytic(std::u16string_view text) { return {common::ValidAU(text), {}}; }
+Verdict CheckAccount(std::u16string_view text) { return {common::ValidUcet(text), {}, {}}; }
+Verdict CheckSynthetic(std::u16string_view text) { return {common::ValidSU(text), {}, {}}; }
+Verdict CheckAnalytic(std::u16string_view text) { return {common::ValidAU(text), {}, {}}; }
 
 // An account or a reference of excessive length is invalid.
 template <bool (*kRule)(std::u16string_view)>
 Verdict CheckByRule(std::u16string_view text) {
   try {
-    return {kRule(text), {}};
+    return {kRule(text), {}, {}};
   } catch (const ravo::Error&) {
-    return {false, "too long"};
+    return {false, "too long", Reason::TooLong};
   }
 }
 
 Verdict CheckEan(std::u16string_view text) {
   thread_local std::u16string old_check, new_check, full;
   if (!common::CalculateEAN(text, old_check, new_check, full)) return {};
-  if (old_check == new_check) return {true, {}};
-  return {false, (old_check == u" " ? "without check digit, complete: " : "wrong check digit, right: ") +
-                     ravo::ToUtf8(full)};
+  if (old_check == new_check) return {true, {}, {}};
+  const std::string right = ravo::ToUtf8(full);
+  if (old_check == u" ") return {false, "without check digit, complete: " + right, Reason::NoCheckDigit};
+  return {false, "wrong check digit, right: " + right, Reason::WrongCheckDigit};
 }
 
 constexpr CheckKind kKinds[] = {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "reasons.h"
+
 #include <span>
 #include <string>
 #include <string_view>
@@ -10,6 +12,7 @@ namespace tool {
 struct Verdict {
   bool valid = false;
   std::string remark;
+  Reason reason = Reason::Invalid;  // if not valid
 };
 
 /// A kind of value. `check` accepts any text and never throws.

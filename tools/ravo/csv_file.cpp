@@ -1,6 +1,9 @@
 #include "csv_file.h"
 
 #include "foreign_text.h"
+#include "reasons.h"
+#include "table_columns.h"
+#include "text.h"
 #include "text_file.h"
 
 #include <algorithm>
@@ -27,17 +30,15 @@ CsvFile::CsvFile(const std::string& name, const std::string& doing, char delimit
     : file_(PathOf(name), std::ios::binary),
       reader_([this](std::span<char> to) { return ReadSome(to); }, delimiter),
       progress_(doing + " " + name, SizeOf(name)) {
-  if (!file_) throw std::runtime_error("cannot be read");
-  if (!reader_.Next(fields_)) throw std::runtime_error("has no first row with column names");
+  if (!file_) throw std::runtime_error(Text("cannot be read"));
+  if (!reader_.Next(fields_)) throw std::runtime_error(Text("has no first row with column names"));
   for (const std::string_view field : fields_) columns_.push_back(ForeignText(field));
 }
 
 std::size_t CsvFile::Column(std::string_view name) const {
-  const auto found = std::ranges::find(columns_, name);
-  if (found == columns_.end()) {
-    throw CsvError(reader_.Line(), "there is no column '" + std::string(name) + "'");
-  }
-  return static_cast<std::size_t>(found - columns_.begin());
+  const FoundColumn found = FindColumn(columns_, name, reader_.Delimiter());
+  if (!found.index) throw CsvError(reader_.Line(), found.why);
+  return *found.index;
 }
 
 bool CsvFile::HasColumn(std::string_view name) const {
@@ -47,8 +48,7 @@ bool CsvFile::HasColumn(std::string_view name) const {
 bool CsvFile::Next() {
   if (!reader_.Next(fields_)) return false;
   if (fields_.size() != columns_.size()) {
-    throw CsvError(Line(),
-                   std::to_string(fields_.size()) + " fields, not " + std::to_string(columns_.size()));
+    throw CsvError(Line(), DescribedRagged(fields_.size(), columns_.size()));
   }
   if (++rows_ % kRowsBetweenShows == 0) progress_.Show(static_cast<std::int64_t>(reader_.BytesRead()));
   return true;
@@ -56,7 +56,7 @@ bool CsvFile::Next() {
 
 std::size_t CsvFile::ReadSome(std::span<char> to) {
   file_.read(to.data(), static_cast<std::streamsize>(to.size()));
-  if (file_.bad()) throw std::runtime_error("cannot be read to its end");
+  if (file_.bad()) throw std::runtime_error(Text("cannot be read to its end"));
   return static_cast<std::size_t>(file_.gcount());
 }
 

@@ -18,7 +18,7 @@ class CsvFile {
   /// `name` is UTF-8; a delimiter of 0 is detected. `doing` is the label of the progress bar.
   CsvFile(const std::string& name, const std::string& doing, char delimiter);
 
-  /// Returns the index of a column by its name in UTF-8.
+  /// Returns the index of a column by its name in UTF-8, as `FindColumn` finds it.
   [[nodiscard]] std::size_t Column(std::string_view name) const;
   [[nodiscard]] bool HasColumn(std::string_view name) const;
 
