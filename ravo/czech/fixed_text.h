@@ -1,0 +1,41 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+
+namespace ravo::czech {
+
+/// An ASCII text of at most `capacity` characters that owns no memory elsewhere.
+template <std::size_t capacity>
+struct FixedText {
+  static_assert(capacity < 256);
+  std::array<char, capacity> characters{};  ///< zeros past the end
+  std::uint8_t size = 0;                    ///< how many characters there are
+
+  /// A view of this object's characters: valid while the object is.
+  [[nodiscard]] constexpr std::string_view View() const noexcept { return {characters.data(), size}; }
+  /// Appends one character. Precondition: there is room.
+  constexpr void Append(char character) noexcept { characters[size++] = character; }
+  /// Appends a text. Precondition: there is room.
+  constexpr void Append(std::string_view text) noexcept {
+    for (const char character : text) Append(character);
+  }
+  /// Appends `number` in decimal, padded with zeros to at least `digits`. Precondition: there is room.
+  constexpr void AppendNumber(std::uint64_t number, int digits) noexcept {
+    if (number >= 10 || digits > 1) AppendNumber(number / 10, digits - 1);
+    Append(static_cast<char>('0' + number % 10));
+  }
+  friend constexpr bool operator==(const FixedText&, const FixedText&) noexcept = default;
+};
+
+/// Returns `text` as a text of fixed capacity. Precondition: it is not longer than that.
+template <std::size_t capacity>
+[[nodiscard]] constexpr FixedText<capacity> Fixed(std::string_view text) noexcept {
+  FixedText<capacity> result;
+  result.Append(text);
+  return result;
+}
+
+}  // namespace ravo::czech

@@ -1,0 +1,177 @@
+#pragma once
+
+#include <ravo/czech/fixed_text.h>
+#include <ravo/czech/reason.h>
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+#include <type_traits>
+
+/// What all kinds share when they read an input: which characters count, which are passed over, where each
+/// was.
+///
+/// An input is UTF-8 or UTF-16 as it is. A kind says in a `Spelling` which characters it keeps and which it
+/// skips; `Read` copies the kept ones, letters in upper case, into a small buffer, or says why not. Positions
+/// of kept characters are not stored: a refusal walks the input once more (`PositionOf`), so that a correct
+/// input does not pay for it.
+namespace ravo::czech::detail {
+
+/// Sets of characters, to be combined.
+using Marks = std::uint8_t;
+inline constexpr Marks kBlank =
+    1;  ///< spaces of all widths, no-break ones, tabs, line ends, marks of no width
+inline constexpr Marks kDigit = 2;   ///< 0 to 9
+inline constexpr Marks kLetter = 4;  ///< A to Z of either case
+inline constexpr Marks kHyphen = 8;  ///< hyphen, dashes, minus
+inline constexpr Marks kDot = 16;    ///< full stop
+inline constexpr Marks kSlash = 32;  ///< slash, fraction slash
+inline constexpr Marks kSign = 64;   ///< plus and asterisk
+
+/// One character: what it is, what it is kept as, how many units it takes.
+struct Mark {
+  Marks marks = 0;
+  char kept = 0;
+  std::uint8_t units = 1;
+};
+
+[[nodiscard]] constexpr Mark AsciiMark(char character) noexcept {
+  const auto is = [character](std::string_view set) { return set.find(character) != std::string_view::npos; };
+  if (character >= '0' && character <= '9') return {kDigit, character};
+  if (character >= 'A' && character <= 'Z') return {kLetter, character};
+  if (character >= 'a' && character <= 'z') return {kLetter, static_cast<char>(character - 'a' + 'A')};
+  if (character == ' ' || (character >= '\t' && character <= '\r')) return {kBlank, ' '};
+  if (character == '-') return {kHyphen, character};
+  if (character == '.') return {kDot, character};
+  if (character == '/') return {kSlash, character};
+  if (is("+*")) return {kSign, character};
+  return {};
+}
+
+inline constexpr auto kAsciiMarks = [] {
+  std::array<Mark, 128> marks{};
+  for (std::size_t i = 0; i < marks.size(); ++i) marks[i] = AsciiMark(static_cast<char>(i));
+  return marks;
+}();
+
+/// Unsigned value of a unit of either encoding.
+template <class Unit>
+[[nodiscard]] constexpr std::uint32_t UnitValue(Unit unit) noexcept {
+  return static_cast<std::make_unsigned_t<Unit>>(unit);
+}
+template <>
+[[nodiscard]] constexpr std::uint32_t UnitValue(char16_t unit) noexcept {
+  return unit;
+}
+
+/// The code point at `at` and the units it takes. An ill-formed unit is U+FFFD.
+struct CodePoint {
+  std::uint32_t value = 0;
+  std::uint8_t units = 1;
+};
+[[nodiscard]] CodePoint CodePointAt(std::string_view text, std::size_t at) noexcept;
+[[nodiscard]] CodePoint CodePointAt(std::u16string_view text, std::size_t at) noexcept;
+
+/// What a character beyond ASCII is.
+[[nodiscard]] Mark WideMark(CodePoint point) noexcept;
+
+template <class Unit>
+[[nodiscard]] inline Mark MarkAt(std::basic_string_view<Unit> text, std::size_t at) noexcept {
+  const std::uint32_t unit = UnitValue(text[at]);
+  return unit < 128 ? kAsciiMarks[unit] : WideMark(CodePointAt(text, at));
+}
+
+/// How a kind is written.
+struct Spelling {
+  Code empty = Code::Correct;
+  Code character = Code::Correct;
+  Code length = Code::Correct;
+  Marks keep = 0;
+  Marks skip = kBlank;
+  /// What people write before it, in capitals without accents, dots and blanks; longer ones before their
+  /// beginnings.
+  std::array<std::string_view, 8> labels{};
+};
+
+/// Where the input continues past a label and what divides it from the rest; 0 if there is no label.
+[[nodiscard]] std::size_t AfterLabel(std::string_view text, const Spelling& spelling) noexcept;
+[[nodiscard]] std::size_t AfterLabel(std::u16string_view text, const Spelling& spelling) noexcept;
+
+/// Whether a label can begin with this unit: a digit begins none, and of the letters only some do.
+[[nodiscard]] constexpr bool MayBeginLabel(std::uint32_t unit, const Spelling& spelling) noexcept {
+  if (unit >= 128 || kAsciiMarks[unit].marks == kBlank) return true;
+  for (const std::string_view label : spelling.labels) {
+    if (label.empty()) break;
+    if (label[0] == kAsciiMarks[unit].kept) return true;
+  }
+  return false;
+}
+
+/// The kept characters, or the reason why not. `from` is where they begin, past a label.
+template <std::size_t capacity>
+struct Kept {
+  std::array<char, capacity> text;
+  std::size_t size = 0;
+  std::size_t from = 0;
+  Code code = Code::Correct;
+  std::size_t position = 0;
+
+  [[nodiscard]] std::string_view View() const noexcept { return {text.data(), size}; }
+  [[nodiscard]] int Digit(std::size_t at) const noexcept { return text[at] - '0'; }
+};
+
+template <class Unit>
+[[nodiscard]] inline std::size_t LabelEnd(std::basic_string_view<Unit> text,
+                                          const Spelling& spelling) noexcept {
+  if (text.empty()) return 0;
+  const std::uint32_t first = UnitValue(text[0]);
+  if (first - '0' < 10 || !MayBeginLabel(first, spelling)) return 0;
+  return AfterLabel(text, spelling);
+}
+
+/// Reads at most `capacity` kept characters past a label. Refuses an input without any, and the first that
+/// does not belong.
+template <std::size_t capacity, class Unit>
+[[nodiscard]] inline Kept<capacity> Read(std::basic_string_view<Unit> text,
+                                         const Spelling& spelling) noexcept {
+  Kept<capacity> kept;
+  kept.from = LabelEnd(text, spelling);
+  const auto refuse = [&kept](Code code, std::size_t position) {
+    kept.code = code;
+    kept.position = position;
+    return kept;
+  };
+  for (std::size_t at = kept.from; at < text.size();) {
+    const Mark mark = MarkAt(text, at);
+    if (mark.marks & spelling.keep) {
+      if (kept.size == capacity) return refuse(spelling.length, at);
+      kept.text[kept.size++] = mark.kept;
+    } else if (!(mark.marks & spelling.skip)) {
+      return refuse(spelling.character, at);
+    }
+    at += mark.units;
+  }
+  return kept.size == 0 ? refuse(spelling.empty, text.size()) : kept;
+}
+
+/// Where the kept character number `index` is in the input; the input's length if there are fewer.
+template <class Unit>
+[[nodiscard]] std::size_t PositionOf(std::basic_string_view<Unit> text, const Spelling& spelling,
+                                     std::size_t from, std::size_t index) noexcept {
+  for (std::size_t at = from; at < text.size();) {
+    const Mark mark = MarkAt(text, at);
+    if ((mark.marks & spelling.keep) && index-- == 0) return at;
+    at += mark.units;
+  }
+  return text.size();
+}
+
+/// The refusal of the kept character number `index`.
+template <class Value, class Unit>
+[[nodiscard]] Parsed<Value> Refuse(std::basic_string_view<Unit> text, const Spelling& spelling,
+                                   std::size_t from, std::size_t index, Code code) noexcept {
+  return {{}, code, PositionOf(text, spelling, from, index)};
+}
+
+}  // namespace ravo::czech::detail
