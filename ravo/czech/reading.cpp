@@ -69,12 +69,17 @@ std::size_t LabelMatch(std::basic_string_view<Unit> text, std::size_t at, std::s
     const std::uint32_t plain = Plain(point.value);
     if (plain == static_cast<unsigned char>(label[matched])) {
       ++matched;
-    } else if (matched == 0 || (plain != 0 && !DividesLabel(plain))) {
+    } else if (matched == 0 || (plain != 0 && plain != '-' && !DividesLabel(plain))) {
       return std::string_view::npos;
     }
     at += point.units;
   }
   return at;
+}
+
+template <class Unit>
+bool EndsInColon(std::basic_string_view<Unit> text, std::size_t end) noexcept {
+  return end < text.size() && UnitValue(text[end]) == ':';
 }
 
 template <class Unit>
@@ -87,8 +92,11 @@ std::size_t AfterLabelIn(std::basic_string_view<Unit> text, const Spelling& spel
     if (end == std::string_view::npos) continue;
     while (end < text.size() && Plain(CodePointAt(text, end).value) == 0) end += CodePointAt(text, end).units;
     const std::size_t rest = SkipDividers(text, end);
-    // A kind that has letters itself may begin like its label.
+    // A kind that has letters itself may begin like its label, and one of digits like a label that ends in
+    // some.
     if (rest == end && (spelling.keep & kLetter)) continue;
+    if (kAsciiMarks[static_cast<unsigned char>(label.back())].marks == kDigit && !EndsInColon(text, end))
+      continue;
     return rest;
   }
   return 0;

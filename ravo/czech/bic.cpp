@@ -1,0 +1,35 @@
+#include <ravo/czech/bic.h>
+#include <ravo/czech/reading.h>
+
+#include <cstddef>
+
+namespace ravo::czech {
+namespace {
+
+constexpr detail::Spelling kBicSpelling{Code::BicEmpty,
+                                        Code::BicCharacter,
+                                        Code::BicLength,
+                                        detail::kDigit | detail::kLetter,
+                                        detail::kBlank | detail::kHyphen,
+                                        {"BIC", "SWIFT"}};
+constexpr std::size_t kBicLetters = 6;
+constexpr std::size_t kBicShort = 8;
+constexpr std::size_t kBicLong = 11;
+
+template <class Unit>
+Parsed<Bic> ParseBicIn(std::basic_string_view<Unit> text) noexcept {
+  const auto kept = detail::Read<kBicLong>(text, kBicSpelling);
+  if (kept.code != Code::Correct) return {{}, kept.code, kept.position};
+  const std::size_t odd = kept.View().substr(0, kBicLetters).find_first_of("0123456789");
+  if (odd != std::string_view::npos)
+    return detail::Refuse<Bic>(text, kBicSpelling, kept.from, odd, Code::BicForm);
+  if (kept.size != kBicShort && kept.size != kBicLong) return {{}, Code::BicLength, text.size()};
+  return {{Fixed<kBicLong>(kept.View())}};
+}
+
+}  // namespace
+
+Parsed<Bic> ParseBic(std::string_view text) noexcept { return ParseBicIn(text); }
+Parsed<Bic> ParseBic(std::u16string_view text) noexcept { return ParseBicIn(text); }
+
+}  // namespace ravo::czech

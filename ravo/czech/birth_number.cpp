@@ -1,0 +1,102 @@
+#include <ravo/czech/birth_number.h>
+#include <ravo/czech/reading.h>
+
+#include <cstddef>
+
+namespace ravo::czech {
+namespace {
+
+constexpr int kFemaleMonths = 50;
+constexpr int kSecondSeries = 20;
+constexpr std::size_t kSlashAt = 6;
+
+constexpr detail::Spelling kBirthNumberSpelling{Code::BirthNumberEmpty,  Code::BirthNumberCharacter,
+                                                Code::BirthNumberLength, detail::kDigit | detail::kSlash,
+                                                detail::kBlank,          {"RODNECISLO", "RC"}};
+
+constexpr int Two(std::string_view digits, std::size_t at) noexcept {
+  return (digits[at] - '0') * 10 + (digits[at + 1] - '0');
+}
+
+// The century is told by the length: nine digits were given until 1953. 0 for none.
+constexpr int YearOf(std::string_view digits) noexcept {
+  const int year = Two(digits, 0);
+  if (digits.size() == 10) return year < 54 ? 2000 + year : 1900 + year;
+  if (year < 54) return 1900 + year;
+  return year < 80 ? 0 : 1800 + year;
+}
+
+// Takes what is added to the month off it.
+constexpr int MonthOf(int written, BirthNumber& number) noexcept {
+  int month = written;
+  number.sex = month > kFemaleMonths ? Sex::Female : Sex::Male;
+  if (number.sex == Sex::Female) month -= kFemaleMonths;
+  number.second_series = month > kSecondSeries && number.text.size == 10;
+  return number.second_series ? month - kSecondSeries : month;
+}
+
+// The powers of ten leave 1 and -1 by turns: the remainder of nine digits, 0 to 10.
+constexpr int RemainderOfNine(std::string_view digits) noexcept {
+  int sum = 44;
+  for (std::size_t i = 0; i < 9; ++i) sum += i % 2 == 0 ? digits[i] - '0' : '0' - digits[i];
+  return sum % 11;
+}
+
+}  // namespace
+
+detail::BirthNumberDigits detail::BirthNumberOf(std::string_view digits) noexcept {
+  BirthNumberDigits result;
+  BirthNumber& number = result.value;
+  number.text = Fixed<10>(digits);
+  number.born.year = YearOf(digits);
+  if (number.born.year == 0) return {{}, Code::BirthNumberLength, digits.size()};
+  number.born.month = MonthOf(Two(digits, 2), number);
+  number.born.day = Two(digits, 4);
+  if (!Exists(number.born)) return {{}, Code::BirthNumberDate, std::size_t{2}};
+  if (digits.size() == 9) return result;
+  const int remainder = RemainderOfNine(digits);
+  number.remainder_ten = remainder == 10;
+  if (remainder % 10 != digits[9] - '0') return {{}, Code::BirthNumberChecksum, std::size_t{9}};
+  return result;
+}
+
+namespace {
+
+template <class Unit>
+Parsed<BirthNumber> ParseBirthNumberIn(std::basic_string_view<Unit> text) noexcept {
+  auto kept = detail::Read<16>(text, kBirthNumberSpelling);
+  if (kept.code != Code::Correct) return {{}, kept.code, kept.position};
+  const auto refuse = [&](std::size_t index, Code code) {
+    return detail::Refuse<BirthNumber>(text, kBirthNumberSpelling, kept.from, index, code);
+  };
+  const std::size_t slash = kept.View().find('/');
+  const bool divided = slash == kSlashAt;
+  if (slash != std::string_view::npos && !divided) return refuse(slash, Code::BirthNumberCharacter);
+  FixedText<16> digits = Fixed<16>(kept.View().substr(0, kSlashAt));
+  if (kept.size > kSlashAt) digits.Append(kept.View().substr(divided ? kSlashAt + 1 : kSlashAt));
+  const std::size_t second = digits.View().find('/');
+  if (second != std::string_view::npos) return refuse(second + 1, Code::BirthNumberCharacter);
+  if (digits.size > 10) return refuse(10, Code::BirthNumberLength);
+  if (digits.size < 9) return {{}, Code::BirthNumberLength, text.size()};
+  const auto found = detail::BirthNumberOf(digits.View());
+  if (found.code == Code::Correct) return {found.value};
+  return refuse(divided && found.index >= kSlashAt ? found.index + 1 : found.index, found.code);
+}
+
+}  // namespace
+
+Parsed<BirthNumber> ParseBirthNumber(std::string_view text) noexcept { return ParseBirthNumberIn(text); }
+Parsed<BirthNumber> ParseBirthNumber(std::u16string_view text) noexcept { return ParseBirthNumberIn(text); }
+
+Code CheckBorn(const BirthNumber& number, Day today) noexcept {
+  return DayOf(number.born) > today ? Code::BirthNumberFuture : Code::Correct;
+}
+
+FixedText<11> Format(const BirthNumber& number) noexcept {
+  auto text = Fixed<11>(number.text.View().substr(0, kSlashAt));
+  text.Append('/');
+  text.Append(number.text.View().substr(kSlashAt));
+  return text;
+}
+
+}  // namespace ravo::czech
