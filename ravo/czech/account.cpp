@@ -30,8 +30,6 @@ struct AccountFault {
   std::size_t index = 0;  // of the kept characters
 };
 
-constexpr std::size_t kMissing = std::string_view::npos;
-
 // The parts of an account as they stand.
 struct AccountParts {
   std::string_view prefix;
@@ -40,27 +38,26 @@ struct AccountParts {
   std::size_t number_at = 0;
 };
 
-// Runs of digits alone: hyphen and slash stand once each, in this order.
+// Hyphen and slash stand once each, in this order.
 AccountFault Split(std::string_view text, AccountParts& parts) noexcept {
-  const std::size_t slash = std::min(text.find('/'), text.size());
-  const std::size_t hyphen = text.find('-');
-  const bool has_prefix = hyphen < slash;
-  parts.number_at = has_prefix ? hyphen + 1 : 0;
-  if (has_prefix) parts.prefix = text.substr(0, hyphen);
+  const std::size_t hyphen = detail::FirstNoDigit(text);
+  const bool has_prefix = hyphen < text.size() && text[hyphen] == '-';
   if (has_prefix && (hyphen == 0 || hyphen > kPrefixDigits)) {
     return {Code::AccountPrefixLength, std::min(hyphen, kPrefixDigits)};
   }
+  parts.prefix = text.substr(0, has_prefix ? hyphen : 0);
+  parts.number_at = has_prefix ? hyphen + 1 : 0;
+  const std::size_t slash = has_prefix ? detail::FirstNoDigit(text, parts.number_at) : hyphen;
   parts.number = text.substr(parts.number_at, slash - parts.number_at);
-  parts.bank = text.substr(std::min(slash + 1, text.size()));
-  const std::size_t odd = parts.number.find('-');
-  if (odd != kMissing) return {Code::AccountCharacter, parts.number_at + odd};
+  if (slash < text.size() && text[slash] == '-') return {Code::AccountCharacter, slash};
   if (parts.number.size() > kNumberDigits) return {Code::AccountLength, parts.number_at + kNumberDigits};
   if (parts.number.size() < 2) return {Code::AccountLength, slash};
-  const std::size_t odd_in_bank = parts.bank.find_first_of("-/");
-  if (odd_in_bank != kMissing) return {Code::AccountCharacter, slash + 1 + odd_in_bank};
-  if (parts.bank.size() != kBankDigits) {
-    return {Code::AccountBank, slash + 1 + std::min(parts.bank.size(), kBankDigits)};
-  }
+  const std::size_t bank_at = std::min(slash + 1, text.size());
+  parts.bank = text.substr(bank_at);
+  const std::size_t end = detail::FirstNoDigit(text, bank_at);
+  if (end < text.size()) return {Code::AccountCharacter, end};
+  if (parts.bank.size() != kBankDigits)
+    return {Code::AccountBank, bank_at + std::min(parts.bank.size(), kBankDigits)};
   return {};
 }
 
@@ -68,7 +65,6 @@ AccountFault CheckSums(const AccountParts& parts) noexcept {
   if (!detail::CzechSumMatches(parts.prefix)) return {Code::AccountPrefixChecksum, parts.prefix.size() - 1};
   const std::size_t last = parts.number_at + parts.number.size() - 1;
   if (!detail::CzechSumMatches(parts.number)) return {Code::AccountChecksum, last};
-  if (parts.number.find_first_not_of('0') == kMissing) return {Code::AccountZero, parts.number_at};
   return {};
 }
 
@@ -82,7 +78,11 @@ Parsed<Account> ParseAccountIn(std::basic_string_view<Unit> text) noexcept {
   if (fault.code != Code::Correct) {
     return detail::Refuse<Account>(text, kAccountSpelling, kept.from, fault.index, fault.code);
   }
-  return {{ValueOf(parts.number), static_cast<std::uint32_t>(ValueOf(parts.prefix)),
+  const std::uint64_t number = ValueOf(parts.number);
+  if (number == 0) {
+    return detail::Refuse<Account>(text, kAccountSpelling, kept.from, parts.number_at, Code::AccountZero);
+  }
+  return {{number, static_cast<std::uint32_t>(ValueOf(parts.prefix)),
            static_cast<std::uint16_t>(ValueOf(parts.bank))}};
 }
 

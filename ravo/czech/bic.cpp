@@ -1,6 +1,7 @@
 #include <ravo/czech/bic.h>
 #include <ravo/czech/reading.h>
 
+#include <algorithm>
 #include <cstddef>
 
 namespace ravo::czech {
@@ -16,6 +17,12 @@ constexpr std::size_t kBicLetters = 6;
 constexpr std::size_t kBicShort = 8;
 constexpr std::size_t kBicLong = 11;
 
+constexpr std::size_t LetterCount(std::string_view text) noexcept {
+  std::size_t count = 0;
+  while (count < text.size() && text[count] >= 'A') ++count;
+  return count;
+}
+
 template <class Unit>
 Parsed<Bic> ParseBicIn(std::basic_string_view<Unit> text) noexcept {
   const auto kept = detail::Read<kBicLong>(text, kBicSpelling);
@@ -24,7 +31,7 @@ Parsed<Bic> ParseBicIn(std::basic_string_view<Unit> text) noexcept {
   if (odd != std::string_view::npos)
     return detail::Refuse<Bic>(text, kBicSpelling, kept.from, odd, Code::BicForm);
   if (kept.size != kBicShort && kept.size != kBicLong) return {{}, Code::BicLength, text.size()};
-  return {{Fixed<kBicLong>(kept.View())}};
+  return {{kept.Text()}};
 }
 
 }  // namespace

@@ -64,19 +64,21 @@ namespace {
 
 template <class Unit>
 Parsed<BirthNumber> ParseBirthNumberIn(std::basic_string_view<Unit> text) noexcept {
-  auto kept = detail::Read<16>(text, kBirthNumberSpelling);
+  const auto kept = detail::Read<16>(text, kBirthNumberSpelling);
   if (kept.code != Code::Correct) return {{}, kept.code, kept.position};
   const auto refuse = [&](std::size_t index, Code code) {
     return detail::Refuse<BirthNumber>(text, kBirthNumberSpelling, kept.from, index, code);
   };
-  const std::size_t slash = kept.View().find('/');
-  const bool divided = slash == kSlashAt;
-  if (slash != std::string_view::npos && !divided) return refuse(slash, Code::BirthNumberCharacter);
-  FixedText<16> digits = Fixed<16>(kept.View().substr(0, kSlashAt));
-  if (kept.size > kSlashAt) digits.Append(kept.View().substr(divided ? kSlashAt + 1 : kSlashAt));
-  const std::size_t second = digits.View().find('/');
-  if (second != std::string_view::npos) return refuse(second + 1, Code::BirthNumberCharacter);
-  if (digits.size > 10) return refuse(10, Code::BirthNumberLength);
+  const bool divided = kept.size > kSlashAt && kept.text[kSlashAt] == '/';
+  FixedText<16> digits = kept.Text();
+  if (divided) {
+    digits = Fixed<16>(kept.View().substr(0, kSlashAt));
+    digits.Append(kept.View().substr(kSlashAt + 1));
+  }
+  const std::size_t odd = detail::FirstNoDigit(digits.View());
+  if (odd < digits.size)
+    return refuse(divided && odd >= kSlashAt ? odd + 1 : odd, Code::BirthNumberCharacter);
+  if (digits.size > 10) return refuse(divided ? 11 : 10, Code::BirthNumberLength);
   if (digits.size < 9) return {{}, Code::BirthNumberLength, text.size()};
   const auto found = detail::BirthNumberOf(digits.View());
   if (found.code == Code::Correct) return {found.value};

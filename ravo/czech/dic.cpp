@@ -66,18 +66,21 @@ Parsed<Dic> ParseDicIn(std::basic_string_view<Unit> text) noexcept {
   if (readable && !kept.View().starts_with("CZ")) return refuse(0, Code::DicCountry);
   if (kept.code != Code::Correct) return {{}, kept.code, kept.position};
   const bool divided = kept.size > kSlashInDic && kept.text[kSlashInDic] == '/';
-  FixedText<16> canonical = Fixed<16>(kept.View().substr(0, divided ? kSlashInDic : kept.size));
-  if (divided) canonical.Append(kept.View().substr(kSlashInDic + 1));
-  const std::size_t odd = canonical.View().find_first_not_of("0123456789", kCountry);
-  if (odd != std::string_view::npos) {
+  FixedText<16> canonical = kept.Text();
+  if (divided) {
+    canonical = Fixed<16>(kept.View().substr(0, kSlashInDic));
+    canonical.Append(kept.View().substr(kSlashInDic + 1));
+  }
+  const std::size_t odd = detail::FirstNoDigit(canonical.View(), kCountry);
+  if (odd < canonical.size) {
     return refuse(divided && odd >= kSlashInDic ? odd + 1 : odd, Code::DicCharacter);
   }
   const std::string_view digits = canonical.View().substr(kCountry);
-  if (digits.size() > 10) return refuse(kCountry + 10, Code::DicLength);
+  if (digits.size() > 10) return refuse(kCountry + (divided ? 11 : 10), Code::DicLength);
   if (digits.size() < 8) return {{}, Code::DicLength, text.size()};
   // A slash divides birth numbers alone.
   if (divided && digits.size() == 8) return refuse(kSlashInDic, Code::DicCharacter);
-  Dic dic{Fixed<12>(canonical.View())};
+  Dic dic{Resized<12>(canonical)};
   const DicFault fault = CheckDigits(digits, dic.form);
   if (fault.code == Code::Correct) return {dic};
   const std::size_t index = kCountry + fault.index;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -20,7 +21,9 @@ struct FixedText {
   constexpr void Append(char character) noexcept { characters[size++] = character; }
   /// Appends a text. Precondition: there is room.
   constexpr void Append(std::string_view text) noexcept {
-    for (const char character : text) Append(character);
+    char* const end = characters.data() + size;
+    for (std::size_t i = 0; i < text.size(); ++i) end[i] = text[i];
+    size = static_cast<std::uint8_t>(size + text.size());
   }
   /// Appends `number` in decimal, padded with zeros to at least `digits`. Precondition: there is room.
   constexpr void AppendNumber(std::uint64_t number, int digits) noexcept {
@@ -35,6 +38,16 @@ template <std::size_t capacity>
 [[nodiscard]] constexpr FixedText<capacity> Fixed(std::string_view text) noexcept {
   FixedText<capacity> result;
   result.Append(text);
+  return result;
+}
+
+/// Returns `text` with room of another size. Precondition: it is not longer than that.
+template <std::size_t capacity, std::size_t other>
+[[nodiscard]] constexpr FixedText<capacity> Resized(const FixedText<other>& text) noexcept {
+  FixedText<capacity> result;
+  // As much as both have, zeros too: a copy of known length is a few instructions.
+  std::copy_n(text.characters.data(), std::min(capacity, other), result.characters.data());
+  result.size = text.size;
   return result;
 }
 

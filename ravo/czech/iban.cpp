@@ -31,12 +31,18 @@ constexpr std::size_t kIbanHead = 4;
 
 constexpr bool IsDigit(char character) noexcept { return character >= '0' && character <= '9'; }
 
-// The first character that is not of the form's kind; the length if there is none.
+// Whether the character is of the form's kind.
+constexpr bool FitsIban(char character, char form) noexcept {
+  return form == 'c' || IsDigit(character) == (form == 'n');
+}
+
+// The first character that is not; the length if there is none.
 std::size_t OddCharacter(std::string_view characters, std::string_view form) noexcept {
-  for (std::size_t i = 0; i < form.size(); ++i) {
-    if (form[i] != 'c' && IsDigit(characters[i]) != (form[i] == 'n')) return i;
-  }
-  return form.size();
+  bool fits = true;
+  for (std::size_t i = 0; i < form.size(); ++i) fits &= FitsIban(characters[i], form[i]);
+  std::size_t odd = fits ? form.size() : 0;
+  while (odd < form.size() && FitsIban(characters[odd], form[odd])) ++odd;
+  return odd;
 }
 
 constexpr std::size_t kMostDecimals = 72;
@@ -85,7 +91,7 @@ Parsed<Iban> ParseIbanIn(std::basic_string_view<Unit> text) noexcept {
   const int check = (iban[2] - '0') * 10 + (iban[3] - '0');
   if (check < 2 || check > 98 || detail::IbanRemainder(iban) != 1) return refuse(2, Code::IbanChecksum);
   if (!detail::NationalChecksMatch(iban.substr(0, 2), own)) return refuse(kIbanHead, Code::IbanNational);
-  return {{Fixed<34>(iban)}};
+  return {{kept.Text()}};
 }
 
 }  // namespace

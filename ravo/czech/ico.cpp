@@ -16,7 +16,7 @@ Parsed<Ico> ParseIcoIn(std::basic_string_view<Unit> text) noexcept {
   if (detail::IcoCheckDigit(kept.text.data()) != kept.text[7]) {
     return detail::Refuse<Ico>(text, kIcoSpelling, kept.from, 7, Code::IcoChecksum);
   }
-  return {{{kept.text, 8}}};
+  return {{kept.Text()}};
 }
 
 }  // namespace

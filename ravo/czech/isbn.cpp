@@ -41,10 +41,10 @@ constexpr IsbnFault CheckLong(std::string_view isbn) noexcept {
   return {};
 }
 
-// The first letter that is no X in the tenth and last place.
+// The first letter that is no X in the tenth and last place; the length if there is none.
 constexpr std::size_t OddLetter(std::string_view isbn) noexcept {
-  const std::size_t odd = isbn.find_first_not_of("0123456789");
-  return odd == 9 && isbn.size() == kShortIsbn && isbn[9] == 'X' ? std::string_view::npos : odd;
+  const std::size_t odd = detail::FirstNoDigit(isbn);
+  return odd == 9 && isbn.size() == kShortIsbn && isbn[9] == 'X' ? isbn.size() : odd;
 }
 
 template <class Unit>
@@ -55,11 +55,11 @@ Parsed<Isbn> ParseIsbnIn(std::basic_string_view<Unit> text) noexcept {
     return detail::Refuse<Isbn>(text, kIsbnSpelling, kept.from, index, code);
   };
   const std::size_t odd = OddLetter(kept.View());
-  if (odd != std::string_view::npos) return refuse(odd, Code::IsbnCharacter);
+  if (odd < kept.size) return refuse(odd, Code::IsbnCharacter);
   if (kept.size != kShortIsbn && kept.size != kLongIsbn) return {{}, Code::IsbnLength, text.size()};
   const IsbnFault fault = kept.size == kShortIsbn ? CheckShort(kept.View()) : CheckLong(kept.View());
   if (fault.code != Code::Correct) return refuse(fault.index, fault.code);
-  return {{Fixed<kLongIsbn>(kept.View())}};
+  return {{kept.Text()}};
 }
 
 }  // namespace

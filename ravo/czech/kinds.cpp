@@ -42,9 +42,9 @@ const KindRow* RowOf(Kind kind) noexcept {
 
 template <class Value>
 FixedText<34> Canonical(const Value& value) noexcept {
-  return Fixed<34>(value.text.View());
+  return Resized<34>(value.text);
 }
-FixedText<34> Canonical(const Account& account) noexcept { return Fixed<34>(Format(account).View()); }
+FixedText<34> Canonical(const Account& account) noexcept { return Resized<34>(Format(account)); }
 
 // `spell` makes the text of a value that is correct in form.
 template <class Text, class Value, class Spell>
@@ -72,8 +72,7 @@ Parsed<FixedText<34>> CheckIn(Kind kind, std::basic_string_view<Unit> text) noex
 
 template <class Unit>
 Parsed<FixedText<42>> RespellIn(Kind kind, std::basic_string_view<Unit> text) noexcept {
-  return CheckAs<FixedText<42>>(kind, text,
-                                [](const auto& value) { return Fixed<42>(Format(value).View()); });
+  return CheckAs<FixedText<42>>(kind, text, [](const auto& value) { return Resized<42>(Format(value)); });
 }
 
 }  // namespace

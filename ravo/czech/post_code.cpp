@@ -16,7 +16,7 @@ Parsed<PostCode> ParsePostCodeIn(std::basic_string_view<Unit> text) noexcept {
   if (kept.text[0] < '1' || kept.text[0] > '7') {
     return detail::Refuse<PostCode>(text, kPostCodeSpelling, kept.from, 0, Code::PostCodeFirst);
   }
-  return {{Fixed<5>(kept.View())}};
+  return {{kept.Text()}};
 }
 
 }  // namespace

@@ -122,7 +122,7 @@ Mark WideMark(CodePoint point) noexcept {
   if (IsBlankPoint(point.value)) return {kBlank, ' ', point.units};
   if (IsHyphenPoint(point.value)) return {kHyphen, '-', point.units};
   if (point.value == 0x2044 || point.value == 0x2215) return {kSlash, '/', point.units};
-  return {0, 0, point.units};
+  return {kOther, 0, point.units};
 }
 
 std::size_t AfterLabel(std::string_view text, const Spelling& spelling) noexcept {

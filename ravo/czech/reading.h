@@ -3,6 +3,7 @@
 #include <ravo/czech/fixed_text.h>
 #include <ravo/czech/reason.h>
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -22,16 +23,17 @@ namespace ravo::czech::detail {
 using Marks = std::uint8_t;
 inline constexpr Marks kBlank =
     1;  ///< spaces of all widths, no-break ones, tabs, line ends, marks of no width
-inline constexpr Marks kDigit = 2;   ///< 0 to 9
-inline constexpr Marks kLetter = 4;  ///< A to Z of either case
-inline constexpr Marks kHyphen = 8;  ///< hyphen, dashes, minus
-inline constexpr Marks kDot = 16;    ///< full stop
-inline constexpr Marks kSlash = 32;  ///< slash, fraction slash
-inline constexpr Marks kSign = 64;   ///< plus and asterisk
+inline constexpr Marks kDigit = 2;    ///< 0 to 9
+inline constexpr Marks kLetter = 4;   ///< A to Z of either case
+inline constexpr Marks kHyphen = 8;   ///< hyphen, dashes, minus
+inline constexpr Marks kDot = 16;     ///< full stop
+inline constexpr Marks kSlash = 32;   ///< slash, fraction slash
+inline constexpr Marks kSign = 64;    ///< plus and asterisk
+inline constexpr Marks kOther = 128;  ///< whatever else, which no kind keeps or skips
 
 /// One character: what it is, what it is kept as, how many units it takes.
 struct Mark {
-  Marks marks = 0;
+  Marks marks = kOther;
   char kept = 0;
   std::uint8_t units = 1;
 };
@@ -53,6 +55,18 @@ inline constexpr auto kAsciiMarks = [] {
   std::array<Mark, 128> marks{};
   for (std::size_t i = 0; i < marks.size(); ++i) marks[i] = AsciiMark(static_cast<char>(i));
   return marks;
+}();
+
+/// By unit, up to 255: its marks, `kOther` beyond ASCII; and what it is kept as.
+inline constexpr auto kUnitMarks = [] {
+  std::array<Marks, 256> marks{};
+  for (std::size_t i = 0; i < marks.size(); ++i) marks[i] = i < 128 ? kAsciiMarks[i].marks : kOther;
+  return marks;
+}();
+inline constexpr auto kUnitsKept = [] {
+  std::array<char, 256> kept{};
+  for (std::size_t i = 0; i < 128; ++i) kept[i] = kAsciiMarks[i].kept;
+  return kept;
 }();
 
 /// Unsigned value of a unit of either encoding.
@@ -111,14 +125,15 @@ struct Spelling {
 /// The kept characters, or the reason why not. `from` is where they begin, past a label.
 template <std::size_t capacity>
 struct Kept {
-  std::array<char, capacity> text;
   std::size_t size = 0;
   std::size_t from = 0;
   Code code = Code::Correct;
   std::size_t position = 0;
+  std::array<char, capacity> text{};  // zeros past the end
 
   [[nodiscard]] std::string_view View() const noexcept { return {text.data(), size}; }
-  [[nodiscard]] int Digit(std::size_t at) const noexcept { return text[at] - '0'; }
+  /// All of it as the text of a value.
+  [[nodiscard]] FixedText<capacity> Text() const noexcept { return {text, static_cast<std::uint8_t>(size)}; }
 };
 
 template <class Unit>
@@ -130,29 +145,62 @@ template <class Unit>
   return AfterLabel(text, spelling);
 }
 
+/// Reads an input of nothing but kept characters, as most are, and returns whether it is such a one. It has
+/// no label: those have letters, and a kind that keeps letters wants a divider after a label.
+template <std::size_t capacity, class Unit>
+[[nodiscard]] inline bool ReadClean(std::basic_string_view<Unit> text, const Spelling& spelling,
+                                    Kept<capacity>& kept) noexcept {
+  if (text.empty() || text.size() > capacity) return false;
+  Marks seen = 0;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const std::uint32_t unit = std::min(UnitValue(text[i]), 255U);
+    seen |= kUnitMarks[unit];
+    kept.text[i] = kUnitsKept[unit];
+  }
+  kept.size = text.size();
+  return (seen & ~spelling.keep) == 0;
+}
+
+/// Reads what has a label, blanks, or something that does not belong.
+template <std::size_t capacity, class Unit>
+void ReadMixed(std::basic_string_view<Unit> text, const Spelling& spelling, Kept<capacity>& kept) noexcept {
+  kept.text = {};
+  kept.from = LabelEnd(text, spelling);
+  // Locals: a character stored through a pointer could be a part of any object.
+  std::size_t at = kept.from;
+  std::size_t size = 0;
+  Code code = Code::Correct;
+  while (at < text.size() && code == Code::Correct) {
+    const Mark mark = MarkAt(text, at);
+    const bool keeps = (mark.marks & spelling.keep) != 0;
+    if (keeps && size < capacity) {
+      kept.text[size++] = mark.kept;
+    } else if (keeps) {
+      code = spelling.length;
+    } else if (!(mark.marks & spelling.skip)) {
+      code = spelling.character;
+    }
+    if (code == Code::Correct) at += mark.units;
+  }
+  kept.size = size;
+  kept.position = at;
+  kept.code = size == 0 && code == Code::Correct ? spelling.empty : code;
+}
+
 /// Reads at most `capacity` kept characters past a label. Refuses an input without any, and the first that
 /// does not belong.
 template <std::size_t capacity, class Unit>
 [[nodiscard]] inline Kept<capacity> Read(std::basic_string_view<Unit> text,
                                          const Spelling& spelling) noexcept {
   Kept<capacity> kept;
-  kept.from = LabelEnd(text, spelling);
-  const auto refuse = [&kept](Code code, std::size_t position) {
-    kept.code = code;
-    kept.position = position;
-    return kept;
-  };
-  for (std::size_t at = kept.from; at < text.size();) {
-    const Mark mark = MarkAt(text, at);
-    if (mark.marks & spelling.keep) {
-      if (kept.size == capacity) return refuse(spelling.length, at);
-      kept.text[kept.size++] = mark.kept;
-    } else if (!(mark.marks & spelling.skip)) {
-      return refuse(spelling.character, at);
-    }
-    at += mark.units;
-  }
-  return kept.size == 0 ? refuse(spelling.empty, text.size()) : kept;
+  if (!ReadClean(text, spelling, kept)) ReadMixed(text, spelling, kept);
+  return kept;
+}
+
+/// The first character from `from` on that is no digit; the length if there is none.
+[[nodiscard]] constexpr std::size_t FirstNoDigit(std::string_view text, std::size_t from = 0) noexcept {
+  while (from < text.size() && text[from] >= '0' && text[from] <= '9') ++from;
+  return from;
 }
 
 /// Where the kept character number `index` is in the input; the input's length if there are fewer.

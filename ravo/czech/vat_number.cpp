@@ -76,7 +76,7 @@ constexpr VatFit FitForms(std::string_view country, std::string_view own, const 
 template <class Unit>
 Parsed<VatNumber> CzechVat(std::basic_string_view<Unit> text) noexcept {
   const Parsed<Dic> dic = ParseDic(text);
-  return {{Fixed<14>(dic.value.text.View())}, dic.code, dic.position};
+  return {{Resized<14>(dic.value.text)}, dic.code, dic.position};
 }
 
 template <class Unit>
@@ -97,7 +97,7 @@ Parsed<VatNumber> ParseVatIn(std::basic_string_view<Unit> text) noexcept {
   }
   if (!fit.length_fits) return {{}, Code::VatLength, text.size()};
   if (!fit.fits) return refuse(kVatHead + fit.odd, Code::VatForm);
-  return {{Fixed<14>(number)}};
+  return {{kept.Text()}};
 }
 
 }  // namespace

@@ -77,6 +77,7 @@ const KindRow kRows[] = {
     {Kind::Dic, {"CZ", "", Code::DicLength, 2}},
     {Kind::Dic, {"CZ71031927455", "", Code::DicLength, 12}},
     {Kind::Dic, {"CZ7103192745555", "", Code::DicLength, 12}},
+    {Kind::Dic, {"CZ710319/27455", "", Code::DicLength, 13}},
     {Kind::Dic, {"CZ590312123", "", Code::DicLength, 11}},
     {Kind::Dic, {"CZ27082441", "", Code::DicChecksum, 9}},
     {Kind::Dic, {"CZ99999999", "", Code::DicFirst, 2}},
