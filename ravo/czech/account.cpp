@@ -19,6 +19,7 @@ constexpr detail::Spelling kAccountSpelling{
     Code::AccountLength, detail::kDigit | detail::kHyphen | detail::kSlash,
     detail::kBlank,      {"CISLOUCTU", "CUCTU", "CU", "UCET"}};
 
+// Of at most ten digits.
 constexpr std::uint64_t ValueOf(std::string_view digits) noexcept {
   std::uint64_t value = 0;
   for (const char digit : digits) value = value * 10 + static_cast<std::uint64_t>(digit - '0');

@@ -27,8 +27,13 @@ struct FixedText {
   }
   /// Appends `number` in decimal, padded with zeros to at least `digits`. Precondition: there is room.
   constexpr void AppendNumber(std::uint64_t number, int digits) noexcept {
-    if (number >= 10 || digits > 1) AppendNumber(number / 10, digits - 1);
-    Append(static_cast<char>('0' + number % 10));
+    std::array<char, 20> reversed{};
+    int count = 0;
+    for (; number != 0 || count < digits; number /= 10)
+      reversed[static_cast<std::size_t>(count++)] = static_cast<char>('0' + number % 10);
+    char* const end = characters.data() + size;
+    for (int i = 0; i < count; ++i) end[i] = reversed[static_cast<std::size_t>(count - 1 - i)];
+    size = static_cast<std::uint8_t>(size + count);
   }
   friend constexpr bool operator==(const FixedText&, const FixedText&) noexcept = default;
 };

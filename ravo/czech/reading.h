@@ -163,7 +163,8 @@ template <std::size_t capacity, class Unit>
 
 /// Reads what has a label, blanks, or something that does not belong.
 template <std::size_t capacity, class Unit>
-void ReadMixed(std::basic_string_view<Unit> text, const Spelling& spelling, Kept<capacity>& kept) noexcept {
+[[gnu::noinline]] void ReadMixed(std::basic_string_view<Unit> text, const Spelling& spelling,
+                                 Kept<capacity>& kept) noexcept {
   kept.text = {};
   kept.from = LabelEnd(text, spelling);
   // Locals: a character stored through a pointer could be a part of any object.
@@ -205,8 +206,9 @@ template <std::size_t capacity, class Unit>
 
 /// Where the kept character number `index` is in the input; the input's length if there are fewer.
 template <class Unit>
-[[nodiscard]] std::size_t PositionOf(std::basic_string_view<Unit> text, const Spelling& spelling,
-                                     std::size_t from, std::size_t index) noexcept {
+[[nodiscard, gnu::noinline, gnu::cold]] std::size_t PositionOf(std::basic_string_view<Unit> text,
+                                                               const Spelling& spelling, std::size_t from,
+                                                               std::size_t index) noexcept {
   for (std::size_t at = from; at < text.size();) {
     const Mark mark = MarkAt(text, at);
     if ((mark.marks & spelling.keep) && index-- == 0) return at;
