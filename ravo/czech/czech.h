@@ -30,6 +30,7 @@
 #include <ravo/czech/day.h>
 #include <ravo/czech/dic.h>
 #include <ravo/czech/ean.h>
+#include <ravo/czech/holidays.h>
 #include <ravo/czech/iban.h>
 #include <ravo/czech/ico.h>
 #include <ravo/czech/isbn.h>
@@ -37,4 +38,6 @@
 #include <ravo/czech/post_code.h>
 #include <ravo/czech/reason.h>
 #include <ravo/czech/symbols.h>
+#include <ravo/czech/vat.h>
 #include <ravo/czech/vat_number.h>
+#include <ravo/czech/vat_rates.h>
