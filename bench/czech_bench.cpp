@@ -6,7 +6,9 @@
 #include <ravo/czech/czech.h>
 
 #include <cstdint>
+#include <iterator>
 #include <random>
+#include <regex>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -116,6 +118,46 @@ void PlainOne(benchmark::State& state, Kind kind) {
   }
   state.counters["items"] = static_cast<double>(values.size());
 }
+
+// Messages of payments, as banks' statements have them; a third of their bytes are digits.
+std::string StatementText() {
+  std::mt19937_64 random(2);
+  std::string text;
+  while (text.size() < 1'000'000) {
+    text += "Příchozí úhrada od Jana Nováková, Nádražní 1234/5, 602 00 Brno; ";
+    text +=
+        MakeAccount(random) + " VS " + Digits(random, 4) + " " + Digits(random, 3) + " " + Digits(random, 3);
+    text += ", KS: 0308, částka " + Digits(random, 5) + ",00 Kč dne 12. 3. 2026, faktura 51/2026\n";
+    text += "Platba kartou " + Digits(random, 16) + " obchod Potraviny s.r.o., " + MakeIban(random);
+    text += " variabilní symbol: " + Digits(random, 10) + "\n";
+  }
+  return text;
+}
+
+void FindPayments(benchmark::State& state) {
+  const std::string text = StatementText();
+  std::size_t found = 0;
+  for (auto _ : state) {
+    for (auto payment = FindPayment(text); payment; payment = FindPayment(text, payment->end)) ++found;
+    benchmark::DoNotOptimize(found);
+  }
+  state.counters["items"] = static_cast<double>(text.size());
+}
+BENCHMARK(FindPayments)->Name("byte_of_payment_text/ravo");
+
+// A pattern as one would write it, without any sums.
+void FindByPattern(benchmark::State& state) {
+  const std::string text = StatementText().substr(0, 100'000);
+  const std::regex pattern(
+      "([0-9]{1,6}-)?[0-9]{2,10}/[0-9]{4}|[A-Z]{2}[0-9]{2}[A-Z0-9]{11,30}|[VKS]S:? ?[0-9 ]{1,12}");
+  std::ptrdiff_t found = 0;
+  for (auto _ : state) {
+    found += std::distance(std::sregex_iterator(text.begin(), text.end(), pattern), std::sregex_iterator());
+    benchmark::DoNotOptimize(found);
+  }
+  state.counters["items"] = static_cast<double>(text.size());
+}
+BENCHMARK(FindByPattern)->Name("byte_of_payment_text/std_regex");
 
 }  // namespace
 

@@ -44,10 +44,11 @@ constexpr int RemainderOfNine(std::string_view digits) noexcept {
 
 }  // namespace
 
-detail::BirthNumberDigits detail::BirthNumberOf(std::string_view digits) noexcept {
+detail::BirthNumberDigits detail::BirthNumberOf(const FixedText<10>& text) noexcept {
+  const std::string_view digits = text.View();
   BirthNumberDigits result;
   BirthNumber& number = result.value;
-  number.text = Fixed<10>(digits);
+  number.text = text;
   number.born.year = YearOf(digits);
   if (number.born.year == 0) return {{}, Code::BirthNumberLength, digits.size()};
   number.born.month = MonthOf(Two(digits, 2), number);
@@ -80,7 +81,7 @@ Parsed<BirthNumber> ParseBirthNumberIn(std::basic_string_view<Unit> text) noexce
     return refuse(divided && odd >= kSlashAt ? odd + 1 : odd, Code::BirthNumberCharacter);
   if (digits.size > 10) return refuse(divided ? 11 : 10, Code::BirthNumberLength);
   if (digits.size < 9) return {{}, Code::BirthNumberLength, text.size()};
-  const auto found = detail::BirthNumberOf(digits.View());
+  const auto found = detail::BirthNumberOf(Resized<10>(digits));
   if (found.code == Code::Correct) return {found.value};
   return refuse(divided && found.index >= kSlashAt ? found.index + 1 : found.index, found.code);
 }

@@ -35,6 +35,7 @@
 #include <ravo/czech/ico.h>
 #include <ravo/czech/isbn.h>
 #include <ravo/czech/kinds.h>
+#include <ravo/czech/payment_text.h>
 #include <ravo/czech/post_code.h>
 #include <ravo/czech/reason.h>
 #include <ravo/czech/symbols.h>
