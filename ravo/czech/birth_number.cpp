@@ -26,12 +26,12 @@ constexpr int YearOf(std::string_view digits) noexcept {
   return year < 80 ? 0 : 1800 + year;
 }
 
-// Takes what is added to the month off it.
-constexpr int MonthOf(int written, BirthNumber& number) noexcept {
+// Takes what is added to the month off it; numbers of nine digits have no second series.
+constexpr int MonthOf(int written, bool ten_digits, BirthNumber& number) noexcept {
   int month = written;
   number.sex = month > kFemaleMonths ? Sex::Female : Sex::Male;
   if (number.sex == Sex::Female) month -= kFemaleMonths;
-  number.second_series = month > kSecondSeries && number.text.size == 10;
+  number.second_series = month > kSecondSeries && ten_digits;
   return number.second_series ? month - kSecondSeries : month;
 }
 
@@ -44,14 +44,12 @@ constexpr int RemainderOfNine(std::string_view digits) noexcept {
 
 }  // namespace
 
-detail::BirthNumberDigits detail::BirthNumberOf(const FixedText<10>& text) noexcept {
-  const std::string_view digits = text.View();
+detail::BirthNumberDigits detail::BirthNumberOf(std::string_view digits) noexcept {
   BirthNumberDigits result;
   BirthNumber& number = result.value;
-  number.text = text;
   number.born.year = YearOf(digits);
   if (number.born.year == 0) return {{}, Code::BirthNumberLength, digits.size()};
-  number.born.month = MonthOf(Two(digits, 2), number);
+  number.born.month = MonthOf(Two(digits, 2), digits.size() == 10, number);
   number.born.day = Two(digits, 4);
   if (!Exists(number.born)) return {{}, Code::BirthNumberDate, std::size_t{2}};
   if (digits.size() == 9) return result;
@@ -81,7 +79,8 @@ Parsed<BirthNumber> ParseBirthNumberIn(std::basic_string_view<Unit> text) noexce
     return refuse(divided && odd >= kSlashAt ? odd + 1 : odd, Code::BirthNumberCharacter);
   if (digits.size > 10) return refuse(divided ? 11 : 10, Code::BirthNumberLength);
   if (digits.size < 9) return {{}, Code::BirthNumberLength, text.size()};
-  const auto found = detail::BirthNumberOf(Resized<10>(digits));
+  auto found = detail::BirthNumberOf(digits.View());
+  found.value.text = Resized<10>(digits);
   if (found.code == Code::Correct) return {found.value};
   return refuse(divided && found.index >= kSlashAt ? found.index + 1 : found.index, found.code);
 }

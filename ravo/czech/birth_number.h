@@ -45,13 +45,13 @@ struct BirthNumber {
 
 namespace detail {
 
-/// A birth number from nine or ten digits; `index` is the digit at fault.
+/// What nine or ten digits tell, `text` left empty; `index` is the digit at fault.
 struct BirthNumberDigits {
   BirthNumber value;
   Code code = Code::Correct;
   std::size_t index = 0;
 };
-[[nodiscard]] BirthNumberDigits BirthNumberOf(const FixedText<10>& digits) noexcept;
+[[nodiscard]] BirthNumberDigits BirthNumberOf(std::string_view digits) noexcept;
 
 }  // namespace detail
 }  // namespace ravo::czech

@@ -3,7 +3,6 @@
 #include <ravo/czech/reading.h>
 #include <ravo/czech/weights.h>
 
-#include <algorithm>
 #include <cstddef>
 
 namespace ravo::czech {
@@ -45,16 +44,7 @@ constexpr Code DicCodeOf(Code birth_number) noexcept {
   }
 }
 
-// What follows the country, in a copy of known length.
-constexpr FixedText<10> PastCountry(const FixedText<16>& dic) noexcept {
-  FixedText<10> digits;
-  std::copy_n(dic.characters.data() + kCountry, digits.characters.size(), digits.characters.data());
-  digits.size = static_cast<std::uint8_t>(dic.size - kCountry);
-  return digits;
-}
-
-DicFault CheckDigits(const FixedText<10>& text, DicForm& form) noexcept {
-  const std::string_view digits = text.View();
+DicFault CheckDigits(std::string_view digits, DicForm& form) noexcept {
   if (digits.size() == 8) return CheckEight(digits);
   if (digits.size() == 9 && digits[0] == '6') {
     form = digits.starts_with("699") ? DicForm::Group : DicForm::Special;
@@ -62,7 +52,7 @@ DicFault CheckDigits(const FixedText<10>& text, DicForm& form) noexcept {
     return {};
   }
   form = DicForm::BirthNumber;
-  const auto found = detail::BirthNumberOf(text);
+  const auto found = detail::BirthNumberOf(digits);
   return {DicCodeOf(found.code), found.index};
 }
 
@@ -91,7 +81,7 @@ Parsed<Dic> ParseDicIn(std::basic_string_view<Unit> text) noexcept {
   // A slash divides birth numbers alone.
   if (divided && digits.size() == 8) return refuse(kSlashInDic, Code::DicCharacter);
   Dic dic{Resized<12>(canonical)};
-  const DicFault fault = CheckDigits(PastCountry(canonical), dic.form);
+  const DicFault fault = CheckDigits(digits, dic.form);
   if (fault.code == Code::Correct) return {dic};
   const std::size_t index = kCountry + fault.index;
   return refuse(divided && index >= kSlashInDic ? index + 1 : index, fault.code);

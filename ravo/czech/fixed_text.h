@@ -25,17 +25,31 @@ struct FixedText {
     for (std::size_t i = 0; i < text.size(); ++i) end[i] = text[i];
     size = static_cast<std::uint8_t>(size + text.size());
   }
-  /// Appends `number` in decimal, padded with zeros to at least `digits`. Precondition: there is room.
+  /// Appends `number`, below ten thousand million, in decimal, padded with zeros to at least `digits`, 1
+  /// to 10. Precondition: there is room.
   constexpr void AppendNumber(std::uint64_t number, int digits) noexcept {
-    std::array<char, 20> reversed{};
-    int count = 0;
-    for (; number != 0 || count < digits; number /= 10)
-      reversed[static_cast<std::size_t>(count++)] = static_cast<char>('0' + number % 10);
-    char* const end = characters.data() + size;
-    for (int i = 0; i < count; ++i) end[i] = reversed[static_cast<std::size_t>(count - 1 - i)];
+    int count = digits;
+    for (std::uint64_t power = PowerOfTen(digits); number >= power && count < kMostDigits; power *= 10)
+      ++count;
+    char* const begin = characters.data() + size;
+    // In halves of five digits: 32 bits divide faster, and neither half waits for the other.
+    auto low = static_cast<std::uint32_t>(number % kHalf);
+    auto high = static_cast<std::uint32_t>(number / kHalf);
+    int at = count;
+    for (; at > std::max(count - 5, 0); low /= 10) begin[--at] = static_cast<char>('0' + low % 10);
+    for (; at > 0; high /= 10) begin[--at] = static_cast<char>('0' + high % 10);
     size = static_cast<std::uint8_t>(size + count);
   }
   friend constexpr bool operator==(const FixedText&, const FixedText&) noexcept = default;
+
+ private:
+  static constexpr std::uint64_t kHalf = 100'000;
+  static constexpr int kMostDigits = 10;
+  static constexpr std::uint64_t PowerOfTen(int exponent) noexcept {
+    std::uint64_t power = 1;
+    for (; exponent > 0; --exponent) power *= 10;
+    return power;
+  }
 };
 
 /// Returns `text` as a text of fixed capacity. Precondition: it is not longer than that.
