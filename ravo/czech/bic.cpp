@@ -27,11 +27,11 @@ template <class Unit>
 Parsed<Bic> ParseBicIn(std::basic_string_view<Unit> text) noexcept {
   const auto kept = detail::Read<kBicLong>(text, kBicSpelling);
   if (kept.code != Code::Correct) return {{}, kept.code, kept.position};
-  const std::size_t odd = kept.View().substr(0, kBicLetters).find_first_of("0123456789");
-  if (odd != std::string_view::npos)
-    return detail::Refuse<Bic>(text, kBicSpelling, kept.from, odd, Code::BicForm);
-  if (kept.size != kBicShort && kept.size != kBicLong) return {{}, Code::BicLength, text.size()};
-  return {{kept.Text()}};
+  const std::size_t letters = std::min(kept.Size(), kBicLetters);
+  const std::size_t odd = LetterCount(kept.View().substr(0, letters));
+  if (odd < letters) return detail::Refuse<Bic>(text, kBicSpelling, kept.from, odd, Code::BicForm);
+  if (kept.Size() != kBicShort && kept.Size() != kBicLong) return {{}, Code::BicLength, text.size()};
+  return {{kept.text}};
 }
 
 }  // namespace

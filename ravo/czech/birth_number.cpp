@@ -68,8 +68,8 @@ Parsed<BirthNumber> ParseBirthNumberIn(std::basic_string_view<Unit> text) noexce
   const auto refuse = [&](std::size_t index, Code code) {
     return detail::Refuse<BirthNumber>(text, kBirthNumberSpelling, kept.from, index, code);
   };
-  const bool divided = kept.size > kSlashAt && kept.text[kSlashAt] == '/';
-  FixedText<16> digits = kept.Text();
+  const bool divided = kept.Size() > kSlashAt && kept.At(kSlashAt) == '/';
+  FixedText<16> digits = kept.text;
   if (divided) {
     digits = Fixed<16>(kept.View().substr(0, kSlashAt));
     digits.Append(kept.View().substr(kSlashAt + 1));

@@ -65,8 +65,8 @@ Parsed<Dic> ParseDicIn(std::basic_string_view<Unit> text) noexcept {
   const bool readable = kept.code == Code::Correct || kept.code == Code::DicLength;
   if (readable && !kept.View().starts_with("CZ")) return refuse(0, Code::DicCountry);
   if (kept.code != Code::Correct) return {{}, kept.code, kept.position};
-  const bool divided = kept.size > kSlashInDic && kept.text[kSlashInDic] == '/';
-  FixedText<16> canonical = kept.Text();
+  const bool divided = kept.Size() > kSlashInDic && kept.At(kSlashInDic) == '/';
+  FixedText<16> canonical = kept.text;
   if (divided) {
     canonical = Fixed<16>(kept.View().substr(0, kSlashInDic));
     canonical.Append(kept.View().substr(kSlashInDic + 1));

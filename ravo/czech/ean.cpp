@@ -23,7 +23,7 @@ Parsed<Ean> ParseEanIn(std::basic_string_view<Unit> text) noexcept {
   if (detail::EanCheckDigit(digits.substr(0, digits.size() - 1)) != digits.back()) {
     return detail::Refuse<Ean>(text, kEanSpelling, kept.from, digits.size() - 1, Code::EanChecksum);
   }
-  return {{kept.Text()}};
+  return {{kept.text}};
 }
 
 }  // namespace

@@ -10,10 +10,13 @@ namespace ravo::czech {
 
 /// An ASCII text of at most `capacity` characters that owns no memory elsewhere.
 template <std::size_t capacity>
-struct FixedText {
+struct alignas(8) FixedText {
   static_assert(capacity < 256);
-  std::array<char, capacity> characters{};  ///< zeros past the end
-  std::uint8_t size = 0;                    ///< how many characters there are
+  /// The room: with the size it fills whole words, so that copies are a few instructions that the processor
+  /// can chain.
+  static constexpr std::size_t kRoom = (capacity + 8) / 8 * 8 - 1;
+  std::array<char, kRoom> characters{};  ///< zeros past the end
+  std::uint8_t size = 0;                 ///< how many characters there are
 
   /// A view of this object's characters: valid while the object is.
   [[nodiscard]] constexpr std::string_view View() const noexcept { return {characters.data(), size}; }
@@ -65,7 +68,7 @@ template <std::size_t capacity, std::size_t other>
 [[nodiscard]] constexpr FixedText<capacity> Resized(const FixedText<other>& text) noexcept {
   FixedText<capacity> result;
   // As much as both have, zeros too: a copy of known length is a few instructions.
-  std::copy_n(text.characters.data(), std::min(capacity, other), result.characters.data());
+  std::copy_n(text.characters.data(), std::min(result.kRoom, text.kRoom), result.characters.data());
   result.size = text.size;
   return result;
 }

@@ -136,7 +136,7 @@ Parsed<Iban> ParseIbanIn(std::basic_string_view<Unit> text) noexcept {
   const int check = (iban[2] - '0') * 10 + (iban[3] - '0');
   if (check < 2 || check > 98 || sum % 97 != 1) return refuse(2, Code::IbanChecksum);
   if (!detail::NationalChecksMatch(iban.substr(0, 2), own)) return refuse(kIbanHead, Code::IbanNational);
-  return {{Resized<34>(kept.Text())}};
+  return {{Resized<34>(kept.text)}};
 }
 
 }  // namespace

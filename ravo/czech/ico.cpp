@@ -12,11 +12,11 @@ template <class Unit>
 Parsed<Ico> ParseIcoIn(std::basic_string_view<Unit> text) noexcept {
   const auto kept = detail::Read<8>(text, kIcoSpelling);
   if (kept.code != Code::Correct) return {{}, kept.code, kept.position};
-  if (kept.size < 8) return {{}, Code::IcoLength, text.size()};
-  if (detail::IcoCheckDigit(kept.text.data()) != kept.text[7]) {
+  if (kept.Size() < 8) return {{}, Code::IcoLength, text.size()};
+  if (detail::IcoCheckDigit(kept.text.characters.data()) != kept.At(7)) {
     return detail::Refuse<Ico>(text, kIcoSpelling, kept.from, 7, Code::IcoChecksum);
   }
-  return {{kept.Text()}};
+  return {{kept.text}};
 }
 
 }  // namespace

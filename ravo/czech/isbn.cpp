@@ -55,11 +55,11 @@ Parsed<Isbn> ParseIsbnIn(std::basic_string_view<Unit> text) noexcept {
     return detail::Refuse<Isbn>(text, kIsbnSpelling, kept.from, index, code);
   };
   const std::size_t odd = OddLetter(kept.View());
-  if (odd < kept.size) return refuse(odd, Code::IsbnCharacter);
-  if (kept.size != kShortIsbn && kept.size != kLongIsbn) return {{}, Code::IsbnLength, text.size()};
-  const IsbnFault fault = kept.size == kShortIsbn ? CheckShort(kept.View()) : CheckLong(kept.View());
+  if (odd < kept.Size()) return refuse(odd, Code::IsbnCharacter);
+  if (kept.Size() != kShortIsbn && kept.Size() != kLongIsbn) return {{}, Code::IsbnLength, text.size()};
+  const IsbnFault fault = kept.Size() == kShortIsbn ? CheckShort(kept.View()) : CheckLong(kept.View());
   if (fault.code != Code::Correct) return refuse(fault.index, fault.code);
-  return {{kept.Text()}};
+  return {{kept.text}};
 }
 
 }  // namespace

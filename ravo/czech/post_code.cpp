@@ -12,11 +12,11 @@ template <class Unit>
 Parsed<PostCode> ParsePostCodeIn(std::basic_string_view<Unit> text) noexcept {
   const auto kept = detail::Read<5>(text, kPostCodeSpelling);
   if (kept.code != Code::Correct) return {{}, kept.code, kept.position};
-  if (kept.size < 5) return {{}, Code::PostCodeLength, text.size()};
-  if (kept.text[0] < '1' || kept.text[0] > '7') {
+  if (kept.Size() < 5) return {{}, Code::PostCodeLength, text.size()};
+  if (kept.At(0) < '1' || kept.At(0) > '7') {
     return detail::Refuse<PostCode>(text, kPostCodeSpelling, kept.from, 0, Code::PostCodeFirst);
   }
-  return {{kept.Text()}};
+  return {{kept.text}};
 }
 
 }  // namespace

@@ -125,15 +125,14 @@ struct Spelling {
 /// The kept characters, or the reason why not. `from` is where they begin, past a label.
 template <std::size_t capacity>
 struct Kept {
-  std::size_t size = 0;
+  FixedText<capacity> text;
   std::size_t from = 0;
   Code code = Code::Correct;
   std::size_t position = 0;
-  std::array<char, capacity> text{};  // zeros past the end
 
-  [[nodiscard]] std::string_view View() const noexcept { return {text.data(), size}; }
-  /// All of it as the text of a value.
-  [[nodiscard]] FixedText<capacity> Text() const noexcept { return {text, static_cast<std::uint8_t>(size)}; }
+  [[nodiscard]] std::size_t Size() const noexcept { return text.size; }
+  [[nodiscard]] char At(std::size_t index) const noexcept { return text.characters[index]; }
+  [[nodiscard]] std::string_view View() const noexcept { return text.View(); }
 };
 
 template <class Unit>
@@ -155,9 +154,9 @@ template <std::size_t capacity, class Unit>
   for (std::size_t i = 0; i < text.size(); ++i) {
     const std::uint32_t unit = std::min(UnitValue(text[i]), 255U);
     seen |= kUnitMarks[unit];
-    kept.text[i] = kUnitsKept[unit];
+    kept.text.characters[i] = kUnitsKept[unit];
   }
-  kept.size = text.size();
+  kept.text.size = static_cast<std::uint8_t>(text.size());
   return (seen & ~spelling.keep) == 0;
 }
 
@@ -175,7 +174,7 @@ template <std::size_t capacity, class Unit>
     const Mark mark = MarkAt(text, at);
     const bool keeps = (mark.marks & spelling.keep) != 0;
     if (keeps && size < capacity) {
-      kept.text[size++] = mark.kept;
+      kept.text.characters[size++] = mark.kept;
     } else if (keeps) {
       code = spelling.length;
     } else if (!(mark.marks & spelling.skip)) {
@@ -183,7 +182,7 @@ template <std::size_t capacity, class Unit>
     }
     if (code == Code::Correct) at += mark.units;
   }
-  kept.size = size;
+  kept.text.size = static_cast<std::uint8_t>(size);
   kept.position = at;
   kept.code = size == 0 && code == Code::Correct ? spelling.empty : code;
 }

@@ -25,7 +25,7 @@ Parsed<Symbol> ParseSymbol(std::basic_string_view<Unit> text, const detail::Spel
                            std::size_t least) noexcept {
   const auto kept = detail::Read<kSymbolDigits>(text, spelling);
   if (kept.code != Code::Correct) return {{}, kept.code, kept.position};
-  if (kept.text[0] != '0' && kept.size >= least) return {Symbol{kept.Text()}};
+  if (kept.At(0) != '0' && kept.Size() >= least) return {Symbol{kept.text}};
   const std::string_view digits = kept.View();
   const std::string_view significant = digits.substr(std::min(digits.find_first_not_of('0'), digits.size()));
   Symbol symbol;

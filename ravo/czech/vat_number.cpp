@@ -97,7 +97,7 @@ Parsed<VatNumber> ParseVatIn(std::basic_string_view<Unit> text) noexcept {
   }
   if (!fit.length_fits) return {{}, Code::VatLength, text.size()};
   if (!fit.fits) return refuse(kVatHead + fit.odd, Code::VatForm);
-  return {{kept.Text()}};
+  return {{kept.text}};
 }
 
 }  // namespace
