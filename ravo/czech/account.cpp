@@ -1,5 +1,4 @@
 #include <ravo/czech/account.h>
-#include <ravo/czech/national_accounts.h>
 #include <ravo/czech/reading.h>
 
 #include <algorithm>
@@ -19,53 +18,68 @@ constexpr detail::Spelling kAccountSpelling{
     Code::AccountLength, detail::kDigit | detail::kHyphen | detail::kSlash,
     detail::kBlank,      {"CISLOUCTU", "CUCTU", "CU", "UCET"}};
 
-// Of at most ten digits.
-constexpr std::uint64_t ValueOf(std::string_view digits) noexcept {
-  std::uint64_t value = 0;
-  for (const char digit : digits) value = value * 10 + static_cast<std::uint64_t>(digit - '0');
-  return value;
-}
-
 struct AccountFault {
   Code code = Code::Correct;
   std::size_t index = 0;  // of the kept characters
 };
 
-// The parts of an account as they stand.
-struct AccountParts {
-  std::string_view prefix;
-  std::string_view number;
-  std::string_view bank;
-  std::size_t number_at = 0;
+// Digits as they stand: their value, and their sum by the powers of two, whose remainders by eleven are the
+// weights. Both wrap where there are more digits than an account has.
+struct DigitRun {
+  std::size_t begin = 0;
+  std::size_t end = 0;
+  std::uint64_t value = 0;
+  std::uint32_t sum = 0;
+
+  [[nodiscard]] constexpr std::size_t Size() const noexcept { return end - begin; }
+  [[nodiscard]] constexpr bool SumMatches() const noexcept { return sum % 11 == 0; }
 };
 
-// Hyphen and slash stand once each, in this order.
-AccountFault Split(std::string_view text, AccountParts& parts) noexcept {
-  const std::size_t hyphen = detail::FirstNoDigit(text);
-  const bool has_prefix = hyphen < text.size() && text[hyphen] == '-';
-  if (has_prefix && (hyphen == 0 || hyphen > kPrefixDigits)) {
-    return {Code::AccountPrefixLength, std::min(hyphen, kPrefixDigits)};
+constexpr DigitRun ReadRun(std::string_view text, std::size_t begin) noexcept {
+  DigitRun run{begin, begin};
+  for (; run.end < text.size(); ++run.end) {
+    const auto digit = static_cast<std::uint32_t>(text[run.end]) - '0';
+    if (digit > 9) break;
+    run.value = run.value * 10 + digit;
+    run.sum = run.sum * 2 + digit;
   }
-  parts.prefix = text.substr(0, has_prefix ? hyphen : 0);
-  parts.number_at = has_prefix ? hyphen + 1 : 0;
-  const std::size_t slash = has_prefix ? detail::FirstNoDigit(text, parts.number_at) : hyphen;
-  parts.number = text.substr(parts.number_at, slash - parts.number_at);
-  if (slash < text.size() && text[slash] == '-') return {Code::AccountCharacter, slash};
-  if (parts.number.size() > kNumberDigits) return {Code::AccountLength, parts.number_at + kNumberDigits};
-  if (parts.number.size() < 2) return {Code::AccountLength, slash};
-  const std::size_t bank_at = std::min(slash + 1, text.size());
-  parts.bank = text.substr(bank_at);
-  const std::size_t end = detail::FirstNoDigit(text, bank_at);
-  if (end < text.size()) return {Code::AccountCharacter, end};
-  if (parts.bank.size() != kBankDigits)
-    return {Code::AccountBank, bank_at + std::min(parts.bank.size(), kBankDigits)};
+  return run;
+}
+
+constexpr bool StandsAt(std::string_view text, std::size_t at, char character) noexcept {
+  return at < text.size() && text[at] == character;
+}
+
+// Prefix, number and bank code: hyphen and slash stand once each, in this order.
+struct AccountParts {
+  DigitRun prefix;
+  DigitRun number;
+  DigitRun bank;
+};
+
+AccountFault Split(std::string_view text, AccountParts& parts) noexcept {
+  parts.number = ReadRun(text, 0);
+  if (StandsAt(text, parts.number.end, '-')) {
+    parts.prefix = parts.number;
+    const std::size_t size = parts.prefix.Size();
+    if (size == 0 || size > kPrefixDigits) return {Code::AccountPrefixLength, std::min(size, kPrefixDigits)};
+    parts.number = ReadRun(text, parts.prefix.end + 1);
+  }
+  const DigitRun& number = parts.number;
+  if (StandsAt(text, number.end, '-')) return {Code::AccountCharacter, number.end};
+  if (number.Size() > kNumberDigits) return {Code::AccountLength, number.begin + kNumberDigits};
+  if (number.Size() < 2) return {Code::AccountLength, number.end};
+  parts.bank = ReadRun(text, std::min(number.end + 1, text.size()));
+  const DigitRun& bank = parts.bank;
+  if (bank.end < text.size()) return {Code::AccountCharacter, bank.end};
+  if (bank.Size() != kBankDigits) return {Code::AccountBank, bank.begin + std::min(bank.Size(), kBankDigits)};
   return {};
 }
 
 AccountFault CheckSums(const AccountParts& parts) noexcept {
-  if (!detail::CzechSumMatches(parts.prefix)) return {Code::AccountPrefixChecksum, parts.prefix.size() - 1};
-  const std::size_t last = parts.number_at + parts.number.size() - 1;
-  if (!detail::CzechSumMatches(parts.number)) return {Code::AccountChecksum, last};
+  if (!parts.prefix.SumMatches()) return {Code::AccountPrefixChecksum, parts.prefix.end - 1};
+  if (!parts.number.SumMatches()) return {Code::AccountChecksum, parts.number.end - 1};
+  if (parts.number.value == 0) return {Code::AccountZero, parts.number.begin};
   return {};
 }
 
@@ -79,12 +93,8 @@ Parsed<Account> ParseAccountIn(std::basic_string_view<Unit> text) noexcept {
   if (fault.code != Code::Correct) {
     return detail::Refuse<Account>(text, kAccountSpelling, kept.from, fault.index, fault.code);
   }
-  const std::uint64_t number = ValueOf(parts.number);
-  if (number == 0) {
-    return detail::Refuse<Account>(text, kAccountSpelling, kept.from, parts.number_at, Code::AccountZero);
-  }
-  return {{number, static_cast<std::uint32_t>(ValueOf(parts.prefix)),
-           static_cast<std::uint16_t>(ValueOf(parts.bank))}};
+  return {{parts.number.value, static_cast<std::uint32_t>(parts.prefix.value),
+           static_cast<std::uint16_t>(parts.bank.value)}};
 }
 
 }  // namespace
@@ -118,8 +128,11 @@ Iban IbanOf(const Account& account) noexcept {
 std::optional<Account> AccountOf(const Iban& iban) noexcept {
   const std::string_view text = iban.text.View();
   if (!text.starts_with("CZ")) return std::nullopt;
-  return Account{ValueOf(text.substr(14)), static_cast<std::uint32_t>(ValueOf(text.substr(8, kPrefixDigits))),
-                 static_cast<std::uint16_t>(ValueOf(text.substr(4, kBankDigits)))};
+  const auto value = [text](std::size_t at, std::size_t count) {
+    return ReadRun(text.substr(at, count), 0).value;
+  };
+  return Account{value(14, kNumberDigits), static_cast<std::uint32_t>(value(8, kPrefixDigits)),
+                 static_cast<std::uint16_t>(value(4, kBankDigits))};
 }
 
 }  // namespace ravo::czech

@@ -44,19 +44,17 @@ constexpr int RemainderOfNine(std::string_view digits) noexcept {
 
 }  // namespace
 
-detail::BirthNumberDigits detail::BirthNumberOf(std::string_view digits) noexcept {
-  BirthNumberDigits result;
-  BirthNumber& number = result.value;
+detail::BirthNumberFault detail::ReadBirthNumber(std::string_view digits, BirthNumber& number) noexcept {
   number.born.year = YearOf(digits);
-  if (number.born.year == 0) return {{}, Code::BirthNumberLength, digits.size()};
+  if (number.born.year == 0) return {Code::BirthNumberLength, digits.size()};
   number.born.month = MonthOf(Two(digits, 2), digits.size() == 10, number);
   number.born.day = Two(digits, 4);
-  if (!Exists(number.born)) return {{}, Code::BirthNumberDate, std::size_t{2}};
-  if (digits.size() == 9) return result;
+  if (!Exists(number.born)) return {Code::BirthNumberDate, 2};
+  if (digits.size() == 9) return {};
   const int remainder = RemainderOfNine(digits);
   number.remainder_ten = remainder == 10;
-  if (remainder % 10 != digits[9] - '0') return {{}, Code::BirthNumberChecksum, std::size_t{9}};
-  return result;
+  if (remainder % 10 != digits[9] - '0') return {Code::BirthNumberChecksum, 9};
+  return {};
 }
 
 namespace {
@@ -79,10 +77,14 @@ Parsed<BirthNumber> ParseBirthNumberIn(std::basic_string_view<Unit> text) noexce
     return refuse(divided && odd >= kSlashAt ? odd + 1 : odd, Code::BirthNumberCharacter);
   if (digits.size > 10) return refuse(divided ? 11 : 10, Code::BirthNumberLength);
   if (digits.size < 9) return {{}, Code::BirthNumberLength, text.size()};
-  auto found = detail::BirthNumberOf(digits.View());
-  found.value.text = Resized<10>(digits);
-  if (found.code == Code::Correct) return {found.value};
-  return refuse(divided && found.index >= kSlashAt ? found.index + 1 : found.index, found.code);
+  // In its place: a copy would wait for what was just stored.
+  Parsed<BirthNumber> parsed;
+  const auto fault = detail::ReadBirthNumber(digits.View(), parsed.value);
+  if (fault.code != Code::Correct) {
+    return refuse(divided && fault.index >= kSlashAt ? fault.index + 1 : fault.index, fault.code);
+  }
+  parsed.value.text = Resized<10>(digits);
+  return parsed;
 }
 
 }  // namespace

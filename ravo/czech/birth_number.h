@@ -45,13 +45,14 @@ struct BirthNumber {
 
 namespace detail {
 
-/// What nine or ten digits tell, `text` left empty; `index` is the digit at fault.
-struct BirthNumberDigits {
-  BirthNumber value;
+/// Why digits are no birth number, and which of them is at fault.
+struct BirthNumberFault {
   Code code = Code::Correct;
   std::size_t index = 0;
 };
-[[nodiscard]] BirthNumberDigits BirthNumberOf(std::string_view digits) noexcept;
+
+/// Fills in `number`, but for its text, from nine or ten digits.
+[[nodiscard]] BirthNumberFault ReadBirthNumber(std::string_view digits, BirthNumber& number) noexcept;
 
 }  // namespace detail
 }  // namespace ravo::czech

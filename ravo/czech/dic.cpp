@@ -52,8 +52,9 @@ DicFault CheckDigits(std::string_view digits, DicForm& form) noexcept {
     return {};
   }
   form = DicForm::BirthNumber;
-  const auto found = detail::BirthNumberOf(digits);
-  return {DicCodeOf(found.code), found.index};
+  BirthNumber number;
+  const auto fault = detail::ReadBirthNumber(digits, number);
+  return {DicCodeOf(fault.code), fault.index};
 }
 
 template <class Unit>
