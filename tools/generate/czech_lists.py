@@ -63,7 +63,8 @@ def ranges_of(line: str) -> list[tuple[str, str]]:
 
 def isbn_groups() -> collections.abc.Iterator[tuple[str, str, list[tuple[str, str]]]]:
     """Prefix, group, and the group's ranges of publishers. Lines of two blanks continue those of one."""
-    prefix, groups = "", []
+    prefix = ""
+    groups: list[str] = []
     ranges: list[tuple[str, str]] = []
     for line in (SOURCE / "isbn.dat").read_text(encoding="utf-8").splitlines():
         if not line.strip() or line.startswith("#"):
