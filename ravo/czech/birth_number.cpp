@@ -59,31 +59,38 @@ detail::BirthNumberFault detail::ReadBirthNumber(std::string_view digits, BirthN
 
 namespace {
 
+// A birth number whose slash was left out.
+FixedText<16> WithoutSlash(std::string_view text) noexcept {
+  auto digits = Fixed<16>(text.substr(0, kSlashAt));
+  digits.Append(text.substr(kSlashAt + 1));
+  return digits;
+}
+
+// The kept characters as digits, or the one at fault.
+template <class Kept>
+detail::BirthNumberFault ReadKept(const Kept& kept, bool divided, Parsed<BirthNumber>& parsed) noexcept {
+  const FixedText<16> digits = divided ? WithoutSlash(kept.View()) : kept.text;
+  const std::size_t odd = kept.digits_alone ? digits.size : detail::FirstNoDigit(digits.View());
+  if (odd < digits.size) return {Code::BirthNumberCharacter, odd};
+  if (digits.size > 10) return {Code::BirthNumberLength, 10};
+  if (digits.size < 9) return {Code::BirthNumberLength, digits.size};
+  parsed.value.text = Resized<10>(digits);
+  return detail::ReadBirthNumber(digits.View(), parsed.value);
+}
+
 template <class Unit>
 Parsed<BirthNumber> ParseBirthNumberIn(std::basic_string_view<Unit> text) noexcept {
   const auto kept = detail::Read<16>(text, kBirthNumberSpelling);
-  if (kept.code != Code::Correct) return {{}, kept.code, kept.position};
-  const auto refuse = [&](std::size_t index, Code code) {
-    return detail::Refuse<BirthNumber>(text, kBirthNumberSpelling, kept.from, index, code);
-  };
-  const bool divided = kept.Size() > kSlashAt && kept.At(kSlashAt) == '/';
-  FixedText<16> digits = kept.text;
-  if (divided) {
-    digits = Fixed<16>(kept.View().substr(0, kSlashAt));
-    digits.Append(kept.View().substr(kSlashAt + 1));
-  }
-  const std::size_t odd = detail::FirstNoDigit(digits.View());
-  if (odd < digits.size)
-    return refuse(divided && odd >= kSlashAt ? odd + 1 : odd, Code::BirthNumberCharacter);
-  if (digits.size > 10) return refuse(divided ? 11 : 10, Code::BirthNumberLength);
-  if (digits.size < 9) return {{}, Code::BirthNumberLength, text.size()};
-  // In its place: a copy would wait for what was just stored.
-  Parsed<BirthNumber> parsed;
-  const auto fault = detail::ReadBirthNumber(digits.View(), parsed.value);
-  if (fault.code != Code::Correct) {
-    return refuse(divided && fault.index >= kSlashAt ? fault.index + 1 : fault.index, fault.code);
-  }
-  parsed.value.text = Resized<10>(digits);
+  // Filled in where it is: a copy would wait for what was just stored.
+  Parsed<BirthNumber> parsed{{}, kept.code, kept.position};
+  if (kept.code != Code::Correct) return parsed;
+  const bool divided = !kept.digits_alone && kept.Size() > kSlashAt && kept.At(kSlashAt) == '/';
+  const auto fault = ReadKept(kept, divided, parsed);
+  parsed.code = fault.code;
+  parsed.position = 0;
+  if (fault.code == Code::Correct) return parsed;
+  const std::size_t index = divided && fault.index >= kSlashAt ? fault.index + 1 : fault.index;
+  parsed.position = detail::PositionOf(text, kBirthNumberSpelling, kept.from, index);
   return parsed;
 }
 

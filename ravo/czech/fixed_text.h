@@ -12,9 +12,8 @@ namespace ravo::czech {
 template <std::size_t capacity>
 struct alignas(8) FixedText {
   static_assert(capacity < 256);
-  /// The room: with the size it fills whole words, so that copies are a few instructions that the processor
-  /// can chain.
-  static constexpr std::size_t kRoom = (capacity + 8) / 8 * 8 - 1;
+  /// The room, in whole words: copies are a few instructions that the processor can chain.
+  static constexpr std::size_t kRoom = (capacity + 7) / 8 * 8;
   std::array<char, kRoom> characters{};  ///< zeros past the end
   std::uint8_t size = 0;                 ///< how many characters there are
 

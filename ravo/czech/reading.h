@@ -128,6 +128,7 @@ struct Kept {
   FixedText<capacity> text;
   std::size_t from = 0;
   Code code = Code::Correct;
+  bool digits_alone = false;  ///< whether it is known that nothing but digits was kept
   std::size_t position = 0;
 
   [[nodiscard]] std::size_t Size() const noexcept { return text.size; }
@@ -157,6 +158,7 @@ template <std::size_t capacity, class Unit>
     kept.text.characters[i] = kUnitsKept[unit];
   }
   kept.text.size = static_cast<std::uint8_t>(text.size());
+  kept.digits_alone = seen == kDigit;
   return (seen & ~spelling.keep) == 0;
 }
 
@@ -165,6 +167,7 @@ template <std::size_t capacity, class Unit>
 [[gnu::noinline]] void ReadMixed(std::basic_string_view<Unit> text, const Spelling& spelling,
                                  Kept<capacity>& kept) noexcept {
   kept.text = {};
+  kept.digits_alone = false;
   kept.from = LabelEnd(text, spelling);
   // Locals: a character stored through a pointer could be a part of any object.
   std::size_t at = kept.from;

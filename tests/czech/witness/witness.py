@@ -74,7 +74,7 @@ def make_account(rng: Random) -> str:
 
 def make_iban(rng: Random) -> str:
     country = rng.choice(["CZ", "CZ", "SK", "BE", "ES", "NO", "ME", *COUNTRIES])
-    own = "".join(rng.choice({"n": "0123456789", "a": "ABCXYZ", "c": "019AZ"}[kind]) for kind in COUNTRIES[country])
+    own: str = "".join(rng.choice({"n": "0123456789", "a": "ABCXYZ", "c": "019AZ"}[kind]) for kind in COUNTRIES[country])
     if country in ("CZ", "SK") and rng.random() < 0.7:
         own = own[:4] + weighted(rng, 6) + weighted(rng, 10)
     if country == "BE" and rng.random() < 0.7:
@@ -92,7 +92,7 @@ def make_iban(rng: Random) -> str:
         letters = [f"{letter}{digit}" for letter in "ABCDEFGHIJ" for digit in "0123456789"]
         fitting = [pair for pair in letters if mod_97_10.checksum(own + country + pair) == 1]
         check = rng.choice(fitting or [check])
-    text = country + check + own
+    text = f"{country}{check}{own}"
     return " ".join(re.findall(".{1,4}", text)) if rng.random() < 0.2 else text
 
 
