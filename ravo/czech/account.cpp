@@ -36,14 +36,17 @@ struct DigitRun {
 };
 
 constexpr DigitRun ReadRun(std::string_view text, std::size_t begin) noexcept {
-  DigitRun run{begin, begin};
-  for (; run.end < text.size(); ++run.end) {
-    const auto digit = static_cast<std::uint32_t>(text[run.end]) - '0';
+  // Locals: a result that is filled in could share memory with the text.
+  std::size_t end = begin;
+  std::uint64_t value = 0;
+  std::uint32_t sum = 0;
+  for (; end < text.size(); ++end) {
+    const auto digit = static_cast<std::uint32_t>(text[end]) - '0';
     if (digit > 9) break;
-    run.value = run.value * 10 + digit;
-    run.sum = run.sum * 2 + digit;
+    value = value * 10 + digit;
+    sum = sum * 2 + digit;
   }
-  return run;
+  return {begin, end, value, sum};
 }
 
 constexpr bool StandsAt(std::string_view text, std::size_t at, char character) noexcept {
@@ -58,21 +61,21 @@ struct AccountParts {
 };
 
 AccountFault Split(std::string_view text, AccountParts& parts) noexcept {
-  parts.number = ReadRun(text, 0);
-  if (StandsAt(text, parts.number.end, '-')) {
-    parts.prefix = parts.number;
-    const std::size_t size = parts.prefix.Size();
+  DigitRun number = ReadRun(text, 0);
+  if (StandsAt(text, number.end, '-')) {
+    const std::size_t size = number.Size();
     if (size == 0 || size > kPrefixDigits) return {Code::AccountPrefixLength, std::min(size, kPrefixDigits)};
-    parts.number = ReadRun(text, parts.prefix.end + 1);
+    parts.prefix = number;
+    number = ReadRun(text, number.end + 1);
   }
-  const DigitRun& number = parts.number;
   if (StandsAt(text, number.end, '-')) return {Code::AccountCharacter, number.end};
   if (number.Size() > kNumberDigits) return {Code::AccountLength, number.begin + kNumberDigits};
   if (number.Size() < 2) return {Code::AccountLength, number.end};
-  parts.bank = ReadRun(text, std::min(number.end + 1, text.size()));
-  const DigitRun& bank = parts.bank;
+  const DigitRun bank = ReadRun(text, std::min(number.end + 1, text.size()));
   if (bank.end < text.size()) return {Code::AccountCharacter, bank.end};
   if (bank.Size() != kBankDigits) return {Code::AccountBank, bank.begin + std::min(bank.Size(), kBankDigits)};
+  parts.number = number;
+  parts.bank = bank;
   return {};
 }
 

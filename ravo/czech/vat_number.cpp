@@ -30,7 +30,7 @@ constexpr detail::Spelling kVatSpelling{Code::VatEmpty,
 constexpr std::size_t kVatHead = 2;
 
 constexpr bool FitsForm(char character, char form) noexcept {
-  const detail::Marks marks = detail::AsciiMark(character).marks;
+  const detail::Marks marks = detail::kUnitMarks[static_cast<unsigned char>(character)];
   switch (form) {
     case '9':
       return marks == detail::kDigit;
@@ -53,6 +53,10 @@ constexpr std::size_t OddInForm(std::string_view own, std::string_view form) noe
   return i;
 }
 
+constexpr bool SameCountry(std::string_view left, std::string_view right) noexcept {
+  return left[0] == right[0] && left[1] == right[1];
+}
+
 // How the forms of a country take a number: where the one that fits farthest ends, and the longest form.
 struct VatFit {
   bool fits = false;
@@ -60,9 +64,10 @@ struct VatFit {
   std::size_t odd = 0;
   std::size_t longest = 0;
 };
-constexpr VatFit FitForms(std::string_view country, std::string_view own, const VatForm* form) noexcept {
+constexpr VatFit FitForms(std::string_view own, const VatForm* form) noexcept {
+  const std::string_view country = form->country;
   VatFit fit;
-  for (; form != std::end(kVatForms) && form->country == country; ++form) {
+  for (; form != std::end(kVatForms) && SameCountry(form->country, country); ++form) {
     fit.longest = std::max(fit.longest, form->form.size());
     if (form->form.size() != own.size()) continue;
     const std::size_t odd = OddInForm(own, form->form);
@@ -91,7 +96,7 @@ Parsed<VatNumber> ParseVatIn(std::basic_string_view<Unit> text) noexcept {
   const std::size_t row =
       number.size() < kVatHead ? 0 : kVatIndex[detail::CountryNumber(number[0], number[1])];
   if (row == 0) return refuse(0, Code::VatCountry);
-  const VatFit fit = FitForms(number.substr(0, kVatHead), number.substr(kVatHead), &kVatForms[row - 1]);
+  const VatFit fit = FitForms(number.substr(kVatHead), &kVatForms[row - 1]);
   if (kept.code != Code::Correct || number.size() > kVatHead + fit.longest) {
     return refuse(kVatHead + fit.longest, Code::VatLength);
   }
