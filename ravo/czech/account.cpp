@@ -35,13 +35,14 @@ struct DigitRun {
   [[nodiscard]] constexpr bool SumMatches() const noexcept { return sum % 11 == 0; }
 };
 
-constexpr DigitRun ReadRun(std::string_view text, std::size_t begin) noexcept {
+template <class Unit>
+constexpr DigitRun ReadRun(std::basic_string_view<Unit> text, std::size_t begin) noexcept {
   // Locals: a result that is filled in could share memory with the text.
   std::size_t end = begin;
   std::uint64_t value = 0;
   std::uint32_t sum = 0;
   for (; end < text.size(); ++end) {
-    const auto digit = static_cast<std::uint32_t>(text[end]) - '0';
+    const std::uint32_t digit = detail::UnitValue(text[end]) - '0';
     if (digit > 9) break;
     value = value * 10 + digit;
     sum = sum * 2 + digit;
@@ -49,8 +50,9 @@ constexpr DigitRun ReadRun(std::string_view text, std::size_t begin) noexcept {
   return {begin, end, value, sum};
 }
 
-constexpr bool StandsAt(std::string_view text, std::size_t at, char character) noexcept {
-  return at < text.size() && text[at] == character;
+template <class Unit>
+constexpr bool IsAt(std::basic_string_view<Unit> text, std::size_t at, char character) noexcept {
+  return at < text.size() && text[at] == static_cast<Unit>(character);
 }
 
 // Prefix, number and bank code: hyphen and slash stand once each, in this order.
@@ -60,15 +62,16 @@ struct AccountParts {
   DigitRun bank;
 };
 
-AccountFault Split(std::string_view text, AccountParts& parts) noexcept {
+template <class Unit>
+inline AccountFault Split(std::basic_string_view<Unit> text, AccountParts& parts) noexcept {
   DigitRun number = ReadRun(text, 0);
-  if (StandsAt(text, number.end, '-')) {
+  if (IsAt(text, number.end, '-')) {
     const std::size_t size = number.Size();
     if (size == 0 || size > kPrefixDigits) return {Code::AccountPrefixLength, std::min(size, kPrefixDigits)};
     parts.prefix = number;
     number = ReadRun(text, number.end + 1);
   }
-  if (StandsAt(text, number.end, '-')) return {Code::AccountCharacter, number.end};
+  if (number.end < text.size() && !IsAt(text, number.end, '/')) return {Code::AccountCharacter, number.end};
   if (number.Size() > kNumberDigits) return {Code::AccountLength, number.begin + kNumberDigits};
   if (number.Size() < 2) return {Code::AccountLength, number.end};
   const DigitRun bank = ReadRun(text, std::min(number.end + 1, text.size()));
@@ -79,25 +82,36 @@ AccountFault Split(std::string_view text, AccountParts& parts) noexcept {
   return {};
 }
 
-AccountFault CheckSums(const AccountParts& parts) noexcept {
+inline AccountFault CheckSums(const AccountParts& parts) noexcept {
   if (!parts.prefix.SumMatches()) return {Code::AccountPrefixChecksum, parts.prefix.end - 1};
   if (!parts.number.SumMatches()) return {Code::AccountChecksum, parts.number.end - 1};
   if (parts.number.value == 0) return {Code::AccountZero, parts.number.begin};
   return {};
 }
 
+Account AccountFrom(const AccountParts& parts) noexcept {
+  return {parts.number.value, static_cast<std::uint32_t>(parts.prefix.value),
+          static_cast<std::uint16_t>(parts.bank.value)};
+}
+
+// An account with a label, blanks or other hyphens, or a fault.
 template <class Unit>
-Parsed<Account> ParseAccountIn(std::basic_string_view<Unit> text) noexcept {
+[[gnu::noinline]] Parsed<Account> ParseMixed(std::basic_string_view<Unit> text) noexcept {
   const auto kept = detail::Read<kAccountRoom>(text, kAccountSpelling);
   if (kept.code != Code::Correct) return {{}, kept.code, kept.position};
   AccountParts parts;
   AccountFault fault = Split(kept.View(), parts);
   if (fault.code == Code::Correct) fault = CheckSums(parts);
-  if (fault.code != Code::Correct) {
-    return detail::Refuse<Account>(text, kAccountSpelling, kept.from, fault.index, fault.code);
-  }
-  return {{parts.number.value, static_cast<std::uint32_t>(parts.prefix.value),
-           static_cast<std::uint16_t>(parts.bank.value)}};
+  if (fault.code == Code::Correct) return {AccountFrom(parts)};
+  return detail::Refuse<Account>(text, kAccountSpelling, kept.from, fault.index, fault.code);
+}
+
+// Most inputs are digits, a hyphen and a slash alone: they need no copy.
+template <class Unit>
+Parsed<Account> ParseAccountIn(std::basic_string_view<Unit> text) noexcept {
+  AccountParts parts;
+  const bool correct = Split(text, parts).code == Code::Correct && CheckSums(parts).code == Code::Correct;
+  return correct ? Parsed<Account>{AccountFrom(parts)} : ParseMixed(text);
 }
 
 }  // namespace
@@ -105,17 +119,7 @@ Parsed<Account> ParseAccountIn(std::basic_string_view<Unit> text) noexcept {
 Parsed<Account> ParseAccount(std::string_view text) noexcept { return ParseAccountIn(text); }
 Parsed<Account> ParseAccount(std::u16string_view text) noexcept { return ParseAccountIn(text); }
 
-FixedText<22> Format(const Account& account) noexcept {
-  FixedText<22> text;
-  if (account.prefix != 0) {
-    text.AppendNumber(account.prefix, 1);
-    text.Append('-');
-  }
-  text.AppendNumber(account.number, 2);
-  text.Append('/');
-  text.AppendNumber(account.bank, 4);
-  return text;
-}
+FixedText<22> Format(const Account& account) noexcept { return detail::AccountText<22>(account); }
 
 Iban IbanOf(const Account& account) noexcept {
   Iban iban{Fixed<34>("CZ00")};

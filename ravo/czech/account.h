@@ -4,6 +4,7 @@
 #include <ravo/czech/iban.h>
 #include <ravo/czech/reason.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string_view>
@@ -40,4 +41,22 @@ struct Account {
 /// `ParseIban` or `IbanOf`.
 [[nodiscard]] std::optional<Account> AccountOf(const Iban& iban) noexcept;
 
+namespace detail {
+
+/// The usual spelling in room of any size: what is copied from one room to another waits for what was just
+/// written there.
+template <std::size_t capacity>
+[[nodiscard]] constexpr FixedText<capacity> AccountText(const Account& account) noexcept {
+  FixedText<capacity> text;
+  if (account.prefix != 0) {
+    text.AppendNumber(account.prefix, 1);
+    text.Append('-');
+  }
+  text.AppendNumber(account.number, 2);
+  text.Append('/');
+  text.AppendNumber(account.bank, 4);
+  return text;
+}
+
+}  // namespace detail
 }  // namespace ravo::czech

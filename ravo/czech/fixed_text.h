@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
+#include <utility>
 
 namespace ravo::czech {
 
@@ -30,27 +32,49 @@ struct alignas(8) FixedText {
   /// Appends `number`, below ten thousand million, in decimal, padded with zeros to at least `digits`, 1
   /// to 10. Precondition: there is room.
   constexpr void AppendNumber(std::uint64_t number, int digits) noexcept {
-    int count = digits;
-    for (std::uint64_t power = PowerOfTen(digits); number >= power && count < kMostDigits; power *= 10)
-      ++count;
-    char* const begin = characters.data() + size;
-    // In halves of five digits: 32 bits divide faster, and neither half waits for the other.
-    auto low = static_cast<std::uint32_t>(number % kHalf);
-    auto high = static_cast<std::uint32_t>(number / kHalf);
-    int at = count;
-    for (; at > std::max(count - 5, 0); low /= 10) begin[--at] = static_cast<char>('0' + low % 10);
-    for (; at > 0; high /= 10) begin[--at] = static_cast<char>('0' + high % 10);
-    size = static_cast<std::uint8_t>(size + count);
+    int count = std::max(digits, DigitCount(number));
+    if (count > kWordDigits) {
+      const auto first = static_cast<std::uint32_t>(number / kPowersOfTen[kWordDigits]);
+      if (count > kWordDigits + 1) Append(static_cast<char>('0' + first / 10));
+      Append(static_cast<char>('0' + first % 10));
+      number %= kPowersOfTen[kWordDigits];
+      count = kWordDigits;
+    }
+    AppendWord(EightDigits(static_cast<std::uint32_t>(number)) >> 8 * (kWordDigits - count), count);
   }
   friend constexpr bool operator==(const FixedText&, const FixedText&) noexcept = default;
 
  private:
-  static constexpr std::uint64_t kHalf = 100'000;
-  static constexpr int kMostDigits = 10;
-  static constexpr std::uint64_t PowerOfTen(int exponent) noexcept {
+  static constexpr int kWordDigits = 8;
+  static constexpr auto kPowersOfTen = [] {
+    std::array<std::uint64_t, 11> powers{};
     std::uint64_t power = 1;
-    for (; exponent > 0; --exponent) power *= 10;
-    return power;
+    for (std::uint64_t& entry : powers) entry = std::exchange(power, power * 10);
+    return powers;
+  }();
+
+  // 1233 / 4096 is the logarithm of 2, so the estimate is the count or one less.
+  static constexpr int DigitCount(std::uint64_t number) noexcept {
+    const int estimate = static_cast<int>(std::bit_width(number | 1)) * 1233 >> 12;
+    return estimate + (number >= kPowersOfTen[static_cast<std::size_t>(estimate)] ? 1 : 0);
+  }
+
+  // Eight characters, the first in the lowest byte. Halves, quarters and eighths of the word are divided at
+  // once.
+  static constexpr std::uint64_t EightDigits(std::uint32_t number) noexcept {
+    const std::uint64_t fours = number / 10'000 | std::uint64_t{number % 10'000} << 32;
+    const std::uint64_t hundreds = (fours * 10486 >> 20) & 0x0000'007F'0000'007F;
+    const std::uint64_t pairs = hundreds | (fours - 100 * hundreds) << 16;
+    const std::uint64_t tens = (pairs * 103 >> 10) & 0x000F'000F'000F'000F;
+    return (tens | (pairs - 10 * tens) << 8) + 0x3030'3030'3030'3030;
+  }
+
+  // Appends the lowest bytes of a word, the others of which are zero. A whole word is one instruction.
+  constexpr void AppendWord(std::uint64_t word, int count) noexcept {
+    char* const end = characters.data() + size;
+    const std::size_t stored = kRoom - size < 8 ? static_cast<std::size_t>(count) : 8;
+    for (std::size_t i = 0; i < stored; ++i) end[i] = static_cast<char>(word >> 8 * i & 0xFF);
+    size = static_cast<std::uint8_t>(size + count);
   }
 };
 

@@ -44,7 +44,7 @@ template <class Value>
 FixedText<34> Canonical(const Value& value) noexcept {
   return Resized<34>(value.text);
 }
-FixedText<34> Canonical(const Account& account) noexcept { return Resized<34>(Format(account)); }
+FixedText<34> Canonical(const Account& account) noexcept { return detail::AccountText<34>(account); }
 
 // `spell` makes the text of a value that is correct in form.
 template <class Text, class Value, class Spell>

@@ -13,10 +13,11 @@ constexpr int RemainderOf(std::string_view digits, int divisor) noexcept {
   return remainder;
 }
 
-// Bank code, prefix and number; a number of zeros is none.
+// Bank code, prefix and number, both with a sum divisible by eleven. A number of zeros is none.
 bool MatchesCzechoslovak(std::string_view own) noexcept {
-  const std::string_view number = own.substr(10);
-  return CzechSumMatches(own.substr(4, 6)) && CzechSumMatches(number) && number != "0000000000";
+  const int prefix = WeightedSum(own.data() + 4, std::array{10, 5, 8, 4, 2, 1});
+  const int number = WeightedSum(own.data() + 10, std::array{6, 3, 7, 9, 10, 5, 8, 4, 2, 1});
+  return prefix % 11 == 0 && number % 11 == 0 && number != 0;
 }
 
 // Of the ten digits before it, 97 for none.

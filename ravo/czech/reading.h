@@ -57,16 +57,14 @@ inline constexpr auto kAsciiMarks = [] {
   return marks;
 }();
 
-/// By unit, up to 255: its marks, `kOther` beyond ASCII; and what it is kept as.
-inline constexpr auto kUnitMarks = [] {
-  std::array<Marks, 256> marks{};
-  for (std::size_t i = 0; i < marks.size(); ++i) marks[i] = i < 128 ? kAsciiMarks[i].marks : kOther;
-  return marks;
-}();
-inline constexpr auto kUnitsKept = [] {
-  std::array<char, 256> kept{};
-  for (std::size_t i = 0; i < 128; ++i) kept[i] = kAsciiMarks[i].kept;
-  return kept;
+/// By unit, up to 255: its marks, `kOther` beyond ASCII, and above them what it is kept as.
+inline constexpr auto kUnits = [] {
+  std::array<std::uint16_t, 256> units{};
+  for (std::size_t i = 0; i < units.size(); ++i) {
+    const Mark mark = i < 128 ? kAsciiMarks[i] : Mark{};
+    units[i] = static_cast<std::uint16_t>(mark.marks | mark.kept << 8);
+  }
+  return units;
 }();
 
 /// Unsigned value of a unit of either encoding.
@@ -151,15 +149,16 @@ template <std::size_t capacity, class Unit>
 [[nodiscard]] inline bool ReadClean(std::basic_string_view<Unit> text, const Spelling& spelling,
                                     Kept<capacity>& kept) noexcept {
   if (text.empty() || text.size() > capacity) return false;
-  Marks seen = 0;
+  unsigned seen = 0;
   for (std::size_t i = 0; i < text.size(); ++i) {
-    const std::uint32_t unit = std::min(UnitValue(text[i]), 255U);
-    seen |= kUnitMarks[unit];
-    kept.text.characters[i] = kUnitsKept[unit];
+    const std::uint16_t unit = kUnits[std::min(UnitValue(text[i]), 255U)];
+    if (!(unit & spelling.keep)) return false;
+    seen |= unit;
+    kept.text.characters[i] = static_cast<char>(unit >> 8);
   }
   kept.text.size = static_cast<std::uint8_t>(text.size());
-  kept.digits_alone = seen == kDigit;
-  return (seen & ~spelling.keep) == 0;
+  kept.digits_alone = (seen & 0xFF) == kDigit;
+  return true;
 }
 
 /// Reads what has a label, blanks, or something that does not belong.

@@ -30,7 +30,7 @@ constexpr detail::Spelling kVatSpelling{Code::VatEmpty,
 constexpr std::size_t kVatHead = 2;
 
 constexpr bool FitsForm(char character, char form) noexcept {
-  const detail::Marks marks = detail::kUnitMarks[static_cast<unsigned char>(character)];
+  const detail::Marks marks = detail::kAsciiMarks[static_cast<unsigned char>(character)].marks;
   switch (form) {
     case '9':
       return marks == detail::kDigit;
