@@ -86,7 +86,16 @@ TEST(VatMethods, AreLawfulBetweenTheirDays) {
   EXPECT_FALSE(IsLawful(VatMethod::FromTotalByCoefficient, At(2019, 10, 1)));
   EXPECT_FALSE(IsLawful(VatMethod::FromTotal, At(2019, 3, 31)));
   EXPECT_TRUE(IsLawful(VatMethod::FromTotal, At(2019, 4, 1)));
-  EXPECT_EQ(VatMethods().size(), 3U);
+  EXPECT_TRUE(IsLawful(VatMethod::FromBase, At(2004, 4, 30)));
+  EXPECT_TRUE(IsLawful(VatMethod::FromBase, At(2004, 5, 1)));
+  EXPECT_FALSE(IsLawful(VatMethod::FromBase, At(1992, 12, 31)));
+}
+
+// The first law of VAT ended on 30 April 2004: nothing later may name it.
+TEST(VatMethods, EachRowNamesALawOfItsDays) {
+  const Day second = At(2004, 5, 1);
+  for (const VatRate& rate : VatRates()) EXPECT_EQ(rate.last >= second && rate.law == "588/1992", false);
+  for (const VatMethodRow& row : VatMethods()) EXPECT_EQ(row.last >= second && row.law == "588/1992", false);
 }
 
 // The quotients that the tax administration published.
