@@ -45,7 +45,7 @@ MAY_USE: dict[str, set[str] | None] = {
     "ravo/xml": {"runtime", "codec", "platform", "frame"},
     "ravo/formout": {"runtime", "codec", "platform", "frame", "unicode"},
     "ravo/hostapi": {"runtime", "platform", "frame"},
-    "tools/ravo": {PUBLIC, "codec"},
+    "tools/ravo": {PUBLIC, "codec", "czech"},
 }
 SCANNED = ("ravo", "tools/ravo")
 

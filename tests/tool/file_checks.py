@@ -261,7 +261,7 @@ def check_damaged_files(program):
         yield from program.failures(row)
     file.write_bytes(b"VS,X\r\n0,\"a\r\nb\"\r\n1,c\r\n")
     yield from program.failures(
-        Row(["check", "--csv", file.name, "--column", "VS=vs"], NO, silent=True, out=("line 4\tVS\t1\n", "2 rows\n")))
+        Row(["check", "--csv", file.name, "--column", "VS=vs", "--suite"], NO, silent=True, out=("line 4\tVS\t1\n", "2 rows\n")))
     file.unlink()
 
 

@@ -2,8 +2,11 @@
 #include "checks.h"
 #include "commands.h"
 #include "csv_reader.h"
+#include "czech_day.h"
+#include "czech_kinds.h"
 #include "json_text.h"
 #include "kind_lines.h"
+#include "text.h"
 #include <ravo/RavoInterface.h>
 
 #include <memory>
@@ -14,6 +17,8 @@ namespace tool {
 namespace {
 
 struct CheckOptions {
+  CzechCheck czech;
+  bool suite = false;
   std::string kind;
   std::vector<std::string> values;
   std::string file;
@@ -23,23 +28,39 @@ struct CheckOptions {
   bool json = false;
 };
 
-std::string CheckKindName(const std::string& name) {
-  return FindCheckKind(name) ? std::string()
-                             : "'" + name + "' is not a kind; kinds are " + CheckKindNames(", ");
+std::string AllKindNames(std::string_view between) {
+  std::string names;
+  for (const CheckKind& kind : CzechKinds()) names.append(kind.name).append(between);
+  for (const CheckKind& kind : CheckKinds()) {
+    const bool is_named = FindCzechKind(kind.name) && FindCzechKind(kind.name)->name == kind.name;
+    if (!is_named) names.append(kind.name).append(between);
+  }
+  return names.substr(0, names.size() - between.size());
 }
 
-ColumnCheck ColumnOf(const std::string& text) {
+// The rule of this name: the country's, unless there is none or the suite's is asked for.
+const CheckKind* FindKind(const std::string& name, bool suite) {
+  const CheckKind* const czech = suite ? nullptr : FindCzechKind(name);
+  return czech ? czech : FindCheckKind(name);
+}
+
+std::string CheckKindName(const std::string& name) {
+  return FindKind(name, false) ? std::string()
+                               : "'" + name + "' is not a kind; kinds are " + AllKindNames(", ");
+}
+
+ColumnCheck ColumnOf(const std::string& text, bool suite) {
   const std::size_t equals = text.rfind('=');
   if (equals == std::string::npos) return {};
-  return {text.substr(0, equals), FindCheckKind(text.substr(equals + 1))};
+  return {text.substr(0, equals), FindKind(text.substr(equals + 1), suite)};
 }
 
 std::string CheckColumn(const std::string& text) {
-  if (ColumnOf(text).kind) return {};
-  return "'" + text + "' is not NAME=KIND; kinds are " + CheckKindNames(", ");
+  if (ColumnOf(text, false).kind) return {};
+  return "'" + text + "' is not NAME=KIND; kinds are " + AllKindNames(", ");
 }
 
-void CheckValues(const CheckOptions& options, Outcome& outcome) {
+void CheckSuiteValues(const CheckOptions& options, Outcome& outcome) {
   const CheckKind& kind = *FindCheckKind(options.kind);
   Json answers = Json::array();
   for (const std::string& value : options.values) {
@@ -50,6 +71,19 @@ void CheckValues(const CheckOptions& options, Outcome& outcome) {
     answers.push_back({{"value", value}, {"valid", verdict.valid}, {"remark", verdict.remark}});
   }
   if (options.json) outcome.out = JsonText(answers);
+}
+
+// The suite's rule if it is asked for or the country has none.
+void CheckValues(const CheckOptions& options, Outcome& outcome) {
+  if (FindKind(options.kind, options.suite) == nullptr) {
+    throw CLI::ValidationError(Text("check: the suite has no rule for {0}", {options.kind}));
+  }
+  if (options.suite || !FindCzechKind(options.kind)) return CheckSuiteValues(options, outcome);
+  CzechCheck check = options.czech;
+  check.kind = options.kind;
+  check.values = options.values;
+  check.json = options.json;
+  CheckCzechValues(check, outcome);
 }
 
 std::string FileText(const FileCheck& result) {
@@ -86,7 +120,7 @@ Json FileJson(const std::string& file, const FileCheck& result) {
 
 void CheckWholeFile(const CheckOptions& options, Outcome& outcome) {
   std::vector<ColumnCheck> columns;
-  for (const std::string& column : options.columns) columns.push_back(ColumnOf(column));
+  for (const std::string& column : options.columns) columns.push_back(ColumnOf(column, options.suite));
   try {
     const char delimiter = options.delimiter.empty() ? '\0' : options.delimiter.front();
     const FileCheck result = CheckFile(options.file, std::move(columns), delimiter, options.allow_empty);
@@ -107,14 +141,36 @@ void Run(const CheckOptions& options, Outcome& outcome) {
 }
 
 std::string CheckFooter() {
-  return "Kinds:\n" + KindLines(CheckKinds()) +
+  return Text("Kinds by the country's rules:") + "\n" + KindLines(CzechKinds()) + "\n" +
+         Text("Kinds by the suite's rules, for which --suite asks if there are both:") + "\n" +
+         KindLines(CheckKinds()) +
          "\n"
          "Exit status: 0 all values are valid, 1 a value is not, 2 wrong usage or an unusable file.\n"
          "\n"
          "Examples:\n"
-         "  ravo check banka 19-2000145399/0800\n"
+         "  ravo check ico 04625781 \"IČ: 270 82 440\"\n"
+         "  ravo check rc 880125/1680 --explain --on today\n"
+         "  ravo check account 19-2000145399/0800 --list built-in\n"
+         "  ravo check banka 19-2000145399/0800 --suite\n"
          "  ravo check ean 4006381333931 400638133393\n"
          "  ravo check --csv samples/ledger.csv --column \"Účet MD=ucet\" --column VS=vs --allow-empty\n";
+}
+
+void AddRuleOptions(CLI::App& command, CheckOptions& options) {
+  command.add_flag("--suite", options.suite, Text("Check as the suite's modules do"));
+  command.add_flag("--explain", options.czech.explain,
+                   Text("Also tell the rule, the code and what a value means"));
+  CLI::Option* list = command.add_option(
+      "--list", options.czech.list,
+      Text("Look banks up in this list, a file of the central bank's CSV form, or built-in"));
+  list->type_name("FILE");
+  command.add_option("--list-date", options.czech.list_date, Text("The day of the list; today by default"))
+      ->type_name("DATE")
+      ->check(CLI::Validator(CheckDay, ""))
+      ->needs(list);
+  command.add_option("--on", options.czech.on, Text("Refuse dates of birth after this day"))
+      ->type_name("DATE")
+      ->check(CLI::Validator(CheckDay, ""));
 }
 
 }  // namespace
@@ -124,7 +180,7 @@ void AddCheckCommand(CLI::App& program, Outcome& outcome) {
       program.add_subcommand("check", "Checks accounts, bank accounts, payment references and EAN codes");
   const auto options = std::make_shared<CheckOptions>();
   CLI::Option* kind =
-      command->add_option("KIND", options->kind, "The kind of the values: " + CheckKindNames(", "));
+      command->add_option("KIND", options->kind, "The kind of the values: " + AllKindNames(", "));
   kind->check(CLI::Validator(CheckKindName, ""));
   CLI::Option* values = command->add_option("VALUE", options->values, "The values to check");
   CLI::Option* file = command->add_option(
@@ -141,6 +197,7 @@ void AddCheckCommand(CLI::App& program, Outcome& outcome) {
       ->check(CLI::IsMember({";", ",", "\t", "|"}))
       ->needs(file);
   command->add_flag("--allow-empty", options->allow_empty, "Skip empty fields")->needs(file);
+  AddRuleOptions(*command, *options);
   command->add_flag("--json", options->json, "Write JSON");
   command->footer(CheckFooter());
   command->callback([options, &outcome] { Run(*options, outcome); });
