@@ -43,8 +43,7 @@ struct Account {
 
 namespace detail {
 
-/// The usual spelling in room of any size: what is copied from one room to another waits for what was just
-/// written there.
+/// The usual spelling in a text of any capacity. Made in place: a copy would stall on the bytes just stored.
 template <std::size_t capacity>
 [[nodiscard]] constexpr FixedText<capacity> AccountText(const Account& account) noexcept {
   FixedText<capacity> text;

@@ -37,16 +37,16 @@ struct BankAnswer {
 
 /// Returns whether `list` has the bank code `code`, and how far the list's day is from `day`.
 ///
-/// A list says nothing of other days than its own: the farther away, the less the answer is worth.
+/// A list says nothing about other days: the farther away, the less the answer is worth.
 [[nodiscard]] BankAnswer FindBank(const BankList& list, std::uint16_t code, Day day) noexcept;
 
 /// Reads a list in the central bank's CSV form into `room`, sorted by code; returns how many rows there are.
 ///
 /// `text` is UTF-8: a line of captions, then lines of code, name, BIC and "A" for the clearing system, with
 /// semicolons between them. Names and BICs are views into `text`. Refused, with the position in `text`:
-/// `BankLine`, `BankCode`, `BankTwice`, `BankRoom`, `BankEmpty`; `BankTwice` is
-/// at the name that stands later. A byte-order mark, quotes around a column,
-/// blanks at its ends and empty lines are passed over.
+/// `BankLine`, `BankCode`, `BankTwice`, `BankRoom`, `BankEmpty`; `BankTwice`
+/// is at the later name. Skips a byte-order mark, quotes around a column, blanks at its ends and empty
+/// lines.
 [[nodiscard]] Parsed<std::size_t> ReadBankList(std::string_view text, std::span<Bank> room) noexcept;
 
 }  // namespace ravo::czech

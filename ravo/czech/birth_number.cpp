@@ -81,7 +81,7 @@ detail::BirthNumberFault ReadKept(const Kept& kept, bool divided, Parsed<BirthNu
 template <class Unit>
 Parsed<BirthNumber> ParseBirthNumberIn(std::basic_string_view<Unit> text) noexcept {
   const auto kept = detail::Read<16>(text, kBirthNumberSpelling);
-  // Filled in where it is: a copy would wait for what was just stored.
+  // Filled in place: a copy would stall on the bytes just stored.
   Parsed<BirthNumber> parsed{{}, kept.code, kept.position};
   if (kept.code != Code::Correct) return parsed;
   const bool divided = !kept.digits_alone && kept.Size() > kSlashAt && kept.At(kSlashAt) == '/';

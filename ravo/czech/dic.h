@@ -8,7 +8,7 @@
 
 namespace ravo::czech {
 
-/// Whose number it is, as far as its digits tell.
+/// The kind of holder, as far as the digits tell.
 enum class DicForm : std::uint8_t {
   LegalEntity,  ///< eight digits, an IČO
   BirthNumber,  ///< a birth number of nine or ten digits

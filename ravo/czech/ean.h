@@ -16,7 +16,7 @@ struct Ean {
 /// Returns the number of goods in `text`, correct in form: its length, and the check digit by weights 3 and 1
 /// from the end on.
 ///
-/// Refused: `EanEmpty`, `EanCharacter`, `EanLength`, `EanChecksum`. Hyphens are passed over like blanks.
+/// Refused: `EanEmpty`, `EanCharacter`, `EanLength`, `EanChecksum`. Hyphens are skipped like blanks.
 [[nodiscard]] Parsed<Ean> ParseEan(std::string_view text) noexcept;
 [[nodiscard]] Parsed<Ean> ParseEan(std::u16string_view text) noexcept;
 

@@ -9,10 +9,10 @@
 #include <span>
 #include <string_view>
 
-/// Days of rest by law 245/2000, working days, and days on which terms end.
+/// Holidays by law 245/2000, working days, and the ends of terms.
 ///
-/// Days before 2000 are answered by the days of rest of law 93/1951 as it was since 1993, and marked as not
-/// verified; there are none here before 1993. Days are arguments, always: this room has no clock.
+/// Days from 1993 to 1999 have the days of rest of law 93/1951 and are marked as not verified; before 1993
+/// there are none. Days are always arguments: this room has no clock.
 namespace ravo::czech {
 
 /// The first day that is verified: 1 January 2000.

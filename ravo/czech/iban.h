@@ -18,7 +18,7 @@ struct Iban {
 ///
 /// The check digits are 02 to 98. Accounts of BE, CZ, ES, ME, NO and SK have check digits of their own, which
 /// must match too. Refused: `IbanEmpty`, `IbanCharacter`, `IbanCountry`, `IbanLength`, `IbanForm`,
-/// `IbanChecksum`, `IbanNational`. Hyphens and full stops are passed over like blanks.
+/// `IbanChecksum`, `IbanNational`. Hyphens and full stops are skipped like blanks.
 ///
 ///     ParseIban("CZ65 0800 0000 1920 0014 5399")
 [[nodiscard]] Parsed<Iban> ParseIban(std::string_view text) noexcept;

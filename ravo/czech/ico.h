@@ -16,8 +16,8 @@ struct Ico {
 /// Returns the IČO in `text`, correct in form: eight digits of which the last follows from the others.
 ///
 /// The weights are 8 to 2; the check digit is 11 less the remainder of the sum by 11, its last digit.
-/// Refused: `IcoEmpty`, `IcoCharacter`, `IcoLength`, `IcoChecksum`. Never throws, never allocates. Zeros left
-/// out at the beginning are missed: a number of seven digits is `IcoLength`.
+/// Refused: `IcoEmpty`, `IcoCharacter`, `IcoLength`, `IcoChecksum`. Never throws, never allocates. Leading
+/// zeros are a part of it: a number of seven digits is `IcoLength`.
 ///
 ///     ParseIco("IČ: 046 25 781")  // 04625781
 [[nodiscard]] Parsed<Ico> ParseIco(std::string_view text) noexcept;

@@ -17,7 +17,7 @@ struct Isbn {
 /// by modulus 10.
 ///
 /// Thirteen digits begin with 978 or with 979 (979-0 is music, not a book). Refused: `IsbnEmpty`,
-/// `IsbnCharacter`, `IsbnLength`, `IsbnPrefix`, `IsbnChecksum`. Hyphens are passed over like blanks. Whether
+/// `IsbnCharacter`, `IsbnLength`, `IsbnPrefix`, `IsbnChecksum`. Hyphens are skipped like blanks. Whether
 /// the group and the publisher exist is not asked.
 [[nodiscard]] Parsed<Isbn> ParseIsbn(std::string_view text) noexcept;
 [[nodiscard]] Parsed<Isbn> ParseIsbn(std::u16string_view text) noexcept;

@@ -8,7 +8,7 @@
 #include <span>
 #include <string_view>
 
-/// All kinds behind one door, for those who learn the kind while they run: the prompt, columns, other
+/// All kinds by number or name, for callers that learn the kind at run time: the prompt, columns, other
 /// languages.
 namespace ravo::czech {
 
@@ -28,7 +28,7 @@ enum class Kind : std::uint8_t {
 /// Returns the kind whose text is `text`, or nothing.
 [[nodiscard]] std::optional<Kind> KindOf(std::string_view text) noexcept;
 
-/// Returns what people call the kind, in UTF-8. Empty for a number that is no kind.
+/// Returns the name of the kind in UTF-8. Empty for a number that is no kind.
 [[nodiscard]] std::string_view KindName(Kind kind, Language language) noexcept;
 
 /// Returns the canonical form of `text` as that kind, or why it is not correct in form.

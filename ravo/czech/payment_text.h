@@ -21,8 +21,8 @@ struct FoundPayment {
 /// Returns the first account, IBAN or symbol that ends after `from`, or nothing.
 ///
 /// Accounts and IBANs are found by their form, symbols by their labels ("VS", "v. s.:", "variabilní symbol").
-/// Single blanks may divide groups: those of a symbol after the first have three digits. What a letter, a
-/// digit, a hyphen or a slash touches is a part of something else. An account without a prefix has at least
+/// Single blanks may divide groups: those of a symbol after the first have three digits. Digits next to
+/// a letter, a hyphen or a slash are a part of something else. An account without a prefix has at least
 /// five digits here, because "51/2026" is rather the number of a document.
 ///
 ///     FindPayment("VS 2026 000 579, 19-2000145399/0800")  // the symbol; the account is next, from its end

@@ -10,8 +10,7 @@
 #include <string_view>
 #include <type_traits>
 
-/// What all kinds share when they read an input: which characters count, which are passed over, where each
-/// was.
+/// How all kinds read an input: which characters they keep, which they skip, and where each was.
 ///
 /// An input is UTF-8 or UTF-16 as it is. A kind says in a `Spelling` which characters it keeps and which it
 /// skips; `Read` copies the kept ones, letters in upper case, into a small buffer, or says why not. Positions
@@ -29,7 +28,7 @@ inline constexpr Marks kHyphen = 8;   ///< hyphen, dashes, minus
 inline constexpr Marks kDot = 16;     ///< full stop
 inline constexpr Marks kSlash = 32;   ///< slash, fraction slash
 inline constexpr Marks kSign = 64;    ///< plus and asterisk
-inline constexpr Marks kOther = 128;  ///< whatever else, which no kind keeps or skips
+inline constexpr Marks kOther = 128;  ///< anything else: no kind keeps or skips it
 
 /// One character: what it is, what it is kept as, how many units it takes.
 struct Mark {
@@ -101,8 +100,8 @@ struct Spelling {
   Code length = Code::Correct;
   Marks keep = 0;
   Marks skip = kBlank;
-  /// What people write before it, in capitals without accents, dots and blanks; longer ones before their
-  /// beginnings.
+  /// What people write before it, in capitals without accents, dots and blanks; a label precedes its own
+  /// prefixes.
   std::array<std::string_view, 8> labels{};
 };
 
@@ -143,8 +142,8 @@ template <class Unit>
   return AfterLabel(text, spelling);
 }
 
-/// Reads an input of nothing but kept characters, as most are, and returns whether it is such a one. It has
-/// no label: those have letters, and a kind that keeps letters wants a divider after a label.
+/// Reads an input of kept characters alone, as most are; false for any other. It has no label: a label has
+/// letters, and a kind that keeps letters requires a divider after its label.
 template <std::size_t capacity, class Unit>
 [[nodiscard]] inline bool ReadClean(std::basic_string_view<Unit> text, const Spelling& spelling,
                                     Kept<capacity>& kept) noexcept {
@@ -161,14 +160,14 @@ template <std::size_t capacity, class Unit>
   return true;
 }
 
-/// Reads what has a label, blanks, or something that does not belong.
+/// Reads an input with a label, blanks or a character that does not belong.
 template <std::size_t capacity, class Unit>
 [[gnu::noinline]] void ReadMixed(std::basic_string_view<Unit> text, const Spelling& spelling,
                                  Kept<capacity>& kept) noexcept {
   kept.text = {};
   kept.digits_alone = false;
   kept.from = LabelEnd(text, spelling);
-  // Locals: a character stored through a pointer could be a part of any object.
+  // Locals: a character stored through a pointer could alias any object.
   std::size_t at = kept.from;
   std::size_t size = 0;
   Code code = Code::Correct;

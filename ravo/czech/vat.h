@@ -8,12 +8,12 @@
 #include <cstdint>
 #include <span>
 
-/// The tax of an amount, and what a document has by rates. All products are exact, in integers.
+/// VAT of an amount, and the recapitulation of a document by rates. All products are exact, in integers.
 ///
 /// The tax is rounded to the haléř, halves away from zero, so that a credit note is the mirror of its
 /// document. What the amount was (base or total) stays as it is, and the third is the rest: sum or
 /// difference. That matters at 12 %: of a total of 0.14 the tax is 1.5 haléře and the base 12.5; both rounded
-/// up would make 0.15. `half` tells of such amounts.
+/// up would make 0.15. `half` marks such amounts.
 namespace ravo::czech {
 
 /// Base, tax and total of an amount.
@@ -65,7 +65,7 @@ enum class VatPer : std::uint8_t {
   Line,      ///< of each line, then added
 };
 
-/// What a document has of one rate.
+/// The part of a document that has one rate.
 struct VatRow {
   VatRateKind rate = VatRateKind::Zero;  ///< which
   std::int32_t percent = 0;              ///< its percentage on the day
@@ -73,7 +73,7 @@ struct VatRow {
   std::size_t lines = 0;                 ///< how many lines have it; 0 if none
 };
 
-/// What a document has by rates, and in all.
+/// A document by rates, and as a whole.
 struct VatRecapitulation {
   std::array<VatRow, 4> rows{};  ///< by `VatRateKind`
   VatAmounts sum;                ///< of all rows

@@ -16,9 +16,9 @@ struct VatNumber {
 /// Returns the VAT number in `text`, correct in form: the code of one of the 27 countries, and its length and
 /// characters.
 ///
-/// Check digits of other countries are not looked at. A number from CZ is `ParseDic`'s, with its codes.
+/// Check digits of other countries are not checked. A number from CZ is `ParseDic`'s, with its codes.
 /// Refused: `VatEmpty`, `VatCharacter`, `VatCountry`, `VatLength`, `VatForm`. Greece is EL, not GR. Hyphens
-/// and full stops are passed over like blanks.
+/// and full stops are skipped like blanks.
 [[nodiscard]] Parsed<VatNumber> ParseVatNumber(std::string_view text) noexcept;
 [[nodiscard]] Parsed<VatNumber> ParseVatNumber(std::u16string_view text) noexcept;
 
