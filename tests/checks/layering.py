@@ -40,11 +40,12 @@ MAY_USE: dict[str, set[str] | None] = {
     CHARACTERS: {"runtime/export.h"},
     "ravo/utils": {"runtime", "codec", "platform", "frame", "unicode/characters", "utils/messages.inc"},
     "ravo/common": {"runtime", "platform", "frame", "catalogue", "utils"},
+    "ravo/czech": {"runtime"},
     "ravo/sysinfo": {"runtime", "platform", "frame", "common"},
     "ravo/xml": {"runtime", "codec", "platform", "frame"},
     "ravo/formout": {"runtime", "codec", "platform", "frame", "unicode"},
     "ravo/hostapi": {"runtime", "platform", "frame"},
-    "tools/ravo": {PUBLIC, "codec"},
+    "tools/ravo": {PUBLIC, "codec", "czech"},
 }
 SCANNED = ("ravo", "tools/ravo")
 

@@ -12,6 +12,7 @@ import tempfile
 from concurrent.futures import ThreadPoolExecutor
 
 from command_rows import ROWS
+from czech_checks import CZECH_ROWS, check_bank_lists
 from document_checks import check_forms, check_xml, check_xml_encodings, check_xml_samples, check_xml_unreadable
 from file_checks import (check_colours, check_conversions, check_full_device, check_pipes, check_report_file,
                          check_report_json, check_sorted_files, check_sums, check_unreadable)
@@ -54,6 +55,7 @@ CHECKS = (
     check_large_tables,
     check_terminal_tables,
     check_sorted_files,
+    check_bank_lists,
     check_xml,
     check_xml_encodings,
     check_xml_unreadable,
@@ -65,7 +67,7 @@ CHECKS = (
 def tested(program):
     # An emulator mostly waits for its servers.
     with ThreadPoolExecutor(max_workers=4 if program.emulated else 2) as pool:
-        for failures in pool.map(program.failures, ROWS):
+        for failures in pool.map(program.failures, ROWS + CZECH_ROWS):
             yield from failures
     for check in CHECKS:
         yield from check(program)

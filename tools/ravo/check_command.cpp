@@ -1,6 +1,8 @@
 #include "check_file.h"
 #include "checks.h"
 #include "commands.h"
+#include "czech_day.h"
+#include "czech_kinds.h"
 #include "json_text.h"
 #include "kind_lines.h"
 #include "table_text.h"
@@ -16,6 +18,8 @@ namespace tool {
 namespace {
 
 struct CheckOptions {
+  CzechCheck czech;
+  bool suite = false;
   std::string kind;
   std::vector<std::string> values;
   std::vector<std::string> files;
@@ -30,23 +34,39 @@ struct CheckOptions {
   bool json = false;
 };
 
-std::string CheckKindName(const std::string& name) {
-  return FindCheckKind(name) ? std::string()
-                             : "'" + name + "' is not a kind; kinds are " + CheckKindNames(", ");
+std::string AllKindNames(std::string_view between) {
+  std::string names;
+  for (const CheckKind& kind : CzechKinds()) names.append(kind.name).append(between);
+  for (const CheckKind& kind : CheckKinds()) {
+    const bool is_named = FindCzechKind(kind.name) && FindCzechKind(kind.name)->name == kind.name;
+    if (!is_named) names.append(kind.name).append(between);
+  }
+  return names.substr(0, names.size() - between.size());
 }
 
-ColumnRequest ColumnOf(const std::string& text) {
+// The rule of this name: the country's, unless there is none or the suite's is asked for.
+const CheckKind* FindKind(const std::string& name, bool suite) {
+  const CheckKind* const czech = suite ? nullptr : FindCzechKind(name);
+  return czech ? czech : FindCheckKind(name);
+}
+
+std::string CheckKindName(const std::string& name) {
+  return FindKind(name, false) ? std::string()
+                               : "'" + name + "' is not a kind; kinds are " + AllKindNames(", ");
+}
+
+ColumnRequest ColumnOf(const std::string& text, bool suite) {
   const std::size_t equals = text.rfind('=');
   if (equals == std::string::npos) return {};
-  return {text.substr(0, equals), FindCheckKind(text.substr(equals + 1))};
+  return {text.substr(0, equals), FindKind(text.substr(equals + 1), suite)};
 }
 
 std::string CheckColumn(const std::string& text) {
-  if (ColumnOf(text).kind) return {};
-  return "'" + text + "' is not NAME=KIND; kinds are " + CheckKindNames(", ");
+  if (ColumnOf(text, false).kind) return {};
+  return "'" + text + "' is not NAME=KIND; kinds are " + AllKindNames(", ");
 }
 
-void CheckValues(const CheckOptions& options, Outcome& outcome) {
+void CheckSuiteValues(const CheckOptions& options, Outcome& outcome) {
   const CheckKind& kind = *FindCheckKind(options.kind);
   Json answers = Json::array();
   for (const std::string& value : options.values) {
@@ -57,6 +77,19 @@ void CheckValues(const CheckOptions& options, Outcome& outcome) {
     answers.push_back({{"value", value}, {"valid", verdict.valid}, {"remark", verdict.remark}});
   }
   if (options.json) outcome.out = JsonText(answers);
+}
+
+// The suite's rule if it is asked for or the country has none.
+void CheckValues(const CheckOptions& options, Outcome& outcome) {
+  if (FindKind(options.kind, options.suite) == nullptr) {
+    throw CLI::ValidationError(Text("check: the suite has no rule for {0}", {options.kind}));
+  }
+  if (options.suite || !FindCzechKind(options.kind)) return CheckSuiteValues(options, outcome);
+  CzechCheck check = options.czech;
+  check.kind = options.kind;
+  check.values = options.values;
+  check.json = options.json;
+  CheckCzechValues(check, outcome);
 }
 
 // Throws `CLI::ValidationError` for an encoding that no table can have.
@@ -80,7 +113,7 @@ std::string CheckOutputName(const std::string& name) {
 TableJob JobOf(const CheckOptions& options) {
   TableJob job;
   job.files = options.files;
-  for (const std::string& column : options.columns) job.columns.push_back(ColumnOf(column));
+  for (const std::string& column : options.columns) job.columns.push_back(ColumnOf(column, options.suite));
   if (!options.delimiter.empty())
     job.delimiter = options.delimiter == "tab" ? '\t' : options.delimiter.front();
   job.encoding = EncodingOf(options.encoding);
@@ -103,12 +136,17 @@ void Run(const CheckOptions& options, Outcome& outcome) {
 }
 
 std::string CheckFooter() {
-  return "Kinds:\n" + KindLines(CheckKinds()) +
+  return Text("Kinds by the country's rules:") + "\n" + KindLines(CzechKinds()) + "\n" +
+         Text("Kinds by the suite's rules, for which --suite asks if there are both:") + "\n" +
+         KindLines(CheckKinds()) +
          "\n"
          "Exit status: 0 nothing found, 1 findings, 2 wrong usage or some of the work could not be done.\n"
          "\n"
          "Examples:\n"
-         "  ravo check banka 19-2000145399/0800\n"
+         "  ravo check ico 04625781 \"IČ: 270 82 440\"\n"
+         "  ravo check rc 880125/1680 --explain --on today\n"
+         "  ravo check account 19-2000145399/0800 --list built-in\n"
+         "  ravo check banka 19-2000145399/0800 --suite\n"
          "  ravo check ean 4006381333931 400638133393\n"
          "  ravo check --csv samples/ledger.csv --column \"Účet MD=ucet\" --column VS=vs --allow-empty\n";
 }
@@ -145,6 +183,23 @@ void AddTableOptions(CLI::App& command, CheckOptions& options, CLI::Option* file
       ->needs(file);
 }
 
+void AddRuleOptions(CLI::App& command, CheckOptions& options) {
+  command.add_flag("--suite", options.suite, Text("Check as the suite's modules do"));
+  command.add_flag("--explain", options.czech.explain,
+                   Text("Also tell the rule, the code and what a value means"));
+  CLI::Option* list = command.add_option(
+      "--list", options.czech.list,
+      Text("Look banks up in this list, a file of the central bank's CSV form, or built-in"));
+  list->type_name("FILE");
+  command.add_option("--list-date", options.czech.list_date, Text("The day of the list; today by default"))
+      ->type_name("DATE")
+      ->check(CLI::Validator(CheckDay, ""))
+      ->needs(list);
+  command.add_option("--on", options.czech.on, Text("Refuse dates of birth after this day"))
+      ->type_name("DATE")
+      ->check(CLI::Validator(CheckDay, ""));
+}
+
 }  // namespace
 
 void AddCheckCommand(CLI::App& program, Outcome& outcome) {
@@ -152,7 +207,7 @@ void AddCheckCommand(CLI::App& program, Outcome& outcome) {
       program.add_subcommand("check", "Checks accounts, bank accounts, payment references and EAN codes");
   const auto options = std::make_shared<CheckOptions>();
   CLI::Option* kind =
-      command->add_option("KIND", options->kind, "The kind of the values: " + CheckKindNames(", "));
+      command->add_option("KIND", options->kind, "The kind of the values: " + AllKindNames(", "));
   kind->check(CLI::Validator(CheckKindName, ""));
   CLI::Option* values = command->add_option("VALUE", options->values, "The values to check");
   CLI::Option* file =
@@ -166,6 +221,7 @@ void AddCheckCommand(CLI::App& program, Outcome& outcome) {
       ->check(CLI::Validator(CheckColumn, ""))
       ->needs(file);
   AddTableOptions(*command, *options, file);
+  AddRuleOptions(*command, *options);
   command->add_flag("--json", options->json, "Write JSON");
   command->footer(CheckFooter());
   command->callback([options, &outcome] { Run(*options, outcome); });

@@ -30,7 +30,8 @@ std::vector<Theme> Themes() {
   return {
       {"The suite", {AddTableCommand, AddCaptionsCommand, AddInterfacesCommand}},
       {"Accounting",
-       {AddCheckCommand, AddRoundCommand, AddDateCommand, AddAddressCommand, AddBackupNameCommand}},
+       {AddCheckCommand, AddRoundCommand, AddVatCommand, AddDateCommand, AddDueCommand, AddHolidaysCommand,
+        AddAddressCommand, AddBackupNameCommand}},
       {"Documents", {AddXmlCommand, AddFormCommand}},
       {"Characters and texts",
        {AddCharCommand, AddSortCommand, AddMatchCommand, AddUrlCommand, AddRandomCommand}},

@@ -1,6 +1,10 @@
 #include "reasons.h"
 
+#include "czech_kinds.h"
 #include "text.h"
+
+#include <algorithm>
+#include <iterator>
 
 namespace tool {
 namespace {
@@ -11,7 +15,7 @@ struct ReasonRow {
 };
 
 // In the order of Reason.
-constexpr ReasonRow kRows[kReasons] = {
+constexpr ReasonRow kRows[kOwnReasons] = {
     {"invalid", ToTranslate("not valid")},
     {"empty", ToTranslate("empty")},
     {"too-long", ToTranslate("too long")},
@@ -23,13 +27,31 @@ constexpr ReasonRow kRows[kReasons] = {
     {"wrong-byte", ToTranslate("a byte that is not of the encoding")},
 };
 
-const ReasonRow& RowOf(Reason reason) { return kRows[static_cast<std::size_t>(reason)]; }
+constexpr ravo::czech::Code kCzechCodes[] = {
+#define RAVO_REASON(number, name, text, sentence, english) ravo::czech::Code::name,
+#include <ravo/czech/reasons.inc>
+#undef RAVO_REASON
+};
+
+std::size_t PlaceOf(Reason reason) { return static_cast<std::size_t>(reason); }
 
 }  // namespace
 
-std::string_view CodeOf(Reason reason) noexcept { return RowOf(reason).code; }
+Reason ReasonOf(ravo::czech::Code code) noexcept {
+  const auto* const found = std::ranges::lower_bound(kCzechCodes, code);
+  return static_cast<Reason>(kOwnReasons + static_cast<std::size_t>(found - std::begin(kCzechCodes)));
+}
 
-std::string Described(Reason reason) { return Text(RowOf(reason).text); }
+std::string_view CodeOf(Reason reason) noexcept {
+  const std::size_t place = PlaceOf(reason);
+  return place < kOwnReasons ? kRows[place].code : ravo::czech::CodeText(kCzechCodes[place - kOwnReasons]);
+}
+
+std::string Described(Reason reason) {
+  const std::size_t place = PlaceOf(reason);
+  if (place < kOwnReasons) return Text(kRows[place].text);
+  return std::string(ravo::czech::Sentence(kCzechCodes[place - kOwnReasons], UserLanguage()));
+}
 
 std::string DescribedRagged(std::size_t fields, std::size_t wanted) {
   return TextOf(static_cast<std::int64_t>(fields), "one field, not {1}", "{0} fields, not {1}",

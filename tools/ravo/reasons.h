@@ -1,5 +1,7 @@
 #pragma once
 
+#include <ravo/czech/reason.h>
+
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -7,7 +9,8 @@
 
 namespace tool {
 
-/// Why a value or a row of a table is a finding.
+/// Why a value or a row of a table is a finding; the country's rules add theirs, one for each code, behind
+/// these.
 enum class Reason : std::uint8_t {
   Invalid,
   Empty,
@@ -21,7 +24,16 @@ enum class Reason : std::uint8_t {
   WrongByte,
 };
 
-inline constexpr std::size_t kReasons = 9;
+inline constexpr std::size_t kOwnReasons = 9;
+#define RAVO_REASON(number, name, text, czech, english) +1
+inline constexpr std::size_t kReasons = kOwnReasons
+#include <ravo/czech/reasons.inc>
+    ;
+#undef RAVO_REASON
+static_assert(kReasons < 256);
+
+/// Returns the reason of a refusal by the country's rules.
+[[nodiscard]] Reason ReasonOf(ravo::czech::Code code) noexcept;
 
 /// Returns the code of a reason for scripts; it never changes and is never translated.
 [[nodiscard]] std::string_view CodeOf(Reason reason) noexcept;

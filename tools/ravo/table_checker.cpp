@@ -1,6 +1,7 @@
 #include "table_checker.h"
 
 #include "text.h"
+#include <ravo/RavoInterface.h>
 
 #include <cstdio>
 #include <utility>
@@ -13,9 +14,15 @@ using Fate = OpeningQuote::Fate;
 // Findings of a block are written early from this size on.
 constexpr std::size_t kLargeLines = std::size_t{512} << 10;
 
-// Widens a value byte by byte: the checks accept only ASCII, and no other byte becomes ASCII.
+// Widens ASCII byte by byte.
 void Widen(const char* bytes, std::size_t size, char16_t* to) {
   for (std::size_t i = 0; i < size; ++i) to[i] = static_cast<unsigned char>(bytes[i]);
+}
+
+bool IsAscii(std::string_view bytes) {
+  unsigned char all = 0;
+  for (const char byte : bytes) all |= static_cast<unsigned char>(byte);
+  return all < 0x80;
 }
 
 std::string HexByte(char byte) {
@@ -76,12 +83,17 @@ void TableChecker::CheckBytes() {
 void TableChecker::CheckField(ColumnCheck& column, const TableField& field) {
   if (field.bytes.empty() && rules_.allow_empty) return;
   const std::string_view value = ValueOf(field, unescaped_);
-  const Verdict verdict = column.check(field.doubled ? Widened(value) : WidenedInBlock(value));
+  const Verdict verdict = column.check(TextOf(value, field));
   if (verdict.valid) {
     ++column.counts.valid;
   } else {
     Report(column, value, verdict);
   }
+}
+
+std::u16string_view TableChecker::TextOf(std::string_view value, const TableField& field) {
+  if (!IsAscii(value)) return long_ = ravo::FromUtf8(rules_.text->Utf8(value));
+  return field.doubled ? Widened(value) : WidenedInBlock(value);
 }
 
 // Most values are short; with the bytes past them, their length costs no branches.

@@ -45,6 +45,7 @@ class TableChecker {
   void CheckRow();
   void CheckBytes();
   void CheckField(ColumnCheck& column, const TableField& field);
+  [[nodiscard]] std::u16string_view TextOf(std::string_view value, const TableField& field);
   [[nodiscard]] std::u16string_view WidenedInBlock(std::string_view value);
   [[nodiscard]] std::u16string_view Widened(std::string_view value);
   void Report(ColumnCheck& column, std::string_view value, const Verdict& verdict);
