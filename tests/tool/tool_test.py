@@ -13,11 +13,14 @@ from concurrent.futures import ThreadPoolExecutor
 
 from command_rows import ROWS
 from czech_checks import CZECH_ROWS, check_bank_lists
-from document_checks import check_forms, check_xml, check_xml_encodings, check_xml_samples, check_xml_unreadable
+from document_checks import (check_forms, check_xml, check_xml_edits, check_xml_encodings, check_xml_samples, check_xml_sizes,
+                             check_xml_targets, check_xml_unreadable)
 from file_checks import (check_colours, check_conversions, check_full_device, check_pipes, check_report_file,
                          check_report_json, check_sorted_files, check_sums, check_unreadable)
 from harness import NO, SKIPPED, YES, Program, Row, differs
+from lossless_checks import check_lossless
 from long_work_checks import check_interruption, check_progress, check_streaming
+from survival_checks import check_random_survival, check_survival
 from table_checks import (check_damaged_tables, check_full_output, check_large_tables, check_long_values, check_quoted_tables,
                           check_split_tables, check_table_encodings, check_table_names, check_terminal_tables)
 
@@ -57,10 +60,16 @@ CHECKS = (
     check_sorted_files,
     check_bank_lists,
     check_xml,
+    check_xml_edits,
+    check_xml_targets,
+    check_xml_sizes,
     check_xml_encodings,
     check_xml_unreadable,
     check_xml_samples,
     check_forms,
+    check_lossless,
+    check_survival,
+    check_random_survival,
 )
 
 

@@ -248,11 +248,6 @@ Json CzechFindingJson(czech::Kind kind, const std::string& value, const CzechFin
 
 }  // namespace
 
-// The translation of the language's code is the code of the language that it is translated to.
-czech::Language UserLanguage() {
-  return Text("en") == "cs" ? czech::Language::Czech : czech::Language::English;
-}
-
 std::span<const CheckKind> CzechKinds() { return kCzechKinds; }
 
 const CheckKind* FindCzechKind(std::string_view name) {

@@ -2,7 +2,7 @@
 
 #include "checks.h"
 #include "outcome.h"
-#include <ravo/czech/reason.h>
+#include "user_language.h"
 
 #include <span>
 #include <string>
@@ -10,9 +10,6 @@
 #include <vector>
 
 namespace tool {
-
-/// Returns the language in which the room of Czech checks answers the user.
-[[nodiscard]] ravo::czech::Language UserLanguage();
 
 /// Returns the kinds by the country's rules, in the order of the help text.
 [[nodiscard]] std::span<const CheckKind> CzechKinds();

@@ -1,7 +1,7 @@
 #include "reasons.h"
 
-#include "czech_kinds.h"
 #include "text.h"
+#include "user_language.h"
 
 #include <algorithm>
 #include <iterator>
