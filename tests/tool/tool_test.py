@@ -17,6 +17,7 @@ from file_checks import (check_colours, check_conversions, check_damaged_files, 
                          check_report_json, check_sorted_files, check_sums, check_unreadable)
 from harness import NO, SKIPPED, YES, Program, Row, differs
 from long_work_checks import check_interruption, check_progress, check_streaming
+from round_checks import check_rounded_columns, check_rounding, check_suite_limits, check_vat_rules
 
 # Rows that the harness itself must reject, each for the named reason.
 MUST_FAIL = [
@@ -49,6 +50,10 @@ CHECKS = (
     check_xml_unreadable,
     check_xml_samples,
     check_forms,
+    check_rounding,
+    check_vat_rules,
+    check_suite_limits,
+    check_rounded_columns,
 )
 
 
