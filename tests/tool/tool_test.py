@@ -12,6 +12,7 @@ import tempfile
 from concurrent.futures import ThreadPoolExecutor
 
 from command_rows import ROWS
+from date_checks import check_dates
 from document_checks import check_forms, check_xml, check_xml_encodings, check_xml_samples, check_xml_unreadable
 from file_checks import (check_colours, check_conversions, check_damaged_files, check_full_device, check_pipes, check_report_file,
                          check_report_json, check_sorted_files, check_sums, check_unreadable)
@@ -50,6 +51,7 @@ CHECKS = (
     check_xml_unreadable,
     check_xml_samples,
     check_forms,
+    check_dates,
     check_rounding,
     check_vat_rules,
     check_suite_limits,

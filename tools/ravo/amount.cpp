@@ -48,14 +48,14 @@ bool IsCrowns(std::string_view unit) {
 }
 
 // The parts of a text around its digits and separators.
-struct Parts {
+struct AmountParts {
   Notation notation;
   bool is_negative = false;
   bool has_dash = false;
   std::string_view body;
 };
 
-void TakeSign(std::string_view& text, Parts& parts) {
+void TakeSign(std::string_view& text, AmountParts& parts) {
   const bool is_wide = text.starts_with(kMinus);
   parts.is_negative = is_wide || text.starts_with('-');
   if (is_wide) parts.notation.minus = kMinus;
@@ -64,17 +64,17 @@ void TakeSign(std::string_view& text, Parts& parts) {
 }
 
 // Takes the dash of "12,-", which has no decimals.
-void TakeDash(std::string_view& after, Parts& parts) {
+void TakeDash(std::string_view& after, AmountParts& parts) {
   const std::string_view dash = after.starts_with(',') ? LeadingOf(after.substr(1), kDashes) : "";
   parts.has_dash = !dash.empty();
   if (parts.has_dash) after.remove_prefix(1 + dash.size());
 }
 
-std::optional<Parts> PartsOf(std::string_view text) {
+std::optional<AmountParts> SplitAmount(std::string_view text) {
   const std::size_t first = std::min(text.find_first_of("0123456789.,+-"), text.find(kMinus));
   const std::size_t last = text.find_last_of(kDigits);
   if (last == std::string_view::npos || first > last) return {};
-  Parts parts;
+  AmountParts parts;
   std::string_view after = text.substr(last + 1);
   parts.notation.before = text.substr(0, first);
   parts.body = text.substr(first, last + 1 - first);
@@ -86,13 +86,13 @@ std::optional<Parts> PartsOf(std::string_view text) {
 }
 
 // A body split at its separators.
-struct Pieces {
+struct AmountPieces {
   std::vector<std::string_view> digits;
   std::vector<std::string_view> separators;
 };
 
-std::optional<Pieces> PiecesOf(std::string_view body) {
-  Pieces pieces;
+std::optional<AmountPieces> SplitDigits(std::string_view body) {
+  AmountPieces pieces;
   for (;;) {
     const std::size_t length = std::min(body.find_first_not_of(kDigits), body.size());
     pieces.digits.push_back(body.substr(0, length));
@@ -109,7 +109,7 @@ std::optional<Pieces> PiecesOf(std::string_view body) {
 bool IsPoint(std::string_view separator) { return separator == "." || separator == ","; }
 
 // The last separator is the decimal one unless it is a blank or one of several of its kind.
-bool HasDecimals(const Pieces& pieces) {
+bool HasDecimals(const AmountPieces& pieces) {
   return !pieces.separators.empty() && IsPoint(pieces.separators.back()) &&
          std::ranges::count(pieces.separators, pieces.separators.back()) == 1;
 }
@@ -121,7 +121,7 @@ bool AreGroups(std::span<const std::string_view> digits, std::span<const std::st
          std::ranges::all_of(digits.subspan(1), [](auto group) { return group.size() == 3; });
 }
 
-char DecimalOf(const Pieces& pieces, const Parts& parts, bool has_decimals) {
+char DecimalOf(const AmountPieces& pieces, const AmountParts& parts, bool has_decimals) {
   const Notation& notation = parts.notation;
   if (has_decimals) return pieces.separators.back().front();
   if (parts.has_dash) return ',';
@@ -129,7 +129,7 @@ char DecimalOf(const Pieces& pieces, const Parts& parts, bool has_decimals) {
   return IsCrowns(notation.before) || IsCrowns(notation.after) ? ',' : '.';
 }
 
-bool IsAmbiguous(const Pieces& pieces, const Notation& notation) {
+bool IsAmbiguous(const AmountPieces& pieces, const Notation& notation) {
   return pieces.separators.size() == 1 && pieces.separators.front() == "." && pieces.digits[1].size() == 3 &&
          !pieces.digits[0].empty() && pieces.digits[0].size() <= 3 && pieces.digits[0] != "0" &&
          (IsCrowns(notation.before) || IsCrowns(notation.after));
@@ -139,7 +139,7 @@ std::string_view WithoutTrailingZeros(std::string_view digits) {
   return digits.substr(0, digits.find_last_not_of('0') + 1);
 }
 
-std::variant<Amount, AmountFault> AmountOf(Parts parts, std::string digits) {
+std::variant<Amount, AmountFault> AmountOf(AmountParts parts, std::string digits) {
   // The digits keep their sign, so the smallest amount is read within 64 bits.
   if (parts.is_negative) digits.insert(0, 1, '-');
   std::int64_t raw = 0;
@@ -151,8 +151,8 @@ std::variant<Amount, AmountFault> AmountOf(Parts parts, std::string digits) {
 }  // namespace
 
 std::variant<Amount, AmountFault> ReadAmount(std::string_view utf8) {
-  std::optional<Parts> parts = PartsOf(utf8);
-  const std::optional<Pieces> pieces = parts ? PiecesOf(parts->body) : std::nullopt;
+  std::optional<AmountParts> parts = SplitAmount(utf8);
+  const std::optional<AmountPieces> pieces = parts ? SplitDigits(parts->body) : std::nullopt;
   if (!pieces) return AmountFault::NotAnAmount;
   const bool has_decimals = HasDecimals(*pieces);
   const std::span digits(pieces->digits);

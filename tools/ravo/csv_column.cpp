@@ -13,9 +13,9 @@
 namespace tool {
 namespace {
 
-constexpr std::string_view kMark = "\xEF\xBB\xBF";
+constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
 
-struct Field {
+struct FieldPlace {
   std::size_t begin = 0;
   std::size_t end = 0;  // with its quotes
   bool quoted = false;
@@ -24,11 +24,12 @@ struct Field {
 bool IsLineEnd(char byte) { return byte == '\n' || byte == '\r'; }
 
 // Reads the rows of a table in memory; a field is quoted only if its closing quote ends it.
-class Rows {
+class RowsInMemory {
  public:
-  Rows(std::string_view text, char delimiter, std::size_t at) : text_(text), delimiter_(delimiter), at_(at) {}
+  RowsInMemory(std::string_view text, char delimiter, std::size_t at)
+      : text_(text), delimiter_(delimiter), at_(at) {}
 
-  [[nodiscard]] bool Next(std::vector<Field>& fields) {
+  [[nodiscard]] bool Next(std::vector<FieldPlace>& fields) {
     SkipLineEnds();
     if (at_ == text_.size()) return false;
     row_line_ = line_;
@@ -48,7 +49,7 @@ class Rows {
     return at == text_.size() || text_[at] == delimiter_ || IsLineEnd(text_[at]);
   }
 
-  Field NextField() {
+  FieldPlace NextField() {
     const std::size_t begin = at_;
     if (const std::size_t end = QuotedEnd(); end != begin) return {begin, at_ = end, true};
     while (!EndsField(at_)) ++at_;
@@ -83,7 +84,7 @@ class Rows {
   std::size_t row_line_ = 1;
 };
 
-std::string ValueOf(std::string_view table, const Field& field) {
+std::string ValueAt(std::string_view table, const FieldPlace& field) {
   std::string value(table.substr(field.begin, field.end - field.begin));
   if (!field.quoted) return value;
   value = value.substr(1, value.size() - 2);
@@ -93,7 +94,7 @@ std::string ValueOf(std::string_view table, const Field& field) {
 }
 
 // A value as a field, in quotes if it was or has to be.
-std::string FieldOf(const std::string& value, char delimiter, bool quoted) {
+std::string WrittenField(const std::string& value, char delimiter, bool quoted) {
   const char special[] = {delimiter, '"', '\r', '\n'};
   if (!quoted && value.find_first_of(std::string_view(special, 4)) == std::string::npos) return value;
   std::string field = "\"";
@@ -102,45 +103,45 @@ std::string FieldOf(const std::string& value, char delimiter, bool quoted) {
 }
 
 // The most frequent of the usual delimiters in the first line.
-char DelimiterOf(std::string_view table) {
+char LikelyDelimiter(std::string_view table) {
   constexpr std::string_view kDelimiters = ";,\t|";
   const std::string_view line = table.substr(0, table.find_first_of("\r\n"));
   return *std::ranges::max_element(kDelimiters, {},
                                    [&](char each) { return std::ranges::count(line, each); });
 }
 
-std::size_t NumberOf(const std::string& name) {
+std::size_t ColumnNumber(const std::string& name) {
   std::size_t number = 0;
   const auto [end, error] = std::from_chars(name.data(), name.data() + name.size(), number);
   return error == std::errc() && end == name.data() + name.size() ? number : 0;
 }
 
-std::string Listed(const std::vector<std::string>& names) {
+std::string ListOfNames(const std::vector<std::string>& names) {
   std::string list;
   for (const std::string& name : names) list += (list.empty() ? "" : ", ") + name;
   return list;
 }
 
-std::size_t IndexOf(const std::vector<std::string>& names, const std::string& name, char delimiter) {
+std::size_t IndexOfColumn(const std::vector<std::string>& names, const std::string& name, char delimiter) {
   const auto count = std::ranges::count(names, name);
   if (count > 1)
     throw std::runtime_error(Text("several columns have the name '{0}'; give the number", {name}));
   if (count == 1) return static_cast<std::size_t>(std::ranges::find(names, name) - names.begin());
-  const std::size_t number = NumberOf(name);
+  const std::size_t number = ColumnNumber(name);
   if (number >= 1 && number <= names.size()) return number - 1;
   const std::string shown = delimiter == '\t' ? "\\t" : std::string(1, delimiter);
   throw std::runtime_error(Text("there is no column '{0}'; the columns, separated by '{1}', are {2}",
-                                {name, shown, Listed(names)}));
+                                {name, shown, ListOfNames(names)}));
 }
 
-std::vector<std::string> NamesOf(std::string_view table, const std::vector<Field>& fields) {
+std::vector<std::string> NamesOfColumns(std::string_view table, const std::vector<FieldPlace>& fields) {
   std::vector<std::string> names;
-  for (const Field& field : fields) names.push_back(ForeignText(ValueOf(table, field)));
+  for (const FieldPlace& field : fields) names.push_back(ForeignText(ValueAt(table, field)));
   return names;
 }
 
 // A new value in the encoding of the old one.
-std::string Encoded(const std::string& utf8, const std::string& old_bytes, const std::string& old_utf8) {
+std::string EncodedLike(const std::string& utf8, const std::string& old_bytes, const std::string& old_utf8) {
   constexpr std::uint32_t kCodePage = 1250;
   return old_bytes == old_utf8 ? utf8 : ravo::ToCodePage(ravo::FromUtf8(utf8), kCodePage);
 }
@@ -151,11 +152,11 @@ std::string ChangeCsvColumn(
     std::string_view table, const CsvColumn& column,
     const std::function<std::optional<std::string>(std::size_t line, const std::string& value)>& change,
     const std::function<void(std::size_t line)>& missing) {
-  const char delimiter = column.delimiter == '\0' ? DelimiterOf(table) : column.delimiter;
-  Rows rows(table, delimiter, table.starts_with(kMark) ? kMark.size() : 0);
-  std::vector<Field> fields;
+  const char delimiter = column.delimiter == '\0' ? LikelyDelimiter(table) : column.delimiter;
+  RowsInMemory rows(table, delimiter, table.starts_with(kUtf8Mark) ? kUtf8Mark.size() : 0);
+  std::vector<FieldPlace> fields;
   if (!rows.Next(fields)) throw std::runtime_error(Text("there is no first row with column names"));
-  const std::size_t index = IndexOf(NamesOf(table, fields), column.name, delimiter);
+  const std::size_t index = IndexOfColumn(NamesOfColumns(table, fields), column.name, delimiter);
   std::string changed;
   std::size_t copied = 0;
   while (rows.Next(fields)) {
@@ -163,12 +164,12 @@ std::string ChangeCsvColumn(
       missing(rows.Line());
       continue;
     }
-    const std::string bytes = ValueOf(table, fields[index]);
+    const std::string bytes = ValueAt(table, fields[index]);
     const std::string value = ForeignText(bytes);
     const std::optional<std::string> next = change(rows.Line(), value);
     if (!next) continue;
     changed += table.substr(copied, fields[index].begin - copied);
-    changed += FieldOf(Encoded(*next, bytes, value), delimiter, fields[index].quoted);
+    changed += WrittenField(EncodedLike(*next, bytes, value), delimiter, fields[index].quoted);
     copied = fields[index].end;
   }
   return changed.append(table.substr(copied));
