@@ -4,7 +4,7 @@ import pathlib
 import random
 import re
 
-from harness import NO, WRONG_USAGE, Row, as_json, differs, lines, without
+from harness import NO, WRONG_USAGE, YES, Row, as_json, differs, lines, without
 
 
 def table_rows(rows):
@@ -64,6 +64,36 @@ LEDGER_FAULTS = (
     "line 18\tÚčet MD\t50\nline 59\tVS\t2026000579\nline 104\tProtiúčet\t19-2000145398/0800\nline 241\tVS\t20260024O7\n"
     "300 rows\nÚčet MD (ucet): 299 valid, 1 not\nVS (vs): 268 valid, 2 not\nProtiúčet (banka): 237 valid, 1 not\n"
 )
+
+
+# A kind, a value, why it is not valid: the code, the position and the sentence.
+INVALID_VALUES = [
+    ("ucet", "", "empty", None, "the value is empty"),
+    ("ucet", "31", "too-short", None, "an account has 3 to 6 digits"),
+    ("ucet", "3110000", "too-long", None, "an account has 3 to 6 digits"),
+    ("ucet", "31x1000000", "character", 3, "'x' at position 3 is no digit"),
+    ("ucet", "č11", "character", 1, "'č' at position 1 is no digit"),
+    ("ucet", "\U0001f60011", "character", 1, "'\U0001f600' at position 1 is no digit"),
+    ("ucet", "31\U0001f6001 ", "character", 3, "'\U0001f600' at position 3 is no digit"),
+    ("su", "31", "too-short", None, "a synthetic account has 3 digits"),
+    ("su", "3111", "too-long", None, "a synthetic account has 3 digits"),
+    ("su", "31a", "character", 3, "'a' at position 3 is no digit"),
+    ("au", "1000", "too-long", None, "an analytic account has at most 3 digits"),
+    ("au", " 1", "character", 1, "' ' at position 1 is no digit"),
+    ("banka", "", "empty", None, "the value is empty"),
+    ("banka", "/0800", "no-digits", None, "there is no digit before the bank code"),
+    ("banka", "19-2000145398/0800", "checksum", None, "the weighted sum of the digits cannot be divided by 11"),
+    ("banka", "9" * 63, "too-long", None, "there are more than 62 digits before the bank code"),
+    ("vs", "", "empty", None, "the value is empty"),
+    ("vs", "20260024O7", "character", 9, "'O' at position 9 is no digit"),
+    ("vs", "79927398710", "wrong-check-digit", 11, "wrong check digit, right: 79927398713"),
+    ("ean", "", "empty", None, "the value is empty"),
+    ("ean", " ", "empty", None, "the value is empty"),
+    ("ean", "123456789", "length", None, "an article code has 8 or 13 digits"),
+    ("ean", " 400638133393x", "character", 14, "'x' at position 14 is no digit"),
+    ("ean", "4006381333932", "wrong-check-digit", 13, "wrong check digit, right: 4006381333931"),
+    ("ean", "400638133393", "no-check-digit", None, "without check digit, complete: 4006381333931"),
+]
 
 
 def drawn(seed, alphabet, count):
@@ -181,17 +211,26 @@ ROWS = [
     Row(["convert", "-f", "utf-8", "-t", "1250", "chybí.txt"], WRONG_USAGE, exact="", err=("chybí.txt", "cannot be read")),
     # Checks.
     Row(["check", "--help"], out=("--csv FILE", "--column NAME=KIND", "banka", "Examples:")),
-    Row(["check", "banka", "19-2000145399/0800"], exact="19-2000145399/0800\tvalid\n"),
-    Row(["check", "banka", "19-2000145399/0800", "1"], NO, silent=True, exact="19-2000145399/0800\tvalid\n1\tnot valid\n"),
-    Row(["check", "banka", "9" * 63], NO, silent=True, out=("not valid: too long",)),
-    Row(["check", "vs", "79927398713"], exact="79927398713\tvalid\n"),
-    Row(["check", "su", "311", "31a"], NO, silent=True, exact="311\tvalid\n31a\tnot valid\n"),
-    Row(["check", "au", ""], exact="\tvalid\n"),
-    Row(["check", "ucet", "311000"], exact="311000\tvalid\n"),
+    Row(["check", "banka", "19-2000145399/0800"], exact="19-2000145399/0800\tvalid\n",
+        err=("ravo check: banka: the suite's rule takes all digits before the slash for one number;",)),
+    *[Row(["check", kind, "0"], NO if kind != "au" else YES, err=(f"ravo check: {kind}: the suite's rule counts the digits;",))
+      for kind in ("ucet", "su", "au")],
+    Row(["check", "vs", "0"], err=("ravo check: vs: the suite's rule demands a Luhn check digit",)),
+    Row(["check", "--suite", "banka", "19-2000145399/0800", "1"], NO, silent=True, exact=(
+        "19-2000145399/0800\tvalid\n1\tnot valid: the weighted sum of the digits cannot be divided by 11\n")),
+    Row(["check", "--suite", "vs", "79927398713"], exact="79927398713\tvalid\n"),
+    Row(["check", "--suite", "au", ""], exact="\tvalid\n"),
+    Row(["check", "--suite", "ucet", "311000"], exact="311000\tvalid\n"),
     Row(["check", "ean", "4006381333931"], exact="4006381333931\tvalid\n"),
-    Row(["check", "ean", "4006381333932"], NO, silent=True, out=("wrong check digit, right: 4006381333931",)),
-    Row(["check", "ean", "400638133393", "--json"], NO, silent=True,
-        holds=differs([{"value": "400638133393", "valid": False, "remark": "without check digit, complete: 4006381333931"}])),
+    # Why a value is not valid: a code, a position and a sentence.
+    *[Row(["check", "--suite", kind, value], NO, silent=True, exact=f"{value}\tnot valid: {remark}\n")
+      for kind, value, _, _, remark in INVALID_VALUES],
+    *[Row(["check", "--suite", "--json", kind, value], NO, silent=True, holds=differs(
+        [{"value": value, "kind": kind, "valid": False, "reason": reason, "position": position, "remark": remark}]))
+      for kind, value, reason, position, remark in INVALID_VALUES],
+    Row(["check", "--suite", "--json", "su", "311"], holds=differs(
+        [{"value": "311", "kind": "su", "valid": True, "reason": None, "position": None, "remark": ""}])),
+    Row(["check", "su", "-"], exact="", err=("the suite's rule",)),
     Row(["check"], WRONG_USAGE),
     Row(["check", "banka"], WRONG_USAGE),
     Row(["check", "konto", "1"], WRONG_USAGE, err=("'konto'", "ucet, su, au, ")),

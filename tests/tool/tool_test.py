@@ -19,6 +19,7 @@ from file_checks import (check_colours, check_conversions, check_damaged_files, 
 from harness import NO, SKIPPED, YES, Program, Row, differs
 from long_work_checks import check_interruption, check_progress, check_streaming
 from round_checks import check_rounded_columns, check_rounding, check_suite_limits, check_vat_rules
+from value_checks import check_values
 
 # Rows that the harness itself must reject, each for the named reason.
 MUST_FAIL = [
@@ -51,6 +52,7 @@ CHECKS = (
     check_xml_unreadable,
     check_xml_samples,
     check_forms,
+    check_values,
     check_dates,
     check_rounding,
     check_vat_rules,

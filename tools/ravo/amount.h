@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ravo/runtime/currency.h>
+#include <ravo/RavoInterfaceCommon.h>
 
 #include <cstdint>
 #include <string>

@@ -2,11 +2,16 @@
 #include "checks.h"
 #include "commands.h"
 #include "csv_reader.h"
+#include "input_lines.h"
 #include "json_text.h"
 #include "kind_lines.h"
+#include "tell.h"
+#include "text.h"
+#include "value_reasons.h"
 #include <ravo/RavoInterface.h>
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -20,6 +25,7 @@ struct CheckOptions {
   std::vector<std::string> columns;
   std::string delimiter;
   bool allow_empty = false;
+  bool suite = false;
   bool json = false;
 };
 
@@ -39,17 +45,29 @@ std::string CheckColumn(const std::string& text) {
   return "'" + text + "' is not NAME=KIND; kinds are " + CheckKindNames(", ");
 }
 
+Json ValueJson(const std::string& value, const CheckKind& kind, const std::optional<ValueReason>& reason) {
+  return {{"value", value},
+          {"kind", kind.name},
+          {"valid", !reason},
+          {"reason", reason ? Json(reason->code) : Json()},
+          {"position", reason && reason->position > 0 ? Json(reason->position) : Json()},
+          {"remark", reason ? reason->message : ""}};
+}
+
 void CheckValues(const CheckOptions& options, Outcome& outcome) {
   const CheckKind& kind = *FindCheckKind(options.kind);
   Json answers = Json::array();
-  for (const std::string& value : options.values) {
-    const Verdict verdict = kind.check(ravo::FromUtf8(value));
-    if (!verdict.valid) outcome.answer = Answer::No;
-    outcome.out += value + "\t" + (verdict.valid ? "valid" : "not valid");
-    outcome.out += verdict.remark.empty() ? "\n" : ": " + verdict.remark + "\n";
-    answers.push_back({{"value", value}, {"valid", verdict.valid}, {"remark", verdict.remark}});
+  for (const std::string& value : WithInputLines(options.values)) {
+    const std::u16string text = ravo::FromUtf8(value);
+    std::optional<ValueReason> reason;
+    if (!kind.check(text).valid) reason = WhyInvalid(kind, text);
+    if (reason) outcome.answer = Answer::No;
+    if (options.json) answers.push_back(ValueJson(value, kind, reason));
+    outcome.out += value + "\t" + (reason ? Text("not valid: {0}", {reason->message}) : Text("valid")) + "\n";
   }
   if (options.json) outcome.out = JsonText(answers);
+  const std::string note = options.suite ? std::string() : SuiteRuleNote(kind);
+  if (!note.empty()) Tell(outcome, "check", options.kind + ": " + note, Answer::Yes);
 }
 
 std::string FileText(const FileCheck& result) {
@@ -126,7 +144,8 @@ void AddCheckCommand(CLI::App& program, Outcome& outcome) {
   CLI::Option* kind =
       command->add_option("KIND", options->kind, "The kind of the values: " + CheckKindNames(", "));
   kind->check(CLI::Validator(CheckKindName, ""));
-  CLI::Option* values = command->add_option("VALUE", options->values, "The values to check");
+  CLI::Option* values = command->add_option(
+      "VALUE", options->values, Text("The values to check; - reads them from standard input, one in a line"));
   CLI::Option* file = command->add_option(
       "--csv", options->file, "Check a file (UTF-8 or Windows-1250) whose first row has the column names");
   file->type_name("FILE")->excludes(kind)->excludes(values);
@@ -141,6 +160,8 @@ void AddCheckCommand(CLI::App& program, Outcome& outcome) {
       ->check(CLI::IsMember({";", ",", "\t", "|"}))
       ->needs(file);
   command->add_flag("--allow-empty", options->allow_empty, "Skip empty fields")->needs(file);
+  command->add_flag("--suite", options->suite,
+                    Text("Check by the suite's rules and say nothing about how they differ"));
   command->add_flag("--json", options->json, "Write JSON");
   command->footer(CheckFooter());
   command->callback([options, &outcome] { Run(*options, outcome); });
