@@ -60,29 +60,29 @@ class Wanted {
   std::optional<ravo::Guid> identifier_;
 };
 
-std::string Text(const ravo::Guid& identifier) { return ravo::ToUtf8(identifier.ToText()); }
+std::string GuidText(const ravo::Guid& identifier) { return ravo::ToUtf8(identifier.ToText()); }
 
 std::string Line(const ravo::HostInterfaceRow& row) {
   return "\t" + std::string(row.name) + "\t" + std::string(ravo::InterfaceKindName(row.kind)) + "\t" +
-         std::string(row.base) + "\t" + Text(row.identifier) + "\t" + std::to_string(row.own_operations) +
+         std::string(row.base) + "\t" + GuidText(row.identifier) + "\t" + std::to_string(row.own_operations) +
          "\n";
 }
 
 std::string Line(const ravo::HostClassRow& row) {
   return "\tCo" + std::string(row.name) + "\tclass\t" + std::string(row.returned) + "\t" +
-         Text(row.identifier) + "\n";
+         GuidText(row.identifier) + "\n";
 }
 
 Json RowJson(const ravo::HostInterfaceRow& row) {
   return {{"name", row.name},
           {"kind", ravo::InterfaceKindName(row.kind)},
           {"base", row.base},
-          {"identifier", Text(row.identifier)},
+          {"identifier", GuidText(row.identifier)},
           {"operations", row.own_operations}};
 }
 
 Json RowJson(const ravo::HostClassRow& row) {
-  return {{"name", row.name}, {"returns", row.returned}, {"identifier", Text(row.identifier)}};
+  return {{"name", row.name}, {"returns", row.returned}, {"identifier", GuidText(row.identifier)}};
 }
 
 // A library with its matching rows: all of them if the library itself matches.
@@ -114,9 +114,9 @@ void Run(const InterfaceOptions& options, Outcome& outcome) {
   for (const ravo::TypeLibraryRow& library : ravo::TypeLibraryRows()) {
     Branch branch = BranchOf(library, wanted);
     if (branch.text.empty()) continue;
-    outcome.out += std::string(library.name) + "_TLB\t" + Text(library.identifier) + "\n" + branch.text;
+    outcome.out += std::string(library.name) + "_TLB\t" + GuidText(library.identifier) + "\n" + branch.text;
     libraries.push_back({{"library", std::string(library.name) + "_TLB"},
-                         {"identifier", Text(library.identifier)},
+                         {"identifier", GuidText(library.identifier)},
                          {"interfaces", std::move(branch.interfaces)},
                          {"classes", std::move(branch.classes)}});
   }
