@@ -22,4 +22,11 @@ int main() {
     std::cout << static_cast<char>(rule) << " " << Text(RoundDPH(price, rule)) << "\n";
   }
   // [/vat]
+  // [rate]
+  const Currency hellers{100};
+  std::cout << Text(TimesRatio(price, 21, 100, hellers)) << "\n";  // 21 % on the price
+  std::cout << Text(TimesRatio(price, 21, 121, hellers)) << "\n";  // 21 % in the price
+  const Currency euros = ParseCurrency(u"49,90", u',');
+  std::cout << ToUtf8(CurrencyText(TimesRate(euros, Currency{253'455}, hellers), u',')) << "\n";  // at 25.3455
+  // [/rate]
 }

@@ -25,4 +25,30 @@ struct Wide128 {
 #endif
 }
 
+/// A quotient, truncated, and its remainder.
+struct WideQuotient {
+  std::uint64_t quotient = 0;
+  std::uint64_t remainder = 0;
+};
+
+/// Returns `dividend` / `divisor`. Precondition: the quotient fits 64 bits, so `dividend.high` < `divisor`.
+[[nodiscard]] constexpr WideQuotient DivideWide(const Wide128& dividend, std::uint64_t divisor) noexcept {
+  if (dividend.high == 0) return {dividend.low / divisor, dividend.low % divisor};
+#ifdef __SIZEOF_INT128__
+  __extension__ using Uint128 = unsigned __int128;
+  const Uint128 whole = Uint128{dividend.high} << 64 | dividend.low;
+  return {static_cast<std::uint64_t>(whole / divisor), static_cast<std::uint64_t>(whole % divisor)};
+#else
+  WideQuotient result{0, dividend.high};
+  for (int bit = 63; bit >= 0; --bit) {
+    const bool carry = (result.remainder >> 63) != 0;
+    result.remainder = result.remainder << 1 | (dividend.low >> bit & 1);
+    const bool fits = carry || result.remainder >= divisor;
+    result.remainder -= fits ? divisor : 0;
+    result.quotient = result.quotient << 1 | (fits ? 1 : 0);
+  }
+  return result;
+#endif
+}
+
 }  // namespace ravo

@@ -5,7 +5,7 @@ import pathlib
 import random
 import re
 
-from harness import NO, WRONG_USAGE, Row, as_json, differs, lines, without
+from harness import NO, WRONG_USAGE, YES, Row, as_json, differs, lines, without
 
 
 def table_rows(rows):
@@ -82,6 +82,34 @@ def ean_findings(out):
         return f"{finding}, {summary}"
     if [(column["column"], column["kind"], column["reasons"]) for column in columns] != [("EAN", "ean", {"wrong-check-digit": 1})]:
         return f"columns {columns}"
+# A kind, a value, why it is not valid: the code, the position and the sentence.
+INVALID_VALUES = [
+    ("ucet", "", "empty", None, "the value is empty"),
+    ("ucet", "31", "too-short", None, "an account has 3 to 6 digits"),
+    ("ucet", "3110000", "too-long", None, "an account has 3 to 6 digits"),
+    ("ucet", "31x1000000", "character", 3, "'x' at position 3 is no digit"),
+    ("ucet", "č11", "character", 1, "'č' at position 1 is no digit"),
+    ("ucet", "\U0001f60011", "character", 1, "'\U0001f600' at position 1 is no digit"),
+    ("ucet", "31\U0001f6001 ", "character", 3, "'\U0001f600' at position 3 is no digit"),
+    ("su", "31", "too-short", None, "a synthetic account has 3 digits"),
+    ("su", "3111", "too-long", None, "a synthetic account has 3 digits"),
+    ("su", "31a", "character", 3, "'a' at position 3 is no digit"),
+    ("au", "1000", "too-long", None, "an analytic account has at most 3 digits"),
+    ("au", " 1", "character", 1, "' ' at position 1 is no digit"),
+    ("banka", "", "empty", None, "the value is empty"),
+    ("banka", "/0800", "no-digits", None, "there is no digit before the bank code"),
+    ("banka", "19-2000145398/0800", "checksum", None, "the weighted sum of the digits cannot be divided by 11"),
+    ("banka", "9" * 63, "too-long", None, "there are more than 62 digits before the bank code"),
+    ("vs", "", "empty", None, "the value is empty"),
+    ("vs", "20260024O7", "character", 9, "'O' at position 9 is no digit"),
+    ("vs", "79927398710", "wrong-check-digit", 11, "wrong check digit, right: 79927398713"),
+    ("ean", "", "empty", None, "the value is empty"),
+    ("ean", " ", "empty", None, "the value is empty"),
+    ("ean", "123456789", "length", None, "an article code has 8 or 13 digits"),
+    ("ean", " 400638133393x", "character", 14, "'x' at position 14 is no digit"),
+    ("ean", "4006381333932", "wrong-check-digit", 13, "wrong check digit, right: 4006381333931"),
+    ("ean", "400638133393", "no-check-digit", None, "without check digit, complete: 4006381333931"),
+]
 
 
 def drawn(seed, alphabet, count):
@@ -199,17 +227,23 @@ ROWS = [
     Row(["convert", "-f", "utf-8", "-t", "1250", "chybí.txt"], WRONG_USAGE, exact="", err=("chybí.txt", "cannot be read")),
     # Checks.
     Row(["check", "--help"], out=("--csv FILE", "--column NAME=KIND", "banka", "Examples:")),
-    Row(["check", "banka", "19-2000145399/0800", "--suite"], exact="19-2000145399/0800\tvalid\n"),
-    Row(["check", "banka", "19-2000145399/0800", "1", "--suite"], NO, silent=True, exact="19-2000145399/0800\tvalid\n1\tnot valid\n"),
-    Row(["check", "banka", "9" * 63, "--suite"], NO, silent=True, out=("not valid: too long",)),
-    Row(["check", "vs", "79927398713", "--suite"], exact="79927398713\tvalid\n"),
-    Row(["check", "su", "311", "31a"], NO, silent=True, exact="311\tvalid\n31a\tnot valid\n"),
-    Row(["check", "au", ""], exact="\tvalid\n"),
-    Row(["check", "ucet", "311000"], exact="311000\tvalid\n"),
-    Row(["check", "ean", "4006381333931", "--suite"], exact="4006381333931\tvalid\n"),
-    Row(["check", "ean", "4006381333932", "--suite"], NO, silent=True, out=("wrong check digit, right: 4006381333931",)),
-    Row(["check", "ean", "400638133393", "--json", "--suite"], NO, silent=True,
-        holds=differs([{"value": "400638133393", "valid": False, "remark": "without check digit, complete: 4006381333931"}])),
+    *[Row(["check", kind, "0"], NO if kind != "au" else YES, err=(f"ravo check: {kind}: the suite's rule counts the digits;",))
+      for kind in ("ucet", "su", "au")],
+    Row(["check", "--suite", "banka", "19-2000145399/0800", "1"], NO, silent=True, exact=(
+        "19-2000145399/0800\tvalid\n1\tnot valid: the weighted sum of the digits cannot be divided by 11\n")),
+    Row(["check", "--suite", "vs", "79927398713"], exact="79927398713\tvalid\n"),
+    Row(["check", "--suite", "au", ""], exact="\tvalid\n"),
+    Row(["check", "--suite", "ucet", "311000"], exact="311000\tvalid\n"),
+    Row(["check", "--suite", "ean", "4006381333931"], exact="4006381333931\tvalid\n"),
+    # Why a value is not valid: a code, a position and a sentence.
+    *[Row(["check", "--suite", kind, value], NO, silent=True, exact=f"{value}\tnot valid: {remark}\n")
+      for kind, value, _, _, remark in INVALID_VALUES],
+    *[Row(["check", "--suite", "--json", kind, value], NO, silent=True, holds=differs(
+        [{"value": value, "kind": kind, "valid": False, "reason": reason, "position": position, "remark": remark}]))
+      for kind, value, reason, position, remark in INVALID_VALUES],
+    Row(["check", "--suite", "--json", "su", "311"], holds=differs(
+        [{"value": "311", "kind": "su", "valid": True, "reason": None, "position": None, "remark": ""}])),
+    Row(["check", "su", "-"], exact="", err=("the suite's rule",)),
     Row(["check"], WRONG_USAGE),
     Row(["check", "banka"], WRONG_USAGE),
     Row(["check", "konto", "1"], WRONG_USAGE, err=("'konto'", "isbn, ucet, su, au, banka\n")),
@@ -245,47 +279,129 @@ ROWS = [
         err=("name the same file",)),
     Row(["check", "--csv", SAMPLE, SAMPLE, "--column", "Datum=au", "--clean", "x"], WRONG_USAGE, exact="", err=("take one table",)),
     # Rounding.
-    Row(["round", "--help"], out=("--mode", "--decimals", "--dph", "Examples:")),
+    Row(["round", "--help"], out=("--mode", "--decimals", "--dph", "--suite", "--notation", "Examples:")),
     Row(["round", "1.234", "--mode", "up"], exact="1.234\t1.24\n"),
     Row(["round", "--mode", "down", "--", "-1.239"], exact="-1.239\t-1.23\n"),
-    Row(["round", "-1.005", "1,005"], exact="-1.005\t-1.01\n1,005\t1.01\n"),
+    Row(["round", "-1.005", "1,005"], exact="-1.005\t-1.01\n1,005\t1,01\n"),
     Row(["round", "12345.67", "--decimals", "-2"], exact="12345.67\t12300.00\n"),
-    Row(["round", "12,25", "--dph", "P"], exact="12,25\t12.50\n"),
-    Row(["round", "12.5", "--dph", "M", "--json"], holds=differs([{"amount": "12.50", "rounded": "13.00"}])),
-    Row(["round", "922337203685477.5807", "--decimals", "4"], NO, exact="", err=("leaves the range",)),
-    Row(["round", "1.23456"], WRONG_USAGE, err=("1.23456",)),
-    Row(["round", "x"], WRONG_USAGE),
-    Row(["round"], WRONG_USAGE),
-    Row(["round", "1", "--dph", "h"], WRONG_USAGE),
+    Row(["round", "12,25", "--dph", "P"], exact="12,25\t12,50\n"),
+    Row(["round", "1", "--dph", "h"], exact="1\t1.00\n"),
+    Row(["round", "12.349", "--dph", "n"], exact="12.349\t12.40\n"),
+    Row(["round", "12.5", "--dph", "M", "--json"], holds=differs(
+        [{"input": "12.5", "amount": "12.50", "rounded": "13.00", "suite": "13.00", "reason": None}])),
+    # Notations.
+    Row(["round", "1 234,567 Kč", "1\u00a0234,5", "1.234,567", "1,234.567", ".5", "12 Kč", "12,-", "-1\u202f000,005 €"], exact=(
+        "1 234,567 Kč\t1 234,57 Kč\n1\u00a0234,5\t1\u00a0234,50\n1.234,567\t1.234,57\n1,234.567\t1,234.57\n"
+        ".5\t0.50\n12 Kč\t12,00 Kč\n12,-\t12,00\n-1\u202f000,005 €\t-1\u202f000,01 €\n")),
+    Row(["round", "1234567,895 Kč", "--notation", "cs"], exact="1234567,895 Kč\t1\u00a0234\u00a0567,90 Kč\n"),
+    Row(["round", "1 234,56 Kč", "--notation", "plain"], exact="1 234,56 Kč\t1234.56\n"),
+    Row(["round", "1 234,56", "--notation", "en"], exact="1 234,56\t1,234.56\n"),
+    Row(["round", "999,999", "1 999,999"], exact="999,999\t1000,00\n1 999,999\t2 000,00\n"),
+    Row(["round", "1", "--notation", "de"], WRONG_USAGE),
+    # Every amount; where the suite's modules compute something else, a line says so.
+    Row(["round", "25000000", "--mode", "up"], exact="25000000\t25000000.00\n",
+        err=("ravo round: 25000000: the suite's modules give -17949672.96: with --mode up --decimals 2 they wrap", "from 21474836.4701 on")),
+    Row(["round", "25000000", "--mode", "up", "--suite"], NO, exact="", err=("wrap at 32 bits from 21474836.4701 on",)),
+    Row(["round", "25000000", "--mode", "up", "--suite", "--json"], NO, err=("wrap",), holds=differs(
+        [{"input": "25000000", "amount": "25000000.00", "rounded": None, "suite": "-17949672.96", "reason": "suite-wraps"}])),
+    Row(["round", "300000000", "--dph", "N"], exact="300000000\t300000000.00\n", err=("from 214748364.7001 on",)),
+    Row(["round", "--decimals", "4", "922337203685475.6577"], exact="922337203685475.6577\t922337203685475.6577\n",
+        err=("the suite's modules give 922337203685475.6578\n",)),
+    Row(["round", "--decimals", "4", "922337203685475.6577", "--suite"], exact="922337203685475.6577\t922337203685475.6578\n",
+        err=("the right result is 922337203685475.6577\n",)),
+    Row(["round", "0.0001", "--mode", "up", "--decimals", "-1"], exact="0.0001\t10.00\n", err=("the suite's modules give 0.00\n",)),
+    Row(["round", "4.9999", "--decimals", "-1"], exact="4.9999\t0.00\n", err=("the suite's modules give 10.00\n",)),
+    Row(["round", "922337203685477.5807", "--decimals", "4"], exact="922337203685477.5807\t922337203685477.5807\n",
+        err=("the suite's modules cannot round this amount",)),
+    Row(["round", "922337203685477.5807", "--decimals", "0"], NO, exact="",
+        err=("outside the range of amounts, -922337203685477.5808 to 922337203685477.5807",)),
+    # No amounts; the others are answered.
+    Row(["round", "1.23456", "1.5"], WRONG_USAGE, exact="1.5\t1.50\n", err=("ravo round: 1.23456: ", "four decimals")),
+    Row(["round", "x"], WRONG_USAGE, exact="", err=("ravo round: x: this is no amount",)),
+    Row(["round", "12 34", "1.234 Kč", "922337203685477.5808"], WRONG_USAGE, exact="", err=(
+        "12 34: the digits are not in groups of three\n", "1.234 Kč: the point may separate thousands or decimals",
+        "amounts are from -922337203685477.5808 to 922337203685477.5807\n")),
+    Row(["round", "x", "--json"], WRONG_USAGE, err=("x",), holds=differs(
+        [{"input": "x", "amount": None, "rounded": None, "suite": None, "reason": "not-an-amount"}])),
+    Row(["round"], WRONG_USAGE, err=("ravo round: give amounts",)),
+    Row(["round", "-"], exact=""),
+    Row(["round", "1", "--dph", "X"], WRONG_USAGE),
     Row(["round", "1", "--dph", "H", "--decimals", "1"], WRONG_USAGE),
     Row(["round", "1", "--decimals", "15"], WRONG_USAGE),
+    Row(["round", "--csv", SAMPLE], WRONG_USAGE),
+    Row(["round", "1", "--csv", SAMPLE, "--column", "Částka"], WRONG_USAGE),
+    Row(["round", "--csv", "chybí.csv", "--column", "Částka"], WRONG_USAGE, exact="", err=("ravo round: chybí.csv: cannot be read",)),
+    Row(["round", "--csv", SAMPLE, "--column", "Castka"], WRONG_USAGE, exact="",
+        err=("there is no column 'Castka'; the columns, separated by ';', are Doklad, Datum, ",)),
+    Row(["round", "--csv", "-", "--column", "A"], WRONG_USAGE, exact="", err=("there is no first row",)),
     # Dates.
-    Row(["date", "--help"], out=("--month", "--year", "Examples:")),
-    Row(["date", "2011-01-31", "--month", "1"], out=("date\t20110228\n", "month-first\t20110201\n", "month-days\t28\n")),
-    Row(["date", "2011-01-31", "--month", "-2"], out=("date\t20101130\n",)),
-    Row(["date", "2012-02-29", "--year", "1"], out=("date\t20130228\n", "leap-year\tfalse\n")),
-    Row(["date", "2010-12-31 13:05:09.007"], out=("date-time\t20101231 13:05:09:007\n",)),
-    Row(["date", "2010-12-31T13:05"], out=("time\t13:05:00:000\n",)),
-    Row(["date", "0001-01-15", "--month", "-1"], NO, exact="", err=("1 to 9999",)),
-    Row(["date", "2011-02-29"], WRONG_USAGE, err=("2011-02-29",)),
-    Row(["date", "2011-01-31x"], WRONG_USAGE),
-    Row(["date", "2011-01-31 13"], WRONG_USAGE),
-    Row(["date"], WRONG_USAGE),
-    Row(["date", "2024-03-29"], out=("julian-day\t2460399\n", "weekday\tFriday\n", "iso-week\t2024-W13\n", "easter\t20240331\n", "holiday\ttrue\n")),
-    Row(["date", "2021-01-03"], out=("iso-week\t2020-W53\n", "weekday\tSunday\n")),
-    Row(["date", "2021-01-04"], out=("iso-week\t2021-W01\n", "holiday\tfalse\n")),
-    Row(["date", "0001-01-01"], out=("iso-week\t0001-W01\n", "julian-day\t1721426\n")),
-    Row(["date", "9999-12-31"], out=("iso-week\t9999-W52\n", "julian-day\t5373484\n")),
-    Row(["date", "2024-06-15", "--holidays"], out=(
-        "holidays\t20240101 20240329 20240401 20240501 20240509 20240520 20241003 20241224 20241225 20241226 20241231\n",)),
+    Row(["date", "--help"], out=("--month", "--year", "--today", "--suite", "Examples:")),
+    Row(["date", "2011-01-31", "--month", "1"], out=("date\t2011-02-28\n", "date in SQL\t20110228\n", "first of the month\t2011-02-01\n",
+                                                    "last of the month\t2011-02-28\n", "days in the month\t28\n")),
+    Row(["date", "2011-01-31", "--month", "-2"], out=("date\t2010-11-30\n",)),
+    Row(["date", "2012-02-29", "--year", "1"], out=("date\t2013-02-28\n", "leap year\tno\n")),
+    Row(["date", "2010-12-31 13:05:09.007"], out=("time\t13:05:09.007\n", "both in SQL\t20101231 13:05:09:007\n")),
+    Row(["date", "2010-12-31T13:05"], out=("time in SQL\t13:05:00:000\n",)),
+    Row(["date", "2024-03-29"], out=("Julian day\t2460399\n", "weekday\tFriday\n", "ISO week\t2024-W13\n",
+                                     "Easter Sunday\t2024-03-31\n", "holiday in Germany\tyes\n")),
+    Row(["date", "2021-01-03"], out=("ISO week\t2020-W53\n", "weekday\tSunday\n")),
+    Row(["date", "2021-01-04"], out=("ISO week\t2021-W01\n", "holiday in Germany\tno\n")),
+    Row(["date", "0001-01-01"], out=("ISO week\t0001-W01\n", "Julian day\t1721426\n"), err=("put Easter on 0001-",)),
+    Row(["date", "9999-12-31"], out=("ISO week\t9999-W52\n", "Julian day\t5373484\n"), err=("put Easter on 9999-",)),
+    # Days as people write them; today is an argument.
+    *[Row(["date", text, "--today", "30.11.2026"], out=(f"date\t{date}\n",)) for text, date in (
+        ("21.11.2026", "2026-11-21"), ("21. 11. 2026", "2026-11-21"), ("1.\u00a02.\u00a02026", "2026-02-01"), ("20261121", "2026-11-21"),
+        ("2026-1-2", "2026-01-02"), (" 2026-11-21 ", "2026-11-21"), ("today", "2026-11-30"), ("dnes", "2026-11-30"), ("Today", "2026-11-30"),
+        ("tomorrow", "2026-12-01"), ("zítra", "2026-12-01"), ("zitra", "2026-12-01"), ("pozítří", "2026-12-02"), ("yesterday", "2026-11-29"),
+        ("včera", "2026-11-29"), ("předevčírem", "2026-11-28"), ("+14d", "2026-12-14"), ("-30d", "2026-10-31"), ("+2m", "2027-01-30"),
+        ("+3m", "2027-02-28"), ("+1y", "2027-11-30"), ("+1r", "2027-11-30"), ("+2w", "2026-12-14"), ("+1t-1d", "2026-12-06"),
+        ("21.11.2026+14d", "2026-12-05"), ("2026-11-21 +14d", "2026-12-05"), ("2026-11-21-21d", "2026-10-31"), ("zítra +1m", "2027-01-01"),
+        ("2026-01-31+1d+1m", "2026-03-01"), ("2024-01-29+1y+1m", "2025-02-28"))],
+    Row(["date", "--today", "2026-11-21"], out=("date\t2026-11-21\n",)),
+    Row(["date", "21.11.2026 13:05", "--month", "0"], out=("time\t13:05:00.000\n",)),
+    # The suite's modules step month by month, drop the time and have another Easter; a line says so.
+    Row(["date", "2011-01-31", "--month", "2"], out=("date\t2011-03-31\n",), err=("ravo date: the suite's modules give 2011-03-28 00:00:00.000\n",)),
+    Row(["date", "2011-01-31", "--month", "2", "--suite"], out=("date\t2011-03-28\n",), err=("the right date is 2011-03-31 00:00:00.000\n",)),
+    Row(["date", "2012-02-29", "--year", "4"], out=("date\t2016-02-29\n",), err=("the suite's modules give 2016-02-28",)),
+    Row(["date", "2012-02-29", "--year", "4", "--suite"], out=("date\t2016-02-28\n",), err=("2016-02-29",)),
+    Row(["date", "2011-01-15 13:05", "--month", "1"], out=("time\t13:05:00.000\n",), err=("the suite's modules give 2011-02-15 00:00:00.000\n",)),
+    Row(["date", "2011-01-31", "--month", "-1", "--suite"], out=("date\t2010-12-31\n",)),
+    Row(["date", "1899-12-28 06:00", "+3d"], WRONG_USAGE),
+    Row(["date", "1899-12-28 06:00 +3d"], out=("date\t1899-12-31\n", "time\t06:00:00.000\n"), err=("Easter on 1899-04-03",)),
+    Row(["date", "2024-02-29+1y-1m"], out=("date\t2025-01-29\n",), err=("the suite's modules give 2025-01-28",)),
+    Row(["date", "2100-01-01"], out=("Easter Sunday\t2100-03-28\n",), err=("the suite's modules put Easter on 2100-03-27\n",)),
+    Row(["date", "2100-01-01", "--suite"], out=("Easter Sunday\t2100-03-27\n",), err=("Easter is really on 2100-03-28\n",)),
+    *[Row(["date", f"{easter[:4]}-06-01"], out=(f"Easter Sunday\t{easter}\n",), err=() if "1900" <= easter < "2100" else ("Easter",))
+      for easter in ("1943-04-25", "1954-04-18", "1981-04-19", "2000-04-23", "2008-03-23", "2038-04-25", "2049-04-18", "2076-04-19")],
+    Row(["date", "2011-01-31", "--month", "2", "--json"], err=("2011-03-28",), holds=as_json(lambda facts: (
+        facts["date"], facts["month-last"], facts["sql-date"], facts["weekday"], facts["suite"]) != (
+        "2011-03-31", "2011-03-31", "20110331", "Thursday", {"date": "2011-03-28", "time": "00:00:00.000", "easter": "2011-04-24"}) and f"{facts}")),
+    Row(["date", "0001-01-15", "--month", "-1"], NO, exact="", err=("ravo date: the date is outside the years 1 to 9999\n",)),
+    Row(["date", "9999-12-31+1d"], NO, exact="", err=("1 to 9999",)),
+    Row(["date", "2026-01-01", "--today", "0001-01-01-1d"], NO, exact="", err=("1 to 9999",)),
+    Row(["date", "2026-01-01" + "+99999r" * 400], NO, exact="", err=("1 to 9999",)),
+    Row(["date", "2011-02-29"], WRONG_USAGE, exact="", err=("ravo date: 2011-02-29: February 2011 has the days 1 to 28\n",)),
+    Row(["date", "31.4.2026"], WRONG_USAGE, exact="", err=("April 2026 has the days 1 to 30",)),
+    Row(["date", "2011-13-01"], WRONG_USAGE, exact="", err=("there is no month 13",)),
+    Row(["date", "0000-01-01"], WRONG_USAGE, exact="", err=("there is no year 0",)),
+    Row(["date", "2011-01-31 25:00"], WRONG_USAGE, exact="", err=("times are from 00:00:00.000 to 23:59:59.999",)),
+    *[Row(["date", text], WRONG_USAGE, exact="", err=("this is no date; write it as 2026-11-21, 21.11.2026, today or +14d",))
+      for text in ("2011-01-31x", "2011-01-31 13", "2011-01-31 13:5", "21.11.", "21.11.26", "14d", "+14", "+14x", "+d", "todays", "zítr", " ",
+                   "2026-11-21+14d x", "1234567", "+1234567d", "")],
+    Row(["date", "2026-01-01", "--today", "x"], WRONG_USAGE, exact="", err=("x: this is no date",)),
+    # Holidays of Germany, until there are others.
+    Row(["date", "2024-06-15", "--holidays-de"], out=(
+        "holidays in Germany\t2024-01-01 2024-03-29 2024-04-01 2024-05-01 2024-05-09 2024-05-20 2024-10-03 2024-12-24 2024-12-25 "
+        "2024-12-26 2024-12-31\n",)),
     Row(["date", "2024-06-15"], holds=without("holidays")),
-    Row(["date", "2024-03-29", "--json", "--holidays"], holds=as_json(lambda facts: (
-        facts["julian-day"], facts["iso-week"], facts["holiday"], len(facts["holidays"])) != (2460399, "2024-W13", True, 11) and "other facts")),
+    Row(["date", "2024-03-29", "--json", "--holidays-de"], holds=as_json(lambda facts: (
+        facts["julian-day"], facts["iso-week"], facts["holiday-de"], len(facts["holidays-de"])) != (2460399, "2024-W13", True, 11) and "other facts")),
     Row(["date", "2024-03-29", "--calendar"], exact=(
         "March 2024\n    Mo  Tu  We  Th  Fr  Sa  Su\n 9                   1   2   3*\n10   4   5   6   7   8   9  10*\n"
         "11  11  12  13  14  15  16  17*\n12  18  19  20  21  22  23  24*\n13  25  26  27  28 [29] 30  31*\n")),
-    Row(["date", "2023-12-31", "--month", "1", "--calendar"], out=("January 2024\n", " 1   1*  2 ", " 5  29  30 [31]\n")),
-    Row(["date", "2021-01-31", "--calendar"], out=("January 2021\n", "53                   1*  2   3*\n", " 4  25  26  27  28  29  30 [31]\n")),
+    Row(["date", "2023-12-31", "--month", "1", "--calendar"], out=("January 2024\n", " 1   1   2 ", " 5  29  30 [31]\n")),
+    Row(["date", "2023-12-31", "--month", "1", "--calendar", "--holidays-de"], out=("January 2024\n", " 1   1*  2 ", " 5  29  30 [31]\n")),
+    Row(["date", "2021-01-31", "--calendar"], out=("January 2021\n", "53                   1   2   3*\n", " 4  25  26  27  28  29  30 [31]\n")),
     Row(["date", "2024-03-29", "--calendar", "--json"], WRONG_USAGE),
     # Random texts, compared with Python's generator and the same keys.
     Row(["random", "--seed", "seed", "--count", "20", "--alphabet", "abcdefg"], exact=drawn("seed", "abcdefg", 20)),

@@ -9,12 +9,12 @@ CZECH_ROWS = [
         exact="04625781\tcorrect in form\nIČ: 270 82 441\twrong: the check digit does not match\n"),
     Row(["check", "ico", "IČ: 270 82 441", "--explain"], NO, silent=True, out=("  character: 14\n", "  code: ico.checksum\n", "law 111/2009")),
     Row(["check", "ico", "--json", "IČ 2708244"], NO, silent=True,
-        holds=differs([{"value": "IČ 2708244", "kind": "ico", "valid": False, "code": "ico.length",
+        holds=differs([{"value": "IČ 2708244", "kind": "ico", "valid": False, "reason": "ico.length",
                         "remark": "wrong: an IČO has eight digits, leading zeros included", "position": 11}])),
     Row(["check", "banka", "19-2000145399/0800"], exact="19-2000145399/0800\tcorrect in form\n"),
     # The suite adds the two sums up.
     Row(["check", "account", "20-2000145397/0800", "--json"], NO, silent=True,
-        holds=as_json(lambda all: (all[0]["code"], all[0]["suite"]) != ("account.prefix_checksum", False) and f"{all}")),
+        holds=as_json(lambda all: (all[0]["reason"], all[0]["suite"]) != ("account.prefix_checksum", False) and f"{all}")),
     Row(["check", "vs", "79927398713", "2026000579"], NO, silent=True,
         exact="79927398713\twrong: a variable symbol has at most ten digits\tthe suite accepts it\n"
               "2026000579\tcorrect in form\tthe suite refuses it\n"),

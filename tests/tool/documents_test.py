@@ -57,8 +57,8 @@ def all_failures(project, pages, ravo):
 
 
 def self_test(project, ravo):
-    good = '```sh\nravo check banka 19-2000145399/0800   # a comment\n```\n\n```sh\n$ ravo round 1.005\n1.005\t1.01\n```\n`ravo table 71710`\n'
-    wrong = [good.replace("banka", "bank"), good.replace("\t1.01", "\t1.02"), good.replace("`ravo table", "`ravo tables")]
+    good = '```sh\nravo check ean 4006381333931   # a comment\n```\n\n```sh\n$ ravo round 1.005\n1.005\t1.01\n```\n`ravo table 71710`\n'
+    wrong = [good.replace("ean", "eam"), good.replace("\t1.01", "\t1.02"), good.replace("`ravo table", "`ravo tables")]
     found = [list(all_failures(project, [page], ravo)) for page in (good, *wrong)]
     return [f"self-test {i}: found {f}" for i, f in enumerate(found) if len(f) != (i > 0)]
 

@@ -13,6 +13,7 @@ from concurrent.futures import ThreadPoolExecutor
 
 from command_rows import ROWS
 from czech_checks import CZECH_ROWS, check_bank_lists
+from date_checks import check_dates
 from document_checks import (check_forms, check_xml, check_xml_edits, check_xml_encodings, check_xml_samples, check_xml_sizes,
                              check_xml_targets, check_xml_unreadable)
 from file_checks import (check_colours, check_conversions, check_full_device, check_pipes, check_report_file,
@@ -20,9 +21,11 @@ from file_checks import (check_colours, check_conversions, check_full_device, ch
 from harness import NO, SKIPPED, YES, Program, Row, differs
 from lossless_checks import check_lossless
 from long_work_checks import check_interruption, check_progress, check_streaming
+from round_checks import check_rounded_columns, check_rounding, check_suite_limits, check_vat_rules
 from survival_checks import check_random_survival, check_survival
 from table_checks import (check_damaged_tables, check_full_output, check_large_tables, check_long_values, check_quoted_tables,
                           check_split_tables, check_table_encodings, check_table_names, check_terminal_tables)
+from value_checks import check_values
 
 # Rows that the harness itself must reject, each for the named reason.
 MUST_FAIL = [
@@ -70,6 +73,12 @@ CHECKS = (
     check_lossless,
     check_survival,
     check_random_survival,
+    check_values,
+    check_dates,
+    check_rounding,
+    check_vat_rules,
+    check_suite_limits,
+    check_rounded_columns,
 )
 
 

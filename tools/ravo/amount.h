@@ -2,17 +2,44 @@
 
 #include <ravo/RavoInterfaceCommon.h>
 
-#include <optional>
+#include <cstdint>
 #include <string>
 #include <string_view>
+#include <variant>
 
 namespace tool {
 
-/// Returns the amount that `text` represents: an optional sign, digits, and up to four decimals after "." or
-/// ",". No value for any other text and for amounts that do not fit 64 bits.
-[[nodiscard]] std::optional<ravo::Currency> ParseAmount(std::string_view text);
+/// How an amount is written.
+struct Notation {
+  std::string before;       ///< blanks and a currency before the number
+  std::string after;        ///< blanks and a currency after it
+  std::string minus = "-";  ///< "-" or U+2212
+  std::string group;        ///< between groups of three digits; empty without groups
+  char decimal = '.';
+};
 
-/// Returns an amount with at least two and at most four decimals after ".".
-[[nodiscard]] std::string AmountText(ravo::Currency amount);
+/// Why a text is no amount.
+enum class AmountFault : std::uint8_t {
+  NotAnAmount,
+  Groups,     ///< digits that are not in groups of three, or groups of two kinds
+  Decimals,   ///< more than four decimals
+  Ambiguous,  ///< a point and three digits before "Kč": thousands or decimals
+  Range,      ///< outside 64 bits
+};
+
+struct Amount {
+  ravo::Currency value;
+  Notation notation;
+};
+
+/// Returns the amount that a UTF-8 text is as a whole, as people write it: "1234.56", "1 234,56 Kč",
+/// "1.234,56", "€ .5", "-12,-".
+///
+/// A single point or comma separates decimals; several of one kind, and the first kind of two, separate
+/// groups of three digits, as blanks do (also no-break, narrow and thin ones).
+[[nodiscard]] std::variant<Amount, AmountFault> ReadAmount(std::string_view utf8);
+
+/// Returns an amount with at least two and at most four decimals.
+[[nodiscard]] std::string AmountText(ravo::Currency amount, const Notation& notation = {});
 
 }  // namespace tool

@@ -3,14 +3,18 @@
 #include "commands.h"
 #include "czech_day.h"
 #include "czech_kinds.h"
+#include "input_lines.h"
 #include "json_text.h"
 #include "kind_lines.h"
 #include "table_text.h"
+#include "tell.h"
 #include "text.h"
+#include "value_reasons.h"
 #include <ravo/RavoInterface.h>
 
 #include <limits>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -66,17 +70,29 @@ std::string CheckColumn(const std::string& text) {
   return "'" + text + "' is not NAME=KIND; kinds are " + AllKindNames(", ");
 }
 
+Json ValueJson(const std::string& value, const CheckKind& kind, const std::optional<ValueReason>& reason) {
+  return {{"value", value},
+          {"kind", kind.name},
+          {"valid", !reason},
+          {"reason", reason ? Json(reason->code) : Json()},
+          {"position", reason && reason->position > 0 ? Json(reason->position) : Json()},
+          {"remark", reason ? reason->message : ""}};
+}
+
 void CheckSuiteValues(const CheckOptions& options, Outcome& outcome) {
   const CheckKind& kind = *FindCheckKind(options.kind);
   Json answers = Json::array();
-  for (const std::string& value : options.values) {
-    const Verdict verdict = kind.check(ravo::FromUtf8(value));
-    if (!verdict.valid) outcome.answer = Answer::No;
-    outcome.out += value + "\t" + (verdict.valid ? "valid" : "not valid");
-    outcome.out += verdict.remark.empty() ? "\n" : ": " + verdict.remark + "\n";
-    answers.push_back({{"value", value}, {"valid", verdict.valid}, {"remark", verdict.remark}});
+  for (const std::string& value : WithInputLines(options.values)) {
+    const std::u16string text = ravo::FromUtf8(value);
+    std::optional<ValueReason> reason;
+    if (!kind.check(text).valid) reason = WhyInvalid(kind, text);
+    if (reason) outcome.answer = Answer::No;
+    if (options.json) answers.push_back(ValueJson(value, kind, reason));
+    outcome.out += value + "\t" + (reason ? Text("not valid: {0}", {reason->message}) : Text("valid")) + "\n";
   }
   if (options.json) outcome.out = JsonText(answers);
+  const std::string note = options.suite ? std::string() : SuiteRuleNote(kind);
+  if (!note.empty()) Tell(outcome, "check", options.kind + ": " + note, Answer::Yes);
 }
 
 // The suite's rule if it is asked for or the country has none.
@@ -87,7 +103,7 @@ void CheckValues(const CheckOptions& options, Outcome& outcome) {
   if (options.suite || !FindCzechKind(options.kind)) return CheckSuiteValues(options, outcome);
   CzechCheck check = options.czech;
   check.kind = options.kind;
-  check.values = options.values;
+  check.values = WithInputLines(options.values);
   check.json = options.json;
   CheckCzechValues(check, outcome);
 }
@@ -209,7 +225,8 @@ void AddCheckCommand(CLI::App& program, Outcome& outcome) {
   CLI::Option* kind =
       command->add_option("KIND", options->kind, "The kind of the values: " + AllKindNames(", "));
   kind->check(CLI::Validator(CheckKindName, ""));
-  CLI::Option* values = command->add_option("VALUE", options->values, "The values to check");
+  CLI::Option* values = command->add_option(
+      "VALUE", options->values, Text("The values to check; - reads them from standard input, one in a line"));
   CLI::Option* file =
       command->add_option("--csv", options->files,
                           Text("Check tables whose first row has the column names; - is standard input"));

@@ -232,12 +232,13 @@ std::string CzechFindingText(czech::Kind kind, const std::string& value, const C
 }
 
 Json CzechFindingJson(czech::Kind kind, const std::string& value, const CzechFinding& finding) {
+  const bool is_valid = finding.code == czech::Code::Correct;
   Json json{{"value", value},
             {"kind", czech::KindText(kind)},
-            {"valid", finding.code == czech::Code::Correct},
-            {"code", czech::CodeText(finding.code)},
-            {"remark", czech::Sentence(finding.code, UserLanguage())}};
-  if (finding.position > 0) json["position"] = finding.position;
+            {"valid", is_valid},
+            {"reason", is_valid ? Json() : Json(czech::CodeText(finding.code))},
+            {"position", finding.position > 0 ? Json(finding.position) : Json()},
+            {"remark", is_valid ? "" : czech::Sentence(finding.code, UserLanguage())}};
   if (!finding.canonical.empty()) json["canonical"] = finding.canonical;
   if (!finding.spelling.empty()) json["spelling"] = finding.spelling;
   if (!finding.list.empty()) json["list"] = finding.list;

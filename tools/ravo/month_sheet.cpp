@@ -1,8 +1,8 @@
 #include "month_sheet.h"
 
+#include "month_names.h"
+#include "text.h"
 #include <ravo/DIUtils.h>
-
-#include <array>
 
 namespace tool {
 namespace {
@@ -11,42 +11,43 @@ namespace utils = ravo::DIUtils;
 
 constexpr std::size_t kCell = 4;
 
-constexpr std::array<const char*, 12> kMonths = {"January",   "February", "March",    "April",
-                                                 "May",       "June",     "July",     "August",
-                                                 "September", "October",  "November", "December"};
-
 std::string Padded(std::int32_t number) {
   const std::string digits = std::to_string(number);
   return std::string(digits.size() < 2 ? 1 : 0, ' ') + digits;
 }
 
-std::string Cell(utils::TJulianDate date, utils::TJulianDate marked) {
+bool IsMarked(utils::TJulianDate date, bool holidays_de) {
+  constexpr std::int32_t kSunday = 6;
+  return utils::DayOfWeek(date) == kSunday || (holidays_de && utils::IsHolidayInGermany(date));
+}
+
+std::string Cell(utils::TJulianDate date, utils::TJulianDate today, bool holidays_de) {
   const std::string day = Padded(utils::DayOfJulianDate(date));
-  if (date == marked) return "[" + day + "]";
-  return " " + day + (utils::IsHolidayInGermany(date) ? "*" : " ");
+  if (date == today) return "[" + day + "]";
+  return " " + day + (IsMarked(date, holidays_de) ? "*" : " ");
 }
 
 // Trailing blanks of a line are dropped.
-std::string Week(utils::TJulianDate monday, utils::TJulianDate marked) {
+std::string Week(utils::TJulianDate monday, utils::TJulianDate today, bool holidays_de) {
   std::string line = Padded(utils::ISOWeekNumber(monday)) + " ";
   for (utils::TJulianDate date = monday; date < monday + 7; ++date) {
-    const bool inside = utils::FirstDayOfMonth(date) == utils::FirstDayOfMonth(marked);
-    line += inside ? Cell(date, marked) : std::string(kCell, ' ');
+    const bool inside = utils::FirstDayOfMonth(date) == utils::FirstDayOfMonth(today);
+    line += inside ? Cell(date, today, holidays_de) : std::string(kCell, ' ');
   }
   return line.substr(0, line.find_last_not_of(' ') + 1) + "\n";
 }
 
 }  // namespace
 
-std::string MonthSheet(const ravo::DateParts& day) {
-  const utils::TJulianDate marked = utils::YmdToJulianDate(day.year, static_cast<std::uint16_t>(day.month),
-                                                           static_cast<std::uint16_t>(day.day));
-  std::string sheet = std::string(kMonths[static_cast<std::size_t>(day.month - 1)]) + " " +
-                      std::to_string(day.year) + "\n    Mo  Tu  We  Th  Fr  Sa  Su\n";
-  const utils::TJulianDate last = utils::LastDayOfMonth(marked);
-  for (utils::TJulianDate monday = utils::FirstDayOfWeek(utils::FirstDayOfMonth(marked)); monday <= last;
+std::string MonthSheet(const ravo::DateParts& day, bool holidays_de) {
+  const utils::TJulianDate today = utils::YmdToJulianDate(day.year, static_cast<std::uint16_t>(day.month),
+                                                          static_cast<std::uint16_t>(day.day));
+  std::string sheet = MonthName(day.month) + " " + std::to_string(day.year) + "\n    " +
+                      Text("Mo  Tu  We  Th  Fr  Sa  Su") + "\n";
+  const utils::TJulianDate last = utils::LastDayOfMonth(today);
+  for (utils::TJulianDate monday = utils::FirstDayOfWeek(utils::FirstDayOfMonth(today)); monday <= last;
        monday += 7)
-    sheet += Week(monday, marked);
+    sheet += Week(monday, today, holidays_de);
   return sheet;
 }
 

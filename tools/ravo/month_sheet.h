@@ -7,7 +7,8 @@
 namespace tool {
 
 /// Returns the month of a day as a small calendar: one line per week with its ISO number, Monday first, the
-/// day itself in brackets, holidays and Sundays marked with "*". Years 1 to 9999.
-[[nodiscard]] std::string MonthSheet(const ravo::DateParts& day);
+/// day itself in brackets, Sundays marked with "*", and German holidays too if `holidays_de`. Years 1 to
+/// 9999.
+[[nodiscard]] std::string MonthSheet(const ravo::DateParts& day, bool holidays_de);
 
 }  // namespace tool
