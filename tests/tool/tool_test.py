@@ -12,6 +12,7 @@ import tempfile
 from concurrent.futures import ThreadPoolExecutor
 
 from command_rows import ROWS
+from convert_checks import CONVERT_CHECKS
 from document_checks import check_forms, check_xml, check_xml_encodings, check_xml_samples, check_xml_unreadable
 from file_checks import (check_colours, check_conversions, check_damaged_files, check_full_device, check_pipes, check_report_file,
                          check_report_json, check_sorted_files, check_sums, check_unreadable)
@@ -36,6 +37,7 @@ CHECKS = (
     check_sums,
     check_progress,
     check_conversions,
+    *CONVERT_CHECKS,
     check_interruption,
     check_streaming,
     check_full_device,

@@ -66,6 +66,8 @@ Sequences CountSequences(std::span<const std::uint8_t> bytes) {
 // Whether they could not be valid by chance. Two letters of a short text in CP 852 can be.
 bool IsSurelyUtf8(const Sequences& found) { return found.count > 3 || found.bytes > 2 * found.count; }
 
+bool IsPastAscii(char byte) { return static_cast<unsigned char>(byte) >= 0x80; }
+
 // A form of UTF-16 or UTF-32.
 struct Wide {
   const char* name;
@@ -151,10 +153,13 @@ EncodingGuess GuessByLetters(std::string_view bytes, const Sequences& found) {
 EncodingGuess GuessEncoding(std::string_view first_bytes) {
   const codec::ByteOrderMark mark = codec::FindByteOrderMark(BytesOf(first_bytes));
   if (mark.length != 0) return {std::string(mark.encoding), true, Text("it begins with a byte-order mark")};
-  const auto bytes = first_bytes.substr(0, kEnough);
-  if (bytes.find('\0') != std::string_view::npos) return GuessByZeros(BytesOf(bytes));
-  if (std::ranges::all_of(bytes, [](char c) { return static_cast<unsigned char>(c) < 0x80; }))
-    return {"UTF_8", true, Text("it has ASCII characters only")};
+  const auto start = first_bytes.substr(0, kEnough);
+  if (start.find('\0') != std::string_view::npos) return GuessByZeros(BytesOf(start));
+  const auto telling = std::ranges::find_if(first_bytes, IsPastAscii);
+  if (telling == first_bytes.end()) return {"UTF_8", true, Text("it has ASCII characters only")};
+  // With the letters before it, by which the first one is judged.
+  const auto before = static_cast<std::size_t>(telling - first_bytes.begin());
+  const auto bytes = first_bytes.substr(before - std::min<std::size_t>(before, 2), kEnough);
   const Sequences found = CountSequences(BytesOf(bytes));
   if (found.all_valid && IsSurelyUtf8(found)) return {"UTF_8", true, Text("its bytes are valid UTF-8")};
   return GuessByLetters(bytes, found);
