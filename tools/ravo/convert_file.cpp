@@ -13,7 +13,7 @@ namespace codec = ravo::codec;
 
 constexpr std::size_t kBlock = std::size_t{1} << 18;
 // Starting threads takes as long as converting some hundred kilobytes.
-constexpr std::int64_t kLarge = std::int64_t{1} << 22;
+constexpr std::int64_t kLarge = std::int64_t{1} << 20;
 
 Conversion WithSource(Conversion conversion) {
   if (conversion.from == nullptr) conversion.from = codec::FindEncoding("UTF_8");

@@ -18,20 +18,26 @@ constexpr std::size_t kFewUnits = 64;
 
 bool IsSpecial(char16_t c) { return codec::IsSurrogate(c) || c == codec::kReplacement; }
 
-// The index of the first U+FFFD or surrogate, which may stand for something else; the size if there is none.
 // The compiler makes vectors of a loop of known length.
+template <std::size_t kCount>
+char16_t BitsOf(std::span<const char16_t, kCount> text) {
+  char16_t bits = 0;
+  for (std::size_t i = 0; i < kCount; ++i) bits = static_cast<char16_t>(bits | text[i]);
+  return bits;
+}
+
+// The index of the first U+FFFD or surrogate, which may stand for something else; the size if there is none.
+// The letters of Europe lack the highest bit of both.
 std::size_t FindSpecial(std::span<const char16_t> text) {
   constexpr std::size_t kAtOnce = 256;
-  std::size_t at = 0;
-  for (; at + kAtOnce <= text.size(); at += kAtOnce) {
-    const char16_t* const part = text.data() + at;
-    char16_t any = 0;
-    for (std::size_t i = 0; i < kAtOnce; ++i)
-      any = static_cast<char16_t>(any | ((part[i] & 0xF800) == 0xD800) | (part[i] == codec::kReplacement));
-    if (any != 0) break;
+  constexpr char16_t kHighest = 0x8000;
+  for (std::size_t at = 0; at < text.size(); at += kAtOnce) {
+    const auto part = text.subspan(at, std::min(kAtOnce, text.size() - at));
+    if (part.size() == kAtOnce && (BitsOf(part.first<kAtOnce>()) & kHighest) == 0) continue;
+    const auto special = std::ranges::find_if(part, IsSpecial);
+    if (special != part.end()) return at + static_cast<std::size_t>(special - part.begin());
   }
-  const auto rest = text.subspan(at);
-  return at + static_cast<std::size_t>(std::ranges::find_if(rest, IsSpecial) - rest.begin());
+  return text.size();
 }
 
 std::string TextOf(codec::ByteSpan bytes) { return {bytes.begin(), bytes.end()}; }
