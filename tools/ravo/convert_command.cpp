@@ -3,6 +3,7 @@
 #include "convert_file.h"
 #include "nearest.h"
 #include "progress.h"
+#include "spelling.h"
 #include "text.h"
 #include "text_file.h"
 #include <ravo/codec/texts.h>
@@ -132,7 +133,7 @@ char32_t SingleCharacter(const std::string& utf8) {
 Conversion ConversionOf(const ConvertOptions& options) {
   Conversion conversion;
   conversion.to = &TargetOf(options.to);
-  conversion.spells = options.translit;
+  if (options.translit) conversion.spelling = SpellingOf;
   if (!options.replacement.empty()) conversion.replacement = SingleCharacter(options.replacement);
   return conversion;
 }

@@ -25,7 +25,7 @@ Conversion WithSource(Conversion conversion) {
 struct FileConverter::Block {
   std::vector<std::uint8_t> bytes = std::vector<std::uint8_t>(kBlock);
   std::size_t size = 0;
-  bool is_last = false;
+  Following following = Following::Bytes;
   Converted converted;
 };
 
@@ -40,7 +40,8 @@ class FileConverter::Blocks {
     std::ranges::copy(rest_, block.bytes.begin());
     const std::size_t size = rest_.size() + source_.ReadFully(std::span(block.bytes).subspan(rest_.size()));
     const codec::ByteSpan bytes = codec::ByteSpan(block.bytes).first(size);
-    block.is_last = is_at_end_ = size < block.bytes.size();
+    is_at_end_ = size < block.bytes.size();
+    block.following = is_at_end_ ? Following::Nothing : Following::Character;
     block.size = is_at_end_ ? size : from_.LengthOfWhole(bytes);
     rest_.assign(bytes.begin() + static_cast<std::ptrdiff_t>(block.size), bytes.end());
     return true;
@@ -80,7 +81,7 @@ bool FileConverter::ConvertPlainStart(ByteSource& source, const Progress& progre
     if (length < kLong) return true;
     // The letters before the first one that tells are part of what it tells.
     const std::size_t taken = length == kSampleSize ? length : length - 2;
-    converter_.Convert(bytes.first(taken), false, converted);
+    converter_.Convert(bytes.first(taken), Following::Character, converted);
     source.Skip(taken);
     progress(done_ += static_cast<std::int64_t>(taken));
     if (!WriteOut(converted)) return false;
@@ -92,22 +93,22 @@ void FileConverter::ConvertInOrder(ByteSource& source, const Progress& progress)
   Block block;
   do {
     const std::size_t count = source.ReadSome(std::span(block.bytes).subspan(block.size));
-    block.is_last = count == 0;
+    block.following = count == 0 ? Following::Nothing : Following::Bytes;
     block.size += count;
     const auto bytes = codec::ByteSpan(block.bytes).first(block.size);
-    const std::size_t taken = converter_.Convert(bytes, block.is_last, block.converted);
+    const std::size_t taken = converter_.Convert(bytes, block.following, block.converted);
     if (!WriteOut(block.converted)) return;
     progress(done_ += static_cast<std::int64_t>(taken));
     std::ranges::copy(bytes.subspan(taken), block.bytes.begin());
     block.size -= taken;
-  } while (!block.is_last);
+  } while (block.following != Following::Nothing);
 }
 
 void FileConverter::ConvertOnThreads(ByteSource& source, const Progress& progress) {
   Blocks blocks(source, *conversion_.from);
   const auto transform = [this] {
     return [converter = TextConverter(conversion_)](Block& block) mutable {
-      converter.Convert(codec::ByteSpan(block.bytes).first(block.size), block.is_last, block.converted);
+      converter.Convert(codec::ByteSpan(block.bytes).first(block.size), block.following, block.converted);
     };
   };
   const auto write = [&](Block& block) {

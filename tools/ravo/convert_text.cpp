@@ -1,7 +1,5 @@
 #include "convert_text.h"
 
-#include "spelling.h"
-
 #include <algorithm>
 #include <array>
 #include <span>
@@ -120,14 +118,15 @@ bool TextConverter::Has(char16_t unit) const {
 bool TextConverter::Spell(char32_t code, ByteBuffer& to) {
   auto found = spellings_.find(code);
   if (found == spellings_.end())
-    found = spellings_.emplace(code, SpellingOf(code, [this](char16_t unit) { return Has(unit); })).first;
+    found = spellings_.emplace(code, conversion_.spelling(code, [this](char16_t unit) { return Has(unit); }))
+                .first;
   return !found->second.empty() && Encode(found->second, to) == found->second.size();
 }
 
 // For a character that the encoding lacks: its spelling, or else the replacement, "?" if the encoding lacks
 // that too, at last nothing.
 bool TextConverter::Substitute(char32_t code, ByteBuffer& to) {
-  if (conversion_.spells && Spell(code, to)) return true;
+  if (conversion_.spelling != nullptr && Spell(code, to)) return true;
   if (!conversion_.replacement) return false;
   for (const char32_t c : {*conversion_.replacement, U'?'}) {
     if (WriteCharacter(c, to)) break;
@@ -155,13 +154,15 @@ void TextConverter::Transfer(const Run& run, codec::ByteSpan bytes, Converted& c
 }
 
 // Converts one character; returns false at the end of the bytes and at a fault.
-bool TextConverter::ConvertNext(codec::ByteSpan bytes, bool is_last, std::size_t& taken,
+bool TextConverter::ConvertNext(codec::ByteSpan bytes, Following following, std::size_t& taken,
                                 Converted& converted) {
   using Reading = Character::Reading;
   const auto rest = bytes.subspan(taken);
-  if (rest.empty() && !is_last) return false;
-  const Character next = from_.Read(decoder_, rest, is_last);
-  if (next.reading == Reading::CutShort && !is_last) return false;
+  if (rest.empty() && following != Following::Nothing) return false;
+  Character next = from_.Read(decoder_, rest, following == Following::Nothing);
+  if (next.reading == Reading::CutShort && following == Following::Bytes) return false;
+  if (next.reading == Reading::CutShort && following == Following::Character)
+    next.reading = Reading::Malformed;
   taken += next.bytes;
   if (next.reading == Reading::Nothing) return taken != bytes.size();
   const bool whole = next.reading == Reading::Whole;
@@ -178,13 +179,13 @@ bool TextConverter::ConvertNext(codec::ByteSpan bytes, bool is_last, std::size_t
   return false;
 }
 
-std::size_t TextConverter::Convert(codec::ByteSpan bytes, bool is_last, Converted& converted) {
+std::size_t TextConverter::Convert(codec::ByteSpan bytes, Following following, Converted& converted) {
   std::size_t taken = 0;
   for (;;) {
     const Run run = DecodeRun(bytes.subspan(taken));
     Transfer(run, bytes.subspan(taken), converted);
     taken += run.taken;
-    if (converted.fault || (run.ends_before_other && !ConvertNext(bytes, is_last, taken, converted)))
+    if (converted.fault || (run.ends_before_other && !ConvertNext(bytes, following, taken, converted)))
       return taken;
   }
 }

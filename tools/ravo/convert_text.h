@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -19,8 +20,8 @@ namespace tool {
 struct Conversion {
   const ravo::codec::Encoding* from = nullptr;
   const ravo::codec::Encoding* to = nullptr;
-  /// Whether characters that the target lacks are spelled with others.
-  bool spells = false;
+  /// Spells a character that the target lacks with others, as `SpellingOf` does; may be null.
+  std::u16string (*spelling)(char32_t code, const std::function<bool(char16_t)>& has) = nullptr;
   /// What is written for a character that cannot be; none: the conversion ends there.
   std::optional<char32_t> replacement;
 };
@@ -31,6 +32,13 @@ struct Fault {
   Kind kind;
   char32_t code;      ///< of the character that the target lacks
   std::string bytes;  ///< those that are no character
+};
+
+/// What follows the bytes of a piece.
+enum class Following : std::uint8_t {
+  Bytes,      ///< which may complete its last character
+  Character,  ///< so that an incomplete one before it is malformed
+  Nothing,
 };
 
 /// A converted piece of a text.
@@ -49,7 +57,7 @@ class TextConverter {
   void Restart(const ravo::codec::Encoding& from);
   /// Converts the characters in `bytes` up to a fault and returns how many bytes it took: all of the last
   /// ones of a text, and all but a character that is cut short of others. Appends to `converted`.
-  std::size_t Convert(ravo::codec::ByteSpan bytes, bool is_last, Converted& converted);
+  std::size_t Convert(ravo::codec::ByteSpan bytes, Following following, Converted& converted);
   /// Appends what the encoder holds back.
   void Finish(ByteBuffer& bytes);
 
@@ -57,7 +65,8 @@ class TextConverter {
   struct Run;
 
   [[nodiscard]] Run DecodeRun(ravo::codec::ByteSpan bytes);
-  bool ConvertNext(ravo::codec::ByteSpan bytes, bool is_last, std::size_t& taken, Converted& converted);
+  bool ConvertNext(ravo::codec::ByteSpan bytes, Following following, std::size_t& taken,
+                   Converted& converted);
   void Transfer(const Run& run, ravo::codec::ByteSpan bytes, Converted& converted);
   bool WriteCharacter(char32_t code, ByteBuffer& to);
   [[nodiscard]] std::size_t Encode(std::u16string_view text, ByteBuffer& to);
