@@ -130,7 +130,7 @@ std::string TextOfBytes(const Json& by_encoding) {
   return text;
 }
 
-std::string Text(const Json& facts) {
+std::string CharacterText(const Json& facts) {
   std::string text;
   for (const auto& [name, value] : facts.items()) {
     if (value.is_object()) {
@@ -151,7 +151,7 @@ void Run(const CharOptions& options, Outcome& outcome) {
     outcome.out = JsonText(all);
     return;
   }
-  for (const Json& facts : all) outcome.out += (outcome.out.empty() ? "" : "\n") + Text(facts);
+  for (const Json& facts : all) outcome.out += (outcome.out.empty() ? "" : "\n") + CharacterText(facts);
 }
 
 constexpr const char* kCharFooter =

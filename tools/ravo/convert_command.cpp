@@ -36,15 +36,15 @@ struct ConvertOptions {
 };
 
 // Ends the command with its message.
-struct Refused {
+struct ConvertRefused {
   std::string message;
   Answer answer = Answer::WrongUsage;
 };
 
 // Where the bytes go: to a file that is there once it is whole, or on to standard output.
-class Target {
+class ConvertTarget {
  public:
-  explicit Target(const std::optional<std::string>& name) {
+  explicit ConvertTarget(const std::optional<std::string>& name) {
     if (name && *name != kInputName) file_.emplace(*name);
   }
 
@@ -91,24 +91,25 @@ std::vector<std::string> EncodingNames() {
   return names;
 }
 
-SourceEncoding Named(const std::string& name) {
+SourceEncoding EncodingNamed(const std::string& name) {
   if (const auto encoding = SourceEncodingOf(name)) return *encoding;
   const std::string meant = DidYouMean(name, EncodingNames());
-  throw Refused{Text("there is no encoding {0}.", {name}) + (meant.empty() ? "" : " " + meant) + " " +
-                Text("The command `ravo encodings` lists them.")};
+  throw ConvertRefused{Text("there is no encoding {0}.", {name}) + (meant.empty() ? "" : " " + meant) + " " +
+                       Text("The command `ravo encodings` lists them.")};
 }
 
 SourceEncoding SourceOf(const std::string& name) {
-  const SourceEncoding encoding = Named(name);
+  const SourceEncoding encoding = EncodingNamed(name);
   if (encoding.row != nullptr && encoding.row->decode_one == nullptr)
-    throw Refused{Text("{0} cannot be read", {name})};
+    throw ConvertRefused{Text("{0} cannot be read", {name})};
   return encoding;
 }
 
 const codec::Encoding& TargetOf(const std::string& name) {
-  if (name.empty() || name == "auto") throw Refused{Text("the output needs an encoding; --to names it")};
-  const SourceEncoding encoding = Named(name);
-  if (encoding.row->encode_one == nullptr) throw Refused{Text("{0} cannot be written", {name})};
+  if (name.empty() || name == "auto")
+    throw ConvertRefused{Text("the output needs an encoding; --to names it")};
+  const SourceEncoding encoding = EncodingNamed(name);
+  if (encoding.row->encode_one == nullptr) throw ConvertRefused{Text("{0} cannot be written", {name})};
   // As Windows writes it; the mark tells.
   return encoding.order_is_open && encoding.row->name.starts_with("UTF")
              ? *codec::FindEncoding(encoding.row->name == "UTF_16_BE" ? "UTF_16_LE" : "UTF_32_LE")
@@ -126,7 +127,7 @@ char32_t SingleCharacter(const std::string& utf8) {
   const codec::ByteSpan bytes(reinterpret_cast<const std::uint8_t*>(utf8.data()), utf8.size());
   const Character character = encoding.Read(state, bytes, true);
   if (character.reading != Character::Reading::Whole || character.bytes != utf8.size())
-    throw Refused{Text("--replace wants one character")};
+    throw ConvertRefused{Text("--replace wants one character")};
   return character.code;
 }
 
@@ -140,32 +141,34 @@ Conversion ConversionOf(const ConvertOptions& options) {
 
 std::size_t ReadBytes(std::ifstream& file, std::span<std::uint8_t> to) {
   file.read(reinterpret_cast<char*>(to.data()), static_cast<std::streamsize>(to.size()));
-  if (file.bad()) throw Refused{Text("cannot be read")};
+  if (file.bad()) throw ConvertRefused{Text("cannot be read")};
   return static_cast<std::size_t>(file.gcount());
 }
 
-ByteSource Open(const std::string& name) {
+ByteSource OpenSource(const std::string& name) {
   if (name == kInputName)
     return {[](std::span<std::uint8_t> to) { return ReadInput(std::as_writable_bytes(to)); }, 0};
   const std::filesystem::path path = PathOf(name);
   std::error_code error;
-  if (std::filesystem::is_directory(path, error)) throw Refused{Text("cannot be read: it is a folder")};
+  if (std::filesystem::is_directory(path, error))
+    throw ConvertRefused{Text("cannot be read: it is a folder")};
   const auto file = std::make_shared<std::ifstream>(path, std::ios::binary);
   if (!*file)
-    throw Refused{std::filesystem::exists(path, error) ? Text("cannot be read")
-                                                       : Text("cannot be read: there is no such file")};
+    throw ConvertRefused{std::filesystem::exists(path, error)
+                             ? Text("cannot be read")
+                             : Text("cannot be read: there is no such file")};
   const auto size = std::filesystem::file_size(path, error);
   return {[file](std::span<std::uint8_t> to) { return ReadBytes(*file, to); },
           error ? 0 : static_cast<std::int64_t>(size)};
 }
 
-std::string CodePoint(char32_t code) {
+std::string CodePointText(char32_t code) {
   std::array<char, 12> text{};
   std::snprintf(text.data(), text.size(), "U+%04X", static_cast<unsigned>(code));
   return text.data();
 }
 
-std::string Hex(const std::string& bytes) {
+std::string HexOf(const std::string& bytes) {
   std::string text;
   for (const char byte : bytes) {
     std::array<char, 4> digits{};
@@ -176,21 +179,21 @@ std::string Hex(const std::string& bytes) {
   return text;
 }
 
-std::string Described(const ConversionEnd& end, const Conversion& conversion) {
+std::string DescribedEnd(const ConversionEnd& end, const Conversion& conversion) {
   switch (end.fault.kind) {
     case Fault::Kind::Lacking:
-      return Text("{0} cannot be written in {1}", {CodePoint(end.fault.code), conversion.to->name});
+      return Text("{0} cannot be written in {1}", {CodePointText(end.fault.code), conversion.to->name});
     case Fault::Kind::CutShort:
       return Text("the text ends inside a character of {0} (bytes: {1})",
-                  {end.from->name, Hex(end.fault.bytes)});
+                  {end.from->name, HexOf(end.fault.bytes)});
     default:
-      return Text("bytes that cannot be read in {0}: {1}", {end.from->name, Hex(end.fault.bytes)});
+      return Text("bytes that cannot be read in {0}: {1}", {end.from->name, HexOf(end.fault.bytes)});
   }
 }
 
 void ConvertFile(FileConverter& converter, const ConvertOptions& options, const Conversion& conversion,
                  const std::string& name, Outcome& outcome) try {
-  ByteSource source = Open(name);
+  ByteSource source = OpenSource(name);
   Progress progress(name, source.Size());
   const auto note = [&](const std::string& what) {
     outcome.err += "ravo convert: " + name + ": " + what + "\n";
@@ -198,27 +201,28 @@ void ConvertFile(FileConverter& converter, const ConvertOptions& options, const 
   const auto end = converter.Convert(SourceOf(options.from), source, note,
                                      [&progress](std::int64_t done) { progress.Show(done); });
   if (end)
-    throw Refused{
-        std::to_string(end->line) + ":" + std::to_string(end->column) + ": " + Described(*end, conversion),
+    throw ConvertRefused{
+        std::to_string(end->line) + ":" + std::to_string(end->column) + ": " + DescribedEnd(*end, conversion),
         Answer::No};
-} catch (const Refused& refused) {
-  throw Refused{name + ":" + (refused.answer == Answer::No ? "" : " ") + refused.message, refused.answer};
+} catch (const ConvertRefused& refused) {
+  throw ConvertRefused{name + ":" + (refused.answer == Answer::No ? "" : " ") + refused.message,
+                       refused.answer};
 } catch (const std::runtime_error&) {
-  throw Refused{name + ": " + Text("cannot be read")};
+  throw ConvertRefused{name + ": " + Text("cannot be read")};
 }
 
 // Several threads help as long as one of them writes.
-unsigned Threads() { return std::clamp(std::thread::hardware_concurrency(), 1U, 4U); }
+unsigned ConvertThreads() { return std::clamp(std::thread::hardware_concurrency(), 1U, 4U); }
 
 void Convert(const ConvertOptions& options, Outcome& outcome) {
-  if (options.output && options.output->empty()) throw Refused{Text("-o wants the name of a file")};
+  if (options.output && options.output->empty()) throw ConvertRefused{Text("-o wants the name of a file")};
   static_cast<void>(SourceOf(options.from));
   const Conversion conversion = ConversionOf(options);
   const auto files =
       options.files.empty() ? std::vector<std::string>{std::string(kInputName)} : options.files;
-  Target target(options.output);
+  ConvertTarget target(options.output);
   bool takes_more = true;
-  FileConverter converter(conversion, Threads(), [&](std::string_view bytes) {
+  FileConverter converter(conversion, ConvertThreads(), [&](std::string_view bytes) {
     return takes_more = bytes.empty() || target.Write(bytes);
   });
   if (WantsMark(options.to)) takes_more = target.Write(codec::Encoded(*conversion.to, u"\uFEFF"));
@@ -227,13 +231,14 @@ void Convert(const ConvertOptions& options, Outcome& outcome) {
   }
   if (takes_more) converter.Finish();
   const std::string failure = target.Finish(outcome);
-  if (!failure.empty()) throw Refused{options.output.value_or(Text("standard output")) + ": " + failure};
+  if (!failure.empty())
+    throw ConvertRefused{options.output.value_or(Text("standard output")) + ": " + failure};
 }
 
 void Run(const ConvertOptions& options, Outcome& outcome) {
   try {
     Convert(options, outcome);
-  } catch (const Refused& refused) {
+  } catch (const ConvertRefused& refused) {
     outcome.err += "ravo convert: " + refused.message + "\n";
     outcome.answer = refused.answer;
   }

@@ -14,7 +14,7 @@ namespace {
 
 namespace codec = ravo::codec;
 
-std::string_view AsText(codec::ByteSpan bytes) {
+std::string_view CharsOf(codec::ByteSpan bytes) {
   return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
 }
 
@@ -52,7 +52,7 @@ FoundEncoding FindOrder(const codec::Encoding& row, ByteSource& source) {
     source.Skip(row.name.ends_with("4_BE") || row.name.ends_with("32_BE") ? 4 : 2);
     return {&ordered, {}};
   }
-  const EncodingGuess guess = GuessEncoding(AsText(first));
+  const EncodingGuess guess = GuessEncoding(CharsOf(first));
   const codec::Encoding& found = InOrder(row, guess.encoding.ends_with("_LE") ? "_LE" : "_BE");
   return {&found,
           first.empty() ? std::string() : Text("taken as {0}: it has no byte-order mark", {found.label})};
@@ -60,7 +60,7 @@ FoundEncoding FindOrder(const codec::Encoding& row, ByteSource& source) {
 
 FoundEncoding Guess(ByteSource& source) {
   const auto first = source.Peek(kSampleSize);
-  const EncodingGuess guess = GuessEncoding(AsText(first));
+  const EncodingGuess guess = GuessEncoding(CharsOf(first));
   source.Skip(codec::FindByteOrderMark(first).length);
   const codec::Encoding* const row = codec::FindEncoding(std::string_view(guess.encoding));
   const auto label = row->label.substr(0, row->label.find(" ("));
