@@ -2,7 +2,6 @@
 #include "one_by_one.h"
 #include "support/effort.h"
 #include <ravo/codec/byte_order_mark.h>
-#include <ravo/codec/place.h>
 #include <ravo/codec/texts.h>
 
 #include <random>
@@ -195,38 +194,6 @@ TEST(Texts, OfAnEncodingWithWhatItLacks) {
   EXPECT_EQ(Decoded(RowOf("UTF_7"), "+AVk-a+"), u"řa\uFFFD");
   EXPECT_EQ(Decoded(RowOf("UTF_16_LE"), "a\0\0\xDCz\0"s), u"a");
   EXPECT_EQ(Encoded(RowOf("CP_437"), std::u16string(10000, u'é')), std::string(10000, '\x82'));
-}
-
-// The reference, one character at a time: a line break ends a line, the line feed of a pair belongs to its
-// carriage return.
-struct PlainPlace {
-  std::uint64_t line = 1;
-  std::uint64_t column = 0;
-  char16_t last = 0;
-
-  void Advance(char16_t ch) {
-    const bool starts = last == u'\n' || (last == u'\r' && ch != u'\n');
-    const bool completes = last == u'\r' && ch == u'\n';
-    if (starts) ++line;
-    column = starts ? 1 : completes ? column : column + 1;
-    last = ch;
-  }
-};
-
-TEST(Place, IsThatOfTheLastCharacterHoweverTheTextIsCut) {
-  std::mt19937 random(9);
-  for (int round = 0; round < 2000; ++round) {
-    Place place;
-    PlainPlace plain;
-    for (int piece = 0; piece < 4; ++piece) {
-      std::u16string text(random() % 70, u'a');
-      for (char16_t& ch : text) ch = random() % 4 == 0 ? (random() % 2 == 0 ? u'\r' : u'\n') : ch;
-      place.Advance(text);
-      for (const char16_t ch : text) plain.Advance(ch);
-      ASSERT_EQ(place.Line(), plain.line) << round;
-      ASSERT_EQ(place.Column(), plain.column) << round;
-    }
-  }
 }
 
 TEST(FindByteOrderMark, KnowsFive) {

@@ -12,6 +12,7 @@ import tempfile
 from concurrent.futures import ThreadPoolExecutor
 
 from command_rows import ROWS
+from convert_checks import CONVERT_CHECKS
 from czech_checks import CZECH_ROWS, check_bank_lists
 from date_checks import check_dates
 from document_checks import (check_forms, check_xml, check_xml_edits, check_xml_encodings, check_xml_samples, check_xml_sizes,
@@ -45,6 +46,7 @@ CHECKS = (
     check_sums,
     check_progress,
     check_conversions,
+    *CONVERT_CHECKS,
     check_interruption,
     check_streaming,
     check_full_device,

@@ -1,7 +1,7 @@
 #include "console.h"
 
+#include <algorithm>
 #include <cerrno>
-#include <cstdio>
 #include <cstdlib>
 #include <stdexcept>
 
@@ -14,8 +14,13 @@ std::vector<std::string> Arguments(int count, const char* const* values) {
 }
 
 bool Write(Channel channel, std::string_view utf8) {
-  std::FILE* file = channel == Channel::Out ? stdout : stderr;
-  return std::fwrite(utf8.data(), 1, utf8.size(), file) == utf8.size() && std::fflush(file) == 0;
+  const int file = channel == Channel::Out ? STDOUT_FILENO : STDERR_FILENO;
+  while (!utf8.empty()) {
+    const ssize_t count = write(file, utf8.data(), utf8.size());
+    if (count < 0 && errno != EINTR) return false;
+    utf8.remove_prefix(static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
+  }
+  return true;
 }
 
 std::size_t ReadInput(std::span<std::byte> to) {

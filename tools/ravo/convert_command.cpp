@@ -1,10 +1,16 @@
 #include "commands.h"
 #include "console.h"
-#include "convert_text.h"
+#include "convert_file.h"
+#include "nearest.h"
 #include "progress.h"
+#include "spelling.h"
+#include "text.h"
 #include "text_file.h"
 #include <ravo/codec/texts.h>
 
+#include <algorithm>
+#include <array>
+#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <memory>
@@ -12,6 +18,7 @@
 #include <span>
 #include <stdexcept>
 #include <string>
+#include <thread>
 #include <vector>
 
 namespace tool {
@@ -23,137 +30,257 @@ struct ConvertOptions {
   std::string from;
   std::string to;
   std::vector<std::string> files;
-  std::string output;
+  std::optional<std::string> output;
   std::string replacement;
+  bool translit = false;
+};
+
+// Ends the command with its message.
+struct ConvertRefused {
+  std::string message;
+  Answer answer = Answer::WrongUsage;
 };
 
 // Where the bytes go: to a file that is there once it is whole, or on to standard output.
-class Target {
+class ConvertTarget {
  public:
-  explicit Target(const std::string& name) {
-    if (!name.empty()) file_.emplace(name);
+  explicit ConvertTarget(const std::optional<std::string>& name) {
+    if (name && *name != kInputName) file_.emplace(*name);
   }
 
-  void Write(std::string_view bytes) {
-    // `Finish` tells what the file did not take.
-    if (file_)
-      static_cast<void>(file_->Write(bytes));
-    else if (shown_)
-      text_ += bytes;
-    else if (!tool::Write(Channel::Out, bytes))
-      throw std::runtime_error("the output cannot be written");
+  // Returns false if the output does not take them.
+  bool Write(std::string_view bytes) {
+    if (file_) return file_->Write(bytes);
+    if (!shown_) return is_whole_ = tool::Write(Channel::Out, bytes);
+    text_ += bytes;
+    return true;
   }
 
   // An empty text, or why it failed.
   [[nodiscard]] std::string Finish(Outcome& outcome) {
     if (file_) return file_->Finish();
     outcome.out = std::move(text_);
-    return {};
+    return is_whole_ ? "" : Text("cannot be written");
   }
 
  private:
   std::optional<WholeFile> file_;
   // A console takes characters, not bytes: they are shown together.
   bool shown_ = IsTerminal(Channel::Out);
+  bool is_whole_ = true;
   std::string text_;
 };
 
-const codec::Encoding& Named(const std::string& name) {
-  const codec::Encoding* const row = codec::FindEncoding(std::string_view(name));
-  if (row == nullptr) throw CLI::ValidationError("convert: no encoding " + name + "; see ravo encodings");
-  return *row;
+// In the usual spelling: windows-1250.
+std::string UsualName(std::string_view name) {
+  std::string usual(name);
+  for (char& c : usual) c = c == '_' ? '-' : c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
+  return usual;
 }
 
-char16_t SingleUnit(const std::string& utf8) {
-  const std::u16string text = codec::Decoded(Named("UTF_8"), utf8);
-  if (text.size() != 1 || text[0] == codec::kReplacement)
-    throw CLI::ValidationError("convert: --replace wants one character up to U+FFFF");
-  return text[0];
+std::vector<std::string> EncodingNames() {
+  std::vector<std::string> names;
+  for (const codec::Encoding& row : codec::Encodings()) {
+    names.push_back(UsualName(row.name));
+    for (std::string_view rest = row.aliases; !rest.empty();) {
+      const std::size_t length = std::min(rest.find(' '), rest.size());
+      names.emplace_back(rest.substr(0, length));
+      rest.remove_prefix(std::min(length + 1, rest.size()));
+    }
+  }
+  return names;
+}
+
+SourceEncoding EncodingNamed(const std::string& name) {
+  if (const auto encoding = SourceEncodingOf(name)) return *encoding;
+  const std::string meant = DidYouMean(name, EncodingNames());
+  throw ConvertRefused{Text("there is no encoding {0}.", {name}) + (meant.empty() ? "" : " " + meant) + " " +
+                       Text("The command `ravo encodings` lists them.")};
+}
+
+SourceEncoding SourceOf(const std::string& name) {
+  const SourceEncoding encoding = EncodingNamed(name);
+  if (encoding.row != nullptr && encoding.row->decode_one == nullptr)
+    throw ConvertRefused{Text("{0} cannot be read", {name})};
+  return encoding;
+}
+
+const codec::Encoding& TargetOf(const std::string& name) {
+  if (name.empty() || name == "auto")
+    throw ConvertRefused{Text("the output needs an encoding; --to names it")};
+  const SourceEncoding encoding = EncodingNamed(name);
+  if (encoding.row->encode_one == nullptr) throw ConvertRefused{Text("{0} cannot be written", {name})};
+  // As Windows writes it; the mark tells.
+  return encoding.order_is_open && encoding.row->name.starts_with("UTF")
+             ? *codec::FindEncoding(encoding.row->name == "UTF_16_BE" ? "UTF_16_LE" : "UTF_32_LE")
+             : *encoding.row;
+}
+
+bool WantsMark(const std::string& to) {
+  const auto encoding = SourceEncodingOf(to);
+  return encoding && encoding->order_is_open && encoding->row->name.starts_with("UTF");
+}
+
+char32_t SingleCharacter(const std::string& utf8) {
+  const ExactEncoding encoding(*codec::FindEncoding("UTF_8"));
+  codec::State state;
+  const codec::ByteSpan bytes(reinterpret_cast<const std::uint8_t*>(utf8.data()), utf8.size());
+  const Character character = encoding.Read(state, bytes, true);
+  if (character.reading != Character::Reading::Whole || character.bytes != utf8.size())
+    throw ConvertRefused{Text("--replace wants one character")};
+  return character.code;
 }
 
 Conversion ConversionOf(const ConvertOptions& options) {
   Conversion conversion;
-  conversion.from = options.from == "auto" ? nullptr : &Named(options.from);
-  conversion.to = &Named(options.to);
-  if (conversion.from != nullptr && conversion.from->decode_one == nullptr)
-    throw CLI::ValidationError("convert: " + options.from + " cannot be read");
-  if (conversion.to->encode_one == nullptr)
-    throw CLI::ValidationError("convert: " + options.to + " cannot be written");
-  if (!options.replacement.empty()) conversion.replacement = SingleUnit(options.replacement);
+  conversion.to = &TargetOf(options.to);
+  if (options.translit) conversion.spelling = SpellingOf;
+  if (!options.replacement.empty()) conversion.replacement = SingleCharacter(options.replacement);
   return conversion;
 }
 
-// How the bytes of a file are read; empty if it cannot be.
-Converter::Read Open(const std::string& name, std::int64_t& size) {
-  if (name == kInputName) return [](std::span<std::byte> to) { return ReadInput(to); };
+std::size_t ReadBytes(std::ifstream& file, std::span<std::uint8_t> to) {
+  file.read(reinterpret_cast<char*>(to.data()), static_cast<std::streamsize>(to.size()));
+  if (file.bad()) throw ConvertRefused{Text("cannot be read")};
+  return static_cast<std::size_t>(file.gcount());
+}
+
+ByteSource OpenSource(const std::string& name) {
+  if (name == kInputName)
+    return {[](std::span<std::uint8_t> to) { return ReadInput(std::as_writable_bytes(to)); }, 0};
   const std::filesystem::path path = PathOf(name);
   std::error_code error;
+  if (std::filesystem::is_directory(path, error))
+    throw ConvertRefused{Text("cannot be read: it is a folder")};
   const auto file = std::make_shared<std::ifstream>(path, std::ios::binary);
-  if (!*file || std::filesystem::is_directory(path, error)) return {};
-  const auto bytes = std::filesystem::file_size(path, error);
-  size = error ? 0 : static_cast<std::int64_t>(bytes);
-  return [file](std::span<std::byte> to) {
-    file->read(reinterpret_cast<char*>(to.data()), static_cast<std::streamsize>(to.size()));
-    if (file->bad()) throw std::runtime_error("cannot be read");
-    return static_cast<std::size_t>(file->gcount());
+  if (!*file)
+    throw ConvertRefused{std::filesystem::exists(path, error)
+                             ? Text("cannot be read")
+                             : Text("cannot be read: there is no such file")};
+  const auto size = std::filesystem::file_size(path, error);
+  return {[file](std::span<std::uint8_t> to) { return ReadBytes(*file, to); },
+          error ? 0 : static_cast<std::int64_t>(size)};
+}
+
+std::string CodePointText(char32_t code) {
+  std::array<char, 12> text{};
+  std::snprintf(text.data(), text.size(), "U+%04X", static_cast<unsigned>(code));
+  return text.data();
+}
+
+std::string HexOf(const std::string& bytes) {
+  std::string text;
+  for (const char byte : bytes) {
+    std::array<char, 4> digits{};
+    std::snprintf(digits.data(), digits.size(), "%02X",
+                  static_cast<unsigned>(static_cast<unsigned char>(byte)));
+    text += (text.empty() ? "" : " ") + std::string(digits.data());
+  }
+  return text;
+}
+
+std::string DescribedEnd(const ConversionEnd& end, const Conversion& conversion) {
+  switch (end.fault.kind) {
+    case Fault::Kind::Lacking:
+      return Text("{0} cannot be written in {1}", {CodePointText(end.fault.code), conversion.to->name});
+    case Fault::Kind::CutShort:
+      return Text("the text ends inside a character of {0} (bytes: {1})",
+                  {end.from->name, HexOf(end.fault.bytes)});
+    default:
+      return Text("bytes that cannot be read in {0}: {1}", {end.from->name, HexOf(end.fault.bytes)});
+  }
+}
+
+void ConvertFile(FileConverter& converter, const ConvertOptions& options, const Conversion& conversion,
+                 const std::string& name, Outcome& outcome) try {
+  ByteSource source = OpenSource(name);
+  Progress progress(name, source.Size());
+  const auto note = [&](const std::string& what) {
+    outcome.err += "ravo convert: " + name + ": " + what + "\n";
   };
+  const auto end = converter.Convert(SourceOf(options.from), source, note,
+                                     [&progress](std::int64_t done) { progress.Show(done); });
+  if (end)
+    throw ConvertRefused{
+        std::to_string(end->line) + ":" + std::to_string(end->column) + ": " + DescribedEnd(*end, conversion),
+        Answer::No};
+} catch (const ConvertRefused& refused) {
+  throw ConvertRefused{name + ":" + (refused.answer == Answer::No ? "" : " ") + refused.message,
+                       refused.answer};
+} catch (const std::runtime_error&) {
+  throw ConvertRefused{name + ": " + Text("cannot be read")};
 }
 
-bool Complain(Outcome& outcome, const std::string& what, Answer answer) {
-  outcome.err += "ravo: " + what + "\n";
-  outcome.answer = answer;
-  return false;
-}
+// Several threads help as long as one of them writes.
+unsigned ConvertThreads() { return std::clamp(std::thread::hardware_concurrency(), 1U, 4U); }
 
-bool ConvertFile(Converter& converter, const std::string& name, Outcome& outcome) {
-  std::int64_t size = 0;
-  const Converter::Read read = Open(name, size);
-  if (!read) return Complain(outcome, name + ": cannot be read", Answer::WrongUsage);
-  Progress progress(name, size);
-  const Refusal refusal = converter.Convert(read, [&progress](std::int64_t done) { progress.Show(done); });
-  return refusal ? Complain(outcome, name + ":" + *refusal, Answer::No) : true;
-}
-
-void Run(const ConvertOptions& options, Outcome& outcome) {
+void Convert(const ConvertOptions& options, Outcome& outcome) {
+  if (options.output && options.output->empty()) throw ConvertRefused{Text("-o wants the name of a file")};
+  static_cast<void>(SourceOf(options.from));
   const Conversion conversion = ConversionOf(options);
   const auto files =
       options.files.empty() ? std::vector<std::string>{std::string(kInputName)} : options.files;
-  Target target(options.output);
-  Converter converter(conversion, [&target](std::string_view bytes) { target.Write(bytes); });
+  ConvertTarget target(options.output);
+  bool takes_more = true;
+  FileConverter converter(conversion, ConvertThreads(), [&](std::string_view bytes) {
+    return takes_more = bytes.empty() || target.Write(bytes);
+  });
+  if (WantsMark(options.to)) takes_more = target.Write(codec::Encoded(*conversion.to, u"\uFEFF"));
   for (const std::string& file : files) {
-    if (!ConvertFile(converter, file, outcome)) return;
+    if (takes_more) ConvertFile(converter, options, conversion, file, outcome);
   }
-  converter.Finish();
+  if (takes_more) converter.Finish();
   const std::string failure = target.Finish(outcome);
-  if (!failure.empty()) Complain(outcome, options.output + ": " + failure, Answer::WrongUsage);
+  if (!failure.empty())
+    throw ConvertRefused{options.output.value_or(Text("standard output")) + ": " + failure};
 }
 
-constexpr const char* kConvertFooter =
-    "ENCODING is a name, an alias or a code page number of `ravo encodings`; -f auto goes by the byte-order "
-    "mark,\n"
-    "which is left out, and takes text without one for UTF-8. Several files become one. The file of -o is "
-    "there only\n"
-    "once all of it is right: until then, and wherever the conversion ends early, an old file stays as it "
-    "was.\n"
-    "Standard output gets the text as it is converted, up to what ends it.\n"
+void Run(const ConvertOptions& options, Outcome& outcome) {
+  try {
+    Convert(options, outcome);
+  } catch (const ConvertRefused& refused) {
+    outcome.err += "ravo convert: " + refused.message + "\n";
+    outcome.answer = refused.answer;
+  }
+}
+
+constexpr const char* kConvertFooter = ToTranslate(
+    "ENCODING is a name, an alias or a code page number of `ravo encodings`. Without -f, or with -f auto, "
+    "the text\n"
+    "decides: by its byte-order mark, its zero bytes, its sequences of UTF-8, or by the letters of Czech in\n"
+    "Windows-1250, ISO 8859-2 and code page 852; what was taken is told on standard error. utf-16, utf-32, "
+    "ucs-2 and\n"
+    "ucs-4 without a byte order follow the byte-order mark; as the output, utf-16 and utf-32 begin with "
+    "one.\n"
+    "\n"
+    "Several files become one. The file of -o is there only once all of it is right: until then, and "
+    "wherever the\n"
+    "conversion ends early, an old file stays as it was. Standard output gets the text as it is converted, "
+    "up to\n"
+    "what ends it. --translit writes what the output's encoding lacks in other characters, such as e for ê "
+    "and\n"
+    "EUR for the euro; --replace writes one character for what is left, and for bytes that cannot be read.\n"
     "\n"
     "Exit status: 0, 1 something cannot be read or written in these encodings (with line and column), 2 "
     "wrong\n"
     "usage or an unusable file.\n"
     "\n"
     "Examples:\n"
+    "  ravo convert -t utf-8 export.txt -o export-utf8.txt\n"
     "  ravo convert -f windows-1250 -t utf-8 export.txt -o export-utf8.txt\n"
-    "  ravo convert -f auto -t 1250 --replace '?' letter.txt > letter-1250.txt\n";
+    "  ravo convert -f utf-8 -t 1250 --translit --replace '?' letter.txt > letter-1250.txt\n");
 
 }  // namespace
 
 void AddConvertCommand(CLI::App& program, Outcome& outcome) {
   CLI::App* command = program.add_subcommand("convert", "Converts texts from one encoding to another");
   const auto options = std::make_shared<ConvertOptions>();
-  command->add_option("-f,--from", options->from, "The encoding of the files, or auto")->required();
+  command->add_option("-f,--from", options->from,
+                      "The encoding of the files; without it, or with auto, found out");
   command->add_option("-t,--to", options->to, "The encoding of the output")->required();
   command->add_option("FILE", options->files, "The files; none, or -, is standard input");
-  command->add_option("-o,--output", options->output, "The file to write; else standard output");
+  command->add_option("-o,--output", options->output, "The file to write; else, or with -, standard output");
+  command->add_flag("--translit", options->translit, "Spell characters that the output lacks with others");
   command->add_option("--replace", options->replacement,
                       "The character to write for those that cannot be; without it they end the conversion");
   command->footer(kConvertFooter);

@@ -1,12 +1,8 @@
 #include "convert_text.h"
 
-#include <ravo/codec/byte_order_mark.h>
-#include <ravo/codec/kernels/run_search.h>
-
 #include <algorithm>
 #include <array>
-#include <cstdio>
-#include <cstring>
+#include <span>
 #include <utility>
 
 namespace tool {
@@ -14,134 +10,189 @@ namespace {
 
 namespace codec = ravo::codec;
 
-// A block, its units and their bytes fit into the second-level cache together.
-constexpr std::size_t kBlock = 1 << 16;
+// The units of a run and their bytes stay in the first-level cache.
+constexpr std::size_t kUnits = std::size_t{1} << 13;
+constexpr std::size_t kFewUnits = 64;
 
-std::string CodePoint(char16_t c) {
-  std::array<char, 8> text{};
-  std::snprintf(text.data(), text.size(), "U+%04X", static_cast<unsigned>(c));
-  return text.data();
+bool IsSpecial(char16_t c) { return codec::IsSurrogate(c) || c == codec::kReplacement; }
+
+// The compiler makes vectors of a loop of known length.
+template <std::size_t kCount>
+char16_t BitsOf(std::span<const char16_t, kCount> text) {
+  char16_t bits = 0;
+  for (std::size_t i = 0; i < kCount; ++i) bits = static_cast<char16_t>(bits | text[i]);
+  return bits;
 }
 
-std::size_t FindUnreadable(std::u16string_view text) {
-  return codec::LengthBefore(std::span<const char16_t>(text), codec::OneOf(codec::kReplacement));
+// The index of the first U+FFFD or surrogate, which may stand for something else; the size if there is none.
+// The letters of Europe lack the highest bit of both.
+std::size_t FindSpecial(std::span<const char16_t> text) {
+  constexpr std::size_t kAtOnce = 256;
+  constexpr char16_t kHighest = 0x8000;
+  for (std::size_t at = 0; at < text.size(); at += kAtOnce) {
+    const auto part = text.subspan(at, std::min(kAtOnce, text.size() - at));
+    if (part.size() == kAtOnce && (BitsOf(part.first<kAtOnce>()) & kHighest) == 0) continue;
+    const auto special = std::ranges::find_if(part, IsSpecial);
+    if (special != part.end()) return at + static_cast<std::size_t>(special - part.begin());
+  }
+  return text.size();
 }
 
-std::string_view AsText(std::span<const std::uint8_t> bytes) {
-  return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
-}
+std::string TextOf(codec::ByteSpan bytes) { return {bytes.begin(), bytes.end()}; }
+
+// The UTF-16 of a character.
+struct Units {
+  explicit Units(char32_t code) : units{static_cast<char16_t>(code)} {
+    if (code <= 0xFFFF) return;
+    units = {static_cast<char16_t>(0xD7C0 + (code >> 10)), static_cast<char16_t>(0xDC00 + (code & 0x3FF))};
+    size = 2;
+  }
+  [[nodiscard]] std::u16string_view View() const { return {units.data(), size}; }
+
+  std::array<char16_t, 2> units;
+  std::size_t size = 1;
+};
 
 }  // namespace
 
-// The bytes that are read and not yet converted.
-struct Converter::Input {
-  explicit Input(const Read& from) : read(from) {}
-
-  // Reads more after the bytes that are left.
-  void Fill() {
-    std::memmove(block.data(), block.data() + begin, end - begin);
-    end -= std::exchange(begin, 0);
-    const std::size_t count = read(std::as_writable_bytes(std::span(block).subspan(end)));
-    is_last = count == 0;
-    end += count;
-  }
-  // False at the end of the text.
-  bool FillUpTo(std::size_t size) {
-    while (end - begin < size && !is_last) Fill();
-    return end != begin;
-  }
-  void Take(std::size_t count) {
-    begin += count;
-    taken += static_cast<std::int64_t>(count);
-  }
-  [[nodiscard]] std::span<const std::uint8_t> Bytes() const {
-    return std::span(block).subspan(begin, end - begin);
-  }
-
-  const Read& read;
-  std::vector<std::uint8_t> block = std::vector<std::uint8_t>(kBlock);
-  std::size_t begin = 0;
-  std::size_t end = 0;
-  bool is_last = false;
-  std::int64_t taken = 0;
+// Characters that the engines read rightly.
+struct TextConverter::Run {
+  std::size_t taken = 0;
+  std::size_t made = 0;
+  bool ends_before_other = false;  // the next character is for `ExactEncoding`
 };
 
-Converter::Converter(const Conversion& conversion, Write write)
-    : conversion_(conversion), write_(std::move(write)), units_(kBlock + 1), made_(2 * kBlock) {}
+TextConverter::TextConverter(const Conversion& conversion)
+    : conversion_(conversion),
+      from_(*conversion.from),
+      to_(*conversion.to),
+      units_(kUnits + 1),
+      room_(kUnits) {}
 
-// The place of the last character of `text`, which begins after the current one.
-std::string Converter::At(std::u16string_view text) {
-  place_.Advance(text);
-  return std::to_string(place_.Line()) + ":" + std::to_string(place_.Column()) + ": ";
+void TextConverter::Restart(const codec::Encoding& from) {
+  from_ = ExactEncoding(from);
+  decoder_ = {};
+  room_ = kUnits;
 }
 
-// Up to the first character that the encoding lacks: how many characters that are.
-std::size_t Converter::Encode(std::u16string_view text) {
+TextConverter::Run TextConverter::DecodeRun(codec::ByteSpan bytes) {
+  const codec::State before = decoder_;
+  const auto decode = [&](std::size_t room) {
+    return codec::Decode(from_.Row(), decoder_, bytes, std::span(units_).first(room),
+                         codec::Input::MoreFollows);
+  };
+  codec::Step step = decode(room_);
+  const std::size_t usual = FindSpecial(std::span(units_).first(step.made));
+  if (usual < step.made) {
+    decoder_ = before;
+    step = decode(usual);
+    room_ = kFewUnits;
+    return {step.taken, step.made, true};
+  }
+  room_ = std::min(2 * room_, kUnits);
+  // A low surrogate is taken, and no character of UTF-16.
+  if (step.stop == codec::Stop::EndOfData) return {step.taken - 2, step.made, true};
+  return {step.taken, step.made, step.stop != codec::Stop::RoomUsed};
+}
+
+// Up to the first character that the encoding lacks: how many units that are.
+std::size_t TextConverter::Encode(std::u16string_view text, ByteBuffer& to) {
   std::size_t taken = 0;
   codec::Step step{.taken = 0, .made = 0, .stop = codec::Stop::RoomUsed};
   while (step.stop == codec::Stop::RoomUsed) {
-    step = codec::Encode(*conversion_.to, state_, text.substr(taken), made_);
-    write_(AsText(std::span(made_).first(step.made)));
+    // Most characters are one or two bytes long; others need another round.
+    const auto room = to.Room(2 * (text.size() - taken) + codec::kMostBytesAtOnce);
+    step = codec::Encode(to_.Row(), encoder_, text.substr(taken), room);
+    to.Add(step.made);
     taken += step.taken;
   }
   return taken;
 }
 
-// For a character that the encoding lacks: the replacement, "?" if it lacks that too, at last nothing.
-void Converter::Replace() {
-  for (const char16_t c : {*conversion_.replacement, u'?'}) {
-    if (Encode({&c, 1}) == 1) return;
-  }
-}
-
-Refusal Converter::Transfer(std::u16string_view text) {
-  const bool strict = !conversion_.replacement;
-  const std::size_t readable = strict ? FindUnreadable(text) : text.size();
-  for (std::size_t at = 0; at != readable; ++at) {
-    at += Encode(text.substr(at, readable - at));
-    if (at == readable) break;
-    if (strict)
-      return At(text.substr(0, at + 1)) + CodePoint(text[at]) + " cannot be written in " +
-             std::string(conversion_.to->name);
-    Replace();
-  }
-  if (readable != text.size()) return At(text.substr(0, readable + 1)) + "bytes that cannot be read";
-  place_.Advance(text);
-  return {};
-}
-
-Refusal Converter::Convert(const Read& read, const Progress& progress) {
-  Input input(read);
-  const codec::Encoding* from = conversion_.from;
-  if (from == nullptr) {
-    input.FillUpTo(codec::kLongestByteOrderMark);
-    const codec::ByteOrderMark mark = codec::FindByteOrderMark(input.Bytes());
-    from = codec::FindEncoding(mark.length != 0 ? mark.encoding : "UTF_8");
-    input.Take(mark.length);
-  }
-  place_ = {};
+bool TextConverter::Has(char16_t unit) const {
   codec::State state;
-  codec::Step step;
+  std::array<std::uint8_t, codec::kMostBytesAtOnce> bytes{};
+  return codec::Encode(to_.Row(), state, {&unit, 1}, bytes).taken == 1;
+}
+
+bool TextConverter::Spell(char32_t code, ByteBuffer& to) {
+  auto found = spellings_.find(code);
+  if (found == spellings_.end())
+    found = spellings_.emplace(code, conversion_.spelling(code, [this](char16_t unit) { return Has(unit); }))
+                .first;
+  return !found->second.empty() && Encode(found->second, to) == found->second.size();
+}
+
+// For a character that the encoding lacks: its spelling, or else the replacement, "?" if the encoding lacks
+// that too, at last nothing.
+bool TextConverter::Substitute(char32_t code, ByteBuffer& to) {
+  if (conversion_.spelling != nullptr && Spell(code, to)) return true;
+  if (!conversion_.replacement) return false;
+  for (const char32_t c : {*conversion_.replacement, U'?'}) {
+    if (WriteCharacter(c, to)) break;
+  }
+  return true;
+}
+
+bool TextConverter::WriteCharacter(char32_t code, ByteBuffer& to) {
+  if (code > 0xFFFF) return to_.Write(encoder_, code, to);
+  return Encode(Units(code).View(), to) == 1;
+}
+
+void TextConverter::Transfer(const Run& run, codec::ByteSpan bytes, Converted& converted) {
+  const std::u16string_view text(units_.data(), run.made);
+  for (std::size_t at = 0; at != text.size(); ++at) {
+    at += Encode(text.substr(at), converted.bytes);
+    if (at == text.size()) break;
+    if (Substitute(text[at], converted.bytes)) continue;
+    converted.fault = {Fault::Kind::Lacking, text[at], {}};
+    converted.extent += TextExtent(text.substr(0, at));
+    return;
+  }
+  converted.extent +=
+      from_.Row().decode_until != nullptr ? TextExtent(text, bytes.first(run.taken)) : TextExtent(text);
+}
+
+// Converts one character; returns false at the end of the bytes and at a fault.
+bool TextConverter::ConvertNext(codec::ByteSpan bytes, Following following, std::size_t& taken,
+                                Converted& converted) {
+  using Reading = Character::Reading;
+  const auto rest = bytes.subspan(taken);
+  if (rest.empty() && following != Following::Nothing) return false;
+  Character next = from_.Read(decoder_, rest, following == Following::Nothing);
+  if (next.reading == Reading::CutShort && following == Following::Bytes) return false;
+  if (next.reading == Reading::CutShort && following == Following::Character)
+    next.reading = Reading::Malformed;
+  taken += next.bytes;
+  if (next.reading == Reading::Nothing) return taken != bytes.size();
+  const bool whole = next.reading == Reading::Whole;
+  const char32_t code = whole ? next.code : codec::kReplacement;
+  const bool passes = whole || conversion_.replacement.has_value();
+  if (passes && (WriteCharacter(code, converted.bytes) || Substitute(code, converted.bytes))) {
+    converted.extent += TextExtent(Units(code).View());
+    return true;
+  }
+  const auto kind = whole                               ? Fault::Kind::Lacking
+                    : next.reading == Reading::CutShort ? Fault::Kind::CutShort
+                                                        : Fault::Kind::Malformed;
+  converted.fault = {kind, code, TextOf(rest.first(next.bytes))};
+  return false;
+}
+
+std::size_t TextConverter::Convert(codec::ByteSpan bytes, Following following, Converted& converted) {
+  std::size_t taken = 0;
   for (;;) {
-    const auto more = input.is_last ? codec::Input::IsLast : codec::Input::MoreFollows;
-    step = codec::Decode(*from, state, input.Bytes(), units_, more);
-    input.Take(step.taken);
-    if (Refusal refusal = Transfer({units_.data(), step.made})) return refusal;
-    progress(input.taken);
-    // Some encodings end at a unit that nothing can be made of, with bytes after it.
-    if (step.stop == codec::Stop::EndOfData && input.FillUpTo(1)) {
-      if (!conversion_.replacement) return At({}) + "bytes that cannot be read after this character";
-      if (Encode(std::u16string_view(&codec::kReplacement, 1)) == 0) Replace();
-    } else if (step.stop != codec::Stop::RoomUsed) {
-      if (input.is_last) return {};
-      input.Fill();
-    }
+    const Run run = DecodeRun(bytes.subspan(taken));
+    Transfer(run, bytes.subspan(taken), converted);
+    taken += run.taken;
+    if (converted.fault || (run.ends_before_other && !ConvertNext(bytes, following, taken, converted)))
+      return taken;
   }
 }
 
-void Converter::Finish() {
-  write_(AsText(std::span(made_).first(
-      codec::Flush(*conversion_.to, state_, std::span(made_).first<codec::kMostBytesAtOnce>()))));
+void TextConverter::Finish(ByteBuffer& bytes) {
+  const auto room = bytes.Room(codec::kMostBytesAtOnce);
+  bytes.Add(codec::Flush(to_.Row(), encoder_, room.first<codec::kMostBytesAtOnce>()));
 }
 
 }  // namespace tool

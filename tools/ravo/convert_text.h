@@ -1,13 +1,15 @@
 #pragma once
 
+#include "byte_buffer.h"
+#include "exact_encoding.h"
+#include "text_extent.h"
 #include <ravo/codec/encoding.h>
-#include <ravo/codec/place.h>
 
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <optional>
-#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,48 +18,72 @@ namespace tool {
 
 /// How a text is converted.
 struct Conversion {
-  /// Null: by the byte-order mark, which is left out; without one, UTF-8.
   const ravo::codec::Encoding* from = nullptr;
   const ravo::codec::Encoding* to = nullptr;
+  /// Spells a character that the target lacks with others, as `SpellingOf` does; may be null.
+  std::u16string (*spelling)(char32_t code, const std::function<bool(char16_t)>& has) = nullptr;
   /// What is written for a character that cannot be; none: the conversion ends there.
-  std::optional<char16_t> replacement;
+  std::optional<char32_t> replacement;
 };
 
-/// Where a conversion ended before the end, and why: "3:14: U+4E00 cannot be written in Windows_1250".
-using Refusal = std::optional<std::string>;
+/// Why a conversion ends before the text does, at the character after what was converted.
+struct Fault {
+  enum class Kind : std::uint8_t { Malformed, CutShort, Lacking };
+  Kind kind;
+  char32_t code;      ///< of the character that the target lacks
+  std::string bytes;  ///< those that are no character
+};
 
-/// Converts several texts into one, block by block: the memory does not grow with them.
-class Converter {
+/// What follows the bytes of a piece.
+enum class Following : std::uint8_t {
+  Bytes,      ///< which may complete its last character
+  Character,  ///< so that an incomplete one before it is malformed
+  Nothing,
+};
+
+/// A converted piece of a text.
+struct Converted {
+  ByteBuffer bytes;
+  TextExtent extent;
+  std::optional<Fault> fault;
+};
+
+/// Converts the pieces of a text in order, or, if both encodings allow it, any of them.
+class TextConverter {
  public:
-  /// Reads bytes into a block; gives how many, 0 at the end.
-  using Read = std::function<std::size_t(std::span<std::byte>)>;
-  using Write = std::function<void(std::string_view)>;
-  /// Hears how many bytes of the text are converted.
-  using Progress = std::function<void(std::int64_t)>;
+  explicit TextConverter(const Conversion& conversion);
 
-  Converter(const Conversion& conversion, Write write);
-
-  /// Converts a text. Without a replacement ends at the first character that cannot be read or written; what
-  /// is before it is written.
-  [[nodiscard]] Refusal Convert(const Read& read, const Progress& progress);
-  /// Writes what the encoder holds back.
-  void Finish();
+  /// Reads from now on in `from`, from the start of a text.
+  void Restart(const ravo::codec::Encoding& from);
+  /// Converts the characters in `bytes` up to a fault and returns how many bytes it took: all of the last
+  /// ones of a text, and all but a character that is cut short of others. Appends to `converted`.
+  std::size_t Convert(ravo::codec::ByteSpan bytes, Following following, Converted& converted);
+  /// Appends what the encoder holds back.
+  void Finish(ByteBuffer& bytes);
 
  private:
-  struct Input;
+  struct Run;
 
-  [[nodiscard]] Refusal Transfer(std::u16string_view text);
-  [[nodiscard]] std::size_t Encode(std::u16string_view text);
-  void Replace();
-  [[nodiscard]] std::string At(std::u16string_view text);
+  [[nodiscard]] Run DecodeRun(ravo::codec::ByteSpan bytes);
+  bool ConvertNext(ravo::codec::ByteSpan bytes, Following following, std::size_t& taken,
+                   Converted& converted);
+  void Transfer(const Run& run, ravo::codec::ByteSpan bytes, Converted& converted);
+  bool WriteCharacter(char32_t code, ByteBuffer& to);
+  [[nodiscard]] std::size_t Encode(std::u16string_view text, ByteBuffer& to);
+  bool Substitute(char32_t code, ByteBuffer& to);
+  bool Spell(char32_t code, ByteBuffer& to);
+  [[nodiscard]] bool Has(char16_t unit) const;
 
   Conversion conversion_;
-  Write write_;
-  ravo::codec::State state_;
-  /// Of the text that is being converted.
-  ravo::codec::Place place_;
+  ExactEncoding from_;
+  ExactEncoding to_;
+  ravo::codec::State decoder_;
+  ravo::codec::State encoder_;
   std::vector<char16_t> units_;
-  std::vector<std::uint8_t> made_;
+  /// How many units are decoded at once: few after a character that the engines leave out, because others may
+  /// follow.
+  std::size_t room_;
+  std::map<char32_t, std::u16string> spellings_;
 };
 
 }  // namespace tool

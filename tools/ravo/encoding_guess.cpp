@@ -19,14 +19,14 @@ namespace codec = ravo::codec;
 // The rest of a longer text decides no more.
 constexpr std::size_t kEnough = std::size_t{1} << 16;
 
-std::span<const std::uint8_t> BytesOf(std::string_view text) {
+std::span<const std::uint8_t> ByteSpanOf(std::string_view text) {
   return {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()};
 }
 
-const codec::Encoding& Row(std::string_view name) { return *codec::FindEncoding(name); }
+const codec::Encoding& RowNamed(std::string_view name) { return *codec::FindEncoding(name); }
 
 std::string_view LabelOf(std::string_view name) {
-  const std::string_view label = Row(name).label;
+  const std::string_view label = RowNamed(name).label;
   return label.substr(0, label.find(" ("));
 }
 
@@ -65,6 +65,8 @@ Sequences CountSequences(std::span<const std::uint8_t> bytes) {
 
 // Whether they could not be valid by chance. Two letters of a short text in CP 852 can be.
 bool IsSurelyUtf8(const Sequences& found) { return found.count > 3 || found.bytes > 2 * found.count; }
+
+bool IsPastAscii(char byte) { return static_cast<unsigned char>(byte) >= 0x80; }
 
 // A form of UTF-16 or UTF-32.
 struct Wide {
@@ -118,7 +120,7 @@ std::vector<Candidate> CandidatesOf(std::string_view bytes, const Sequences& fou
   std::vector<Candidate> candidates{{"Windows_1250", 2, {}}, {"Iso_8859_2", 0, {}}, {"CP_852", 0, {}}};
   if (found.all_valid) candidates.push_back({"UTF_8", kBitsOfSequence * static_cast<int>(found.count), {}});
   for (Candidate& candidate : candidates) {
-    candidate.text = codec::Decoded(Row(candidate.name), bytes);
+    candidate.text = codec::Decoded(RowNamed(candidate.name), bytes);
     candidate.bits += CzechLikeness(candidate.text);
   }
   std::ranges::stable_sort(candidates, std::ranges::greater(), &Candidate::bits);
@@ -149,13 +151,16 @@ EncodingGuess GuessByLetters(std::string_view bytes, const Sequences& found) {
 }  // namespace
 
 EncodingGuess GuessEncoding(std::string_view first_bytes) {
-  const codec::ByteOrderMark mark = codec::FindByteOrderMark(BytesOf(first_bytes));
+  const codec::ByteOrderMark mark = codec::FindByteOrderMark(ByteSpanOf(first_bytes));
   if (mark.length != 0) return {std::string(mark.encoding), true, Text("it begins with a byte-order mark")};
-  const auto bytes = first_bytes.substr(0, kEnough);
-  if (bytes.find('\0') != std::string_view::npos) return GuessByZeros(BytesOf(bytes));
-  if (std::ranges::all_of(bytes, [](char c) { return static_cast<unsigned char>(c) < 0x80; }))
-    return {"UTF_8", true, Text("it has ASCII characters only")};
-  const Sequences found = CountSequences(BytesOf(bytes));
+  const auto start = first_bytes.substr(0, kEnough);
+  if (start.find('\0') != std::string_view::npos) return GuessByZeros(ByteSpanOf(start));
+  const auto telling = std::ranges::find_if(first_bytes, IsPastAscii);
+  if (telling == first_bytes.end()) return {"UTF_8", true, Text("it has ASCII characters only")};
+  // With the letters before it, by which the first one is judged.
+  const auto before = static_cast<std::size_t>(telling - first_bytes.begin());
+  const auto bytes = first_bytes.substr(before - std::min<std::size_t>(before, 2), kEnough);
+  const Sequences found = CountSequences(ByteSpanOf(bytes));
   if (found.all_valid && IsSurelyUtf8(found)) return {"UTF_8", true, Text("its bytes are valid UTF-8")};
   return GuessByLetters(bytes, found);
 }

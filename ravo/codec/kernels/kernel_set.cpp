@@ -93,6 +93,7 @@ constexpr KernelSet Wide() {
   set.decode_utf8_until = DecodeUtf8UntilAvx512;
   set.decode_single_byte = DecodeSingleByteAvx512;
   set.decode_single_byte_until = DecodeSingleByteUntilAvx512;
+  set.encode_single_byte = EncodeSingleByteAvx512;
   return set;
 }
 

@@ -37,5 +37,7 @@ namespace ravo::codec {
 [[nodiscard]] Run DecodeSingleByteAvx512(const ByteTable& table, ByteSpan bytes, TextRoom text) noexcept;
 [[nodiscard]] RunUntil DecodeSingleByteUntilAvx512(const ByteTable& table, ByteSpan bytes, TextRoom text,
                                                    EndBytes ends) noexcept;
+[[nodiscard]] Run EncodeSingleByteAvx512(const ReverseTable& table, bool ascii, TextSpan text,
+                                         ByteRoom bytes) noexcept;
 
 }  // namespace ravo::codec

@@ -1,0 +1,109 @@
+#include "convert_text.h"
+
+#include "czech_sentences.h"
+#include "text_divisions.h"
+#include <ravo/codec/texts.h>
+
+#include <random>
+#include <string>
+
+#include <gtest/gtest.h>
+
+namespace tool {
+namespace {
+
+namespace codec = ravo::codec;
+
+codec::ByteSpan BytesOf(std::string_view text) {
+  return {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()};
+}
+
+// The place after a text, character by character.
+std::pair<std::uint64_t, std::uint64_t> PlaceAfter(std::u16string_view text) {
+  std::uint64_t line = 1;
+  std::uint64_t column = 1;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const bool second_of_break = text[i] == u'\n' && i > 0 && text[i - 1] == u'\r';
+    if (second_of_break) continue;
+    const bool ends = text[i] == u'\n' || text[i] == u'\r';
+    const bool second_of_pair = text[i] >= 0xDC00 && text[i] < 0xE000;
+    line += ends ? 1 : 0;
+    column = ends ? 1 : column + (second_of_pair ? 0 : 1);
+  }
+  return {line, column};
+}
+
+TEST(TextExtent, CountsLinesAndCharactersOfAnyPieces) {
+  std::mt19937 random(17);
+  for (int round = 0; round < 3000; ++round) {
+    std::u16string text;
+    for (std::size_t length = random() % (round % 10 == 0 ? 1500 : 12); length > 0; --length)
+      text += u"\r\n\naé\xD83D\xDE00\rx"[random() % 9];
+    TextExtent sum;
+    for (std::size_t at = 0; at < text.size();) {
+      const std::size_t length = std::min<std::size_t>(1 + random() % 700, text.size() - at);
+      sum += TextExtent(std::u16string_view(text).substr(at, length));
+      at += length;
+    }
+    ASSERT_EQ(std::pair(sum.Line(), sum.Column()), PlaceAfter(text)) << testing::PrintToString(text);
+    const TextExtent whole{text};
+    ASSERT_EQ(std::pair(whole.Line(), whole.Column()), PlaceAfter(text));
+  }
+}
+
+TEST(TextExtent, IsTheSameByTheBytesOfTheText) {
+  std::u16string text;
+  for (const char16_t* const sentence : test::kCzechSentences) text += std::u16string(sentence) + u"\r\n";
+  for (const char* const encoding : {"UTF_8", "Windows_1250"}) {
+    const std::string bytes = codec::Encoded(*codec::FindEncoding(encoding), text);
+    const TextExtent extent(text, BytesOf(bytes));
+    EXPECT_EQ(std::pair(extent.Line(), extent.Column()), PlaceAfter(text));
+  }
+}
+
+// Texts with characters that the engines leave out, malformed ones and a cut at any place.
+std::string RandomBytes(std::mt19937& random, const codec::Encoding& from) {
+  std::string bytes;
+  for (std::size_t count = random() % 12; count > 0; --count) {
+    const auto kind = random() % 8;
+    if (from.encode_one != nullptr && kind < 5)
+      bytes += codec::Encoded(from, test::kCzechSentences[random() % std::size(test::kCzechSentences)])
+                   .substr(0, random() % 60);
+    else if (kind == 5)
+      bytes += std::string_view("\xF0\x9F\x98\x80\xEF\xBF\xBD").substr(0, random() % 8);
+    else if (kind == 6)
+      bytes += std::string_view("\x3D\xD8\x00\xDE\xFD\xFF\xD8\x3D", 8).substr(0, random() % 9);
+    else
+      bytes += static_cast<char>(random());
+  }
+  return bytes;
+}
+
+// Pieces of one byte, and blocks of few, give the bytes, the place and the end of the whole.
+TEST(TextConverter, IsTheSameForEveryDivisionOfTheText) {
+  std::mt19937 random(19);
+  const codec::Encoding* const targets[] = {codec::FindEncoding("UTF_8"), codec::FindEncoding("UTF_16_LE"),
+                                            codec::FindEncoding("Windows_1250"),
+                                            codec::FindEncoding("UTF_7")};
+  for (const codec::Encoding& from : codec::Encodings()) {
+    if (from.decode_one == nullptr) continue;
+    for (int round = 0; round < 120; ++round) {
+      const std::string bytes = RandomBytes(random, from);
+      Conversion conversion;
+      conversion.from = &from;
+      conversion.to = targets[random() % std::size(targets)];
+      if (random() % 2 == 0) conversion.replacement = U'?';
+      const test::Outcome whole = test::InPieces(conversion, BytesOf(bytes), bytes.size() + 1);
+      for (const std::size_t size : {1U, 2U, 7U, 64U})
+        ASSERT_EQ(test::InPieces(conversion, BytesOf(bytes), size), whole)
+            << from.name << testing::PrintToString(bytes);
+      if (!ExactEncoding(from).IsDivisible() || !ExactEncoding(*conversion.to).IsDivisible()) continue;
+      for (const std::size_t size : {8U, 9U, 33U})
+        ASSERT_EQ(test::InBlocks(conversion, BytesOf(bytes), size), whole)
+            << from.name << testing::PrintToString(bytes);
+    }
+  }
+}
+
+}  // namespace
+}  // namespace tool
