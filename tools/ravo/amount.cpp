@@ -169,6 +169,12 @@ std::variant<Amount, AmountFault> ReadAmount(std::string_view utf8) {
   return AmountOf(std::move(*parts), all.append(decimals).append(kDecimals - decimals.size(), '0'));
 }
 
+std::optional<ravo::Currency> ParseAmount(std::string_view utf8) {
+  const auto read = ReadAmount(utf8);
+  const Amount* const amount = std::get_if<Amount>(&read);
+  return amount ? std::optional(amount->value) : std::nullopt;
+}
+
 std::string AmountText(ravo::Currency amount, const Notation& notation) {
   const auto bits = static_cast<std::uint64_t>(amount.raw);
   std::string digits = std::to_string(amount.raw < 0 ? 0 - bits : bits);

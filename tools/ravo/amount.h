@@ -3,6 +3,7 @@
 #include <ravo/RavoInterfaceCommon.h>
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -38,6 +39,9 @@ struct Amount {
 /// A single point or comma separates decimals; several of one kind, and the first kind of two, separate
 /// groups of three digits, as blanks do (also no-break, narrow and thin ones).
 [[nodiscard]] std::variant<Amount, AmountFault> ReadAmount(std::string_view utf8);
+
+/// Returns the value of such a text, or nothing.
+[[nodiscard]] std::optional<ravo::Currency> ParseAmount(std::string_view utf8);
 
 /// Returns an amount with at least two and at most four decimals.
 [[nodiscard]] std::string AmountText(ravo::Currency amount, const Notation& notation = {});

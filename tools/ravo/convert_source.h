@@ -1,5 +1,6 @@
 #pragma once
 
+#include "encoding_guess.h"
 #include <ravo/codec/encoding.h>
 
 #include <cstddef>
@@ -52,9 +53,6 @@ struct FoundEncoding {
   const ravo::codec::Encoding* row = nullptr;
   std::string note;  ///< what was found out, for people; empty if nothing was left open
 };
-
-/// The number of bytes by which an encoding is found out.
-inline constexpr std::size_t kSampleSize = std::size_t{1} << 18;
 
 /// Returns the number of bytes before the first zero or byte past ASCII, which tell no encoding.
 [[nodiscard]] std::size_t LengthOfPlain(ravo::codec::ByteSpan bytes);

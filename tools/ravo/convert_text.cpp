@@ -38,7 +38,7 @@ std::size_t FindSpecial(std::span<const char16_t> text) {
   return text.size();
 }
 
-std::string TextOf(codec::ByteSpan bytes) { return {bytes.begin(), bytes.end()}; }
+std::string AsText(codec::ByteSpan bytes) { return {bytes.begin(), bytes.end()}; }
 
 // The UTF-16 of a character.
 struct Units {
@@ -175,7 +175,7 @@ bool TextConverter::ConvertNext(codec::ByteSpan bytes, Following following, std:
   const auto kind = whole                               ? Fault::Kind::Lacking
                     : next.reading == Reading::CutShort ? Fault::Kind::CutShort
                                                         : Fault::Kind::Malformed;
-  converted.fault = {kind, code, TextOf(rest.first(next.bytes))};
+  converted.fault = {kind, code, AsText(rest.first(next.bytes))};
   return false;
 }
 

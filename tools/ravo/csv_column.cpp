@@ -21,7 +21,7 @@ struct FieldPlace {
   bool quoted = false;
 };
 
-bool IsLineEnd(char byte) { return byte == '\n' || byte == '\r'; }
+bool EndsLine(char byte) { return byte == '\n' || byte == '\r'; }
 
 // Reads the rows of a table in memory; a field is quoted only if its closing quote ends it.
 class RowsInMemory {
@@ -37,7 +37,7 @@ class RowsInMemory {
     for (;;) {
       fields.push_back(NextField());
       line_ += LineEndsIn(text_.substr(fields.back().begin, fields.back().end - fields.back().begin));
-      if (at_ == text_.size() || IsLineEnd(text_[at_])) return true;
+      if (at_ == text_.size() || EndsLine(text_[at_])) return true;
       ++at_;
     }
   }
@@ -46,7 +46,7 @@ class RowsInMemory {
 
  private:
   [[nodiscard]] bool EndsField(std::size_t at) const {
-    return at == text_.size() || text_[at] == delimiter_ || IsLineEnd(text_[at]);
+    return at == text_.size() || text_[at] == delimiter_ || EndsLine(text_[at]);
   }
 
   FieldPlace NextField() {
@@ -73,7 +73,7 @@ class RowsInMemory {
 
   void SkipLineEnds() {
     const std::size_t begin = at_;
-    while (at_ < text_.size() && IsLineEnd(text_[at_])) ++at_;
+    while (at_ < text_.size() && EndsLine(text_[at_])) ++at_;
     line_ += LineEndsIn(text_.substr(begin, at_ - begin));
   }
 

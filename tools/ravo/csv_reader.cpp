@@ -9,7 +9,7 @@
 namespace tool {
 namespace {
 
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+constexpr std::string_view kMark = "\xEF\xBB\xBF";
 
 }  // namespace
 
@@ -20,8 +20,8 @@ CsvReader::CsvReader(Source source, char delimiter, std::size_t block)
     : reader_(std::move(source), block), delimiter_(delimiter) {}
 
 void CsvReader::Begin() {
-  std::string_view sample = reader_.Peek(delimiter_ != 0 ? kByteOrderMark.size() : kSampleSize);
-  const std::size_t mark = sample.starts_with(kByteOrderMark) ? kByteOrderMark.size() : 0;
+  std::string_view sample = reader_.Peek(delimiter_ != 0 ? kMark.size() : kSampleSize);
+  const std::size_t mark = sample.starts_with(kMark) ? kMark.size() : 0;
   if (delimiter_ == 0) delimiter_ = DetectDelimiter(sample.substr(mark), reader_.IsAtEnd());
   reader_.Begin(delimiter_, mark);
   scanner_.emplace(std::string_view(), delimiter_);

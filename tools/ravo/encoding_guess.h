@@ -1,9 +1,13 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
 namespace tool {
+
+/// The number of bytes by which the encoding of a text, and the delimiter of a table, are found out.
+inline constexpr std::size_t kSampleSize = std::size_t{256} << 10;
 
 /// The encoding that a text seems to have.
 struct EncodingGuess {

@@ -7,7 +7,7 @@
 namespace tool {
 namespace {
 
-constexpr std::array<const char*, 12> kMonths = {
+constexpr std::array<const char*, 12> kMonthNames = {
     ToTranslate("January"),   ToTranslate("February"), ToTranslate("March"),    ToTranslate("April"),
     ToTranslate("May"),       ToTranslate("June"),     ToTranslate("July"),     ToTranslate("August"),
     ToTranslate("September"), ToTranslate("October"),  ToTranslate("November"), ToTranslate("December")};
@@ -18,7 +18,7 @@ constexpr std::array<const char*, 7> kWeekdays = {
 
 }  // namespace
 
-std::string MonthName(int month) { return Text(kMonths[static_cast<std::size_t>(month - 1)]); }
+std::string MonthName(int month) { return Text(kMonthNames[static_cast<std::size_t>(month - 1)]); }
 
 const char* WeekdayKey(int weekday) { return kWeekdays[static_cast<std::size_t>(weekday)]; }
 

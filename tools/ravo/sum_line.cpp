@@ -6,17 +6,17 @@
 namespace tool {
 namespace {
 
-constexpr std::size_t kDigits = 8;
+constexpr std::size_t kSumDigits = 8;
 
 std::string Hex(std::uint32_t value) {
-  std::string text(kDigits, '0');
-  for (std::size_t i = kDigits; i-- > 0; value >>= 4) text[i] = "0123456789ABCDEF"[value & 0xF];
+  std::string text(kSumDigits, '0');
+  for (std::size_t i = kSumDigits; i-- > 0; value >>= 4) text[i] = "0123456789ABCDEF"[value & 0xF];
   return text;
 }
 
 std::optional<std::uint32_t> FromHex(std::string_view text) {
   std::uint32_t value = 0;
-  if (text.size() != kDigits) return {};
+  if (text.size() != kSumDigits) return {};
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value, 16);
   if (error != std::errc() || end != text.data() + text.size()) return {};
   return value;
@@ -71,11 +71,11 @@ std::optional<SumLine> ParseLabelled(std::string_view text) {
 }
 
 std::optional<SumLine> ParsePlain(std::string_view text) {
-  if (text.size() <= kDigits + 2 || text[kDigits] != ' ') return {};
-  if (text[kDigits + 1] != ' ' && text[kDigits + 1] != '*') return {};
-  const auto sum = FromHex(text.substr(0, kDigits));
+  if (text.size() <= kSumDigits + 2 || text[kSumDigits] != ' ') return {};
+  if (text[kSumDigits + 1] != ' ' && text[kSumDigits + 1] != '*') return {};
+  const auto sum = FromHex(text.substr(0, kSumDigits));
   if (!sum) return {};
-  return SumLine{"", *sum, std::string(text.substr(kDigits + 2))};
+  return SumLine{"", *sum, std::string(text.substr(kSumDigits + 2))};
 }
 
 }  // namespace

@@ -1,12 +1,11 @@
 #pragma once
 
+#include "encoding_guess.h"
+
 #include <cstddef>
 #include <string_view>
 
 namespace tool {
-
-/// The number of bytes at the start of a table from which its delimiter and encoding are detected.
-inline constexpr std::size_t kSampleSize = std::size_t{256} << 10;
 
 /// The delimiters that can be detected, the most likely first.
 inline constexpr std::string_view kDelimiters = ";,\t|";
