@@ -221,6 +221,8 @@ void AddRuleOptions(CLI::App& command, CheckOptions& options) {
 void AddCheckCommand(CLI::App& program, Outcome& outcome) {
   CLI::App* command =
       program.add_subcommand("check", "Checks accounts, bank accounts, payment references and EAN codes");
+  // A path may begin with "/".
+  command->allow_windows_style_options(false);
   const auto options = std::make_shared<CheckOptions>();
   CLI::Option* kind =
       command->add_option("KIND", options->kind, "The kind of the values: " + AllKindNames(", "));

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <ravo/codec/kernels/block.h>
+
 #include <bit>
 #include <cstddef>
 #include <cstdint>
@@ -7,10 +9,6 @@
 #include <span>
 #include <string_view>
 #include <vector>
-
-#if defined(__SSE2__)
-#include <emmintrin.h>
-#endif
 
 namespace tool {
 
@@ -91,30 +89,17 @@ class TableMarks {
     return BitsOf(last);
   }
 
-#if defined(__SSE2__)
   [[nodiscard]] std::uint64_t BitsOf(const char* piece) const {
+    using Block = ravo::codec::Block<char>;
     std::uint64_t bits = 0;
-    for (unsigned i = 0; i < kPiece; i += 16) {
-      const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(piece + i));
-      const __m128i ends = _mm_or_si128(Equal(bytes, '\n'), Equal(bytes, '\r'));
-      const __m128i marks = _mm_or_si128(ends, _mm_or_si128(Equal(bytes, delimiter_), Equal(bytes, '"')));
-      bits |= std::uint64_t{static_cast<unsigned>(_mm_movemask_epi8(marks))} << i;
+    for (unsigned i = 0; i < kPiece; i += ravo::codec::kBlockBytes) {
+      const Block bytes = Block::Load(piece + i);
+      const Block ends = bytes.EqualTo('\n') | bytes.EqualTo('\r');
+      const Block marks = ends | bytes.EqualTo(delimiter_) | bytes.EqualTo('"');
+      bits |= std::uint64_t{marks.AsHits().Bits()} << i;
     }
     return bits;
   }
-
-  static __m128i Equal(__m128i bytes, char byte) { return _mm_cmpeq_epi8(bytes, _mm_set1_epi8(byte)); }
-#else
-  [[nodiscard]] std::uint64_t BitsOf(const char* piece) const {
-    std::uint64_t bits = 0;
-    for (unsigned i = 0; i < kPiece; ++i) {
-      const char byte = piece[i];
-      const bool is_mark = byte == delimiter_ || byte == '"' || byte == '\n' || byte == '\r';
-      bits |= std::uint64_t{is_mark} << i;
-    }
-    return bits;
-  }
-#endif
 
   std::string_view text_;
   char delimiter_;

@@ -1,16 +1,13 @@
 #include "table_text.h"
 
 #include <ravo/RavoInterface.h>
+#include <ravo/codec/kernels/block.h>
 
 #include <algorithm>
 #include <bit>
 #include <cstdint>
 #include <cstdio>
 #include <cstring>
-
-#if defined(__SSE2__)
-#include <emmintrin.h>
-#endif
 
 namespace tool {
 namespace {
@@ -69,7 +66,6 @@ std::size_t FirstWrongSequence(std::string_view text, std::size_t at, std::size_
   return at;
 }
 
-#if defined(__SSE2__)
 constexpr std::size_t kPairPiece = 64;
 
 struct PieceBytes {
@@ -79,16 +75,13 @@ struct PieceBytes {
 };
 
 PieceBytes BytesOf(const char* piece) {
+  using Block = ravo::codec::Block<std::uint8_t>;
   PieceBytes all;
-  for (unsigned i = 0; i < kPairPiece; i += 16) {
-    const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(piece + i));
-    const auto bits = [i](__m128i mask) {
-      return std::uint64_t{static_cast<unsigned>(_mm_movemask_epi8(mask))} << i;
-    };
-    all.upper |= bits(bytes);
-    all.trailing |= bits(_mm_cmplt_epi8(bytes, _mm_set1_epi8(-0x40)));
-    all.leads_of_two |= bits(_mm_and_si128(_mm_cmpgt_epi8(bytes, _mm_set1_epi8(-0x3F)),
-                                           _mm_cmplt_epi8(bytes, _mm_set1_epi8(-0x20))));
+  for (unsigned i = 0; i < kPairPiece; i += ravo::codec::kBlockBytes) {
+    const Block bytes = Block::Load(piece + i);
+    all.upper |= std::uint64_t{bytes.AsHits().Bits()} << i;
+    all.trailing |= std::uint64_t{bytes.Within(0x80, 0xBF).AsHits().Bits()} << i;
+    all.leads_of_two |= std::uint64_t{bytes.Within(0xC2, 0xDF).AsHits().Bits()} << i;
   }
   return all;
 }
@@ -104,15 +97,11 @@ std::size_t SkipPairs(std::string_view text, std::size_t at) {
   }
   return at;
 }
-#else
-constexpr std::size_t kPairPiece = 0;
-std::size_t SkipPairs(std::string_view text, std::size_t at) { return std::min(at, text.size()); }
-#endif
 
 std::size_t FirstWrongUtf8(std::string_view text, std::size_t at) {
   while (at < text.size()) {
     at = SkipPairs(text, at);
-    const std::size_t enough = kPairPiece != 0 ? std::min(at + kPairPiece, text.size()) : text.size();
+    const std::size_t enough = std::min(at + kPairPiece, text.size());
     const std::size_t reached = FirstWrongSequence(text, at, enough);
     if (reached < enough) return reached;
     at = reached;
