@@ -33,3 +33,18 @@ apt-mirror-of-this-machine() {
   sources=$(cat /etc/apt/sources.list /etc/apt/sources.list.d/*.list /etc/apt/sources.list.d/*.sources 2>/dev/null || true)
   sed -nE 's/^(deb (\[[^]]*\] )?|URIs: )(https?:[^ ]+).*/\3/p' <<<"$sources" | grep -v security | head -n 1 || true
 }
+
+# fetch-source PACKAGE: the archives of the distribution's source package, into the current folder. Uses the mirror of
+# this machine, without changing its package lists.
+fetch-source() {
+  local place="$ravo_cache/apt"
+  local options=(-o Dir::Etc::sourcelist=/dev/null -o "Dir::Etc::sourceparts=$place/parts"
+    -o "Dir::State::lists=$place/lists" -o APT::Sandbox::User=root)
+  if [ -z "${sources_are_listed:-}" ]; then
+    mkdir -p "$place/lists/partial" "$place/parts"
+    printf 'deb-src %s bookworm main\n' "$(apt-mirror-of-this-machine)" >"$place/parts/source.list"
+    as_root apt-get update -qq "${options[@]}"
+    sources_are_listed=yes
+  fi
+  as_root apt-get source -qq --download-only "${options[@]}" "$1" >/dev/null
+}
