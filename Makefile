@@ -1,5 +1,5 @@
 # The two commands of the README, and helpers for everyday work. CMake does the rest: see CMakePresets.json.
-.PHONY: run check bench coverage reliability reference guide quirks pictures package check-packages format clean
+.PHONY: run check bench coverage reliability reference guide quirks xml-check pictures package check-packages format clean
 
 run:            ## Build for this machine and show the library at work
 	@scripts/run
@@ -24,6 +24,9 @@ guide:          ## Copy the code and output of the examples into docs/guide.md a
 
 quirks:         ## Write docs/quirks.md from the comments `// Kept:` of the sources
 	@/usr/bin/env python3 -B tools/pages/quirks.py --write
+
+xml-check:      ## Write the classes of `ravo xml check` to docs/xml-check.md
+	@/usr/bin/env python3 -B tools/pages/xml_check.py --write
 
 pictures:       ## Draw docs/structure.svg and the charts of docs/performance.md
 	@/usr/bin/env python3 -B tools/pages/structure.py --write

@@ -12,11 +12,14 @@ import tempfile
 from concurrent.futures import ThreadPoolExecutor
 
 from command_rows import ROWS
-from document_checks import check_forms, check_xml, check_xml_encodings, check_xml_samples, check_xml_unreadable
+from document_checks import (check_forms, check_xml, check_xml_edits, check_xml_encodings, check_xml_samples, check_xml_sizes,
+                             check_xml_targets, check_xml_unreadable)
 from file_checks import (check_colours, check_conversions, check_damaged_files, check_full_device, check_pipes, check_report_file,
                          check_report_json, check_sorted_files, check_sums, check_unreadable)
 from harness import NO, SKIPPED, YES, Program, Row, differs
+from lossless_checks import check_lossless
 from long_work_checks import check_interruption, check_progress, check_streaming
+from survival_checks import check_random_survival, check_survival
 
 # Rows that the harness itself must reject, each for the named reason.
 MUST_FAIL = [
@@ -45,10 +48,16 @@ CHECKS = (
     check_damaged_files,
     check_sorted_files,
     check_xml,
+    check_xml_edits,
+    check_xml_targets,
+    check_xml_sizes,
     check_xml_encodings,
     check_xml_unreadable,
     check_xml_samples,
     check_forms,
+    check_lossless,
+    check_survival,
+    check_random_survival,
 )
 
 

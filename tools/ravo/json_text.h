@@ -12,4 +12,7 @@ using Json = nlohmann::ordered_json;
 /// Returns indented JSON with a final line end; bytes that are not UTF-8 become U+FFFD instead of an error.
 [[nodiscard]] std::string JsonText(const Json& value);
 
+/// Returns JSON on one line with a final line end; bytes that are not UTF-8 become U+FFFD.
+[[nodiscard]] std::string JsonLine(const Json& value);
+
 }  // namespace tool

@@ -1,12 +1,8 @@
 #include "commands.h"
-#include "console.h"
-#include "foreign_text.h"
-#include "text_file.h"
-#include "xml_file.h"
-#include "xml_path.h"
+#include "document_file.h"
+#include "text.h"
 #include "xml_tree_text.h"
-#include <ravo/DIUnicode.h>
-#include <ravo/ECXMLTokenizer.h>
+#include "xml_work.h"
 #include <ravo/RavoInterface.h>
 
 #include <memory>
@@ -15,171 +11,151 @@
 namespace tool {
 namespace {
 
-using ravo::ECXMLParser::TECXMLParser;
-
-struct XmlOptions {
-  std::string file;
-  std::string path;
-  std::string value;
-  std::string out;
-  bool colour = false;
-};
-
-void Show(const XmlOptions& options, Outcome& outcome) {
-  TECXMLParser parser;
-  const XmlWords words = LoadXmlFile(options.file, parser);
-  outcome.out = XmlTreeText(*parser.Root(), words, options.colour || ShowsColours(Channel::Out));
+Answer AnswerTo(const PathError& error) {
+  const bool is_missing =
+      error.Message() == DocumentMessage::NothingThere || error.Message() == DocumentMessage::NothingThereAdd;
+  return is_missing ? Answer::No : Answer::WrongUsage;
 }
 
-void AnswerNoSuchPlace(const XmlOptions& options, Outcome& outcome) {
-  outcome.err = "ravo: " + options.file + ": there is no item '" + options.path + "'\n";
-  outcome.answer = Answer::No;
-}
-
-void Get(const XmlOptions& options, Outcome& outcome) {
-  TECXMLParser parser;
-  const XmlWords words = LoadXmlFile(options.file, parser);
-  const XmlPlace place = FindXmlPlace(*parser.Root(), words, options.path, false);
-  if (place.item == nullptr) return AnswerNoSuchPlace(options, outcome);
-  if (place.attribute.empty()) {
-    outcome.out = words.Shown(ravo::ReplaceAll(place.item->Text(), u"\r\n", u"\n")) + "\n";
-    return;
-  }
-  const ravo::StringList params = place.item->Params();
-  const auto index = XmlAttribute(params, words, place.attribute);
-  if (!index) return AnswerNoSuchPlace(options, outcome);
-  outcome.out = OnOneLine(words.Shown(params.ValueAt(*index))) + "\n";
-}
-
-void WriteDocument(const std::string& name, TECXMLParser& parser, Outcome& outcome) {
-  const std::string failure = WriteTextFile(name, SavedXml(parser));
-  if (failure.empty()) return;
-  outcome.err = "ravo: " + name + ": " + failure + "\n";
-  outcome.answer = Answer::WrongUsage;
-}
-
-void SetAttribute(const XmlPlace& place, const XmlWords& words, std::u16string_view value) {
-  ravo::StringList& params = place.item->Params();
-  const auto index = XmlAttribute(params, words, place.attribute);
-  const std::u16string name = index ? std::u16string(params.NameAt(*index)) : place.attribute;
-  params.SetValue(name, value);
-}
-
-void Set(const XmlOptions& options, Outcome& outcome) {
-  TECXMLParser parser;
-  const XmlWords words = LoadXmlFile(options.file, parser);
-  const std::u16string value = words.Kept(options.value);
-  const XmlPlace place = FindXmlPlace(*parser.Root(), words, options.path, true);
-  if (place.item == nullptr) return AnswerNoSuchPlace(options, outcome);
-  if (place.attribute.empty()) {
-    place.item->SetText(value);
-  } else {
-    SetAttribute(place, words, value);
-  }
-  WriteDocument(options.out.empty() ? options.file : options.out, parser, outcome);
-}
-
-void Format(const XmlOptions& options, Outcome& outcome) {
-  TECXMLParser parser;
-  const XmlWords words = LoadXmlFile(options.file, parser);
-  if (!options.out.empty()) return WriteDocument(options.out, parser, outcome);
-  const std::u16string text = ravo::FromCodePage(SavedXml(parser));
-  outcome.out = words.Shown(ravo::ReplaceAll(text, u"\r\n", u"\n"));
-}
-
-const char* KindName(std::uint8_t kind) {
-  using namespace ravo::ECXMLTokenizer;
-  switch (kind) {
-    case xtComment:
-      return "comment";
-    case xtHeader:
-      return "header";
-    case xtOpenTag:
-      return "open";
-    case xtCloseTag:
-      return "close";
-    case xtStandAloneTag:
-      return "stand-alone";
-    default:
-      return "text";
-  }
-}
-
-void Tokens(const XmlOptions& options, Outcome& outcome) {
-  ReadXmlTokens(options.file, [&](const ravo::ECXMLTokenizer::TXMLTokenizer& tokenizer) {
-    outcome.out += std::to_string(tokenizer.SourceLine()) + "\t" + std::to_string(tokenizer.SourcePos()) +
-                   "\t" + KindName(tokenizer.Token()) + "\t" +
-                   OnOneLine(ForeignText(tokenizer.TokenString())) + "\n";
-  });
-}
-
-using Work = void (*)(const XmlOptions&, Outcome&);
-
-// If a file cannot be read, the output is the reason alone.
-void Guarded(Work work, const XmlOptions& options, Outcome& outcome) {
+// If a document cannot be read, the output is the reason alone.
+void Guarded(XmlWork* work, const XmlOptions& options, Outcome& outcome) {
   try {
     work(options, outcome);
-  } catch (const std::exception& error) {
-    outcome.out.clear();
-    outcome.err = std::string("ravo: ") + error.what() + "\n";
-    outcome.answer = Answer::WrongUsage;
+    return;
+  } catch (const PathError& error) {
+    TellXml(options, outcome, ShownName(options.file) + ": " + OnOneLine(error.what()), AnswerTo(error));
+  } catch (const FileError& error) {
+    TellXml(options, outcome, OnOneLine(error.what()), Answer::WrongUsage);
+  } catch (const ravo::Error& error) {
+    TellXml(options, outcome, ShownName(options.file) + ": " + OnOneLine(error.what()), Answer::WrongUsage);
   }
+  outcome.out.clear();
 }
 
-CLI::App* AddWork(CLI::App& xml, const char* name, const char* what, Work work,
-                  const std::shared_ptr<XmlOptions>& options, Outcome& outcome) {
-  CLI::App* command = xml.add_subcommand(name, what);
-  command->add_option("FILE", options->file, "An XML file")->required();
-  command->callback([work, options, &outcome] { Guarded(work, *options, outcome); });
-  return command;
-}
-
-constexpr const char* kXmlFooter =
-    "The rules are the library's: comments are dropped, close tags close whatever is open, a line break in "
+constexpr const char* kXmlFooter = ToTranslate(
+    "A document is decoded as XML requires: by its byte-order mark, else from the encoding that it "
+    "declares,\n"
+    "else from UTF-8. What is not XML is an error with line and column. FILE can be - for standard input.\n"
+    "With --suite, show, get and tokens print what the suite's modules see instead.\n"
+    "\n"
+    "A path names elements from the root on, each with its number among the elements of its name, and\n"
+    "possibly an attribute after \"@\": Invoice/Line[2]/@ID. If no element has a name exactly, its case is\n"
+    "ignored.\n"
+    "\n"
+    "set changes the bytes of the values and no others. check lists where the suite would see or save\n"
+    "something else. format lays a document out as the suite saves it, and refuses one that the suite would\n"
+    "spoil.\n"
+    "\n"
+    "Exit status: 0 done, 1 nothing at the path or a document that the suite would spoil, 2 wrong usage or "
     "a\n"
-    "text is written as <br/>. Bytes stay as they are; they are read as UTF-8 where the document says so, "
-    "and\n"
-    "otherwise as Windows-1250, the code page of the suite's data.\n"
-    "\n"
-    "A path names elements from the root on, by name and by number among those of their name, and an\n"
-    "attribute behind \"@\" at its end: Invoice/Line[2]/@ID. Names are taken in either case.\n"
-    "\n"
-    "Exit status: 0 done, 1 there is no item at the path, 2 wrong usage or a file that cannot be read or "
-    "written.\n"
+    "document that cannot be read or written.\n"
     "\n"
     "Examples:\n"
     "  ravo xml show export.xml\n"
     "  ravo xml get export.xml Faktury/Faktura[2]/@Cislo\n"
-    "  ravo xml set export.xml Faktury/Faktura[2]/Popis \"Pronájem\"\n"
+    "  ravo xml set export.xml Faktury/Faktura[2]/Popis \"Pronájem\" --dry-run\n"
+    "  ravo xml set -i export.xml Faktury/@Stav odeslano Faktury/Faktura[1]/Kod 17\n"
+    "  ravo xml check export.xml\n"
     "  ravo xml format export.xml -o tidy.xml\n"
-    "  ravo xml tokens export.xml     line, position, kind and text of each token\n";
+    "  ravo xml tokens export.xml     line, column, kind and text of each piece\n");
+
+// Adds the sub-commands, which share their options.
+class XmlCommands {
+ public:
+  XmlCommands(CLI::App& xml, Outcome& outcome) : xml_(xml), outcome_(outcome) {}
+
+  CLI::App* Add(const char* name, const std::string& what, XmlWork* work) {
+    CLI::App* const command = xml_.add_subcommand(name, what);
+    const auto options = options_;
+    command->callback([work, options, name, &outcome = outcome_] {
+      options->command = std::string("xml ") + name;
+      Guarded(work, *options, outcome);
+    });
+    return command;
+  }
+
+  void AddReaders() {
+    CLI::App* const show = Reader("show", Text("Shows the elements"), ShowXml);
+    show->add_flag("--color", options_->colour, Text("In colours even if the output is not a terminal"));
+    CLI::App* const get = Reader("get", Text("Prints the text or attribute at a path"), GetXml);
+    get->add_option("PATH", options_->path, Text("The element or attribute"))->required();
+    get->add_flag("--raw", options_->edit.is_raw, Text("As it is written in the document"));
+    Reader("tokens", Text("Lists the pieces"), ListXmlTokens);
+  }
+
+  void AddSet() {
+    CLI::App* const set =
+        WithFile("set", Text("Sets texts and attributes, and changes nothing else"), SetXml);
+    set->add_option("CHANGES", options_->changes, Text("Paths, each with its value after it"))->required();
+    set->add_flag("-i,--in-place", options_->in_place,
+                  Text("Edit the file instead of printing the document"));
+    set->add_flag("--dry-run", options_->dry_run, Text("Show the lines that change, as a diff"));
+    AddOut(*set);
+    set->add_flag("--add", options_->edit.adds,
+                  Text("Add a missing attribute, or a missing next element of a name"));
+    set->add_flag("--raw", options_->edit.is_raw, Text("The values are XML, with references and tags"));
+    set->add_flag("--references", options_->edit.uses_references,
+                  Text("Write references for characters that the encoding of the document lacks"));
+  }
+
+  void AddFormat() {
+    CLI::App* const format = WithFile("format", Text("Prints the document as the suite saves it"), FormatXml);
+    AddOut(*format);
+    format->add_flag("--suite", options_->suite, Text("Even if the suite spoils the document"));
+  }
+
+  void AddCheck() {
+    CLI::App* const check =
+        Add("check", Text("Lists where the suite would see or save something else"), CheckXml);
+    check->add_option("FILE", options_->files, Text("XML files"))->required();
+    AddJson(*check);
+  }
+
+ private:
+  CLI::App* WithFile(const char* name, const std::string& what, XmlWork* work) {
+    CLI::App* const command = Add(name, what, work);
+    command->add_option("FILE", options_->file, Text("An XML file"))->required();
+    return command;
+  }
+
+  CLI::App* Reader(const char* name, const std::string& what, XmlWork* work) {
+    CLI::App* const command = WithFile(name, what, work);
+    AddJson(*command);
+    command->add_flag("--suite", options_->suite, Text("As the suite's modules see it"));
+    return command;
+  }
+
+  void AddJson(CLI::App& command) {
+    command.add_flag("--json", options_->json, Text("One JSON object a line"));
+  }
+
+  void AddOut(CLI::App& command) {
+    const auto named = [](const std::string& name) {
+      return name.empty() ? MessageText(DocumentMessage::NoName) : std::string();
+    };
+    command.add_option("-o", options_->out, Text("Write to this file"))
+        ->type_name("FILE")
+        ->check(CLI::Validator(named, ""));
+  }
+
+  CLI::App& xml_;
+  Outcome& outcome_;
+  std::shared_ptr<XmlOptions> options_ = std::make_shared<XmlOptions>();
+};
 
 }  // namespace
 
 void AddXmlCommand(CLI::App& program, Outcome& outcome) {
-  CLI::App* xml = program.add_subcommand("xml", "Shows and edits XML documents");
+  CLI::App* xml = program.add_subcommand("xml", Text("Shows, checks and edits XML documents"));
   xml->require_subcommand(1);
   // A path may begin with "/" on every system.
   xml->allow_windows_style_options(false);
-  xml->footer(kXmlFooter);
-  const auto options = std::make_shared<XmlOptions>();
-  const auto add = [&](const char* name, const char* what, Work work) {
-    return AddWork(*xml, name, what, work, options, outcome);
-  };
-  add("show", "Shows the tree", Show)
-      ->add_flag("--color", options->colour, "In colours even where nobody watches");
-  add("get", "Prints the text or the attribute at a path", Get)
-      ->add_option("PATH", options->path, "Where")
-      ->required();
-  CLI::App* set = add("set", "Sets the text or the attribute at a path; adds what is missing", Set);
-  set->add_option("PATH", options->path, "Where")->required();
-  set->add_option("VALUE", options->value, "What stands there from now on; nothing takes an attribute away")
-      ->required();
-  set->add_option("-o", options->out, "Write to this file instead")->type_name("FILE");
-  add("format", "Prints the document as it would be saved", Format)
-      ->add_option("-o", options->out, "Write to this file, bytes as the library saves them")
-      ->type_name("FILE");
-  add("tokens", "Lists the tokens", Tokens);
+  xml->footer(Text(kXmlFooter));
+  XmlCommands commands(*xml, outcome);
+  commands.AddReaders();
+  commands.AddSet();
+  commands.AddCheck();
+  commands.AddFormat();
 }
 
 }  // namespace tool

@@ -1,15 +1,15 @@
 #include "xml_tree_text.h"
 
-#include <ravo/RavoInterface.h>
-
 #include <algorithm>
-#include <utility>
-#include <vector>
 
 namespace tool {
 namespace {
 
-using ravo::ECXMLParser::TXMLItem;
+std::string Stripped(const std::string& text) {
+  const std::size_t begin = text.find_first_not_of(' ');
+  return begin == std::string::npos ? std::string()
+                                    : text.substr(begin, text.find_last_not_of(' ') + 1 - begin);
+}
 
 class Painter {
  public:
@@ -26,20 +26,17 @@ class Painter {
   bool colours_;
 };
 
-std::string ItemLine(const TXMLItem& item, const XmlWords& words, const Painter& painter) {
-  const auto shown = [&](std::u16string_view text) { return OnOneLine(words.Shown(text)); };
-  std::string line = painter.Name(item.Name().empty() ? "(no name)" : shown(item.Name()));
-  const ravo::StringList params = item.Params();
-  for (std::size_t i = 0; i < params.Count(); ++i) {
-    line += " " + painter.Attribute(shown(params.NameAt(i))) + "=" +
-            painter.Value("\"" + shown(params.ValueAt(i)) + "\"");
+std::string ElementLine(const ReadElement& element, const Painter& painter) {
+  std::string line = painter.Name(element.name.empty() ? "(no name)" : OnOneLine(element.name));
+  for (const auto& [name, value] : element.attributes) {
+    line += " " + painter.Attribute(OnOneLine(name)) + "=" + painter.Value("\"" + OnOneLine(value) + "\"");
   }
-  const std::string text = shown(ravo::Trimmed(item.Text()));
+  const std::string text = Stripped(OnOneLine(element.text));
   return text.empty() ? line : line + ": " + text;
 }
 
-// Characters that a terminal may take for a command: the control characters of ASCII, and U+0080 to U+009F,
-// in UTF-8 C2 80 to C2 9F.
+// Control characters, which a terminal may obey: those of ASCII, and U+0080 to U+009F, which are C2 80 to C2
+// 9F in UTF-8.
 bool IsControl(const std::string& utf8, std::size_t at) {
   const auto byte = static_cast<unsigned char>(utf8[at]);
   if (byte < 0x20 || byte == 0x7F) return true;
@@ -59,27 +56,11 @@ std::string OnOneLine(std::string utf8) {
   return utf8;
 }
 
-// With a stack of its own, since documents may be deep; indents stop growing at kDeepest.
-std::string XmlTreeText(const TXMLItem& root, const XmlWords& words, bool colours) {
+// Indents stop growing where they would no longer help.
+std::string XmlElementLine(const ReadElement& element, bool colours) {
   constexpr std::size_t kDeepest = 50;
-  const Painter painter(colours);
-  std::string text;
-  std::vector<std::pair<const TXMLItem*, std::int32_t>> levels = {{&root, -1}};
-  while (!levels.empty()) {
-    auto& [item, next] = levels.back();
-    if (next < 0) {
-      const std::size_t depth = std::min(levels.size() - 1, kDeepest);
-      text += std::string(depth * 2, ' ') + ItemLine(*item, words, painter) + "\n";
-      next = 0;
-    }
-    if (next == item->SubItemCount()) {
-      levels.pop_back();
-    } else {
-      const TXMLItem* const child = item->SubItems(next++);
-      levels.emplace_back(child, -1);
-    }
-  }
-  return text;
+  return std::string(std::min(element.depth, kDeepest) * 2, ' ') + ElementLine(element, Painter(colours)) +
+         "\n";
 }
 
 }  // namespace tool

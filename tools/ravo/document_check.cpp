@@ -1,0 +1,346 @@
+#include "document_check.h"
+
+#include "document_reading.h"
+#include "xml_file.h"
+#include <ravo/RavoInterface.h>
+
+#include <algorithm>
+#include <map>
+#include <optional>
+
+namespace tool {
+namespace {
+
+std::string_view TrimmedText(std::string_view text) {
+  const std::size_t begin = text.find_first_not_of(kXmlSpace);
+  return begin == std::string_view::npos ? std::string_view()
+                                         : text.substr(begin, text.find_last_not_of(kXmlSpace) + 1 - begin);
+}
+
+// Finds the starts of lines, counted by line feeds, that are asked for in ascending order.
+class LineFinder {
+ public:
+  explicit LineFinder(std::string_view text) : text_(text) {}
+  [[nodiscard]] std::size_t Find(std::size_t line) {
+    for (; line_ < line && at_ < text_.size(); ++line_) {
+      at_ = std::min(text_.find('\n', at_), text_.size() - 1) + 1;
+    }
+    return at_;
+  }
+
+ private:
+  std::string_view text_;
+  std::size_t at_ = 0;
+  std::size_t line_ = 1;
+};
+
+// The rules of the suite's parser, with a method for each kind of part.
+class Rules {
+ public:
+  Rules(const DocumentText& text, const ScannedDocument& document) : text_(text), document_(document) {}
+
+  std::vector<DocumentFinding> Run() {
+    if (IsWide()) {
+      Add(DocumentMessage::FindsWide, 0, {text_.encoding});
+      return std::move(findings_);
+    }
+    CheckStart();
+    for (std::size_t i = 0; i < document_.parts.size(); ++i) CheckPart(i);
+    CheckLines();
+    std::ranges::stable_sort(findings_, {}, &DocumentFinding::at);
+    return std::move(findings_);
+  }
+
+ private:
+  // The content of an open element so far.
+  struct Content {
+    bool has_text = false;
+    bool has_elements = false;
+  };
+
+  [[nodiscard]] std::string_view Text() const { return document_.text; }
+  [[nodiscard]] std::string_view Of(Span span) const { return span.Of(Text()); }
+
+  void Add(DocumentMessage message, std::size_t at, std::initializer_list<std::string_view> values = {}) {
+    findings_.push_back({message, at, {values.begin(), values.end()}});
+  }
+
+  [[nodiscard]] bool IsWide() const {
+    return text_.encoding.starts_with("UTF_16") || text_.encoding.starts_with("UTF_32") ||
+           text_.encoding.starts_with("UCS_");
+  }
+
+  [[nodiscard]] bool Loads() const {
+    constexpr std::size_t kLookedAt = 1000;
+    const std::string_view start = std::string_view(text_.bytes).substr(0, kLookedAt);
+    return start.find("<?xml version=\"1.0\"") != std::string_view::npos ||
+           start.find("<rss") != std::string_view::npos;
+  }
+
+  void CheckStart() {
+    if (text_.mark > 0) Add(DocumentMessage::FindsMark, 0);
+    if (!Loads()) Add(DocumentMessage::FindsDeclaration, 0);
+    const bool is_declared = !document_.parts.empty() && document_.parts[0].kind == PartKind::Declaration;
+    if (!is_declared && Loads()) Add(DocumentMessage::FindsNoEncoding, 0);
+    const DocumentPart& root = document_.parts[document_.root];
+    if (root.kind == PartKind::EmptyTag) Add(DocumentMessage::FindsEmptyRoot, root.whole.begin);
+  }
+
+  void CheckPart(std::size_t index) {
+    const DocumentPart& part = document_.parts[index];
+    switch (part.kind) {
+      case PartKind::Declaration:
+        return CheckDeclaration(part);
+      case PartKind::Doctype:
+        return Add(DocumentMessage::FindsDoctype, part.whole.begin);
+      case PartKind::Comment:
+        return CheckComment(part);
+      case PartKind::Instruction:
+        return CheckInstruction(part);
+      case PartKind::Text:
+        return CheckText(index);
+      case PartKind::Section:
+        return CheckSection(part);
+      case PartKind::CloseTag:
+        return open_.pop_back();
+      default:
+        CheckTag(part);
+        if (!open_.empty()) open_.back().has_elements = true;
+        if (part.kind == PartKind::OpenTag) open_.emplace_back();
+    }
+  }
+
+  void CheckDeclaration(const DocumentPart& part) {
+    std::string text(Of(part.whole));
+    std::ranges::transform(text, text.begin(),
+                           [](char ch) { return ch >= 'A' && ch <= 'Z' ? char(ch | 0x20) : ch; });
+    const bool has_encoding =
+        text.find("encoding=\"") != std::string::npos || text.find("encoding='") != std::string::npos;
+    if (!has_encoding) Add(DocumentMessage::FindsNoEncoding, part.whole.begin);
+    for (std::size_t i = 0; i < part.attribute_count; ++i) {
+      const Span name = document_.attributes[part.first_attribute + i].name;
+      if (Of(name) == "standalone") Add(DocumentMessage::FindsStandalone, name.begin);
+    }
+  }
+
+  void CheckComment(const DocumentPart& part) {
+    const bool ends_early = Of(part.whole).find('>') + 1 != part.whole.Size();
+    Add(ends_early ? DocumentMessage::FindsCommentEnd : DocumentMessage::FindsComment, part.whole.begin);
+  }
+
+  // Whether the suite saves an instruction as it is. It does so for the address of an XSL style sheet.
+  [[nodiscard]] bool IsKeptStylesheet(const DocumentPart& part) const {
+    constexpr std::string_view kBegin = "<?xml-stylesheet type=\"text/xsl\" href=\"";
+    const std::string_view text = Of(part.whole);
+    if (!text.starts_with(kBegin) || !text.ends_with("\"?>") || text.size() < kBegin.size() + 3) return false;
+    const std::string_view address = text.substr(kBegin.size(), text.size() - kBegin.size() - 3);
+    return !TrimmedText(address).empty() && address.find_first_of("\"> &\r\n\t") == std::string_view::npos &&
+           part.whole.begin < document_.parts[document_.root].whole.begin;
+  }
+
+  void CheckInstruction(const DocumentPart& part) {
+    if (!Of(part.name).starts_with("xml-stylesheet")) {
+      return Add(DocumentMessage::FindsInstruction, part.whole.begin);
+    }
+    if (has_stylesheet_ || !IsKeptStylesheet(part)) Add(DocumentMessage::FindsStylesheet, part.whole.begin);
+    has_stylesheet_ = true;
+    CheckCharacters(part.whole);
+  }
+
+  void CheckText(std::size_t index) {
+    if (open_.empty()) return;
+    const Span span = document_.parts[index].whole;
+    const std::string_view text = Of(span);
+    const std::string_view trimmed = TrimmedText(text);
+    if (trimmed.empty()) return CheckBlanks(index);
+    const std::size_t begin = span.begin + static_cast<std::size_t>(trimmed.data() - text.data());
+    const Span content{begin, begin + trimmed.size()};
+    TakeText(content.begin);
+    if (content != span) Add(DocumentMessage::FindsEnds, begin == span.begin ? content.end : span.begin);
+    CheckRuns(content);
+    CheckReferences(content);
+    CheckCharacters(content);
+  }
+
+  // White space between elements does not count, but it does if it is all that an element has.
+  void CheckBlanks(std::size_t index) {
+    const bool is_all = document_.parts[index - 1].kind == PartKind::OpenTag &&
+                        document_.parts[index - 1].partner == index + 1;
+    if (is_all) Add(DocumentMessage::FindsEnds, document_.parts[index].whole.begin);
+  }
+
+  void TakeText(std::size_t at) {
+    Content& content = open_.back();
+    if (content.has_text || content.has_elements) Add(DocumentMessage::FindsMixed, at);
+    content.has_text = true;
+  }
+
+  void CheckRuns(Span span) {
+    const std::string_view text = Of(span);
+    const std::size_t at = std::min(text.find("  "), text.find('\r'));
+    if (at != std::string_view::npos) Add(DocumentMessage::FindsBlanks, span.begin + at);
+  }
+
+  void CheckReferences(Span span) {
+    const std::string_view text = Of(span);
+    for (std::size_t at = text.find('&'); at != std::string_view::npos; at = text.find('&', at + 1)) {
+      const std::string_view reference = ReferenceAt(text, at);
+      const bool is_known =
+          reference == "&lt;" || reference == "&gt;" || reference == "&quot;" || reference == "&amp;";
+      if (!is_known) Add(DocumentMessage::FindsReference, span.begin + at, {reference});
+    }
+  }
+
+  void CheckSection(const DocumentPart& part) {
+    const Span inside = InsideOf(part);
+    const std::string_view text = Of(inside);
+    if (text.empty()) return;
+    if (TrimmedText(text).empty()) return Add(DocumentMessage::FindsEnds, inside.begin);
+    TakeText(part.whole.begin);
+    const std::size_t end = Text().find("]]", inside.begin);
+    if (end < inside.end) Add(DocumentMessage::FindsSectionEnd, end);
+    for (const std::string_view reference : {"&lt;", "&gt;", "&quot;", "&amp;"}) {
+      const std::size_t at = text.find(reference);
+      if (at != std::string_view::npos) Add(DocumentMessage::FindsSection, inside.begin + at);
+    }
+    if (TrimmedText(text).size() != text.size()) Add(DocumentMessage::FindsEnds, inside.begin);
+    CheckRuns(inside);
+    CheckCharacters(inside);
+  }
+
+  void CheckTag(const DocumentPart& part) {
+    CheckCharacters(part.name);
+    const std::size_t breaks = Of(part.whole).find_first_of("\t\r\n");
+    if (breaks != std::string_view::npos) Add(DocumentMessage::FindsTagLines, part.whole.begin + breaks);
+    for (std::size_t i = 0; i < part.attribute_count; ++i) {
+      CheckAttribute(document_.attributes[part.first_attribute + i]);
+    }
+    CheckNames(part);
+  }
+
+  void CheckAttribute(const AttributePart& attribute) {
+    const std::string_view name = Of(attribute.name);
+    const std::string_view value = Of(attribute.value);
+    const auto add = [&](DocumentMessage message) { Add(message, attribute.name.begin, {name}); };
+    if (value.empty()) add(DocumentMessage::FindsEmptyAttribute);
+    if (value.find('>') != std::string_view::npos) add(DocumentMessage::FindsGreater);
+    const bool is_single = Text()[attribute.value.begin - 1] == '\'';
+    if (is_single && value.find_first_of(" \"") != std::string_view::npos)
+      add(DocumentMessage::FindsSingleQuotes);
+    if (attribute.name.end + 2 != attribute.value.begin) add(DocumentMessage::FindsEquals);
+    if (value.find("  ") != std::string_view::npos) Add(DocumentMessage::FindsBlanks, attribute.value.begin);
+    CheckReferences(attribute.value);
+    CheckCharacters(attribute.name);
+    CheckCharacters(attribute.value);
+  }
+
+  // The suite compares the names of attributes without regard to case.
+  void CheckNames(const DocumentPart& part) {
+    std::map<std::u16string, Span> seen;
+    for (std::size_t i = 0; part.attribute_count > 1 && i < part.attribute_count; ++i) {
+      const Span name = document_.attributes[part.first_attribute + i].name;
+      std::u16string folded = ravo::FromUtf8(Of(name));
+      for (char16_t& unit : folded) {
+        if (unit >= u'A' && unit <= u'Z') unit |= 0x20;
+      }
+      const auto [other, is_new] = seen.emplace(folded, name);
+      if (!is_new) Add(DocumentMessage::FindsSameName, name.begin, {Of(other->second), Of(name)});
+    }
+  }
+
+  // The suite reads each byte as a character of its code page.
+  void CheckCharacters(Span span) {
+    for (std::size_t at = span.begin; at < span.end;) {
+      const auto [c, size] = Utf8At(Text(), at);
+      if (c >= 0x80 && !IsSame(c)) return Add(DocumentMessage::FindsEncoding, at, {text_.encoding});
+      at += size;
+    }
+  }
+
+  [[nodiscard]] bool IsSame(char32_t c) {
+    const auto [known, is_new] = same_.emplace(c, false);
+    if (is_new) {
+      std::string bytes;
+      static_cast<void>(text_.codec->Encode(c, bytes));
+      std::string utf8;
+      AppendUtf8(c, utf8);
+      known->second = ravo::ToUtf8(ravo::FromCodePage(bytes)) == utf8;
+    }
+    return known->second;
+  }
+
+  void CheckLines() {
+    constexpr std::size_t kLongest = 65535;
+    const std::string_view bytes = text_.bytes;
+    LineFinder lines(Text());
+    std::size_t line = 1;
+    for (std::size_t at = 0; at < bytes.size(); ++line) {
+      const std::size_t end = std::min(bytes.find('\n', at), bytes.size() - 1) + 1;
+      if (end - at > kLongest) Add(DocumentMessage::FindsLongLine, lines.Find(line));
+      at = end;
+    }
+  }
+
+  const DocumentText& text_;
+  const ScannedDocument& document_;
+  std::vector<DocumentFinding> findings_;
+  std::vector<Content> open_;
+  std::map<char32_t, bool> same_;
+  bool has_stylesheet_ = false;
+};
+
+// Returns the place of the first difference of two readings, apart from white space at the ends of texts.
+std::optional<std::size_t> FirstDifference(const DocumentReading& left, const DocumentReading& right) {
+  for (std::size_t i = 0; i < std::min(left.size(), right.size()); ++i) {
+    const ReadElement& a = left[i];
+    const ReadElement& b = right[i];
+    const bool same = a.name == b.name && a.depth == b.depth && a.attributes == b.attributes &&
+                      TrimmedText(a.text) == TrimmedText(b.text);
+    if (!same) return a.at;
+  }
+  if (left.size() == right.size()) return std::nullopt;
+  return left.empty() ? 0 : left[std::min(left.size() - 1, right.size())].at;
+}
+
+// Compares a document with what the suite loads and saves.
+std::optional<DocumentFinding> Tried(const DocumentText& text, const DocumentReading& wanted) {
+  ravo::ECXMLParser::TECXMLParser parser;
+  try {
+    LoadAsSuite(text.bytes, parser);
+  } catch (const std::exception& error) {
+    return DocumentFinding{DocumentMessage::FindsLoad, 0, {error.what()}};
+  }
+  if (const auto at = FirstDifference(wanted, ReadBySuite(*parser.Root()))) {
+    return DocumentFinding{DocumentMessage::FindsSeen, *at, {}};
+  }
+  try {
+    const DocumentText saved = DecodeDocument(SavedBySuite(parser));
+    const auto at = FirstDifference(wanted, ReadByOther(saved.utf8));
+    return at ? std::optional(DocumentFinding{DocumentMessage::FindsSaved, *at, {}}) : std::nullopt;
+  } catch (const std::exception&) {
+    return DocumentFinding{DocumentMessage::FindsSaved, 0, {}};
+  }
+}
+
+}  // namespace
+
+std::string DocumentFinding::Text() const {
+  switch (values.size()) {
+    case 0:
+      return MessageText(message);
+    case 1:
+      return MessageText(message, {values[0]});
+    default:
+      return MessageText(message, {values[0], values[1]});
+  }
+}
+
+std::vector<DocumentFinding> CheckDocument(const DocumentText& text, const ScannedDocument& document) {
+  const DocumentReading wanted = ReadByOther(text.utf8);
+  std::vector<DocumentFinding> findings = Rules(text, document).Run();
+  if (!findings.empty()) return findings;
+  if (auto finding = Tried(text, wanted)) findings.push_back(std::move(*finding));
+  return findings;
+}
+
+}  // namespace tool

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "document_text.h"
+
+#include <string>
+#include <vector>
+
+namespace tool {
+
+/// A place where the suite sees or saves something else than a standard parser reads.
+struct DocumentFinding {
+  DocumentMessage message = DocumentMessage::FindsSeen;
+  std::size_t at = 0;               ///< a byte of the text in UTF-8
+  std::vector<std::string> values;  ///< of the message
+
+  [[nodiscard]] std::string Text() const;
+};
+
+/// Returns all findings in the order of the document.
+///
+/// A document without any is loaded and saved by the suite's own code, and the results are compared with what
+/// expat reads (the program's scanner in a build without expat). White space at the ends of texts and between
+/// elements does not count there, since the suite lays documents out anew. Throws `DocumentError` if expat
+/// rejects the document.
+[[nodiscard]] std::vector<DocumentFinding> CheckDocument(const DocumentText& text,
+                                                         const ScannedDocument& document);
+
+}  // namespace tool

@@ -1,0 +1,136 @@
+#include "console.h"
+#include "document_check.h"
+#include "document_file.h"
+#include "document_places.h"
+#include "foreign_text.h"
+#include "json_text.h"
+#include "text.h"
+#include "text_file.h"
+#include "xml_file.h"
+#include "xml_tree_text.h"
+#include "xml_work.h"
+
+#include <algorithm>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace tool {
+namespace {
+
+std::vector<DocumentFinding> FindingsOf(const std::string& name, const OpenDocument& open) {
+  try {
+    return CheckDocument(open.Text(), open.Document());
+  } catch (const DocumentError& error) {
+    throw FileError(ShownName(name) + ":" + PlacedError(open.Text().utf8, error).what());
+  }
+}
+
+std::string FindingText(const XmlOptions& options, const std::string& file, TextPlace place,
+                        const DocumentFinding& finding) {
+  const std::string code(CodeOf(finding.message));
+  if (!options.json) {
+    return ShownName(file) + ":" + std::to_string(place.line) + ":" + std::to_string(place.column) + ": " +
+           code + ": " + OnOneLine(finding.Text()) + "\n";
+  }
+  return JsonLine({{"file", file},
+                   {"line", place.line},
+                   {"column", place.column},
+                   {"code", code},
+                   {"message", finding.Text()}});
+}
+
+void CheckFile(const XmlOptions& options, const std::string& file, Outcome& outcome) {
+  const OpenDocument open(file);
+  const auto findings = FindingsOf(file, open);
+  PlaceFinder places(open.Text().utf8);
+  for (const DocumentFinding& finding : findings) {
+    AddOutput(outcome, FindingText(options, file, places.Find(finding.at), finding));
+  }
+  if (!findings.empty())
+    outcome.answer = std::max(outcome.answer, Answer::No);
+  else if (!options.json)
+    AddOutput(outcome, ShownName(file) + ": " + MessageText(DocumentMessage::Survives) + "\n");
+}
+
+// Streams what the suite saves to a file or to standard output; on a terminal without control characters.
+class SavedDocument final : public ravo::ByteStream {
+ public:
+  explicit SavedDocument(const std::string& name) {
+    if (!name.empty() && name != kInputName) file_ = std::make_unique<WholeFile>(name);
+  }
+  [[nodiscard]] std::size_t Write(std::span<const std::byte> from) override {
+    const std::string_view bytes(reinterpret_cast<const char*>(from.data()), from.size());
+    if (file_ != nullptr)
+      static_cast<void>(file_->Write(bytes));  // Finish reports a failure
+    else if (IsTerminal(Channel::Out))
+      shown_ += bytes;
+    else if (!tool::Write(Channel::Out, bytes))
+      return 0;
+    return from.size();
+  }
+  [[nodiscard]] std::size_t Read(std::span<std::byte>) override { return 0; }
+  [[nodiscard]] std::int64_t Position() const override { return 0; }
+  void SetPosition(std::int64_t) override {}
+  [[nodiscard]] std::int64_t Size() const override { return 0; }
+
+  // Returns an empty text, or the reason of a failure.
+  [[nodiscard]] std::string Finish(Outcome& outcome) {
+    outcome.out = OnLines(ForeignText(shown_));
+    return file_ != nullptr ? file_->Finish() : std::string();
+  }
+
+ private:
+  std::unique_ptr<WholeFile> file_;
+  std::string shown_;
+};
+
+// Whether the suite keeps a document; reports why not.
+bool Survives(const XmlOptions& options, const std::string& bytes, Outcome& outcome) {
+  const OpenDocument open(options.file, bytes);
+  const auto findings = FindingsOf(options.file, open);
+  if (findings.empty()) return true;
+  PlaceFinder places(open.Text().utf8);
+  const TextPlace place = places.Find(findings[0].at);
+  const std::string at = ":" + std::to_string(place.line) + ":" + std::to_string(place.column) + ": ";
+  TellXml(options, outcome, ShownName(options.file) + at + findings[0].Text(), Answer::No);
+  const std::string refusal =
+      TextOf(std::ssize(findings),
+             "the suite would spoil the document in one place; --suite formats it all the same",
+             "the suite would spoil the document in {0} places, which `ravo xml check` lists; --suite "
+             "formats it all the same");
+  TellXml(options, outcome, ShownName(options.file) + ": " + refusal, Answer::No);
+  return false;
+}
+
+}  // namespace
+
+// A file that cannot be read does not keep the others from being checked.
+void CheckXml(const XmlOptions& options, Outcome& outcome) {
+  for (const std::string& file : options.files) {
+    try {
+      CheckFile(options, file, outcome);
+    } catch (const FileError& error) {
+      TellXml(options, outcome, error.what(), Answer::WrongUsage);
+    }
+  }
+}
+
+void FormatXml(const XmlOptions& options, Outcome& outcome) {
+  const std::string bytes = ReadDocumentBytes(options.file);
+  if (!options.suite && !Survives(options, bytes, outcome)) return;
+  ravo::ECXMLParser::TECXMLParser parser;
+  try {
+    LoadAsSuite(bytes, parser);
+  } catch (const ravo::Error& error) {
+    throw FileError(ShownName(options.file) + ": " + error.what());
+  }
+  SavedDocument saved(options.out);
+  parser.SaveToStream(saved, false);
+  const std::string failure = saved.Finish(outcome);
+  if (!failure.empty())
+    TellXml(options, outcome, ShownName(options.out) + ": " + failure, Answer::WrongUsage);
+}
+
+}  // namespace tool

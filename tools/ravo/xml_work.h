@@ -1,0 +1,47 @@
+#pragma once
+
+#include "document_edit.h"
+#include "outcome.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// The work of `ravo xml`, a function for each of its commands. They throw `FileError` for a document that
+/// cannot be read and `PathError` for a path or value that does not fit.
+namespace tool {
+
+struct XmlOptions {
+  std::string command;  ///< as in "ravo xml get"
+  std::string file;
+  std::vector<std::string> files;
+  std::string path;
+  std::vector<std::string> changes;  ///< paths, each with its value after it
+  std::string out;
+  EditOptions edit;
+  bool colour = false;
+  bool json = false;
+  bool suite = false;
+  bool in_place = false;
+  bool dry_run = false;
+};
+
+using XmlWork = void(const XmlOptions& options, Outcome& outcome);
+
+XmlWork ShowXml;
+XmlWork GetXml;
+XmlWork ListXmlTokens;
+XmlWork SetXml;
+XmlWork CheckXml;
+XmlWork FormatXml;
+
+/// Adds a message of the command to the errors; the answer becomes at least as grave as `answer`.
+void TellXml(const XmlOptions& options, Outcome& outcome, const std::string& message, Answer answer);
+
+/// Adds to the output, which is written as it grows.
+void AddOutput(Outcome& outcome, std::string_view text);
+
+/// Returns a text of several lines in the form for a terminal, without control characters.
+[[nodiscard]] std::string OnLines(std::string_view utf8);
+
+}  // namespace tool
