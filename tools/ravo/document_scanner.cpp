@@ -204,7 +204,7 @@ class Scanner {
     const Span name = NameAt(at);
     if (name.Size() == 0) throw DocumentError(DocumentMessage::BadName, at);
     const std::size_t equals = PastSpace(name.end);
-    const std::size_t quote = HasAt(equals, '=') ? PastSpace(equals + 1) : equals;
+    const std::size_t quote = HasAt(equals, '=') ? PastSpace(equals + 1) : Text().size();
     if (!HasAt(quote, '"') && !HasAt(quote, '\'')) {
       throw DocumentError(DocumentMessage::BadAttribute, equals, {Of(name)});
     }
