@@ -11,7 +11,7 @@ namespace {
 
 namespace codec = ravo::codec;
 
-constexpr std::size_t kBlock = std::size_t{1} << 18;
+constexpr std::size_t kBlock = std::size_t{1} << 17;
 // Starting threads takes as long as converting some hundred kilobytes.
 constexpr std::int64_t kLarge = std::int64_t{1} << 20;
 
