@@ -21,7 +21,7 @@ struct FieldPlace {
   bool quoted = false;
 };
 
-bool IsLineEnd(char byte) { return byte == '\n' || byte == '\r'; }
+bool EndsLine(char byte) { return byte == '\n' || byte == '\r'; }
 
 // Reads the rows of a table in memory; a field is quoted only if its closing quote ends it.
 class RowsInMemory {
@@ -37,7 +37,7 @@ class RowsInMemory {
     for (;;) {
       fields.push_back(NextField());
       line_ += LineEndsIn(text_.substr(fields.back().begin, fields.back().end - fields.back().begin));
-      if (at_ == text_.size() || IsLineEnd(text_[at_])) return true;
+      if (at_ == text_.size() || EndsLine(text_[at_])) return true;
       ++at_;
     }
   }
@@ -46,7 +46,7 @@ class RowsInMemory {
 
  private:
   [[nodiscard]] bool EndsField(std::size_t at) const {
-    return at == text_.size() || text_[at] == delimiter_ || IsLineEnd(text_[at]);
+    return at == text_.size() || text_[at] == delimiter_ || EndsLine(text_[at]);
   }
 
   FieldPlace NextField() {
@@ -73,7 +73,7 @@ class RowsInMemory {
 
   void SkipLineEnds() {
     const std::size_t begin = at_;
-    while (at_ < text_.size() && IsLineEnd(text_[at_])) ++at_;
+    while (at_ < text_.size() && EndsLine(text_[at_])) ++at_;
     line_ += LineEndsIn(text_.substr(begin, at_ - begin));
   }
 
@@ -110,7 +110,7 @@ char LikelyDelimiter(std::string_view table) {
                                    [&](char each) { return std::ranges::count(line, each); });
 }
 
-std::size_t ColumnNumber(const std::string& name) {
+std::size_t NumberInText(const std::string& name) {
   std::size_t number = 0;
   const auto [end, error] = std::from_chars(name.data(), name.data() + name.size(), number);
   return error == std::errc() && end == name.data() + name.size() ? number : 0;
@@ -127,7 +127,7 @@ std::size_t IndexOfColumn(const std::vector<std::string>& names, const std::stri
   if (count > 1)
     throw std::runtime_error(Text("several columns have the name '{0}'; give the number", {name}));
   if (count == 1) return static_cast<std::size_t>(std::ranges::find(names, name) - names.begin());
-  const std::size_t number = ColumnNumber(name);
+  const std::size_t number = NumberInText(name);
   if (number >= 1 && number <= names.size()) return number - 1;
   const std::string shown = delimiter == '\t' ? "\\t" : std::string(1, delimiter);
   throw std::runtime_error(Text("there is no column '{0}'; the columns, separated by '{1}', are {2}",
@@ -136,6 +136,7 @@ std::size_t IndexOfColumn(const std::vector<std::string>& names, const std::stri
 
 std::vector<std::string> NamesOfColumns(std::string_view table, const std::vector<FieldPlace>& fields) {
   std::vector<std::string> names;
+  names.reserve(fields.size());
   for (const FieldPlace& field : fields) names.push_back(ForeignText(ValueAt(table, field)));
   return names;
 }

@@ -15,7 +15,7 @@ namespace common = ravo::RavoInterfaceCommon;
 bool IsDecimalDigit(char16_t unit) { return unit >= u'0' && unit <= u'9'; }
 
 // The number of characters in a text; a surrogate pair is one.
-std::size_t CountCharacters(std::u16string_view text) {
+std::size_t CharactersIn(std::u16string_view text) {
   return static_cast<std::size_t>(
       std::ranges::count_if(text, [](char16_t unit) { return unit < 0xDC00 || unit > 0xDFFF; }));
 }
@@ -25,7 +25,7 @@ std::optional<ValueReason> NoDigit(std::u16string_view value, std::size_t from, 
   for (std::size_t at = from; at < to; ++at) {
     if (IsDecimalDigit(value[at])) continue;
     const bool is_pair = value[at] >= 0xD800 && value[at] < 0xDC00;
-    const std::size_t position = CountCharacters(value.substr(0, at)) + 1;
+    const std::size_t position = CharactersIn(value.substr(0, at)) + 1;
     return ValueReason{"character", position,
                        Text("'{1}' at position {0} is no digit",
                             {std::to_string(position), ravo::ToUtf8(value.substr(at, is_pair ? 2 : 1))})};
@@ -38,20 +38,21 @@ std::optional<ValueReason> NoDigits(std::u16string_view value) {
   return NoDigit(value, 0, value.size());
 }
 
-ValueReason Length(std::size_t length, std::size_t most, std::string message) {
+ValueReason WrongLength(std::size_t length, std::size_t most, std::string message) {
   return {length > most ? "too-long" : "too-short", 0, std::move(message)};
 }
 
 ValueReason WhyNoAccount(std::u16string_view value) {
-  return NoDigits(value).value_or(Length(value.size(), 6, Text("an account has 3 to 6 digits")));
+  return NoDigits(value).value_or(WrongLength(value.size(), 6, Text("an account has 3 to 6 digits")));
 }
 
 ValueReason WhyNoSynthetic(std::u16string_view value) {
-  return NoDigits(value).value_or(Length(value.size(), 3, Text("a synthetic account has 3 digits")));
+  return NoDigits(value).value_or(WrongLength(value.size(), 3, Text("a synthetic account has 3 digits")));
 }
 
 ValueReason WhyNoAnalytic(std::u16string_view value) {
-  return NoDigits(value).value_or(Length(value.size(), 3, Text("an analytic account has at most 3 digits")));
+  return NoDigits(value).value_or(
+      WrongLength(value.size(), 3, Text("an analytic account has at most 3 digits")));
 }
 
 ValueReason WhyNoBankAccount(std::u16string_view value) {
@@ -69,7 +70,7 @@ ValueReason WhyNoReference(std::u16string_view value) {
   if (auto reason = NoDigits(value)) return std::move(*reason);
   std::u16string right(value);
   for (char16_t digit = u'0'; digit <= u'9' && !common::ValidVS(right); ++digit) right.back() = digit;
-  return {"wrong-check-digit", CountCharacters(value),
+  return {"wrong-check-digit", CharactersIn(value),
           Text("wrong check digit, right: {0}", {ravo::ToUtf8(right)})};
 }
 
