@@ -10,9 +10,9 @@
 namespace tool {
 namespace {
 
-constexpr std::size_t kDecimals = ravo::Currency::kPlaces;
-constexpr std::string_view kDigits = "0123456789";
-constexpr std::string_view kMinus = "\u2212";
+constexpr std::size_t kMostDecimals = ravo::Currency::kPlaces;
+constexpr std::string_view kDecimalDigits = "0123456789";
+constexpr std::string_view kWideMinus = "\u2212";
 // Blank, no-break, narrow no-break, thin.
 constexpr std::array<std::string_view, 4> kBlanks = {" ", "\u00A0", "\u202F", "\u2009"};
 constexpr std::array<std::string_view, 6> kCurrencies = {"Kč", "kč", "KČ", "€", "$", "£"};
@@ -56,10 +56,10 @@ struct AmountParts {
 };
 
 void TakeSign(std::string_view& text, AmountParts& parts) {
-  const bool is_wide = text.starts_with(kMinus);
+  const bool is_wide = text.starts_with(kWideMinus);
   parts.is_negative = is_wide || text.starts_with('-');
-  if (is_wide) parts.notation.minus = kMinus;
-  if (is_wide) return text.remove_prefix(kMinus.size());
+  if (is_wide) parts.notation.minus = kWideMinus;
+  if (is_wide) return text.remove_prefix(kWideMinus.size());
   if (parts.is_negative || text.starts_with('+')) text.remove_prefix(1);
 }
 
@@ -71,8 +71,8 @@ void TakeDash(std::string_view& after, AmountParts& parts) {
 }
 
 std::optional<AmountParts> SplitAmount(std::string_view text) {
-  const std::size_t first = std::min(text.find_first_of("0123456789.,+-"), text.find(kMinus));
-  const std::size_t last = text.find_last_of(kDigits);
+  const std::size_t first = std::min(text.find_first_of("0123456789.,+-"), text.find(kWideMinus));
+  const std::size_t last = text.find_last_of(kDecimalDigits);
   if (last == std::string_view::npos || first > last) return {};
   AmountParts parts;
   std::string_view after = text.substr(last + 1);
@@ -94,7 +94,7 @@ struct AmountPieces {
 std::optional<AmountPieces> SplitDigits(std::string_view body) {
   AmountPieces pieces;
   for (;;) {
-    const std::size_t length = std::min(body.find_first_not_of(kDigits), body.size());
+    const std::size_t length = std::min(body.find_first_not_of(kDecimalDigits), body.size());
     pieces.digits.push_back(body.substr(0, length));
     body.remove_prefix(length);
     if (body.empty()) return pieces;
@@ -106,11 +106,11 @@ std::optional<AmountPieces> SplitDigits(std::string_view body) {
   }
 }
 
-bool IsPoint(std::string_view separator) { return separator == "." || separator == ","; }
+bool IsDecimalPoint(std::string_view separator) { return separator == "." || separator == ","; }
 
 // The last separator is the decimal one unless it is a blank or one of several of its kind.
 bool HasDecimals(const AmountPieces& pieces) {
-  return !pieces.separators.empty() && IsPoint(pieces.separators.back()) &&
+  return !pieces.separators.empty() && IsDecimalPoint(pieces.separators.back()) &&
          std::ranges::count(pieces.separators, pieces.separators.back()) == 1;
 }
 
@@ -160,13 +160,13 @@ std::variant<Amount, AmountFault> ReadAmount(std::string_view utf8) {
   const auto separators = std::span(pieces->separators).first(whole.size() - 1);
   if (!AreGroups(whole, separators)) return AmountFault::Groups;
   const std::string_view decimals = WithoutTrailingZeros(has_decimals ? digits.back() : std::string_view());
-  if (decimals.size() > kDecimals) return AmountFault::Decimals;
+  if (decimals.size() > kMostDecimals) return AmountFault::Decimals;
   if (IsAmbiguous(*pieces, parts->notation)) return AmountFault::Ambiguous;
   if (!separators.empty()) parts->notation.group = separators.front();
   parts->notation.decimal = DecimalOf(*pieces, *parts, has_decimals);
   std::string all;
   for (const std::string_view group : whole) all += group;
-  return AmountOf(std::move(*parts), all.append(decimals).append(kDecimals - decimals.size(), '0'));
+  return AmountOf(std::move(*parts), all.append(decimals).append(kMostDecimals - decimals.size(), '0'));
 }
 
 std::optional<ravo::Currency> ParseAmount(std::string_view utf8) {
@@ -178,8 +178,8 @@ std::optional<ravo::Currency> ParseAmount(std::string_view utf8) {
 std::string AmountText(ravo::Currency amount, const Notation& notation) {
   const auto bits = static_cast<std::uint64_t>(amount.raw);
   std::string digits = std::to_string(amount.raw < 0 ? 0 - bits : bits);
-  if (digits.size() <= kDecimals) digits.insert(0, kDecimals + 1 - digits.size(), '0');
-  const std::size_t whole = digits.size() - kDecimals;
+  if (digits.size() <= kMostDecimals) digits.insert(0, kMostDecimals + 1 - digits.size(), '0');
+  const std::size_t whole = digits.size() - kMostDecimals;
   digits.insert(whole, 1, notation.decimal);
   for (int i = 0; i < 2 && digits.back() == '0'; ++i) digits.pop_back();
   for (std::size_t at = whole; at > 3;) digits.insert(at -= 3, notation.group);

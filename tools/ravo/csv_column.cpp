@@ -110,7 +110,7 @@ char LikelyDelimiter(std::string_view table) {
                                    [&](char each) { return std::ranges::count(line, each); });
 }
 
-std::size_t ColumnNumber(const std::string& name) {
+std::size_t NumberInText(const std::string& name) {
   std::size_t number = 0;
   const auto [end, error] = std::from_chars(name.data(), name.data() + name.size(), number);
   return error == std::errc() && end == name.data() + name.size() ? number : 0;
@@ -127,7 +127,7 @@ std::size_t IndexOfColumn(const std::vector<std::string>& names, const std::stri
   if (count > 1)
     throw std::runtime_error(Text("several columns have the name '{0}'; give the number", {name}));
   if (count == 1) return static_cast<std::size_t>(std::ranges::find(names, name) - names.begin());
-  const std::size_t number = ColumnNumber(name);
+  const std::size_t number = NumberInText(name);
   if (number >= 1 && number <= names.size()) return number - 1;
   const std::string shown = delimiter == '\t' ? "\\t" : std::string(1, delimiter);
   throw std::runtime_error(Text("there is no column '{0}'; the columns, separated by '{1}', are {2}",
@@ -136,6 +136,7 @@ std::size_t IndexOfColumn(const std::vector<std::string>& names, const std::stri
 
 std::vector<std::string> NamesOfColumns(std::string_view table, const std::vector<FieldPlace>& fields) {
   std::vector<std::string> names;
+  names.reserve(fields.size());
   for (const FieldPlace& field : fields) names.push_back(ForeignText(ValueAt(table, field)));
   return names;
 }

@@ -194,7 +194,7 @@ void Describe(const DateInput& input, const DateOptions& options, Outcome& outco
   Answered(options.suite ? *answers.suite : answers.exact, answers, options, outcome);
 }
 
-std::optional<DateInput> Read(const std::string& text, const ravo::DateParts& today, Outcome& outcome) {
+std::optional<DateInput> ReadOrTell(const std::string& text, const ravo::DateParts& today, Outcome& outcome) {
   auto read = ReadDate(text, today);
   if (auto* input = std::get_if<DateInput>(&read)) return std::move(*input);
   Tell(outcome, "date", text + ": " + std::get<DateFault>(read).message, Answer::WrongUsage);
@@ -205,13 +205,13 @@ std::optional<DateInput> Read(const std::string& text, const ravo::DateParts& to
 std::optional<ravo::DateParts> TodayOf(const DateOptions& options, Outcome& outcome) {
   const ravo::DateParts today = PartsOfDay(utils::CurrentJulianDate());
   if (options.today.empty()) return today;
-  const std::optional<DateInput> given = Read(options.today, today, outcome);
+  const std::optional<DateInput> given = ReadOrTell(options.today, today, outcome);
   return given ? std::optional(MovedExactly(given->start, given->steps).date) : std::nullopt;
 }
 
-void Show(const DateOptions& options, Outcome& outcome) {
+void ShowDate(const DateOptions& options, Outcome& outcome) {
   const std::optional<ravo::DateParts> today = TodayOf(options, outcome);
-  std::optional<DateInput> input = today ? Read(options.date, *today, outcome) : std::nullopt;
+  std::optional<DateInput> input = today ? ReadOrTell(options.date, *today, outcome) : std::nullopt;
   if (!input) return;
   if (options.month != 0) input->steps.push_back({DateStep::Unit::Months, options.month});
   if (options.year != 0) input->steps.push_back({DateStep::Unit::Years, options.year});
@@ -220,7 +220,7 @@ void Show(const DateOptions& options, Outcome& outcome) {
 
 void Run(const DateOptions& options, Outcome& outcome) {
   try {
-    Show(options, outcome);
+    ShowDate(options, outcome);
   } catch (const ravo::ConvertError&) {
     Tell(outcome, "date", Text("the date is outside the years 1 to 9999"), Answer::No);
   }

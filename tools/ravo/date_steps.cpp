@@ -9,7 +9,7 @@ namespace {
 
 namespace common = ravo::RavoInterfaceCommon;
 
-constexpr int kMonths = 12;
+constexpr int kMonthsOfYear = 12;
 constexpr int kLeastYear = 1;
 constexpr int kMostYear = 9999;
 
@@ -18,16 +18,16 @@ ravo::DateParts DaysLater(const ravo::DateParts& date, int days) {
 }
 
 ravo::DateParts MonthsLater(const ravo::DateParts& date, std::int64_t months) {
-  const std::int64_t count = std::int64_t{date.year} * kMonths + date.month - 1 + months;
-  const std::int64_t year = count / kMonths;
+  const std::int64_t count = std::int64_t{date.year} * kMonthsOfYear + date.month - 1 + months;
+  const std::int64_t year = count / kMonthsOfYear;
   if (year < kLeastYear || year > kMostYear) throw ravo::ConvertError(u"");
-  const int month = static_cast<int>(count % kMonths) + 1;
+  const int month = static_cast<int>(count % kMonthsOfYear) + 1;
   return {static_cast<int>(year), month,
           std::min<int>(date.day, common::DaysPerMonth(static_cast<int>(year), month))};
 }
 
 std::int64_t MonthsOf(const DateStep& step) {
-  return std::int64_t{step.count} * (step.unit == DateStep::Unit::Years ? kMonths : 1);
+  return std::int64_t{step.count} * (step.unit == DateStep::Unit::Years ? kMonthsOfYear : 1);
 }
 
 ravo::DateTimeParts SuiteStepped(const ravo::DateTimeParts& when, const DateStep& step) {

@@ -18,7 +18,7 @@ std::int64_t DividedUp(std::uint64_t dividend, std::int64_t divisor) {
 }
 
 // Amounts have four decimals, so all of them are multiples of the steps past that.
-std::int64_t StepOf(const RoundRule& rule) {
+std::int64_t StepOfRule(const RoundRule& rule) {
   return rule.halves ? ravo::Currency::kScale / 2
                      : PowerOfTen(std::max(ravo::Currency::kPlaces - rule.decimals, 0));
 }
@@ -35,7 +35,7 @@ std::int64_t LimitOfSteps(const RoundRule& rule) {
   if (rule.decimals > ravo::Currency::kPlaces)
     return DividedUp(kSteps, PowerOfTen(rule.decimals - ravo::Currency::kPlaces));
   const std::int64_t half = rule.decimals < 0 ? PowerOfTen(-rule.decimals) / 2 : 0;
-  const std::int64_t step = StepOf(rule);
+  const std::int64_t step = StepOfRule(rule);
   return rule.type == common::rtUp ? (kSteps - 1) * step + half + 1 : kSteps * step - half;
 }
 
@@ -62,7 +62,7 @@ std::string_view ModeName(const RoundRule& rule) {
 }
 
 ravo::Currency RoundExactly(ravo::Currency amount, const RoundRule& rule) {
-  return ravo::RoundedTo(amount, {StepOf(rule)}, RoundingOf(rule.type));
+  return ravo::RoundedTo(amount, {StepOfRule(rule)}, RoundingOf(rule.type));
 }
 
 std::optional<ravo::Currency> RoundAsSuite(ravo::Currency amount, const RoundRule& rule) {

@@ -9,7 +9,7 @@ namespace {
 
 using Limits = std::numeric_limits<std::int64_t>;
 
-std::string RangeText(std::string_view english) {
+std::string AmountRangeText(std::string_view english) {
   return Text(english, {AmountText({Limits::min()}), AmountText({Limits::max()})});
 }
 
@@ -25,7 +25,7 @@ RoundAnswer Refused(AmountFault fault) {
     case AmountFault::Ambiguous:
       return refuse("ambiguous", Text("the point may separate thousands or decimals; write 12500 or 12,50"));
     case AmountFault::Range:
-      return refuse("range", RangeText(ToTranslate("amounts are from {0} to {1}")));
+      return refuse("range", AmountRangeText(ToTranslate("amounts are from {0} to {1}")));
     default:
       return refuse("not-an-amount", Text("this is no amount; write it as 1234.56 or 1 234,56 Kč"));
   }
@@ -64,7 +64,7 @@ void AnswerExactly(RoundAnswer& answer, const RoundRule& rule) {
     answer.rounded = RoundExactly(answer.amount->value, rule);
   } catch (const ravo::OverflowError&) {
     answer.reason = "range";
-    answer.message = RangeText(ToTranslate("the result is outside the range of amounts, {0} to {1}"));
+    answer.message = AmountRangeText(ToTranslate("the result is outside the range of amounts, {0} to {1}"));
     answer.answer = Answer::No;
     return;
   }

@@ -38,20 +38,21 @@ std::optional<ValueReason> NoDigits(std::u16string_view value) {
   return NoDigit(value, 0, value.size());
 }
 
-ValueReason Length(std::size_t length, std::size_t most, std::string message) {
+ValueReason WrongLength(std::size_t length, std::size_t most, std::string message) {
   return {length > most ? "too-long" : "too-short", 0, std::move(message)};
 }
 
 ValueReason WhyNoAccount(std::u16string_view value) {
-  return NoDigits(value).value_or(Length(value.size(), 6, Text("an account has 3 to 6 digits")));
+  return NoDigits(value).value_or(WrongLength(value.size(), 6, Text("an account has 3 to 6 digits")));
 }
 
 ValueReason WhyNoSynthetic(std::u16string_view value) {
-  return NoDigits(value).value_or(Length(value.size(), 3, Text("a synthetic account has 3 digits")));
+  return NoDigits(value).value_or(WrongLength(value.size(), 3, Text("a synthetic account has 3 digits")));
 }
 
 ValueReason WhyNoAnalytic(std::u16string_view value) {
-  return NoDigits(value).value_or(Length(value.size(), 3, Text("an analytic account has at most 3 digits")));
+  return NoDigits(value).value_or(
+      WrongLength(value.size(), 3, Text("an analytic account has at most 3 digits")));
 }
 
 ValueReason WhyNoBankAccount(std::u16string_view value) {
