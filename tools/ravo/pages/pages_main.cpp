@@ -1,6 +1,6 @@
 // Writes one of the pages. usage: ravo_pages man|bash FILE
+#include "commands.h"
 #include "pages.h"
-#include "program.h"
 
 #include <fstream>
 #include <iostream>
