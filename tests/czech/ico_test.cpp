@@ -8,7 +8,7 @@ namespace {
 
 using test::SpellingRow;
 
-const SpellingRow kRows[] = {
+const SpellingRow kIcoRows[] = {
     // Published numbers.
     {"27082440", "27082440"},
     {"27074358", "27074358"},
@@ -42,7 +42,7 @@ const SpellingRow kRows[] = {
 };
 
 TEST(Ico, IsReadAsWrittenOrRefusedWithReasonAndPosition) {
-  for (const SpellingRow& row : kRows) {
+  for (const SpellingRow& row : kIcoRows) {
     test::ExpectSpelling(
         row, [](auto text) { return ParseIco(text); }, [](const Ico& ico) { return Format(ico); });
   }

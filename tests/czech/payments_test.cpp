@@ -11,7 +11,7 @@ namespace {
 
 using test::KindRow;
 
-const KindRow kRows[] = {
+const KindRow kPaymentRows[] = {
     {Kind::Iban, {"CZ6508000000192000145399", "CZ6508000000192000145399"}},
     {Kind::Iban, {"IBAN: CZ65 0800 0000 1920 0014 5399", "CZ6508000000192000145399"}},
     {Kind::Iban, {"cz94\u00a05500 0000 0010 1103 8930", "CZ9455000000001011038930"}},
@@ -141,7 +141,7 @@ const KindRow kRows[] = {
 };
 
 TEST(Payments, AreReadAsWrittenOrRefusedWithReasonAndPosition) {
-  for (const KindRow& row : kRows) test::ExpectKind(row);
+  for (const KindRow& row : kPaymentRows) test::ExpectKind(row);
 }
 
 struct AccountRow {

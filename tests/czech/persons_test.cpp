@@ -11,7 +11,7 @@ namespace {
 
 using test::KindRow;
 
-const KindRow kRows[] = {
+const KindRow kPersonRows[] = {
     // Published hard cases.
     {Kind::BirthNumber, {"8801251680", "8801251680"}},
     {Kind::Dic, {"CZ682127228", "CZ682127228"}},
@@ -147,7 +147,7 @@ const KindRow kRows[] = {
 };
 
 TEST(Persons, AreReadAsWrittenOrRefusedWithReasonAndPosition) {
-  for (const KindRow& row : kRows) test::ExpectKind(row);
+  for (const KindRow& row : kPersonRows) test::ExpectKind(row);
 }
 
 struct BirthRow {

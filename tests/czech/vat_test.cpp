@@ -11,7 +11,7 @@
 namespace ravo::czech {
 namespace {
 
-constexpr Day At(int year, int month, int day) { return DayOf({year, month, day}); }
+constexpr Day VatDay(int year, int month, int day) { return DayOf({year, month, day}); }
 constexpr Currency Heller(std::int64_t count) { return {count * 100}; }
 constexpr Currency kLargest{std::numeric_limits<std::int64_t>::max()};
 constexpr Currency kSmallest{std::numeric_limits<std::int64_t>::min()};
@@ -22,48 +22,48 @@ struct RateRow {
   int percent;  // -1 for none
 };
 // As the tax administration's tables have them, on the last and the first day of each.
-const RateRow kRates[] = {
-    {At(1992, 12, 31), VatRateKind::Standard, -1},
-    {At(1993, 1, 1), VatRateKind::Standard, 23},
-    {At(1994, 12, 31), VatRateKind::Standard, 23},
-    {At(1995, 1, 1), VatRateKind::Standard, 22},
-    {At(2004, 4, 30), VatRateKind::Standard, 22},
-    {At(2004, 5, 1), VatRateKind::Standard, 19},
-    {At(2009, 12, 31), VatRateKind::Standard, 19},
-    {At(2010, 1, 1), VatRateKind::Standard, 20},
-    {At(2012, 12, 31), VatRateKind::Standard, 20},
-    {At(2013, 1, 1), VatRateKind::Standard, 21},
-    {At(2026, 11, 21), VatRateKind::Standard, 21},
-    {At(1993, 1, 1), VatRateKind::Reduced, 5},
-    {At(2007, 12, 31), VatRateKind::Reduced, 5},
-    {At(2008, 1, 1), VatRateKind::Reduced, 9},
-    {At(2010, 1, 1), VatRateKind::Reduced, 10},
-    {At(2011, 12, 31), VatRateKind::Reduced, 10},
-    {At(2012, 1, 1), VatRateKind::Reduced, 14},
-    {At(2013, 1, 1), VatRateKind::Reduced, 15},
-    {At(2023, 12, 31), VatRateKind::Reduced, 15},
-    {At(2024, 1, 1), VatRateKind::Reduced, 12},
-    {At(2014, 12, 31), VatRateKind::SecondReduced, -1},
-    {At(2015, 1, 1), VatRateKind::SecondReduced, 10},
-    {At(2023, 12, 31), VatRateKind::SecondReduced, 10},
-    {At(2024, 1, 1), VatRateKind::SecondReduced, -1},
-    {At(1900, 1, 1), VatRateKind::Zero, 0},
-    {At(2026, 1, 1), static_cast<VatRateKind>(9), -1},
+const RateRow kExpectedRates[] = {
+    {VatDay(1992, 12, 31), VatRateKind::Standard, -1},
+    {VatDay(1993, 1, 1), VatRateKind::Standard, 23},
+    {VatDay(1994, 12, 31), VatRateKind::Standard, 23},
+    {VatDay(1995, 1, 1), VatRateKind::Standard, 22},
+    {VatDay(2004, 4, 30), VatRateKind::Standard, 22},
+    {VatDay(2004, 5, 1), VatRateKind::Standard, 19},
+    {VatDay(2009, 12, 31), VatRateKind::Standard, 19},
+    {VatDay(2010, 1, 1), VatRateKind::Standard, 20},
+    {VatDay(2012, 12, 31), VatRateKind::Standard, 20},
+    {VatDay(2013, 1, 1), VatRateKind::Standard, 21},
+    {VatDay(2026, 11, 21), VatRateKind::Standard, 21},
+    {VatDay(1993, 1, 1), VatRateKind::Reduced, 5},
+    {VatDay(2007, 12, 31), VatRateKind::Reduced, 5},
+    {VatDay(2008, 1, 1), VatRateKind::Reduced, 9},
+    {VatDay(2010, 1, 1), VatRateKind::Reduced, 10},
+    {VatDay(2011, 12, 31), VatRateKind::Reduced, 10},
+    {VatDay(2012, 1, 1), VatRateKind::Reduced, 14},
+    {VatDay(2013, 1, 1), VatRateKind::Reduced, 15},
+    {VatDay(2023, 12, 31), VatRateKind::Reduced, 15},
+    {VatDay(2024, 1, 1), VatRateKind::Reduced, 12},
+    {VatDay(2014, 12, 31), VatRateKind::SecondReduced, -1},
+    {VatDay(2015, 1, 1), VatRateKind::SecondReduced, 10},
+    {VatDay(2023, 12, 31), VatRateKind::SecondReduced, 10},
+    {VatDay(2024, 1, 1), VatRateKind::SecondReduced, -1},
+    {VatDay(1900, 1, 1), VatRateKind::Zero, 0},
+    {VatDay(2026, 1, 1), static_cast<VatRateKind>(9), -1},
 };
 
 TEST(VatRates, AreThoseInForceOnTheDay) {
-  for (const RateRow& row : kRates) {
+  for (const RateRow& row : kExpectedRates) {
     const auto percent = VatPercentOn(row.day, row.kind);
     EXPECT_EQ(percent ? percent.value : -1, row.percent) << row.day.number;
     EXPECT_EQ(percent.code == Code::VatRateUnknown, row.percent < 0);
     EXPECT_TRUE(row.percent <= 0 || VatRateKindOn(row.day, row.percent) == row.kind);
   }
-  EXPECT_FALSE(VatRateKindOn(At(2024, 1, 1), 15));
-  EXPECT_EQ(VatRateKindOn(At(2024, 1, 1), 0), VatRateKind::Zero);
+  EXPECT_FALSE(VatRateKindOn(VatDay(2024, 1, 1), 15));
+  EXPECT_EQ(VatRateKindOn(VatDay(2024, 1, 1), 0), VatRateKind::Zero);
 }
 
 TEST(VatRates, OneOfAKindIsInForceOnEachDaySince1993) {
-  for (Day day = At(1993, 1, 1); day <= At(2030, 12, 31); ++day.number) {
+  for (Day day = VatDay(1993, 1, 1); day <= VatDay(2030, 12, 31); ++day.number) {
     int standard = 0;
     int reduced = 0;
     for (const VatRate& rate : VatRates()) {
@@ -78,22 +78,22 @@ TEST(VatRates, OneOfAKindIsInForceOnEachDaySince1993) {
 }
 
 TEST(VatMethods, AreLawfulBetweenTheirDays) {
-  EXPECT_TRUE(IsLawful(VatMethod::FromBase, At(1993, 1, 1)));
-  EXPECT_TRUE(IsLawful(VatMethod::FromBase, At(2026, 11, 21)));
-  EXPECT_FALSE(IsLawful(VatMethod::FromTotalByCoefficient, At(2004, 4, 30)));
-  EXPECT_TRUE(IsLawful(VatMethod::FromTotalByCoefficient, At(2004, 5, 1)));
-  EXPECT_TRUE(IsLawful(VatMethod::FromTotalByCoefficient, At(2019, 9, 30)));
-  EXPECT_FALSE(IsLawful(VatMethod::FromTotalByCoefficient, At(2019, 10, 1)));
-  EXPECT_FALSE(IsLawful(VatMethod::FromTotal, At(2019, 3, 31)));
-  EXPECT_TRUE(IsLawful(VatMethod::FromTotal, At(2019, 4, 1)));
-  EXPECT_TRUE(IsLawful(VatMethod::FromBase, At(2004, 4, 30)));
-  EXPECT_TRUE(IsLawful(VatMethod::FromBase, At(2004, 5, 1)));
-  EXPECT_FALSE(IsLawful(VatMethod::FromBase, At(1992, 12, 31)));
+  EXPECT_TRUE(IsLawful(VatMethod::FromBase, VatDay(1993, 1, 1)));
+  EXPECT_TRUE(IsLawful(VatMethod::FromBase, VatDay(2026, 11, 21)));
+  EXPECT_FALSE(IsLawful(VatMethod::FromTotalByCoefficient, VatDay(2004, 4, 30)));
+  EXPECT_TRUE(IsLawful(VatMethod::FromTotalByCoefficient, VatDay(2004, 5, 1)));
+  EXPECT_TRUE(IsLawful(VatMethod::FromTotalByCoefficient, VatDay(2019, 9, 30)));
+  EXPECT_FALSE(IsLawful(VatMethod::FromTotalByCoefficient, VatDay(2019, 10, 1)));
+  EXPECT_FALSE(IsLawful(VatMethod::FromTotal, VatDay(2019, 3, 31)));
+  EXPECT_TRUE(IsLawful(VatMethod::FromTotal, VatDay(2019, 4, 1)));
+  EXPECT_TRUE(IsLawful(VatMethod::FromBase, VatDay(2004, 4, 30)));
+  EXPECT_TRUE(IsLawful(VatMethod::FromBase, VatDay(2004, 5, 1)));
+  EXPECT_FALSE(IsLawful(VatMethod::FromBase, VatDay(1992, 12, 31)));
 }
 
 // The first law of VAT ended on 30 April 2004: nothing later may name it.
 TEST(VatMethods, EachRowNamesALawOfItsDays) {
-  const Day second = At(2004, 5, 1);
+  const Day second = VatDay(2004, 5, 1);
   for (const VatRate& rate : VatRates()) EXPECT_EQ(rate.last >= second && rate.law == "588/1992", false);
   for (const VatMethodRow& row : VatMethods()) EXPECT_EQ(row.last >= second && row.law == "588/1992", false);
 }
@@ -204,7 +204,7 @@ TEST(Vat, TotalsAreRoundedToCrowns) {
   EXPECT_TRUE(RoundToCrowns(kLargest, CrownRounding::TowardZero));
 }
 
-const Day kToday = At(2026, 11, 21);
+const Day kToday = VatDay(2026, 11, 21);
 
 TEST(Recapitulation, SumsByRates) {
   const std::vector<VatLine> lines = {
