@@ -14,9 +14,11 @@ from concurrent.futures import ThreadPoolExecutor
 from command_rows import ROWS
 from document_checks import check_forms, check_xml, check_xml_encodings, check_xml_samples, check_xml_unreadable
 from file_checks import (check_colours, check_conversions, check_damaged_files, check_full_device, check_pipes, check_report_file,
-                         check_report_json, check_sorted_files, check_sums, check_unreadable)
+                         check_report_json, check_sums, check_unreadable)
 from harness import NO, SKIPPED, YES, Program, Row, differs
 from long_work_checks import check_interruption, check_progress, check_streaming
+from output_checks import OUTPUT_CHECKS
+from sort_checks import check_natural_order, check_sorted_encodings, check_sorted_files
 
 # Rows that the harness itself must reject, each for the named reason.
 MUST_FAIL = [
@@ -44,6 +46,9 @@ CHECKS = (
     check_colours,
     check_damaged_files,
     check_sorted_files,
+    check_natural_order,
+    check_sorted_encodings,
+    *OUTPUT_CHECKS,
     check_xml,
     check_xml_encodings,
     check_xml_unreadable,
