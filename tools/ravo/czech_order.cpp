@@ -16,7 +16,7 @@ constexpr char kCommonWeight = 2;
 constexpr std::string_view kCaron = "\u030C";
 // In the order of `kWithCaron`.
 constexpr std::string_view kCaronLetters = "cCrRsSzZ";
-constexpr std::size_t kDigits = 10;
+constexpr std::size_t kTenDigits = 10;
 
 std::uint32_t ElementsOf(char32_t code) {
   if (code >= table::kEnd) return table::kUnlisted;
@@ -48,7 +48,7 @@ void DropCommonWeights(std::string& level) {
 CzechKeys::CzechKeys(const CzechOrder& order) : order_(order) {
   for (std::size_t lead = 0; lead < leads_.size(); ++lead) leads_[lead] = static_cast<char>(lead);
   if (!order.digits_first) return;
-  constexpr std::size_t kNumbers = kDigits + 1;
+  constexpr std::size_t kNumbers = kTenDigits + 1;
   constexpr std::size_t kLetters = table::kNumberLead - table::kFirstLetterLead;
   for (std::size_t i = 0; i < kNumbers; ++i) {
     leads_[table::kNumberLead + i] = static_cast<char>(table::kFirstLetterLead + i);
