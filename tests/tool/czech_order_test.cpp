@@ -67,7 +67,7 @@ TEST(NaturalOrder, ComparesNumbersOfAnyLengthByValue) {
 
 std::string DecimalKey(std::string_view text) {
   std::string key;
-  tool::AppendDecimal(text, key);
+  tool::AppendDecimalKey(text, key);
   return key;
 }
 

@@ -35,7 +35,8 @@ def check_output_names(program):
         if name == "-x" and program.run(["sort", "--", "-x"]).out != "a\nb\n":
             yield "sort -- -x: not the lines of the file"
         target.unlink()
-    for dash in (["-o", "-"], []):
+    dashes: tuple[list[str], ...] = (["-o", "-"], [])
+    for dash in dashes:
         result = program.run(["sort", "input", *dash])
         if (result.status, result.out, result.err) != (YES, "a\nb\n", "") or (program.folder / "-").exists():
             yield f"sort {dash}: {result}"

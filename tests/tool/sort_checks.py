@@ -86,7 +86,7 @@ def check_natural_order(program):
 def check_sorted_encodings(program):
     """Lines keep their bytes, ends and encoding; wrong bytes end the work with their place."""
     file, target = program.folder / "lines", program.folder / "sorted"
-    rows = [
+    rows: list[tuple[list[str], bytes, bytes]] = [
         ([], "b\r\na\r\nč".encode(), "a\r\nb\r\nč\r\n".encode()),
         ([], "b\r\na\n".encode(), "a\nb\r\n".encode()),
         ([], "\ufeffb\nč\na\n".encode(), "\ufeffa\nb\nč\n".encode()),
@@ -102,7 +102,7 @@ def check_sorted_encodings(program):
         if result.status != YES or (got := target.read_bytes()) != wanted:
             yield f"sort {options} of {content!r}: {result}, {got!r}"
     target.unlink()
-    refused = [
+    refused: list[tuple[list[str], bytes, str]] = [
         ([], b"ab\n\xff", "lines:2:1: this byte is not UTF-8"),
         ([], "ab\nčc".encode() + b"\xe8\n", "lines:2:3: this byte is not UTF-8"),
         (["--encoding", "utf-16le"], b"a\0\n\0\x00\xd8", "lines: byte 5 cannot be read as UTF_16_LE"),

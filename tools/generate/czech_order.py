@@ -77,7 +77,7 @@ def order(table, primary):
     digits = [table[ord(digit)][0][0] for digit in "0123456789"]
     latin, greek = table[ord("a")][0][0], table[ord("α")][0][0]
     signs = [weight for weight in numbers if weight < digits[0]]
-    letters = [weight for weight in numbers if latin <= weight < greek]
+    letters: list[int | str] = [weight for weight in numbers if latin <= weight < greek]
     for base, letter in LETTERS.items():
         letters.insert(letters.index(primary[base]) + 1, letter)
     return [*signs, *letters, NUMBER, *digits, *[weight for weight in numbers if weight >= greek]], signs, letters

@@ -18,18 +18,18 @@ constexpr std::string_view kCaron = "\u030C";
 constexpr std::string_view kCaronLetters = "cCrRsSzZ";
 constexpr std::size_t kTenDigits = 10;
 
-std::uint32_t ElementsOf(char32_t code) {
+std::uint32_t ElementsOfCode(char32_t code) {
   if (code >= table::kEnd) return table::kUnlisted;
   return table::kElements[table::kPageOf[code / table::kPage] * table::kPage + code % table::kPage];
 }
 
 // A letter of two characters, or of a letter and a combining caron.
-struct Letter {
+struct TailoredLetter {
   std::uint32_t element = 0;
   std::size_t size = 0;
 };
 
-Letter LetterAt(std::string_view text) {
+TailoredLetter TailoredLetterAt(std::string_view text) {
   const std::size_t caron =
       text.size() > kCaron.size() ? kCaronLetters.find(text[0]) : std::string_view::npos;
   if (caron != std::string_view::npos && text.substr(1).starts_with(kCaron)) {
@@ -69,16 +69,16 @@ void CzechKeys::Append(std::string_view utf8, std::string& key) {
 std::size_t CzechKeys::AppendCharacter(std::string_view rest, std::string& key) {
   if (const std::size_t digits = order_.natural ? LengthOfDigits(rest) : 0; digits != 0) {
     AppendElement(table::kNumberLead << 21 | kCommonWeight << 5 | kCommonWeight, key);
-    AppendNumber(rest.substr(0, digits), key);
+    AppendNumberKey(rest.substr(0, digits), key);
     return digits;
   }
-  if (const Letter letter = LetterAt(rest); letter.size != 0) {
+  if (const TailoredLetter letter = TailoredLetterAt(rest); letter.size != 0) {
     AppendElement(letter.element, key);
     return letter.size;
   }
   const Utf8Character character = FirstCharacter(rest);
   if (character.size == 0) return 1;
-  const std::uint32_t elements = ElementsOf(character.code);
+  const std::uint32_t elements = ElementsOfCode(character.code);
   if (elements == table::kUnlisted) {
     AppendUnlisted(character.code, key);
   } else {

@@ -13,21 +13,23 @@
 #include <unistd.h>
 
 namespace tool {
-namespace {
 
-namespace fs = std::filesystem;
+namespace {
 
 [[noreturn]] void ThrowErrno() { throw std::system_error(errno, std::generic_category()); }
 
-class Descriptor {
+}  // namespace
+
+// Outside the anonymous namespace: `System` has one.
+class DraftDescriptor {
  public:
-  explicit Descriptor(int number = -1) : number_(number) {}
-  Descriptor(Descriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
-  Descriptor& operator=(Descriptor&& other) noexcept {
+  explicit DraftDescriptor(int number = -1) : number_(number) {}
+  DraftDescriptor(DraftDescriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
+  DraftDescriptor& operator=(DraftDescriptor&& other) noexcept {
     std::swap(number_, other.number_);
     return *this;
   }
-  ~Descriptor() {
+  ~DraftDescriptor() {
     if (number_ >= 0) close(number_);
   }
   [[nodiscard]] int Number() const { return number_; }
@@ -39,9 +41,13 @@ class Descriptor {
   int number_;
 };
 
-Descriptor Checked(int number) {
+namespace {
+
+namespace fs = std::filesystem;
+
+DraftDescriptor Checked(int number) {
   if (number < 0) ThrowErrno();
-  return Descriptor(number);
+  return DraftDescriptor(number);
 }
 
 // A signal that ends the process waits while a draft is made and noted for deletion.
@@ -117,17 +123,17 @@ void CopyStatus(const struct stat& status, int to) {
 struct DraftFile::System {
   fs::path target;
   std::string name;
-  Descriptor folder;
+  DraftDescriptor folder;
   std::string draft;
-  Descriptor file;
+  DraftDescriptor file;
   std::optional<DeleteOnInterruption> interruption;
 
   void CreateDraft() {
     const SignalsHeldBack held_back;
     do {
       draft = NewDraftName();
-      file =
-          Descriptor(openat(folder.Number(), draft.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
+      file = DraftDescriptor(
+          openat(folder.Number(), draft.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
     } while (file.Number() < 0 && errno == EEXIST);
     if (file.Number() < 0) {
       draft.clear();

@@ -9,25 +9,17 @@
 #include <windows.h>
 
 namespace tool {
-namespace {
 
-namespace fs = std::filesystem;
-
-[[noreturn]] void Throw(DWORD code) {
-  if (code == ERROR_SHARING_VIOLATION || code == ERROR_LOCK_VIOLATION) throw RefusedTarget{Refused::IsInUse};
-  throw std::system_error(static_cast<int>(code), std::system_category());
-}
-[[noreturn]] void ThrowLastError() { Throw(GetLastError()); }
-
-class Handle {
+// Outside the anonymous namespace: `System` has one.
+class DraftHandle {
  public:
-  explicit Handle(HANDLE handle = INVALID_HANDLE_VALUE) : handle_(handle) {}
-  Handle(Handle&& other) noexcept : handle_(std::exchange(other.handle_, INVALID_HANDLE_VALUE)) {}
-  Handle& operator=(Handle&& other) noexcept {
+  explicit DraftHandle(HANDLE handle = INVALID_HANDLE_VALUE) : handle_(handle) {}
+  DraftHandle(DraftHandle&& other) noexcept : handle_(std::exchange(other.handle_, INVALID_HANDLE_VALUE)) {}
+  DraftHandle& operator=(DraftHandle&& other) noexcept {
     std::swap(handle_, other.handle_);
     return *this;
   }
-  ~Handle() { Close(); }
+  ~DraftHandle() { Close(); }
   [[nodiscard]] HANDLE Value() const { return handle_; }
   [[nodiscard]] bool IsOpen() const { return handle_ != INVALID_HANDLE_VALUE; }
   void Close() {
@@ -37,6 +29,16 @@ class Handle {
  private:
   HANDLE handle_;
 };
+
+namespace {
+
+namespace fs = std::filesystem;
+
+[[noreturn]] void Throw(DWORD code) {
+  if (code == ERROR_SHARING_VIOLATION || code == ERROR_LOCK_VIOLATION) throw RefusedTarget{Refused::IsInUse};
+  throw std::system_error(static_cast<int>(code), std::system_category());
+}
+[[noreturn]] void ThrowLastError() { Throw(GetLastError()); }
 
 // Longer paths need the prefix that turns the system's limit of 260 units off.
 constexpr std::size_t kLongestPlainPath = 240;
@@ -66,9 +68,9 @@ fs::path Followed(const fs::path& path) {
 }
 
 // A target that exists, opened for writing; a program that keeps it to itself is noticed before any work.
-Handle Opened(const std::wstring& path) {
+DraftHandle OpenTarget(const std::wstring& path) {
   constexpr DWORD kShared = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-  Handle file(CreateFileW(path.c_str(), GENERIC_WRITE, kShared, nullptr, OPEN_EXISTING, 0, nullptr));
+  DraftHandle file(CreateFileW(path.c_str(), GENERIC_WRITE, kShared, nullptr, OPEN_EXISTING, 0, nullptr));
   if (!file.IsOpen()) ThrowLastError();
   return file;
 }
@@ -78,7 +80,7 @@ Handle Opened(const std::wstring& path) {
 struct DraftFile::System {
   std::wstring target;
   std::wstring draft;
-  Handle file;
+  DraftHandle file;
   std::optional<DeleteOnInterruption> interruption;
 
   void CreateDraft() {
@@ -86,7 +88,7 @@ struct DraftFile::System {
     // Shared for deletion by the handler of interruptions alone.
     do {
       draft = (folder / NewDraftName()).wstring();
-      file = Handle(
+      file = DraftHandle(
           CreateFileW(draft.c_str(), GENERIC_WRITE, FILE_SHARE_DELETE, nullptr, CREATE_NEW, 0, nullptr));
     } while (!file.IsOpen() && GetLastError() == ERROR_FILE_EXISTS);
     if (!file.IsOpen()) {
@@ -117,7 +119,7 @@ DraftFile::DraftFile(const fs::path& path, bool replace_read_only) : system_(std
   const bool read_only = attributes && (*attributes & FILE_ATTRIBUTE_READONLY) != 0;
   if (read_only && !replace_read_only) throw RefusedTarget{Refused::IsReadOnly};
   if (attributes && !read_only) {
-    Handle file = Opened(system_->target);
+    DraftHandle file = OpenTarget(system_->target);
     if (GetFileType(file.Value()) != FILE_TYPE_DISK) {
       system_->file = std::move(file);
       return;

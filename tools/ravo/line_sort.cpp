@@ -17,14 +17,14 @@
 namespace tool {
 namespace {
 
-constexpr std::string_view kBlanks = " \t";
+constexpr std::string_view kFieldBlanks = " \t";
 // Of several keys, after each: less than any byte of a key.
 constexpr char kEndOfKey = 0;
 
 std::string_view FieldAfterBlanks(std::string_view line, std::size_t field) {
   for (std::size_t at = 1;; ++at) {
-    line.remove_prefix(std::min(line.find_first_not_of(kBlanks), line.size()));
-    const std::size_t end = std::min(line.find_first_of(kBlanks), line.size());
+    line.remove_prefix(std::min(line.find_first_not_of(kFieldBlanks), line.size()));
+    const std::size_t end = std::min(line.find_first_of(kFieldBlanks), line.size());
     if (at == field || line.empty()) return line.substr(0, end);
     line.remove_prefix(end);
   }
@@ -84,7 +84,7 @@ class Part {
   }
   void AppendKeyOf(std::string_view text) {
     if (order_.numeric) {
-      AppendDecimal(text, bytes_);
+      AppendDecimalKey(text, bytes_);
     } else {
       keys_.Append(text, bytes_);
     }

@@ -54,7 +54,10 @@ bool TakeMinus(std::string_view& text) {
   return false;
 }
 
-enum Sign : char { kNone = 1, kBelowZero = 2, kFromZero = 3 };
+// First of a key.
+constexpr char kNoNumber = 1;
+constexpr char kBelowZero = 2;
+constexpr char kFromZero = 3;
 
 }  // namespace
 
@@ -62,25 +65,25 @@ std::size_t LengthOfDigits(std::string_view text) {
   return static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), IsDigit) - text.begin());
 }
 
-void AppendNumber(std::string_view digits, std::string& key) {
+void AppendNumberKey(std::string_view digits, std::string& key) {
   digits.remove_prefix(std::min(digits.find_first_not_of('0'), digits.size()));
   AppendLength(digits.size(), key);
   key += digits;
 }
 
-void AppendDecimal(std::string_view text, std::string& key) {
+void AppendDecimalKey(std::string_view text, std::string& key) {
   text.remove_prefix(std::min(text.find_first_not_of(" \t"), text.size()));
   const bool minus = TakeMinus(text);
   const std::string whole = TakeWhole(text);
   const std::string_view fraction = TakeFraction(text);
   if (whole.empty() && fraction.empty()) {
-    key += kNone;
+    key += kNoNumber;
     return;
   }
   const bool below_zero = minus && !(whole.find_first_not_of('0') == std::string::npos && fraction.empty());
   key += below_zero ? kBelowZero : kFromZero;
   const std::size_t start = key.size();
-  AppendNumber(whole, key);
+  AppendNumberKey(whole, key);
   key += fraction;
   // The end is less than any further digit.
   key += '\x01';

@@ -11,10 +11,10 @@ namespace tool {
 [[nodiscard]] std::size_t LengthOfDigits(std::string_view text);
 
 /// Appends the key of a run of digits. Leading zeros do not count.
-void AppendNumber(std::string_view digits, std::string& key);
+void AppendNumberKey(std::string_view digits, std::string& key);
 
 /// Appends the key of the number with which a text begins: a sign, digits, blanks between them, a decimal
 /// comma or point: "-1 234,50". A text without a number is less than any number.
-void AppendDecimal(std::string_view text, std::string& key);
+void AppendDecimalKey(std::string_view text, std::string& key);
 
 }  // namespace tool

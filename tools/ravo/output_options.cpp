@@ -12,7 +12,7 @@ namespace {
 constexpr const char* kOutputOptions[] = {"-o", "--in-place", "--rejects", "--clean"};
 
 std::string RefuseEmpty(const std::string& name) {
-  return name.empty() ? Text("the name of the output file is empty") : std::string();
+  return name.empty() ? tool::Text("the name of the output file is empty") : std::string();
 }
 
 }  // namespace
@@ -27,7 +27,7 @@ void AddOutputRules(CLI::App& command) {
   }
   if (writes && command.get_option_no_throw("--force") == nullptr) {
     command.add_flag_callback(
-        "--force", [] { ReplaceReadOnlyFiles(true); }, Text("Replace a file that is read-only"));
+        "--force", [] { ReplaceReadOnlyFiles(true); }, tool::Text("Replace a file that is read-only"));
   }
   for (CLI::App* const part : command.get_subcommands({})) AddOutputRules(*part);
 }

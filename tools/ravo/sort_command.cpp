@@ -35,8 +35,8 @@ std::string Remark(const Lines& sorted, const SortOptions& options) {
   const std::size_t line =
       FirstUnlikeTheSuite(sorted, SuiteOrderOf(options.order.czech), options.order.reverse);
   if (line == 0) return {};
-  return Text("ravo sort: the order of the suite differs from line {0} on; --suite shows it",
-              {std::to_string(line)}) +
+  return tool::Text("ravo sort: the order of the suite differs from line {0} on; --suite shows it",
+                    {std::to_string(line)}) +
          "\n";
 }
 
@@ -46,7 +46,7 @@ Lines InOrder(const Lines& lines, const SortOptions& options) {
                        : Sorted(lines, order);
 }
 
-constexpr std::size_t kPiece = std::size_t{1} << 20;
+constexpr std::size_t kWrittenAtOnce = std::size_t{1} << 20;
 
 // Writes lines in the encoding in which they came; a terminal gets UTF-8.
 std::string WriteLines(const Lines& lines, const SortInput& input, const std::string& name) {
@@ -59,7 +59,7 @@ std::string WriteLines(const Lines& lines, const SortInput& input, const std::st
   };
   for (const std::string_view line : lines) {
     piece.append(line) += '\n';
-    if (piece.size() >= kPiece) flush();
+    if (piece.size() >= kWrittenAtOnce) flush();
   }
   flush();
   return file.Finish();
@@ -84,15 +84,14 @@ void Run(const SortOptions& options, Outcome& outcome) {
 }
 
 constexpr const char* kSortFooter =
-    "The order is the Czech alphabetical one: c, č, ... h, ch, ... r, ř, s, š, ... z, ž. Of words with the "
-    "same\n"
-    "letters, accents decide, then capitals: small letters come first. Blanks and signs precede letters, "
-    "digits\n"
-    "follow them (ČSN 97 6030). Lines with equal keys stay in the order in which they came.\n"
+    "The order is the Czech alphabetical one: c, č, ... h, ch, ... r, ř, s, š, ... z, ž. Of words with\n"
+    "the same letters, accents decide, then capitals: small letters come first. Blanks and signs\n"
+    "precede letters, digits follow them (ČSN 97 6030). Lines with equal keys stay in the order in\n"
+    "which they came.\n"
     "\n"
-    "Lines keep their bytes and line ends; the output is in the encoding of the files, on a terminal in "
-    "UTF-8.\n"
-    "--suite sorts as the modules of the suite do: by character codes, and numbers not always by value.\n"
+    "Lines keep their bytes and line ends; the output is in the encoding of the files, on a terminal\n"
+    "in UTF-8. --suite sorts as the modules of the suite do: by character codes, and numbers not\n"
+    "always by value.\n"
     "\n"
     "Exit status: 0, or 2 wrong usage, an unusable file, or bytes that are not of the encoding.\n"
     "\n"

@@ -12,7 +12,7 @@
 namespace tool {
 namespace {
 
-constexpr std::string_view kMark = "\uFEFF";
+constexpr std::string_view kMarkInUtf8 = "\uFEFF";
 
 const ravo::codec::Encoding& EncodingCalled(const std::string& name) {
   const ravo::codec::Encoding* const encoding = ravo::codec::FindEncoding(std::string_view(name));
@@ -65,9 +65,9 @@ void SortInput::Add(const std::string& name) {
   std::optional<std::string> bytes = ReadWhole(name, &reason);
   if (!bytes) throw std::runtime_error(name + ": " + reason);
   std::string& text = texts_.emplace_back(InUtf8(std::move(*bytes), name));
-  if (text.starts_with(kMark)) {
-    text.erase(0, kMark.size());
-    if (texts_.size() == 1) mark_ = kMark;
+  if (text.starts_with(kMarkInUtf8)) {
+    text.erase(0, kMarkInUtf8.size());
+    if (texts_.size() == 1) mark_ = kMarkInUtf8;
   }
   EndLastLine(text);
 }

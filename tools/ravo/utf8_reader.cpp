@@ -6,20 +6,20 @@
 namespace tool {
 namespace {
 
-struct Lead {
+struct LeadByte {
   std::size_t size;
   char32_t bits;
   char32_t least;  // a smaller code in that many bytes is malformed
 };
 
-Lead LeadOf(unsigned char byte) {
+LeadByte LeadByteOf(unsigned char byte) {
   if (byte >= 0xC2 && byte < 0xE0) return {2, byte & 0x1FU, 0x80};
   if (byte >= 0xE0 && byte < 0xF0) return {3, byte & 0x0FU, 0x800};
   if (byte >= 0xF0 && byte < 0xF5) return {4, byte & 0x07U, 0x10000};
   return {0, 0, 0};
 }
 
-bool IsSurrogate(char32_t code) { return code >= 0xD800 && code < 0xE000; }
+bool IsSurrogateCode(char32_t code) { return code >= 0xD800 && code < 0xE000; }
 
 // Eight bytes at once, as long as they are ASCII.
 std::size_t AsciiLength(std::string_view text) {
@@ -36,7 +36,7 @@ std::size_t AsciiLength(std::string_view text) {
 Utf8Character FirstCharacter(std::string_view utf8) {
   const auto first = static_cast<unsigned char>(utf8[0]);
   if (first < 0x80) return {first, 1};
-  const Lead lead = LeadOf(first);
+  const LeadByte lead = LeadByteOf(first);
   if (lead.size == 0 || lead.size > utf8.size()) return {};
   char32_t code = lead.bits;
   for (const char next : utf8.substr(1, lead.size - 1)) {
@@ -44,7 +44,7 @@ Utf8Character FirstCharacter(std::string_view utf8) {
     if ((byte & 0xC0) != 0x80) return {};
     code = code << 6 | (byte & 0x3F);
   }
-  if (code < lead.least || code > 0x10FFFF || IsSurrogate(code)) return {};
+  if (code < lead.least || code > 0x10FFFF || IsSurrogateCode(code)) return {};
   return {code, lead.size};
 }
 
