@@ -1,4 +1,4 @@
-"""Files that `ravo` reads and writes: reports, sums, conversions, tables, sorted lines."""
+"""Files that `ravo` reads and writes: reports, sums, conversions, tables."""
 
 import json
 import os
@@ -241,23 +241,3 @@ def check_colours(program):
             child.wait(timeout=60)
         if (b"\033[32m$ ravo table" in shown) != coloured or b"Pohled" not in shown:
             yield f"tour on a terminal of kind {kind}: {shown[:200]!r}"
-
-
-def check_sorted_files(program):
-    """Lines of files are sorted, optionally with numbers by value, even if that order has cycles."""
-    (program.folder / "utf8.txt").write_bytes("účet10\r\nÚčet9\nfile10\nfile9".encode())
-    (program.folder / "ansi.txt").write_bytes("účet9\n".encode("cp1250"))
-    (program.folder / "circle.txt").write_bytes(b"105\n20\n15\n105\n15\n20\n")
-    rows = [
-        (["utf8.txt", "ansi.txt"], "file10\nfile9\nÚčet9\núčet10\núčet9\n"),
-        (["--natural", "utf8.txt", "ansi.txt"], "file9\nfile10\nÚčet9\núčet9\núčet10\n"),
-        (["--natural", "--ignore-case", "utf8.txt", "ansi.txt"], "file9\nfile10\nÚčet9\núčet9\núčet10\n"),
-    ]
-    for arguments, wanted in rows:
-        result = program.run(["sort", *arguments])
-        if (result.status, result.out) != (YES, wanted):
-            yield f"sort {arguments}: {result}"
-    if sorted(program.run(["sort", "--natural", "circle.txt"]).out.split()) != ["105", "105", "15", "15", "20", "20"]:
-        yield "sort --natural: lines are lost if the order has cycles"
-    for name in ("utf8.txt", "ansi.txt", "circle.txt"):
-        (program.folder / name).unlink()

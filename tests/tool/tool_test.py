@@ -18,11 +18,13 @@ from date_checks import check_dates
 from document_checks import (check_forms, check_xml, check_xml_edits, check_xml_encodings, check_xml_samples, check_xml_sizes,
                              check_xml_targets, check_xml_unreadable)
 from file_checks import (check_colours, check_conversions, check_full_device, check_pipes, check_report_file,
-                         check_report_json, check_sorted_files, check_sums, check_unreadable)
+                         check_report_json, check_sums, check_unreadable)
 from harness import NO, SKIPPED, YES, Program, Row, differs
 from lossless_checks import check_lossless
 from long_work_checks import check_interruption, check_progress, check_streaming
+from output_checks import OUTPUT_CHECKS
 from round_checks import check_rounded_columns, check_rounding, check_suite_limits, check_vat_rules
+from sort_checks import check_natural_order, check_sorted_encodings, check_sorted_files
 from survival_checks import check_random_survival, check_survival
 from table_checks import (check_damaged_tables, check_full_output, check_large_tables, check_long_values, check_quoted_tables,
                           check_split_tables, check_table_encodings, check_table_names, check_terminal_tables)
@@ -64,6 +66,9 @@ CHECKS = (
     check_terminal_tables,
     check_sorted_files,
     check_bank_lists,
+    check_natural_order,
+    check_sorted_encodings,
+    *OUTPUT_CHECKS,
     check_xml,
     check_xml_edits,
     check_xml_targets,

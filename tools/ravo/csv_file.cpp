@@ -1,5 +1,6 @@
 #include "csv_file.h"
 
+#include "console.h"
 #include "foreign_text.h"
 #include "reasons.h"
 #include "table_columns.h"
@@ -27,10 +28,11 @@ std::int64_t SizeOf(const std::string& name) {
 }  // namespace
 
 CsvFile::CsvFile(const std::string& name, const std::string& doing, char delimiter)
-    : file_(PathOf(name), std::ios::binary),
+    : is_input_(name == kInputName),
+      file_(PathOf(name), std::ios::binary),
       reader_([this](std::span<char> to) { return ReadSome(to); }, delimiter),
       progress_(doing + " " + name, SizeOf(name)) {
-  if (!file_) throw std::runtime_error(Text("cannot be read"));
+  if (!file_ && !is_input_) throw std::runtime_error(Text("cannot be read"));
   if (!reader_.Next(fields_)) throw std::runtime_error(Text("has no first row with column names"));
   for (const std::string_view field : fields_) columns_.push_back(ForeignText(field));
 }
@@ -55,6 +57,7 @@ bool CsvFile::Next() {
 }
 
 std::size_t CsvFile::ReadSome(std::span<char> to) {
+  if (is_input_) return ReadInput(std::as_writable_bytes(to));
   file_.read(to.data(), static_cast<std::streamsize>(to.size()));
   if (file_.bad()) throw std::runtime_error(Text("cannot be read to its end"));
   return static_cast<std::size_t>(file_.gcount());

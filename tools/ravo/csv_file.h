@@ -36,6 +36,7 @@ class CsvFile {
  private:
   std::size_t ReadSome(std::span<char> to);
 
+  bool is_input_;
   std::ifstream file_;
   CsvReader reader_;
   Progress progress_;

@@ -61,14 +61,6 @@ char32_t CharacterOfNumber(std::string_view digits) {
   return whole && IsXmlCharacter(value) ? value : 0;
 }
 
-constexpr char32_t kLeastOfSize[] = {0, 0, 0x80, 0x800, 0x10000};
-
-std::size_t SizeByLead(unsigned char lead) {
-  if (lead < 0x80) return 1;
-  if (lead < 0xC2 || lead > 0xF4) return 0;
-  return lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
-}
-
 // Returns the length of the characters that are accepted, as are all of ASCII from `least` on.
 template <class Accepts>
 std::size_t LengthOf(std::string_view text, unsigned char least, Accepts accepts) {
@@ -79,7 +71,7 @@ std::size_t LengthOf(std::string_view text, unsigned char least, Accepts accepts
       ++at;
       continue;
     }
-    const auto [c, size] = Utf8At(text, at);
+    const auto [c, size] = FirstCharacter(text.substr(at));
     if (size == 0 || !accepts(c)) break;
     at += size;
   }
@@ -99,21 +91,6 @@ bool IsXmlCharacter(char32_t c) {
   return c < 0xD800 || (c >= 0xE000 && c < 0xFFFE) || (c >= 0x10000 && c <= 0x10FFFF);
 }
 
-Utf8Character Utf8At(std::string_view text, std::size_t at) {
-  const auto lead = static_cast<unsigned char>(text[at]);
-  const std::size_t size = SizeByLead(lead);
-  if (size <= 1) return {lead, size};
-  if (text.size() - at < size) return {};
-  char32_t value = lead & (0x7FU >> size);
-  for (std::size_t i = 1; i < size; ++i) {
-    const auto byte = static_cast<unsigned char>(text[at + i]);
-    if ((byte & 0xC0) != 0x80) return {};
-    value = value << 6 | (byte & 0x3FU);
-  }
-  const bool fits = value >= kLeastOfSize[size] && value <= 0x10FFFF && (value < 0xD800 || value > 0xDFFF);
-  return fits ? Utf8Character{value, size} : Utf8Character{};
-}
-
 void AppendUtf8(char32_t c, std::string& to) {
   if (c < 0x80) {
     to += static_cast<char>(c);
@@ -124,16 +101,12 @@ void AppendUtf8(char32_t c, std::string& to) {
   for (std::size_t i = size - 1; i > 0; --i) to += static_cast<char>(0x80U | (c >> 6 * (i - 1) & 0x3FU));
 }
 
-std::size_t LengthOfUtf8(std::string_view bytes) {
-  return LengthOf(bytes, 0, [](char32_t) { return true; });
-}
-
 std::size_t FindBadCharacter(std::string_view text) { return LengthOf(text, 0x20, IsXmlCharacter); }
 
 std::size_t EndOfXmlName(std::string_view text, std::size_t at) {
   std::size_t end = at;
   while (end < text.size()) {
-    const auto [c, size] = Utf8At(text, end);
+    const auto [c, size] = FirstCharacter(text.substr(end));
     const NameUse use = size == 0 ? NameUse::None : NameUseOf(c);
     if (use == NameUse::None || (use == NameUse::Later && end == at)) break;
     end += size;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "utf8_reader.h"
+
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -9,17 +11,6 @@ namespace tool {
 
 /// The white space of XML.
 inline constexpr std::string_view kXmlSpace = " \t\r\n";
-
-struct Utf8Character {
-  char32_t value = 0;
-  std::size_t size = 0;  ///< in bytes; 0 for bytes that are not UTF-8
-};
-
-/// Returns the character at `at`, which is less than the size of `text`.
-[[nodiscard]] Utf8Character Utf8At(std::string_view text, std::size_t at);
-
-/// Returns the number of bytes before the first that are not UTF-8.
-[[nodiscard]] std::size_t LengthOfUtf8(std::string_view bytes);
 
 /// Appends a character in UTF-8.
 void AppendUtf8(char32_t c, std::string& to);

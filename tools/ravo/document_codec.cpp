@@ -18,11 +18,11 @@ constexpr char32_t kNothing = 0xFFFD;
 class Utf8Codec final : public DocumentCodec {
  public:
   [[nodiscard]] Character DecodeOne(std::string_view bytes, std::size_t at) const override {
-    const Utf8Character character = Utf8At(bytes, at);
-    return {character.value, character.size};
+    const Utf8Character character = FirstCharacter(std::string_view(bytes).substr(at));
+    return {character.code, character.size};
   }
   [[nodiscard]] std::size_t Decode(std::string_view bytes, std::size_t at, std::string& utf8) const override {
-    const std::size_t end = at + LengthOfUtf8(bytes.substr(at));
+    const std::size_t end = at + ValidUtf8Length(bytes.substr(at));
     utf8 += bytes.substr(at, end - at);
     return end;
   }

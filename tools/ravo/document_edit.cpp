@@ -34,7 +34,7 @@ class ValueWriter {
     const bool pairs = BreaksAreCrLf(value);
     std::string written;
     for (std::size_t at = 0; at < change.value.size();) {
-      const auto [c, size] = Utf8At(change.value, at);
+      const auto [c, size] = FirstCharacter(std::string_view(change.value).substr(at));
       if (size == 0 || !IsXmlCharacter(c)) {
         throw PathError(DocumentMessage::BadCharacter,
                         {CodePointName(size == 0 ? static_cast<unsigned char>(change.value[at]) : c)});
@@ -48,7 +48,7 @@ class ValueWriter {
   // Returns a name, which cannot contain references for what the encoding lacks.
   [[nodiscard]] const std::string& Name(const std::string& name) const {
     for (std::size_t at = 0; at < name.size();) {
-      const auto [c, size] = Utf8At(name, at);
+      const auto [c, size] = FirstCharacter(std::string_view(name).substr(at));
       if (!CanEncode(c)) throw PathError(DocumentMessage::UnwritableName, {CodePointName(c), text_.encoding});
       at += size;
     }
@@ -72,7 +72,7 @@ class ValueWriter {
       throw PathError(DocumentMessage::BadRaw, {change.path, error.what()});
     }
     for (std::size_t at = 0; at < change.value.size();) {
-      const auto [c, size] = Utf8At(change.value, at);
+      const auto [c, size] = FirstCharacter(std::string_view(change.value).substr(at));
       if (!CanEncode(c)) throw PathError(DocumentMessage::Unwritable, {CodePointName(c), text_.encoding});
       at += size;
     }

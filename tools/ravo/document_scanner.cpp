@@ -87,7 +87,7 @@ class Scanner {
   void CheckCharacters() const {
     const std::size_t bad = FindBadCharacter(Text());
     if (bad == Text().size()) return;
-    const auto [c, size] = Utf8At(Text(), bad);
+    const auto [c, size] = FirstCharacter(std::string_view(Text()).substr(bad));
     if (size == 0) throw DocumentError(DocumentMessage::BadBytes, bad, {"UTF-8"});
     throw DocumentError(DocumentMessage::BadCharacter, bad, {CodePointName(c)});
   }

@@ -160,7 +160,7 @@ std::string EditedBytes(const DocumentText& text, std::span<const DocumentEdit> 
     edited += std::string_view(text.bytes).substr(from, places.Find(edit.span.begin) - from);
     from = places.Find(edit.span.end);
     for (std::size_t at = 0; at < edit.utf8.size();) {
-      const auto [c, size] = Utf8At(edit.utf8, at);
+      const auto [c, size] = FirstCharacter(std::string_view(edit.utf8).substr(at));
       static_cast<void>(text.codec->Encode(c, edited));
       at += size;
     }

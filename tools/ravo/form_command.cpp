@@ -1,4 +1,5 @@
 #include "commands.h"
+#include "console.h"
 #include "form_file.h"
 #include "text_file.h"
 
@@ -25,7 +26,8 @@ void Run(const FormOptions& options, Outcome& outcome) {
         MakeFormFile(options.fields, options.delimiter.empty() ? '\0' : options.delimiter[0]);
     const std::string failure = WriteTextFile(options.form, form.bytes);
     if (!failure.empty()) return fail(options.form, failure);
-    outcome.out = options.form + ": " + std::to_string(form.fields) + " fields\n";
+    if (options.form != kInputName)
+      outcome.out = options.form + ": " + std::to_string(form.fields) + " fields\n";
   } catch (const std::runtime_error& error) {
     fail(options.fields, error.what());
   }

@@ -1,6 +1,7 @@
 #include "program.h"
 
 #include "commands.h"
+#include "output_options.h"
 
 #include <algorithm>
 #include <sstream>
@@ -67,6 +68,7 @@ void Describe(CLI::App& program, Outcome& outcome) {
   program.set_version_flag("--version", "ravo " RAVO_VERSION, "Print the version and exit");
   program.footer(kProgramFooter);
   for (const Theme& theme : Themes()) AddTheme(program, theme, outcome);
+  AddOutputRules(program);
 }
 
 Outcome Run(std::vector<std::string> arguments) {

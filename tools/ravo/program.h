@@ -2,9 +2,9 @@
 //
 // A file NAME_command.cpp adds its sub-command to the program, parses its options and forms its output. The
 // work on files is in separate sources that the tests and fuzz targets reach too: csv_reader.h, check_file.h,
-// file_hash.h, form_file.h. Texts leave the program through console.h alone, in UTF-8; text_file.h replaces
-// files atomically. pages/ generates the manual page and the completion from the same definitions as the
-// help.
+// file_hash.h, form_file.h. Texts leave the program through console.h alone, in UTF-8; output_file.h writes
+// files whole or not at all. pages/ generates the manual page and the completion from the same definitions as
+// the help.
 //
 // Start here, then read program.cpp and one command, such as round_command.cpp. A command never exits by
 // itself: it returns its result in an `Outcome`, which main.cpp writes.

@@ -13,7 +13,7 @@ std::string AmountRangeText(std::string_view english) {
   return Text(english, {AmountText({Limits::min()}), AmountText({Limits::max()})});
 }
 
-RoundAnswer Refused(AmountFault fault) {
+RoundAnswer RefusedAnswer(AmountFault fault) {
   const auto refuse = [](std::string_view reason, std::string message) {
     return RoundAnswer{{}, {}, {}, reason, std::move(message), Answer::WrongUsage};
   };
@@ -87,7 +87,7 @@ void AnswerAsSuite(RoundAnswer& answer, const RoundRule& rule) {
 
 RoundAnswer AnswerRound(std::string_view text, const RoundRequest& request) {
   auto read = ReadAmount(text);
-  if (const auto* fault = std::get_if<AmountFault>(&read)) return Refused(*fault);
+  if (const auto* fault = std::get_if<AmountFault>(&read)) return RefusedAnswer(*fault);
   RoundAnswer answer;
   answer.amount = std::get<Amount>(std::move(read));
   answer.suite = RoundAsSuite(answer.amount->value, request.rule);

@@ -1,14 +1,13 @@
 #include "commands.h"
-#include "foreign_text.h"
-#include "whole_input.h"
+#include "console.h"
+#include "line_sort.h"
+#include "output_file.h"
+#include "sort_input.h"
+#include "text.h"
 #include <ravo/DIUtils.h>
-#include <ravo/RavoInterface.h>
 
-#include <algorithm>
-#include <iterator>
 #include <memory>
-#include <optional>
-#include <span>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -16,85 +15,122 @@ namespace tool {
 namespace {
 
 namespace utils = ravo::DIUtils;
-using TextLine = std::u16string;
-using TextLines = std::vector<TextLine>;
 
 struct SortOptions {
   std::vector<std::string> files;
-  bool natural = false;
-  bool ignore_case = false;
+  std::string encoding = "UTF-8";
+  std::string output{kInputName};
+  LineOrder order;
+  bool suite = false;
 };
 
-void AddLines(const std::string& bytes, TextLines& lines) {
-  const std::u16string text = ravo::FromUtf8(ForeignText(bytes));
-  for (std::size_t start = 0; start < text.size();) {
-    const std::size_t end = std::min(text.find(u'\n', start), text.size());
-    lines.push_back(text.substr(start, end - start));
-    if (lines.back().ends_with(u'\r')) lines.back().pop_back();
-    start = end + 1;
-  }
+SuiteOrder SuiteOrderOf(const CzechOrder& order) {
+  if (order.natural) return order.ignore_case ? utils::StrCompNumIW : utils::StrCompNumW;
+  return order.ignore_case ? utils::StrCompIW : utils::StrCompW;
 }
 
-using Order = std::ptrdiff_t (*)(std::u16string_view, std::u16string_view) noexcept;
-
-Order OrderOf(const SortOptions& options) {
-  if (options.natural) return options.ignore_case ? utils::StrCompNumIW : utils::StrCompNumW;
-  return options.ignore_case ? utils::StrCompIW : utils::StrCompW;
+// Tells where the order of the suite differs. It has no fields and no amounts.
+std::string Remark(const Lines& sorted, const SortOptions& options) {
+  if (options.suite || !options.order.fields.empty() || options.order.numeric) return {};
+  const std::size_t line =
+      FirstUnlikeTheSuite(sorted, SuiteOrderOf(options.order.czech), options.order.reverse);
+  if (line == 0) return {};
+  return tool::Text("ravo sort: the order of the suite differs from line {0} on; --suite shows it",
+                    {std::to_string(line)}) +
+         "\n";
 }
 
-// A merge sort of our own: the natural order is not transitive, which the standard library's algorithms
-// require.
-void Sort(std::span<TextLine> lines, Order order) {
-  if (lines.size() < 2) return;
-  const std::span<TextLine> left = lines.first(lines.size() / 2);
-  const std::span<TextLine> right = lines.subspan(lines.size() / 2);
-  Sort(left, order);
-  Sort(right, order);
-  TextLines merged;
-  merged.reserve(lines.size());
-  auto from_left = left.begin();
-  auto from_right = right.begin();
-  while (from_left != left.end() && from_right != right.end()) {
-    merged.push_back(std::move(order(*from_right, *from_left) < 0 ? *from_right++ : *from_left++));
+Lines InOrder(const Lines& lines, const SortOptions& options) {
+  const LineOrder& order = options.order;
+  return options.suite ? SortedAsInTheSuite(lines, SuiteOrderOf(order.czech), order.reverse, order.unique)
+                       : Sorted(lines, order);
+}
+
+constexpr std::size_t kWrittenAtOnce = std::size_t{1} << 20;
+
+// Writes lines in the encoding in which they came; a terminal gets UTF-8.
+std::string WriteLines(const Lines& lines, const SortInput& input, const std::string& name) {
+  const bool shown = name == kInputName && IsTerminal(Channel::Out);
+  WholeFile file(name);
+  std::string piece(input.Mark());
+  const auto flush = [&] {
+    static_cast<void>(file.Write(shown ? piece : input.InEncoding(piece)));
+    piece.clear();
+  };
+  for (const std::string_view line : lines) {
+    piece.append(line) += '\n';
+    if (piece.size() >= kWrittenAtOnce) flush();
   }
-  std::move(from_left, left.end(), std::back_inserter(merged));
-  std::move(from_right, right.end(), std::back_inserter(merged));
-  std::move(merged.begin(), merged.end(), lines.begin());
+  flush();
+  return file.Finish();
 }
 
 void Run(const SortOptions& options, Outcome& outcome) {
-  TextLines lines;
-  for (const std::string& name : options.files) {
-    const std::optional<std::string> bytes = ReadWhole(name);
-    if (!bytes) {
-      outcome.err += "ravo: " + name + ": cannot be read\n";
-      outcome.answer = Answer::WrongUsage;
-      return;
-    }
-    AddLines(*bytes, lines);
+  const auto fail = [&outcome](const std::string& why) {
+    outcome.err = "ravo sort: " + why + "\n";
+    outcome.answer = Answer::WrongUsage;
+  };
+  try {
+    SortInput input(options.encoding);
+    if (options.files.empty()) input.Add(std::string(kInputName));
+    for (const std::string& name : options.files) input.Add(name);
+    const Lines sorted = InOrder(input.AllLines(), options);
+    const std::string failure = WriteLines(sorted, input, options.output);
+    if (!failure.empty()) return fail(options.output + ": " + failure);
+    outcome.err = Remark(sorted, options);
+  } catch (const std::runtime_error& error) {
+    fail(error.what());
   }
-  Sort(lines, OrderOf(options));
-  for (const TextLine& line : lines) outcome.out += ravo::ToUtf8(line) + "\n";
 }
 
 constexpr const char* kSortFooter =
-    "Output is UTF-8. Without an option, lines are sorted by character codes.\n"
+    "The order is the Czech alphabetical one: c, č, ... h, ch, ... r, ř, s, š, ... z, ž. Of words with\n"
+    "the same letters, accents decide, then capitals: small letters come first. Blanks and signs\n"
+    "precede letters, digits follow them (ČSN 97 6030). Lines with equal keys stay in the order in\n"
+    "which they came.\n"
     "\n"
-    "Exit status: 0, or 2 wrong usage or an unusable file.\n"
+    "Lines keep their bytes and line ends; the output is in the encoding of the files, on a terminal\n"
+    "in UTF-8. --suite sorts as the modules of the suite do: by character codes, and numbers not\n"
+    "always by value.\n"
+    "\n"
+    "Exit status: 0, or 2 wrong usage, an unusable file, or bytes that are not of the encoding.\n"
     "\n"
     "Examples:\n"
-    "  ravo sort --natural files.txt                      faktura9 before faktura10\n"
+    "  ravo sort names.txt -o names.txt                   in place: a file is replaced once all is written\n"
+    "  ravo sort --natural files.txt                      FV9 before FV10\n"
+    "  ravo sort -t ';' -k 3 -r ledger.csv                by the third field, from the end\n"
+    "  ravo sort -n -k 2 amounts.txt                      by amounts such as 1 234,50\n"
     "  ls | ravo sort --natural --ignore-case -\n";
 
 }  // namespace
 
 void AddSortCommand(CLI::App& program, Outcome& outcome) {
-  CLI::App* command = program.add_subcommand("sort", "Sorts lines, optionally with numbers by value");
+  CLI::App* command = program.add_subcommand("sort", "Sorts lines in Czech alphabetical order");
   const auto options = std::make_shared<SortOptions>();
-  command->add_option("FILE", options->files, "Files in UTF-8 or the 8-bit code page; - for standard input")
-      ->required();
-  command->add_flag("--natural", options->natural, "Compare runs of digits by value");
-  command->add_flag("--ignore-case", options->ignore_case, "Ignore case");
+  LineOrder& order = options->order;
+  command->add_option("FILE", options->files, "Files; none, or -, is standard input");
+  command->add_flag("--natural", order.czech.natural, "Compare runs of digits by value");
+  command->add_flag("-n,--numeric", order.numeric, "Compare the numbers at the start, such as -1 234,50")
+      ->excludes("--natural");
+  command->add_flag("--ignore-case", order.czech.ignore_case, "Ignore case");
+  command->add_flag("--digits-first", order.czech.digits_first, "Digits before letters");
+  command->add_flag("-r,--reverse", order.reverse, "From the last to the first");
+  command->add_flag("-u,--unique", order.unique, "Only the first of equal lines");
+  CLI::Option* field =
+      command->add_option("-k,--key", order.fields, "Compare this field; several times for further ones")
+          ->type_name("FIELD")
+          ->allow_extra_args(false)
+          ->check(CLI::PositiveNumber);
+  command->add_option("-t,--delimiter", order.delimiter, "What is between fields; else runs of blanks")
+      ->type_name("TEXT")
+      ->needs(field);
+  command->add_option("--encoding", options->encoding, "The encoding of the files")->capture_default_str();
+  command->add_flag("--suite", options->suite, "The order of the suite")
+      ->excludes(field)
+      ->excludes("--numeric")
+      ->excludes("--digits-first");
+  command->add_option("-o,--output", options->output, "The file to write; - is standard output")
+      ->type_name("FILE");
   command->footer(kSortFooter);
   command->callback([options, &outcome] { Run(*options, outcome); });
 }

@@ -1,11 +1,15 @@
 #include "whole_input.h"
 
 #include "console.h"
+#include "system_reason.h"
+#include "text.h"
 #include "text_file.h"
 
 #include <filesystem>
 #include <fstream>
+#include <span>
 #include <stdexcept>
+#include <system_error>
 #include <vector>
 
 namespace tool {
@@ -14,34 +18,53 @@ namespace {
 constexpr std::size_t kReadAtOnce = std::size_t{1} << 16;
 
 template <class Read>
-std::string AllOf(Read read) {
+std::string AllOf(Read read, std::size_t expected = 0) {
   std::string text;
+  text.reserve(expected);
   std::vector<char> piece(kReadAtOnce);
   while (const std::size_t count = read(std::span(piece))) text.append(piece.data(), count);
   return text;
 }
 
-std::optional<std::string> WholeInput() {
-  try {
-    return AllOf([](std::span<char> to) { return ReadInput(std::as_writable_bytes(to)); });
-  } catch (const std::runtime_error&) {
-    return {};
-  }
+std::string WholeInput() {
+  return AllOf([](std::span<char> to) { return ReadInput(std::as_writable_bytes(to)); });
+}
+
+[[noreturn]] void Fail(std::errc reason) { throw std::system_error(std::make_error_code(reason)); }
+
+// The reason why a file could not be opened.
+std::errc OpenError(const std::filesystem::path& path) {
+  std::error_code error;
+  return std::filesystem::exists(path, error) || error ? std::errc::permission_denied
+                                                       : std::errc::no_such_file_or_directory;
+}
+
+std::string WholeFileOf(const std::filesystem::path& path) {
+  std::error_code error;
+  if (std::filesystem::is_directory(path, error)) Fail(std::errc::is_a_directory);
+  std::ifstream file(path, std::ios::binary);
+  if (!file) Fail(OpenError(path));
+  const auto read = [&](std::span<char> to) {
+    file.read(to.data(), static_cast<std::streamsize>(to.size()));
+    return static_cast<std::size_t>(file.gcount());
+  };
+  const auto size = std::filesystem::file_size(path, error);
+  std::string text = AllOf(read, error ? 0 : static_cast<std::size_t>(size));
+  if (file.bad()) Fail(std::errc::io_error);
+  return text;
 }
 
 }  // namespace
 
-std::optional<std::string> ReadWhole(const std::string& name) {
-  if (name == kInputName) return WholeInput();
-  const std::filesystem::path path = PathOf(name);
-  std::error_code error;
-  std::ifstream file(path, std::ios::binary);
-  if (!file || std::filesystem::is_directory(path, error)) return {};
-  std::string text = AllOf([&](std::span<char> to) {
-    file.read(to.data(), static_cast<std::streamsize>(to.size()));
-    return static_cast<std::size_t>(file.gcount());
-  });
-  return file.bad() ? std::nullopt : std::optional(std::move(text));
+std::optional<std::string> ReadWhole(const std::string& name, std::string* reason) {
+  try {
+    return name == kInputName ? WholeInput() : WholeFileOf(PathOf(name));
+  } catch (const std::system_error& error) {
+    if (reason != nullptr) *reason = Text("cannot be read: {0}", {SystemReason(error.code())});
+  } catch (const std::runtime_error&) {
+    if (reason != nullptr) *reason = Text("cannot be read");
+  }
+  return {};
 }
 
 }  // namespace tool
