@@ -112,8 +112,7 @@ Run EncodeWith(TextSpan text, ByteRoom bytes) {
 }
 
 /// Runs that end before a given byte, for encodings in which ASCII characters and bytes below 0x80 are the
-/// same. A kernel is called without a detour: such runs are short. The first of all goes by blocks, which
-/// choose the kernels.
+/// same.
 template <class Codec>
 struct Until {
   static constexpr DecodeUntil kDecode = nullptr;
@@ -122,10 +121,9 @@ struct Until {
 template <const ByteTable& table>
 struct Until<SingleByte<table>> {
   static RunUntil Decode(ByteSpan bytes, TextRoom text, EndBytes ends) {
-    const KernelSet* const kernels = kernel_choice.Known();
-    if (kernels == nullptr || kernels->decode_single_byte_until == nullptr)
-      return DecodeUntilByBlocks(bytes, text, ends, DecodeWith<SingleByte<table>>);
-    return kernels->decode_single_byte_until(bytes, text, ends, table);
+    const auto until = ChosenKernels().decode_single_byte_until;
+    return until != nullptr ? until(table, bytes, text, ends)
+                            : DecodeUntilByBlocks(DecodeWith<SingleByte<table>>, bytes, text, ends);
   }
   static constexpr DecodeUntil kDecode = KeepsAscii(table) ? Decode : nullptr;
 };
@@ -133,10 +131,9 @@ struct Until<SingleByte<table>> {
 template <class Policy>
 struct Until<Utf8Engine<Policy>> {
   static RunUntil Decode(ByteSpan bytes, TextRoom text, EndBytes ends) {
-    const KernelSet* const kernels = kernel_choice.Known();
-    if (kernels == nullptr || kernels->decode_utf8_until == nullptr)
-      return DecodeUntilByBlocks(bytes, text, ends, DecodeWith<Utf8Engine<Policy>>);
-    return kernels->decode_utf8_until(bytes, text, ends);
+    const auto until = ChosenKernels().decode_utf8_until;
+    return until != nullptr ? until(bytes, text, ends)
+                            : DecodeUntilByBlocks(DecodeWith<Utf8Engine<Policy>>, bytes, text, ends);
   }
   static constexpr DecodeUntil kDecode = Decode;
 };

@@ -39,26 +39,16 @@ Run DecodeMixedBefore(DecodeRun decode, ByteSpan bytes, TextRoom to, const Ends&
   return {length, run.made - last.size() + LengthBefore(last, ends)};
 }
 
-// Reading units that were just stored would stall on store forwarding; bytes that are as many are equal to
-// them.
-LineStarts LineStartsIn(ByteSpan bytes, TextRoom text, const Run& run) {
-  if (run.made == run.taken) return FindLineStarts(u'\0', bytes.first(run.taken));
-  return FindLineStarts(u'\0', TextSpan(text.first(run.made)));
-}
-
 }  // namespace
 
-RunUntil DecodeUntilByBlocks(ByteSpan bytes, TextRoom text, EndBytes end_bytes, DecodeRun decode) {
+RunUntil DecodeUntilByBlocks(DecodeRun decode, ByteSpan bytes, TextRoom text, EndBytes end_bytes) {
   const Ends ends(char16_t{end_bytes.First()}, char16_t{end_bytes.Second()}, char16_t{end_bytes.Third()});
   const std::size_t ascii = WidenAsciiBefore(bytes, text, ends);
-  Run run{ascii, ascii};
-  if (ascii < bytes.size() && bytes[ascii] >= 0x80) {
-    const Run mixed = DecodeMixedBefore(decode, bytes.subspan(ascii), text.subspan(ascii), ends);
-    run = {ascii + mixed.taken, ascii + mixed.made};
-  }
-  const LineStarts starts = end_bytes.AreBreaks() ? LineStarts{} : LineStartsIn(bytes, text, run);
-  return {static_cast<std::uint32_t>(run.taken), static_cast<std::uint32_t>(run.made),
-          static_cast<std::uint32_t>(starts.count), static_cast<std::uint32_t>(starts.last)};
+  Run mixed;
+  if (ascii < bytes.size() && bytes[ascii] >= 0x80)
+    mixed = DecodeMixedBefore(decode, bytes.subspan(ascii), text.subspan(ascii), ends);
+  return {ascii + mixed.taken, static_cast<std::uint32_t>(ascii + mixed.made),
+          end_bytes.HasBreaks() ? Lines::One : Lines::MayBeMore};
 }
 
 }  // namespace ravo::codec

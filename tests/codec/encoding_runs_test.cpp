@@ -99,15 +99,10 @@ void ExpectRunUntil(const Encoding& row, const Bytes& bytes, std::size_t room, E
   ASSERT_LE(run.taken, end) << row.name;
   const std::u16string text(to.data(), run.made);
   ASSERT_EQ(text, ReadOneByOne(row, test::TextOf(bytes).substr(0, run.taken))) << row.name;
-  std::size_t starts = 0;
-  std::size_t last = 0;
-  for (std::size_t i = 1; i < text.size(); ++i) {
-    if (text[i - 1] != u'\n' && (text[i - 1] != u'\r' || text[i] == u'\n')) continue;
-    ++starts;
-    last = i;
+  const std::size_t breaks = text.find_first_of(u"\r\n");
+  if (breaks < text.size() - 1 && !text.empty()) {
+    ASSERT_EQ(run.lines, Lines::MayBeMore) << row.name;
   }
-  ASSERT_EQ(run.line_starts, starts) << row.name;
-  ASSERT_EQ(run.last_line_start, last) << row.name;
 }
 
 TEST_P(EncodingRunsOfKernel, EndBeforeAByte) {
@@ -120,8 +115,8 @@ TEST_P(EncodingRunsOfKernel, EndBeforeAByte) {
         if (!bytes.empty() && random() % 2 == 0)
           bytes[random() % bytes.size()] = static_cast<std::uint8_t>(byte);
       }
-      const EndBytes ends = i % 3 == 0   ? EndBytes('\r', '\n')
-                            : i % 3 == 1 ? EndBytes(';')
+      const EndBytes ends = i % 3 == 0   ? EndBytes('\r', '\n', '\n')
+                            : i % 3 == 1 ? EndBytes(';', ';', ';')
                                          : EndBytes('\n', 'q', 0);
       ASSERT_NO_FATAL_FAILURE(ExpectRunUntil(row, bytes, random() % 400, ends));
     }

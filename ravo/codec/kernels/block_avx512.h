@@ -43,11 +43,6 @@ RAVO_AVX512 inline Vector Widened(const std::uint8_t* from) {
 }
 
 template <std::size_t half>
-RAVO_AVX512 inline Vector WidenedHalf(Vector bytes) {
-  return _mm512_cvtepu8_epi16(_mm512_maskz_extracti64x4_epi64(0xF, bytes, half));
-}
-
-template <std::size_t half>
 RAVO_AVX512 inline __mmask32 HalfOf(Bits bits) {
   return static_cast<__mmask32>(bits >> (half * kHalf));
 }

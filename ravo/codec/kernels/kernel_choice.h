@@ -24,9 +24,6 @@ class KernelChoice {
     return kernel != nullptr ? *kernel : Choose();
   }
 
-  /// Returns the kernel in use; null before the first call of `Chosen`.
-  [[nodiscard]] const Kernel* Known() const noexcept { return chosen_.load(std::memory_order_relaxed); }
-
   /// Uses `kernel`, or the processor's choice if it is null. Returns the previous one.
   const Kernel* Use(const Kernel* kernel) noexcept {
     return chosen_.exchange(kernel, std::memory_order_relaxed);

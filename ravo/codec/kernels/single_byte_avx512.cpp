@@ -7,43 +7,52 @@
 namespace ravo::codec {
 namespace {
 
+// Holds the upper half of the table in four vectors.
 class SingleByteEngine {
  public:
-  RAVO_AVX512 explicit SingleByteEngine(const ByteTable& table) : table_(table.data()) {}
+  struct Maker {
+    const ByteTable& table;
+    RAVO_AVX512 SingleByteEngine operator()() const { return SingleByteEngine(table); }
+  };
 
-  RAVO_AVX512 Characters Decode(Vector bytes, std::size_t length, TextRoom to) const {
-    const Bits upper = _mm512_movepi8_mask(bytes);
-    const Bits last_quarter = From(bytes, 0xC0);
-    StoreUnits(to, length, Units<0>(bytes, upper, last_quarter));
-    if (length > kHalf) StoreUnits(to.subspan(kHalf), length - kHalf, Units<1>(bytes, upper, last_quarter));
-    return {length, Lowest(length)};
+  RAVO_AVX512 explicit SingleByteEngine(const ByteTable& table) {
+    for (std::size_t i = 0; i < 4; ++i) parts_[i] = _mm512_loadu_si512(table.data() + 0x80 + i * kHalf);
   }
+
+  RAVO_AVX512 bool Decode(const ByteBlock& block, TextRoom to, Run& run) const {
+    const Bits last_quarter = From(Load(block.from), 0xC0);
+    StoreUnits(to, block.length, Characters<0>(block, last_quarter));
+    if (block.length > kHalf)
+      StoreUnits(to.subspan(kHalf), block.length - kHalf, Characters<1>(block, last_quarter));
+    run = {block.length, block.length};
+    return true;
+  }
+
+  RAVO_AVX512 static bool IsBetweenCharacters() { return true; }
+  RAVO_AVX512 static Run WithoutUnfinished(const Run& run, ByteSpan) { return run; }
 
  private:
   template <std::size_t half>
-  RAVO_AVX512 Vector Units(Vector bytes, Bits upper, Bits last_quarter) const {
-    const Vector places = WidenedHalf<half>(bytes);
-    const Vector third = _mm512_permutex2var_epi16(Part(0), places, Part(1));
-    const Vector fourth = _mm512_permutex2var_epi16(Part(2), places, Part(3));
-    const Vector in_third = _mm512_mask_mov_epi16(places, HalfOf<half>(upper), third);
-    return _mm512_mask_mov_epi16(in_third, HalfOf<half>(last_quarter), fourth);
+  RAVO_AVX512 Vector Characters(const ByteBlock& block, Bits last_quarter) const {
+    const Vector places = Widened(block.from + half * kHalf);
+    const Vector third = _mm512_permutex2var_epi16(parts_[0], places, parts_[1]);
+    const Vector fourth = _mm512_permutex2var_epi16(parts_[2], places, parts_[3]);
+    const Vector upper = _mm512_mask_mov_epi16(places, HalfOf<half>(block.beyond), third);
+    return _mm512_mask_mov_epi16(upper, HalfOf<half>(last_quarter), fourth);
   }
 
-  // Returns a quarter of the upper half of the table.
-  RAVO_AVX512 Vector Part(std::size_t i) const { return _mm512_loadu_si512(table_ + 0x80 + i * kHalf); }
-
-  const char16_t* table_;
+  Vector parts_[4];
 };
 
 }  // namespace
 
 RAVO_AVX512 Run DecodeSingleByteAvx512(const ByteTable& table, ByteSpan bytes, TextRoom text) noexcept {
-  return DecodeBlocks(SingleByteEngine(table), bytes, text);
+  return DecodeBlocks<false>(SingleByteEngine(table), bytes, std::min(bytes.size(), text.size()), text);
 }
 
-RAVO_AVX512 RunUntil DecodeSingleByteUntilAvx512(ByteSpan bytes, TextRoom text, EndBytes ends,
-                                                 const ByteTable& table) noexcept {
-  return DecodeUntilEnd(bytes, text, ends, SingleByteEngine(table));
+RAVO_AVX512 RunUntil DecodeSingleByteUntilAvx512(const ByteTable& table, ByteSpan bytes, TextRoom text,
+                                                 EndBytes ends) noexcept {
+  return DecodeUntilEnd(SingleByteEngine::Maker{table}, bytes, text, ends);
 }
 
 }  // namespace ravo::codec
