@@ -48,9 +48,10 @@ std::string InLetters(std::string_view utf8) { return ravo::ToCodePage(ravo::Fro
 // Returns the name that is nearest without case, or nothing.
 std::string NearestName(const std::vector<std::string>& names, std::string_view wanted) {
   std::vector<std::string> folded;
+  folded.reserve(names.size());
   for (const std::string& name : names) folded.push_back(InLetters(Folded(name)));
   const std::string nearest = Nearest(InLetters(Folded(wanted)), folded);
-  if (nearest.empty()) return nearest;
+  if (nearest.empty()) return {};
   return Shown(names[static_cast<std::size_t>(std::ranges::find(folded, nearest) - folded.begin())]);
 }
 
