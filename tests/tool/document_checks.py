@@ -57,7 +57,7 @@ def xml_rows(name):
         Row(["xml", "set", name, "Faktury", "<a>", "--raw"], WRONG_USAGE, exact="", err=("is not valid XML there",)),
         Row(["xml", "set", name, "Faktury/Faktura/@Číslo", 'a"b', "--raw"], WRONG_USAGE, exact="", err=("is not valid XML there",)),
         Row(["xml", "set", name, "Faktury/Faktura[2]", "x", "-o", "missing/a.xml"], WRONG_USAGE, exact="", err=("missing/a.xml",)),
-        Row(["xml", "set", name, "Faktury/Faktura[2]", "x", "-o", ""], WRONG_USAGE, exact="", err=("name of a file",)),
+        Row(["xml", "set", name, "Faktury/Faktura[2]", "x", "-o", ""], WRONG_USAGE, exact="", err=("name of the output file",)),
         Row(["xml", "set", name, "Faktury/Faktura[2]", "x", "-i", "--dry-run"], WRONG_USAGE, exact="", err=("use only one of",)),
         Row(["xml", "set", "-i", "-", "a", "b"], WRONG_USAGE, exact="", err=("there is no file to edit in place",)),
         Row(["xml", "format", name], NO, exact="", err=(":3:", "--suite")),

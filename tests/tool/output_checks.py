@@ -236,14 +236,14 @@ def check_standard_input(program):
         (program.folder / name).write_bytes(content)
     commands = [
         ("lines", ["sort"]), ("lines", ["hash", "crc32"]), ("lines", ["convert", "-f", "utf-8", "-t", "1250"]),
-        ("table", ["check", "--column", "VS=vs", "--csv"]), ("fields", ["form", "-o", "made"]),
+        ("table", ["check", "--suite", "--column", "VS=vs", "--csv"]), ("fields", ["form", "-o", "made"]),
     ]
     for name, words in commands:
         results = []
         for source in ("-", name):
             result = program.run([*words, source], given=name)
             made = program.folder / "made"
-            results.append((result.status, result.out.replace("  -\n", f"  {name}\n"), result.err, made.exists() and made.read_bytes()))
+            results.append((result.status, result.out.replace("  -\n", f"  {name}\n"), result.err.replace(" -: ", f" {name}: "), made.exists() and made.read_bytes()))
             made.unlink(missing_ok=True)
         if results[0] != results[1] or results[0][0] != YES:
             yield f"{' '.join(words)} - <{name}: {results[0]}, not {results[1]}"

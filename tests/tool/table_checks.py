@@ -48,7 +48,7 @@ def check_damaged_tables(program):
     file = program.folder / "účty.csv"
     for content, status, out, err in DAMAGED:
         file.write_bytes(content)
-        row = Row(["check", "--csv", file.name, "--column", "VS=vs"], status, out=out, err=("ravo check: účty.csv: ", err))
+        row = Row(["check", "--suite", "--csv", file.name, "--column", "VS=vs"], status, out=out, err=("ravo check: účty.csv: ", err))
         yield from program.failures(row)
     # A form takes no table with a fault.
     for content, err in ((b"field;value;field\na;b;c\n", "line 1: columns 1, 3 are all named 'field'"), (b'field;value\na;"b\n', "line 2: a quote is never"),
@@ -56,7 +56,7 @@ def check_damaged_tables(program):
         file.write_bytes(content)
         yield from program.failures(Row(["form", file.name, "-o", "x.fdf"], WRONG_USAGE, exact="", err=(err,)))
     file.write_bytes(b"")
-    row = Row(["check", "--csv", "-", "--column", "VS=vs"], WRONG_USAGE, exact="", err=("-: has no first row",))
+    row = Row(["check", "--suite", "--csv", "-", "--column", "VS=vs"], WRONG_USAGE, exact="", err=("-: has no first row",))
     yield from program.failures(row)
     file.unlink()
 
@@ -71,13 +71,13 @@ def check_table_names(program):
         ("0", WRONG_USAGE, "", "there is no column 0, the last one is 5"), ("Učet", WRONG_USAGE, "", "did you mean 'Účet'?"),
     ]
     for name, status, out, err in rows:
-        yield from program.failures(Row(["check", "--csv", file.name, "--column", f"{name}=vs"], status, out=(out,), err=(err,)))
+        yield from program.failures(Row(["check", "--suite", "--csv", file.name, "--column", f"{name}=vs"], status, out=(out,), err=(err,)))
     # A byte that contradicts what the start of the table says.
     start = b"VS\n" + b"0\n" * 150000
     file.write_bytes(start + b"0\nA\xe8\n0\n\xc5\x99\xc5\n")
     wrong = (f"line 150003\t\t\tbyte 0xE8 at offset {len(start) + 3} is not UTF-8", "line 150003\tVS\tA\ufffd\tnot valid\n",
              f"line 150005\t\t\tbyte 0xC5 at offset {len(start) + 9} is not UTF-8")
-    yield from program.failures(Row(["check", "--csv", file.name, "--column", "VS=vs"], NO, out=wrong, err=("UTF-8",)))
+    yield from program.failures(Row(["check", "--suite", "--csv", file.name, "--column", "VS=vs"], NO, out=wrong, err=("UTF-8",)))
     file.unlink()
 
 
@@ -91,13 +91,13 @@ def check_table_encodings(program):
             content = text.replace("\n", "\n" + start, 1)
             file.write_bytes(content.encode(encoding))
             wanted = f"line {content.count(chr(10))}\tVS\tŽ\tnot valid\n"
-            row = Row(["check", "--csv", file.name, "--column", "VS=vs"], NO, out=(wanted,), err=(f"kódy.csv: {label}, delimiter ';'\n",))
+            row = Row(["check", "--suite", "--csv", file.name, "--column", "VS=vs"], NO, out=(wanted,), err=(f"kódy.csv: {label}, delimiter ';'\n",))
             yield from program.failures(row)
     file.write_bytes("VS\nč\n".encode("cp1250"))
-    row = Row(["check", "--csv", file.name, "--column", "VS=vs"], NO, err=("Windows-1250 (Windows-1250 and ISO 8859-2 read it alike), delimiter ';'\n",))
+    row = Row(["check", "--suite", "--csv", file.name, "--column", "VS=vs"], NO, err=("Windows-1250 (Windows-1250 and ISO 8859-2 read it alike), delimiter ';'\n",))
     yield from program.failures(row)
     file.write_bytes("Firma\tVS\na;b\t1\n".encode())
-    row = Row(["check", "--csv", file.name, "--column", "VS=vs", "--delimiter", "tab", "--encoding", "utf-8"], NO, silent=True,
+    row = Row(["check", "--suite", "--csv", file.name, "--column", "VS=vs", "--delimiter", "tab", "--encoding", "utf-8"], NO, silent=True,
               out=("line 2\tVS\t1\tnot valid\n",))
     yield from program.failures(row)
     file.unlink()
@@ -108,7 +108,7 @@ def check_long_values(program):
     file = program.folder / "dlouhé.csv"
     values = [*("311" + "1" * length for length in range(100)), "č" * 40, '"' + "311" * 30 + '""x"', "50"]
     file.write_bytes("\n".join(["ucet", *values]).encode())
-    result = program.run(["check", "--csv", file.name, "--column", "ucet=ucet", "--json"])
+    result = program.run(["check", "--suite", "--csv", file.name, "--column", "ucet=ucet", "--json"])
     *findings, summary = map(json.loads, result.out.splitlines())
     wanted = [*values[4:-2], "311" * 30 + '"x', "50"]
     if [finding["value"] for finding in findings] != wanted or summary["columns"][0]["valid"] != 4:
@@ -123,7 +123,7 @@ def check_full_output(program):
     file = program.folder / "plná.csv"
     file.write_bytes(b"VS\n" + b"1\n" * 400000)
     with open("/dev/full", "wb") as full:
-        result = program.run(["check", "--csv", file.name, file.name, "--column", "VS=vs"], out=full)
+        result = program.run(["check", "--suite", "--csv", file.name, file.name, "--column", "VS=vs"], out=full)
     if result.status != WRONG_USAGE or not result.err.endswith("delimiter ';'\nravo check: the output cannot be written\n"):
         yield f"check --csv to a full device: {result}"
     file.unlink()
@@ -144,7 +144,7 @@ def check_quoted_tables(program):
     file.write_bytes(text.getvalue().encode())
     wanted = [row[1] for row in csv.reader(io.StringIO(text.getvalue(), newline=""), delimiter=";")][1:]
     for threads in ("1", "3"):
-        result = program.run(["check", "--csv", file.name, "--column", "text=banka", "--json", "--threads", threads])
+        result = program.run(["check", "--suite", "--csv", file.name, "--column", "text=banka", "--json", "--threads", threads])
         *findings, summary = map(json.loads, result.out.splitlines())
         if [finding["value"] for finding in findings] != wanted or summary["rows"] != len(wanted):
             yield f"check --csv of quoted fields, {threads} threads: {len(findings)} findings of {len(wanted)}, {summary}"
@@ -164,7 +164,7 @@ def check_split_tables(program):
     head = b"\xef\xbb\xbfn;ucet;text\n"
     table.write_bytes(head + b"".join(rows))
     for threads in ("1", "4"):
-        arguments = ["check", "--csv", table.name, "--column", "ucet=ucet", "--limit", "0", "--encoding", "utf-8", "--delimiter", ";"]
+        arguments = ["check", "--suite", "--csv", table.name, "--column", "ucet=ucet", "--limit", "0", "--encoding", "utf-8", "--delimiter", ";"]
         result = program.run([*arguments, "--rejects", rejects.name, "--clean", clean.name, "--threads", threads])
         bad = [b";50;" in row or row.rstrip().endswith((b"x;y", b'"x', b"\xff")) for row in rows]
         # Empty lines are of no row.
@@ -175,7 +175,7 @@ def check_split_tables(program):
         if f"30000 rows, with findings: {sum(bad)}\n" not in result.out:
             yield f"check --rejects: {result.out[:300]}, not {sum(bad)} rows"
     old = rejects.read_bytes()
-    result = program.run(["check", "--csv", table.name, "--column", "nic=ucet", "--rejects", rejects.name])
+    result = program.run(["check", "--suite", "--csv", table.name, "--column", "nic=ucet", "--rejects", rejects.name])
     if result.status != WRONG_USAGE or rejects.read_bytes() != old:
         yield f"check --rejects of a table without the column: {result}"
     for path in (table, rejects, clean):
@@ -205,19 +205,19 @@ def check_large_tables(program):
     file = program.folder / "velká.csv"
     file.write_bytes(b"a;b;c;d\n" + b"".join(b"x%d;;x;1\n" % number for number in range(200000)))
     columns = [argument for name in "abcd" for argument in ("--column", f"{name}=ucet")]
-    alone = program.run(["check", "--csv", file.name, *columns, "--threads", "1"])
-    together = program.run(["check", "--csv", file.name, *columns, "--threads", "5"])
+    alone = program.run(["check", "--suite", "--csv", file.name, *columns, "--threads", "1"])
+    together = program.run(["check", "--suite", "--csv", file.name, *columns, "--threads", "5"])
     places = [line.split("\t")[:2] for line in alone.out.splitlines() if line.startswith("line ")]
     if alone != together or places != [[f"line {number}", name] for number in range(2, 200002) for name in "abcd"]:
         yield f"check --csv of a large table: {len(places)} findings, {alone.status}, {together.status}"
-    piped = program.run(["check", "--csv", "-", *columns], given=file.name)
+    piped = program.run(["check", "--suite", "--csv", "-", *columns], given=file.name)
     if (piped.status, piped.out) != (alone.status, alone.out):
         yield f"check --csv - of a large table: {piped.status}, {piped.err}"
-    limited = program.run(["check", "--csv", file.name, *columns, "--limit", "100003"])
+    limited = program.run(["check", "--suite", "--csv", file.name, *columns, "--limit", "100003"])
     if limited.out.splitlines()[:100003] != alone.out.splitlines()[:100003] or "findings shown: 100003, left out: 699997" not in limited.out:
         yield f"check --csv --limit: {limited.out[-400:]}"
     if not program.emulated and hasattr(os, "wait4"):
-        status, memory = peak_memory([*program.command, "check", "--csv", file.name, *columns, "--json"], program.folder)
+        status, memory = peak_memory([*program.command, "check", "--suite", "--csv", file.name, *columns, "--json"], program.folder)
         # Its findings take 90 MB.
         if status != NO or memory > 60_000_000:
             yield f"check --csv --json of a large table: status {status}, {memory} bytes of memory"
@@ -246,7 +246,7 @@ def check_terminal_tables(program):
         return
     file = pathlib.Path(program.folder) / "sloupce.csv"
     file.write_bytes("Účet;VS\n50;1\n311;123456\n".encode())
-    shown = shown_on_terminal(program, ["check", "--csv", file.name, "--column", "Účet=ucet", "--column", "VS=vs"])
+    shown = shown_on_terminal(program, ["check", "--suite", "--csv", file.name, "--column", "Účet=ucet", "--column", "VS=vs"])
     wanted = ("line 2  Účet  50      not valid\nline 2  VS    1       not valid\nline 3  VS    123456  not valid\n"
               "2 rows, with findings: 2\nÚčet  ucet  1  valid\nÚčet  ucet  1  not valid\nVS    vs    0  valid\nVS    vs    2  not valid\n")
     if shown != wanted:

@@ -122,7 +122,7 @@ const ravo::DIUnicode::EncodingRow* EncodingOf(const std::string& name) {
 }
 
 std::string CheckOutputName(const std::string& name) {
-  if (name.empty()) return Text("the name of the file is empty");
+  if (name.empty()) return Text("the name of the output file is empty");
   return name == "-" ? Text("standard output has the findings; name a file") : std::string();
 }
 

@@ -215,7 +215,6 @@ void ConvertFile(FileConverter& converter, const ConvertOptions& options, const 
 unsigned ConvertThreads() { return std::clamp(std::thread::hardware_concurrency(), 1U, 4U); }
 
 void Convert(const ConvertOptions& options, Outcome& outcome) {
-  if (options.output && options.output->empty()) throw ConvertRefused{Text("-o wants the name of a file")};
   static_cast<void>(SourceOf(options.from));
   const Conversion conversion = ConversionOf(options);
   const auto files =
