@@ -251,7 +251,30 @@ def check_standard_input(program):
         (program.folder / name).unlink()
 
 
+def check_words_after_dashes(program):
+    """After -- no word is an option or a command, wherever -- stands."""
+    for name in ("-x", "sort", "b"):
+        (program.folder / name).write_bytes(name.encode() + b"\n")
+    rows = [
+        (["sort", "--", "-x"], "-x\n"), (["sort", "b", "--", "-x"], "b\n-x\n"), (["sort", "b", "--", "sort"], "b\nsort\n"),
+        (["hash", "--all", "b", "--", "-x"], None), (["hash", "crc32", "--", "-x"], None),
+        (["match", "--", "-*", "-x", "b"], "-x\n"), (["match", "*", "--", "-x"], "-x\n"),
+        (["url", "encode", "--", "-x"], "-x\n"), (["round", "--", "-12,255"], "-12,255\t-12.26\n"),
+        (["convert", "-f", "utf-8", "-t", "1250", "b", "--", "-x"], "b\n-x\n"),
+    ]
+    for words, wanted in rows:
+        result = program.run(words)
+        if result.status != YES or not result.out or (wanted is not None and sorted(result.out.split()) != sorted(wanted.split())):
+            yield f"{' '.join(words)}: {result}"
+    for words in (["table", "--", "-5"], ["report", "--", "--json"]):
+        result = program.run(words)
+        if result.status == YES or "\x01" in result.err or words[-1] not in result.err:
+            yield f"{' '.join(words)}: {result}"
+    for name in ("-x", "sort", "b"):
+        (program.folder / name).unlink()
+
+
 OUTPUT_CHECKS = (
     check_output_names, check_read_only, check_kept_status, check_new_files, check_every_signal, check_deep_folder,
-    check_forbidden_folder, check_standard_input,
+    check_forbidden_folder, check_standard_input, check_words_after_dashes,
 )

@@ -99,9 +99,10 @@ def check_sorted_encodings(program):
     for options, content, wanted in rows:
         file.write_bytes(content)
         result = program.run(["sort", *options, "lines", "-o", "sorted"])
-        if result.status != YES or (got := target.read_bytes()) != wanted:
+        got = target.read_bytes() if target.exists() else None
+        if result.status != YES or got != wanted:
             yield f"sort {options} of {content!r}: {result}, {got!r}"
-    target.unlink()
+    target.unlink(missing_ok=True)
     refused: list[tuple[list[str], bytes, str]] = [
         ([], b"ab\n\xff", "lines:2:1: this byte is not UTF-8"),
         ([], "ab\nčc".encode() + b"\xe8\n", "lines:2:3: this byte is not UTF-8"),

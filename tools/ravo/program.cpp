@@ -2,6 +2,7 @@
 
 #include "commands.h"
 #include "output_options.h"
+#include "words_after_mark.h"
 
 #include <algorithm>
 #include <sstream>
@@ -56,7 +57,7 @@ Outcome Ended(const CLI::App& program, const CLI::ParseError& end) {
   std::ostringstream out;
   std::ostringstream err;
   const int code = program.exit(end, out, err);
-  return {out.str(), err.str(), code == 0 ? Answer::Yes : Answer::WrongUsage};
+  return {out.str(), Unmarked(err.str()), code == 0 ? Answer::Yes : Answer::WrongUsage};
 }
 
 }  // namespace
@@ -69,12 +70,14 @@ void Describe(CLI::App& program, Outcome& outcome) {
   program.footer(kProgramFooter);
   for (const Theme& theme : Themes()) AddTheme(program, theme, outcome);
   AddOutputRules(program);
+  UnmarkValues(program);
 }
 
 Outcome Run(std::vector<std::string> arguments) {
   CLI::App program;
   Outcome outcome;
   Describe(program, outcome);
+  arguments = MarkedAfterDashes(std::move(arguments));
   // The parser takes its arguments in reverse order.
   std::reverse(arguments.begin(), arguments.end());
   try {
