@@ -8,7 +8,7 @@
 namespace ravo::czech::detail {
 
 /// The number of a country's two letters, 0 to 675, or 676 for what is no two capital letters.
-inline constexpr std::size_t kCountries = 26 * 26;
+inline constexpr std::size_t kCountries = std::size_t{26} * 26;
 [[nodiscard]] constexpr std::size_t CountryNumber(char first, char second) noexcept {
   if (first < 'A' || first > 'Z' || second < 'A' || second > 'Z') return kCountries;
   return static_cast<std::size_t>(first - 'A') * 26 + static_cast<std::size_t>(second - 'A');

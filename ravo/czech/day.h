@@ -12,7 +12,10 @@ namespace ravo::czech {
 /// A day by its Julian Day Number: 2451545 is 1 January 2000.
 struct Day {
   std::int32_t number = 0;  ///< counts days
-  friend constexpr auto operator<=>(const Day&, const Day&) = default;
+  friend constexpr bool operator==(const Day&, const Day&) noexcept = default;
+  friend constexpr std::strong_ordering operator<=>(const Day& left, const Day& right) noexcept {
+    return left.number <=> right.number;
+  }
 };
 
 /// Returns whether there is such a date in the years 1 to 9999.

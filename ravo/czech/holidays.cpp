@@ -14,6 +14,8 @@ constexpr Holiday kHolidays[] = {
 };
 
 constexpr int kFirstYearWithHolidays = 1993;
+// From January of the year 0 to the end of the calendar.
+constexpr std::int64_t kMonths = 120'000;
 
 constexpr bool HoldsIn(const Holiday& holiday, int year) noexcept {
   return year >= holiday.first_year && year <= holiday.last_year;
@@ -55,7 +57,7 @@ Parsed<Term> TermAt(std::int64_t number) noexcept {
 // The parts of `date` months later, the day no farther than its month goes. A year of 0 is out of range.
 DateParts MonthsLater(const DateParts& date, std::int32_t months) noexcept {
   const std::int64_t month = std::int64_t{date.year} * 12 + (date.month - 1) + months;
-  if (month < 12 || month >= 12 * 10000) return {};
+  if (month < 12 || month >= kMonths) return {};
   DateParts later{static_cast<int>(month / 12), static_cast<int>(month % 12) + 1, date.day};
   while (!Exists(later)) --later.day;
   return later;

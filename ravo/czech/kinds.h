@@ -14,7 +14,7 @@ namespace ravo::czech {
 
 /// What a text can be checked for. The hundreds of a refusal's `Code` are the number of its kind.
 enum class Kind : std::uint8_t {
-#define RAVO_KIND(number, name, text, parse, czech, english) name = number,
+#define RAVO_KIND(number, name, text, parse, czech, english) name = (number),
 #include "kinds.inc"
 #undef RAVO_KIND
 };

@@ -11,7 +11,7 @@ namespace ravo::czech {
 /// The reasons. Numbers and texts never change their meaning; new ones are added.
 enum class Code : std::uint16_t {
   Correct = 0,
-#define RAVO_REASON(number, name, text, czech, english) name = number,
+#define RAVO_REASON(number, name, text, czech, english) name = (number),
 #include "reasons.inc"
 #undef RAVO_REASON
 };

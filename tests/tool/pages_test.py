@@ -15,9 +15,9 @@ def help_of(program, *command):
 
 
 def commands_of(text):
-    """The commands that help lists under its themes."""
+    """The commands that help lists under its themes, without their other names."""
     body = text.split("Options:\n", 1)[1].split("\n\n", 1)[1].split("Exit status:", 1)[0]
-    return re.findall(r"^  ([a-z][a-z0-9-]*) ", body, re.MULTILINE)
+    return re.findall(r"^  ([a-z][a-z0-9-]*),? ", body, re.MULTILINE)
 
 
 def all_commands(program, commands):

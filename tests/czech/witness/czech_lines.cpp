@@ -1,5 +1,6 @@
-// Reads lines of a kind, a tab and a value; writes for each the text of the code, a tab and the canonical form. The bank of an
-// account is looked up in the built-in list, on the list's day: "bank.unknown" is its answer.
+// Reads lines of a kind, a tab and a value; writes for each the text of the code, a tab and the canonical
+// form. The bank of an account is looked up in the built-in list, on the list's day: "bank.unknown" is its
+// answer.
 #include <ravo/czech/czech.h>
 
 #include <iostream>
