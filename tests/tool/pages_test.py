@@ -4,10 +4,14 @@
 usage: pages_test.py [--self-test] PROGRAM MAN BASH
 """
 
+import os
 import pathlib
 import re
 import subprocess
 import sys
+
+# The tests read English, whatever the user of this machine reads.
+os.environ["RAVO_LANG"] = "en"
 
 
 def help_of(program, *command):
@@ -57,7 +61,7 @@ def failures(program, page, script):
         yield f"help lists but {commands}"
     if "Subcommands:" in whole:
         yield "a command has no theme"
-    if completed(script, "ravo", "") != sorted(commands + ["--help", "-h", "--version"]):
+    if completed(script, "ravo", "") != sorted(commands + ["--help", "--lang", "--version", "-V", "-h"]):
         yield f"completion of commands: {completed(script, 'ravo', '')}"
     for command in all_commands(program, commands):
         if command not in sections:

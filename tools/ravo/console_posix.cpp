@@ -13,7 +13,7 @@ std::vector<std::string> Arguments(int count, const char* const* values) {
   return count > 0 ? std::vector<std::string>(values + 1, values + count) : std::vector<std::string>();
 }
 
-bool Write(Channel channel, std::string_view utf8) {
+bool WriteWithCodes(Channel channel, std::string_view utf8) {
   std::FILE* file = channel == Channel::Out ? stdout : stderr;
   return std::fwrite(utf8.data(), 1, utf8.size(), file) == utf8.size() && std::fflush(file) == 0;
 }
@@ -25,6 +25,8 @@ std::size_t ReadInput(std::span<std::byte> to) {
     if (errno != EINTR) throw std::runtime_error("standard input cannot be read");
   }
 }
+
+std::string SystemLanguage() { return {}; }
 
 bool IsTerminal(Channel channel) {
   return isatty(channel == Channel::Out ? STDOUT_FILENO : STDERR_FILENO) == 1;

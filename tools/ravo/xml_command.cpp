@@ -28,6 +28,7 @@ struct XmlOptions {
 void Show(const XmlOptions& options, Outcome& outcome) {
   TECXMLParser parser;
   const XmlWords words = LoadXmlFile(options.file, parser);
+  outcome.coloured = options.colour || ShowsColours(Channel::Out);
   outcome.out = XmlTreeText(*parser.Root(), words, options.colour || ShowsColours(Channel::Out));
 }
 
