@@ -18,6 +18,7 @@
 #include <ravo/catalogue/table_catalogue.h>
 #include <ravo/frame/resource_string.h>
 #include <ravo/hostapi/interface_list.h>
+#include <ravo/platform/file_stream.h>
 #include <ravo/runtime/error.h>
 #include <ravo/runtime/object_list.h>
 #include <ravo/runtime/text.h>

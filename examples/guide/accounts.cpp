@@ -1,15 +1,16 @@
 // [include]
 #include <ravo/RavoInterface.h>
 #include <ravo/RavoInterfaceCommon.h>
-// [/include]
 
 #include <iostream>
 
+using namespace ravo;
+// [/include]
+
 int main() {
-  using namespace ravo;
-  std::cout << std::boolalpha;
   // [bank]
   using namespace ravo::RavoInterfaceCommon;
+  std::cout << std::boolalpha;
   std::cout << UcetMod11(u"19-2000145399/0800") << "\n";
   std::cout << UcetMod11(u"19-2000145398/0800") << "\n";
   try {

@@ -1,13 +1,14 @@
 // [include]
 #include <ravo/DIUtils.h>
 #include <ravo/RavoInterface.h>
-// [/include]
 
 #include <iostream>
 
+using namespace ravo;
+using namespace ravo::DIUtils;
+// [/include]
+
 int main() {
-  using namespace ravo;
-  using namespace ravo::DIUtils;
   // [days]
   const TJulianDate issued = YmdToJulianDate(2026, 11, 21);
   const TJulianDate due = issued + 14;

@@ -1,13 +1,14 @@
 // [include]
 #include <ravo/DIUnicode.h>
 #include <ravo/RavoInterface.h>
-// [/include]
 
 #include <iostream>
 
+using namespace ravo;
+using namespace ravo::DIUnicode;
+// [/include]
+
 int main() {
-  using namespace ravo;
-  using namespace ravo::DIUnicode;
   // [read]
   // In a program: reader.SetSourceFile(u"ledger.csv");
   const std::string bytes = "P\xF8\xEDjemce;\xC8\xE1stka\r\nNov\xE1k;1250\r\n";

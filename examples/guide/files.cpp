@@ -1,15 +1,16 @@
 // [include]
 #include <ravo/DIUtils.h>
 #include <ravo/RavoInterface.h>
-// [/include]
 
 #include <iostream>
 
+using namespace ravo;
+using namespace ravo::DIUtils;
+// [/include]
+
 int main() {
-  using namespace ravo;
-  using namespace ravo::DIUtils;
-  std::cout << std::boolalpha;
   // [files]
+  std::cout << std::boolalpha;
   const std::u16string folder = GetTempFolder() + u"ravo-guide";
   const std::u16string name = folder + u"/poznamka.txt";
   ForceDirectories(folder);

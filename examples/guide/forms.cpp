@@ -1,13 +1,14 @@
 // [include]
 #include <ravo/RavoFileCommon.h>
 #include <ravo/RavoInterface.h>
-// [/include]
 
 #include <iostream>
 
+using namespace ravo;
+using namespace ravo::RavoFileCommon;
+// [/include]
+
 int main() {
-  using namespace ravo;
-  using namespace ravo::RavoFileCommon;
   // [fields]
   MemoryStream fields;
   FillPDFField(fields, u"jmeno", u"Novák", false);

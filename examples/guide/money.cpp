@@ -1,21 +1,16 @@
 // [include]
 #include <ravo/RavoInterface.h>
 #include <ravo/RavoInterfaceCommon.h>
-// [/include]
 
 #include <iostream>
 
-namespace {
+using namespace ravo;
+using namespace ravo::RavoInterfaceCommon;
 
-std::string Text(ravo::Currency amount) {
-  return ravo::ToUtf8(ravo::VariantToText(ravo::Variant(amount), ravo::FormatSettings()));
-}
-
-}  // namespace
+std::string Text(Currency amount) { return ToUtf8(VariantToText(Variant(amount), FormatSettings())); }
+// [/include]
 
 int main() {
-  using namespace ravo;
-  using namespace ravo::RavoInterfaceCommon;
   // [round]
   const Currency price{12'345'678};  // 1234.5678: an amount is a count of ten-thousandths
   std::cout << Text(RoundValue(price, rtMath, 2)) << "\n";

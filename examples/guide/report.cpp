@@ -1,12 +1,13 @@
 // [include]
 #include <ravo/RavoInterface.h>
 #include <ravo/RavoInterfaceInfo.h>
-// [/include]
 
 #include <iostream>
 
+using namespace ravo;
+// [/include]
+
 int main() {
-  using namespace ravo;
   // [report]
   RavoInterfaceInfo::TRavoSystemInfo info;
   const std::u16string report = info.AsText(RavoInterfaceInfo::siVisual);

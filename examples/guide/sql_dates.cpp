@@ -1,13 +1,14 @@
 // [include]
 #include <ravo/RavoInterface.h>
 #include <ravo/RavoInterfaceCommon.h>
-// [/include]
 
 #include <iostream>
 
+using namespace ravo;
+using namespace ravo::RavoInterfaceCommon;
+// [/include]
+
 int main() {
-  using namespace ravo;
-  using namespace ravo::RavoInterfaceCommon;
   // [literal]
   const DateTime booked = EncodeDateTime({{2026, 1, 31}, {14, 5, 9, 120}});
   std::cout << "WHERE Booked >= '" << ToUtf8(DateTimeToSQLString(booked)) << "'\n";

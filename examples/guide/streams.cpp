@@ -1,13 +1,14 @@
 // [include]
 #include <ravo/RavoInterface.h>
 #include <ravo/RavoInterfaceCommon.h>
-// [/include]
 
 #include <iostream>
 
+using namespace ravo;
+using namespace ravo::RavoInterfaceCommon;
+// [/include]
+
 int main() {
-  using namespace ravo;
-  using namespace ravo::RavoInterfaceCommon;
   // [records]
   MemoryStream stream;
   StringToStream(&stream, "Novak");

@@ -2,12 +2,13 @@
 #include <ravo/RavoInterface.h>
 #include <ravo/RavoInterfaceCommon.h>
 #include <ravo/RavoInterfaceResources.h>
-// [/include]
 
 #include <iostream>
 
+using namespace ravo;
+// [/include]
+
 int main() {
-  using namespace ravo;
   // [table]
   std::cout << ToUtf8(RavoInterfaceCommon::GetTableDescription(71710)) << "\n";
   for (const TableRow& row : TableRows()) {

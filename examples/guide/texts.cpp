@@ -1,15 +1,16 @@
 // [include]
 #include <ravo/DIUtils.h>
 #include <ravo/RavoInterface.h>
-// [/include]
 
 #include <iostream>
 
+using namespace ravo;
+using namespace ravo::DIUtils;
+// [/include]
+
 int main() {
-  using namespace ravo;
-  using namespace ravo::DIUtils;
-  std::cout << std::boolalpha;
   // [search]
+  std::cout << std::boolalpha;
   const std::u16string text = u"Faktura č. 12 za ŽLUŤOUČKÉHO koně, faktura č. 9";
   std::cout << StrPos(u"faktura", text) << " " << StrPosI(u"faktura", text) << "\n";
   std::cout << StrPosI(u"žluťoučkého", text) << " " << StrPos(u"nic", text) << "\n";

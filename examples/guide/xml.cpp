@@ -1,13 +1,14 @@
 // [include]
 #include <ravo/ECXMLParser.h>
 #include <ravo/RavoInterface.h>
-// [/include]
 
 #include <iostream>
 
+using namespace ravo;
+using namespace ravo::ECXMLParser;
+// [/include]
+
 int main() {
-  using namespace ravo;
-  using namespace ravo::ECXMLParser;
   // [write]
   TECXMLParser document;
   document.SetEncoding(u"windows-1250");
@@ -32,6 +33,11 @@ int main() {
     std::cout << ToUtf8(root.SubItems(i)->Name()) << ": " << ToUtf8(root.SubItems(i)->Text()) << "\n";
   }
   // [/read]
+  // [utf8]
+  const std::string utf8 = "<objednavka><zbozi>Žárovky</zbozi></objednavka>";
+  read.Root()->SetAsString(FromUtf8(utf8));
+  std::cout << ToUtf8(read.Root()->SubItems(0)->Text()) << "\n";
+  // [/utf8]
   // [broken]
   try {
     read.Root()->SetAsString(u"<objednavka><zbozi");

@@ -1,5 +1,6 @@
 // Compares whole runs with single characters; sources and room end at a guard page.
 #include "one_by_one.h"
+#include "support/effort.h"
 #include "support/guarded_buffer.h"
 #include <ravo/codec/kernels/kernel_set.h>
 
@@ -165,7 +166,7 @@ TEST_P(EncodingRunsOfKernel, EncodeWhatSingleCharactersEncode) {
   std::mt19937 random(2);
   for (const Encoding& row : Encodings()) {
     if (row.encode_run == nullptr) continue;
-    for (int i = 0; i < 120; ++i) {
+    for (int i = 0; i < test::Rounds(120); ++i) {
       std::u16string text = RandomText(random, row);
       // Every second text has only characters of the encoding.
       if (i % 2 == 0)

@@ -1,5 +1,6 @@
 // Steps over spans: any division of a text gives the same result, and each step reports why it stopped.
 #include "one_by_one.h"
+#include "support/effort.h"
 #include <ravo/codec/byte_order_mark.h>
 #include <ravo/codec/place.h>
 #include <ravo/codec/texts.h>
@@ -79,7 +80,7 @@ TEST(Decode, InStepsGivesWhatSingleCharactersGive) {
   std::mt19937 random(5);
   for (const Encoding& row : Encodings()) {
     if (row.decode_one == nullptr) continue;
-    for (int i = 0; i < 400; ++i) {
+    for (int i = 0; i < test::Rounds(400); ++i) {
       const std::string bytes = SomeBytes(random, row);
       const std::size_t block = 1 + random() % 20;
       const std::size_t room = 1 + random() % 40;
@@ -139,7 +140,7 @@ TEST(Encode, InStepsGivesWhatSingleCharactersGive) {
   std::mt19937 random(6);
   for (const Encoding& row : Encodings()) {
     if (row.encode_one == nullptr) continue;
-    for (int i = 0; i < 400; ++i) {
+    for (int i = 0; i < test::Rounds(400); ++i) {
       std::u16string text = SomeText(random);
       std::erase_if(text, [&](char16_t ch) { return !test::WriteOneByOne(row, {&ch, 1}); });
       const std::size_t block = 1 + random() % 20;

@@ -1,4 +1,5 @@
 // The C library's own conversions, which are exact here, as witnesses for random bit patterns.
+#include "support/effort.h"
 #include <ravo/runtime/decimal.h>
 #include <ravo/runtime/nearest_float.h>
 
@@ -19,7 +20,7 @@ namespace {
 
 using ExtendedBits = FloatBits<Extended>;
 
-constexpr int kPatterns = 200'000;
+constexpr int kPatterns = test::Rounds(200'000);
 
 // Random values, one in 200 with an arbitrary exponent; those at the ends have thousands of digits and are
 // slow.

@@ -154,7 +154,7 @@ TEST(EncodingRules, EveryUnitOfTwoBytes) {
 TEST(EncodingRules, WhatIsWrittenIsRead) {
   for (const EncodingRow& row : EncodingRows()) {
     const TDIUnicodeReadMethods& read = row.read != nullptr ? *row.read : Read_UTF_7;
-    if (row.write == nullptr) continue;
+    if (row.write == nullptr || !test::TriesAllCharacters(row)) continue;
     std::u16string all;
     std::size_t refused = 0;
     for (unsigned unit = 0; unit < 0x10000; ++unit) {

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "support/effort.h"
 #include <ravo/unicode/encodings.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <initializer_list>
 #include <optional>
@@ -13,6 +15,14 @@ namespace ravo::test {
 
 inline std::span<const std::uint8_t> AsBytes(std::string_view bytes) {
   return {reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size()};
+}
+
+/// Whether all characters are tried in an encoding: under sanitizers, in the first of each engine.
+inline bool TriesAllCharacters(const DIUnicode::EncodingRow& row) {
+  const auto& rows = DIUnicode::EncodingRows();
+  const auto first =
+      std::find_if(rows.begin(), rows.end(), [&](const auto& other) { return other.engine == row.engine; });
+  return !kSanitized || first->name == row.name;
 }
 
 /// Returns every character up to the end of the data.

@@ -19,16 +19,16 @@ using test::SuiteName;
 
 constexpr unsigned kMostSeconds = 30;
 
-// Nested folders named "d", each with a file and a non-empty folder beside the next one.
-void Nest(const std::filesystem::path& outermost, int levels) {
+// Nested folders of one name, each with a file and a non-empty folder beside the next one.
+void Nest(const std::filesystem::path& outermost, const std::string& name, int levels) {
   mkdir(outermost.c_str(), 0700);
   int at = open(outermost.c_str(), O_RDONLY | O_DIRECTORY);
   for (int i = 0; i < levels; ++i) {
-    mkdirat(at, "d", 0700);
+    mkdirat(at, name.c_str(), 0700);
     mkdirat(at, "e", 0700);
     mkdirat(at, "e/e", 0700);
     close(openat(at, "f", O_WRONLY | O_CREAT, 0600));
-    const int next = openat(at, "d", O_RDONLY | O_DIRECTORY);
+    const int next = openat(at, name.c_str(), O_RDONLY | O_DIRECTORY);
     close(at);
     at = next;
   }
@@ -41,8 +41,8 @@ bool LimitOpenFiles(rlim_t count) {
 }
 
 // Returns 0 if a tree of so many levels is deleted while few files may be open.
-int DeletesATree(const ScratchFolder& scratch, int levels) {
-  Nest(scratch.Path() / "tree", levels);
+int DeletesATree(const ScratchFolder& scratch, const std::string& name, int levels) {
+  Nest(scratch.Path() / "tree", name, levels);
   alarm(kMostSeconds);
   if (!LimitOpenFiles(32)) return 2;
   return DeleteDirectoryW(SuiteName(scratch.Path() / "tree"), true) ? 0 : 1;
@@ -50,13 +50,13 @@ int DeletesATree(const ScratchFolder& scratch, int levels) {
 
 TEST(DeleteDirectoryDeathTest, FoldersNestDeeperThanFilesMayBeOpen) {
   const ScratchFolder scratch;
-  EXPECT_EXIT(std::exit(DeletesATree(scratch, 100)), ::testing::ExitedWithCode(0), "");
+  EXPECT_EXIT(std::exit(DeletesATree(scratch, "d", 100)), ::testing::ExitedWithCode(0), "");
   EXPECT_FALSE(exists(scratch.Path() / "tree"));
 }
 
 TEST(DeleteDirectoryDeathTest, FoldersNestDeeperThanNamesReach) {
   const ScratchFolder scratch;
-  EXPECT_EXIT(std::exit(DeletesATree(scratch, 2'100)), ::testing::ExitedWithCode(0), "");
+  EXPECT_EXIT(std::exit(DeletesATree(scratch, std::string(250, 'd'), 50)), ::testing::ExitedWithCode(0), "");
   EXPECT_FALSE(exists(scratch.Path() / "tree"));
 }
 

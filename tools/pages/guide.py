@@ -38,6 +38,11 @@ def regions_of(program: str) -> dict[str, str]:
     return {name: textwrap.dedent(code) for name, code in REGION.findall(program)}
 
 
+def hidden_lines(program: str) -> list[str]:
+    """What a program has outside its regions, besides the frame of main."""
+    return [line for line in REGION.sub("", program).splitlines() if line.strip() not in ("", "int main() {", "}")]
+
+
 def code_of(block: re.Match[str], program: str) -> str:
     """The expected text of a block of code; KeyError has the name of a missing region."""
     regions = regions_of(program)
@@ -115,6 +120,7 @@ def check(root: pathlib.Path) -> list[str]:
     for program in sorted((root / "examples/guide").glob("*.cpp")):
         source = f"guide/{program.name}"
         quoted = {name for block in code if block["source"] == source for name in block["regions"].split(",")}
+        findings += [f"{source}: not shown in {DOCUMENT}, so what is shown does not compile: {line}" for line in hidden_lines(read(program))]
         findings += [f"{DOCUMENT}: does not show {source}#{name}" for name in regions_of(read(program)) if name not in quoted]
         if shown.count(f"guide_{program.stem}") != 1:
             findings.append(f"{DOCUMENT}: wants what {source} prints, once")
@@ -136,6 +142,7 @@ PLANTINGS: list[Planting] = [
     ("a region that is not there", _tree(_CODE.replace("#a", "#b") + _OUTPUT), "has no region 'b'"),
     ("a program that is not there", _tree(_CODE.replace("x.cpp", "y.cpp") + _OUTPUT), "no example guide/y.cpp"),
     ("a region that is not shown", _tree(_CODE + _OUTPUT, _PROGRAM + "// [c]\n// [/c]\n"), "does not show guide/x.cpp#c"),
+    ("a line that is not shown", _tree(_CODE + _OUTPUT, "using namespace x;\n" + _PROGRAM), "does not compile: using namespace x;"),
     ("no output", _tree(_CODE), "wants what guide/x.cpp prints"),
     ("output twice", _tree(_CODE + _OUTPUT + _OUTPUT), "wants what guide/x.cpp prints"),
     ("code of nowhere", _tree(_CODE + _OUTPUT + "```cpp\nh();\n```\n"), "copied from no example"),
