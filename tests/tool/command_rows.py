@@ -93,7 +93,7 @@ ROWS = [
     Row(["--version"], holds=lambda out: not re.fullmatch(r"ravo \d+\.\d+\.\d+\n", out)),
     Row(["--help"], out=("report", "table", "captions", "hash", "random", "Examples:")),
     Row(["report", "--help"], out=("--business", "-o FILE", "Examples:")),
-    Row(["table", "--help"], out=("--module", "--all", "Profil, RSS, DCF", "Examples:")),
+    Row(["table", "--help"], out=("--module", "--all", "{Profil,RSS,DCF,", "Examples:")),
     Row(["captions", "--help"], out=("--plain", "Examples:")),
     Row(["version"], holds=lambda out: not re.fullmatch(r"ravo \d+\.\d+\.\d+\n", out)),
     Row(["-V"], holds=lambda out: not re.fullmatch(r"ravo \d+\.\d+\.\d+\n", out)),
@@ -156,7 +156,7 @@ ROWS = [
     Row(["table", "--module", ""], WRONG_USAGE, err=("Profil, RSS",)),
     Row(["table", "--module"], WRONG_USAGE),
     # Captions.
-    Row(["captions"], out=("65477\trPropertyDokladPZPohledavka\t&Pohledávka\n", "ÚD. / Spusťte operaci „Zaúčtovat do ÚD“")),
+    Row(["captions"], czech=("\nÚroveň sazby DPH\n  65479\t", "\nZpráva pro podporu\n"), out=("65477\trPropertyDokladPZPohledavka\t&Pohledávka\n", "ÚD. / Spusťte operaci „Zaúčtovat do ÚD“")),
     Row(["captions", "--plain"], out=("65477\trPropertyDokladPZPohledavka\tPohledávka\n", "\tDodací list\n"), holds=without("&")),
     Row(["captions", "--json"], holds=as_json(caption_groups)),
     Row(["captions", "--plain", "--json"], out=("„Zaúčtovat do ÚD“",), holds=without("&")),
@@ -287,7 +287,7 @@ ROWS = [
     Row(["random", "--seed", "x", "--alphabet", "a😀"], WRONG_USAGE, err=("past U+FFFF",)),
     Row(["random", "--seed", "x", "--count", "-1"], WRONG_USAGE),
     # The tour: each command as typed and its output; no colours without a terminal.
-    Row(["--help"], out=("\nThe suite:\n  table ", "\nAccounting:\n  check ", "\n  tour "), holds=without("Subcommands:")),
+    Row(["--help"], out=("\nThe suite:\n  table ", "\nAccounting:\n  check ", "\n  tour "), holds=without("\nCommands:")),
     Row(["tour"], holds=without("\033"), out=(
         "$ ravo table 71710 100121 72510\n71710\tÚčetní deník\n", "not valid: wrong check digit, right: 4006381333931\n(exit status 1)\n",
         '$ ravo address "Nádražní 1234/5"\nNádražní\t1234/5\n', "\n$ ravo report\nInformace o klientské vrstvě\n", " lines more\n",

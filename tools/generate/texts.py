@@ -99,6 +99,9 @@ def calls(code: list[str]) -> Iterator[Entry]:
             continue
         given = arguments(code, index + 1)
         wanted = [given[place] for place in LITERAL_PLACES[token] if place < len(given)]
+        # Text(first ? ToTranslate("...") : ToTranslate("...")): the inner calls have the texts.
+        if any(part in LITERAL_PLACES for argument in wanted for part in argument):
+            continue
         if not any(is_literal(part) for argument in wanted for part in argument):
             continue
         if not all(is_literal(part) for argument in wanted for part in argument):

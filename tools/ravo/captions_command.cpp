@@ -17,6 +17,23 @@ struct CaptionsOptions {
   bool json = false;
 };
 
+// The headings of the library's groups; JSON has them as they are.
+[[maybe_unused]] constexpr const char* kHeadings[] = {
+    ToTranslate("Document kind of payables and receivables"),
+    ToTranslate("VAT rate level"),
+    ToTranslate("Operation kind"),
+    ToTranslate("Warehouse posting account"),
+    ToTranslate("Payroll surcharge computation"),
+    ToTranslate("VAT rounding"),
+    ToTranslate("Rounding of totals"),
+    ToTranslate("Price basis of an amount"),
+    ToTranslate("Discount or surcharge calculation"),
+    ToTranslate("Payment method"),
+    ToTranslate("Transferred flag"),
+    ToTranslate("Messages on automatic posting"),
+    ToTranslate("Support report"),
+};
+
 // Collects the captions as lines or as JSON.
 class Listing {
  public:
@@ -35,7 +52,7 @@ class Listing {
 
  private:
   void Begin(std::string_view group) {
-    text_ += lines_.Text() + (text_.empty() ? "" : "\n") + std::string(group) + "\n";
+    text_ += lines_.Text() + (text_.empty() ? "" : "\n") + Text(group) + "\n";
     lines_ = {};
     groups_.push_back({{"group", group}, {"items", Json::array()}});
     group_ = group;

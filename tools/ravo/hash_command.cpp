@@ -169,9 +169,12 @@ std::string HashFooter() {
 void AddHashCommand(CLI::App& program, Outcome& outcome) {
   CLI::App* command = program.add_subcommand("hash", Text("Computes and checks sums of files"));
   const auto options = std::make_shared<HashOptions>();
-  command->add_option(
-      Text("SUM FILE"), options->words,
-      Text("The kind of sum ({0}), then files; standard input for \"-\" or no file", {Names()}));
+  // The set is for completion: the words after the first are files.
+  const auto any_word = [](const std::string&) { return std::string(); };
+  command
+      ->add_option(Text("SUM FILE"), options->words,
+                   Text("The kind of sum ({0}), then files; standard input for \"-\" or no file", {Names()}))
+      ->check(CLI::Validator(any_word, "{" + CLI::detail::find_and_replace(Names(), ", ", ",") + "}"));
   command->add_flag("--all", options->all, Text("Compute every sum; all words are files"));
   command->add_flag("--check", options->check,
                     Text("The files are lists of sums; compare each with the current file"));

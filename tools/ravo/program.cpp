@@ -15,13 +15,13 @@
 namespace tool {
 namespace {
 
-constexpr const char* kProgramFooter = ToTranslate(
+constexpr const char* kExitStatus = ToTranslate(
     "Exit status: 0 yes, or nothing found; 1 no, or findings; 2 wrong usage, or some of the work could not\n"
-    "be done.\n"
-    "\n"
+    "be done.\n");
+constexpr const char* kEnvironment = ToTranslate(
     "Environment: RAVO_LANG, LANGUAGE, LC_ALL, LC_MESSAGES, LANG: the first that is set chooses the\n"
-    "language of texts for people (cs, en); what scripts read is the same in every language.\n"
-    "\n"
+    "language of texts for people (cs, en); what scripts read is the same in every language.\n");
+constexpr const char* kExamples = ToTranslate(
     "Examples:\n"
     "  ravo tour                      the commands at work, one by one\n"
     "  ravo report\n"
@@ -77,6 +77,7 @@ void AddHelpCommand(CLI::App& program, Outcome& outcome) {
 
 void AddVersionCommand(CLI::App& program, Outcome& outcome) {
   CLI::App* command = program.add_subcommand("version", Text("Shows the version of the program"));
+  command->footer("");
   command->callback([&outcome] { outcome.out = "ravo " RAVO_VERSION "\n"; });
 }
 
@@ -144,7 +145,7 @@ void Describe(CLI::App& program, Outcome& outcome) {
   program.set_help_flag("-h,--help", Text("Show this help"));
   program.set_version_flag("-V,--version", "ravo " RAVO_VERSION, Text("Show the version"));
   AddLanguageOption(program);
-  program.footer(Text(kProgramFooter));
+  program.footer(Text(kExitStatus) + "\n" + Text(kEnvironment) + "\n" + Text(kExamples));
   for (const Theme& theme : Themes()) AddTheme(program, theme, outcome);
   Complete(program, "", outcome);
 }

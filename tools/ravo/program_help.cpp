@@ -26,7 +26,8 @@ std::string HelpRow(const std::string& name, const std::string& description) {
 std::string ValueTitle(const CLI::Option& option, const CLI::Formatter& labels) {
   const std::string type = option.get_type_name();
   const auto colon = type.find(':');
-  if (colon == std::string::npos) return option.get_positional() ? "" : labels.get_label(type);
+  if (option.get_positional()) return "";
+  if (colon == std::string::npos) return labels.get_label(type);
   const std::string rule = type.substr(colon + 1);
   if (rule.starts_with('{')) return rule;
   return type.starts_with("TEXT:") ? rule : labels.get_label(type.substr(0, colon));

@@ -131,8 +131,8 @@ void AddTableCommand(CLI::App& program, Outcome& outcome) {
   const auto options = std::make_shared<TableOptions>();
   CLI::Option* ids = command->add_option(Text("ID"), options->ids, Text("Table identifiers to look up"));
   ids->check(CLI::Validator(CheckIdentifier, Text("NUMBER")));
-  command->add_option("--module", options->module, Text("Only this module: {0}", {ModuleNames()}))
-      ->check(CLI::Validator(CheckModule, Text("NAME")));
+  command->add_option("--module", options->module, Text("Only the tables of this module"))
+      ->check(CLI::Validator(CheckModule, "{" + CLI::detail::join(ModuleKeys(), ",") + "}"));
   command->add_flag("--all", options->all, Text("List every table"))->excludes(ids);
   command->add_flag("--json", options->json, Text("Write JSON"));
   command->footer(Text(kTableFooter));
