@@ -8,6 +8,9 @@
 /// outcome.
 namespace tool {
 
+/// Adds all of them, by theme, to the program.
+void Describe(CLI::App& program, Outcome& outcome);
+
 void AddReportCommand(CLI::App& program, Outcome& outcome);
 void AddTableCommand(CLI::App& program, Outcome& outcome);
 void AddCaptionsCommand(CLI::App& program, Outcome& outcome);

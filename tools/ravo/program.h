@@ -7,7 +7,8 @@
 // help.
 //
 // Start here, then read program.cpp and one command, such as round_command.cpp. A command never exits by
-// itself: it returns its result in an `Outcome`, which main.cpp writes.
+// itself: it returns its result in an `Outcome`, which main.cpp writes. What people read goes through text.h,
+// which translates it; errors through `Complain`; listings through columns.h.
 #pragma once
 
 #include "outcome.h"
@@ -15,16 +16,11 @@
 #include <string>
 #include <vector>
 
-#include <CLI/CLI.hpp>
-
-/// The whole program: its sub-commands by theme, and the run of one command line.
+/// The whole program: the run of one command line.
 namespace tool {
 
-/// Adds all commands and options to `program`; the command that runs writes its result to `outcome`.
-void Describe(CLI::App& program, Outcome& outcome);
-
-/// Runs the arguments (without the program's name) and returns the outcome, which also reports wrong usage.
-/// Other exceptions of a sub-command pass through.
+/// Runs the arguments (without the program's name) and returns the outcome, which also reports wrong usage and
+/// what a sub-command throws.
 [[nodiscard]] Outcome Run(std::vector<std::string> arguments);
 
 }  // namespace tool

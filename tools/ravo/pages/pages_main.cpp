@@ -1,7 +1,7 @@
 // Writes one of the pages. usage: ravo_pages man|man-cs|bash|zsh|fish FILE
+#include "commands.h"
 #include "language.h"
 #include "pages.h"
-#include "program.h"
 
 #include <fstream>
 #include <iostream>
