@@ -54,8 +54,10 @@ set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${folder}/shlibs ${folder}/trigge
 ravo_packed(${folder}/changelog.Debian ${folder}/changelog.Debian.gz)
 ravo_packed(${PROJECT_SOURCE_DIR}/CHANGELOG.md ${folder}/changelog.gz)
 ravo_packed(${PROJECT_BINARY_DIR}/pages/ravo.man ${folder}/ravo.1.gz)
+file(MAKE_DIRECTORY ${folder}/cs)
+ravo_packed(${PROJECT_BINARY_DIR}/pages/ravo.man-cs ${folder}/cs/ravo.1.gz)
 add_custom_target(ravo_packed_documents ALL
-  DEPENDS ${folder}/changelog.Debian.gz ${folder}/changelog.gz ${folder}/ravo.1.gz)
+  DEPENDS ${folder}/changelog.Debian.gz ${folder}/changelog.gz ${folder}/ravo.1.gz ${folder}/cs/ravo.1.gz)
 add_dependencies(ravo_packed_documents ravo_all_pages)
 
 foreach(component ${CPACK_COMPONENTS_ALL})
@@ -67,3 +69,4 @@ foreach(component ${CPACK_COMPONENTS_ALL})
 endforeach()
 ravo_install_pages(${CMAKE_INSTALL_DATADIR}/doc/${ravo_debian_development} ${CMAKE_INSTALL_DATADIR}/doc/${ravo_debian_tool})
 install(FILES ${folder}/ravo.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tool)
+install(FILES ${folder}/cs/ravo.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/cs/man1 COMPONENT tool)

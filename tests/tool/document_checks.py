@@ -336,7 +336,7 @@ def check_forms(program):
             table.write_bytes(text.encode(encoding))
             result = program.run(command)
             count = fields.count(b"<</T(")
-            if (result.status, result.out, result.err) != (YES, f"{form.name}: {count} fields\n", ""):
+            if (result.status, result.out, result.err) != (YES, f"{form.name}: {'one field' if count == 1 else f'{count} fields'}\n", ""):
                 yield f"form {text!r}: {result}"
             elif form.read_bytes() != FORM_START + fields + FORM_END:
                 yield f"form {text!r}: {form.read_bytes()!r}"
@@ -344,15 +344,15 @@ def check_forms(program):
     for text, told in (
         ("", "no first row"),
         ("field\na\n", "line 1: there is no column 'value'"),
-        ("field,value\na,1\n,2\n", "line 3: a field without a name"),
+        ("field,value\na,1\n,2\n", "line 3: the field has no name"),
         ("field,value\na,(\n", "line 2: '(' has"),
         ("field,value\na,)(\n", "line 2: ')(' has"),
         ("field,value\na,C:\\\n", "line 2: 'C:\\' has"),
         ("field,value\na,語\n", "line 2: the code page of forms lacks '語'"),
         ("field,value\n(,a\n", "line 2: '(' has"),
         ("field,value,kind\na,1,box\n", "line 2: 'box' is not a kind"),
-        ("field,value,kind\na,1.5,number\n", "line 2: '1.5' is not a 32-bit number"),
-        ("field,value,kind\na,2147483648,number\n", "line 2: '2147483648' is not a 32-bit number"),
+        ("field,value,kind\na,1.5,number\n", "line 2: '1.5' is not a whole number that fits 32 bits"),
+        ("field,value,kind\na,2147483648,number\n", "line 2: '2147483648' is not a whole number that fits 32 bits"),
     ):
         table.write_text(text, encoding="utf-8", newline="")
         yield from program.failures(Row(command, WRONG_USAGE, exact="", err=(table.name, told)))

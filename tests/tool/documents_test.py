@@ -16,6 +16,8 @@ import subprocess
 import sys
 import tempfile
 
+# The pages show English, whatever the user of this machine reads.
+os.environ["RAVO_LANG"] = "en"
 PAGES = ("README.md", "docs/guide.md")
 FENCE = re.compile(r"^```(?:sh)?\n(.*?)^```$", re.DOTALL | re.MULTILINE)
 ANY_FENCE = re.compile(r"^```.*?^```$", re.DOTALL | re.MULTILINE)

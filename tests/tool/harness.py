@@ -10,6 +10,9 @@ from typing import Callable, Optional
 
 YES, NO, WRONG_USAGE, SKIPPED = 0, 1, 2, 77
 
+# The tests read English, whatever the user of this machine reads.
+os.environ["RAVO_LANG"] = "en"
+
 # On a busy machine the emulator's driver host may crash at the start of a session and print into the output.
 # A crash of the program itself shows in its exit status.
 EMULATOR_FALL = re.compile(r"^wine: Unhandled page fault .* starting debugger\.\.\.\r?\n", re.MULTILINE)
@@ -28,6 +31,8 @@ class Row:
     holds: Optional[Callable[[str], object]] = None
     # The answer no is printed only on standard output.
     silent: bool = False
+    # What Czech users read on either channel.
+    czech: tuple[str, ...] = ()
 
 
 @dataclass
@@ -42,13 +47,14 @@ class Program:
         self.command, self.folder = command, folder
         self.emulated = len(command) > 1
 
-    def run(self, arguments, out=None, given=None):
+    def run(self, arguments, out=None, given=None, language="en"):
         """`given` is the name of a file that is standard input."""
         # Files rather than pipes: an emulator's servers would hold pipes open for seconds.
         source = self.folder / given if given else os.devnull
         with open(source, "rb") as own_in, tempfile.TemporaryFile() as own_out, tempfile.TemporaryFile() as err:
             done = subprocess.run(
-                self.command + arguments, cwd=self.folder, stdin=own_in, stdout=out or own_out, stderr=err, timeout=300
+                self.command + arguments, cwd=self.folder, stdin=own_in, stdout=out or own_out, stderr=err, timeout=300,
+                env={**os.environ, "RAVO_LANG": language},
             )
             texts = []
             for file in (own_out, err):
@@ -75,8 +81,17 @@ class Program:
             wrong.append("nothing on standard error")
         if row.holds and (remark := row.holds(result.out)):
             wrong.append(str(remark))
+        if row.czech:
+            wrong += self.czech_failures(row)
         shown = f"\n  standard output: {result.out[:600]!r}\n  standard error: {result.err[:600]!r}"
         return [f"ravo {' '.join(row.arguments)}: {remark}{shown}" for remark in wrong]
+
+
+    def czech_failures(self, row):
+        result = self.run(row.arguments, language="cs")
+        if result.status != row.status:
+            yield f"status {result.status} in Czech, not {row.status}"
+        yield from (f"Czech lacks {text!r}: {result.out[:300]!r} {result.err[:300]!r}" for text in row.czech if text not in result.out + result.err)
 
 
 def as_json(check):

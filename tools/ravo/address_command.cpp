@@ -1,5 +1,7 @@
+#include "columns.h"
 #include "commands.h"
 #include "json_text.h"
+#include "text.h"
 #include <ravo/RavoInterface.h>
 #include <ravo/RavoInterfaceCommon.h>
 
@@ -16,32 +18,34 @@ struct AddressOptions {
 };
 
 void Run(const AddressOptions& options, Outcome& outcome) {
+  Columns lines;
   Json answers = Json::array();
   for (const std::string& address : options.addresses) {
     std::u16string street;
     std::u16string number;
     ravo::RavoInterfaceCommon::AdresaExpand(ravo::FromUtf8(address), street, number);
-    outcome.out += ravo::ToUtf8(street) + "\t" + ravo::ToUtf8(number) + "\n";
+    lines.Add({ravo::ToUtf8(street), ravo::ToUtf8(number)});
     answers.push_back(
         {{"address", address}, {"street", ravo::ToUtf8(street)}, {"number", ravo::ToUtf8(number)}});
   }
-  if (options.json) outcome.out = JsonText(answers);
+  outcome.out = options.json ? JsonText(answers) : lines.Text();
 }
 
-constexpr const char* kAddressFooter =
+constexpr const char* kAddressFooter = ToTranslate(
     "One line per address: the street, a tab, the house number (empty if the last word is not one).\n"
     "\n"
     "Examples:\n"
-    "  ravo address \"Nádražní 1234/5\" \"Na Příkopě XIV\"\n";
+    "  ravo address \"Nádražní 1234/5\" \"Na Příkopě XIV\"\n");
 
 }  // namespace
 
 void AddAddressCommand(CLI::App& program, Outcome& outcome) {
-  CLI::App* command = program.add_subcommand("address", "Splits addresses into street and house number");
+  CLI::App* command =
+      program.add_subcommand("address", Text("Splits addresses into street and house number"));
   const auto options = std::make_shared<AddressOptions>();
-  command->add_option("ADDRESS", options->addresses, "Addresses, one line each")->required();
-  command->add_flag("--json", options->json, "Write JSON");
-  command->footer(kAddressFooter);
+  command->add_option(Text("ADDRESS"), options->addresses, Text("Addresses"))->required();
+  command->add_flag("--json", options->json, Text("Write JSON"));
+  command->footer(Text(kAddressFooter));
   command->callback([options, &outcome] { Run(*options, outcome); });
 }
 

@@ -1,9 +1,12 @@
+#include "columns.h"
 #include "commands.h"
 #include "json_text.h"
+#include "text.h"
 #include <ravo/DIUnicode.h>
 #include <ravo/DIUtils.h>
 #include <ravo/RavoInterface.h>
 
+#include <algorithm>
 #include <memory>
 #include <string>
 #include <vector>
@@ -26,36 +29,36 @@ struct Category {
 };
 
 constexpr Category kCategories[] = {
-    {"Lu", "upper-case letter", unicode::CharIsLetterUpperCaseW},
-    {"Ll", "lower-case letter", unicode::CharIsLetterLowerCaseW},
-    {"Lt", "title-case letter", unicode::CharIsLetterTitleCaseW},
-    {"Lm", "modifier letter", unicode::CharIsLetterModifierW},
-    {"Lo", "letter without case", unicode::CharIsLetterOtherW},
-    {"Mn", "mark that takes no room", unicode::CharIsMarkNon_SpacingW},
-    {"Mc", "mark that takes room", unicode::CharIsMarkSpacing_CombinedW},
-    {"Me", "enclosing mark", unicode::CharIsMarkEnclosingW},
-    {"Nd", "decimal digit", unicode::CharIsNumber_DecimalW},
-    {"Nl", "letter used as a number", unicode::CharIsNumber_LetterW},
-    {"No", "other number", unicode::CharIsNumber_OtherW},
-    {"Pc", "connector", unicode::CharIsPunctuation_ConnectorW},
-    {"Pd", "dash", unicode::CharIsPunctuation_DashW},
-    {"Ps", "opening punctuation", unicode::CharIsPunctuation_OpenW},
-    {"Pe", "closing punctuation", unicode::CharIsPunctuation_CloseW},
-    {"Pi", "initial quote", unicode::CharIsPunctuation_InitialQuoteW},
-    {"Pf", "final quote", unicode::CharIsPunctuation_FinalQuoteW},
-    {"Po", "other punctuation", unicode::CharIsPunctuation_OtherW},
-    {"Sm", "mathematical symbol", unicode::CharIsSymbolMathW},
-    {"Sc", "currency sign", unicode::CharIsSymbolCurrencyW},
-    {"Sk", "modifier symbol", unicode::CharIsSymbolModifierW},
-    {"So", "other symbol", unicode::CharIsSymbolOtherW},
-    {"Zs", "space", unicode::CharIsSeparatorSpaceW},
-    {"Zl", "line separator", unicode::CharIsSeparatorLineW},
-    {"Zp", "paragraph separator", unicode::CharIsSeparatorParagraphW},
-    {"Cc", "control character", unicode::CharIsOtherControlW},
-    {"Cf", "format character", unicode::CharIsOtherFormatW},
-    {"Cs", "half of a surrogate pair", unicode::CharIsOtherSurrogateW},
-    {"Co", "for private use", unicode::CharIsOtherPrivateUseW},
-    {"Cn", "unassigned", [](char16_t) noexcept { return true; }},
+    {"Lu", ToTranslate("upper-case letter"), unicode::CharIsLetterUpperCaseW},
+    {"Ll", ToTranslate("lower-case letter"), unicode::CharIsLetterLowerCaseW},
+    {"Lt", ToTranslate("title-case letter"), unicode::CharIsLetterTitleCaseW},
+    {"Lm", ToTranslate("modifier letter"), unicode::CharIsLetterModifierW},
+    {"Lo", ToTranslate("letter without case"), unicode::CharIsLetterOtherW},
+    {"Mn", ToTranslate("mark that takes no room"), unicode::CharIsMarkNon_SpacingW},
+    {"Mc", ToTranslate("mark that takes room"), unicode::CharIsMarkSpacing_CombinedW},
+    {"Me", ToTranslate("enclosing mark"), unicode::CharIsMarkEnclosingW},
+    {"Nd", ToTranslate("decimal digit"), unicode::CharIsNumber_DecimalW},
+    {"Nl", ToTranslate("letter used as a number"), unicode::CharIsNumber_LetterW},
+    {"No", ToTranslate("other number"), unicode::CharIsNumber_OtherW},
+    {"Pc", ToTranslate("connector"), unicode::CharIsPunctuation_ConnectorW},
+    {"Pd", ToTranslate("dash"), unicode::CharIsPunctuation_DashW},
+    {"Ps", ToTranslate("opening punctuation"), unicode::CharIsPunctuation_OpenW},
+    {"Pe", ToTranslate("closing punctuation"), unicode::CharIsPunctuation_CloseW},
+    {"Pi", ToTranslate("initial quote"), unicode::CharIsPunctuation_InitialQuoteW},
+    {"Pf", ToTranslate("final quote"), unicode::CharIsPunctuation_FinalQuoteW},
+    {"Po", ToTranslate("other punctuation"), unicode::CharIsPunctuation_OtherW},
+    {"Sm", ToTranslate("mathematical symbol"), unicode::CharIsSymbolMathW},
+    {"Sc", ToTranslate("currency sign"), unicode::CharIsSymbolCurrencyW},
+    {"Sk", ToTranslate("modifier symbol"), unicode::CharIsSymbolModifierW},
+    {"So", ToTranslate("other symbol"), unicode::CharIsSymbolOtherW},
+    {"Zs", ToTranslate("space"), unicode::CharIsSeparatorSpaceW},
+    {"Zl", ToTranslate("line separator"), unicode::CharIsSeparatorLineW},
+    {"Zp", ToTranslate("paragraph separator"), unicode::CharIsSeparatorParagraphW},
+    {"Cc", ToTranslate("control character"), unicode::CharIsOtherControlW},
+    {"Cf", ToTranslate("format character"), unicode::CharIsOtherFormatW},
+    {"Cs", ToTranslate("half of a surrogate pair"), unicode::CharIsOtherSurrogateW},
+    {"Co", ToTranslate("for private use"), unicode::CharIsOtherPrivateUseW},
+    {"Cn", ToTranslate("unassigned"), [](char16_t) noexcept { return true; }},
 };
 
 const Category& CategoryOf(char16_t c) {
@@ -112,34 +115,41 @@ std::u16string Units(const std::string& word) {
   std::u16string text = ravo::FromUtf8(word);
   if (!utils::StrSameStartI(text, u"U+") || text.size() < 3) return text;
   const std::int32_t code = utils::HexToIntW(std::u16string_view(text).substr(2));
-  if (code < 0 || code > 0xFFFF) throw CLI::ValidationError("'" + word + "' is not from U+0000 to U+FFFF");
+  if (code < 0 || code > 0xFFFF)
+    throw CLI::ValidationError(Text("'{0}' is not from U+0000 to U+FFFF", {word}));
   return {static_cast<char16_t>(code)};
 }
 
-// One line per sequence of bytes, with all encodings that share it.
-std::string TextOfBytes(const Json& by_encoding) {
+// One row per sequence of bytes, with all encodings that share it.
+void AddBytes(const Json& by_encoding, Columns& rows) {
   Json shared = Json::object();
   for (const auto& [encoding, bytes] : by_encoding.items())
     shared[bytes.get<std::string>()].push_back(encoding);
-  std::string text;
   for (const auto& [bytes, encodings] : shared.items()) {
-    text += "bytes\t" + bytes + "\t";
-    for (const Json& encoding : encodings) text += encoding.get<std::string>() + " ";
-    text.back() = '\n';
+    std::string names;
+    for (const Json& encoding : encodings) names += (names.empty() ? "" : " ") + encoding.get<std::string>();
+    rows.Add({"bytes", bytes, names});
   }
-  return text;
 }
 
-std::string CharacterText(const Json& facts) {
-  std::string text;
+// The category of a script has a stable name; its words are for people.
+std::string TextOfFact(const std::string& name, const Json& value) {
+  if (!value.is_string()) return value.dump();
+  if (name != "category") return value.get<std::string>();
+  const Category& category = *std::ranges::find_if(
+      kCategories, [&](const Category& row) { return value.get<std::string>().starts_with(row.name); });
+  return std::string(category.name) + ", " + Text(category.words);
+}
+
+std::string TextOfFacts(const Json& facts) {
+  Columns rows;
   for (const auto& [name, value] : facts.items()) {
-    if (value.is_object()) {
-      text += TextOfBytes(value);
-    } else {
-      text += name + "\t" + (value.is_string() ? value.get<std::string>() : value.dump()) + "\n";
-    }
+    if (value.is_object())
+      AddBytes(value, rows);
+    else
+      rows.Add({name, TextOfFact(name, value)});
   }
-  return text;
+  return rows.Text();
 }
 
 void Run(const CharOptions& options, Outcome& outcome) {
@@ -151,10 +161,10 @@ void Run(const CharOptions& options, Outcome& outcome) {
     outcome.out = JsonText(all);
     return;
   }
-  for (const Json& facts : all) outcome.out += (outcome.out.empty() ? "" : "\n") + CharacterText(facts);
+  for (const Json& facts : all) outcome.out += (outcome.out.empty() ? "" : "\n") + TextOfFacts(facts);
 }
 
-constexpr const char* kCharFooter =
+constexpr const char* kCharFooter = ToTranslate(
     "Characters past U+FFFF are shown as their two surrogates.\n"
     "\n"
     "Exit status: 0, or 2 wrong usage.\n"
@@ -162,18 +172,19 @@ constexpr const char* kCharFooter =
     "Examples:\n"
     "  ravo char č\n"
     "  ravo char U+010D U+FB01\n"
-    "  ravo char --json Kč\n";
+    "  ravo char --json Kč\n");
 
 }  // namespace
 
 void AddCharCommand(CLI::App& program, Outcome& outcome) {
   CLI::App* command = program.add_subcommand(
-      "char", "Shows category, class, mappings, decompositions and bytes in every encoding");
+      "char", Text("Shows category, class, mappings, decompositions and bytes in every encoding"));
   const auto options = std::make_shared<CharOptions>();
-  command->add_option("CHARACTER", options->characters, "Characters, or U+ and a hexadecimal number")
+  command
+      ->add_option(Text("CHARACTER"), options->characters, Text("Characters, or U+ and a hexadecimal number"))
       ->required();
-  command->add_flag("--json", options->json, "Write JSON");
-  command->footer(kCharFooter);
+  command->add_flag("--json", options->json, Text("Write JSON"));
+  command->footer(Text(kCharFooter));
   command->callback([options, &outcome] { Run(*options, outcome); });
 }
 

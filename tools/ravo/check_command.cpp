@@ -7,7 +7,6 @@
 #include "json_text.h"
 #include "kind_lines.h"
 #include "table_text.h"
-#include "tell.h"
 #include "text.h"
 #include "value_reasons.h"
 #include <ravo/RavoInterface.h>
@@ -92,7 +91,7 @@ void CheckSuiteValues(const CheckOptions& options, Outcome& outcome) {
   }
   if (options.json) outcome.out = JsonText(answers);
   const std::string note = options.suite ? std::string() : SuiteRuleNote(kind);
-  if (!note.empty()) Tell(outcome, "check", options.kind + ": " + note, Answer::Yes);
+  if (!note.empty()) Complain(outcome, options.kind + ": " + note, Answer::Yes);
 }
 
 // The suite's rule if it is asked for or the country has none.

@@ -14,9 +14,16 @@ namespace tool {
 
 enum class Channel { Out, Err };
 
-/// Writes a text: to a console in the console's own form, to a file or pipe as UTF-8 bytes. Returns false if
-/// not all of it could be written.
+/// Writes a text: to a console in the console's own form, to a file or pipe as UTF-8 bytes. On a terminal,
+/// control characters are made visible (printable.h). Returns false if not all of it could be written.
 [[nodiscard]] bool Write(Channel channel, std::string_view utf8);
+
+/// The same for the program's own colours and moves of the cursor: control characters stay.
+[[nodiscard]] bool WriteWithCodes(Channel channel, std::string_view utf8);
+
+/// Returns the name of the language of the system's own dialogs, such as "cs"; empty if the environment
+/// decides.
+[[nodiscard]] std::string SystemLanguage();
 
 /// The name that denotes standard input.
 inline constexpr std::string_view kInputName = "-";

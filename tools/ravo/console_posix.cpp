@@ -13,7 +13,7 @@ std::vector<std::string> Arguments(int count, const char* const* values) {
   return count > 0 ? std::vector<std::string>(values + 1, values + count) : std::vector<std::string>();
 }
 
-bool Write(Channel channel, std::string_view utf8) {
+bool WriteWithCodes(Channel channel, std::string_view utf8) {
   const int file = channel == Channel::Out ? STDOUT_FILENO : STDERR_FILENO;
   while (!utf8.empty()) {
     const ssize_t count = write(file, utf8.data(), utf8.size());
@@ -30,6 +30,8 @@ std::size_t ReadInput(std::span<std::byte> to) {
     if (errno != EINTR) throw std::runtime_error("standard input cannot be read");
   }
 }
+
+std::string SystemLanguage() { return {}; }
 
 bool IsTerminal(Channel channel) {
   return isatty(channel == Channel::Out ? STDOUT_FILENO : STDERR_FILENO) == 1;

@@ -68,7 +68,7 @@ std::vector<std::string> Arguments(int, const char* const*) {
   return arguments;
 }
 
-bool Write(Channel channel, std::string_view utf8) {
+bool WriteWithCodes(Channel channel, std::string_view utf8) {
   const HANDLE handle = HandleOf(channel);
   DWORD mode = 0;
   return GetConsoleMode(handle, &mode) ? WriteToConsole(handle, ToWide(utf8)) : WriteBytes(handle, utf8);
@@ -82,6 +82,8 @@ std::size_t ReadInput(std::span<std::byte> to) {
   if (ReadFile(input, to.data(), most, &count, nullptr) || GetLastError() == ERROR_BROKEN_PIPE) return count;
   throw std::runtime_error("standard input cannot be read");
 }
+
+std::string SystemLanguage() { return PRIMARYLANGID(GetUserDefaultUILanguage()) == LANG_CZECH ? "cs" : "en"; }
 
 bool IsTerminal(Channel channel) {
   DWORD mode = 0;

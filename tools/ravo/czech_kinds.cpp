@@ -36,6 +36,13 @@ constexpr CheckKind kCzechKinds[] = {
 #undef RAVO_KIND
 };
 
+constexpr CheckKind kCzechTitles[] = {
+#define RAVO_KIND(number, name, text, parse, czech_name, english) \
+  {text, czech_name, CheckForm<czech::Kind::name>},
+#include <ravo/czech/kinds.inc>
+#undef RAVO_KIND
+};
+
 // What each kind's form is, and what it does not tell.
 struct KindRule {
   czech::Kind kind;
@@ -249,7 +256,9 @@ Json CzechFindingJson(czech::Kind kind, const std::string& value, const CzechFin
 
 }  // namespace
 
-std::span<const CheckKind> CzechKinds() { return kCzechKinds; }
+std::span<const CheckKind> CzechKinds() {
+  return UserLanguage() == czech::Language::Czech ? kCzechTitles : kCzechKinds;
+}
 
 const CheckKind* FindCzechKind(std::string_view name) {
   const std::string_view own = name == "banka" ? "account" : name;

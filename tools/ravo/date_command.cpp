@@ -4,7 +4,6 @@
 #include "json_text.h"
 #include "month_names.h"
 #include "month_sheet.h"
-#include "tell.h"
 #include "text.h"
 #include <ravo/DIUtils.h>
 #include <ravo/RavoInterface.h>
@@ -152,7 +151,7 @@ std::string FactsText(const std::vector<Fact>& facts) {
 
 // Says where the two answers differ; `asked` is the one that is printed.
 void TellDifferences(const DateAnswer& asked, const BothAnswers& answers, bool as_suite, Outcome& outcome) {
-  const auto tell = [&](const std::string& message) { Tell(outcome, "date", message, Answer::Yes); };
+  const auto tell = [&](const std::string& message) { Complain(outcome, message, Answer::Yes); };
   if (!answers.suite) return tell(Text("the suite's modules have no date for this"));
   const DateAnswer& other = as_suite ? answers.exact : *answers.suite;
   if (other.when != asked.when)
@@ -197,7 +196,7 @@ void Describe(const DateInput& input, const DateOptions& options, Outcome& outco
 std::optional<DateInput> ReadOrTell(const std::string& text, const ravo::DateParts& today, Outcome& outcome) {
   auto read = ReadDate(text, today);
   if (auto* input = std::get_if<DateInput>(&read)) return std::move(*input);
-  Tell(outcome, "date", text + ": " + std::get<DateFault>(read).message, Answer::WrongUsage);
+  Complain(outcome, text + ": " + std::get<DateFault>(read).message, Answer::WrongUsage);
   return {};
 }
 
@@ -222,7 +221,7 @@ void Run(const DateOptions& options, Outcome& outcome) {
   try {
     ShowDate(options, outcome);
   } catch (const ravo::ConvertError&) {
-    Tell(outcome, "date", Text("the date is outside the years 1 to 9999"), Answer::No);
+    Complain(outcome, Text("the date is outside the years 1 to 9999"), Answer::No);
   }
 }
 

@@ -1,11 +1,15 @@
+#include "columns.h"
 #include "commands.h"
 #include "json_text.h"
+#include "nearest.h"
+#include "text.h"
 #include <ravo/DIUnicode.h>
 
 #include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 namespace tool {
 namespace {
@@ -17,15 +21,14 @@ struct EncodingOptions {
   bool json = false;
 };
 
-std::string_view Ways(const EncodingRow& row) {
-  if (row.write == nullptr) return "reads";
-  return row.read == nullptr ? "writes" : "reads, writes";
+std::string Ways(const EncodingRow& row) {
+  if (row.write == nullptr) return Text("reads");
+  return row.read == nullptr ? Text("writes") : Text("reads, writes");
 }
 
-std::string RowText(const EncodingRow& row) {
+std::vector<std::string> CellsOf(const EncodingRow& row) {
   const std::string code_page = row.code_page == 0 ? "" : std::to_string(row.code_page);
-  return std::string(row.name) + "\t" + std::string(row.label) + "\t" + code_page + "\t" +
-         std::string(Ways(row)) + "\t" + std::string(row.aliases) + "\n";
+  return {std::string(row.name), std::string(row.label), code_page, Ways(row), std::string(row.aliases)};
 }
 
 Json Aliases(std::string_view aliases) {
@@ -48,22 +51,29 @@ Json RowJson(const EncodingRow& row) {
           {"notes", row.notes}};
 }
 
+std::string UnknownEncoding(const std::string& name) {
+  std::vector<std::string> names;
+  for (const EncodingRow& row : ravo::DIUnicode::EncodingRows()) names.emplace_back(row.name);
+  const std::string meant = DidYouMean(name, names);
+  return Text("there is no encoding '{0}'", {name}) + (meant.empty() ? "" : ". ") + meant;
+}
+
 void Run(const EncodingOptions& options, Outcome& outcome) {
   const EncodingRow* const only = ravo::DIUnicode::FindEncoding(options.wanted);
+  Columns lines;
   Json rows = Json::array();
   for (const EncodingRow& row : ravo::DIUnicode::EncodingRows()) {
     if (!options.wanted.empty() && &row != only) continue;
-    outcome.out += RowText(row);
+    lines.Add(CellsOf(row));
     rows.push_back(RowJson(row));
   }
   if (rows.empty()) {
-    outcome.err += "ravo: there is no encoding '" + options.wanted + "'\n";
-    outcome.answer = Answer::No;
+    Complain(outcome, UnknownEncoding(options.wanted), Answer::No);
   }
-  if (options.json) outcome.out = JsonText(rows);
+  outcome.out = options.json ? JsonText(rows) : lines.Text();
 }
 
-constexpr const char* kEncodingsFooter =
+constexpr const char* kEncodingsFooter = ToTranslate(
     "A line has the name, a label, the Windows code page number if there is one, whether the encoding is "
     "read\n"
     "and written, and other names. Names are found in any case; characters other than letters and digits are "
@@ -74,16 +84,16 @@ constexpr const char* kEncodingsFooter =
     "Examples:\n"
     "  ravo encodings                  all of them\n"
     "  ravo encodings windows-1250     by name, alias or code page number\n"
-    "  ravo encodings 852 --json\n";
+    "  ravo encodings 852 --json\n");
 
 }  // namespace
 
 void AddEncodingsCommand(CLI::App& program, Outcome& outcome) {
   const auto options = std::make_shared<EncodingOptions>();
-  CLI::App* const command = program.add_subcommand("encodings", "Lists the encodings of text");
-  command->add_option("NAME", options->wanted, "A name, an alias, a label or a code page number");
-  command->add_flag("--json", options->json, "Write a JSON array with all properties");
-  command->footer(kEncodingsFooter);
+  CLI::App* const command = program.add_subcommand("encodings", Text("Lists the encodings of text"));
+  command->add_option(Text("NAME"), options->wanted, Text("A name, an alias, a label or a code page number"));
+  command->add_flag("--json", options->json, Text("Write a JSON array with all properties"));
+  command->footer(Text(kEncodingsFooter));
   command->callback([options, &outcome] { Run(*options, outcome); });
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "text.h"
+
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -20,9 +22,10 @@ struct FileSumKind {
 };
 
 inline constexpr std::array<FileSumKind, 3> kFileSums = {
-    {{FileSum::Crc32, "crc32", "CRC32", "CRC-32 of zip and Ethernet"},
-     {FileSum::Hash, "hash", "HASH", "hash of the suite's tables (lookup2, initial value 0)"},
-     {FileSum::HashIA, "hash-ia", "HASH-IA", "the same with letters in upper case (code page 1252)"}}};
+    {{FileSum::Crc32, "crc32", "CRC32", ToTranslate("CRC-32 of zip and Ethernet")},
+     {FileSum::Hash, "hash", "HASH", ToTranslate("hash of the suite's tables (lookup2, initial value 0)")},
+     {FileSum::HashIA, "hash-ia", "HASH-IA",
+      ToTranslate("the same with letters in upper case (code page 1252)")}}};
 
 using FileSums = std::array<std::uint32_t, kFileSums.size()>;
 

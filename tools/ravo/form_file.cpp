@@ -2,6 +2,7 @@
 
 #include "csv_file.h"
 #include "foreign_text.h"
+#include "text.h"
 #include <ravo/DIUnicode.h>
 #include <ravo/RavoFileCommon.h>
 #include <ravo/RavoInterface.h>
@@ -58,26 +59,26 @@ class FormWriter {
 
  private:
   void WriteField() {
-    const std::u16string name = TextOf(field_);
-    if (name.empty()) Refuse("a field without a name");
+    const std::u16string name = FormText(field_);
+    if (name.empty()) Refuse(Text("the field has no name"));
     const std::string kind = kind_ ? ForeignText(file_.Field(*kind_)) : std::string();
     if (kind == "number") {
       ravo::RavoFileCommon::FillPDFFieldAsInteger(stream_, name, NumberOf(value_));
     } else if (kind.empty() || kind == "text" || kind == "plain") {
-      ravo::RavoFileCommon::FillPDFField(stream_, name, TextOf(value_), kind != "plain");
+      ravo::RavoFileCommon::FillPDFField(stream_, name, FormText(value_), kind != "plain");
     } else {
-      Refuse("'" + kind + "' is not a kind; kinds are text, plain, number");
+      Refuse(Text("'{0}' is not a kind; kinds are text, plain and number", {kind}));
     }
   }
 
-  [[nodiscard]] std::u16string TextOf(std::size_t column) const {
+  [[nodiscard]] std::u16string FormText(std::size_t column) const {
     const std::string text = ForeignText(file_.Field(column));
     std::u16string wide = ravo::FromUtf8(text);
     if (!FitsAForm(wide)) {
-      Refuse("'" + text + "' has a backslash, a carriage return or unbalanced parentheses");
+      Refuse(Text("'{0}' has a backslash, a carriage return or unbalanced parentheses", {text}));
     }
     if (const std::string lacking = Lacking(wide); !lacking.empty()) {
-      Refuse("the code page of forms lacks '" + lacking + "'");
+      Refuse(Text("the code page of forms lacks '{0}'", {lacking}));
     }
     return wide;
   }
@@ -93,7 +94,8 @@ class FormWriter {
 
   [[nodiscard]] std::int32_t NumberOf(std::size_t column) const {
     const std::optional<std::int32_t> number = Number(file_.Field(column));
-    if (!number) Refuse("'" + ForeignText(file_.Field(column)) + "' is not a 32-bit number");
+    if (!number)
+      Refuse(Text("'{0}' is not a whole number that fits 32 bits", {ForeignText(file_.Field(column))}));
     return *number;
   }
 

@@ -1,13 +1,16 @@
 #include "commands.h"
 #include "console.h"
 #include "file_hash.h"
+#include "file_reason.h"
 #include "json_text.h"
 #include "kind_lines.h"
+#include "text.h"
 #include "whole_input.h"
 
 #include <memory>
 #include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace tool {
@@ -37,7 +40,7 @@ HashTask TaskOf(const HashOptions& options) {
   if (!options.all && !task.files.empty()) task.kind = FileSumNamed(task.files.front());
   if (task.kind) task.files.erase(task.files.begin());
   if (!task.kind && !options.all && !options.check)
-    throw CLI::ValidationError("hash: the first word must be one of " + Names() + ", or use --all");
+    throw CLI::ValidationError(Text("the first word must be a sum, one of {0}; or use --all", {Names()}));
   if (task.files.empty()) task.files.emplace_back(kInputName);
   return task;
 }
@@ -46,9 +49,10 @@ std::uint32_t SumOf(const FileSums& sums, const FileSumKind& kind) {
   return sums[static_cast<std::size_t>(kind.sum)];
 }
 
-void Complain(Outcome& outcome, const std::string& name, const std::string& what, Answer answer) {
-  outcome.err += "ravo: " + name + ": " + what + "\n";
-  if (outcome.answer != Answer::WrongUsage) outcome.answer = answer;
+// The notation of sums in files, which JSON has no numbers for.
+std::string SumText(std::uint32_t sum) {
+  const std::string line = SumLineText({"", sum, ""});
+  return line.substr(0, line.find(' '));
 }
 
 void AddSums(const HashTask& task, const std::string& name, const FileSums& sums, Outcome& outcome,
@@ -58,7 +62,7 @@ void AddSums(const HashTask& task, const std::string& name, const FileSums& sums
     if (task.kind && task.kind != &kind) continue;
     const std::string label(task.kind ? "" : kind.label);
     outcome.out += SumLineText({label, SumOf(sums, kind), name});
-    answer[std::string(kind.name)] = SumOf(sums, kind);
+    answer[std::string(kind.name)] = SumText(SumOf(sums, kind));
   }
   answers.push_back(answer);
 }
@@ -69,16 +73,17 @@ void Compute(const HashTask& task, bool json, Outcome& outcome) {
     if (const auto sums = SumsOfFile(name, task.kind))
       AddSums(task, name, *sums, outcome, answers);
     else
-      Complain(outcome, name, "cannot be read", Answer::WrongUsage);
+      Complain(outcome, UnreadableMessage(name), Answer::WrongUsage);
   }
   if (json) outcome.out = JsonText(answers);
 }
 
 struct Tally {
-  std::size_t good = 0;
-  std::size_t bad = 0;
-  std::size_t unreadable = 0;
-  std::size_t other_lines = 0;
+  std::int64_t good = 0;
+  std::int64_t bad = 0;
+  std::int64_t unreadable = 0;
+  std::int64_t other_lines = 0;
+  Json rows = Json::array();
 };
 
 // Returns the kind of a line: its own label, or the one given on the command line.
@@ -90,7 +95,9 @@ void CheckLine(const SumLine& line, const FileSumKind& kind, Tally& tally, Outco
   const auto sums = SumsOfFile(line.name, &kind);
   const bool good = sums && SumOf(*sums, kind) == line.sum;
   ++(good ? tally.good : sums ? tally.bad : tally.unreadable);
-  outcome.out += line.name + (good ? ": OK\n" : sums ? ": FAILED\n" : ": FAILED open or read\n");
+  const std::string verdict = good ? "OK" : sums ? "FAILED" : "FAILED open or read";
+  outcome.out += line.name + ": " + verdict + "\n";
+  tally.rows.push_back({{"file", line.name}, {"sum", kind.name}, {"result", verdict}});
 }
 
 Tally CheckLines(std::istream& list, const FileSumKind* said, Outcome& outcome) {
@@ -109,57 +116,69 @@ Tally CheckLines(std::istream& list, const FileSumKind* said, Outcome& outcome) 
 }
 
 void Report(const std::string& name, const Tally& tally, Outcome& outcome) {
-  const auto complain = [&](std::size_t count, const std::string& what) {
-    if (count > 0) Complain(outcome, name, std::to_string(count) + " " + what, Answer::No);
+  const auto complain = [&](const std::string& what, Answer answer) {
+    Complain(outcome, name + ": " + what, answer);
   };
-  complain(tally.other_lines, "lines are not sums");
-  complain(tally.unreadable, "listed files could not be read");
-  complain(tally.bad, "sums do NOT match");
+  if (tally.other_lines > 0)
+    complain(TextOf(tally.other_lines, "one line is not a sum", "{0} lines are not sums"), Answer::No);
+  if (tally.unreadable > 0)
+    complain(TextOf(tally.unreadable, "one listed file cannot be read", "{0} listed files cannot be read"),
+             Answer::WrongUsage);
+  if (tally.bad > 0)
+    complain(TextOf(tally.bad, "one sum does NOT match", "{0} sums do NOT match"), Answer::No);
   if (tally.good + tally.bad + tally.unreadable == 0)
-    Complain(outcome, name, "has no line with a sum", Answer::WrongUsage);
+    complain(Text("there is no line with a sum"), Answer::WrongUsage);
 }
 
-void CheckList(const HashTask& task, const std::string& name, Outcome& outcome) {
+void CheckList(const HashTask& task, const std::string& name, Outcome& outcome, Json& rows) {
   const auto text = ReadWhole(name);
-  if (!text) return Complain(outcome, name, "cannot be read", Answer::WrongUsage);
+  if (!text) return Complain(outcome, UnreadableMessage(name), Answer::WrongUsage);
   std::istringstream list(*text);
-  Report(name, CheckLines(list, task.kind, outcome), outcome);
+  Tally tally = CheckLines(list, task.kind, outcome);
+  Report(name, tally, outcome);
+  for (Json& row : tally.rows) rows.push_back(std::move(row));
 }
 
-void CheckLists(const HashTask& task, Outcome& outcome) {
-  for (const std::string& name : task.files) CheckList(task, name, outcome);
+void CheckLists(const HashTask& task, bool json, Outcome& outcome) {
+  Json rows = Json::array();
+  for (const std::string& name : task.files) CheckList(task, name, outcome, rows);
+  if (json) outcome.out = JsonText(rows);
 }
 
 void Run(const HashOptions& options, Outcome& outcome) {
   const HashTask task = TaskOf(options);
-  return options.check ? CheckLists(task, outcome) : Compute(task, options.json, outcome);
+  return options.check ? CheckLists(task, options.json, outcome) : Compute(task, options.json, outcome);
 }
 
 std::string HashFooter() {
-  return "Sums:\n" + KindLines(kFileSums) +
-         "\n"
-         "Exit status: 0, 1 a sum does not match or a line is not a sum, 2 wrong usage or an unusable "
-         "file.\n"
-         "\n"
-         "Examples:\n"
-         "  ravo hash crc32 backup.zip > backup.sum\n"
-         "  ravo hash crc32 --check backup.sum\n"
-         "  ravo report | ravo hash crc32             the output of a program\n"
-         "  ravo hash --all backup.zip              every sum, each with its name\n"
-         "  ravo hash --all --json backup.zip\n";
+  return Text("Sums:") + "\n" + KindLines(kFileSums) + "\n" +
+         Text(
+             "Exit status: 0, 1 a sum does not match or a line is not a sum, 2 wrong usage or a file that\n"
+             "cannot be read.\n"
+             "\n"
+             "Examples:\n"
+             "  ravo hash crc32 backup.zip > backup.sum\n"
+             "  ravo hash crc32 --check backup.sum\n"
+             "  ravo report | ravo hash crc32             the output of a program\n"
+             "  ravo hash --all backup.zip              every sum, each with its name\n"
+             "  ravo hash --all --json backup.zip\n");
 }
 
 }  // namespace
 
 void AddHashCommand(CLI::App& program, Outcome& outcome) {
-  CLI::App* command = program.add_subcommand("hash", "Computes and checks sums of files");
+  CLI::App* command = program.add_subcommand("hash", Text("Computes and checks sums of files"));
   const auto options = std::make_shared<HashOptions>();
-  command->add_option("SUM FILE", options->words,
-                      "The kind of sum (" + Names() + "), then files; standard input for \"-\" or no file");
-  command->add_flag("--all", options->all, "Compute every sum; all words are files");
-  CLI::Option* check = command->add_flag("--check", options->check,
-                                         "The files are lists of sums; compare each with the current file");
-  command->add_flag("--json", options->json, "Write JSON")->excludes(check);
+  // The set is for completion: the words after the first are files.
+  const auto any_word = [](const std::string&) { return std::string(); };
+  command
+      ->add_option(Text("SUM FILE"), options->words,
+                   Text("The kind of sum ({0}), then files; standard input for \"-\" or no file", {Names()}))
+      ->check(CLI::Validator(any_word, "{" + CLI::detail::find_and_replace(Names(), ", ", ",") + "}"));
+  command->add_flag("--all", options->all, Text("Compute every sum; all words are files"));
+  command->add_flag("--check", options->check,
+                    Text("The files are lists of sums; compare each with the current file"));
+  command->add_flag("--json", options->json, Text("Write JSON"));
   command->footer(HashFooter());
   command->callback([options, &outcome] { Run(*options, outcome); });
 }

@@ -1,5 +1,7 @@
+#include "columns.h"
 #include "commands.h"
 #include "json_text.h"
+#include "text.h"
 #include <ravo/RavoInterface.h>
 
 #include <memory>
@@ -7,6 +9,7 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 namespace tool {
 namespace {
@@ -62,15 +65,17 @@ class Wanted {
 
 std::string GuidText(const ravo::Guid& identifier) { return ravo::ToUtf8(identifier.ToText()); }
 
-std::string Line(const ravo::HostInterfaceRow& row) {
-  return "\t" + std::string(row.name) + "\t" + std::string(ravo::InterfaceKindName(row.kind)) + "\t" +
-         std::string(row.base) + "\t" + GuidText(row.identifier) + "\t" + std::to_string(row.own_operations) +
-         "\n";
+std::vector<std::string> Cells(const ravo::HostInterfaceRow& row) {
+  return {"",
+          std::string(row.name),
+          std::string(ravo::InterfaceKindName(row.kind)),
+          std::string(row.base),
+          GuidText(row.identifier),
+          std::to_string(row.own_operations)};
 }
 
-std::string Line(const ravo::HostClassRow& row) {
-  return "\tCo" + std::string(row.name) + "\tclass\t" + std::string(row.returned) + "\t" +
-         GuidText(row.identifier) + "\n";
+std::vector<std::string> Cells(const ravo::HostClassRow& row) {
+  return {"", "Co" + std::string(row.name), "class", std::string(row.returned), GuidText(row.identifier)};
 }
 
 Json RowJson(const ravo::HostInterfaceRow& row) {
@@ -87,7 +92,7 @@ Json RowJson(const ravo::HostClassRow& row) {
 
 // A library with its matching rows: all of them if the library itself matches.
 struct Branch {
-  std::string text;
+  Columns lines;
   Json interfaces = Json::array();
   Json classes = Json::array();
 };
@@ -97,12 +102,12 @@ Branch BranchOf(const ravo::TypeLibraryRow& library, const Wanted& wanted) {
   Branch branch;
   for (const ravo::HostInterfaceRow& row : ravo::HostInterfaceRows()) {
     if (row.library != library.name || !(whole || wanted.Is(row))) continue;
-    branch.text += Line(row);
+    branch.lines.Add(Cells(row));
     branch.interfaces.push_back(RowJson(row));
   }
   for (const ravo::HostClassRow& row : ravo::HostClassRows()) {
     if (row.library != library.name || !(whole || wanted.Is(row, "Co"))) continue;
-    branch.text += Line(row);
+    branch.lines.Add(Cells(row));
     branch.classes.push_back(RowJson(row));
   }
   return branch;
@@ -113,21 +118,22 @@ void Run(const InterfaceOptions& options, Outcome& outcome) {
   Json libraries = Json::array();
   for (const ravo::TypeLibraryRow& library : ravo::TypeLibraryRows()) {
     Branch branch = BranchOf(library, wanted);
-    if (branch.text.empty()) continue;
-    outcome.out += std::string(library.name) + "_TLB\t" + GuidText(library.identifier) + "\n" + branch.text;
+    if (branch.interfaces.empty() && branch.classes.empty()) continue;
+    Columns heading;
+    heading.Add({std::string(library.name) + "_TLB", GuidText(library.identifier)});
+    outcome.out += heading.Text() + branch.lines.Text();
     libraries.push_back({{"library", std::string(library.name) + "_TLB"},
                          {"identifier", GuidText(library.identifier)},
                          {"interfaces", std::move(branch.interfaces)},
                          {"classes", std::move(branch.classes)}});
   }
   if (libraries.empty()) {
-    outcome.err += "ravo: there is no interface, class or library '" + options.wanted + "'\n";
-    outcome.answer = Answer::No;
+    Complain(outcome, Text("there is no interface, class or library '{0}'", {options.wanted}), Answer::No);
   }
   if (options.json) outcome.out = JsonText(libraries);
 }
 
-constexpr const char* kInterfacesFooter =
+constexpr const char* kInterfacesFooter = ToTranslate(
     "A line of an interface has its name, kind, base, identifier and number of own operations; one of a\n"
     "factory class has its name, the interface that it returns and the identifier of the class.\n"
     "\n"
@@ -137,16 +143,18 @@ constexpr const char* kInterfacesFooter =
     "  ravo interfaces                 the host's object model, by library\n"
     "  ravo interfaces session         all names that contain this\n"
     "  ravo interfaces '{904F0BB6-AB48-492D-BFF6-09A944EA24C9}'\n"
-    "  ravo interfaces 904f0bb6ab48492dbff609a944ea24c9 --json\n";
+    "  ravo interfaces 904f0bb6ab48492dbff609a944ea24c9 --json\n");
 
 }  // namespace
 
 void AddInterfacesCommand(CLI::App& program, Outcome& outcome) {
-  CLI::App* command = program.add_subcommand("interfaces", "Lists the interfaces of the host's object model");
+  CLI::App* command =
+      program.add_subcommand("interfaces", Text("Lists the interfaces of the host's object model"));
   const auto options = std::make_shared<InterfaceOptions>();
-  command->add_option("NAME|GUID", options->wanted, "Part of a name, or an identifier in any spelling");
-  command->add_flag("--json", options->json, "Write JSON");
-  command->footer(kInterfacesFooter);
+  command->add_option(Text("NAME|GUID"), options->wanted,
+                      Text("Part of a name, or an identifier in any spelling"));
+  command->add_flag("--json", options->json, Text("Write JSON"));
+  command->footer(Text(kInterfacesFooter));
   command->callback([options, &outcome] { Run(*options, outcome); });
 }
 

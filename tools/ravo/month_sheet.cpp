@@ -11,7 +11,7 @@ namespace utils = ravo::DIUtils;
 
 constexpr std::size_t kCell = 4;
 
-std::string Padded(std::int32_t number) {
+std::string PaddedNumber(std::int32_t number) {
   const std::string digits = std::to_string(number);
   return std::string(digits.size() < 2 ? 1 : 0, ' ') + digits;
 }
@@ -22,14 +22,14 @@ bool IsMarked(utils::TJulianDate date, bool holidays_de) {
 }
 
 std::string Cell(utils::TJulianDate date, utils::TJulianDate today, bool holidays_de) {
-  const std::string day = Padded(utils::DayOfJulianDate(date));
+  const std::string day = PaddedNumber(utils::DayOfJulianDate(date));
   if (date == today) return "[" + day + "]";
   return " " + day + (IsMarked(date, holidays_de) ? "*" : " ");
 }
 
 // Trailing blanks of a line are dropped.
 std::string Week(utils::TJulianDate monday, utils::TJulianDate today, bool holidays_de) {
-  std::string line = Padded(utils::ISOWeekNumber(monday)) + " ";
+  std::string line = PaddedNumber(utils::ISOWeekNumber(monday)) + " ";
   for (utils::TJulianDate date = monday; date < monday + 7; ++date) {
     const bool inside = utils::FirstDayOfMonth(date) == utils::FirstDayOfMonth(today);
     line += inside ? Cell(date, today, holidays_de) : std::string(kCell, ' ');

@@ -1,25 +1,35 @@
 #include "program.h"
 
 #include "commands.h"
+#include "console.h"
+#include "language.h"
 #include "output_options.h"
+#include "program_errors.h"
+#include "program_help.h"
+#include "text.h"
 #include "words_after_mark.h"
 
 #include <algorithm>
-#include <sstream>
+#include <memory>
+#include <optional>
 #include <utility>
 
 namespace tool {
 namespace {
 
-constexpr const char* kProgramFooter =
-    "Exit status: 0 yes, 1 no (such as an unknown table), 2 wrong usage or an unusable file.\n"
-    "\n"
+constexpr const char* kExitStatus = ToTranslate(
+    "Exit status: 0 yes, or nothing found; 1 no, or findings; 2 wrong usage, or some of the work could not\n"
+    "be done.\n");
+constexpr const char* kEnvironment = ToTranslate(
+    "Environment: RAVO_LANG, LANGUAGE, LC_ALL, LC_MESSAGES, LANG: the first that is set chooses the\n"
+    "language of texts for people (cs, en); what scripts read is the same in every language.\n");
+constexpr const char* kExamples = ToTranslate(
     "Examples:\n"
     "  ravo tour                      the commands at work, one by one\n"
     "  ravo report\n"
     "  ravo table 100121\n"
     "  ravo captions --plain\n"
-    "  ravo COMMAND --help            options and examples of a command\n";
+    "  ravo help round                options and examples of a command\n");
 
 // The commands by theme, in the order of `ravo --help` and of the manual page. A new command needs a line
 // here.
@@ -28,18 +38,50 @@ struct Theme {
   std::vector<void (*)(CLI::App&, Outcome&)> commands;
 };
 
+void AddHelpCommand(CLI::App& program, Outcome& outcome);
+void AddVersionCommand(CLI::App& program, Outcome& outcome);
+
 std::vector<Theme> Themes() {
   return {
-      {"The suite", {AddTableCommand, AddCaptionsCommand, AddInterfacesCommand}},
-      {"Accounting",
+      {ToTranslate("The suite"), {AddTableCommand, AddCaptionsCommand, AddInterfacesCommand}},
+      {ToTranslate("Accounting"),
        {AddCheckCommand, AddRoundCommand, AddVatCommand, AddDateCommand, AddDueCommand, AddHolidaysCommand,
         AddAddressCommand, AddBackupNameCommand}},
-      {"Documents", {AddXmlCommand, AddFormCommand}},
-      {"Characters and texts",
+      {ToTranslate("Documents"), {AddXmlCommand, AddFormCommand}},
+      {ToTranslate("Characters and texts"),
        {AddCharCommand, AddSortCommand, AddMatchCommand, AddUrlCommand, AddRandomCommand}},
-      {"Files", {AddConvertCommand, AddEncodingsCommand, AddHashCommand}},
-      {"Support", {AddReportCommand, AddTourCommand}},
+      {ToTranslate("Files"), {AddConvertCommand, AddEncodingsCommand, AddHashCommand}},
+      {ToTranslate("Support"), {AddReportCommand, AddTourCommand, AddHelpCommand, AddVersionCommand}},
   };
+}
+
+void ShowHelp(const CLI::App& program, const std::vector<std::string>& words, Outcome& outcome) {
+  const CLI::App* app = &program;
+  std::string name = "ravo";
+  for (const std::string& word : words) {
+    const CLI::App* const command = CommandNamed(*app, word);
+    if (command == nullptr) return ReportUnknownCommand(*app, word, outcome);
+    app = command;
+    name += " " + word;
+  }
+  outcome.out = HelpText(*app, name);
+}
+
+void AddHelpCommand(CLI::App& program, Outcome& outcome) {
+  CLI::App* command = program.add_subcommand("help", Text("Shows how a command is used"));
+  const auto words = std::make_shared<std::vector<std::string>>();
+  command->add_option(Text("COMMAND"), *words, Text("The command; without one, all commands are listed"));
+  command->footer(
+      Text("Examples:\n"
+           "  ravo help\n"
+           "  ravo help xml show\n"));
+  command->callback([words, &program, &outcome] { ShowHelp(program, *words, outcome); });
+}
+
+void AddVersionCommand(CLI::App& program, Outcome& outcome) {
+  CLI::App* command = program.add_subcommand("version", Text("Shows the version of the program"));
+  command->footer("");
+  command->callback([&outcome] { outcome.out = "ravo " RAVO_VERSION "\n"; });
 }
 
 void AddTheme(CLI::App& program, const Theme& theme, Outcome& outcome) {
@@ -47,33 +89,75 @@ void AddTheme(CLI::App& program, const Theme& theme, Outcome& outcome) {
     const auto before = program.get_subcommands({}).size();
     add(program, outcome);
     const auto commands = program.get_subcommands({});
-    for (auto added = before; added < commands.size(); ++added) commands[added]->group(theme.title);
+    for (auto added = before; added < commands.size(); ++added) commands[added]->group(Text(theme.title));
   }
+}
+
+CLI::Option* AddLanguageOption(CLI::App& app) {
+  return app
+      .add_option_function<std::string>(
+          "--lang", [](const std::string&) {}, Text("The language of texts for people: cs or en"))
+      ->check(CLI::IsMember({"cs", "en"}));
+}
+
+// Every command knows its own words, takes --lang, and lists its own commands under a title.
+void Complete(CLI::App& app, const std::string& words, Outcome& outcome) {
+  for (CLI::App* command : app.get_subcommands({})) {
+    const std::string own = words.empty() ? command->get_name() : words + " " + command->get_name();
+    command->preparse_callback([own, &outcome](std::size_t) { outcome.command = own; });
+    AddLanguageOption(*command)->group("");
+    if (command->get_group() == "Subcommands") command->group(Text("Commands"));
+    Complete(*command, own, outcome);
+  }
+}
+
+// Texts are translated while the commands are described, so the language must be known before.
+std::optional<Language> LanguageAsked(const std::vector<std::string>& arguments) {
+  constexpr std::string_view kOption = "--lang";
+  std::optional<Language> asked;
+  for (std::size_t i = 0; i < arguments.size() && arguments[i] != "--"; ++i) {
+    const std::string& word = arguments[i];
+    if (word == kOption && i + 1 < arguments.size()) asked = LanguageNamed(arguments[i + 1]);
+    if (word.starts_with("--lang=")) asked = LanguageNamed(word.substr(kOption.size() + 1));
+  }
+  return asked;
+}
+
+std::vector<std::string> Words(const std::string& command) {
+  return command.empty() ? std::vector<std::string>() : CLI::detail::split(command, ' ');
 }
 
 // Help and version succeed; every other early end of parsing is wrong usage, whatever code the parser
 // returns.
-Outcome Ended(const CLI::App& program, const CLI::ParseError& end) {
-  std::ostringstream out;
-  std::ostringstream err;
-  const int code = program.exit(end, out, err);
-  return {out.str(), Unmarked(err.str()), code == 0 ? Answer::Yes : Answer::WrongUsage};
+void End(const CLI::App& program, const CLI::ParseError& end, Outcome& outcome) {
+  if (end.get_name() == "CallForVersion")
+    outcome.out = "ravo " RAVO_VERSION "\n";
+  else if (end.get_exit_code() == 0)
+    ShowHelp(program, Words(outcome.command), outcome);
+  else
+    ReportWrongUsage(program, end, outcome);
+  outcome.err = Unmarked(outcome.err);
 }
 
 }  // namespace
 
 void Describe(CLI::App& program, Outcome& outcome) {
   program.name("ravo");
-  program.description("Command-line access to the shared interface library of the accounting suite");
+  program.description(Text("Command-line access to the shared interface library of the accounting suite"));
+  program.formatter(HelpLayout());
   program.require_subcommand(1);
-  program.set_version_flag("--version", "ravo " RAVO_VERSION, "Print the version and exit");
-  program.footer(kProgramFooter);
+  program.set_help_flag("-h,--help", Text("Show this help"));
+  program.set_version_flag("-V,--version", "ravo " RAVO_VERSION, Text("Show the version"));
+  AddLanguageOption(program);
+  program.footer(Text(kExitStatus) + "\n" + Text(kEnvironment) + "\n" + Text(kExamples));
   for (const Theme& theme : Themes()) AddTheme(program, theme, outcome);
   AddOutputRules(program);
   UnmarkValues(program);
+  Complete(program, "", outcome);
 }
 
 Outcome Run(std::vector<std::string> arguments) {
+  if (const auto language = LanguageAsked(arguments)) SetLanguage(*language);
   CLI::App program;
   Outcome outcome;
   Describe(program, outcome);
@@ -83,7 +167,9 @@ Outcome Run(std::vector<std::string> arguments) {
   try {
     program.parse(std::move(arguments));
   } catch (const CLI::ParseError& end) {
-    return Ended(program, end);
+    End(program, end, outcome);
+  } catch (const std::exception& error) {
+    Complain(outcome, error.what(), Answer::WrongUsage);
   }
   return outcome;
 }

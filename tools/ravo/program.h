@@ -7,7 +7,8 @@
 // the help.
 //
 // Start here, then read program.cpp and one command, such as round_command.cpp. A command never exits by
-// itself: it returns its result in an `Outcome`, which main.cpp writes.
+// itself: it returns its result in an `Outcome`, which main.cpp writes. What people read goes through text.h,
+// which translates it; errors through `Complain`; listings through columns.h.
 #pragma once
 
 #include "outcome.h"
@@ -18,8 +19,8 @@
 /// The whole program: the run of one command line.
 namespace tool {
 
-/// Runs the arguments (without the program's name) and returns the outcome, which also reports wrong usage.
-/// Other exceptions of a sub-command pass through.
+/// Runs the arguments (without the program's name) and returns the outcome, which also reports wrong usage
+/// and what a sub-command throws.
 [[nodiscard]] Outcome Run(std::vector<std::string> arguments);
 
 }  // namespace tool

@@ -1,9 +1,10 @@
 #include "progress.h"
 
+#include "columns.h"
 #include "console.h"
+#include "printable.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace tool {
 namespace {
@@ -23,22 +24,23 @@ std::string Bar(std::int64_t done, std::int64_t whole) {
 
 }  // namespace
 
-Progress::Progress(std::string what, std::int64_t whole)
-    : what_(std::move(what)),
+Progress::Progress(const std::string& what, std::int64_t whole)
+    : what_(Printable(what)),
       whole_(whole),
       on_terminal_(IsTerminal(Channel::Err)),
       next_(Clock::now() + kPatience) {}
 
 Progress::~Progress() {
   if (shown_)
-    static_cast<void>(Write(Channel::Err, "\r" + std::string(what_.size() + kWidth + 10, ' ') + "\r"));
+    static_cast<void>(
+        WriteWithCodes(Channel::Err, "\r" + std::string(Width(what_) + kWidth + 10, ' ') + "\r"));
 }
 
 void Progress::Show(std::int64_t done) {
   if (!on_terminal_ || Clock::now() < next_) return;
   next_ = Clock::now() + kPause;
   shown_ = true;
-  static_cast<void>(Write(Channel::Err, "\r" + what_ + " " + Bar(done, whole_)));
+  static_cast<void>(WriteWithCodes(Channel::Err, "\r" + what_ + " " + Bar(done, whole_)));
 }
 
 }  // namespace tool

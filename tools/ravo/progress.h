@@ -11,7 +11,7 @@ namespace tool {
 class Progress {
  public:
   /// `whole` is the total amount of work, in the unit of `Show`; 0 if unknown.
-  Progress(std::string what, std::int64_t whole);
+  Progress(const std::string& what, std::int64_t whole);
   Progress(const Progress&) = delete;
   Progress& operator=(const Progress&) = delete;
   ~Progress();

@@ -3,7 +3,6 @@
 #include "input_lines.h"
 #include "json_text.h"
 #include "round_answer.h"
-#include "tell.h"
 #include "text.h"
 
 #include <map>
@@ -59,7 +58,7 @@ void RoundAmounts(const RoundOptions& options, Outcome& outcome) {
   Json answers = Json::array();
   for (const std::string& text : WithInputLines(options.amounts)) {
     const RoundAnswer answer = AnswerRound(text, request);
-    if (!answer.message.empty()) Tell(outcome, "round", text + ": " + answer.message, answer.answer);
+    if (!answer.message.empty()) Complain(outcome, text + ": " + answer.message, answer.answer);
     if (options.json) answers.push_back(JsonOf(text, answer));
     if (!options.json && answer.rounded) outcome.out += text + "\t" + RoundedText(answer, request) + "\n";
   }
@@ -72,15 +71,15 @@ class Messages {
   explicit Messages(Outcome& outcome) : outcome_(outcome) {}
 
   void Add(const std::string& message, Answer answer) {
-    if (++count_ <= kMostMessages) return Tell(outcome_, "round", message, answer);
+    if (++count_ <= kMostMessages) return Complain(outcome_, message, answer);
     outcome_.answer = std::max(outcome_.answer, answer);
   }
 
   void Finish() {
     const auto left = static_cast<std::int64_t>(count_ - std::min(count_, kMostMessages));
     if (left > 0)
-      Tell(outcome_, "round", TextOf(left, "{0} more message left out", "{0} more messages left out"),
-           Answer::Yes);
+      Complain(outcome_, TextOf(left, "{0} more message left out", "{0} more messages left out"),
+               Answer::Yes);
   }
 
  private:
@@ -110,17 +109,17 @@ void RoundColumn(const RoundOptions& options, std::string_view table, Outcome& o
 
 void RoundFile(const RoundOptions& options, Outcome& outcome) {
   const std::optional<std::string> table = ReadWhole(options.file);
-  if (!table) return Tell(outcome, "round", Text("{0}: cannot be read", {options.file}), Answer::WrongUsage);
+  if (!table) return Complain(outcome, Text("{0}: cannot be read", {options.file}), Answer::WrongUsage);
   try {
     RoundColumn(options, *table, outcome);
   } catch (const std::runtime_error& error) {
-    Tell(outcome, "round", options.file + ": " + error.what(), Answer::WrongUsage);
+    Complain(outcome, options.file + ": " + error.what(), Answer::WrongUsage);
   }
 }
 
 void Run(const RoundOptions& options, Outcome& outcome) {
   if (options.amounts.empty() && options.file.empty())
-    return Tell(outcome, "round", Text("give amounts, or --csv and --column"), Answer::WrongUsage);
+    return Complain(outcome, Text("give amounts, or --csv and --column"), Answer::WrongUsage);
   return options.file.empty() ? RoundAmounts(options, outcome) : RoundFile(options, outcome);
 }
 

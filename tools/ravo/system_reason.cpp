@@ -11,6 +11,7 @@ constexpr std::pair<std::errc, const char*> kSystemReasons[] = {
     {std::errc::no_such_file_or_directory, ToTranslate("there is no such file")},
     {std::errc::permission_denied, ToTranslate("access is denied")},
     {std::errc::operation_not_permitted, ToTranslate("access is denied")},
+    {std::errc::too_many_files_open, ToTranslate("too many files are open")},
     {std::errc::is_a_directory, ToTranslate("it is a folder")},
     {std::errc::not_a_directory, ToTranslate("a part of its path is not a folder")},
     {std::errc::filename_too_long, ToTranslate("the name is too long")},

@@ -36,7 +36,7 @@ std::string Numbers(const Indices& indices) {
 }
 
 // Returns a line of its own with the names of all columns.
-std::string Columns(const std::vector<std::string>& names, char delimiter) {
+std::string ColumnList(const std::vector<std::string>& names, char delimiter) {
   std::string list;
   for (const std::string& name : names) list += (list.empty() ? "" : ", ") + Shown(name);
   return "\n  " + Text("columns, split at {0}: {1}", {DelimiterName(delimiter), list});
@@ -67,7 +67,7 @@ FoundColumn Numbered(const std::vector<std::string>& names, std::string_view wan
   if (number >= 1 && number <= names.size()) return {number - 1, {}};
   return {{},
           Text("there is no column {0}, the last one is {1}", {wanted, std::to_string(names.size())}) +
-              Columns(names, delimiter)};
+              ColumnList(names, delimiter)};
 }
 
 std::string NoColumn(const std::string& wanted, const std::string& nearest) {
@@ -95,7 +95,7 @@ FoundColumn FindColumn(const std::vector<std::string>& names, std::string_view w
             Text("columns {0} are named '{1}' but for case; name one exactly or by its number",
                  {Numbers(near), Shown(wanted)})};
   if (const auto number = ColumnNumber(wanted)) return Numbered(names, wanted, *number, delimiter);
-  return {{}, NoColumn(Shown(wanted), NearestName(names, wanted)) + Columns(names, delimiter)};
+  return {{}, NoColumn(Shown(wanted), NearestName(names, wanted)) + ColumnList(names, delimiter)};
 }
 
 }  // namespace tool

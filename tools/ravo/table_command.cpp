@@ -1,5 +1,8 @@
+#include "columns.h"
 #include "commands.h"
 #include "json_text.h"
+#include "nearest.h"
+#include "text.h"
 #include <ravo/RavoInterface.h>
 
 #include <algorithm>
@@ -29,17 +32,17 @@ std::optional<std::int32_t> Identifier(std::string_view text) {
 }
 
 std::string CheckIdentifier(const std::string& text) {
-  return Identifier(text) ? std::string() : "'" + text + "' is not a table identifier";
+  return Identifier(text) ? std::string()
+                          : Text("'{0}' is not a table identifier, which is a number", {text});
 }
 
-std::string ModuleNames() {
-  std::string names;
-  for (const ravo::TableModule module : ravo::TableModules()) {
-    if (!names.empty()) names += ", ";
-    names += ravo::TableModuleKey(module);
-  }
-  return names;
+std::vector<std::string> ModuleKeys() {
+  std::vector<std::string> keys;
+  for (const ravo::TableModule module : ravo::TableModules()) keys.emplace_back(ravo::TableModuleKey(module));
+  return keys;
 }
+
+std::string ModuleNames() { return CLI::detail::join(ModuleKeys(), ", "); }
 
 std::optional<ravo::TableModule> ModuleNamed(std::string_view name) {
   const std::u16string wanted = ravo::FromUtf8(name);
@@ -50,7 +53,10 @@ std::optional<ravo::TableModule> ModuleNamed(std::string_view name) {
 }
 
 std::string CheckModule(const std::string& name) {
-  return ModuleNamed(name) ? std::string() : "'" + name + "' is not a module; modules are " + ModuleNames();
+  if (ModuleNamed(name)) return {};
+  const std::string meant = DidYouMean(name, ModuleKeys());
+  return Text("there is no module '{0}'; modules are {1}.", {name, ModuleNames()}) +
+         (meant.empty() ? "" : " ") + meant;
 }
 
 std::string RangeText(const ravo::TableRow& row) {
@@ -67,64 +73,69 @@ Json RowJson(const ravo::TableRow& row) {
 
 void ListRows(const TableOptions& options, Outcome& outcome) {
   const auto module = ModuleNamed(options.module);
+  Columns lines;
   Json rows = Json::array();
   for (const ravo::TableRow& row : ravo::TableRows()) {
     if (module && row.module != *module) continue;
-    outcome.out += RangeText(row) + "\t" + ravo::ToUtf8(row.description) + "\n";
+    lines.Add({RangeText(row), ravo::ToUtf8(row.description)});
     rows.push_back(RowJson(row));
   }
-  if (options.json) outcome.out = JsonText(rows);
+  outcome.out = options.json ? JsonText(rows) : lines.Text();
 }
 
 std::u16string_view Description(const std::optional<ravo::TableModule>& module, std::int32_t id) {
   return module ? ravo::TableDescription(*module, id) : ravo::RavoInterfaceCommon::TableDescription(id);
 }
 
+std::string UnknownTable(const std::optional<ravo::TableModule>& module, const std::string& id) {
+  return module ? Text("the module {0} has no table {1}", {ravo::TableModuleKey(*module), id})
+                : Text("no module has a table {0}", {id});
+}
+
 void LookUp(const TableOptions& options, Outcome& outcome) {
   const auto module = ModuleNamed(options.module);
-  const std::string asked =
-      module ? std::string("module ") + std::string(ravo::TableModuleKey(*module)) : "module";
+  Columns lines;
   Json answers = Json::array();
   for (const std::string& text : options.ids) {
     const std::int32_t id = Identifier(text).value_or(0);
     const std::string description = ravo::ToUtf8(Description(module, id));
     answers.push_back({{"id", id}, {"description", description.empty() ? Json() : Json(description)}});
     if (description.empty()) {
-      outcome.err += "ravo: no " + asked + " has table " + std::to_string(id) + "\n";
-      outcome.answer = Answer::No;
+      Complain(outcome, UnknownTable(module, std::to_string(id)), Answer::No);
     } else {
-      outcome.out += std::to_string(id) + "\t" + description + "\n";
+      lines.Add({std::to_string(id), description});
     }
   }
-  if (options.json) outcome.out = JsonText(answers);
+  outcome.out = options.json ? JsonText(answers) : lines.Text();
 }
 
 void Run(const TableOptions& options, Outcome& outcome) {
   if (!options.ids.empty()) return LookUp(options, outcome);
   if (options.all || !options.module.empty()) return ListRows(options, outcome);
-  throw CLI::RequiredError("table: an identifier, --module or --all");
+  Complain(outcome, Text("which table? Give identifiers, --module or --all"), Answer::WrongUsage);
 }
 
-constexpr const char* kTableFooter =
+constexpr const char* kTableFooter = ToTranslate(
     "Exit status: 0 all tables are known, 1 a table is not, 2 wrong usage.\n"
     "\n"
     "Examples:\n"
     "  ravo table 100121 72510        the descriptions of two tables\n"
     "  ravo table --module Mzda       the tables of the payroll module\n"
-    "  ravo table --all --json        the whole catalogue, for a program\n";
+    "  ravo table --all --json        the whole catalogue, for a program\n");
 
 }  // namespace
 
 void AddTableCommand(CLI::App& program, Outcome& outcome) {
-  CLI::App* command = program.add_subcommand("table", "Shows the descriptions of the suite's data tables");
+  CLI::App* command =
+      program.add_subcommand("table", Text("Shows the descriptions of the suite's data tables"));
   const auto options = std::make_shared<TableOptions>();
-  CLI::Option* ids = command->add_option("ID", options->ids, "Table identifiers to look up");
-  ids->check(CLI::Validator(CheckIdentifier, "NUMBER"));
-  command->add_option("--module", options->module, "Only this module: " + ModuleNames())
-      ->check(CLI::Validator(CheckModule, "NAME"));
-  command->add_flag("--all", options->all, "List every table")->excludes(ids);
-  command->add_flag("--json", options->json, "Write JSON");
-  command->footer(kTableFooter);
+  CLI::Option* ids = command->add_option(Text("ID"), options->ids, Text("Table identifiers to look up"));
+  ids->check(CLI::Validator(CheckIdentifier, Text("NUMBER")));
+  command->add_option("--module", options->module, Text("Only the tables of this module"))
+      ->check(CLI::Validator(CheckModule, "{" + CLI::detail::join(ModuleKeys(), ",") + "}"));
+  command->add_flag("--all", options->all, Text("List every table"))->excludes(ids);
+  command->add_flag("--json", options->json, Text("Write JSON"));
+  command->footer(Text(kTableFooter));
   command->callback([options, &outcome] { Run(*options, outcome); });
 }
 

@@ -5,8 +5,9 @@
 #include <string>
 #include <string_view>
 
-/// What the program says to people. The English text stands in the source and is the key of its translation;
-/// "{0}" to "{9}" stand for values. Nothing that a script reads (JSON keys, codes, kinds) goes through here.
+/// What the program says to people. The English text stands in the source and is the key of its translation
+/// in po/cs.po; tools/generate/texts.py collects the keys and compiles the translations in. "{0}" to "{9}"
+/// stand for values. Nothing that a script reads (JSON keys, codes, kinds) goes through here.
 namespace tool {
 
 /// The text in the user's language, with the values in their places.

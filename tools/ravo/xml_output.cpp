@@ -15,8 +15,11 @@ void TellXml(const XmlOptions& options, Outcome& outcome, const std::string& mes
 void AddOutput(Outcome& outcome, std::string_view text) {
   constexpr std::size_t kAtOnce = std::size_t{1} << 16;
   const bool is_enough = outcome.out.size() + text.size() >= kAtOnce;
-  if (is_enough && Write(Channel::Out, outcome.out)) outcome.out.clear();
-  if (!is_enough || !outcome.out.empty() || !Write(Channel::Out, text)) outcome.out += text;
+  const auto write = [&outcome](std::string_view bytes) {
+    return outcome.coloured ? WriteWithCodes(Channel::Out, bytes) : Write(Channel::Out, bytes);
+  };
+  if (is_enough && write(outcome.out)) outcome.out.clear();
+  if (!is_enough || !outcome.out.empty() || !write(text)) outcome.out += text;
 }
 
 std::string OnLines(std::string_view utf8) {

@@ -81,6 +81,7 @@ void ShowReading(const XmlOptions& options, const DocumentReading& reading, cons
                  Outcome& outcome) {
   if (options.json) return AddReadingJson(reading, text, outcome);
   const bool colours = options.colour || ShowsColours(Channel::Out);
+  outcome.coloured = colours;
   for (const ReadElement& element : reading) AddOutput(outcome, XmlElementLine(element, colours));
 }
 

@@ -1,7 +1,5 @@
 #include "pages.h"
 
-#include <algorithm>
-
 namespace pages {
 namespace {
 
@@ -29,30 +27,6 @@ constexpr const char* kTail = R"(  esac
 complete -o default -F _ravo ravo
 )";
 
-bool IsWord(const std::string& text) {
-  constexpr std::string_view kOther = "-_";
-  return !text.empty() && std::all_of(text.begin(), text.end(), [&](char character) {
-    return std::isalnum(static_cast<unsigned char>(character)) != 0 ||
-           kOther.find(character) != std::string::npos;
-  });
-}
-
-// Returns the values of an option with a fixed set: the parser calls its type "TEXT:{up,down}".
-std::string Values(const CLI::Option& option) {
-  const std::string type = option.get_type_name();
-  const auto begin = type.find('{');
-  if (begin == std::string::npos || type.back() != '}') return "";
-  const auto values = CLI::detail::split(type.substr(begin + 1, type.size() - begin - 2), ',');
-  return std::all_of(values.begin(), values.end(), IsWord) ? CLI::detail::join(values, " ") : "";
-}
-
-std::vector<std::string> Spellings(const CLI::Option& option) {
-  std::vector<std::string> names;
-  for (const std::string& name : option.get_lnames()) names.push_back("--" + name);
-  for (const std::string& name : option.get_snames()) names.push_back("-" + name);
-  return names;
-}
-
 std::string OptionWords(const CLI::App& app) {
   std::vector<std::string> words;
   for (const CLI::Option* option : app.get_options())
@@ -64,7 +38,7 @@ std::string OptionWords(const CLI::App& app) {
 std::string ValueRows(const Command& command) {
   std::string rows;
   for (const CLI::Option* option : command.app->get_options()) {
-    if (option->get_items_expected_max() == 0) continue;
+    if (!TakesValue(*option)) continue;
     for (const std::string& name : Spellings(*option))
       rows += "    '" + command.words + " " + name + "') words='" + Values(*option) + "' ;;\n";
   }
@@ -76,6 +50,14 @@ std::string CommandNames(const CLI::App& app) {
   for (const CLI::App* command : app.get_subcommands({}))
     if (!command->get_group().empty()) names += command->get_name() + " ";
   return names;
+}
+
+// The first word after a command: one of the set of its first argument, if it has one, or an option.
+std::string FirstWordRow(const Command& command) {
+  const std::string values = FirstArgumentValues(*command.app);
+  if (values.empty()) return "";
+  return "    '" + command.words + " " + command.app->get_name() + "') words='" + values + " " +
+         OptionWords(*command.app) + "' ;;\n";
 }
 
 // The words that a command itself takes: its sub-commands; also its options after a hyphen, or if it has no
@@ -93,12 +75,12 @@ std::string BashCompletion(const CLI::App& program) {
   std::string known, rows, options;
   for (const Command& command : Commands(program)) {
     known += "      '" + command.words + "') command='" + command.words + "' ;;\n";
-    rows += ValueRows(command);
+    rows += ValueRows(command) + FirstWordRow(command);
     // Longer commands come first: "xml show" must not match as "xml".
     options.insert(0, CommandRow(command));
   }
-  return kHead + known + kMiddle + rows + options + "    ' '*) words='" + CommandNames(program) +
-         OptionWords(program) + "' ;;\n" + kTail;
+  return kHead + known + kMiddle + rows + ValueRows({"", &program}) + options + "    ' '*) words='" +
+         CommandNames(program) + OptionWords(program) + "' ;;\n" + kTail;
 }
 
 }  // namespace pages

@@ -1,5 +1,6 @@
-// Writes one of the pages. usage: ravo_pages man|bash FILE
+// Writes one of the pages. usage: ravo_pages man|man-cs|bash|zsh|fish FILE
 #include "commands.h"
+#include "language.h"
 #include "pages.h"
 
 #include <fstream>
@@ -8,10 +9,13 @@
 namespace {
 
 std::string Page(const std::string& kind) {
+  if (kind == "man-cs") tool::SetLanguage(tool::Language::Czech);
   CLI::App program;
   tool::Outcome outcome;
   tool::Describe(program, outcome);
-  if (kind == "man") return pages::ManPage(program, RAVO_VERSION);
+  if (kind == "man" || kind == "man-cs") return pages::ManPage(program, RAVO_VERSION);
+  if (kind == "zsh") return pages::ZshCompletion(program);
+  if (kind == "fish") return pages::FishCompletion(program);
   return kind == "bash" ? pages::BashCompletion(program) : "";
 }
 
@@ -20,7 +24,7 @@ std::string Page(const std::string& kind) {
 int main(int argc, char** argv) {
   const std::string text = argc == 3 ? Page(argv[1]) : "";
   if (text.empty()) {
-    std::cerr << "usage: ravo_pages man|bash FILE\n";
+    std::cerr << "usage: ravo_pages man|man-cs|bash|zsh|fish FILE\n";
     return 2;
   }
   std::ofstream file(argv[2], std::ios::binary);
