@@ -450,10 +450,10 @@ ROWS = [
     Row(["random", "--seed", "x", "--count", "-1"], WRONG_USAGE),
     # The tour: each command as typed and its output; no colours without a terminal.
     Row(["--help"], out=("\nThe suite:\n  table ", "\nAccounting:\n  check ", "\n  tour "), holds=without("\nCommands:")),
-    Row(["tour"], holds=without("\033"), out=(
+    Row(["tour"], holds=without("\033"), err=("delimiter ';'",), out=(
         "$ ravo table 71710 100121 72510\n71710\tÚčetní deník\n", "4006381333932\twrong: the check digit does not match\n(exit status 1)\n",
         '$ ravo address "Nádražní 1234/5"\nNádražní\t1234/5\n', "\n$ ravo report\nInformace o klientské vrstvě\n", " lines more\n",
-        "$ ravo xml get invoice.xml Faktura/Radek/Castka\n1210.00\n", "\nline 3\tÚčet MD\t50\n", "\nVážená paní, účet posíláme.\n"),
+        "$ ravo xml get invoice.xml Faktura/Radek/Castka\n1210.00\n", "\nline 3\tÚčet MD\t50\tnot valid\n", "\nVážená paní, účet posíláme.\n"),
         czech=("# Všechny tabulky modulu.\n", "(návratový kód 1)\n", "Více s příklady ukáže `ravo help PŘÍKAZ`.\n")),
     Row(["tour", "--commands"], holds=lambda out: len(set(line.split()[1] for line in out.splitlines())) < 8 and "too few commands"),
     Row(["tour", "there"], WRONG_USAGE, czech=("argument 'there' je navíc",)),

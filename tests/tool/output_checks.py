@@ -259,7 +259,7 @@ def check_words_after_dashes(program):
         (["sort", "--", "-x"], "-x\n"), (["sort", "b", "--", "-x"], "b\n-x\n"), (["sort", "b", "--", "sort"], "b\nsort\n"),
         (["hash", "--all", "b", "--", "-x"], None), (["hash", "crc32", "--", "-x"], None),
         (["match", "--", "-*", "-x", "b"], "-x\n"), (["match", "*", "--", "-x"], "-x\n"),
-        (["url", "encode", "--", "-x"], "-x\n"), (["round", "--", "-12,255"], "-12,255\t-12.26\n"),
+        (["url", "encode", "--", "-x"], "-x\n"), (["round", "--", "-12,255"], "-12,255\t-12,26\n"),
         (["convert", "-f", "utf-8", "-t", "1250", "b", "--", "-x"], "b\n-x\n"),
     ]
     for words, wanted in rows:

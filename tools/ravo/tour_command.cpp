@@ -28,8 +28,8 @@ struct TourFile {
 constexpr TourFile kFiles[] = {
     {"ledger.csv",
      "Doklad;Účet MD;VS;Text\n"
-     "FP26000001;501;79927398713;Nákup zboží\n"
-     "FP26000002;50;79927398713;Oprava vozidla\n"
+     "FP26000001;501;2026000579;Nákup zboží\n"
+     "FP26000002;50;2026000580;Oprava vozidla\n"
      "FP26000003;518100;2026O003;Nájemné\n"},
     {"letter.txt",
      "V\xE1\x9E"

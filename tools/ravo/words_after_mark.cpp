@@ -1,25 +1,27 @@
 #include "words_after_mark.h"
 
 #include <algorithm>
+#include <string_view>
 #include <utility>
 
 namespace tool {
 namespace {
 
-// No argument begins with it.
-constexpr char kWordMark = '\x01';
+// No argument contains it.
+constexpr std::string_view kWordMark = "\x01--\x01";
 
 }  // namespace
 
 std::vector<std::string> MarkedAfterDashes(std::vector<std::string> arguments) {
   const auto dashes = std::find(arguments.begin(), arguments.end(), "--");
   if (dashes == arguments.end()) return arguments;
-  for (auto word = arguments.erase(dashes); word != arguments.end(); ++word) word->insert(0, 1, kWordMark);
+  for (auto word = arguments.erase(dashes); word != arguments.end(); ++word) word->insert(0, kWordMark);
   return arguments;
 }
 
 std::string Unmarked(std::string text) {
-  std::erase(text, kWordMark);
+  for (std::size_t at = text.find(kWordMark); at != std::string::npos; at = text.find(kWordMark, at))
+    text.erase(at, kWordMark.size());
   return text;
 }
 
