@@ -50,7 +50,7 @@ def seconds(command, source=None):
     done = subprocess.run(command, check=False, stdin=pipe.stdout if pipe else subprocess.DEVNULL, stdout=subprocess.DEVNULL,
                           stderr=subprocess.PIPE)
     taken = time.perf_counter() - start
-    if pipe:
+    if pipe and pipe.stdout:
         pipe.stdout.close()
         pipe.wait()
     if done.returncode not in (0, 1):

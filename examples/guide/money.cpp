@@ -27,6 +27,7 @@ int main() {
   std::cout << Text(TimesRatio(price, 21, 100, hellers)) << "\n";  // 21 % on the price
   std::cout << Text(TimesRatio(price, 21, 121, hellers)) << "\n";  // 21 % in the price
   const Currency euros = ParseCurrency(u"49,90", u',');
-  std::cout << ToUtf8(CurrencyText(TimesRate(euros, Currency{253'455}, hellers), u',')) << "\n";  // at 25.3455
+  std::cout << ToUtf8(CurrencyText(TimesRate(euros, Currency{253'455}, hellers), u','))
+            << "\n";  // at 25.3455
   // [/rate]
 }

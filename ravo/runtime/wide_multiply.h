@@ -27,8 +27,8 @@ struct Wide128 {
 
 /// A quotient, truncated, and its remainder.
 struct WideQuotient {
-  std::uint64_t quotient = 0;
-  std::uint64_t remainder = 0;
+  std::uint64_t quotient = 0;   ///< rounded toward zero
+  std::uint64_t remainder = 0;  ///< less than the divisor
 };
 
 /// Returns `dividend` / `divisor`. Precondition: the quotient fits 64 bits, so `dividend.high` < `divisor`.

@@ -7,7 +7,7 @@ import subprocess
 import threading
 import zlib
 
-from harness import NO, WRONG_USAGE, YES, Row
+from harness import NO, WRONG_USAGE, YES
 
 
 def outline(nodes, depth=0):

@@ -128,7 +128,8 @@ struct CzechFinding {
   std::string canonical;
   std::string spelling;
   std::string bank;
-  std::string list;                                        // what the list says, with its day
+  std::string list;  // what the list says, with its day
+  std::string list_day;
   std::optional<bool> suite;                               // what the suite says, if it has such a kind
   std::vector<std::pair<std::string, std::string>> facts;  // for a person
 };
@@ -150,10 +151,10 @@ void AskList(const czech::Account& account, const czech::BankList& list, czech::
              CzechFinding& finding) {
   const czech::BankAnswer answer = czech::FindBank(list, account.bank, day);
   finding.code = answer.code;
-  const std::string day_of_list = DayText(answer.list_date);
+  finding.list_day = DayText(answer.list_date);
   if (answer.bank) finding.bank = answer.bank->name;
-  finding.list = answer.bank ? Text("{0}, by the list of {1}", {finding.bank, day_of_list})
-                             : Text("not in the list of {0}", {day_of_list});
+  finding.list = answer.bank ? Text("{0}, by the list of {1}", {finding.bank, finding.list_day})
+                             : Text("not in the list of {0}", {finding.list_day});
 }
 
 void AddBirthFacts(const czech::BirthNumber& number, CzechFinding& finding) {
@@ -248,7 +249,7 @@ Json CzechFindingJson(czech::Kind kind, const std::string& value, const CzechFin
             {"remark", is_valid ? "" : czech::Sentence(finding.code, UserLanguage())}};
   if (!finding.canonical.empty()) json["canonical"] = finding.canonical;
   if (!finding.spelling.empty()) json["spelling"] = finding.spelling;
-  if (!finding.list.empty()) json["list"] = finding.list;
+  if (!finding.list_day.empty()) json["list-date"] = finding.list_day;
   if (!finding.bank.empty()) json["bank"] = finding.bank;
   if (finding.suite) json["suite"] = *finding.suite;
   return json;
