@@ -36,7 +36,7 @@ constexpr auto kAsciiNames = [] {
   std::array<NameUse, 0x80> uses{};
   for (const char ch : std::string_view("-.0123456789"))
     uses[static_cast<unsigned char>(ch)] = NameUse::Later;
-  for (char ch = 'A'; ch <= 'Z'; ++ch) uses[ch] = uses[ch + 0x20] = NameUse::Start;
+  for (std::size_t ch = 'A'; ch <= 'Z'; ++ch) uses[ch] = uses[ch + 0x20] = NameUse::Start;
   uses[':'] = uses['_'] = NameUse::Start;
   return uses;
 }();
