@@ -14,7 +14,7 @@ set(CPACK_STRIP_FILES ON)
 
 # The pages lie as in the checkout, so that their links work; the files that the commands of the pages name, with the program.
 function(ravo_install_pages pages samples)
-  install(FILES README.md CONTRIBUTING.md DESTINATION ${pages} COMPONENT development)
+  install(FILES README.md README.cs.md CONTRIBUTING.md DESTINATION ${pages} COMPONENT development)
   install(DIRECTORY docs examples DESTINATION ${pages} COMPONENT development)
   install(DIRECTORY samples DESTINATION ${samples} COMPONENT tool)
 endfunction()

@@ -10,7 +10,7 @@ FENCE = re.compile(r"^```.*?^```$|`[^`\n]*`", re.DOTALL | re.MULTILINE)
 
 
 def pages(root):
-    places = [root / "README.md", root / "CONTRIBUTING.md", *sorted((root / "docs").rglob("*.md")), *sorted((root / "examples").rglob("*.md"))]
+    places = [*sorted(root.glob("README*.md")), root / "CONTRIBUTING.md", *sorted((root / "docs").rglob("*.md")), *sorted((root / "examples").rglob("*.md"))]
     return [place for place in places if place.is_file()]
 
 
@@ -38,6 +38,7 @@ def check(root):
 PLANTINGS = [
     ("a good tree", {"README.md": "[a](docs/a.md#one-two) [b](https://x.example/) ![c](docs/c.svg) `[d](e)`", "docs/a.md": "## One: two\n[x](#one-two)", "docs/c.svg": ""}, None),
     ("a file that is not there", {"README.md": "[a](docs/a.md)"}, "README.md: there is no docs/a.md"),
+    ("a file that is not there, of the Czech README", {"README.cs.md": "[a](docs/a.md)"}, "README.cs.md: there is no docs/a.md"),
     ("a heading that is not there", {"README.md": "[a](docs/a.md#x)", "docs/a.md": "# y\n"}, "has no heading x"),
     ("a heading of the page itself", {"docs/a.md": "[a](#x)\n"}, "docs/a.md: the page has no heading x"),
 ]
