@@ -152,7 +152,7 @@ TEST(TimesRatio, EqualsAnotherDecimalArithmetic) {
   EXPECT_GT(count, 10000U);
   EXPECT_GT(overflows, 1000U);
   EXPECT_LT(overflows, count / 2);
-  test::Tried("amounts", count);
+  test::Tried("amounts", static_cast<std::int64_t>(count));
 }
 
 TEST(CurrencyText, Rows) {
