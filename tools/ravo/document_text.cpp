@@ -1,6 +1,7 @@
 #include "document_text.h"
 
 #include "document_places.h"
+#include "text.h"
 
 #include <algorithm>
 #include <array>
@@ -91,7 +92,7 @@ const EncodingRow& EncodingOf(const Beginning& beginning, std::string_view decla
   if (seen == nullptr && !IsWide(*named)) return *named;
   if (seen != nullptr && IsSameFamily(*named, *seen)) return *seen;
   FailAtStart(DocumentMessage::WrongEncoding,
-              {declared, seen != nullptr ? seen->label : "text of single bytes"});
+              {declared, seen != nullptr ? seen->label : Text("text of single bytes")});
 }
 
 bool IsUtf8(const DocumentText& text) { return text.encoding == "UTF_8"; }
