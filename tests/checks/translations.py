@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 """Every text for people in the program has a Czech translation with the same places for values, no translation is left
-over, and the compiled-in table is that of the catalogue. Where this machine has GNU gettext, it reads the catalogue too.
+over, and the compiled-in table is that of the catalogue. Help and errors are given to the parser as such texts. Where
+this machine has GNU gettext, it reads the catalogue too.
 """
 
 import pathlib
@@ -8,7 +9,7 @@ import re
 import subprocess
 import sys
 
-from source_tree import main
+from source_tree import code_files, main
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools" / "generate"))
 import texts  # noqa: E402
@@ -16,6 +17,13 @@ import texts  # noqa: E402
 PLACE = re.compile(r"\{\d\}")
 # Command lines in examples: what is typed is the same in every language, apart from texts in quotes and remarks.
 TYPED = re.compile(r"^  (ravo [^\n]*?)(?:  .*)?$", re.M)
+
+# Calls whose arguments people read.
+SHOWING = {
+    "add_option", "add_option_function", "add_flag", "add_flag_callback", "add_subcommand", "footer", "description", "Complain",
+    "ValidationError", "RequiredError", "runtime_error", "length_error",
+}  # fmt: skip
+CONSTANT = re.compile(r"k[A-Z]\w*")
 
 
 def places(text):
@@ -36,6 +44,37 @@ def wrong_form(entry, number, form):
     if [line.split()[:2] for line in TYPED.findall(entry.one)] != [line.split()[:2] for line in TYPED.findall(form)]:
         return "other commands in"
     return ""
+
+
+def untranslated(code):
+    """Words and constants among the arguments of these calls that are in no Text(...)."""
+    for index, token in enumerate(code):
+        call = index + 1
+        if token in SHOWING and code[call : call + 1] == ["<"]:
+            call = code.index("(", call)
+        if token not in SHOWING or code[call : call + 1] != ["("]:
+            continue
+        called = [""]
+        for place in range(call + 1, len(code)):
+            part = code[place]
+            if part == "(":
+                called.append(code[place - 1])
+            elif part == ")":
+                called.pop()
+            if not called:
+                break
+            if texts.LITERAL_PLACES.keys() & set(called):
+                continue
+            if texts.is_literal(part) and re.search(r"\w \w|\w\w: ", texts.value(part)):
+                yield token, part
+            if token == "footer" and len(called) == 1 and CONSTANT.fullmatch(part):
+                yield token, part
+
+
+def untranslated_findings(root):
+    for path in code_files(root, texts.SOURCES):
+        for call, part in untranslated(texts.tokens(path.read_text(encoding="utf-8"))):
+            yield f"{path.relative_to(root).as_posix()}: {call} shows {part} without Text"
 
 
 def gettext_findings(path):
@@ -68,7 +107,7 @@ def check(root):
     table = root / texts.TABLE
     if not found and (not table.exists() or table.read_text(encoding="utf-8") != texts.table(entries)):
         found.append(f"{texts.TABLE} is out of date: run tools/generate/texts.py")
-    return found + gettext_findings(path)
+    return found + list(untranslated_findings(root)) + gettext_findings(path)
 
 
 def tree(code, *forms, extra="", one="{0} of one row", many=None, table=None):
@@ -104,6 +143,14 @@ PLANTINGS = [
     ("a choice of literals", tree(CODE + 'auto c = Text(x ? "a" : "b");', "{0} z řádku"), "not one literal"),
     ("no line end", tree(r'auto a = Text("a\n");', "á", one="a\n"), "another line end"),
     ("another command", tree(r'auto a = Text("  ravo date\n");', "  ravo datum\n", one="  ravo date\n"), "other commands"),
+    ("help", tree(CODE + 'c.add_flag("--a", a, "Two words");', "{0} z řádku"), "add_flag shows \"Two words\" without Text"),
+    ("help by a function", tree(CODE + 'c.add_option_function<int>("--a", [](int) {}, "Two words");', "{0} z řádku"), "Two words"),
+    ("a glued help", tree(CODE + 'c.add_option("--a", a, "Names: " + Text("{0} of one row"));', "{0} z řádku"), "Names: "),
+    ("a raw footer", tree(CODE + "c.footer(kFooter);", "{0} z řádku"), "footer shows kFooter"),
+    ("a raw error", tree(CODE + 'throw CLI::ValidationError("two words");', "{0} z řádku"), "two words"),
+    ("shown by Text", tree(CODE + 'c.add_flag("--a", a, Text("{0} of one row")); c.footer(Text(kFooter));', "{0} z řádku"), None),
+    ("a caught error", tree(CODE + 'catch (const std::runtime_error&) { a = Text("{0} of one row"); }', "{0} z řádku"), None),
+    ("a file and why", tree(CODE + 'Complain(outcome, file + ": " + why, Answer::No);', "{0} z řádku"), None),
     ("no catalogue", {"tools/ravo/a.cpp": CODE}, None),
 ]
 

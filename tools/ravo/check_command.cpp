@@ -55,7 +55,7 @@ const CheckKind* FindKind(const std::string& name, bool suite) {
 
 std::string CheckKindName(const std::string& name) {
   return FindKind(name, false) ? std::string()
-                               : "'" + name + "' is not a kind; kinds are " + AllKindNames(", ");
+                               : Text("'{0}' is not a kind; kinds are {1}", {name, AllKindNames(", ")});
 }
 
 ColumnRequest ColumnOf(const std::string& text, bool suite) {
@@ -66,7 +66,7 @@ ColumnRequest ColumnOf(const std::string& text, bool suite) {
 
 std::string CheckColumn(const std::string& text) {
   if (ColumnOf(text, false).kind) return {};
-  return "'" + text + "' is not NAME=KIND; kinds are " + AllKindNames(", ");
+  return Text("'{0}' is not NAME=KIND; kinds are {1}", {text, AllKindNames(", ")});
 }
 
 Json ValueJson(const std::string& value, const CheckKind& kind, const std::optional<ValueReason>& reason) {
@@ -97,7 +97,7 @@ void CheckSuiteValues(const CheckOptions& options, Outcome& outcome) {
 // The suite's rule if it is asked for or the country has none.
 void CheckValues(const CheckOptions& options, Outcome& outcome) {
   if (FindKind(options.kind, options.suite) == nullptr) {
-    throw CLI::ValidationError(Text("check: the suite has no rule for {0}", {options.kind}));
+    throw CLI::ValidationError(Text("the suite has no rule for {0}", {options.kind}));
   }
   if (options.suite || !FindCzechKind(options.kind)) return CheckSuiteValues(options, outcome);
   CzechCheck check = options.czech;
@@ -112,10 +112,10 @@ const ravo::DIUnicode::EncodingRow* EncodingOf(const std::string& name) {
   if (name.empty()) return nullptr;
   const ravo::DIUnicode::EncodingRow* const row = ravo::DIUnicode::FindEncoding(name);
   if (row == nullptr)
-    throw CLI::ValidationError("check: " + Text("there is no encoding {0}; see ravo encodings", {name}));
+    throw CLI::ValidationError(Text("there is no encoding {0}; see ravo encodings", {name}));
   if (!TableText::CanRead(*row)) {
     throw CLI::ValidationError(
-        "check: " + Text("tables in {0} cannot be read; convert them first: ravo convert", {name}));
+        Text("tables in {0} cannot be read; convert them first: ravo convert", {name}));
   }
   return row;
 }
@@ -144,8 +144,9 @@ TableJob JobOf(const CheckOptions& options) {
 void Run(const CheckOptions& options, Outcome& outcome) {
   const bool values = !options.values.empty();
   const bool file = !options.files.empty();
-  if (values == file) throw CLI::RequiredError("check: either a kind and values, or --csv and --column");
-  if (file && options.columns.empty()) throw CLI::RequiredError("check --csv: at least one --column");
+  if (values == file)
+    throw CLI::ValidationError(Text("give a kind and values, or --csv and --column"));
+  if (file && options.columns.empty()) throw CLI::ValidationError(Text("--csv needs at least one --column"));
   if (!file) return CheckValues(options, outcome);
   outcome.answer = CheckTables(JobOf(options));
 }
@@ -153,23 +154,25 @@ void Run(const CheckOptions& options, Outcome& outcome) {
 std::string CheckFooter() {
   return Text("Kinds by the country's rules:") + "\n" + KindLines(CzechKinds()) + "\n" +
          Text("Kinds by the suite's rules, for which --suite asks if there are both:") + "\n" +
-         KindLines(CheckKinds()) +
-         "\n"
-         "Exit status: 0 nothing found, 1 findings, 2 wrong usage or some of the work could not be done.\n"
-         "\n"
-         "Examples:\n"
-         "  ravo check ico 04625781 \"IČ: 270 82 440\"\n"
-         "  ravo check rc 880125/1680 --explain --on today\n"
-         "  ravo check account 19-2000145399/0800 --list built-in\n"
-         "  ravo check banka 19-2000145399/0800 --suite\n"
-         "  ravo check ean 4006381333931 400638133393\n"
-         "  ravo check --csv samples/ledger.csv --column \"Účet MD=ucet\" --column VS=vs --allow-empty\n";
+         KindLines(CheckKinds()) + "\n" +
+         Text(
+             "Exit status: 0 nothing found; 1 findings; 2 wrong usage, or some of the work could not be "
+             "done.\n"
+             "\n"
+             "Examples:\n"
+             "  ravo check ico 04625781 \"IČ: 270 82 440\"\n"
+             "  ravo check rc 880125/1680 --explain --on today\n"
+             "  ravo check account 19-2000145399/0800 --list built-in\n"
+             "  ravo check banka 19-2000145399/0800 --suite\n"
+             "  ravo check ean 4006381333931 400638133393\n"
+             "  ravo check --csv samples/ledger.csv --column \"Účet MD=ucet\" --column VS=vs "
+             "--allow-empty\n");
 }
 
 void AddOutput(CLI::App& command, std::string& name, CLI::Option* file, const char* option,
                const std::string& help) {
   command.add_option(option, name, help)
-      ->type_name("FILE")
+      ->type_name(Text("FILE"))
       ->check(CLI::Validator(CheckOutputName, ""))
       ->needs(file);
 }
@@ -177,7 +180,7 @@ void AddOutput(CLI::App& command, std::string& name, CLI::Option* file, const ch
 void AddTableOptions(CLI::App& command, CheckOptions& options, CLI::Option* file) {
   command
       .add_option("--delimiter", options.delimiter, Text("The delimiter between fields; detected by default"))
-      ->type_name("CHAR")
+      ->type_name(Text("CHAR"))
       ->check(CLI::IsMember({";", ",", "\t", "tab", "|"}))
       ->needs(file);
   command.add_option("--encoding", options.encoding, Text("The encoding of the tables; detected by default"))
@@ -205,42 +208,43 @@ void AddRuleOptions(CLI::App& command, CheckOptions& options) {
   CLI::Option* list = command.add_option(
       "--list", options.czech.list,
       Text("Look banks up in this list, a file of the central bank's CSV form, or built-in"));
-  list->type_name("FILE");
+  list->type_name(Text("FILE"));
   command.add_option("--list-date", options.czech.list_date, Text("The day of the list; today by default"))
-      ->type_name("DATE")
+      ->type_name(Text("DATE"))
       ->check(CLI::Validator(CheckDay, ""))
       ->needs(list);
   command.add_option("--on", options.czech.on, Text("Refuse dates of birth after this day"))
-      ->type_name("DATE")
+      ->type_name(Text("DATE"))
       ->check(CLI::Validator(CheckDay, ""));
 }
 
 }  // namespace
 
 void AddCheckCommand(CLI::App& program, Outcome& outcome) {
-  CLI::App* command =
-      program.add_subcommand("check", "Checks accounts, bank accounts, payment references and EAN codes");
+  CLI::App* command = program.add_subcommand(
+      "check", Text("Checks accounts, bank accounts, payment references and EAN codes"));
   // A path may begin with "/".
   command->allow_windows_style_options(false);
   const auto options = std::make_shared<CheckOptions>();
-  CLI::Option* kind =
-      command->add_option("KIND", options->kind, "The kind of the values: " + AllKindNames(", "));
+  CLI::Option* kind = command->add_option(Text("KIND"), options->kind,
+                                          Text("The kind of the values: {0}", {AllKindNames(", ")}));
   kind->check(CLI::Validator(CheckKindName, ""));
-  CLI::Option* values = command->add_option(
-      "VALUE", options->values, Text("The values to check; - reads them from standard input, one in a line"));
+  CLI::Option* values =
+      command->add_option(Text("VALUE"), options->values,
+                          Text("The values to check; - reads them from standard input, one in a line"));
   CLI::Option* file =
       command->add_option("--csv", options->files,
                           Text("Check tables whose first row has the column names; - is standard input"));
-  file->type_name("FILE")->excludes(kind)->excludes(values);
+  file->type_name(Text("FILE"))->excludes(kind)->excludes(values);
   command
       ->add_option("--column", options->columns,
                    Text("A column, by name or number, and the kind of its values; may be repeated"))
-      ->type_name("NAME=KIND")
+      ->type_name(Text("NAME=KIND"))
       ->check(CLI::Validator(CheckColumn, ""))
       ->needs(file);
   AddTableOptions(*command, *options, file);
   AddRuleOptions(*command, *options);
-  command->add_flag("--json", options->json, "Write JSON");
+  command->add_flag("--json", options->json, Text("Write JSON"));
   command->footer(CheckFooter());
   command->callback([options, &outcome] { Run(*options, outcome); });
 }

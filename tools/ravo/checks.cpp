@@ -1,5 +1,6 @@
 #include "checks.h"
 
+#include "text.h"
 #include <ravo/RavoInterface.h>
 #include <ravo/RavoInterfaceCommon.h>
 
@@ -20,7 +21,7 @@ Verdict CheckByRule(std::u16string_view text) {
   try {
     return {kRule(text), {}, {}};
   } catch (const ravo::Error&) {
-    return {false, "too long", Reason::TooLong};
+    return {false, Text("too long"), Reason::TooLong};
   }
 }
 
@@ -29,17 +30,19 @@ Verdict CheckEan(std::u16string_view text) {
   if (!common::CalculateEAN(text, old_check, new_check, full)) return {};
   if (old_check == new_check) return {true, {}, {}};
   const std::string right = ravo::ToUtf8(full);
-  if (old_check == u" ") return {false, "without check digit, complete: " + right, Reason::NoCheckDigit};
-  return {false, "wrong check digit, right: " + right, Reason::WrongCheckDigit};
+  if (old_check == u" ")
+    return {false, Text("without check digit, complete: {0}", {right}), Reason::NoCheckDigit};
+  return {false, Text("wrong check digit, right: {0}", {right}), Reason::WrongCheckDigit};
 }
 
 constexpr CheckKind kKinds[] = {
-    {"ucet", "account of the chart of accounts, 3 to 6 digits", CheckAccount},
-    {"su", "synthetic account, 3 digits", CheckSynthetic},
-    {"au", "analytic account, up to 3 digits", CheckAnalytic},
-    {"banka", "bank account with its weights modulo 11", CheckByRule<common::UcetMod11>},
-    {"vs", "payment reference (variable symbol) with a Luhn digit", CheckByRule<common::ValidVS>},
-    {"ean", "article code EAN-8 or EAN-13", CheckEan},
+    {"ucet", ToTranslate("account of the chart of accounts, 3 to 6 digits"), CheckAccount},
+    {"su", ToTranslate("synthetic account, 3 digits"), CheckSynthetic},
+    {"au", ToTranslate("analytic account, up to 3 digits"), CheckAnalytic},
+    {"banka", ToTranslate("bank account with its weights modulo 11"), CheckByRule<common::UcetMod11>},
+    {"vs", ToTranslate("payment reference (variable symbol) with a Luhn digit"),
+     CheckByRule<common::ValidVS>},
+    {"ean", ToTranslate("article code EAN-8 or EAN-13"), CheckEan},
 };
 
 }  // namespace
@@ -49,15 +52,6 @@ std::span<const CheckKind> CheckKinds() { return kKinds; }
 const CheckKind* FindCheckKind(std::string_view name) {
   const auto* found = std::ranges::find(kKinds, name, &CheckKind::name);
   return found == std::end(kKinds) ? nullptr : found;
-}
-
-std::string CheckKindNames(std::string_view between) {
-  std::string names;
-  for (const CheckKind& kind : kKinds) {
-    if (!names.empty()) names += between;
-    names += kind.name;
-  }
-  return names;
 }
 
 }  // namespace tool

@@ -28,7 +28,4 @@ struct CheckKind {
 /// Returns the kind of this name, or null.
 [[nodiscard]] const CheckKind* FindCheckKind(std::string_view name);
 
-/// Returns the names of all kinds, separated by `between`.
-[[nodiscard]] std::string CheckKindNames(std::string_view between);
-
 }  // namespace tool

@@ -1,4 +1,5 @@
 #include "console.h"
+#include "text.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -27,7 +28,7 @@ std::size_t ReadInput(std::span<std::byte> to) {
   for (;;) {
     const ssize_t count = read(STDIN_FILENO, to.data(), to.size());
     if (count >= 0) return static_cast<std::size_t>(count);
-    if (errno != EINTR) throw std::runtime_error("standard input cannot be read");
+    if (errno != EINTR) throw std::runtime_error(Text("standard input cannot be read"));
   }
 }
 

@@ -1,4 +1,5 @@
 #include "console.h"
+#include "text.h"
 
 #include <algorithm>
 #include <cwchar>
@@ -80,7 +81,7 @@ std::size_t ReadInput(std::span<std::byte> to) {
   const HANDLE input = GetStdHandle(STD_INPUT_HANDLE);
   const auto most = static_cast<DWORD>(std::min<std::size_t>(to.size(), 1 << 20));
   if (ReadFile(input, to.data(), most, &count, nullptr) || GetLastError() == ERROR_BROKEN_PIPE) return count;
-  throw std::runtime_error("standard input cannot be read");
+  throw std::runtime_error(Text("standard input cannot be read"));
 }
 
 std::string SystemLanguage() { return PRIMARYLANGID(GetUserDefaultUILanguage()) == LANG_CZECH ? "cs" : "en"; }

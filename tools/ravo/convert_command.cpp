@@ -195,9 +195,7 @@ void ConvertFile(FileConverter& converter, const ConvertOptions& options, const 
                  const std::string& name, Outcome& outcome) try {
   ByteSource source = OpenSource(name);
   Progress progress(name, source.Size());
-  const auto note = [&](const std::string& what) {
-    outcome.err += "ravo convert: " + name + ": " + what + "\n";
-  };
+  const auto note = [&](const std::string& what) { Complain(outcome, name + ": " + what, Answer::Yes); };
   const auto end = converter.Convert(SourceOf(options.from), source, note,
                                      [&progress](std::int64_t done) { progress.Show(done); });
   if (end)
@@ -238,8 +236,7 @@ void Run(const ConvertOptions& options, Outcome& outcome) {
   try {
     Convert(options, outcome);
   } catch (const ConvertRefused& refused) {
-    outcome.err += "ravo convert: " + refused.message + "\n";
-    outcome.answer = refused.answer;
+    Complain(outcome, refused.message, refused.answer);
   }
 }
 
@@ -260,9 +257,8 @@ constexpr const char* kConvertFooter = ToTranslate(
     "and\n"
     "EUR for the euro; --replace writes one character for what is left, and for bytes that cannot be read.\n"
     "\n"
-    "Exit status: 0, 1 something cannot be read or written in these encodings (with line and column), 2 "
-    "wrong\n"
-    "usage or an unusable file.\n"
+    "Exit status: 0 converted; 1 something cannot be read or written in these encodings (with line and\n"
+    "column); 2 wrong usage, or a file that cannot be read or written.\n"
     "\n"
     "Examples:\n"
     "  ravo convert -t utf-8 export.txt -o export-utf8.txt\n"
@@ -272,17 +268,20 @@ constexpr const char* kConvertFooter = ToTranslate(
 }  // namespace
 
 void AddConvertCommand(CLI::App& program, Outcome& outcome) {
-  CLI::App* command = program.add_subcommand("convert", "Converts texts from one encoding to another");
+  CLI::App* command = program.add_subcommand("convert", Text("Converts texts from one encoding to another"));
   const auto options = std::make_shared<ConvertOptions>();
   command->add_option("-f,--from", options->from,
-                      "The encoding of the files; without it, or with auto, found out");
-  command->add_option("-t,--to", options->to, "The encoding of the output")->required();
-  command->add_option("FILE", options->files, "The files; none, or -, is standard input");
-  command->add_option("-o,--output", options->output, "The file to write; else, or with -, standard output");
-  command->add_flag("--translit", options->translit, "Spell characters that the output lacks with others");
-  command->add_option("--replace", options->replacement,
-                      "The character to write for those that cannot be; without it they end the conversion");
-  command->footer(kConvertFooter);
+                      Text("The encoding of the files; without it, or with auto, found out"));
+  command->add_option("-t,--to", options->to, Text("The encoding of the output"))->required();
+  command->add_option(Text("FILE"), options->files, Text("The files; none, or -, is standard input"));
+  command->add_option("-o,--output", options->output,
+                      Text("The file to write; else, or with -, standard output"));
+  command->add_flag("--translit", options->translit,
+                    Text("Spell characters that the output lacks with others"));
+  command->add_option(
+      "--replace", options->replacement,
+      Text("The character to write for those that cannot be; without it they end the conversion"));
+  command->footer(Text(kConvertFooter));
   command->callback([options, &outcome] { Run(*options, outcome); });
 }
 

@@ -273,9 +273,7 @@ void CheckCzechValues(const CzechCheck& check, Outcome& outcome) {
   if (!check.list.empty()) {
     const std::string fault = ReadBanks(check, banks);
     if (!fault.empty()) {
-      outcome.err = "ravo check: " + check.list + ": " + fault + "\n";
-      outcome.answer = Answer::WrongUsage;
-      return;
+      return Complain(outcome, check.list + ": " + fault, Answer::WrongUsage);
     }
   }
   Json answers = Json::array();

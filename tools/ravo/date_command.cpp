@@ -251,13 +251,13 @@ void AddDateCommand(CLI::App& program, Outcome& outcome) {
   CLI::App* command =
       program.add_subcommand("date", Text("Shows the facts of a day, steps from it, prints its month"));
   const auto options = std::make_shared<DateOptions>();
-  command->add_option("DATE", options->date,
+  command->add_option(Text("DATE"), options->date,
                       Text("A day, perhaps with a time HH:MM:SS.mmm and steps such as +14d"));
   command->add_option("--month", options->month, Text("Months to step forward, or back if negative"))
       ->check(CLI::Range(-120000, 120000));
   command->add_option("--year", options->year, Text("Years to step forward, or back if negative"))
       ->check(CLI::Range(-10000, 10000));
-  command->add_option("--today", options->today, Text("The day to take for today"))->type_name("DATE");
+  command->add_option("--today", options->today, Text("The day to take for today"))->type_name(Text("DATE"));
   CLI::Option* calendar = command->add_flag(
       "--calendar", options->calendar, Text("Print the month instead: the day in brackets, Sundays with *"));
   command->add_flag("--holidays-de", options->holidays_de, Text("Also list or mark the holidays of Germany"));

@@ -44,9 +44,7 @@ Json TermJson(const czech::Term& term) {
 void Run(const DueOptions& options, Outcome& outcome) {
   const auto term = TermOf(options);
   if (!term) {
-    outcome.err = Text("ravo due: the term leaves the years 1 to 9999") + "\n";
-    outcome.answer = Answer::WrongUsage;
-    return;
+    return Complain(outcome, Text("the term leaves the years 1 to 9999"), Answer::WrongUsage);
   }
   Json json = TermJson(term.value);
   outcome.out = DayText(term.value.due) + "\t" + WeekdayText(term.value.due) + "\n" + TermNotes(term.value);
@@ -79,13 +77,15 @@ void AddDueCommand(CLI::App& program, Outcome& outcome) {
   CLI::App* command = program.add_subcommand("due", Text("Tells when a term ends, by Czech working days"));
   command->alias("splatnost");
   const auto options = std::make_shared<DueOptions>();
-  command->add_option("DATE", options->date, Text("The day of the event, such as 2026-11-21 or 21.11.2026"))
+  command
+      ->add_option(Text("DATE"), options->date,
+                   Text("The day of the event, such as 2026-11-21 or 21.11.2026"))
       ->required()
       ->check(CLI::Validator(CheckDay, ""));
   CLI::Option* days = command->add_option("--days", options->days, Text("The term in days"));
   command->add_option("--months", options->months, Text("The term in months"))->excludes(days);
   command->add_option("--on", options->on, Text("Tell how many days the term is overdue on this day"))
-      ->type_name("DATE")
+      ->type_name(Text("DATE"))
       ->check(CLI::Validator(CheckDay, ""));
   command->add_flag("--json", options->json, Text("Write JSON"));
   command->footer(Text(kDueFooter));

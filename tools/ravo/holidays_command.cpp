@@ -108,7 +108,7 @@ void AddHolidaysCommand(CLI::App& program, Outcome& outcome) {
   command->alias("svatky");
   const auto options = std::make_shared<HolidayOptions>();
   command
-      ->add_option("DATE", options->days,
+      ->add_option(Text("DATE"), options->days,
                    Text("A year or a day, or the first and the last; this year by default"))
       ->expected(0, 2)
       ->check(CLI::Validator(CheckYearOrDay, ""));

@@ -1,6 +1,7 @@
 #include "line_sort.h"
 
 #include "natural_order.h"
+#include "text.h"
 #include <ravo/RavoInterface.h>
 
 #include <algorithm>
@@ -90,7 +91,8 @@ class Part {
     }
   }
   void Add(std::string_view key, std::size_t line) {
-    if (key.size() > std::numeric_limits<std::uint32_t>::max()) throw std::length_error("a line is too long");
+    if (key.size() > std::numeric_limits<std::uint32_t>::max())
+      throw std::length_error(Text("a line is too long"));
     items.push_back(
         {StartOf(key), key.data(), static_cast<std::uint32_t>(key.size()), static_cast<std::uint32_t>(line)});
   }
@@ -202,7 +204,8 @@ std::string_view TextOfLine(std::string_view line) {
 }
 
 Lines Sorted(const Lines& lines, const LineOrder& order) {
-  if (lines.size() > std::numeric_limits<std::uint32_t>::max()) throw std::length_error("too many lines");
+  if (lines.size() > std::numeric_limits<std::uint32_t>::max())
+    throw std::length_error(Text("too many lines"));
   const Comparison comes_first(lines, order);
   const Parts parts = SortedParts(lines, order, comes_first);
   Items items = Merged(parts, comes_first);

@@ -163,13 +163,13 @@ void AddRules(CLI::App& command, RoundOptions& options) {
 void AddTable(CLI::App& command, RoundOptions& options, CLI::Option* amounts, CLI::Option* json) {
   CLI::Option* file = command.add_option(
       "--csv", options.file, Text("Round a column of a table and write the table; - is standard input"));
-  file->type_name("FILE")->excludes(amounts)->excludes(json);
+  file->type_name(Text("FILE"))->excludes(amounts)->excludes(json);
   CLI::Option* column = command.add_option("--column", options.column, Text("The column, by name or number"));
   column->needs(file);
   file->needs(column);
   command
       .add_option("--delimiter", options.delimiter, Text("The delimiter between fields; detected by default"))
-      ->type_name("CHAR")
+      ->type_name(Text("CHAR"))
       ->check(CLI::IsMember({";", ",", "\t", "|"}))
       ->needs(file);
 }
@@ -180,7 +180,7 @@ void AddRoundCommand(CLI::App& program, Outcome& outcome) {
   CLI::App* command = program.add_subcommand("round", Text("Rounds money as documents do"));
   const auto options = std::make_shared<RoundOptions>();
   CLI::Option* amounts = command->add_option(
-      "AMOUNT", options->amounts, Text("Amounts; - reads them from standard input, one in a line"));
+      Text("AMOUNT"), options->amounts, Text("Amounts; - reads them from standard input, one in a line"));
   AddRules(*command, *options);
   command
       ->add_option("--notation", options->notation,

@@ -35,9 +35,7 @@ std::string Remark(const Lines& sorted, const SortOptions& options) {
   const std::size_t line =
       FirstUnlikeTheSuite(sorted, SuiteOrderOf(options.order.czech), options.order.reverse);
   if (line == 0) return {};
-  return tool::Text("ravo sort: the order of the suite differs from line {0} on; --suite shows it",
-                    {std::to_string(line)}) +
-         "\n";
+  return Text("the order of the suite differs from line {0} on; --suite shows it", {std::to_string(line)});
 }
 
 Lines InOrder(const Lines& lines, const SortOptions& options) {
@@ -66,10 +64,7 @@ std::string WriteLines(const Lines& lines, const SortInput& input, const std::st
 }
 
 void Run(const SortOptions& options, Outcome& outcome) {
-  const auto fail = [&outcome](const std::string& why) {
-    outcome.err = "ravo sort: " + why + "\n";
-    outcome.answer = Answer::WrongUsage;
-  };
+  const auto fail = [&outcome](const std::string& why) { Complain(outcome, why, Answer::WrongUsage); };
   try {
     SortInput input(options.encoding);
     if (options.files.empty()) input.Add(std::string(kInputName));
@@ -77,13 +72,14 @@ void Run(const SortOptions& options, Outcome& outcome) {
     const Lines sorted = InOrder(input.AllLines(), options);
     const std::string failure = WriteLines(sorted, input, options.output);
     if (!failure.empty()) return fail(options.output + ": " + failure);
-    outcome.err = Remark(sorted, options);
-  } catch (const std::runtime_error& error) {
+    const std::string remark = Remark(sorted, options);
+    if (!remark.empty()) Complain(outcome, remark, Answer::Yes);
+  } catch (const std::exception& error) {
     fail(error.what());
   }
 }
 
-constexpr const char* kSortFooter =
+constexpr const char* kSortFooter = ToTranslate(
     "The order is the Czech alphabetical one: c, č, ... h, ch, ... r, ř, s, š, ... z, ž. Of words with\n"
     "the same letters, accents decide, then capitals: small letters come first. Blanks and signs\n"
     "precede letters, digits follow them (ČSN 97 6030). Lines with equal keys stay in the order in\n"
@@ -93,45 +89,49 @@ constexpr const char* kSortFooter =
     "in UTF-8. --suite sorts as the modules of the suite do: by character codes, and numbers not\n"
     "always by value.\n"
     "\n"
-    "Exit status: 0, or 2 wrong usage, an unusable file, or bytes that are not of the encoding.\n"
+    "Exit status: 0 sorted; 2 wrong usage, a file that cannot be read or written, or bytes that are not of\n"
+    "the encoding.\n"
     "\n"
     "Examples:\n"
     "  ravo sort names.txt -o names.txt                   in place: a file is replaced once all is written\n"
     "  ravo sort --natural files.txt                      FV9 before FV10\n"
     "  ravo sort -t ';' -k 3 -r ledger.csv                by the third field, from the end\n"
     "  ravo sort -n -k 2 amounts.txt                      by amounts such as 1 234,50\n"
-    "  ls | ravo sort --natural --ignore-case -\n";
+    "  ls | ravo sort --natural --ignore-case -\n");
 
 }  // namespace
 
 void AddSortCommand(CLI::App& program, Outcome& outcome) {
-  CLI::App* command = program.add_subcommand("sort", "Sorts lines in Czech alphabetical order");
+  CLI::App* command = program.add_subcommand("sort", Text("Sorts lines in Czech alphabetical order"));
   const auto options = std::make_shared<SortOptions>();
   LineOrder& order = options->order;
-  command->add_option("FILE", options->files, "Files; none, or -, is standard input");
-  command->add_flag("--natural", order.czech.natural, "Compare runs of digits by value");
-  command->add_flag("-n,--numeric", order.numeric, "Compare the numbers at the start, such as -1 234,50")
+  command->add_option(Text("FILE"), options->files, Text("Files; none, or -, is standard input"));
+  command->add_flag("--natural", order.czech.natural, Text("Compare runs of digits by value"));
+  command
+      ->add_flag("-n,--numeric", order.numeric, Text("Compare the numbers at the start, such as -1 234,50"))
       ->excludes("--natural");
-  command->add_flag("--ignore-case", order.czech.ignore_case, "Ignore case");
-  command->add_flag("--digits-first", order.czech.digits_first, "Digits before letters");
-  command->add_flag("-r,--reverse", order.reverse, "From the last to the first");
-  command->add_flag("-u,--unique", order.unique, "Only the first of equal lines");
+  command->add_flag("--ignore-case", order.czech.ignore_case, Text("Ignore case"));
+  command->add_flag("--digits-first", order.czech.digits_first, Text("Digits before letters"));
+  command->add_flag("-r,--reverse", order.reverse, Text("From the last to the first"));
+  command->add_flag("-u,--unique", order.unique, Text("Only the first of equal lines"));
   CLI::Option* field =
-      command->add_option("-k,--key", order.fields, "Compare this field; several times for further ones")
-          ->type_name("FIELD")
+      command
+          ->add_option("-k,--key", order.fields, Text("Compare this field; several times for further ones"))
+          ->type_name(Text("FIELD"))
           ->allow_extra_args(false)
           ->check(CLI::PositiveNumber);
-  command->add_option("-t,--delimiter", order.delimiter, "What is between fields; else runs of blanks")
+  command->add_option("-t,--delimiter", order.delimiter, Text("What is between fields; else runs of blanks"))
       ->type_name("TEXT")
       ->needs(field);
-  command->add_option("--encoding", options->encoding, "The encoding of the files")->capture_default_str();
-  command->add_flag("--suite", options->suite, "The order of the suite")
+  command->add_option("--encoding", options->encoding, Text("The encoding of the files"))
+      ->capture_default_str();
+  command->add_flag("--suite", options->suite, Text("The order of the suite"))
       ->excludes(field)
       ->excludes("--numeric")
       ->excludes("--digits-first");
-  command->add_option("-o,--output", options->output, "The file to write; - is standard output")
-      ->type_name("FILE");
-  command->footer(kSortFooter);
+  command->add_option("-o,--output", options->output, Text("The file to write; - is standard output"))
+      ->type_name(Text("FILE"));
+  command->footer(Text(kSortFooter));
   command->callback([options, &outcome] { Run(*options, outcome); });
 }
 

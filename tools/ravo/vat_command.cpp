@@ -82,9 +82,8 @@ czech::VatMethod VatMethodOf(const VatOptions& options, czech::Day day) {
                                                            : czech::VatMethod::FromTotalByCoefficient;
 }
 
-void RefuseVat(Outcome& outcome, std::string message) {
-  outcome.err += "ravo vat: " + message + "\n";
-  outcome.answer = Answer::WrongUsage;
+void RefuseVat(Outcome& outcome, const std::string& message) {
+  Complain(outcome, message, Answer::WrongUsage);
 }
 
 // All lines, or nothing and a message about each that has no rate.
@@ -180,16 +179,15 @@ void WriteRates(const VatOptions& options, Outcome& outcome) {
                     {"law", rate.law}});
   }
   if (rows.empty()) {
-    outcome.err =
-        Text("ravo vat: no rates are known for {0}; the first are of 1 January 1993\n", {DayText(day)});
-    outcome.answer = Answer::No;
+    Complain(outcome, Text("no rates are known for {0}; the first are of 1 January 1993", {DayText(day)}),
+             Answer::No);
   }
   if (options.json) outcome.out = JsonText(rows);
 }
 
 void Run(const VatOptions& options, Outcome& outcome) {
   if (options.rates) return WriteRates(options, outcome);
-  if (options.amounts.empty()) throw CLI::RequiredError(Text("vat: an amount, or --rates"));
+  if (options.amounts.empty()) throw CLI::ValidationError(Text("give an amount, or --rates"));
   const czech::Day day = DayOrToday(options.on);
   const czech::VatMethod method = VatMethodOf(options, day);
   if (!czech::IsLawful(method, day)) {
@@ -244,12 +242,12 @@ void AddVatCommand(CLI::App& program, Outcome& outcome) {
   command->alias("dph");
   const auto options = std::make_shared<VatOptions>();
   command
-      ->add_option("AMOUNT", options->amounts,
+      ->add_option(Text("AMOUNT"), options->amounts,
                    Text("Amounts with \".\" or \",\", and perhaps a rate: 1000:12"))
       ->check(CLI::Validator(CheckVatAmount, ""));
   AddVatOptions(*command, *options);
   command->add_option("--on", options->on, Text("The day of the supply; today by default"))
-      ->type_name("DATE")
+      ->type_name(Text("DATE"))
       ->check(CLI::Validator(CheckDay, ""));
   command->add_flag("--rates", options->rates, Text("List the rates instead: first and last day, rate, law"));
   command->add_flag("--json", options->json, Text("Write JSON"));

@@ -94,13 +94,13 @@ bool Survives(const XmlOptions& options, const std::string& bytes, Outcome& outc
   PlaceFinder places(open.Text().utf8);
   const TextPlace place = places.Find(findings[0].at);
   const std::string at = ":" + std::to_string(place.line) + ":" + std::to_string(place.column) + ": ";
-  TellXml(options, outcome, ShownName(options.file) + at + findings[0].Text(), Answer::No);
+  Complain(outcome, ShownName(options.file) + at + findings[0].Text(), Answer::No);
   const std::string refusal =
       TextOf(std::ssize(findings),
              "the suite would spoil the document in one place; --suite formats it all the same",
              "the suite would spoil the document in {0} places, which `ravo xml check` lists; --suite "
              "formats it all the same");
-  TellXml(options, outcome, ShownName(options.file) + ": " + refusal, Answer::No);
+  Complain(outcome, ShownName(options.file) + ": " + refusal, Answer::No);
   return false;
 }
 
@@ -112,7 +112,7 @@ void CheckXml(const XmlOptions& options, Outcome& outcome) {
     try {
       CheckFile(options, file, outcome);
     } catch (const FileError& error) {
-      TellXml(options, outcome, error.what(), Answer::WrongUsage);
+      Complain(outcome, error.what(), Answer::WrongUsage);
     }
   }
 }
@@ -129,8 +129,7 @@ void FormatXml(const XmlOptions& options, Outcome& outcome) {
   SavedDocument saved(options.out);
   parser.SaveToStream(saved, false);
   const std::string failure = saved.Finish(outcome);
-  if (!failure.empty())
-    TellXml(options, outcome, ShownName(options.out) + ": " + failure, Answer::WrongUsage);
+  if (!failure.empty()) Complain(outcome, ShownName(options.out) + ": " + failure, Answer::WrongUsage);
 }
 
 }  // namespace tool

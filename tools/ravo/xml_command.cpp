@@ -23,11 +23,11 @@ void Guarded(XmlWork* work, const XmlOptions& options, Outcome& outcome) {
     work(options, outcome);
     return;
   } catch (const PathError& error) {
-    TellXml(options, outcome, ShownName(options.file) + ": " + OnOneLine(error.what()), AnswerTo(error));
+    Complain(outcome, ShownName(options.file) + ": " + OnOneLine(error.what()), AnswerTo(error));
   } catch (const FileError& error) {
-    TellXml(options, outcome, OnOneLine(error.what()), Answer::WrongUsage);
+    Complain(outcome, OnOneLine(error.what()), Answer::WrongUsage);
   } catch (const ravo::Error& error) {
-    TellXml(options, outcome, ShownName(options.file) + ": " + OnOneLine(error.what()), Answer::WrongUsage);
+    Complain(outcome, ShownName(options.file) + ": " + OnOneLine(error.what()), Answer::WrongUsage);
   }
   outcome.out.clear();
 }
@@ -67,10 +67,7 @@ class XmlCommands {
   CLI::App* Add(const char* name, const std::string& what, XmlWork* work) {
     CLI::App* const command = xml_.add_subcommand(name, what);
     const auto options = options_;
-    command->callback([work, options, name, &outcome = outcome_] {
-      options->command = std::string("xml ") + name;
-      Guarded(work, *options, outcome);
-    });
+    command->callback([work, options, &outcome = outcome_] { Guarded(work, *options, outcome); });
     return command;
   }
 
@@ -78,7 +75,7 @@ class XmlCommands {
     CLI::App* const show = Reader("show", Text("Shows the elements"), ShowXml);
     show->add_flag("--color", options_->colour, Text("In colours even if the output is not a terminal"));
     CLI::App* const get = Reader("get", Text("Prints the text or attribute at a path"), GetXml);
-    get->add_option("PATH", options_->path, Text("The element or attribute"))->required();
+    get->add_option(Text("PATH"), options_->path, Text("The element or attribute"))->required();
     get->add_flag("--raw", options_->edit.is_raw, Text("As it is written in the document"));
     Reader("tokens", Text("Lists the pieces"), ListXmlTokens);
   }
@@ -86,7 +83,8 @@ class XmlCommands {
   void AddSet() {
     CLI::App* const set =
         WithFile("set", Text("Sets texts and attributes, and changes nothing else"), SetXml);
-    set->add_option("CHANGES", options_->changes, Text("Paths, each with its value after it"))->required();
+    set->add_option(Text("CHANGES"), options_->changes, Text("Paths, each with its value after it"))
+        ->required();
     set->add_flag("-i,--in-place", options_->in_place,
                   Text("Edit the file instead of printing the document"));
     set->add_flag("--dry-run", options_->dry_run, Text("Show the lines that change, as a diff"));
@@ -107,14 +105,14 @@ class XmlCommands {
   void AddCheck() {
     CLI::App* const check =
         Add("check", Text("Lists where the suite would see or save something else"), CheckXml);
-    check->add_option("FILE", options_->files, Text("XML files"))->required();
+    check->add_option(Text("FILE"), options_->files, Text("XML files"))->required();
     AddJson(*check);
   }
 
  private:
   CLI::App* WithFile(const char* name, const std::string& what, XmlWork* work) {
     CLI::App* const command = Add(name, what, work);
-    command->add_option("FILE", options_->file, Text("An XML file"))->required();
+    command->add_option(Text("FILE"), options_->file, Text("An XML file"))->required();
     return command;
   }
 
@@ -134,7 +132,7 @@ class XmlCommands {
       return name.empty() ? MessageText(DocumentMessage::NoName) : std::string();
     };
     command.add_option("-o", options_->out, Text("Write to this file"))
-        ->type_name("FILE")
+        ->type_name(Text("FILE"))
         ->check(CLI::Validator(named, ""));
   }
 

@@ -6,11 +6,6 @@
 
 namespace tool {
 
-void TellXml(const XmlOptions& options, Outcome& outcome, const std::string& message, Answer answer) {
-  outcome.err += "ravo " + options.command + ": " + message + "\n";
-  outcome.answer = std::max(outcome.answer, answer);
-}
-
 // Output that cannot be written is kept: the program reports the failure when it writes the rest.
 void AddOutput(Outcome& outcome, std::string_view text) {
   constexpr std::size_t kAtOnce = std::size_t{1} << 16;

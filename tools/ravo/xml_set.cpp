@@ -37,14 +37,13 @@ void CheckTarget(const XmlOptions& options) {
 }
 
 // Writes a document to a file or to standard output; on a terminal without control characters.
-void Deliver(const XmlOptions& options, const std::string& file, const DocumentText& document,
-             Outcome& outcome) {
+void Deliver(const std::string& file, const DocumentText& document, Outcome& outcome) {
   if (file.empty() || file == kInputName) {
     if (IsTerminal(Channel::Out)) return AddOutput(outcome, OnLines(document.utf8));
     return AddOutput(outcome, document.bytes);
   }
   const std::string failure = WriteTextFile(file, document.bytes);
-  if (!failure.empty()) TellXml(options, outcome, ShownName(file) + ": " + failure, Answer::WrongUsage);
+  if (!failure.empty()) Complain(outcome, ShownName(file) + ": " + failure, Answer::WrongUsage);
 }
 
 // A changed document and how it differs.
@@ -75,9 +74,9 @@ void SetXml(const XmlOptions& options, Outcome& outcome) {
   if (options.dry_run)
     outcome.out = OnLines(edited.diff);
   else if (!options.in_place)
-    Deliver(options, options.out, document.Text(), outcome);
+    Deliver(options.out, document.Text(), outcome);
   else if (edited.is_changed)
-    Deliver(options, options.file, document.Text(), outcome);
+    Deliver(options.file, document.Text(), outcome);
 }
 
 }  // namespace tool

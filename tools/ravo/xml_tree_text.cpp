@@ -1,5 +1,7 @@
 #include "xml_tree_text.h"
 
+#include "text.h"
+
 #include <algorithm>
 
 namespace tool {
@@ -27,7 +29,7 @@ class Painter {
 };
 
 std::string ElementLine(const ReadElement& element, const Painter& painter) {
-  std::string line = painter.Name(element.name.empty() ? "(no name)" : OnOneLine(element.name));
+  std::string line = painter.Name(element.name.empty() ? Text("(no name)") : OnOneLine(element.name));
   for (const auto& [name, value] : element.attributes) {
     line += " " + painter.Attribute(OnOneLine(name)) + "=" + painter.Value("\"" + OnOneLine(value) + "\"");
   }

@@ -12,7 +12,6 @@
 namespace tool {
 
 struct XmlOptions {
-  std::string command;  ///< as in "ravo xml get"
   std::string file;
   std::vector<std::string> files;
   std::string path;
@@ -34,9 +33,6 @@ XmlWork ListXmlTokens;
 XmlWork SetXml;
 XmlWork CheckXml;
 XmlWork FormatXml;
-
-/// Adds a message of the command to the errors; the answer becomes at least as grave as `answer`.
-void TellXml(const XmlOptions& options, Outcome& outcome, const std::string& message, Answer answer);
 
 /// Adds to the output, which is written as it grows.
 void AddOutput(Outcome& outcome, std::string_view text);
