@@ -149,6 +149,8 @@ ROWS = [
     Row(["--nonsense"], WRONG_USAGE, err=("ravo: there is no option --nonsense\n",), czech=("přepínač --nonsense neexistuje",)),
     Row(["check", "--colunm", "x"], WRONG_USAGE, err=("ravo check: there is no option --colunm. Did you mean --column?\n`ravo help check` shows",),
         czech=("Nemysleli jste --column?\nPoužití příkazu ukáže `ravo help check`.",)),
+    Row(["tabel", "check"], WRONG_USAGE, err=("ravo: there is no command 'tabel'. Did you mean table?",)),
+    Row(["check", "icoo", "1"], WRONG_USAGE, err=("'icoo' is not a kind", "isbn, ucet, su, au, banka. Did you mean ico?")),
     Row(["xml", "sho"], WRONG_USAGE, err=("ravo xml: there is no command 'sho'. Did you mean show?",)),
     Row(["report", "stray"], WRONG_USAGE, err=("the argument 'stray' is one too many",), czech=("argument 'stray' je navíc",)),
     # The parser's own words.

@@ -6,11 +6,13 @@
 #include "input_lines.h"
 #include "json_text.h"
 #include "kind_lines.h"
+#include "nearest.h"
 #include "table_text.h"
 #include "text.h"
 #include "value_reasons.h"
 #include <ravo/RavoInterface.h>
 
+#include <algorithm>
 #include <limits>
 #include <memory>
 #include <optional>
@@ -37,14 +39,19 @@ struct CheckOptions {
   bool json = false;
 };
 
-std::string AllKindNames(std::string_view between) {
-  std::string names;
-  for (const CheckKind& kind : CzechKinds()) names.append(kind.name).append(between);
+std::vector<std::string> AllKinds() {
+  std::vector<std::string> names;
+  for (const CheckKind& kind : CzechKinds()) names.emplace_back(kind.name);
   for (const CheckKind& kind : CheckKinds()) {
-    const bool is_named = FindCzechKind(kind.name) && FindCzechKind(kind.name)->name == kind.name;
-    if (!is_named) names.append(kind.name).append(between);
+    if (std::ranges::find(names, kind.name) == names.end()) names.emplace_back(kind.name);
   }
-  return names.substr(0, names.size() - between.size());
+  return names;
+}
+
+std::string AllKindNames() {
+  std::string list;
+  for (const std::string& name : AllKinds()) list.append(list.empty() ? "" : ", ").append(name);
+  return list;
 }
 
 // The rule of this name: the country's, unless there is none or the suite's is asked for.
@@ -54,8 +61,10 @@ const CheckKind* FindKind(const std::string& name, bool suite) {
 }
 
 std::string CheckKindName(const std::string& name) {
-  return FindKind(name, false) ? std::string()
-                               : Text("'{0}' is not a kind; kinds are {1}", {name, AllKindNames(", ")});
+  if (FindKind(name, false)) return {};
+  const std::string meant = DidYouMean(name, AllKinds());
+  return Text("'{0}' is not a kind; kinds are {1}", {name, AllKindNames()}) +
+         (meant.empty() ? "" : ". " + meant);
 }
 
 ColumnRequest ColumnOf(const std::string& text, bool suite) {
@@ -66,7 +75,7 @@ ColumnRequest ColumnOf(const std::string& text, bool suite) {
 
 std::string CheckColumn(const std::string& text) {
   if (ColumnOf(text, false).kind) return {};
-  return Text("'{0}' is not NAME=KIND; kinds are {1}", {text, AllKindNames(", ")});
+  return Text("'{0}' is not NAME=KIND; kinds are {1}", {text, AllKindNames()});
 }
 
 Json ValueJson(const std::string& value, const CheckKind& kind, const std::optional<ValueReason>& reason) {
@@ -144,8 +153,7 @@ TableJob JobOf(const CheckOptions& options) {
 void Run(const CheckOptions& options, Outcome& outcome) {
   const bool values = !options.values.empty();
   const bool file = !options.files.empty();
-  if (values == file)
-    throw CLI::ValidationError(Text("give a kind and values, or --csv and --column"));
+  if (values == file) throw CLI::ValidationError(Text("give a kind and values, or --csv and --column"));
   if (file && options.columns.empty()) throw CLI::ValidationError(Text("--csv needs at least one --column"));
   if (!file) return CheckValues(options, outcome);
   outcome.answer = CheckTables(JobOf(options));
@@ -226,8 +234,8 @@ void AddCheckCommand(CLI::App& program, Outcome& outcome) {
   // A path may begin with "/".
   command->allow_windows_style_options(false);
   const auto options = std::make_shared<CheckOptions>();
-  CLI::Option* kind = command->add_option(Text("KIND"), options->kind,
-                                          Text("The kind of the values: {0}", {AllKindNames(", ")}));
+  CLI::Option* kind =
+      command->add_option(Text("KIND"), options->kind, Text("The kind of the values: {0}", {AllKindNames()}));
   kind->check(CLI::Validator(CheckKindName, ""));
   CLI::Option* values =
       command->add_option(Text("VALUE"), options->values,

@@ -122,6 +122,12 @@ void ReportUnknownCommand(const CLI::App& app, std::string_view word, Outcome& o
 
 void ReportWrongUsage(const CLI::App& program, const CLI::ParseError& error, Outcome& outcome) {
   const CLI::App& app = Innermost(program);
+  const std::vector<std::string> before = program.remaining();
+  if (&app != &program && !before.empty()) {
+    outcome.command.clear();
+    ReportUnexpected(program, before.front(), outcome);
+    return AddWhereHelpIs(outcome);
+  }
   const std::vector<std::string> unexpected = app.remaining();
   if (!unexpected.empty() && IsAboutUnexpected(error, app, unexpected.front()))
     ReportUnexpected(app, unexpected.front(), outcome);
