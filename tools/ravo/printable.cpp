@@ -11,6 +11,11 @@ bool IsLineEnd(std::string_view text, std::size_t at) {
   return text[at] == '\n' || (text[at] == '\r' && ByteAt(text, at + 1) == '\n');
 }
 
+bool IsControl(std::string_view text, std::size_t at) {
+  const unsigned byte = ByteAt(text, at);
+  return (byte < 0x20 || byte == 0x7F) && byte != '\t' && !IsLineEnd(text, at);
+}
+
 // The pictures of the control characters begin at U+2400.
 std::string PictureOf(unsigned control) {
   const unsigned code = control == 0x7F ? 0x21 : control;
@@ -46,11 +51,8 @@ unsigned DirectionCode(std::string_view text, std::size_t at) {
 std::string Printable(std::string_view utf8) {
   std::string shown;
   for (std::size_t at = 0; at < utf8.size(); ++at) {
-    const unsigned byte = ByteAt(utf8, at);
-    if (byte == '\t' || IsLineEnd(utf8, at)) {
-      shown += utf8[at];
-    } else if (byte < 0x20 || byte == 0x7F) {
-      shown += PictureOf(byte);
+    if (IsControl(utf8, at)) {
+      shown += PictureOf(ByteAt(utf8, at));
     } else if (IsControlPair(utf8, at)) {
       shown += CodeText(ByteAt(utf8, ++at));
     } else if (IsDirection(utf8, at)) {

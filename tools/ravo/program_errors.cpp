@@ -59,10 +59,10 @@ std::string OurWords(const CLI::ParseError& error) {
     const std::string set = parts->size() == 3 ? parts->back() : "";
     const std::string word = parts->size() == 3 ? parts->at(1) : "";
     parts->resize(4);
-    const std::string text =
+    std::string text =
         Text(phrase.ours, {parts->at(0), parts->at(1), WithSpaces(parts->at(2)), parts->at(3)});
     const std::string meant = DidYouMean(word, CLI::detail::split(set, ','));
-    return meant.empty() ? text : text + " " + meant;
+    return meant.empty() ? text : text.append(" ").append(meant);
   }
   return error.what();
 }

@@ -28,7 +28,7 @@ std::string ValueTitle(const CLI::Option& option, const CLI::Formatter& labels) 
   const auto colon = type.find(':');
   if (option.get_positional()) return "";
   if (colon == std::string::npos) return labels.get_label(type);
-  const std::string rule = type.substr(colon + 1);
+  std::string rule = type.substr(colon + 1);
   if (rule.starts_with('{')) return rule;
   return type.starts_with("TEXT:") ? rule : labels.get_label(type.substr(0, colon));
 }
