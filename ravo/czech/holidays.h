@@ -63,8 +63,8 @@ struct HolidaysOfDay {
 /// When a term ends.
 struct Term {
   Day counted;  ///< as the days or months count
-  Day due;  ///< the same, or the next working day if that is none (civil code, section 607; tax code, section
-            ///< 33)
+  Day due;      ///< the same, or the next working day if it is not one (civil code, section 607; tax code,
+                ///< section 33)
   bool verified = false;  ///< whether the holidays up to there are verified
 };
 

@@ -44,7 +44,7 @@ constexpr bool FitsIban(char character, char form) noexcept {
   return form == 'c' || IsDigit(character) == (form == 'n');
 }
 
-// The first character that is not; the length if there is none.
+// The first character that is not; the length otherwise.
 std::size_t OddCharacter(std::string_view characters, std::string_view form) noexcept {
   bool fits = true;
   for (std::size_t i = 0; i < form.size(); ++i) fits &= FitsIban(characters[i], form[i]);

@@ -41,7 +41,7 @@ constexpr IsbnFault CheckLong(std::string_view isbn) noexcept {
   return {};
 }
 
-// The first letter that is no X in the tenth and last place; the length if there is none.
+// The first letter that is no X in the tenth and last place; the length otherwise.
 constexpr std::size_t OddLetter(std::string_view isbn) noexcept {
   const std::size_t odd = detail::FirstNoDigit(isbn);
   return odd == 9 && isbn.size() == kShortIsbn && isbn[9] == 'X' ? isbn.size() : odd;

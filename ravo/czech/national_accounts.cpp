@@ -13,7 +13,7 @@ constexpr int RemainderOf(std::string_view digits, int divisor) noexcept {
   return remainder;
 }
 
-// Bank code, prefix and number, both with a sum divisible by eleven. A number of zeros is none.
+// Bank code, prefix and number, both with a sum divisible by eleven. Zeros alone are no number.
 bool MatchesCzechoslovak(std::string_view own) noexcept {
   const int prefix = WeightedSum(own.data() + 4, std::array{10, 5, 8, 4, 2, 1});
   const int number = WeightedSum(own.data() + 10, std::array{6, 3, 7, 9, 10, 5, 8, 4, 2, 1});

@@ -162,7 +162,7 @@ class PaymentText {
     return FoundPayment{Kind::Iban, begin, end, iban.value.text};
   }
 
-  // Past a hyphen or slash with at most one blank on either side; `at` if there is none.
+  // Past a hyphen or slash with at most one blank on either side; `at` otherwise.
   std::size_t PastDivider(std::size_t at, char divider) const noexcept {
     const std::size_t mark = PastBlank(at);
     return UnitAt(mark) == static_cast<unsigned char>(divider) ? PastBlank(mark + 1) : at;

@@ -198,7 +198,7 @@ template <std::size_t capacity, class Unit>
   return kept;
 }
 
-/// The first character from `from` on that is no digit; the length if there is none.
+/// The first character from `from` on that is no digit; the length otherwise.
 [[nodiscard]] constexpr std::size_t FirstNoDigit(std::string_view text, std::size_t from = 0) noexcept {
   while (from < text.size() && text[from] >= '0' && text[from] <= '9') ++from;
   return from;

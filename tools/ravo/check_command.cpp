@@ -54,7 +54,7 @@ std::string AllKindNames() {
   return list;
 }
 
-// The rule of this name: the country's, unless there is none or the suite's is asked for.
+// The country's rule of this name, or the suite's where the country has no rule or the suite's is asked for.
 const CheckKind* FindKind(const std::string& name, bool suite) {
   const CheckKind* const czech = suite ? nullptr : FindCzechKind(name);
   return czech ? czech : FindCheckKind(name);

@@ -45,7 +45,7 @@ struct SourceEncoding {
 };
 
 /// Returns the encoding of a name, of which "auto" and the empty one mean that the text decides; no value if
-/// there is none.
+/// its encoding does not exist.
 [[nodiscard]] std::optional<SourceEncoding> SourceEncodingOf(const std::string& name);
 
 /// What a text turned out to be in.

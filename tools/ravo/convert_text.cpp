@@ -24,7 +24,7 @@ char16_t BitsOf(std::span<const char16_t, kCount> text) {
   return bits;
 }
 
-// The index of the first U+FFFD or surrogate, which may stand for something else; the size if there is none.
+// The index of the first U+FFFD or surrogate, which may stand for something else; the size otherwise.
 // The letters of Europe lack the highest bit of both.
 std::size_t FindSpecial(std::span<const char16_t> text) {
   constexpr std::size_t kAtOnce = 256;

@@ -104,7 +104,7 @@ std::string ListFault(const OwnedBanks& banks, const czech::Parsed<std::size_t>&
                                 czech::Sentence(read.code, UserLanguage())});
 }
 
-// Fills in the list; an empty text, or why there is none.
+// Fills in the list. Returns an empty text, or why it cannot be read.
 std::string ReadBanks(const CzechCheck& check, OwnedBanks& banks) {
   if (check.list == kBuiltIn) {
     banks.list = czech::BuiltInBanks();

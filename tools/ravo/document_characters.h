@@ -30,7 +30,7 @@ void AppendUtf8(char32_t c, std::string& to);
 /// Returns a character as messages show it, such as "U+010D".
 [[nodiscard]] std::string CodePointName(char32_t c);
 
-/// Returns the reference that starts at the "&" at `at`, up to its ";", or an empty text if there is none.
+/// Returns the reference that starts at the "&" at `at`, up to its ";", or an empty text otherwise.
 [[nodiscard]] std::string_view ReferenceAt(std::string_view text, std::size_t at);
 
 /// Returns the name of a reference, without its "&" and ";".

@@ -60,7 +60,7 @@ class PathFinder {
   /// throws `PathError` if it then has several spellings.
   [[nodiscard]] DocumentPlace Find(const DocumentPath& path);
 
-  /// Returns the place that `path` denotes. Throws `PathError` if there is none.
+  /// Returns the place that `path` denotes. Throws `PathError` if it does not exist.
   [[nodiscard]] DocumentPlace FindWhole(const DocumentPath& path);
 
  private:

@@ -77,7 +77,7 @@ class Scanner {
     return at;
   }
 
-  // Past the next `word`; the part that starts here lacks its end if there is none.
+  // Past the next `word`; without one, the part that starts here lacks its end.
   [[nodiscard]] std::size_t Past(std::string_view word, std::size_t from, std::string_view part) const {
     const std::size_t end = Text().find(word, from);
     if (end == std::string_view::npos) throw DocumentError(DocumentMessage::Unclosed, at_, {part});

@@ -15,7 +15,7 @@ struct RefusedTarget {
   Refused why;
 };
 
-/// A new file beside its target, which nobody else can read and which takes the target's name at the end.
+/// A new file beside its target, readable by its owner only; it takes the target's name at the end.
 ///
 /// All throw `std::system_error`, the constructor also `RefusedTarget`. A target that is not a regular file
 /// has no draft: it is written to.

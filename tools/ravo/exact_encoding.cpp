@@ -57,7 +57,7 @@ std::array<std::uint8_t, 4> Utf8OfFour(char32_t code) {
   return {static_cast<std::uint8_t>(0xF0 | code >> 18), trail(12), trail(6), trail(0)};
 }
 
-// The start of the sequence that the end cuts short; the size if there is none.
+// The start of the sequence that the end cuts short; the size otherwise.
 std::size_t LengthOfWholeUtf8(codec::ByteSpan bytes) {
   for (std::size_t back = 1; back <= std::min<std::size_t>(3, bytes.size()); ++back) {
     const std::uint8_t byte = bytes[bytes.size() - back];

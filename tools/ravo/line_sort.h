@@ -9,12 +9,12 @@
 
 namespace tool {
 
-/// How lines are sorted.
+/// The order and options of a sort.
 struct LineOrder {
   CzechOrder czech;
   /// Compare the numbers with which the keys begin.
   bool numeric = false;
-  /// Which fields are compared, one after the other, from 1; none: the whole line.
+  /// Which fields are compared, one after the other, from 1; empty for the whole line.
   std::vector<std::size_t> fields;
   /// Between fields; empty: runs of blanks and tabs.
   std::string delimiter;

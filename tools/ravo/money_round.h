@@ -8,7 +8,7 @@
 
 namespace tool {
 
-/// How amounts are rounded.
+/// The rounding of amounts.
 struct RoundRule {
   ravo::RavoInterfaceCommon::TRoundType type = ravo::RavoInterfaceCommon::rtMath;
   int decimals = 2;     ///< -4 to 14

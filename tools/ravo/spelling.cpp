@@ -16,7 +16,7 @@ struct Spelled {
   const char16_t* spelling;
 };
 
-// What decompositions do not tell: letters with strokes, ligatures, and signs.
+// Spellings that decompositions lack: letters with strokes, ligatures, and signs.
 constexpr Spelled kSpelled[] = {
     {0x00A0, u" "},  {0x00A9, u"(C)"}, {0x00AB, u"\""}, {0x00AD, u"-"},   {0x00AE, u"(R)"}, {0x00B4, u"'"},
     {0x00B7, u"."},  {0x00BB, u"\""},  {0x00C6, u"AE"}, {0x00D0, u"D"},   {0x00D7, u"x"},   {0x00D8, u"O"},

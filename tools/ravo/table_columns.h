@@ -8,7 +8,7 @@
 
 namespace tool {
 
-/// The index of the column that a person means, or why there is none.
+/// The index of the column that a person means, or why no column fits.
 struct FoundColumn {
   std::optional<std::size_t> index;
   std::string why;

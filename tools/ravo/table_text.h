@@ -13,13 +13,14 @@ namespace tool {
 /// Returns the encoding of a table that starts with `sample`, which may end inside a character.
 [[nodiscard]] EncodingGuess GuessTableEncoding(std::string_view sample);
 
-/// Returns the length of the byte-order mark of UTF-8 at the start of `sample`, 0 if there is none.
+/// Returns the length of the byte-order mark of UTF-8 at the start of `sample`, 0 otherwise.
 [[nodiscard]] std::size_t MarkSize(std::string_view sample) noexcept;
 
 /// The bytes of one encoding as text.
 class TableText {
  public:
-  /// Whether tables can be in this encoding: UTF-8, or one byte a character with ASCII as it is.
+  /// Whether tables can be in this encoding: UTF-8, or an encoding of one byte a character that contains
+  /// ASCII.
   [[nodiscard]] static bool CanRead(const ravo::DIUnicode::EncodingRow& encoding);
 
   /// `encoding` is one that `CanRead`.
@@ -37,7 +38,7 @@ class TableText {
  private:
   std::string_view label_;
   bool is_utf8_;
-  std::array<std::string, 128> upper_;  // the characters of the bytes from 0x80 on; empty if there is none
+  std::array<std::string, 128> upper_;  // the characters of the bytes from 0x80 on; empty otherwise
 };
 
 /// Whether all bytes are printable ASCII.

@@ -14,7 +14,7 @@ struct Utf8Character {
 /// Returns the first character of a text that is not empty.
 [[nodiscard]] Utf8Character FirstCharacter(std::string_view utf8);
 
-/// Returns where the first byte is that is not UTF-8; the text's size if there is none.
+/// Returns where the first byte is that is not UTF-8; the text's size otherwise.
 [[nodiscard]] std::size_t ValidUtf8Length(std::string_view text);
 
 }  // namespace tool
