@@ -85,7 +85,7 @@ std::optional<ravo::Currency> SuiteLimit(const RoundRule& rule) {
 
 bool IsPastSuiteLimit(ravo::Currency amount, const RoundRule& rule) {
   const std::optional<ravo::Currency> limit = SuiteLimit(rule);
-  return limit && (amount >= *limit || amount <= -*limit);
+  return limit && (amount.raw >= limit->raw || amount.raw <= -limit->raw);
 }
 
 }  // namespace tool

@@ -25,11 +25,14 @@ enum class Reason : std::uint8_t {
 };
 
 inline constexpr std::size_t kOwnReasons = 9;
-#define RAVO_REASON(number, name, text, czech, english) +1
-inline constexpr std::size_t kReasons = kOwnReasons
+/// The places of the country's reasons.
+enum CzechReason : std::uint8_t {
+#define RAVO_REASON(number, name, text, czech, english) k##name,
 #include <ravo/czech/reasons.inc>
-    ;
 #undef RAVO_REASON
+  kCzechReasons
+};
+inline constexpr std::size_t kReasons = kOwnReasons + kCzechReasons;
 static_assert(kReasons < 256);
 
 /// Returns the reason of a refusal by the country's rules.

@@ -120,7 +120,7 @@ std::string CharacterOf(const EncodingRow& encoding, unsigned char byte) {
 }
 
 // Control characters of ASCII, and those from U+0080 to U+009F, which are C2 80 to C2 9F.
-bool IsControl(std::string_view utf8, std::size_t at) {
+bool IsControlByte(std::string_view utf8, std::size_t at) {
   const unsigned char byte = Byte(utf8, at);
   return byte < 0x20 || byte == 0x7F || (byte == 0xC2 && at + 1 < utf8.size() && Byte(utf8, at + 1) < 0xA0);
 }
@@ -196,7 +196,7 @@ bool IsPrintableAscii(std::string_view text) noexcept {
 std::string Shown(std::string_view utf8) {
   std::string shown;
   for (std::size_t i = 0; i < utf8.size(); ++i) {
-    if (IsControl(utf8, i)) {
+    if (IsControlByte(utf8, i)) {
       AppendControl(shown, utf8, i);
     } else {
       shown += utf8[i];
@@ -209,7 +209,7 @@ void AppendJson(std::string& json, std::string_view utf8) {
   for (std::size_t i = 0; i < utf8.size(); ++i) {
     const bool is_special = utf8[i] == '"' || utf8[i] == '\\';
     if (is_special) json += '\\';
-    if (!is_special && IsControl(utf8, i)) {
+    if (!is_special && IsControlByte(utf8, i)) {
       AppendControl(json, utf8, i);
     } else {
       json += utf8[i];
