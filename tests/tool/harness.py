@@ -46,6 +46,7 @@ class Program:
     def __init__(self, command, folder):
         self.command, self.folder = command, folder
         self.emulated = len(command) > 1
+        self.slow = self.emulated or "RAVO_SLOW" in os.environ
 
     def run(self, arguments, out=None, given=None, language="en"):
         """`given` is the name of a file that is standard input."""

@@ -189,7 +189,7 @@ def random_element(rng, depth):
 def check_random_survival(program):
     """Random documents: the classes explain all differences, and the suite spoils no document without a finding."""
     rng = random.Random(15)
-    count = 100 if program.emulated else 1500
+    count = 100 if program.slow else 1500
     files = []
     for number in range(count):
         content = content_of(random_element(rng, 0))
