@@ -63,7 +63,7 @@ int main(int argc, char** argv) {
   if (FAILED(CoInitializeEx(nullptr, COINIT_MULTITHREADED))) return 2;
   if (!ravo::OfferAll(first == "--refuse")) return 3;
   ravo::ServeUntilNobodyIsLeft();
-  // Without CoUninitialize: under Wine it can wait for the next client that asks for a class.
+  CoUninitialize();
   CloseHandle(alive);
-  TerminateProcess(GetCurrentProcess(), 0);
+  return 0;
 }
