@@ -8,7 +8,7 @@ set(work ${PROJECT_BINARY_DIR}/consumers)
 set(prefix ${work}/prefix)
 add_test(NAME consumers.install COMMAND ${CMAKE_COMMAND} -DBUILD=${PROJECT_BINARY_DIR} -DPREFIX=${prefix}
   -P ${CMAKE_CURRENT_LIST_DIR}/install.cmake)
-set_tests_properties(consumers.install PROPERTIES FIXTURES_SETUP ravo_installed)
+set_tests_properties(consumers.install PROPERTIES FIXTURES_SETUP ravo_installed COST 40)
 
 set(tools -DCMAKE_BUILD_TYPE=Release -DCONSUMER_RUNTIME=${PROJECT_BINARY_DIR}/bin)
 if(CMAKE_TOOLCHAIN_FILE)
@@ -21,7 +21,7 @@ set(program ./consumer${CMAKE_EXECUTABLE_SUFFIX})
 function(ravo_consumer name)
   add_test(NAME consumers.${name} COMMAND ${ravo_consumers}/consume ${work}/${name} ${tools} ${ARGN}
     -- ${CMAKE_CROSSCOMPILING_EMULATOR} ${program})
-  set_tests_properties(consumers.${name} PROPERTIES ${ravo_test_properties} FIXTURES_REQUIRED ravo_installed PROCESSORS 2)
+  set_tests_properties(consumers.${name} PROPERTIES ${ravo_test_properties} FIXTURES_REQUIRED ravo_installed COST 25)
 endfunction()
 
 foreach(way package pkgconfig)
