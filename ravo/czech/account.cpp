@@ -106,18 +106,26 @@ template <class Unit>
   return detail::Refuse<Account>(text, kAccountSpelling, kept.from, fault.index, fault.code);
 }
 
+// Whether a part has no zeros before it that the usual spelling leaves out.
+template <class Unit>
+bool IsUsual(std::basic_string_view<Unit> text, const DigitRun& run) noexcept {
+  return run.Size() == 0 || !IsAt(text, run.begin, '0');
+}
+
 // Most inputs are digits, a hyphen and a slash alone: they need no copy.
 template <class Unit>
-Parsed<Account> ParseAccountIn(std::basic_string_view<Unit> text) noexcept {
+detail::ReadAccount ReadAccountIn(std::basic_string_view<Unit> text) noexcept {
   AccountParts parts;
   const bool correct = Split(text, parts).code == Code::Correct && CheckSums(parts).code == Code::Correct;
-  return correct ? Parsed<Account>{AccountFrom(parts)} : ParseMixed(text);
+  if (!correct) return {ParseMixed(text)};
+  return {{AccountFrom(parts)}, IsUsual(text, parts.prefix) && IsUsual(text, parts.number)};
 }
 
 }  // namespace
 
-Parsed<Account> ParseAccount(std::string_view text) noexcept { return ParseAccountIn(text); }
-Parsed<Account> ParseAccount(std::u16string_view text) noexcept { return ParseAccountIn(text); }
+Parsed<Account> ParseAccount(std::string_view text) noexcept { return ReadAccountIn(text).parsed; }
+Parsed<Account> ParseAccount(std::u16string_view text) noexcept { return ReadAccountIn(text).parsed; }
+detail::ReadAccount detail::ReadAccountText(std::string_view text) noexcept { return ReadAccountIn(text); }
 
 FixedText<22> Format(const Account& account) noexcept { return detail::AccountText<22>(account); }
 

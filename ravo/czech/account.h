@@ -43,6 +43,15 @@ struct Account {
 
 namespace detail {
 
+/// An account, and whether its text was in the usual spelling already.
+struct ReadAccount {
+  Parsed<Account> parsed;
+  bool usual = false;  ///< false also if that is not known
+};
+
+/// Does what `ParseAccount` does.
+[[nodiscard]] ReadAccount ReadAccountText(std::string_view text) noexcept;
+
 /// The usual spelling in a text of any capacity. Made in place: a copy would stall on the bytes just stored.
 template <std::size_t capacity>
 [[nodiscard]] constexpr FixedText<capacity> AccountText(const Account& account) noexcept {

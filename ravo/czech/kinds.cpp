@@ -70,6 +70,13 @@ Parsed<FixedText<34>> CheckIn(Kind kind, std::basic_string_view<Unit> text) noex
   return CheckAs<FixedText<34>>(kind, text, [](const auto& value) { return Canonical(value); });
 }
 
+// Most accounts come in the usual spelling, which needs no second one.
+Parsed<FixedText<34>> CheckAccount(std::string_view text) noexcept {
+  const detail::ReadAccount read = detail::ReadAccountText(text);
+  if (read.usual) return {Fixed<34>(text)};
+  return Spelled<FixedText<34>>(read.parsed, [](const Account& account) { return Canonical(account); });
+}
+
 template <class Unit>
 Parsed<FixedText<42>> RespellIn(Kind kind, std::basic_string_view<Unit> text) noexcept {
   return CheckAs<FixedText<42>>(kind, text, [](const auto& value) { return Resized<42>(Format(value)); });
@@ -96,7 +103,9 @@ std::string_view KindName(Kind kind, Language language) noexcept {
   return language == Language::Czech ? row->czech : row->english;
 }
 
-Parsed<FixedText<34>> Check(Kind kind, std::string_view text) noexcept { return CheckIn(kind, text); }
+Parsed<FixedText<34>> Check(Kind kind, std::string_view text) noexcept {
+  return kind == Kind::Account ? CheckAccount(text) : CheckIn(kind, text);
+}
 Parsed<FixedText<34>> Check(Kind kind, std::u16string_view text) noexcept { return CheckIn(kind, text); }
 Parsed<FixedText<42>> Respell(Kind kind, std::string_view text) noexcept { return RespellIn(kind, text); }
 Parsed<FixedText<42>> Respell(Kind kind, std::u16string_view text) noexcept { return RespellIn(kind, text); }
