@@ -330,6 +330,10 @@ ROWS = [
     Row(["round", "1 234,567 Kč", "1\u00a0234,5", "1.234,567", "1,234.567", ".5", "12 Kč", "12,-", "-1\u202f000,005 €"], exact=(
         "1 234,567 Kč\t1 234,57 Kč\n1\u00a0234,5\t1\u00a0234,50\n1.234,567\t1.234,57\n1,234.567\t1,234.57\n"
         ".5\t0.50\n12 Kč\t12,00 Kč\n12,-\t12,00\n-1\u202f000,005 €\t-1\u202f000,01 €\n")),
+    # A dash stands for decimals: what separates before it separates thousands.
+    Row(["round", "12.500,-", "1.234.567,- Kč", "1 234,--"], exact="12.500,-\t12.500,00\n1.234.567,- Kč\t1.234.567,00 Kč\n1 234,--\t1 234,00\n"),
+    Row(["round", "12.5,-", "12,500,-"], WRONG_USAGE, exact="", err=("12.5,-: the digits are not in groups", "12,500,-: the digits are not in groups")),
+    Row(["round", "12.500 EUR", "$1,234"], WRONG_USAGE, exact="", err=("12.500 EUR: three digits", "$1,234: three digits"), czech=("mohou být tisíce",)),
     Row(["round", "1234567,895 Kč", "--notation", "cs"], exact="1234567,895 Kč\t1\u00a0234\u00a0567,90 Kč\n"),
     Row(["round", "1 234,56 Kč", "--notation", "plain"], exact="1 234,56 Kč\t1234.56\n"),
     Row(["round", "1 234,56", "--notation", "en"], exact="1 234,56\t1,234.56\n"),
@@ -356,7 +360,7 @@ ROWS = [
     Row(["round", "1.23456", "1.5"], WRONG_USAGE, exact="1.5\t1.50\n", err=("ravo round: 1.23456: ", "four decimals")),
     Row(["round", "x"], WRONG_USAGE, exact="", err=("ravo round: x: this is no amount",)),
     Row(["round", "12 34", "1.234 Kč", "922337203685477.5808"], WRONG_USAGE, exact="", err=(
-        "12 34: the digits are not in groups of three\n", "1.234 Kč: the point may separate thousands or decimals",
+        "12 34: the digits are not in groups of three\n", "1.234 Kč: three digits after \".\" or \",\" may be thousands or decimals; write 12500",
         "amounts are from -922337203685477.5808 to 922337203685477.5807\n")),
     Row(["round", "x", "--json"], WRONG_USAGE, err=("x",), holds=differs(
         [{"input": "x", "amount": None, "rounded": None, "suite": None, "reason": "not-an-amount"}])),

@@ -23,7 +23,9 @@ RoundAnswer RefusedAnswer(AmountFault fault) {
     case AmountFault::Decimals:
       return refuse("decimals", Text("an amount has at most four decimals"));
     case AmountFault::Ambiguous:
-      return refuse("ambiguous", Text("the point may separate thousands or decimals; write 12500 or 12,50"));
+      return refuse(
+          "ambiguous",
+          Text("three digits after \".\" or \",\" may be thousands or decimals; write 12500 or 12,50"));
     case AmountFault::Range:
       return refuse("range", AmountRangeText(ToTranslate("amounts are from {0} to {1}")));
     default:

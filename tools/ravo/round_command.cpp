@@ -125,7 +125,8 @@ void Run(const RoundOptions& options, Outcome& outcome) {
 
 constexpr const char* kRoundFooter = ToTranslate(
     "Amounts are read as people write them: 1234.56, 1 234,56 Kč, 1.234,56, .5 or -12,-. A single point\n"
-    "or comma separates decimals. The answer is written like the amount.\n"
+    "or comma separates decimals, except in 12.500,-; 12.500 Kč and 12,500 € are refused, as they may be\n"
+    "thousands. The answer is written like the amount.\n"
     "\n"
     "Modes: up is away from zero, down is toward zero, math is to the nearest with halves away from zero.\n"
     "Rules for VAT: H to hundredths, D to tenths, M to whole crowns, each with halves away from zero;\n"
