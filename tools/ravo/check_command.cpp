@@ -7,6 +7,7 @@
 #include "json_text.h"
 #include "kind_lines.h"
 #include "nearest.h"
+#include "program_values.h"
 #include "table_text.h"
 #include "text.h"
 #include "value_reasons.h"
@@ -138,8 +139,7 @@ TableJob JobOf(const CheckOptions& options) {
   TableJob job;
   job.files = options.files;
   for (const std::string& column : options.columns) job.columns.push_back(ColumnOf(column, options.suite));
-  if (!options.delimiter.empty())
-    job.delimiter = options.delimiter == "tab" ? '\t' : options.delimiter.front();
+  job.delimiter = DelimiterOf(options.delimiter);
   job.encoding = EncodingOf(options.encoding);
   job.allow_empty = options.allow_empty;
   job.json = options.json;
@@ -186,17 +186,14 @@ void AddOutput(CLI::App& command, std::string& name, CLI::Option* file, const ch
 }
 
 void AddTableOptions(CLI::App& command, CheckOptions& options, CLI::Option* file) {
-  command
-      .add_option("--delimiter", options.delimiter, Text("The delimiter between fields; detected by default"))
-      ->type_name(Text("CHAR"))
-      ->check(CLI::IsMember({";", ",", "\t", "tab", "|"}))
-      ->needs(file);
+  AddDelimiterOption(command, options.delimiter)->needs(file);
   command.add_option("--encoding", options.encoding, Text("The encoding of the tables; detected by default"))
+      ->type_name(Text("ENCODING"))
       ->needs(file);
   command.add_flag("--allow-empty", options.allow_empty, Text("Skip empty fields"))->needs(file);
   command.add_option("--limit", options.limit, Text("Write no more findings than this"))
       ->type_name("N")
-      ->check(CLI::NonNegativeNumber)
+      ->check(AtLeast(0))
       ->needs(file);
   AddOutput(command, options.rejects, file, "--rejects", Text("Write the rows with findings to this file"));
   AddOutput(command, options.clean, file, "--clean",
@@ -205,7 +202,7 @@ void AddTableOptions(CLI::App& command, CheckOptions& options, CLI::Option* file
       .add_option("--threads", options.threads,
                   Text("Use so many threads; by default one for each processor"))
       ->type_name("N")
-      ->check(CLI::NonNegativeNumber)
+      ->check(AtLeast(0))
       ->needs(file);
 }
 

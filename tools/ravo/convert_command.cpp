@@ -270,17 +270,25 @@ constexpr const char* kConvertFooter = ToTranslate(
 void AddConvertCommand(CLI::App& program, Outcome& outcome) {
   CLI::App* command = program.add_subcommand("convert", Text("Converts texts from one encoding to another"));
   const auto options = std::make_shared<ConvertOptions>();
-  command->add_option("-f,--from", options->from,
-                      Text("The encoding of the files; without it, or with auto, found out"));
-  command->add_option("-t,--to", options->to, Text("The encoding of the output"))->required();
+  command
+      ->add_option("-f,--from", options->from,
+                   Text("The encoding of the files; without it, or with auto, found out"))
+      ->type_name(Text("ENCODING"));
+  command->add_option("-t,--to", options->to, Text("The encoding of the output"))
+      ->type_name(Text("ENCODING"))
+      ->required();
   command->add_option(Text("FILE"), options->files, Text("The files; none, or -, is standard input"));
-  command->add_option("-o,--output", options->output,
-                      Text("The file to write; else, or with -, standard output"));
+  command
+      ->add_option("-o,--output", options->output,
+                   Text("The file to write; else, or with -, standard output"))
+      ->type_name(Text("FILE"));
   command->add_flag("--translit", options->translit,
                     Text("Spell characters that the output lacks with others"));
-  command->add_option(
-      "--replace", options->replacement,
-      Text("The character to write for those that cannot be; without it they end the conversion"));
+  command
+      ->add_option(
+          "--replace", options->replacement,
+          Text("The character to write for those that cannot be; without it they end the conversion"))
+      ->type_name(Text("CHAR"));
   command->footer(Text(kConvertFooter));
   command->callback([options, &outcome] { Run(*options, outcome); });
 }

@@ -6,6 +6,7 @@
 #include "output_options.h"
 #include "program_errors.h"
 #include "program_help.h"
+#include "program_values.h"
 #include "text.h"
 #include "words_after_mark.h"
 
@@ -152,6 +153,7 @@ void Describe(CLI::App& program, Outcome& outcome) {
   program.footer(Text(kExitStatus) + "\n" + Text(kEnvironment) + "\n" + Text(kExamples));
   for (const Theme& theme : Themes()) AddTheme(program, theme, outcome);
   AddOutputRules(program);
+  RefuseFlagValues(program);
   UnmarkValues(program);
   Complete(program, "", outcome);
 }

@@ -61,6 +61,15 @@ class Layout : public CLI::Formatter {
                          std::vector<const CLI::Option*> options) const override {
     return CLI::Formatter::make_group(get_label(group), is_positional, std::move(options));
   }
+  // "[DATE [DATE]]" for up to two; the parser's own counts only the least.
+  std::string make_option_usage(const CLI::Option* option) const override {
+    const std::string name = make_option_name(option, true);
+    const int most = option->get_expected_max();
+    std::string usage = name;
+    if (most >= CLI::detail::expected_max_vector_size) usage += "...";
+    if (most == 2) usage += " [" + name + "]";
+    return option->get_required() ? usage : "[" + usage + "]";
+  }
   std::string make_option(const CLI::Option* option, bool is_positional) const override {
     return HelpRow(make_option_name(option, is_positional) + make_option_opts(option),
                    make_option_desc(option));

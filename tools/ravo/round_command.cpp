@@ -2,6 +2,7 @@
 #include "csv_column.h"
 #include "input_lines.h"
 #include "json_text.h"
+#include "program_values.h"
 #include "round_answer.h"
 #include "text.h"
 
@@ -102,8 +103,7 @@ void RoundColumn(const RoundOptions& options, std::string_view table, Outcome& o
   const auto missing = [&](std::size_t line) {
     messages.Add(place(line) + Text("the row has no field in this column"), Answer::WrongUsage);
   };
-  const char delimiter = options.delimiter.empty() ? '\0' : options.delimiter.front();
-  outcome.out = ChangeCsvColumn(table, {options.column, delimiter}, change, missing);
+  outcome.out = ChangeCsvColumn(table, {options.column, DelimiterOf(options.delimiter)}, change, missing);
   messages.Finish();
 }
 
@@ -168,11 +168,7 @@ void AddTable(CLI::App& command, RoundOptions& options, CLI::Option* amounts, CL
   CLI::Option* column = command.add_option("--column", options.column, Text("The column, by name or number"));
   column->needs(file);
   file->needs(column);
-  command
-      .add_option("--delimiter", options.delimiter, Text("The delimiter between fields; detected by default"))
-      ->type_name(Text("CHAR"))
-      ->check(CLI::IsMember({";", ",", "\t", "|"}))
-      ->needs(file);
+  AddDelimiterOption(command, options.delimiter)->needs(file);
 }
 
 }  // namespace

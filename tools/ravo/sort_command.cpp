@@ -119,11 +119,12 @@ void AddSortCommand(CLI::App& program, Outcome& outcome) {
           ->add_option("-k,--key", order.fields, Text("Compare this field; several times for further ones"))
           ->type_name(Text("FIELD"))
           ->allow_extra_args(false)
-          ->check(CLI::PositiveNumber);
+          ->check(AtLeast(1));
   command->add_option("-t,--delimiter", order.delimiter, Text("What is between fields; else runs of blanks"))
-      ->type_name("TEXT")
+      ->type_name(Text("TEXT"))
       ->needs(field);
   command->add_option("--encoding", options->encoding, Text("The encoding of the files"))
+      ->type_name(Text("ENCODING"))
       ->capture_default_str();
   command->add_flag("--suite", options->suite, Text("The order of the suite"))
       ->excludes(field)

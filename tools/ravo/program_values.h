@@ -1,0 +1,23 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include <CLI/CLI.hpp>
+
+/// Values that several commands take, with their rules and the messages for wrong ones.
+namespace tool {
+
+/// Returns the rule that a value is a whole number of at least `least`.
+[[nodiscard]] CLI::Validator AtLeast(std::int64_t least);
+
+/// Adds the option --delimiter for the fields of a table.
+CLI::Option* AddDelimiterOption(CLI::App& command, std::string& delimiter);
+
+/// Returns the delimiter that a value of that option names; 0, for one that is detected, if it is empty.
+[[nodiscard]] char DelimiterOf(const std::string& value);
+
+/// Makes "--json=x" wrong usage for every flag of the command and of its parts.
+void RefuseFlagValues(CLI::App& command);
+
+}  // namespace tool
