@@ -184,6 +184,12 @@ ROWS = [
         czech=("Použití: ravo hash [PŘEPÍNAČE] [SOUČET SOUBOR...]", "\nPřepínače:\n", "\n\nNávratový kód: 0, 1 součet")),
     Row(["help", "xml", "get"], out=("Usage: ravo xml get [OPTIONS]",)),
     Row(["xml", "get", "--help"], out=("Usage: ravo xml get [OPTIONS]",), holds=without("--lang")),
+    Row(["help", "round", "--json"], holds=as_json(lambda all: (
+        (all["command"], all["arguments"][0]["name"], all["commands"], all["options"][1]["names"], all["options"][1]["value"], all["options"][1]["default"])
+        != ("ravo round", "AMOUNT", [], ["--mode"], "{up,down,math}", "math") or "Modes: up" not in all["notes"]) and f"{all}")),
+    Row(["help", "--json"], holds=as_json(lambda all: len(all["commands"]) < 20 and f"{all}")),
+    Row(["version", "--json"], holds=as_json(lambda all: (all["program"] != "ravo" or not re.fullmatch(r"\d+\.\d+\.\d+", all["version"])) and f"{all}")),
+    Row(["report", "-o", ""], WRONG_USAGE, exact="", err=("the name of the output file is empty",)),
     Row(["help", "xlm"], WRONG_USAGE, err=("ravo help: there is no command 'xlm'. Did you mean xml?",)),
     Row(["help", "help"], out=("ravo help xml show",)),
     Row(["--lang", "cs", "table", "5"], NO, err=("ravo table: tabulku 5 nemá žádný modul\n",)),
@@ -478,6 +484,7 @@ ROWS = [
         "$ ravo xml get invoice.xml Faktura/Radek/Castka\n1210.00\n", "\nline 3\tÚčet MD\t50\tnot valid\n", "\nVážená paní, účet posíláme.\n"),
         czech=("# Všechny tabulky modulu.\n", "(návratový kód 1)\n", "Více s příklady ukáže `ravo help PŘÍKAZ`.\n")),
     Row(["tour", "--commands"], holds=lambda out: len(set(line.split()[1] for line in out.splitlines())) < 8 and "too few commands"),
+    Row(["tour", "--json"], holds=as_json(lambda all: (len(all) < 10 or all[0]["command"] != "ravo table 71710 100121 72510") and f"{all}")),
     Row(["tour", "there"], WRONG_USAGE, czech=("argument 'there' je navíc",)),
     # Characters and strings.
     Row(["char", "--help"], out=("U+010D", "Examples:")),

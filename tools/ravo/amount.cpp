@@ -194,6 +194,16 @@ std::optional<ravo::Currency> ParseAmount(std::string_view utf8) {
   return amount ? std::optional(amount->value) : std::nullopt;
 }
 
+Notation NotationAsked(const Notation& input, std::string_view name) {
+  if (name == "plain") return {};
+  Notation notation = input;
+  if (name == "input") return notation;
+  const bool is_czech = name == "cs";
+  notation.group = is_czech ? "\u00A0" : ",";
+  notation.decimal = is_czech ? ',' : '.';
+  return notation;
+}
+
 std::string AmountText(ravo::Currency amount, const Notation& notation) {
   const auto bits = static_cast<std::uint64_t>(amount.raw);
   std::string digits = std::to_string(amount.raw < 0 ? 0 - bits : bits);

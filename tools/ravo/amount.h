@@ -43,6 +43,10 @@ struct Amount {
 /// Returns the value of such a text, or nothing.
 [[nodiscard]] std::optional<ravo::Currency> ParseAmount(std::string_view utf8);
 
+/// Returns the notation of an answer to an amount: that of the amount for "input", without groups and
+/// currency for "plain", with the separators of Czech or English for "cs" and "en".
+[[nodiscard]] Notation NotationAsked(const Notation& input, std::string_view name);
+
 /// Returns an amount with at least two and at most four decimals.
 [[nodiscard]] std::string AmountText(ravo::Currency amount, const Notation& notation = {});
 

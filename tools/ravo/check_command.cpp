@@ -214,7 +214,9 @@ void AddRuleOptions(CLI::App& command, CheckOptions& options) {
       "--list", options.czech.list,
       Text("Look banks up in this list, a file of the central bank's CSV form, or built-in"));
   list->type_name(Text("FILE"));
-  command.add_option("--list-date", options.czech.list_date, Text("The day of the list; today by default"))
+  command
+      .add_option("--list-date", options.czech.list_date,
+                  Text("The day of a list in a file; today by default"))
       ->type_name(Text("DATE"))
       ->check(CLI::Validator(CheckDay, ""))
       ->needs(list);

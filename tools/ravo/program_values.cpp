@@ -30,6 +30,15 @@ CLI::Validator AtLeast(std::int64_t least) {
   return {check, ""};
 }
 
+CLI::Option* AddNotationOption(CLI::App& command, std::string& notation) {
+  return command
+      .add_option("--notation", notation,
+                  Text("How to write answers: input (like the amount), plain (1234.56), cs (1 234,56) or en "
+                       "(1,234.56)"))
+      ->check(CLI::IsMember({"input", "plain", "cs", "en"}))
+      ->capture_default_str();
+}
+
 CLI::Option* AddDelimiterOption(CLI::App& command, std::string& delimiter) {
   return command
       .add_option("--delimiter", delimiter, Text("The delimiter between fields; detected by default"))

@@ -11,6 +11,9 @@ namespace tool {
 /// Returns the rule that a value is a whole number of at least `least`.
 [[nodiscard]] CLI::Validator AtLeast(std::int64_t least);
 
+/// Adds the option --notation for amounts in answers; `NotationAsked` knows its values.
+CLI::Option* AddNotationOption(CLI::App& command, std::string& notation);
+
 /// Adds the option --delimiter for the fields of a table.
 CLI::Option* AddDelimiterOption(CLI::App& command, std::string& delimiter);
 

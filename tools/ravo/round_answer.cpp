@@ -98,14 +98,7 @@ RoundAnswer AnswerRound(std::string_view text, const RoundRequest& request) {
 }
 
 std::string RoundedText(const RoundAnswer& answer, const RoundRequest& request) {
-  Notation notation = answer.amount->notation;
-  if (request.notation == "plain") notation = {};
-  if (request.notation == "cs" || request.notation == "en") {
-    const bool is_czech = request.notation == "cs";
-    notation.group = is_czech ? "\u00A0" : ",";
-    notation.decimal = is_czech ? ',' : '.';
-  }
-  return AmountText(*answer.rounded, notation);
+  return AmountText(*answer.rounded, NotationAsked(answer.amount->notation, request.notation));
 }
 
 }  // namespace tool

@@ -179,12 +179,7 @@ void AddRoundCommand(CLI::App& program, Outcome& outcome) {
   CLI::Option* amounts = command->add_option(
       Text("AMOUNT"), options->amounts, Text("Amounts; - reads them from standard input, one in a line"));
   AddRules(*command, *options);
-  command
-      ->add_option("--notation", options->notation,
-                   Text("How to write answers: input (like the amount), plain (1234.56), cs (1 234,56) or en "
-                        "(1,234.56)"))
-      ->check(CLI::IsMember({"input", "plain", "cs", "en"}))
-      ->capture_default_str();
+  AddNotationOption(*command, options->notation);
   CLI::Option* json = command->add_flag("--json", options->json, Text("Write JSON"));
   AddTable(*command, *options, amounts, json);
   command->footer(Text(kRoundFooter));
