@@ -131,10 +131,10 @@ def check_conversions(program):
         if (got := convert(*options, content=content)) != wanted:
             yield f"convert {' '.join(options)}: {got[:300]!r}, not {wanted[:60]!r}"
     refused = [
-        (("-f", "utf-8", "-t", "1250"), "ab\nc\u4e00".encode(), "2:2: U+4E00 cannot be written in Windows_1250"),
+        (("-f", "utf-8", "-t", "1250"), "ab\nc\u4e00".encode(), "2:2: U+4E00 cannot be written in Windows-1250"),
         (("-f", "utf-8", "-t", "1250"), text.encode() + "\u4e00".encode(), "1001:1: U+4E00"),
         (("-f", "utf-8", "-t", "utf-8"), b"a\xff", "1:2: bytes that cannot be read"),
-        (("-f", "utf-16be", "-t", "utf-8"), b"\0a\xdc\0\0b", "1:2: bytes that cannot be read in UTF_16_BE: DC 00"),
+        (("-f", "utf-16be", "-t", "utf-8"), b"\0a\xdc\0\0b", "1:2: bytes that cannot be read in UTF-16, big-endian: DC 00"),
     ]
     for options, content, told in refused:
         got = convert(*options, content=content, status=NO).decode()

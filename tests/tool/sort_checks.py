@@ -106,7 +106,7 @@ def check_sorted_encodings(program):
     refused: list[tuple[list[str], bytes, str]] = [
         ([], b"ab\n\xff", "lines:2:1: this byte is not UTF-8"),
         ([], "ab\nčc".encode() + b"\xe8\n", "lines:2:3: this byte is not UTF-8"),
-        (["--encoding", "utf-16le"], b"a\0\n\0\x00\xd8", "lines: byte 5 cannot be read as UTF_16_LE"),
+        (["--encoding", "utf-16le"], b"a\0\n\0\x00\xd8", "lines: byte 5 cannot be read as UTF-16, little-endian"),
     ]
     for options, content, told in refused:
         file.write_bytes(content)

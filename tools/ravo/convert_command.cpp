@@ -1,6 +1,7 @@
 #include "commands.h"
 #include "console.h"
 #include "convert_file.h"
+#include "encoding_label.h"
 #include "nearest.h"
 #include "progress.h"
 #include "spelling.h"
@@ -182,12 +183,14 @@ std::string HexOf(const std::string& bytes) {
 std::string DescribedEnd(const ConversionEnd& end, const Conversion& conversion) {
   switch (end.fault.kind) {
     case Fault::Kind::Lacking:
-      return Text("{0} cannot be written in {1}", {CodePointText(end.fault.code), conversion.to->name});
+      return Text("{0} cannot be written in {1}",
+                  {CodePointText(end.fault.code), ShortLabel(conversion.to->label)});
     case Fault::Kind::CutShort:
       return Text("the text ends inside a character of {0} (bytes: {1})",
-                  {end.from->name, HexOf(end.fault.bytes)});
+                  {ShortLabel(end.from->label), HexOf(end.fault.bytes)});
     default:
-      return Text("bytes that cannot be read in {0}: {1}", {end.from->name, HexOf(end.fault.bytes)});
+      return Text("bytes that cannot be read in {0}: {1}",
+                  {ShortLabel(end.from->label), HexOf(end.fault.bytes)});
   }
 }
 

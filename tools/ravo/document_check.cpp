@@ -41,7 +41,7 @@ class Rules {
 
   std::vector<DocumentFinding> Run() {
     if (IsWide()) {
-      Add(DocumentMessage::FindsWide, 0, {text_.encoding});
+      Add(DocumentMessage::FindsWide, 0, {text_.label});
       return std::move(findings_);
     }
     CheckStart();
@@ -252,7 +252,7 @@ class Rules {
   void CheckCharacters(Span span) {
     for (std::size_t at = span.begin; at < span.end;) {
       const auto [c, size] = FirstCharacter(std::string_view(Text()).substr(at));
-      if (c >= 0x80 && !IsSame(c)) return Add(DocumentMessage::FindsEncoding, at, {text_.encoding});
+      if (c >= 0x80 && !IsSame(c)) return Add(DocumentMessage::FindsEncoding, at, {text_.label});
       at += size;
     }
   }

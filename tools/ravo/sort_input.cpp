@@ -1,5 +1,6 @@
 #include "sort_input.h"
 
+#include "encoding_label.h"
 #include "text.h"
 #include "utf8_reader.h"
 #include "whole_input.h"
@@ -57,7 +58,7 @@ std::string SortInput::InUtf8(std::string bytes, const std::string& name) const 
       std::mismatch(bytes.begin(), bytes.end(), back.begin(), back.end()).first - bytes.begin();
   throw std::runtime_error(
       name + ": " +
-      Text("byte {0} cannot be read as {1}", {std::to_string(differ + 1), std::string(encoding_.name)}));
+      Text("byte {0} cannot be read as {1}", {std::to_string(differ + 1), ShortLabel(encoding_.label)}));
 }
 
 void SortInput::Add(const std::string& name) {
