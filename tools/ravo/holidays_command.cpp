@@ -89,8 +89,9 @@ void Run(const HolidayOptions& options, Outcome& outcome) {
 }
 
 constexpr const char* kHolidaysFooter = ToTranslate(
-    "Holidays are those of law 245/2000 and its changes, with the law that named each; those before 2000\n"
-    "are not verified, and there are none before 1993. Working days are Monday to Friday without them, and\n"
+    "Holidays are those of law 245/2000 and its changes, with the law that named each, and before 9 August\n"
+    "2000 those of law 93/1951; those before 2000 are not verified, and there are none before 1993. Working "
+    "days are Monday to Friday without them, and\n"
     "both edges count.\n"
     "\n"
     "Exit status: 0 there are holidays, 1 there are none, 2 wrong usage.\n"
