@@ -123,7 +123,7 @@ def check_malformed(program):
         if "32" not in codec and got.content != wanted.encode():
             yield f"convert -f {name} --replace of {content!r}: {got}, not {wanted!r}"
     surrogate = Converted(program, b"\xd8\x3d\xde\x00", "-f", "ucs-2be", "-t", "utf-8")
-    if not surrogate.is_refused(":1:1: bytes that cannot be read in UCS_2_BE: D8 3D"):
+    if not surrogate.is_refused(":1:1: bytes that cannot be read in UCS-2, big-endian: D8 3D"):
         yield f"convert of surrogates in UCS-2: {surrogate}"
     for content in (b"\x81", b"ab\x98"):
         if not (got := Converted(program, content, "-f", "1250", "-t", "utf-8")).is_refused("bytes that cannot be read in Windows-1250"):

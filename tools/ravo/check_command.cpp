@@ -8,7 +8,6 @@
 #include "kind_lines.h"
 #include "nearest.h"
 #include "program_values.h"
-#include "table_text.h"
 #include "text.h"
 #include "value_reasons.h"
 #include <ravo/RavoInterface.h>
@@ -117,19 +116,6 @@ void CheckValues(const CheckOptions& options, Outcome& outcome) {
   CheckCzechValues(check, outcome);
 }
 
-// Throws `CLI::ValidationError` for an encoding that no table can have.
-const ravo::DIUnicode::EncodingRow* EncodingOf(const std::string& name) {
-  if (name.empty()) return nullptr;
-  const ravo::DIUnicode::EncodingRow* const row = ravo::DIUnicode::FindEncoding(name);
-  if (row == nullptr)
-    throw CLI::ValidationError(Text("there is no encoding {0}; see ravo encodings", {name}));
-  if (!TableText::CanRead(*row)) {
-    throw CLI::ValidationError(
-        Text("tables in {0} cannot be read; convert them first: ravo convert", {name}));
-  }
-  return row;
-}
-
 std::string CheckOutputName(const std::string& name) {
   if (name.empty()) return Text("the name of the output file is empty");
   return name == "-" ? Text("standard output has the findings; name a file") : std::string();
@@ -140,7 +126,7 @@ TableJob JobOf(const CheckOptions& options) {
   job.files = options.files;
   for (const std::string& column : options.columns) job.columns.push_back(ColumnOf(column, options.suite));
   job.delimiter = DelimiterOf(options.delimiter);
-  job.encoding = EncodingOf(options.encoding);
+  job.encoding = TableEncodingOf(options.encoding);
   job.allow_empty = options.allow_empty;
   job.json = options.json;
   job.limit = options.limit;
@@ -187,9 +173,7 @@ void AddOutput(CLI::App& command, std::string& name, CLI::Option* file, const ch
 
 void AddTableOptions(CLI::App& command, CheckOptions& options, CLI::Option* file) {
   AddDelimiterOption(command, options.delimiter)->needs(file);
-  command.add_option("--encoding", options.encoding, Text("The encoding of the tables; detected by default"))
-      ->type_name(Text("ENCODING"))
-      ->needs(file);
+  AddTableEncodingOption(command, options.encoding)->needs(file);
   command.add_flag("--allow-empty", options.allow_empty, Text("Skip empty fields"))->needs(file);
   command.add_option("--limit", options.limit, Text("Write no more findings than this"))
       ->type_name("N")

@@ -1,6 +1,7 @@
 #include "program_values.h"
 
 #include "table_shape.h"
+#include "table_text.h"
 #include "text.h"
 
 #include <charconv>
@@ -49,6 +50,23 @@ CLI::Option* AddDelimiterOption(CLI::App& command, std::string& delimiter) {
 char DelimiterOf(const std::string& value) {
   if (value == kTab) return '\t';
   return value.empty() ? '\0' : value.front();
+}
+
+CLI::Option* AddTableEncodingOption(CLI::App& command, std::string& encoding) {
+  return command.add_option("--encoding", encoding, Text("The encoding of the tables; detected by default"))
+      ->type_name(Text("ENCODING"));
+}
+
+const ravo::DIUnicode::EncodingRow* TableEncodingOf(const std::string& value) {
+  if (value.empty()) return nullptr;
+  const ravo::DIUnicode::EncodingRow* const row = ravo::DIUnicode::FindEncoding(value);
+  if (row == nullptr)
+    throw CLI::ValidationError(Text("there is no encoding {0}; see ravo encodings", {value}));
+  if (!TableText::CanRead(*row)) {
+    throw CLI::ValidationError(
+        Text("tables in {0} cannot be read; convert them first: ravo convert", {value}));
+  }
+  return row;
 }
 
 void RefuseFlagValues(CLI::App& command) {

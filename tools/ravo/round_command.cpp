@@ -1,5 +1,6 @@
 #include "commands.h"
 #include "csv_column.h"
+#include "file_reason.h"
 #include "input_lines.h"
 #include "json_text.h"
 #include "program_values.h"
@@ -27,6 +28,7 @@ struct RoundOptions {
   std::string file;
   std::string column;
   std::string delimiter;
+  std::string encoding;
   bool suite = false;
   bool json = false;
 };
@@ -88,7 +90,8 @@ class Messages {
   std::size_t count_ = 0;
 };
 
-void RoundColumn(const RoundOptions& options, std::string_view table, Outcome& outcome) {
+void RoundColumn(const RoundOptions& options, const CsvColumn& column, std::string_view table,
+                 Outcome& outcome) {
   const RoundRequest request = RequestOf(options);
   Messages messages(outcome);
   const auto place = [&](std::size_t line) {
@@ -103,15 +106,16 @@ void RoundColumn(const RoundOptions& options, std::string_view table, Outcome& o
   const auto missing = [&](std::size_t line) {
     messages.Add(place(line) + Text("the row has no field in this column"), Answer::WrongUsage);
   };
-  outcome.out = ChangeCsvColumn(table, {options.column, DelimiterOf(options.delimiter)}, change, missing);
+  outcome.out = ChangeCsvColumn(table, column, change, missing);
   messages.Finish();
 }
 
 void RoundFile(const RoundOptions& options, Outcome& outcome) {
+  const CsvColumn column{options.column, DelimiterOf(options.delimiter), TableEncodingOf(options.encoding)};
   const std::optional<std::string> table = ReadWhole(options.file);
-  if (!table) return Complain(outcome, Text("{0}: cannot be read", {options.file}), Answer::WrongUsage);
+  if (!table) return Complain(outcome, UnreadableMessage(options.file), Answer::WrongUsage);
   try {
-    RoundColumn(options, *table, outcome);
+    RoundColumn(options, column, *table, outcome);
   } catch (const std::runtime_error& error) {
     Complain(outcome, options.file + ": " + error.what(), Answer::WrongUsage);
   }
@@ -169,6 +173,7 @@ void AddTable(CLI::App& command, RoundOptions& options, CLI::Option* amounts, CL
   column->needs(file);
   file->needs(column);
   AddDelimiterOption(command, options.delimiter)->needs(file);
+  AddTableEncodingOption(command, options.encoding)->needs(file);
 }
 
 }  // namespace
