@@ -30,8 +30,8 @@ DAMAGED = [
     (b"VS|Castka\n1|1,00\n1|2,00\n", NO, ("line 2\tVS\t1\tnot valid\n",), "delimiter '|'"),
     (b"a,b\tVS\n1,5\t1\n2;3\t1\n", NO, ("line 2\tVS\t1\tnot valid\nline 3\tVS\t1\tnot valid\n",), "delimiter tab"),
     # Nothing of a value steers a terminal or breaks the line.
-    (b'VS\n"1\t\n\x1b[31m"\n', NO, ("line 2\tVS\t1\\t\\n\\u001B[31m\tnot valid\n",), ";"),
-    ("VS\n\u0085č\n".encode(), NO, ("line 2\tVS\t\\u0085č\tnot valid\n",), "UTF-8"),
+    (b'VS\n"1\t\n\x1b[31m"\n', NO, ("line 2\tVS\t1␉␊␛[31m\tnot valid\n",), ";"),
+    ("VS\n\u0085č\n".encode(), NO, ("line 2\tVS\t<U+0085>č\tnot valid\n",), "UTF-8"),
     ("VS\nč\n".encode("cp1250"), NO, ("line 2\tVS\tč\tnot valid\n",), "Windows-1250"),
     ("\ufeffVS\n1\n".encode(), NO, ("line 2\tVS\t1\tnot valid\n",), "UTF-8"),
     (b"VS\n0\n", YES, ("one row, with findings: 0\nVS\tvs\t1\tvalid\n",), "UTF-8"),

@@ -104,6 +104,8 @@ TEST(Language, EnvironmentByRules) {
 TEST(Printable, ControlCharacters) {
   EXPECT_EQ(tool::Printable("a\tb\nc\r\nd"), "a\tb\nc\r\nd");
   EXPECT_EQ(tool::Printable("\x1b[2J\x07\x7f"), "␛[2J␇␡");
+  EXPECT_EQ(tool::OnOneLine("a\tb\r\nc\x1b\n"), "a␉b␍␊c␛␊");
+  EXPECT_EQ(tool::OnOneLine("\xC2\x85č\xE2\x80\xAE"), "<U+0085>č<U+202E>");
   EXPECT_EQ(tool::Printable("a\rb"), "a␍b");
   EXPECT_EQ(tool::Printable(std::string_view("\0", 1)), "␀");
   EXPECT_EQ(tool::Printable("\xC2\x9B"

@@ -194,18 +194,6 @@ bool IsPrintableAscii(std::string_view text) noexcept {
   return std::ranges::all_of(text, [](char byte) { return byte >= 0x20 && byte < 0x7F; });
 }
 
-std::string Shown(std::string_view utf8) {
-  std::string shown;
-  for (std::size_t i = 0; i < utf8.size(); ++i) {
-    if (IsControlByte(utf8, i)) {
-      AppendControl(shown, utf8, i);
-    } else {
-      shown += utf8[i];
-    }
-  }
-  return shown;
-}
-
 void AppendJson(std::string& json, std::string_view utf8) {
   for (std::size_t i = 0; i < utf8.size(); ++i) {
     const bool is_special = utf8[i] == '"' || utf8[i] == '\\';

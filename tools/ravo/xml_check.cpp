@@ -4,10 +4,10 @@
 #include "document_places.h"
 #include "foreign_text.h"
 #include "json_text.h"
+#include "printable.h"
 #include "text.h"
 #include "text_file.h"
 #include "xml_file.h"
-#include "xml_tree_text.h"
 #include "xml_work.h"
 
 #include <algorithm>
