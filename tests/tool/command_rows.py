@@ -156,6 +156,13 @@ ROWS = [
     # The parser's own words.
     Row(["round", "1", "--mode", "upp"], WRONG_USAGE, err=("--mode cannot be 'upp'; it is one of: up, down, math. Did you mean up?",),
         czech=("--mode nemůže být 'upp'; možnosti jsou: up, down, math. Nemysleli jste up?",)),
+    # The system's reasons, in the user's language.
+    Row(["check", "--csv", "chybí.csv", "--column", "VS=vs"], WRONG_USAGE, exact="", err=("ravo check: chybí.csv: cannot be read: there is no such file\n",),
+        czech=("chybí.csv: nelze přečíst: soubor neexistuje\n",)),
+    Row(["check", "account", "51/0100", "--list", "chybí.csv"], WRONG_USAGE, err=("chybí.csv: cannot be read: there is no such file\n",)),
+    Row(["form", "chybí.csv", "-o", "x.fdf"], WRONG_USAGE, err=("chybí.csv: cannot be read: there is no such file\n",)),
+    Row(["check", "--csv", ".", "--column", "VS=vs"], WRONG_USAGE, err=(".: cannot be read: it is a folder\n",)),
+    Row(["convert", "-t", "utf-8", "chybí"], WRONG_USAGE, err=("cannot be read: there is no such file\n",)),
     # The parser's own words reach nobody.
     Row(["check", "--csv", SAMPLE, "--column", "VS=vs", "--limit", "-1"], WRONG_USAGE, exact="",
         err=("ravo check: --limit: '-1' is not a whole number of at least 0\n",), czech=("--limit: '-1' není celé číslo od 0 výše\n",)),
@@ -309,7 +316,7 @@ ROWS = [
     Row(["check", "--csv", "x"], WRONG_USAGE, err=("--column",)),
     Row(["check", "--csv", "x", "--column", "VS"], WRONG_USAGE, err=("NAME=KIND",)),
     Row(["check", "--csv", "chybí.csv", "--column", "VS=vs"], WRONG_USAGE, err=("chybí.csv", "cannot be read")),
-    Row(["check", "--csv", str(SAMPLES), "--column", "VS=vs"], WRONG_USAGE, exact="", err=("samples: is a folder",)),
+    Row(["check", "--csv", str(SAMPLES), "--column", "VS=vs"], WRONG_USAGE, exact="", err=("samples: cannot be read: it is a folder",)),
     Row(["check", "--csv", SAMPLE, "--column", "Firma=vs"], WRONG_USAGE, exact="",
         err=("ravo check: ", "ledger.csv: there is no column 'Firma'\n  columns, split at ';': Doklad, Datum, Účet MD, ")),
     Row(["check", "--csv", SAMPLE, "--column", "Ucet D=vs"], WRONG_USAGE, exact="", err=("did you mean 'Účet D'?",)),

@@ -228,16 +228,6 @@ def check_colours(program):
     if len(program.command) > 1 or not hasattr(os, "openpty"):
         return
     for kind, coloured in (("xterm", True), ("dumb", False)):
-        own, terminal = os.openpty()
-        with os.fdopen(own, "rb", buffering=0) as reader:
-            child = subprocess.Popen(program.command + ["tour"], stdin=subprocess.DEVNULL, stdout=terminal, env={**os.environ, "TERM": kind})
-            os.close(terminal)
-            shown = b""
-            try:
-                while piece := reader.read(4096):
-                    shown += piece
-            except OSError:  # the other end of a terminal is gone
-                pass
-            child.wait(timeout=60)
-        if (b"\033[32m$ ravo table" in shown) != coloured or b"Pohled" not in shown:
+        shown = program.shown_on_terminal(["tour"], kind)
+        if ("\033[32m$ ravo table" in shown) != coloured or "Pohled" not in shown:
             yield f"tour on a terminal of kind {kind}: {shown[:200]!r}"

@@ -224,29 +224,13 @@ def check_large_tables(program):
     file.unlink()
 
 
-def shown_on_terminal(program, arguments):
-    own, terminal = os.openpty()
-    with os.fdopen(own, "rb", buffering=0) as reader:
-        child = subprocess.Popen(program.command + arguments, cwd=program.folder, stdin=subprocess.DEVNULL, stdout=terminal,
-                                 stderr=subprocess.DEVNULL)
-        os.close(terminal)
-        shown = b""
-        try:
-            while piece := reader.read(4096):
-                shown += piece
-        except OSError:  # the other end of a terminal is gone
-            pass
-        child.wait(timeout=60)
-    return shown.decode().replace("\r\n", "\n")
-
-
 def check_terminal_tables(program):
     """On a terminal, fields stand in columns."""
     if program.emulated or not hasattr(os, "openpty"):
         return
     file = pathlib.Path(program.folder) / "sloupce.csv"
     file.write_bytes("Účet;VS\n50;1\n311;123456\n".encode())
-    shown = shown_on_terminal(program, ["check", "--suite", "--csv", file.name, "--column", "Účet=ucet", "--column", "VS=vs"])
+    shown = program.shown_on_terminal(["check", "--suite", "--csv", file.name, "--column", "Účet=ucet", "--column", "VS=vs"])
     wanted = ("line 2  Účet  50      not valid\nline 2  VS    1       not valid\nline 3  VS    123456  not valid\n"
               "2 rows, with findings: 2\nÚčet  ucet  1  valid\nÚčet  ucet  1  not valid\nVS    vs    0  valid\nVS    vs    2  not valid\n")
     if shown != wanted:

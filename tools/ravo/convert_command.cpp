@@ -2,6 +2,7 @@
 #include "console.h"
 #include "convert_file.h"
 #include "encoding_label.h"
+#include "file_reason.h"
 #include "nearest.h"
 #include "progress.h"
 #include "spelling.h"
@@ -142,7 +143,7 @@ Conversion ConversionOf(const ConvertOptions& options) {
 
 std::size_t ReadBytes(std::ifstream& file, std::span<std::uint8_t> to) {
   file.read(reinterpret_cast<char*>(to.data()), static_cast<std::streamsize>(to.size()));
-  if (file.bad()) throw ConvertRefused{Text("cannot be read")};
+  if (file.bad()) throw ConvertRefused{Text("cannot be read to its end")};
   return static_cast<std::size_t>(file.gcount());
 }
 
@@ -151,13 +152,9 @@ ByteSource OpenSource(const std::string& name) {
     return {[](std::span<std::uint8_t> to) { return ReadInput(std::as_writable_bytes(to)); }, 0};
   const std::filesystem::path path = PathOf(name);
   std::error_code error;
-  if (std::filesystem::is_directory(path, error))
-    throw ConvertRefused{Text("cannot be read: it is a folder")};
   const auto file = std::make_shared<std::ifstream>(path, std::ios::binary);
-  if (!*file)
-    throw ConvertRefused{std::filesystem::exists(path, error)
-                             ? Text("cannot be read")
-                             : Text("cannot be read: there is no such file")};
+  if (!*file || std::filesystem::is_directory(path, error))
+    throw ConvertRefused{Text("cannot be read: {0}", {WhyUnreadable(name)})};
   const auto size = std::filesystem::file_size(path, error);
   return {[file](std::span<std::uint8_t> to) { return ReadBytes(*file, to); },
           error ? 0 : static_cast<std::int64_t>(size)};
@@ -209,7 +206,7 @@ void ConvertFile(FileConverter& converter, const ConvertOptions& options, const 
   throw ConvertRefused{name + ":" + (refused.answer == Answer::No ? "" : " ") + refused.message,
                        refused.answer};
 } catch (const std::runtime_error&) {
-  throw ConvertRefused{name + ": " + Text("cannot be read")};
+  throw ConvertRefused{name + ": " + Text("cannot be read to its end")};
 }
 
 // Several threads help as long as one of them writes.

@@ -116,8 +116,9 @@ std::string ReadBanks(const CzechCheck& check, OwnedBanks& banks) {
     banks.list = czech::BuiltInBanks();
     return {};
   }
-  std::optional<std::string> text = ReadWhole(check.list);
-  if (!text) return Text("cannot be read");
+  std::string reason;
+  std::optional<std::string> text = ReadWhole(check.list, &reason);
+  if (!text) return reason;
   banks.text = std::move(*text);
   banks.banks.resize(kMostBanks);
   const auto read = czech::ReadBankList(banks.text, banks.banks);
