@@ -12,7 +12,7 @@ import pathlib
 import random
 import sys
 
-from whole_program import measure, report
+from whole_program import Times, measure, report
 
 SIZE = 100_000_000
 WORDS = ("účet předkontace zákazník dodavatel faktura částka splatnost úhrada daňový doklad pokladna banka příjem výdej sklad "
@@ -44,7 +44,7 @@ def commands(ravo, folder):
 
 def main(ravo, folder, report_file):
     folder = pathlib.Path(folder)
-    times = {}
+    times: Times = {}
     for job, programs in commands(ravo, folder):
         times |= measure(job, programs, folder)
     report(times, report_file)

@@ -1,5 +1,6 @@
 """Shared by the benchmarks of whole programs: runs in turn, medians, and the report in the format of the other benchmarks."""
 
+import functools
 import json
 import pathlib
 import resource
@@ -7,7 +8,7 @@ import shutil
 import statistics
 import subprocess
 import time
-from collections.abc import Callable
+from collections.abc import Callable, Mapping
 from typing import TypeVar
 
 RUNS = 9
@@ -17,7 +18,7 @@ Taken = TypeVar("Taken")
 Times = dict[tuple[str, str], list[float]]
 
 
-def in_turn(runs: dict[Place, Callable[[], Taken]], count: int = RUNS) -> dict[Place, list[Taken]]:
+def in_turn(runs: Mapping[Place, Callable[[], Taken]], count: int = RUNS) -> dict[Place, list[Taken]]:
     """What each of the runs returns, `count` times; they take turns, and the first turn only warms the file cache."""
     taken: dict[Place, list[Taken]] = {place: [] for place in runs}
     for turn in range(count + 1):
@@ -40,7 +41,7 @@ def seconds(command: list[str], target: pathlib.Path) -> tuple[float, float]:
 
 def measure(job: str, commands: dict[str, list[str]], folder: pathlib.Path) -> Times:
     """Both times of each program; those that are not installed are left out."""
-    runs = {name: lambda command=command: seconds(command, folder / "written")  # type: ignore[misc]
+    runs = {name: functools.partial(seconds, command, folder / "written")
             for name, command in commands.items() if name == "ravo" or shutil.which(command[0])}
     taken = in_turn(runs)
     return {(f"{job}, {what}", name): [both[place] for both in all_runs]
