@@ -3,7 +3,6 @@
 import json
 import os
 import pathlib
-import subprocess
 import threading
 import zlib
 
