@@ -161,6 +161,8 @@ ROWS = [
         czech=("chybí.csv: nelze přečíst: soubor neexistuje\n",)),
     Row(["check", "account", "51/0100", "--list", "chybí.csv"], WRONG_USAGE, err=("chybí.csv: cannot be read: there is no such file\n",)),
     Row(["form", "chybí.csv", "-o", "x.fdf"], WRONG_USAGE, err=("chybí.csv: cannot be read: there is no such file\n",)),
+    Row(["form", ".", "-o", "x.fdf"], WRONG_USAGE, err=(".: cannot be read: it is a folder\n",)),
+    Row(["report", "-o", "chybí/x"], WRONG_USAGE, err=("chybí/x: cannot be written: its folder does not exist\n",), czech=("složka neexistuje",)),
     Row(["check", "--csv", ".", "--column", "VS=vs"], WRONG_USAGE, err=(".: cannot be read: it is a folder\n",)),
     Row(["convert", "-t", "utf-8", "chybí"], WRONG_USAGE, err=("cannot be read: there is no such file\n",)),
     # The parser's own words reach nobody.

@@ -75,7 +75,9 @@ CZECH_ROWS = [
         exact="21 %\t1100,40\t231,08\t1331,48\nsum\t1100,40\t231,08\t1331,48\nto pay\t1331,00\t-0,48\n"),
     Row(["vat", "1 000,5", "--json", "--on", "2026-11-22"], holds=as_json(lambda all: all[0]["total"] != "1210.61" and f"{all}")),
     Row(["vat"], WRONG_USAGE),
-    Row(["vat", "x"], WRONG_USAGE, err=("'x'",)),
+    Row(["vat", "x"], WRONG_USAGE, err=("ravo vat: AMOUNT: x: this is no amount",), czech=("x: toto není částka",)),
+    Row(["vat", "12.500 EUR"], WRONG_USAGE, exact="", err=("12.500 EUR: three digits after",)),
+    Row(["vat", "1.23456:12"], WRONG_USAGE, err=("1.23456:12: an amount has at most four decimals\n",)),
     Row(["vat", "1", "--by-line"], WRONG_USAGE),
     Row(["due", "--help"], out=("--days", "--months", "Examples:")),
     Row(["due", "2026-11-07", "--days", "14"], exact="2026-11-23\tMonday\nSaturday 2026-11-21 is no working day\n"),
@@ -108,6 +110,7 @@ CZECH_ROWS = [
     Row(["due", "9999-12-31+1d"], WRONG_USAGE, exact="", err=("'9999-12-31+1d' is not a day: the date is outside the years 1 to 9999\n",)),
     Row(["vat", "1", "--on", "x"], WRONG_USAGE, exact="", err=("--on: 'x' is not a day: this is no date; write it as 2026-11-21",), czech=("'x' není den: toto není datum",)),
     Row(["holidays", "0"], WRONG_USAGE),
+    Row(["holidays", "2027", "2026"], WRONG_USAGE, exact="", err=("ravo holidays: 2026-12-31 is before 2027-01-01\n",), czech=("2026-12-31 je před 2027-01-01",)),
     Row(["holidays", "2026", "2027", "2028"], WRONG_USAGE),
 ]
 

@@ -133,6 +133,8 @@ TEST(Nearest, WordsThatAreMeant) {
   for (const auto& [word, wanted] : rows) EXPECT_EQ(tool::Nearest(word, words), wanted) << word;
   EXPECT_EQ(tool::DidYouMean("tabel", words), "Did you mean table?");
   EXPECT_EQ(tool::DidYouMean("nonsense", words), "");
+  EXPECT_EQ(tool::Nearest("c", {"a", "b"}), "");
+  EXPECT_EQ(tool::Nearest("VZ", {"VS", "KS"}), "VS");
   EXPECT_EQ(tool::Nearest(std::string(100'000, 'a'), words), "");
 }
 

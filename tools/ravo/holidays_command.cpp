@@ -76,6 +76,9 @@ void AddHolidays(czech::Day day, HolidayLists& lists) {
 
 void Run(const HolidayOptions& options, Outcome& outcome) {
   const DaySpan span = DaysOf(options);
+  if (span.last < span.first)
+    return Complain(outcome, Text("{0} is before {1}", {DayText(span.last), DayText(span.first)}),
+                    Answer::WrongUsage);
   HolidayLists lists;
   for (czech::Day day = span.first; day <= span.last; ++day.number) AddHolidays(day, lists);
   // The first day counts, too.

@@ -3,6 +3,7 @@
 #include "czech_day.h"
 #include "json_text.h"
 #include "program_values.h"
+#include "round_answer.h"
 #include "text.h"
 #include <ravo/czech/vat.h>
 
@@ -60,8 +61,9 @@ AmountAndRate SplitAmount(const std::string& text) {
 }
 
 std::string CheckVatAmount(const std::string& text) {
-  if (ParseAmount(SplitAmount(text).amount)) return {};
-  return Text("'{0}' is not an amount of at most four decimals, alone or with a rate as in 1000:12", {text});
+  const auto read = ReadAmount(SplitAmount(text).amount);
+  const auto* const fault = std::get_if<AmountFault>(&read);
+  return fault ? text + ": " + FaultText(*fault) : std::string();
 }
 
 // The kind of rate that a percentage or a name means on a day, or nothing.
