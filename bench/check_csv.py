@@ -9,15 +9,15 @@ times; the medians of their wall times and the ratios are printed. REPORT has ev
 benchmarks report.
 """
 
-import json
 import pathlib
 import shutil
-import statistics
 import subprocess
 import sys
 import time
 
-ROWS, COPIES, RUNS = 20_000, 50, 9
+from whole_program import in_turn, report
+
+ROWS, COPIES = 20_000, 50
 COLUMNS = {"Účet MD": "ucet", "Účet D": "ucet", "VS": "vs", "Protiúčet": "banka", "EAN": "ean"}
 PLACES = (3, 4, 6, 7, 8)
 COUNT = """
@@ -84,28 +84,13 @@ def jobs_on(ravo, file, duckdb):
     return jobs
 
 
-def report(times):
-    """The runs of all programs, in nanoseconds."""
-    runs = [{"run_name": f"{job}/{name}", "run_type": "iteration", "cpu_time": taken * 1e9}
-            for (job, name), all_runs in times.items() for taken in all_runs]
-    return json.dumps({"benchmarks": runs})
-
-
 def main(ravo, folder, report_file, duckdb=None):
     if not shutil.which("mawk"):
         print("mawk is missing")
         return 0
     jobs = jobs_on(ravo, str(million_rows(pathlib.Path(folder))), duckdb)
-    times: dict[tuple[str, str], list[float]] = {(job, name): [] for job, programs in jobs.items() for name in programs}
-    for run in range(RUNS + 1):
-        for job, name in times:
-            taken = jobs[job][name]()
-            if run > 0:  # the first turn warms the file cache
-                times[job, name].append(taken)
-    pathlib.Path(report_file).write_text(report(times), encoding="utf-8")
-    medians = {place: statistics.median(taken) for place, taken in times.items()}
-    for (job, name), median in medians.items():
-        print(f"{job:40} {name:24} {median:7.3f} s  {median / medians[job, 'ravo']:6.2f}x")
+    runs = {(job, name): run for job, programs in jobs.items() for name, run in programs.items()}
+    report(in_turn(runs), report_file)
     return 0
 
 

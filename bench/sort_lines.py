@@ -8,14 +8,14 @@ ratio and their peaks of memory. REPORT has every run, in the format of the othe
 """
 
 import filecmp
-import json
 import os
 import pathlib
 import random
-import statistics
 import subprocess
 import sys
 import time
+
+from whole_program import in_turn, report
 
 LINES, RUNS = 2_000_000, 5
 WORDS = ("účet předkontace zákazník dodavatel faktura částka splatnost úhrada daňový doklad pokladna banka příjem výdej sklad zboží "
@@ -47,26 +47,18 @@ def run(command, target):
 
 
 def main(ravo, folder, report_file):
-    folder, runs = pathlib.Path(folder), []
-    file = czech_lines(folder)
-    commands = {"ravo": [ravo, "sort", file], "sort": ["sort", file]}
-    targets = {name: folder / f"sorted-{name}" for name in commands}
-    times: dict[str, list[tuple[float, int]]] = {name: [] for name in commands}
-    for turn in range(RUNS + 1):
-        for name, command in commands.items():
-            taken = run(command, targets[name])
-            if turn > 0:  # the first turn warms the file cache
-                times[name].append(taken)
+    folder = pathlib.Path(folder)
+    file = str(czech_lines(folder))
+    targets = {name: folder / f"sorted-{name}" for name in ("ravo", "sort")}
+    taken = in_turn({"ravo": lambda: run([ravo, "sort", file], targets["ravo"]),
+                     "sort": lambda: run(["sort", file], targets["sort"])}, RUNS)
     if not filecmp.cmp(targets["ravo"], targets["sort"], shallow=False):
         sys.exit("the results differ")
     for target in targets.values():
         target.unlink()
-    medians = {name: statistics.median(taken for taken, _ in all_runs) for name, all_runs in times.items()}
-    for name, median in medians.items():
-        peak = max(memory for _, memory in times[name]) / 1e6
-        print(f"sort, two million lines  {name:6} {median:7.3f} s  {median / medians['ravo']:6.2f}x  {peak:5.0f} MB")
-        runs += [{"run_name": f"two million lines/{name}", "run_type": "iteration", "cpu_time": taken * 1e9} for taken, _ in times[name]]
-    pathlib.Path(report_file).write_text(json.dumps({"benchmarks": runs}), encoding="utf-8")
+    peaks = {name: f"{max(memory for _, memory in all_runs) / 1e6:5.0f} MB" for name, all_runs in taken.items()}
+    times = {("two million lines", name): [wall for wall, _ in all_runs] for name, all_runs in taken.items()}
+    report(times, report_file, peaks)
     return 0
 
 

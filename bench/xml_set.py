@@ -8,12 +8,10 @@ The programs run in turn, several times, each into a file. Prints the medians of
 ratios. REPORT has every run, in the format of the other benchmarks.
 """
 
-import json
 import pathlib
-import statistics
 import sys
 
-from convert import measure
+from whole_program import measure, report
 
 SIZE = 100_000_000
 ROW = '  <row id="17" name="Žižka">\n    <amount>1234,50</amount>\n    <note>Příliš žluťoučký &amp; tučný</note>\n  </row>\n'
@@ -29,20 +27,13 @@ def document(folder):
 
 
 def main(ravo, folder, report_file):
-    folder, runs = pathlib.Path(folder), []
+    folder = pathlib.Path(folder)
     file = document(folder)
-    times = measure({
+    report(measure("set a value", {
         "ravo": [ravo, "xml", "set", file, "rows/title", "2"],
         "xmlstarlet": ["xmlstarlet", "ed", "-P", "-u", "/rows/title", "-v", "2", file],
         "cat": ["cat", file],
-    }, folder)
-    for place, what in enumerate(("processor time", "time")):
-        medians = {name: statistics.median(taken[place] for taken in all_runs) for name, all_runs in times.items()}
-        for name, median in medians.items():
-            print(f"set a value, {what:14}  {name:10} {median:7.3f} s  {median / medians['ravo']:6.2f}x")
-            runs += [{"run_name": f"set a value, {what}/{name}", "run_type": "iteration", "cpu_time": taken[place] * 1e9}
-                     for taken in times[name]]
-    pathlib.Path(report_file).write_text(json.dumps({"benchmarks": runs}), encoding="utf-8")
+    }, folder), report_file)
     return 0
 
 

@@ -46,7 +46,7 @@ void CheckParts(const tool::ScannedDocument& document) {
   Require(at == document.text.size());
 }
 
-// The content of an element can stand there again.
+// The content of the root element is content by itself.
 void CheckFragment(const tool::ScannedDocument& document) {
   const tool::DocumentPart& root = document.parts[document.root];
   const std::size_t end = document.parts[root.partner].whole.begin;

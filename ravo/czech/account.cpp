@@ -55,7 +55,7 @@ constexpr bool IsAt(std::basic_string_view<Unit> text, std::size_t at, char char
   return at < text.size() && text[at] == static_cast<Unit>(character);
 }
 
-// Prefix, number and bank code: hyphen and slash stand once each, in this order.
+// Prefix, number and bank code, with one hyphen after the prefix and one slash before the bank code.
 struct AccountParts {
   DigitRun prefix;
   DigitRun number;

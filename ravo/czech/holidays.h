@@ -11,8 +11,8 @@
 
 /// Holidays by law 245/2000, working days, and the ends of terms.
 ///
-/// Days from 1993 to 1999 have the days of rest of law 93/1951 and are marked as not verified; before 1993
-/// there are none. Days are always arguments: this room has no clock.
+/// Days from 1993 to 8 August 2000 have the days of rest of law 93/1951, and those before 2000 are marked as
+/// not verified; before 1993 there are none. Days are always arguments: this room has no clock.
 namespace ravo::czech {
 
 /// The first day that is verified: 1 January 2000.
@@ -32,7 +32,7 @@ struct Holiday {
 /// Returns all holidays, by their place in the year.
 [[nodiscard]] std::span<const Holiday> Holidays() noexcept;
 
-/// Returns Easter Sunday of a year, 1583 to 9999, by the Gregorian reckoning.
+/// Returns Easter Sunday of a year, 1 to 9999, by the Gregorian reckoning, also for the years before 1583.
 [[nodiscard]] Day EasterSunday(int year) noexcept;
 
 /// Returns the day of a holiday in `year`. Precondition: it holds in that year.

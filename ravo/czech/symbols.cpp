@@ -36,23 +36,16 @@ Parsed<Symbol> ParseSymbol(std::basic_string_view<Unit> text, const detail::Spel
 
 }  // namespace
 
-Parsed<VariableSymbol> ParseVariableSymbol(std::string_view text) noexcept {
-  return ParseSymbol<VariableSymbol>(text, kVsSpelling, 1);
-}
-Parsed<VariableSymbol> ParseVariableSymbol(std::u16string_view text) noexcept {
-  return ParseSymbol<VariableSymbol>(text, kVsSpelling, 1);
-}
-Parsed<ConstantSymbol> ParseConstantSymbol(std::string_view text) noexcept {
-  return ParseSymbol<ConstantSymbol>(text, kKsSpelling, 4);
-}
-Parsed<ConstantSymbol> ParseConstantSymbol(std::u16string_view text) noexcept {
-  return ParseSymbol<ConstantSymbol>(text, kKsSpelling, 4);
-}
-Parsed<SpecificSymbol> ParseSpecificSymbol(std::string_view text) noexcept {
-  return ParseSymbol<SpecificSymbol>(text, kSsSpelling, 1);
-}
-Parsed<SpecificSymbol> ParseSpecificSymbol(std::u16string_view text) noexcept {
-  return ParseSymbol<SpecificSymbol>(text, kSsSpelling, 1);
-}
+#define RAVO_SYMBOL(name, spelling, least)                      \
+  Parsed<name> Parse##name(std::string_view text) noexcept {    \
+    return ParseSymbol<name>(text, spelling, least);            \
+  }                                                             \
+  Parsed<name> Parse##name(std::u16string_view text) noexcept { \
+    return ParseSymbol<name>(text, spelling, least);            \
+  }
+RAVO_SYMBOL(VariableSymbol, kVsSpelling, 1)
+RAVO_SYMBOL(ConstantSymbol, kKsSpelling, 4)
+RAVO_SYMBOL(SpecificSymbol, kSsSpelling, 1)
+#undef RAVO_SYMBOL
 
 }  // namespace ravo::czech

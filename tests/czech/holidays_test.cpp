@@ -76,7 +76,13 @@ const NameRow kNames[] = {
     {At(2019, 11, 17), "Den boje za svobodu a demokracii a Mezinárodní den studentstva", "49/2019"},
     {At(2026, 10, 28), "Den vzniku samostatného československého státu", "245/2000"},
     {At(2026, 1, 1), "Den obnovy samostatného českého státu", "245/2000"},
-    {At(1999, 1, 1), "Nový rok", "245/2000"},
+    {At(1999, 1, 1), "Nový rok", "93/1951"},
+    {At(1999, 12, 26), "2. svátek vánoční", "93/1951"},
+    {At(2000, 1, 1), "Nový rok", "93/1951"},
+    {At(2000, 7, 6), "Den upálení mistra Jana Husa", "93/1951"},
+    {At(2000, 9, 28), "Den české státnosti", "245/2000"},
+    {At(2000, 10, 28), "Den vzniku samostatného československého státu", "245/2000"},
+    {At(2001, 1, 1), "Den obnovy samostatného českého státu", "245/2000"},
 };
 
 TEST(Holidays, HaveTheNamesOfTheirYears) {

@@ -156,6 +156,31 @@ ROWS = [
     # The parser's own words.
     Row(["round", "1", "--mode", "upp"], WRONG_USAGE, err=("--mode cannot be 'upp'; it is one of: up, down, math. Did you mean up?",),
         czech=("--mode nemůže být 'upp'; možnosti jsou: up, down, math. Nemysleli jste up?",)),
+    # The system's reasons, in the user's language.
+    Row(["check", "--csv", "chybí.csv", "--column", "VS=vs"], WRONG_USAGE, exact="", err=("ravo check: chybí.csv: cannot be read: there is no such file\n",),
+        czech=("chybí.csv: nelze přečíst: soubor neexistuje\n",)),
+    Row(["check", "account", "51/0100", "--list", "chybí.csv"], WRONG_USAGE, err=("chybí.csv: cannot be read: there is no such file\n",)),
+    Row(["form", "chybí.csv", "-o", "x.fdf"], WRONG_USAGE, err=("chybí.csv: cannot be read: there is no such file\n",)),
+    Row(["form", ".", "-o", "x.fdf"], WRONG_USAGE, err=(".: cannot be read: it is a folder\n",)),
+    Row(["report", "-o", "chybí/x"], WRONG_USAGE, err=("chybí/x: cannot be written: its folder does not exist\n",), czech=("složka neexistuje",)),
+    Row(["check", "--csv", ".", "--column", "VS=vs"], WRONG_USAGE, err=(".: cannot be read: it is a folder\n",)),
+    Row(["convert", "-t", "utf-8", "chybí"], WRONG_USAGE, err=("cannot be read: there is no such file\n",)),
+    # The parser's own words reach nobody.
+    Row(["check", "--csv", SAMPLE, "--column", "VS=vs", "--limit", "-1"], WRONG_USAGE, exact="",
+        err=("ravo check: --limit: '-1' is not a whole number of at least 0\n",), czech=("--limit: '-1' není celé číslo od 0 výše\n",)),
+    Row(["check", "--csv", SAMPLE, "--column", "VS=vs", "--threads", "x"], WRONG_USAGE, err=("--threads: 'x' is not a whole number of at least 0\n",)),
+    Row(["check", "--csv", SAMPLE, "--column", "VS=vs", "--threads", "99999999999"], WRONG_USAGE, err=("--threads takes a number; '99999999999' is none, or too large\n",)),
+    Row(["sort", "-k", "0"], WRONG_USAGE, err=("--key: '0' is not a whole number of at least 1\n",)),
+    Row(["round", "1", "--json=xx"], WRONG_USAGE, exact="", err=("ravo round: --json takes no value\n",), czech=("--json nepřijímá hodnotu\n",)),
+    Row(["due", "2026-01-01", "--days", "x"], WRONG_USAGE, err=("--days takes a number; 'x' is none, or too large\n",), czech=("--days vyžaduje číslo; 'x'",)),
+    Row(["form", SAMPLE, "-o", "x", "--delimiter", "x"], WRONG_USAGE,
+        err=("--delimiter: 'x' is not a delimiter; delimiters are ';', ',', '|' and tab\n",), czech=("'x' není oddělovač; oddělovače jsou ';', ',', '|' a tab\n",)),
+    Row(["round", "1", "--decimals", "1", "--decimals", "2"], WRONG_USAGE, err=("ravo round: --decimals may be given only once\n",)),
+    Row(["holidays", "2026", "2027", "2028"], WRONG_USAGE, err=("DATE may be given at most 2 times\n",), czech=("DATUM lze zadat nejvýše 2krát\n",)),
+    Row(["round", "1", "--lang", "de"], WRONG_USAGE, err=("ravo round: --lang cannot be 'de'; it is one of: cs, en.\n",)),
+    Row(["holidays", "--help"], out=("Usage: ravo holidays [OPTIONS] [DATE [DATE]]\n",)),
+    Row(["round", "--help"], out=("  --delimiter CHAR Needs: --csv\n",)),
+    Row(["convert", "--help"], out=("--from ENCODING", "--to ENCODING", "--output FILE"), czech=("--from KÓDOVÁNÍ",)),
     Row(["round", "1", "--decimals", "99"], WRONG_USAGE, err=("--decimals goes from -4 to 14; 99 is outside",), czech=("99 je mimo ně",)),
     Row(["random", "--seed", "x", "--count"], WRONG_USAGE, err=("--count needs a value",), czech=("--count vyžaduje hodnotu",)),
     Row(["random"], WRONG_USAGE, err=("--seed is missing",), czech=("chybí --seed",)),
@@ -168,6 +193,12 @@ ROWS = [
         czech=("Použití: ravo hash [PŘEPÍNAČE] [SOUČET SOUBOR...]", "\nPřepínače:\n", "\n\nNávratový kód: 0, 1 součet")),
     Row(["help", "xml", "get"], out=("Usage: ravo xml get [OPTIONS]",)),
     Row(["xml", "get", "--help"], out=("Usage: ravo xml get [OPTIONS]",), holds=without("--lang")),
+    Row(["help", "round", "--json"], holds=as_json(lambda all: (
+        (all["command"], all["arguments"][0]["name"], all["commands"], all["options"][1]["names"], all["options"][1]["value"], all["options"][1]["default"])
+        != ("ravo round", "AMOUNT", [], ["--mode"], "{up,down,math}", "math") or "Modes: up" not in all["notes"]) and f"{all}")),
+    Row(["help", "--json"], holds=as_json(lambda all: len(all["commands"]) < 20 and f"{all}")),
+    Row(["version", "--json"], holds=as_json(lambda all: (all["program"] != "ravo" or not re.fullmatch(r"\d+\.\d+\.\d+", all["version"])) and f"{all}")),
+    Row(["report", "-o", ""], WRONG_USAGE, exact="", err=("the name of the output file is empty",)),
     Row(["help", "xlm"], WRONG_USAGE, err=("ravo help: there is no command 'xlm'. Did you mean xml?",)),
     Row(["help", "help"], out=("ravo help xml show",)),
     Row(["--lang", "cs", "table", "5"], NO, err=("ravo table: tabulku 5 nemá žádný modul\n",)),
@@ -287,7 +318,7 @@ ROWS = [
     Row(["check", "--csv", "x"], WRONG_USAGE, err=("--column",)),
     Row(["check", "--csv", "x", "--column", "VS"], WRONG_USAGE, err=("NAME=KIND",)),
     Row(["check", "--csv", "chybí.csv", "--column", "VS=vs"], WRONG_USAGE, err=("chybí.csv", "cannot be read")),
-    Row(["check", "--csv", str(SAMPLES), "--column", "VS=vs"], WRONG_USAGE, exact="", err=("samples: is a folder",)),
+    Row(["check", "--csv", str(SAMPLES), "--column", "VS=vs"], WRONG_USAGE, exact="", err=("samples: cannot be read: it is a folder",)),
     Row(["check", "--csv", SAMPLE, "--column", "Firma=vs"], WRONG_USAGE, exact="",
         err=("ravo check: ", "ledger.csv: there is no column 'Firma'\n  columns, split at ';': Doklad, Datum, Účet MD, ")),
     Row(["check", "--csv", SAMPLE, "--column", "Ucet D=vs"], WRONG_USAGE, exact="", err=("did you mean 'Účet D'?",)),
@@ -330,6 +361,10 @@ ROWS = [
     Row(["round", "1 234,567 Kč", "1\u00a0234,5", "1.234,567", "1,234.567", ".5", "12 Kč", "12,-", "-1\u202f000,005 €"], exact=(
         "1 234,567 Kč\t1 234,57 Kč\n1\u00a0234,5\t1\u00a0234,50\n1.234,567\t1.234,57\n1,234.567\t1,234.57\n"
         ".5\t0.50\n12 Kč\t12,00 Kč\n12,-\t12,00\n-1\u202f000,005 €\t-1\u202f000,01 €\n")),
+    # A dash stands for decimals: what separates before it separates thousands.
+    Row(["round", "12.500,-", "1.234.567,- Kč", "1 234,--"], exact="12.500,-\t12.500,00\n1.234.567,- Kč\t1.234.567,00 Kč\n1 234,--\t1 234,00\n"),
+    Row(["round", "12.5,-", "12,500,-"], WRONG_USAGE, exact="", err=("12.5,-: the digits are not in groups", "12,500,-: the digits are not in groups")),
+    Row(["round", "12.500 EUR", "$1,234"], WRONG_USAGE, exact="", err=("12.500 EUR: three digits", "$1,234: three digits"), czech=("mohou být tisíce",)),
     Row(["round", "1234567,895 Kč", "--notation", "cs"], exact="1234567,895 Kč\t1\u00a0234\u00a0567,90 Kč\n"),
     Row(["round", "1 234,56 Kč", "--notation", "plain"], exact="1 234,56 Kč\t1234.56\n"),
     Row(["round", "1 234,56", "--notation", "en"], exact="1 234,56\t1,234.56\n"),
@@ -356,7 +391,7 @@ ROWS = [
     Row(["round", "1.23456", "1.5"], WRONG_USAGE, exact="1.5\t1.50\n", err=("ravo round: 1.23456: ", "four decimals")),
     Row(["round", "x"], WRONG_USAGE, exact="", err=("ravo round: x: this is no amount",)),
     Row(["round", "12 34", "1.234 Kč", "922337203685477.5808"], WRONG_USAGE, exact="", err=(
-        "12 34: the digits are not in groups of three\n", "1.234 Kč: the point may separate thousands or decimals",
+        "12 34: the digits are not in groups of three\n", "1.234 Kč: three digits after \".\" or \",\" may be thousands or decimals; write 12500",
         "amounts are from -922337203685477.5808 to 922337203685477.5807\n")),
     Row(["round", "x", "--json"], WRONG_USAGE, err=("x",), holds=differs(
         [{"input": "x", "amount": None, "rounded": None, "suite": None, "reason": "not-an-amount"}])),
@@ -367,10 +402,11 @@ ROWS = [
     Row(["round", "1", "--decimals", "15"], WRONG_USAGE),
     Row(["round", "--csv", SAMPLE], WRONG_USAGE),
     Row(["round", "1", "--csv", SAMPLE, "--column", "Částka"], WRONG_USAGE),
-    Row(["round", "--csv", "chybí.csv", "--column", "Částka"], WRONG_USAGE, exact="", err=("ravo round: chybí.csv: cannot be read",)),
+    Row(["round", "--csv", "chybí.csv", "--column", "Částka"], WRONG_USAGE, exact="", err=("ravo round: chybí.csv: cannot be read: there is no such file",)),
     Row(["round", "--csv", SAMPLE, "--column", "Castka"], WRONG_USAGE, exact="",
-        err=("there is no column 'Castka'; the columns, separated by ';', are Doklad, Datum, ",)),
-    Row(["round", "--csv", "-", "--column", "A"], WRONG_USAGE, exact="", err=("there is no first row",)),
+        err=("there is no column 'Castka'; did you mean 'Částka'?\n  columns, split at ';': Doklad, Datum, ",)),
+    Row(["round", "--csv", "-", "--column", "A"], WRONG_USAGE, exact="", err=("ravo round: -: has no first row with column names\n",)),
+    Row(["round", "--csv", SAMPLE, "--column", "Částka", "--encoding", "xx"], WRONG_USAGE, exact="", err=("ravo round: there is no encoding xx; see ravo encodings",)),
     # Dates.
     Row(["date", "--help"], out=("--month", "--year", "--today", "--suite", "Examples:")),
     Row(["date", "2011-01-31", "--month", "1"], out=("date\t2011-02-28\n", "date in SQL\t20110228\n", "first of the month\t2011-02-01\n",
@@ -458,6 +494,7 @@ ROWS = [
         "$ ravo xml get invoice.xml Faktura/Radek/Castka\n1210.00\n", "\nline 3\tÚčet MD\t50\tnot valid\n", "\nVážená paní, účet posíláme.\n"),
         czech=("# Všechny tabulky modulu.\n", "(návratový kód 1)\n", "Více s příklady ukáže `ravo help PŘÍKAZ`.\n")),
     Row(["tour", "--commands"], holds=lambda out: len(set(line.split()[1] for line in out.splitlines())) < 8 and "too few commands"),
+    Row(["tour", "--json"], holds=as_json(lambda all: (len(all) < 10 or all[0]["command"] != "ravo table 71710 100121 72510") and f"{all}")),
     Row(["tour", "there"], WRONG_USAGE, czech=("argument 'there' je navíc",)),
     # Characters and strings.
     Row(["char", "--help"], out=("U+010D", "Examples:")),

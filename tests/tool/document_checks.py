@@ -49,7 +49,7 @@ def xml_rows(name):
         Row(["xml", "set", name, "Faktury/Faktura[4]", "x", "--add"], WRONG_USAGE, exact="", err=("Faktura[4]",)),
         Row(["xml", "set", name, "Faktury/<", "x"], WRONG_USAGE, exact="", err=("is not a path",)),
         Row(["xml", "set", name, "Faktury/Faktura[2]"], WRONG_USAGE, exact="", err=("has no value",)),
-        Row(["xml", "set", name, "Faktury/Faktura[2]", "中"], WRONG_USAGE, exact="", err=("U+4E2D does not exist in Windows_1250", "--references")),
+        Row(["xml", "set", name, "Faktury/Faktura[2]", "中"], WRONG_USAGE, exact="", err=("U+4E2D does not exist in Windows-1250", "--references")),
         Row(["xml", "set", name, "Faktury/Faktura[2]/中", "a", "--add", "--references"], WRONG_USAGE, exact="", err=("a name cannot contain references",)),
         Row(["xml", "set", name, "Faktury/Faktura[2]", "\x01"], WRONG_USAGE, exact="", err=("U+0001 is no character of XML",)),
         Row(["xml", "set", name, "Faktury/Faktura[2]", "a", "faktury/faktura[2]", "b"], WRONG_USAGE, exact="", err=("is set twice",)),
@@ -250,7 +250,7 @@ def check_xml_encodings(program):
         (b"<?xml version='1.0' encoding='utf-7'?><a/>", "documents in UTF-7 cannot be read"),
         (b"\xef\xbb\xbf<?xml version='1.0' encoding='windows-1250'?><a/>", "the declaration says 'windows-1250'"),
         (b"<?xml version='1.0' encoding='utf-16'?><a/>", "the declaration says 'utf-16'"),
-        (b"<a>\n\xc4\x8d\xe8</a>", ":2:2: these bytes are no character of UTF_8"),
+        (b"<a>\n\xc4\x8d\xe8</a>", ":2:2: these bytes are no character of UTF-8"),
         ("<a>\n𝄞".encode("utf-16") + b"\0\xd8", ":2:2: these bytes"),
     ):
         file.write_bytes(content)

@@ -3,7 +3,6 @@
 import json
 import os
 import pathlib
-import subprocess
 import threading
 import zlib
 
@@ -131,10 +130,10 @@ def check_conversions(program):
         if (got := convert(*options, content=content)) != wanted:
             yield f"convert {' '.join(options)}: {got[:300]!r}, not {wanted[:60]!r}"
     refused = [
-        (("-f", "utf-8", "-t", "1250"), "ab\nc\u4e00".encode(), "2:2: U+4E00 cannot be written in Windows_1250"),
+        (("-f", "utf-8", "-t", "1250"), "ab\nc\u4e00".encode(), "2:2: U+4E00 cannot be written in Windows-1250"),
         (("-f", "utf-8", "-t", "1250"), text.encode() + "\u4e00".encode(), "1001:1: U+4E00"),
         (("-f", "utf-8", "-t", "utf-8"), b"a\xff", "1:2: bytes that cannot be read"),
-        (("-f", "utf-16be", "-t", "utf-8"), b"\0a\xdc\0\0b", "1:2: bytes that cannot be read in UTF_16_BE: DC 00"),
+        (("-f", "utf-16be", "-t", "utf-8"), b"\0a\xdc\0\0b", "1:2: bytes that cannot be read in UTF-16, big-endian: DC 00"),
     ]
     for options, content, told in refused:
         got = convert(*options, content=content, status=NO).decode()
@@ -228,16 +227,6 @@ def check_colours(program):
     if len(program.command) > 1 or not hasattr(os, "openpty"):
         return
     for kind, coloured in (("xterm", True), ("dumb", False)):
-        own, terminal = os.openpty()
-        with os.fdopen(own, "rb", buffering=0) as reader:
-            child = subprocess.Popen(program.command + ["tour"], stdin=subprocess.DEVNULL, stdout=terminal, env={**os.environ, "TERM": kind})
-            os.close(terminal)
-            shown = b""
-            try:
-                while piece := reader.read(4096):
-                    shown += piece
-            except OSError:  # the other end of a terminal is gone
-                pass
-            child.wait(timeout=60)
-        if (b"\033[32m$ ravo table" in shown) != coloured or b"Pohled" not in shown:
+        shown = program.shown_on_terminal(["tour"], kind)
+        if ("\033[32m$ ravo table" in shown) != coloured or "Pohled" not in shown:
             yield f"tour on a terminal of kind {kind}: {shown[:200]!r}"

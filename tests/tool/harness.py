@@ -63,6 +63,22 @@ class Program:
                 texts.append(file.read().decode("utf-8"))  # invalid UTF-8 ends the test here
         return Result(done.returncode, texts[0], EMULATOR_FALL.sub("", texts[1]) if self.emulated else texts[1])
 
+    def shown_on_terminal(self, arguments, kind="xterm"):
+        """The bytes of standard output on a terminal of a kind; only where there are such terminals."""
+        own, terminal = os.openpty()
+        with os.fdopen(own, "rb", buffering=0) as reader:
+            child = subprocess.Popen(self.command + arguments, cwd=self.folder, stdin=subprocess.DEVNULL, stdout=terminal,
+                                     stderr=subprocess.DEVNULL, env={**os.environ, "TERM": kind})
+            os.close(terminal)
+            shown = b""
+            try:
+                while piece := reader.read(4096):
+                    shown += piece
+            except OSError:  # the other end of a terminal is gone
+                pass
+            child.wait(timeout=60)
+        return shown.decode().replace("\r\n", "\n")
+
     def failures(self, row):
         result = self.run(row.arguments)
         wrong = []

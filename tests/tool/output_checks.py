@@ -47,7 +47,7 @@ def check_output_names(program):
     result = program.run(["report", "-o", "-"])
     if (result.status, (program.folder / "-").exists()) != (YES, False) or not result.out.startswith("Informace"):
         yield f"report -o -: {result.status}, {result.out[:60]!r}"
-    for name, told in ((".", "is a folder"), ("nowhere/x", "cannot be written: there is no such file"), ("input/x", "cannot be written")):
+    for name, told in ((".", "is a folder"), ("nowhere/x", "cannot be written: its folder does not exist"), ("input/x", "cannot be written")):
         result = run_sort(program, name)
         if result.status != WRONG_USAGE or f"ravo sort: {name}: {told}" not in result.err:
             yield f"sort -o {name}: {result}"

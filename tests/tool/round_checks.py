@@ -167,8 +167,23 @@ def check_rounded_columns(program):
     if got != b'a,b\n"1,234.50",x\n':
         yield f"round --csv puts a delimiter into a field: {got!r}"
     got, result = run("same.csv", b"a;a\n1;2\n", "--column", "a")
-    if (got, result.status) != (b"", WRONG_USAGE) or "several columns" not in result.err:
+    if (got, result.status) != (b"", WRONG_USAGE) or "columns 1, 2 are all named 'a'" not in result.err:
         yield f"round --csv with two columns of a name: {got!r}, {result}"
+    # Tables are read as `ravo check` reads them: delimiter, encoding, names and closing quotes.
+    shaped = "text;částka, celkem\nKrálíček, v.o.s.;1,005\nŽluťoučký kůň, příliš;2,345\n"
+    for encoding in ("utf-8", "cp1250", "iso8859-2", "cp852"):
+        got, result = run("shaped.csv", shaped.encode(encoding), "--column", "ČÁSTKA, celkem")
+        if got != shaped.replace("1,005", "1,01").replace("2,345", "2,35").encode(encoding) or result.err:
+            yield f"round --csv in {encoding}: {got!r}, {result}"
+    got, result = run("koi.csv", "с;х\n1,005;ж\n".encode("koi8-r"), "--column", "с", "--encoding", "koi8-r")
+    if got != "с;х\n1,01;ж\n".encode("koi8-r"):
+        yield f"round --csv --encoding: {got!r}, {result}"
+    got, result = run("wide.csv", "a;b\n1,005;2\n".encode("utf-16"), "--column", "a")
+    if got != b"" or result.status != WRONG_USAGE or "convert it first" not in result.err:
+        yield f"round --csv of UTF-16: {got!r}, {result}"
+    got, result = run("likely.csv", b"a,b c;d\n1.005;2\n1.5;3\n", "--column", "a,b c")
+    if got != b"a,b c;d\n1.01;2\n1.50;3\n":
+        yield f"round --csv with a comma in a name: {got!r}, {result}"
     many = b"a\n" + b"x\n" * 50
     got, result = run("many.csv", many, "--column", "1")
     if got != many or result.err.count("\n") != 21 or "30 more messages left out" not in result.err:

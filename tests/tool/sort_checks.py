@@ -31,6 +31,10 @@ def check_sorted_files(program):
         (["-k", "2", "-k", "1", "blanks"], "c\t0\n  b  1\na 2\n"),
         (["-t", "x", "-k", "2", "names"], NAMES),
         (["-u", "-t", "x", "-k", "2", "names"], "žába\n"),
+        (["--header", "-r", "names"], "žába\n" + "".join(reversed(SORTED_NAMES.replace("žába\n", "").splitlines(keepends=True)))),
+        (["--header", "-u", "other", "empty", "-"], "cop\nčep\n"),
+        (["--header", "empty"], ""),
+        (["--header", "-t", ";", "-k", "1", "amounts"], "x;1 234,50\nw;\ny;-3\nz;12,5\n"),
         (["other", "empty", "-"], "cop\ncop\nčep\nčep\n"),
         (["--suite", "names"], "10\n9\nCihla\nDálka\na b\nab\nchata\ncihla\nhrad\nrak\nčáp\nřeka\nžába\n"),
         (["--suite", "-r", "numbers"], "b9\nb9\nb10\nb010\na2\n"),
@@ -45,9 +49,17 @@ def check_sorted_files(program):
     told = program.run(["sort", "names"]).err
     if told != "ravo sort: the order of the suite differs from line 4 on; --suite shows it\n":
         yield f"sort of names: {told!r} about the order of the suite"
-    for words in (["-k", "0", "names"], ["-t", ";", "names"], ["--suite", "-n", "names"], ["--encoding", "abc", "names"], ["-o", "", "names"]):
+    for words in (["-k", "0", "names"], ["-t", ";", "names"], ["--suite", "-n", "names"], ["--encoding", "abc", "names"], ["-o", "", "names"],
+                  ["--suite", "--header", "names"]):
         if program.run(["sort", *words]).status != WRONG_USAGE:
             yield f"sort {words}: no failure"
+    different = program.run(["sort", "--header", "names", "other"])
+    if (different.status, different.out) != (WRONG_USAGE, "") or "other: its first line is not that of the first file" not in different.err:
+        yield f"sort --header of files that begin with different lines: {different}"
+    (program.folder / "names").write_bytes("názvy\nb\nč\na\nd\n".encode())
+    below = program.run(["sort", "--header", "names"])
+    if below.out != "názvy\na\nb\nč\nd\n" or "differs from line 5 on" not in below.err:
+        yield f"sort --header: {below}"
     for name in files:
         (program.folder / name).unlink()
 
@@ -106,7 +118,7 @@ def check_sorted_encodings(program):
     refused: list[tuple[list[str], bytes, str]] = [
         ([], b"ab\n\xff", "lines:2:1: this byte is not UTF-8"),
         ([], "ab\nčc".encode() + b"\xe8\n", "lines:2:3: this byte is not UTF-8"),
-        (["--encoding", "utf-16le"], b"a\0\n\0\x00\xd8", "lines: byte 5 cannot be read as UTF_16_LE"),
+        (["--encoding", "utf-16le"], b"a\0\n\0\x00\xd8", "lines: byte 5 cannot be read as UTF-16, little-endian"),
     ]
     for options, content, told in refused:
         file.write_bytes(content)

@@ -30,8 +30,8 @@ DAMAGED = [
     (b"VS|Castka\n1|1,00\n1|2,00\n", NO, ("line 2\tVS\t1\tnot valid\n",), "delimiter '|'"),
     (b"a,b\tVS\n1,5\t1\n2;3\t1\n", NO, ("line 2\tVS\t1\tnot valid\nline 3\tVS\t1\tnot valid\n",), "delimiter tab"),
     # Nothing of a value steers a terminal or breaks the line.
-    (b'VS\n"1\t\n\x1b[31m"\n', NO, ("line 2\tVS\t1\\t\\n\\u001B[31m\tnot valid\n",), ";"),
-    ("VS\n\u0085č\n".encode(), NO, ("line 2\tVS\t\\u0085č\tnot valid\n",), "UTF-8"),
+    (b'VS\n"1\t\n\x1b[31m"\n', NO, ("line 2\tVS\t1␉␊␛[31m\tnot valid\n",), ";"),
+    ("VS\n\u0085č\n".encode(), NO, ("line 2\tVS\t<U+0085>č\tnot valid\n",), "UTF-8"),
     ("VS\nč\n".encode("cp1250"), NO, ("line 2\tVS\tč\tnot valid\n",), "Windows-1250"),
     ("\ufeffVS\n1\n".encode(), NO, ("line 2\tVS\t1\tnot valid\n",), "UTF-8"),
     (b"VS\n0\n", YES, ("one row, with findings: 0\nVS\tvs\t1\tvalid\n",), "UTF-8"),
@@ -224,29 +224,13 @@ def check_large_tables(program):
     file.unlink()
 
 
-def shown_on_terminal(program, arguments):
-    own, terminal = os.openpty()
-    with os.fdopen(own, "rb", buffering=0) as reader:
-        child = subprocess.Popen(program.command + arguments, cwd=program.folder, stdin=subprocess.DEVNULL, stdout=terminal,
-                                 stderr=subprocess.DEVNULL)
-        os.close(terminal)
-        shown = b""
-        try:
-            while piece := reader.read(4096):
-                shown += piece
-        except OSError:  # the other end of a terminal is gone
-            pass
-        child.wait(timeout=60)
-    return shown.decode().replace("\r\n", "\n")
-
-
 def check_terminal_tables(program):
     """On a terminal, fields stand in columns."""
     if program.emulated or not hasattr(os, "openpty"):
         return
     file = pathlib.Path(program.folder) / "sloupce.csv"
     file.write_bytes("Účet;VS\n50;1\n311;123456\n".encode())
-    shown = shown_on_terminal(program, ["check", "--suite", "--csv", file.name, "--column", "Účet=ucet", "--column", "VS=vs"])
+    shown = program.shown_on_terminal(["check", "--suite", "--csv", file.name, "--column", "Účet=ucet", "--column", "VS=vs"])
     wanted = ("line 2  Účet  50      not valid\nline 2  VS    1       not valid\nline 3  VS    123456  not valid\n"
               "2 rows, with findings: 2\nÚčet  ucet  1  valid\nÚčet  ucet  1  not valid\nVS    vs    0  valid\nVS    vs    2  not valid\n")
     if shown != wanted:

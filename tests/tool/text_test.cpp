@@ -104,6 +104,8 @@ TEST(Language, EnvironmentByRules) {
 TEST(Printable, ControlCharacters) {
   EXPECT_EQ(tool::Printable("a\tb\nc\r\nd"), "a\tb\nc\r\nd");
   EXPECT_EQ(tool::Printable("\x1b[2J\x07\x7f"), "␛[2J␇␡");
+  EXPECT_EQ(tool::OnOneLine("a\tb\r\nc\x1b\n"), "a␉b␍␊c␛␊");
+  EXPECT_EQ(tool::OnOneLine("\xC2\x85č\xE2\x80\xAE"), "<U+0085>č<U+202E>");
   EXPECT_EQ(tool::Printable("a\rb"), "a␍b");
   EXPECT_EQ(tool::Printable(std::string_view("\0", 1)), "␀");
   EXPECT_EQ(tool::Printable("\xC2\x9B"
@@ -131,6 +133,8 @@ TEST(Nearest, WordsThatAreMeant) {
   for (const auto& [word, wanted] : rows) EXPECT_EQ(tool::Nearest(word, words), wanted) << word;
   EXPECT_EQ(tool::DidYouMean("tabel", words), "Did you mean table?");
   EXPECT_EQ(tool::DidYouMean("nonsense", words), "");
+  EXPECT_EQ(tool::Nearest("c", {"a", "b"}), "");
+  EXPECT_EQ(tool::Nearest("VZ", {"VS", "KS"}), "VS");
   EXPECT_EQ(tool::Nearest(std::string(100'000, 'a'), words), "");
 }
 

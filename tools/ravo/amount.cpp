@@ -29,16 +29,20 @@ bool IsCode(std::string_view text) {
   return text.size() == 3 && std::ranges::all_of(text, [](char c) { return c >= 'A' && c <= 'Z'; });
 }
 
-// Whether a text is nothing but blanks and at most one currency.
-bool IsUnit(std::string_view text) {
-  std::string without_blanks;
+std::string WithoutBlanks(std::string_view text) {
+  std::string without;
   while (!text.empty()) {
     const std::string_view blank = LeadingOf(text, kBlanks);
-    if (blank.empty()) without_blanks += text.front();
+    if (blank.empty()) without += text.front();
     text.remove_prefix(std::max<std::size_t>(blank.size(), 1));
   }
-  return without_blanks.empty() || IsCode(without_blanks) ||
-         std::ranges::find(kCurrencies, without_blanks) != kCurrencies.end();
+  return without;
+}
+
+// Whether a text is nothing but blanks and at most one currency.
+bool IsUnit(std::string_view text) {
+  const std::string unit = WithoutBlanks(text);
+  return unit.empty() || IsCode(unit) || std::ranges::find(kCurrencies, unit) != kCurrencies.end();
 }
 
 bool IsCrowns(std::string_view unit) {
@@ -51,7 +55,7 @@ bool IsCrowns(std::string_view unit) {
 struct AmountParts {
   Notation notation;
   bool is_negative = false;
-  bool has_dash = false;
+  bool has_dash = false;  // ",-" in place of decimals
   std::string_view body;
 };
 
@@ -63,7 +67,7 @@ void TakeSign(std::string_view& text, AmountParts& parts) {
   if (parts.is_negative || text.starts_with('+')) text.remove_prefix(1);
 }
 
-// Takes the dash of "12,-", which has no decimals.
+// Takes the dash of "12,-".
 void TakeDash(std::string_view& after, AmountParts& parts) {
   const std::string_view dash = after.starts_with(',') ? LeadingOf(after.substr(1), kDashes) : "";
   parts.has_dash = !dash.empty();
@@ -106,6 +110,15 @@ std::optional<AmountPieces> SplitDigits(std::string_view body) {
   }
 }
 
+// The pieces of an amount; a dash stands for decimals, so that what separates before it separates groups.
+std::optional<AmountPieces> PiecesOf(const AmountParts& parts) {
+  std::optional<AmountPieces> pieces = SplitDigits(parts.body);
+  if (!pieces || !parts.has_dash) return pieces;
+  pieces->digits.emplace_back();
+  pieces->separators.emplace_back(",");
+  return pieces;
+}
+
 bool IsDecimalPoint(std::string_view separator) { return separator == "." || separator == ","; }
 
 // The last separator is the decimal one unless it is a blank or one of several of its kind.
@@ -117,22 +130,28 @@ bool HasDecimals(const AmountPieces& pieces) {
 bool AreGroups(std::span<const std::string_view> digits, std::span<const std::string_view> separators) {
   if (separators.empty()) return true;
   const bool same = std::ranges::all_of(separators, [&](auto each) { return each == separators.front(); });
-  return same && !digits.front().empty() && digits.front().size() <= 3 &&
+  return same && !digits.front().empty() && digits.front().size() <= 3 && digits.front() != "0" &&
          std::ranges::all_of(digits.subspan(1), [](auto group) { return group.size() == 3; });
 }
 
-char DecimalOf(const AmountPieces& pieces, const AmountParts& parts, bool has_decimals) {
-  const Notation& notation = parts.notation;
+char DecimalOf(const AmountPieces& pieces, const Notation& notation, bool has_decimals) {
   if (has_decimals) return pieces.separators.back().front();
-  if (parts.has_dash) return ',';
   if (!notation.group.empty()) return notation.group == "," ? '.' : ',';
   return IsCrowns(notation.before) || IsCrowns(notation.after) ? ',' : '.';
 }
 
+bool HasUnit(const Notation& notation) {
+  return !WithoutBlanks(notation.before).empty() || !WithoutBlanks(notation.after).empty();
+}
+
+// Amounts of money have two decimals, so three digits look like a group of thousands. A comma before crowns
+// is a decimal one all the same: nobody who writes crowns separates thousands by it.
 bool IsAmbiguous(const AmountPieces& pieces, const Notation& notation) {
-  return pieces.separators.size() == 1 && pieces.separators.front() == "." && pieces.digits[1].size() == 3 &&
-         !pieces.digits[0].empty() && pieces.digits[0].size() <= 3 && pieces.digits[0] != "0" &&
-         (IsCrowns(notation.before) || IsCrowns(notation.after));
+  if (pieces.separators.size() != 1 || !IsDecimalPoint(pieces.separators.front())) return false;
+  const std::string_view whole = pieces.digits[0];
+  const bool is_group = pieces.digits[1].size() == 3 && !whole.empty() && whole.size() <= 3 && whole != "0";
+  const bool is_crowns = IsCrowns(notation.before) || IsCrowns(notation.after);
+  return is_group && HasUnit(notation) && (pieces.separators.front() == "." || !is_crowns);
 }
 
 std::string_view WithoutTrailingZeros(std::string_view digits) {
@@ -152,7 +171,7 @@ std::variant<Amount, AmountFault> AmountOf(AmountParts parts, std::string digits
 
 std::variant<Amount, AmountFault> ReadAmount(std::string_view utf8) {
   std::optional<AmountParts> parts = SplitAmount(utf8);
-  const std::optional<AmountPieces> pieces = parts ? SplitDigits(parts->body) : std::nullopt;
+  const std::optional<AmountPieces> pieces = parts ? PiecesOf(*parts) : std::nullopt;
   if (!pieces) return AmountFault::NotAnAmount;
   const bool has_decimals = HasDecimals(*pieces);
   const std::span digits(pieces->digits);
@@ -163,7 +182,7 @@ std::variant<Amount, AmountFault> ReadAmount(std::string_view utf8) {
   if (decimals.size() > kMostDecimals) return AmountFault::Decimals;
   if (IsAmbiguous(*pieces, parts->notation)) return AmountFault::Ambiguous;
   if (!separators.empty()) parts->notation.group = separators.front();
-  parts->notation.decimal = DecimalOf(*pieces, *parts, has_decimals);
+  parts->notation.decimal = DecimalOf(*pieces, parts->notation, has_decimals);
   std::string all;
   for (const std::string_view group : whole) all += group;
   return AmountOf(std::move(*parts), all.append(decimals).append(kMostDecimals - decimals.size(), '0'));
@@ -173,6 +192,16 @@ std::optional<ravo::Currency> ParseAmount(std::string_view utf8) {
   const auto read = ReadAmount(utf8);
   const Amount* const amount = std::get_if<Amount>(&read);
   return amount ? std::optional(amount->value) : std::nullopt;
+}
+
+Notation NotationAsked(const Notation& input, std::string_view name) {
+  if (name == "plain") return {};
+  Notation notation = input;
+  if (name == "input") return notation;
+  const bool is_czech = name == "cs";
+  notation.group = is_czech ? "\u00A0" : ",";
+  notation.decimal = is_czech ? ',' : '.';
+  return notation;
 }
 
 std::string AmountText(ravo::Currency amount, const Notation& notation) {

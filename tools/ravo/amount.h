@@ -24,7 +24,7 @@ enum class AmountFault : std::uint8_t {
   NotAnAmount,
   Groups,     ///< digits that are not in groups of three, or groups of two kinds
   Decimals,   ///< more than four decimals
-  Ambiguous,  ///< a point and three digits before "Kč": thousands or decimals
+  Ambiguous,  ///< with a currency, three digits after the only point or comma: thousands or decimals
   Range,      ///< outside 64 bits
 };
 
@@ -36,12 +36,16 @@ struct Amount {
 /// Returns the amount that a UTF-8 text is as a whole, as people write it: "1234.56", "1 234,56 Kč",
 /// "1.234,56", "€ .5", "-12,-".
 ///
-/// A single point or comma separates decimals; several of one kind, and the first kind of two, separate
-/// groups of three digits, as blanks do (also no-break, narrow and thin ones).
+/// A single point or comma separates decimals; several of one kind, the first kind of two, and a point in
+/// "12.500,-" separate groups of three digits, as blanks do (also no-break, narrow and thin ones).
 [[nodiscard]] std::variant<Amount, AmountFault> ReadAmount(std::string_view utf8);
 
 /// Returns the value of such a text, or nothing.
 [[nodiscard]] std::optional<ravo::Currency> ParseAmount(std::string_view utf8);
+
+/// Returns the notation of an answer to an amount: that of the amount for "input", without groups and
+/// currency for "plain", with the separators of Czech or English for "cs" and "en".
+[[nodiscard]] Notation NotationAsked(const Notation& input, std::string_view name);
 
 /// Returns an amount with at least two and at most four decimals.
 [[nodiscard]] std::string AmountText(ravo::Currency amount, const Notation& notation = {});

@@ -7,7 +7,7 @@
 #include "json_text.h"
 #include "kind_lines.h"
 #include "nearest.h"
-#include "table_text.h"
+#include "program_values.h"
 #include "text.h"
 #include "value_reasons.h"
 #include <ravo/RavoInterface.h>
@@ -116,19 +116,6 @@ void CheckValues(const CheckOptions& options, Outcome& outcome) {
   CheckCzechValues(check, outcome);
 }
 
-// Throws `CLI::ValidationError` for an encoding that no table can have.
-const ravo::DIUnicode::EncodingRow* EncodingOf(const std::string& name) {
-  if (name.empty()) return nullptr;
-  const ravo::DIUnicode::EncodingRow* const row = ravo::DIUnicode::FindEncoding(name);
-  if (row == nullptr)
-    throw CLI::ValidationError(Text("there is no encoding {0}; see ravo encodings", {name}));
-  if (!TableText::CanRead(*row)) {
-    throw CLI::ValidationError(
-        Text("tables in {0} cannot be read; convert them first: ravo convert", {name}));
-  }
-  return row;
-}
-
 std::string CheckOutputName(const std::string& name) {
   if (name.empty()) return Text("the name of the output file is empty");
   return name == "-" ? Text("standard output has the findings; name a file") : std::string();
@@ -138,9 +125,8 @@ TableJob JobOf(const CheckOptions& options) {
   TableJob job;
   job.files = options.files;
   for (const std::string& column : options.columns) job.columns.push_back(ColumnOf(column, options.suite));
-  if (!options.delimiter.empty())
-    job.delimiter = options.delimiter == "tab" ? '\t' : options.delimiter.front();
-  job.encoding = EncodingOf(options.encoding);
+  job.delimiter = DelimiterOf(options.delimiter);
+  job.encoding = TableEncodingOf(options.encoding);
   job.allow_empty = options.allow_empty;
   job.json = options.json;
   job.limit = options.limit;
@@ -186,17 +172,12 @@ void AddOutput(CLI::App& command, std::string& name, CLI::Option* file, const ch
 }
 
 void AddTableOptions(CLI::App& command, CheckOptions& options, CLI::Option* file) {
-  command
-      .add_option("--delimiter", options.delimiter, Text("The delimiter between fields; detected by default"))
-      ->type_name(Text("CHAR"))
-      ->check(CLI::IsMember({";", ",", "\t", "tab", "|"}))
-      ->needs(file);
-  command.add_option("--encoding", options.encoding, Text("The encoding of the tables; detected by default"))
-      ->needs(file);
+  AddDelimiterOption(command, options.delimiter)->needs(file);
+  AddTableEncodingOption(command, options.encoding)->needs(file);
   command.add_flag("--allow-empty", options.allow_empty, Text("Skip empty fields"))->needs(file);
   command.add_option("--limit", options.limit, Text("Write no more findings than this"))
       ->type_name("N")
-      ->check(CLI::NonNegativeNumber)
+      ->check(AtLeast(0))
       ->needs(file);
   AddOutput(command, options.rejects, file, "--rejects", Text("Write the rows with findings to this file"));
   AddOutput(command, options.clean, file, "--clean",
@@ -205,7 +186,7 @@ void AddTableOptions(CLI::App& command, CheckOptions& options, CLI::Option* file
       .add_option("--threads", options.threads,
                   Text("Use so many threads; by default one for each processor"))
       ->type_name("N")
-      ->check(CLI::NonNegativeNumber)
+      ->check(AtLeast(0))
       ->needs(file);
 }
 
@@ -217,7 +198,9 @@ void AddRuleOptions(CLI::App& command, CheckOptions& options) {
       "--list", options.czech.list,
       Text("Look banks up in this list, a file of the central bank's CSV form, or built-in"));
   list->type_name(Text("FILE"));
-  command.add_option("--list-date", options.czech.list_date, Text("The day of the list; today by default"))
+  command
+      .add_option("--list-date", options.czech.list_date,
+                  Text("The day of a list in a file; today by default"))
       ->type_name(Text("DATE"))
       ->check(CLI::Validator(CheckDay, ""))
       ->needs(list);

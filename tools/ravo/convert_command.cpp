@@ -1,6 +1,8 @@
 #include "commands.h"
 #include "console.h"
 #include "convert_file.h"
+#include "encoding_label.h"
+#include "file_reason.h"
 #include "nearest.h"
 #include "progress.h"
 #include "spelling.h"
@@ -141,7 +143,7 @@ Conversion ConversionOf(const ConvertOptions& options) {
 
 std::size_t ReadBytes(std::ifstream& file, std::span<std::uint8_t> to) {
   file.read(reinterpret_cast<char*>(to.data()), static_cast<std::streamsize>(to.size()));
-  if (file.bad()) throw ConvertRefused{Text("cannot be read")};
+  if (file.bad()) throw ConvertRefused{Text("cannot be read to its end")};
   return static_cast<std::size_t>(file.gcount());
 }
 
@@ -150,13 +152,9 @@ ByteSource OpenSource(const std::string& name) {
     return {[](std::span<std::uint8_t> to) { return ReadInput(std::as_writable_bytes(to)); }, 0};
   const std::filesystem::path path = PathOf(name);
   std::error_code error;
-  if (std::filesystem::is_directory(path, error))
-    throw ConvertRefused{Text("cannot be read: it is a folder")};
   const auto file = std::make_shared<std::ifstream>(path, std::ios::binary);
-  if (!*file)
-    throw ConvertRefused{std::filesystem::exists(path, error)
-                             ? Text("cannot be read")
-                             : Text("cannot be read: there is no such file")};
+  if (!*file || std::filesystem::is_directory(path, error))
+    throw ConvertRefused{Text("cannot be read: {0}", {WhyUnreadable(name)})};
   const auto size = std::filesystem::file_size(path, error);
   return {[file](std::span<std::uint8_t> to) { return ReadBytes(*file, to); },
           error ? 0 : static_cast<std::int64_t>(size)};
@@ -182,12 +180,14 @@ std::string HexOf(const std::string& bytes) {
 std::string DescribedEnd(const ConversionEnd& end, const Conversion& conversion) {
   switch (end.fault.kind) {
     case Fault::Kind::Lacking:
-      return Text("{0} cannot be written in {1}", {CodePointText(end.fault.code), conversion.to->name});
+      return Text("{0} cannot be written in {1}",
+                  {CodePointText(end.fault.code), ShortLabel(conversion.to->label)});
     case Fault::Kind::CutShort:
       return Text("the text ends inside a character of {0} (bytes: {1})",
-                  {end.from->name, HexOf(end.fault.bytes)});
+                  {ShortLabel(end.from->label), HexOf(end.fault.bytes)});
     default:
-      return Text("bytes that cannot be read in {0}: {1}", {end.from->name, HexOf(end.fault.bytes)});
+      return Text("bytes that cannot be read in {0}: {1}",
+                  {ShortLabel(end.from->label), HexOf(end.fault.bytes)});
   }
 }
 
@@ -206,7 +206,7 @@ void ConvertFile(FileConverter& converter, const ConvertOptions& options, const 
   throw ConvertRefused{name + ":" + (refused.answer == Answer::No ? "" : " ") + refused.message,
                        refused.answer};
 } catch (const std::runtime_error&) {
-  throw ConvertRefused{name + ": " + Text("cannot be read")};
+  throw ConvertRefused{name + ": " + Text("cannot be read to its end")};
 }
 
 // Several threads help as long as one of them writes.
@@ -270,17 +270,25 @@ constexpr const char* kConvertFooter = ToTranslate(
 void AddConvertCommand(CLI::App& program, Outcome& outcome) {
   CLI::App* command = program.add_subcommand("convert", Text("Converts texts from one encoding to another"));
   const auto options = std::make_shared<ConvertOptions>();
-  command->add_option("-f,--from", options->from,
-                      Text("The encoding of the files; without it, or with auto, found out"));
-  command->add_option("-t,--to", options->to, Text("The encoding of the output"))->required();
+  command
+      ->add_option("-f,--from", options->from,
+                   Text("The encoding of the files; without it, or with auto, found out"))
+      ->type_name(Text("ENCODING"));
+  command->add_option("-t,--to", options->to, Text("The encoding of the output"))
+      ->type_name(Text("ENCODING"))
+      ->required();
   command->add_option(Text("FILE"), options->files, Text("The files; none, or -, is standard input"));
-  command->add_option("-o,--output", options->output,
-                      Text("The file to write; else, or with -, standard output"));
+  command
+      ->add_option("-o,--output", options->output,
+                   Text("The file to write; else, or with -, standard output"))
+      ->type_name(Text("FILE"));
   command->add_flag("--translit", options->translit,
                     Text("Spell characters that the output lacks with others"));
-  command->add_option(
-      "--replace", options->replacement,
-      Text("The character to write for those that cannot be; without it they end the conversion"));
+  command
+      ->add_option(
+          "--replace", options->replacement,
+          Text("The character to write for those that cannot be; without it they end the conversion"))
+      ->type_name(Text("CHAR"));
   command->footer(Text(kConvertFooter));
   command->callback([options, &outcome] { Run(*options, outcome); });
 }

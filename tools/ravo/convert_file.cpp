@@ -107,7 +107,7 @@ void FileConverter::ConvertInOrder(ByteSource& source, const Progress& progress)
 void FileConverter::ConvertOnThreads(ByteSource& source, const Progress& progress) {
   Blocks blocks(source, *conversion_.from);
   const auto transform = [this] {
-    return [converter = TextConverter(conversion_)](Block& block) mutable {
+    return [converter = TextConverter(conversion_)](Block& block, const auto& /*write_early*/) mutable {
       converter.Convert(codec::ByteSpan(block.bytes).first(block.size), block.following, block.converted);
     };
   };

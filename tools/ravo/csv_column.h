@@ -1,5 +1,7 @@
 #pragma once
 
+#include <ravo/DIUnicode.h>
+
 #include <cstddef>
 #include <functional>
 #include <optional>
@@ -10,16 +12,17 @@ namespace tool {
 
 /// A column of a table whose first row has the column names.
 struct CsvColumn {
-  std::string name;       ///< the name in UTF-8, or a 1-based number if no column has that name
-  char delimiter = '\0';  ///< detected if 0
+  std::string name;                                        ///< in UTF-8, as `FindColumn` finds it
+  char delimiter = '\0';                                   ///< detected if 0
+  const ravo::DIUnicode::EncodingRow* encoding = nullptr;  ///< found out if null
 };
 
 /// Returns a table with the fields of one column changed and all other bytes as they are.
 ///
-/// `table` is UTF-8 or Windows-1250. `change` gets the 1-based line and the value of each field but the
-/// first row's, in UTF-8; the field stays as it is without a new value. `missing` gets the line of each row
-/// that has no such field. Throws `std::runtime_error`, whose message is for people, if there is no such
-/// column or several have its name.
+/// Rows and fields are those of `RowScanner`. `change` gets the 1-based line and the value of each field but
+/// the first row's, in UTF-8; the field stays as it is without a new value. `missing` gets the line of each
+/// row that has no such field. Throws `std::runtime_error`, whose message is for people, if there is no such
+/// column, if several have its name, and for a table in an encoding that tables cannot have.
 [[nodiscard]] std::string ChangeCsvColumn(
     std::string_view table, const CsvColumn& column,
     const std::function<std::optional<std::string>(std::size_t line, const std::string& value)>& change,

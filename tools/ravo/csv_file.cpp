@@ -1,6 +1,7 @@
 #include "csv_file.h"
 
 #include "console.h"
+#include "file_reason.h"
 #include "foreign_text.h"
 #include "reasons.h"
 #include "table_columns.h"
@@ -32,7 +33,9 @@ CsvFile::CsvFile(const std::string& name, const std::string& doing, char delimit
       file_(PathOf(name), std::ios::binary),
       reader_([this](std::span<char> to) { return ReadSome(to); }, delimiter),
       progress_(doing + " " + name, SizeOf(name)) {
-  if (!file_ && !is_input_) throw std::runtime_error(Text("cannot be read"));
+  std::error_code error;
+  if (!is_input_ && (!file_ || std::filesystem::is_directory(PathOf(name), error)))
+    throw std::runtime_error(Text("cannot be read: {0}", {WhyUnreadable(name)}));
   if (!reader_.Next(fields_)) throw std::runtime_error(Text("has no first row with column names"));
   for (const std::string_view field : fields_) columns_.push_back(ForeignText(field));
 }

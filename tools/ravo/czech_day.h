@@ -2,19 +2,18 @@
 
 #include <ravo/czech/day.h>
 
-#include <optional>
 #include <string>
-#include <string_view>
 
 namespace tool {
 
-/// Returns the day that a text means: "2026-11-21", "21.11.2026", "21. 11. 2026", "today" or "dnes".
-[[nodiscard]] std::optional<ravo::czech::Day> ParseDay(std::string_view text);
+/// Returns today by the local clock.
+[[nodiscard]] ravo::czech::Day Today();
 
-/// Returns why a text is no day, for the parser of the command line; empty if it is one.
+/// Returns why a text is no day, for the parser of the command line; empty if it is one. Days are written as
+/// `ReadDate` reads them; a time of day does not count.
 [[nodiscard]] std::string CheckDay(const std::string& text);
 
-/// Returns the day of a text that `CheckDay` accepted; of an empty one, today by the local clock.
+/// Returns the day of a text that `CheckDay` accepted; of an empty one, today.
 [[nodiscard]] ravo::czech::Day DayOrToday(const std::string& text);
 
 /// Returns "2026-11-21".

@@ -43,6 +43,10 @@ constexpr CheckKind kCzechTitles[] = {
 #undef RAVO_KIND
 };
 
+// Accounts under the name that the suite has for them, so that answers have the name that was asked for.
+constexpr std::string_view kSuiteAccount = "banka";
+constexpr CheckKind kCzechBanka{kSuiteAccount, "", CheckForm<czech::Kind::Account>};
+
 // What each kind's form is, and what it does not tell.
 struct KindRule {
   czech::Kind kind;
@@ -53,8 +57,9 @@ constexpr KindRule kKindRules[] = {
      ToTranslate("Eight digits, the last one a check digit modulo 11 (law 111/2009). Whether the number was "
                  "assigned is not known.")},
     {czech::Kind::Dic,
-     ToTranslate("CZ and eight, nine or ten digits: company, birth number, or a number of its own (law "
-                 "280/2009, section 130). Whether its holder pays VAT is not known.")},
+     ToTranslate(
+         "CZ and eight, nine or ten digits: company number, birth number, or a number of its own (law "
+         "280/2009, section 130). Whether its holder pays VAT is not known.")},
     {czech::Kind::VatNumber,
      ToTranslate("Length and characters of the 27 countries of the Union (VIES). Check digits of "
                  "other countries are not looked at.")},
@@ -83,12 +88,12 @@ constexpr KindRule kKindRules[] = {
 };
 
 czech::Kind KindNamed(std::string_view name) {
-  return name == "banka" ? czech::Kind::Account : czech::KindOf(name).value_or(czech::Kind::Ico);
+  return name == kSuiteAccount ? czech::Kind::Account : czech::KindOf(name).value_or(czech::Kind::Ico);
 }
 
 // The kind of the suite that checks the same values, or null.
 const CheckKind* SuiteKind(czech::Kind kind) {
-  return FindCheckKind(kind == czech::Kind::Account ? "banka" : czech::KindText(kind));
+  return FindCheckKind(kind == czech::Kind::Account ? kSuiteAccount : czech::KindText(kind));
 }
 
 // A list of banks with the memory that it refers to.
@@ -107,11 +112,13 @@ std::string ListFault(const OwnedBanks& banks, const czech::Parsed<std::size_t>&
 // Fills in the list. Returns an empty text, or why it cannot be read.
 std::string ReadBanks(const CzechCheck& check, OwnedBanks& banks) {
   if (check.list == kBuiltIn) {
+    if (!check.list_date.empty()) return Text("this list has a day of its own; leave out --list-date");
     banks.list = czech::BuiltInBanks();
     return {};
   }
-  std::optional<std::string> text = ReadWhole(check.list);
-  if (!text) return Text("cannot be read");
+  std::string reason;
+  std::optional<std::string> text = ReadWhole(check.list, &reason);
+  if (!text) return reason;
   banks.text = std::move(*text);
   banks.banks.resize(kMostBanks);
   const auto read = czech::ReadBankList(banks.text, banks.banks);
@@ -239,10 +246,10 @@ std::string CzechFindingText(czech::Kind kind, const std::string& value, const C
   return text;
 }
 
-Json CzechFindingJson(czech::Kind kind, const std::string& value, const CzechFinding& finding) {
+Json CzechFindingJson(const std::string& kind, const std::string& value, const CzechFinding& finding) {
   const bool is_valid = finding.code == czech::Code::Correct;
   Json json{{"value", value},
-            {"kind", czech::KindText(kind)},
+            {"kind", kind},
             {"valid", is_valid},
             {"reason", is_valid ? Json() : Json(czech::CodeText(finding.code))},
             {"position", finding.position > 0 ? Json(finding.position) : Json()},
@@ -262,8 +269,8 @@ std::span<const CheckKind> CzechKinds() {
 }
 
 const CheckKind* FindCzechKind(std::string_view name) {
-  const std::string_view own = name == "banka" ? "account" : name;
-  const auto* const found = std::ranges::find(kCzechKinds, own, &CheckKind::name);
+  if (name == kSuiteAccount) return &kCzechBanka;
+  const auto* const found = std::ranges::find(kCzechKinds, name, &CheckKind::name);
   return found == std::end(kCzechKinds) ? nullptr : found;
 }
 
@@ -281,7 +288,7 @@ void CheckCzechValues(const CzechCheck& check, Outcome& outcome) {
     const CzechFinding finding = Examine(kind, value, check, check.list.empty() ? nullptr : &banks.list);
     if (finding.code != czech::Code::Correct) outcome.answer = Answer::No;
     outcome.out += CzechFindingText(kind, value, finding, check.explain);
-    answers.push_back(CzechFindingJson(kind, value, finding));
+    answers.push_back(CzechFindingJson(check.kind, value, finding));
   }
   if (check.json) outcome.out = JsonText(answers);
 }

@@ -1,4 +1,5 @@
 #include "commands.h"
+#include "czech_day.h"
 #include "date_input.h"
 #include "date_steps.h"
 #include "json_text.h"
@@ -7,6 +8,7 @@
 #include "text.h"
 #include <ravo/DIUtils.h>
 #include <ravo/RavoInterface.h>
+#include <ravo/czech/holidays.h>
 
 #include <algorithm>
 #include <memory>
@@ -19,6 +21,7 @@ namespace tool {
 namespace {
 
 namespace common = ravo::RavoInterfaceCommon;
+namespace czech = ravo::czech;
 namespace utils = ravo::DIUtils;
 
 struct DateOptions {
@@ -188,7 +191,7 @@ std::optional<DateAnswer> SuiteAnswer(const DateInput& input) {
 
 void Describe(const DateInput& input, const DateOptions& options, Outcome& outcome) {
   const ravo::DateTimeParts when = MovedExactly(input.start, input.steps);
-  const BothAnswers answers{{when, EasterOf(when.date.year)}, SuiteAnswer(input)};
+  const BothAnswers answers{{when, czech::PartsOf(czech::EasterSunday(when.date.year))}, SuiteAnswer(input)};
   if (options.suite && !answers.suite) throw ravo::ConvertError(u"");
   Answered(options.suite ? *answers.suite : answers.exact, answers, options, outcome);
 }
@@ -202,7 +205,7 @@ std::optional<DateInput> ReadOrTell(const std::string& text, const ravo::DatePar
 
 // No value after a complaint.
 std::optional<ravo::DateParts> TodayOf(const DateOptions& options, Outcome& outcome) {
-  const ravo::DateParts today = PartsOfDay(utils::CurrentJulianDate());
+  const ravo::DateParts today = czech::PartsOf(Today());
   if (options.today.empty()) return today;
   const std::optional<DateInput> given = ReadOrTell(options.today, today, outcome);
   return given ? std::optional(MovedExactly(given->start, given->steps).date) : std::nullopt;

@@ -60,16 +60,4 @@ ravo::DateTimeParts MovedAsSuite(const ravo::DateTimeParts& start, std::span<con
   return when;
 }
 
-// By the golden number, the century and its corrections for leap years and for the moon.
-ravo::DateParts EasterOf(int year) {
-  const int golden = year % 19;
-  const int century = year / 100;
-  const int moon = (century - century / 4 - (8 * century + 13) / 25 + 19 * golden + 15) % 30;
-  const int full = moon - moon / 28 * (1 - 29 / (moon + 1) * ((21 - golden) / 11));
-  const int weekday = (year + year / 4 + full + 2 - century + century / 4) % 7;
-  const int day = full - weekday;
-  const int month = 3 + (day + 40) / 44;
-  return {year, month, day + 28 - 31 * (month / 4)};
-}
-
 }  // namespace tool

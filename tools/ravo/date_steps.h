@@ -25,7 +25,4 @@ struct DateStep {
 [[nodiscard]] ravo::DateTimeParts MovedAsSuite(const ravo::DateTimeParts& start,
                                                std::span<const DateStep> steps);
 
-/// Returns Easter Sunday of the Gregorian calendar.
-[[nodiscard]] ravo::DateParts EasterOf(int year);
-
 }  // namespace tool

@@ -5,6 +5,7 @@
 #include <ravo/RavoInterface.h>
 
 #include <algorithm>
+#include <deque>
 #include <map>
 #include <optional>
 
@@ -37,18 +38,17 @@ class LineFinder {
 // The rules of the suite's parser, with a method for each kind of part.
 class Rules {
  public:
-  Rules(const DocumentText& text, const ScannedDocument& document) : text_(text), document_(document) {}
+  Rules(const DocumentText& text, const ScannedDocument& document, const DocumentReport& report)
+      : text_(text), document_(document), report_(report) {}
 
-  std::vector<DocumentFinding> Run() {
-    if (IsWide()) {
-      Add(DocumentMessage::FindsWide, 0, {text_.encoding});
-      return std::move(findings_);
-    }
-    CheckStart();
-    for (std::size_t i = 0; i < document_.parts.size(); ++i) CheckPart(i);
-    CheckLines();
-    std::ranges::stable_sort(findings_, {}, &DocumentFinding::at);
-    return std::move(findings_);
+  // Returns the number of findings.
+  std::size_t Run() {
+    if (IsWide())
+      Add(DocumentMessage::FindsWide, 0, {text_.label});
+    else
+      CheckParts();
+    ReportBefore(std::string_view::npos);
+    return count_;
   }
 
  private:
@@ -60,6 +60,27 @@ class Rules {
 
   [[nodiscard]] std::string_view Text() const { return document_.text; }
   [[nodiscard]] std::string_view Of(Span span) const { return span.Of(Text()); }
+
+  // The findings of a part lie in it, so those before the next part are complete.
+  void CheckParts() {
+    CheckStart();
+    FindLongLines();
+    for (std::size_t i = 0; i < document_.parts.size(); ++i) {
+      ReportBefore(document_.parts[i].whole.begin);
+      CheckPart(i);
+    }
+  }
+
+  // Reports what was found before `end`, in order; of one place, long lines come last.
+  void ReportBefore(std::size_t end) {
+    for (; !long_lines_.empty() && long_lines_.front() < end; long_lines_.pop_front())
+      Add(DocumentMessage::FindsLongLine, long_lines_.front());
+    if (findings_.empty()) return;
+    std::ranges::stable_sort(findings_, {}, &DocumentFinding::at);
+    const auto rest = std::ranges::lower_bound(findings_, end, {}, &DocumentFinding::at);
+    for (auto finding = findings_.begin(); finding != rest; ++finding, ++count_) report_(*finding);
+    findings_.erase(findings_.begin(), rest);
+  }
 
   void Add(DocumentMessage message, std::size_t at, std::initializer_list<std::string_view> values = {}) {
     findings_.push_back({message, at, {values.begin(), values.end()}});
@@ -252,7 +273,7 @@ class Rules {
   void CheckCharacters(Span span) {
     for (std::size_t at = span.begin; at < span.end;) {
       const auto [c, size] = FirstCharacter(std::string_view(Text()).substr(at));
-      if (c >= 0x80 && !IsSame(c)) return Add(DocumentMessage::FindsEncoding, at, {text_.encoding});
+      if (c >= 0x80 && !IsSame(c)) return Add(DocumentMessage::FindsEncoding, at, {text_.label});
       at += size;
     }
   }
@@ -269,21 +290,24 @@ class Rules {
     return known->second;
   }
 
-  void CheckLines() {
+  void FindLongLines() {
     constexpr std::size_t kLongest = 65535;
     const std::string_view bytes = text_.bytes;
     LineFinder lines(Text());
     std::size_t line = 1;
     for (std::size_t at = 0; at < bytes.size(); ++line) {
       const std::size_t end = std::min(bytes.find('\n', at), bytes.size() - 1) + 1;
-      if (end - at > kLongest) Add(DocumentMessage::FindsLongLine, lines.Find(line));
+      if (end - at > kLongest) long_lines_.push_back(lines.Find(line));
       at = end;
     }
   }
 
   const DocumentText& text_;
   const ScannedDocument& document_;
-  std::vector<DocumentFinding> findings_;
+  const DocumentReport& report_;
+  std::size_t count_ = 0;
+  std::vector<DocumentFinding> findings_;  // not yet reported
+  std::deque<std::size_t> long_lines_;     // where they begin; not yet reported
   std::vector<Content> open_;
   std::map<char32_t, bool> same_;
   bool has_stylesheet_ = false;
@@ -335,12 +359,13 @@ std::string DocumentFinding::Text() const {
   }
 }
 
-std::vector<DocumentFinding> CheckDocument(const DocumentText& text, const ScannedDocument& document) {
+std::size_t CheckDocument(const DocumentText& text, const ScannedDocument& document,
+                          const DocumentReport& report) {
   const DocumentReading wanted = ReadByOther(text.utf8);
-  std::vector<DocumentFinding> findings = Rules(text, document).Run();
-  if (!findings.empty()) return findings;
-  if (auto finding = Tried(text, wanted)) findings.push_back(std::move(*finding));
-  return findings;
+  if (const std::size_t count = Rules(text, document, report).Run(); count > 0) return count;
+  const std::optional<DocumentFinding> finding = Tried(text, wanted);
+  if (finding) report(*finding);
+  return finding ? 1 : 0;
 }
 
 }  // namespace tool

@@ -2,6 +2,7 @@
 
 #include "document_text.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -16,13 +17,16 @@ struct DocumentFinding {
   [[nodiscard]] std::string Text() const;
 };
 
-/// Returns all findings in the order of the document.
+/// Hears of a finding.
+using DocumentReport = std::function<void(const DocumentFinding&)>;
+
+/// Reports all findings, in the order of the document, and returns their number.
 ///
 /// A document without any is loaded and saved by the suite's own code, and the results are compared with what
 /// expat reads (the program's scanner in a build without expat). White space at the ends of texts and between
 /// elements does not count there, since the suite lays documents out anew. Throws `DocumentError` if expat
 /// rejects the document.
-[[nodiscard]] std::vector<DocumentFinding> CheckDocument(const DocumentText& text,
-                                                         const ScannedDocument& document);
+std::size_t CheckDocument(const DocumentText& text, const ScannedDocument& document,
+                          const DocumentReport& report);
 
 }  // namespace tool

@@ -49,7 +49,7 @@ class ValueWriter {
   [[nodiscard]] const std::string& Name(const std::string& name) const {
     for (std::size_t at = 0; at < name.size();) {
       const auto [c, size] = FirstCharacter(std::string_view(name).substr(at));
-      if (!CanEncode(c)) throw PathError(DocumentMessage::UnwritableName, {CodePointName(c), text_.encoding});
+      if (!CanEncode(c)) throw PathError(DocumentMessage::UnwritableName, {CodePointName(c), text_.label});
       at += size;
     }
     return name;
@@ -73,7 +73,7 @@ class ValueWriter {
     }
     for (std::size_t at = 0; at < change.value.size();) {
       const auto [c, size] = FirstCharacter(std::string_view(change.value).substr(at));
-      if (!CanEncode(c)) throw PathError(DocumentMessage::Unwritable, {CodePointName(c), text_.encoding});
+      if (!CanEncode(c)) throw PathError(DocumentMessage::Unwritable, {CodePointName(c), text_.label});
       at += size;
     }
     return change.value;
@@ -90,7 +90,7 @@ class ValueWriter {
   void Append(char32_t c, Within within, bool pairs, std::string& to) const {
     if (!CanEncode(c)) {
       if (!options_.uses_references)
-        throw PathError(DocumentMessage::Unwritable, {CodePointName(c), text_.encoding});
+        throw PathError(DocumentMessage::Unwritable, {CodePointName(c), text_.label});
       return AppendReference(NumericReference(c), within, to);
     }
     if (c == '\r') return AppendReference(NumericReference(c), within, to);

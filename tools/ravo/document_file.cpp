@@ -1,10 +1,10 @@
 #include "document_file.h"
 
 #include "console.h"
+#include "printable.h"
 #include "text.h"
 #include "text_file.h"
 #include "whole_input.h"
-#include "xml_tree_text.h"
 
 #include <filesystem>
 #include <utility>

@@ -1,6 +1,7 @@
 #include "document_text.h"
 
 #include "document_places.h"
+#include "encoding_label.h"
 #include "text.h"
 
 #include <algorithm>
@@ -100,7 +101,7 @@ bool IsUtf8(const DocumentText& text) { return text.encoding == "UTF_8"; }
 void DecodeAll(DocumentText& text) {
   const std::size_t end = text.codec->Decode(text.bytes, text.mark, text.utf8);
   if (end == text.bytes.size()) return;
-  throw PlacedError(text.utf8, DocumentError(DocumentMessage::BadBytes, text.utf8.size(), {text.encoding}));
+  throw PlacedError(text.utf8, DocumentError(DocumentMessage::BadBytes, text.utf8.size(), {text.label}));
 }
 
 std::string Placed(std::string_view utf8, const DocumentError& error) {
@@ -145,6 +146,7 @@ DocumentText DecodeDocument(std::string bytes) {
   const std::string begin = BeginningText(std::string_view(text.bytes).substr(text.mark), first.get());
   const EncodingRow& row = EncodingOf(beginning, DeclaredEncoding(begin));
   text.encoding = row.name;
+  text.label = ShortLabel(row.label);
   text.codec = CodecOf(row);
   if (text.codec == nullptr) FailAtStart(DocumentMessage::StatefulEncoding, {row.label});
   text.utf8.reserve(text.bytes.size());

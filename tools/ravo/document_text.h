@@ -16,6 +16,7 @@ namespace tool {
 struct DocumentText {
   std::string bytes;
   std::string encoding;  ///< its name in `ravo encodings`
+  std::string label;     ///< its name for people
   std::shared_ptr<const DocumentCodec> codec;
   std::size_t mark = 0;  ///< the size of the byte-order mark
   std::string utf8;      ///< without the mark

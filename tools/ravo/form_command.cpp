@@ -2,6 +2,7 @@
 #include "console.h"
 #include "form_file.h"
 #include "json_text.h"
+#include "program_values.h"
 #include "text.h"
 #include "text_file.h"
 
@@ -30,8 +31,7 @@ void Run(const FormOptions& options, Outcome& outcome) {
     Complain(outcome, file + ": " + why, Answer::WrongUsage);
   };
   try {
-    const FormFile form =
-        MakeFormFile(options.fields, options.delimiter.empty() ? '\0' : options.delimiter[0]);
+    const FormFile form = MakeFormFile(options.fields, DelimiterOf(options.delimiter));
     const std::string failure = WriteTextFile(options.form, form.bytes);
     if (!failure.empty()) return fail(options.form, failure);
     if (options.form == kInputName) return;
@@ -65,11 +65,7 @@ void AddFormCommand(CLI::App& program, Outcome& outcome) {
   command->add_option("-o,--output", options->form, Text("The file to write"))
       ->type_name(Text("FORM.fdf"))
       ->required();
-  command
-      ->add_option("--delimiter", options->delimiter,
-                   Text("The delimiter between columns; detected by default"))
-      ->type_name(Text("CHAR"))
-      ->check(CLI::IsMember({";", ",", "\t", "|"}));
+  AddDelimiterOption(*command, options->delimiter);
   command->add_flag("--json", options->json, Text("Write JSON"));
   command->footer(Text(kFormFooter));
   command->callback([options, &outcome] { Run(*options, outcome); });

@@ -76,6 +76,9 @@ void AddHolidays(czech::Day day, HolidayLists& lists) {
 
 void Run(const HolidayOptions& options, Outcome& outcome) {
   const DaySpan span = DaysOf(options);
+  if (span.last < span.first)
+    return Complain(outcome, Text("{0} is before {1}", {DayText(span.last), DayText(span.first)}),
+                    Answer::WrongUsage);
   HolidayLists lists;
   for (czech::Day day = span.first; day <= span.last; ++day.number) AddHolidays(day, lists);
   // The first day counts, too.
@@ -89,8 +92,9 @@ void Run(const HolidayOptions& options, Outcome& outcome) {
 }
 
 constexpr const char* kHolidaysFooter = ToTranslate(
-    "Holidays are those of law 245/2000 and its changes, with the law that named each; those before 2000\n"
-    "are not verified, and there are none before 1993. Working days are Monday to Friday without them, and\n"
+    "Holidays are those of law 245/2000 and its changes, with the law that named each, and before 9 August\n"
+    "2000 those of law 93/1951; those before 2000 are not verified, and there are none before 1993. Working "
+    "days are Monday to Friday without them, and\n"
     "both edges count.\n"
     "\n"
     "Exit status: 0 there are holidays, 1 there are none, 2 wrong usage.\n"

@@ -36,7 +36,8 @@ std::string Nearest(std::string_view word, const std::vector<std::string>& candi
   std::size_t least = std::max<std::size_t>(1, word.size() / 3) + 1;
   for (const std::string& candidate : candidates) {
     const std::size_t distance = Begins(word, candidate) ? 1 : Distance(word, candidate);
-    if (distance >= least) continue;
+    // Where every letter differs, nothing is near.
+    if (distance >= least || distance >= std::max(word.size(), candidate.size())) continue;
     least = distance;
     nearest = candidate;
   }

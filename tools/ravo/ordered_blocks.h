@@ -23,14 +23,15 @@ class OrderedBlocks {
   explicit OrderedBlocks(std::size_t slots) : slots_(slots) {}
 
   /// Runs until `read` or `write` returns false. `transform` makes, once per thread, the function that
-  /// transforms a block. Throws what one of them throws.
+  /// transforms a block; its second argument writes what there is of a block that is not done, once it is its
+  /// turn, and returns false if the work has ended. Throws what one of them throws.
   template <class Read, class Transform, class Write>
   void Run(unsigned threads, Read read, Transform transform, Write write) {
     const auto work = [&] {
       try {
         auto transform_block = transform();
         while (Slot* const slot = Take(read)) {
-          transform_block(slot->block);
+          transform_block(slot->block, [&] { return WriteEarly(*slot, write); });
           Finish(*slot, write);
         }
       } catch (...) {
@@ -52,6 +53,7 @@ class OrderedBlocks {
  private:
   struct Slot {
     Block block;
+    std::size_t number = 0;
     bool is_done = false;
   };
 
@@ -69,10 +71,23 @@ class OrderedBlocks {
     Slot& slot = slots_[next_read_ % slots_.size()];
     is_at_end_ = !read(slot.block);
     if (is_at_end_) return nullptr;
+    slot.number = next_read_;
     // The waits of the other threads read it under this lock.
     const std::lock_guard lock(state_);
     ++next_read_;
     return &slot;
+  }
+
+  template <class Write>
+  bool WriteEarly(Slot& slot, Write& write) {
+    std::unique_lock lock(state_);
+    changed_.wait(lock, [&] { return is_stopped_ || (next_write_ == slot.number && !is_writing_); });
+    if (is_stopped_) return false;
+    // No other block is written before this one is done.
+    lock.unlock();
+    if (write(slot.block)) return true;
+    Stop(nullptr);
+    return false;
   }
 
   template <class Write>
@@ -91,6 +106,7 @@ class OrderedBlocks {
       changed_.notify_all();
     }
     is_writing_ = false;
+    changed_.notify_all();
   }
 
   void Stop(std::exception_ptr error) {

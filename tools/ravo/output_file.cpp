@@ -41,6 +41,8 @@ std::string FailureOf(Work work) {
   } catch (const RefusedTarget& refused) {
     return TextOfRefusal(refused.why);
   } catch (const std::system_error& error) {
+    if (error.code() == std::errc::no_such_file_or_directory)
+      return Text("cannot be written: its folder does not exist");
     return Text("cannot be written: {0}", {SystemReason(error.code())});
   }
 }

@@ -13,8 +13,10 @@ bool IsLineEnd(std::string_view text, std::size_t at) {
 
 bool IsControl(std::string_view text, std::size_t at) {
   const unsigned byte = ByteAt(text, at);
-  return (byte < 0x20 || byte == 0x7F) && byte != '\t' && !IsLineEnd(text, at);
+  return byte < 0x20 || byte == 0x7F;
 }
+
+bool IsLayout(std::string_view text, std::size_t at) { return text[at] == '\t' || IsLineEnd(text, at); }
 
 // The pictures of the control characters begin at U+2400.
 std::string PictureOf(unsigned control) {
@@ -46,12 +48,10 @@ unsigned DirectionCode(std::string_view text, std::size_t at) {
   return 0x2000 + ((ByteAt(text, at + 1) & 63) << 6) + (ByteAt(text, at + 2) & 63);
 }
 
-}  // namespace
-
-std::string Printable(std::string_view utf8) {
+std::string Visible(std::string_view utf8, bool keeps_layout) {
   std::string shown;
   for (std::size_t at = 0; at < utf8.size(); ++at) {
-    if (IsControl(utf8, at)) {
+    if (IsControl(utf8, at) && !(keeps_layout && IsLayout(utf8, at))) {
       shown += PictureOf(ByteAt(utf8, at));
     } else if (IsControlPair(utf8, at)) {
       shown += CodeText(ByteAt(utf8, ++at));
@@ -64,5 +64,11 @@ std::string Printable(std::string_view utf8) {
   }
   return shown;
 }
+
+}  // namespace
+
+std::string Printable(std::string_view utf8) { return Visible(utf8, true); }
+
+std::string OnOneLine(std::string_view utf8) { return Visible(utf8, false); }
 
 }  // namespace tool

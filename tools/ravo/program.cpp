@@ -6,6 +6,7 @@
 #include "output_options.h"
 #include "program_errors.h"
 #include "program_help.h"
+#include "program_values.h"
 #include "text.h"
 #include "words_after_mark.h"
 
@@ -17,6 +18,7 @@
 namespace tool {
 namespace {
 
+constexpr const char* kVersionLine = "ravo " RAVO_VERSION "\n";
 constexpr const char* kExitStatus = ToTranslate(
     "Exit status: 0 yes, or nothing found; 1 no, or findings; 2 wrong usage, or some of the work could not\n"
     "be done.\n");
@@ -55,7 +57,7 @@ std::vector<Theme> Themes() {
   };
 }
 
-void ShowHelp(const CLI::App& program, const std::vector<std::string>& words, Outcome& outcome) {
+void ShowHelp(const CLI::App& program, const std::vector<std::string>& words, bool json, Outcome& outcome) {
   const CLI::App* app = &program;
   std::string name = "ravo";
   for (const std::string& word : words) {
@@ -64,24 +66,31 @@ void ShowHelp(const CLI::App& program, const std::vector<std::string>& words, Ou
     app = command;
     name += " " + word;
   }
-  outcome.out = HelpText(*app, name);
+  outcome.out = json ? JsonText(HelpJson(*app, name)) : HelpText(*app, name);
 }
 
 void AddHelpCommand(CLI::App& program, Outcome& outcome) {
   CLI::App* command = program.add_subcommand("help", Text("Shows how a command is used"));
   const auto words = std::make_shared<std::vector<std::string>>();
+  const auto json = std::make_shared<bool>(false);
   command->add_option(Text("COMMAND"), *words, Text("The command; without one, all commands are listed"));
+  command->add_flag("--json", *json, Text("Write JSON"));
   command->footer(
       Text("Examples:\n"
            "  ravo help\n"
-           "  ravo help xml show\n"));
-  command->callback([words, &program, &outcome] { ShowHelp(program, *words, outcome); });
+           "  ravo help xml show\n"
+           "  ravo help check --json         for a program\n"));
+  command->callback([words, json, &program, &outcome] { ShowHelp(program, *words, *json, outcome); });
 }
 
 void AddVersionCommand(CLI::App& program, Outcome& outcome) {
   CLI::App* command = program.add_subcommand("version", Text("Shows the version of the program"));
+  const auto json = std::make_shared<bool>(false);
+  command->add_flag("--json", *json, Text("Write JSON"));
   command->footer("");
-  command->callback([&outcome] { outcome.out = "ravo " RAVO_VERSION "\n"; });
+  command->callback([json, &outcome] {
+    outcome.out = *json ? JsonText({{"program", "ravo"}, {"version", RAVO_VERSION}}) : kVersionLine;
+  });
 }
 
 void AddTheme(CLI::App& program, const Theme& theme, Outcome& outcome) {
@@ -131,9 +140,9 @@ std::vector<std::string> Words(const std::string& command) {
 // returns.
 void End(const CLI::App& program, const CLI::ParseError& end, Outcome& outcome) {
   if (end.get_name() == "CallForVersion")
-    outcome.out = "ravo " RAVO_VERSION "\n";
+    outcome.out = kVersionLine;
   else if (end.get_exit_code() == 0)
-    ShowHelp(program, Words(outcome.command), outcome);
+    ShowHelp(program, Words(outcome.command), false, outcome);
   else
     ReportWrongUsage(program, end, outcome);
   outcome.err = Unmarked(outcome.err);
@@ -152,6 +161,7 @@ void Describe(CLI::App& program, Outcome& outcome) {
   program.footer(Text(kExitStatus) + "\n" + Text(kEnvironment) + "\n" + Text(kExamples));
   for (const Theme& theme : Themes()) AddTheme(program, theme, outcome);
   AddOutputRules(program);
+  RefuseFlagValues(program);
   UnmarkValues(program);
   Complete(program, "", outcome);
 }

@@ -4,6 +4,7 @@
 #include "program_help.h"
 #include "text.h"
 
+#include <algorithm>
 #include <optional>
 #include <string>
 #include <vector>
@@ -18,15 +19,21 @@ struct Phrase {
   const char* ours;
 };
 
+constexpr std::string_view kNotInSet = "{}: {} not in {{}}";
+
 constexpr Phrase kPhrases[] = {
     {"RequiredError", "A subcommand is required", ToTranslate("a command is missing")},
     {"RequiredError", "{} is required", ToTranslate("{0} is missing")},
     {"RequiresError", "{} requires {}", ToTranslate("{0} can only be used with {1}")},
     {"ExcludesError", "{} excludes {}", ToTranslate("{0} and {1} cannot be used together")},
     {"ArgumentMismatch", "{}: {} required {} missing", ToTranslate("{0} needs a value")},
+    {"ArgumentMismatch", "{}: At Most 1 required but received {}", ToTranslate("{0} may be given only once")},
     {"ArgumentMismatch", "{}: At Most {} required but received {}",
-     ToTranslate("{0} may be given only once")},
-    {"ValidationError", "{}: {} not in {{}}", ToTranslate("{0} cannot be '{1}'; it is one of: {2}.")},
+     ToTranslate("{0} may be given at most {1} times")},
+    {"ArgumentMismatch", "{} was given a disallowed flag override", ToTranslate("--{0} takes no value")},
+    {"ConversionError", "Could not convert: {} = {}",
+     ToTranslate("{0} takes a number; '{1}' is none, or too large")},
+    {"ValidationError", kNotInSet, ToTranslate("{0} cannot be '{1}'; it is one of: {2}.")},
     {"ValidationError", "{}: Value {} not in range {} to {}",
      ToTranslate("{0} goes from {2} to {3}; {1} is outside")},
 };
@@ -51,18 +58,22 @@ std::optional<std::vector<std::string>> PartsOf(std::string_view message, std::s
 
 std::string WithSpaces(const std::string& list) { return CLI::detail::find_and_replace(list, ",", ", "); }
 
+// The parser leaves out the name of an option that help hides, which is --lang in a command.
+std::string OptionNamed(const std::string& name) { return name.empty() ? "--lang" : name; }
+
+std::string Phrased(const Phrase& phrase, std::vector<std::string> parts) {
+  parts.resize(std::max<std::size_t>(parts.size(), 4));
+  const std::string text =
+      Text(phrase.ours, {OptionNamed(parts[0]), parts[1], WithSpaces(parts[2]), parts[3]});
+  if (phrase.parser != kNotInSet) return text;
+  const std::string meant = DidYouMean(parts[1], CLI::detail::split(parts[2], ','));
+  return meant.empty() ? text : text + " " + meant;
+}
+
 std::string OurWords(const CLI::ParseError& error) {
   for (const Phrase& phrase : kPhrases) {
     if (error.get_name() != phrase.error) continue;
-    auto parts = PartsOf(error.what(), phrase.parser);
-    if (!parts) continue;
-    const std::string set = parts->size() == 3 ? parts->back() : "";
-    const std::string word = parts->size() == 3 ? parts->at(1) : "";
-    parts->resize(4);
-    std::string text =
-        Text(phrase.ours, {parts->at(0), parts->at(1), WithSpaces(parts->at(2)), parts->at(3)});
-    const std::string meant = DidYouMean(word, CLI::detail::split(set, ','));
-    return meant.empty() ? text : text.append(" ").append(meant);
+    if (const auto parts = PartsOf(error.what(), phrase.parser)) return Phrased(phrase, *parts);
   }
   return error.what();
 }

@@ -61,6 +61,15 @@ class Layout : public CLI::Formatter {
                          std::vector<const CLI::Option*> options) const override {
     return CLI::Formatter::make_group(get_label(group), is_positional, std::move(options));
   }
+  // "[DATE [DATE]]" for up to two; the parser's own counts only the least.
+  std::string make_option_usage(const CLI::Option* option) const override {
+    const std::string name = make_option_name(option, true);
+    const int most = option->get_expected_max();
+    std::string usage = name;
+    if (most >= CLI::detail::expected_max_vector_size) usage += "...";
+    if (most == 2) usage += " [" + name + "]";
+    return option->get_required() ? usage : "[" + usage + "]";
+  }
   std::string make_option(const CLI::Option* option, bool is_positional) const override {
     return HelpRow(make_option_name(option, is_positional) + make_option_opts(option),
                    make_option_desc(option));
@@ -88,6 +97,43 @@ class Layout : public CLI::Formatter {
   }
 };
 
+std::vector<std::string> SpellingsOf(const CLI::Option& option) {
+  std::vector<std::string> names;
+  for (const std::string& name : option.get_snames()) names.push_back("-" + name);
+  for (const std::string& name : option.get_lnames()) names.push_back("--" + name);
+  return names;
+}
+
+Json TextOrNull(const std::string& text) { return text.empty() ? Json() : Json(text); }
+
+bool Repeats(const CLI::Option& option) {
+  return option.get_expected_max() == CLI::detail::expected_max_vector_size;
+}
+
+Json ArgumentJson(const CLI::Option& option) {
+  return {{"name", option.get_name(true)},
+          {"description", option.get_description()},
+          {"required", option.get_required()},
+          {"repeats", Repeats(option)}};
+}
+
+Json OptionJson(const CLI::Option& option, const Layout& layout) {
+  const bool takes_value = option.get_type_size() != 0;
+  return {{"names", SpellingsOf(option)},
+          {"value", takes_value ? TextOrNull(ValueTitle(option, layout)) : Json()},
+          {"default", TextOrNull(option.get_default_str())},
+          {"description", option.get_description()},
+          {"required", option.get_required()},
+          {"repeats", Repeats(option)}};
+}
+
+Json CommandsJson(const CLI::App& app) {
+  Json commands = Json::array();
+  for (const CLI::App* command : app.get_subcommands({}))
+    commands.push_back({{"name", command->get_name()}, {"description", command->get_description()}});
+  return commands;
+}
+
 }  // namespace
 
 std::shared_ptr<CLI::Formatter> HelpLayout() { return std::make_shared<Layout>(); }
@@ -101,6 +147,24 @@ std::string HelpText(const CLI::App& app, const std::string& name) {
   // A group of hidden options leaves an empty line.
   const std::string text = Layout().make_help(&app, name, CLI::AppFormatMode::Normal);
   return CLI::detail::find_and_replace(text, "\n\n\n", "\n\n");
+}
+
+Json HelpJson(const CLI::App& app, const std::string& name) {
+  const Layout layout;
+  Json arguments = Json::array();
+  Json options = Json::array();
+  for (const CLI::Option* option : app.get_options()) {
+    if (option->get_positional()) arguments.push_back(ArgumentJson(*option));
+    if (option->nonpositional() && !option->get_group().empty())
+      options.push_back(OptionJson(*option, layout));
+  }
+  return {{"command", name},
+          {"description", app.get_description()},
+          {"usage", UsageLine(app, name)},
+          {"arguments", arguments},
+          {"options", options},
+          {"commands", CommandsJson(app)},
+          {"notes", app.get_footer()}};
 }
 
 std::string UsageLine(const CLI::App& app, const std::string& name) {

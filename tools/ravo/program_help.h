@@ -1,5 +1,7 @@
 #pragma once
 
+#include "json_text.h"
+
 #include <memory>
 #include <string>
 #include <string_view>
@@ -18,6 +20,9 @@ namespace tool {
 
 /// Returns the help of a command; `name` is the words that call it.
 [[nodiscard]] std::string HelpText(const CLI::App& app, const std::string& name);
+
+/// Returns the same as JSON.
+[[nodiscard]] Json HelpJson(const CLI::App& app, const std::string& name);
 
 /// Returns the usage of a command: the words that call it, and the arguments.
 [[nodiscard]] std::string UsageLine(const CLI::App& app, const std::string& name);

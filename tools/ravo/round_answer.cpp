@@ -13,22 +13,24 @@ std::string AmountRangeText(std::string_view english) {
   return Text(english, {AmountText({Limits::min()}), AmountText({Limits::max()})});
 }
 
-RoundAnswer RefusedAnswer(AmountFault fault) {
-  const auto refuse = [](std::string_view reason, std::string message) {
-    return RoundAnswer{{}, {}, {}, reason, std::move(message), Answer::WrongUsage};
-  };
+// The code of a fault for scripts.
+std::string_view FaultCode(AmountFault fault) {
   switch (fault) {
     case AmountFault::Groups:
-      return refuse("groups", Text("the digits are not in groups of three"));
+      return "groups";
     case AmountFault::Decimals:
-      return refuse("decimals", Text("an amount has at most four decimals"));
+      return "decimals";
     case AmountFault::Ambiguous:
-      return refuse("ambiguous", Text("the point may separate thousands or decimals; write 12500 or 12,50"));
+      return "ambiguous";
     case AmountFault::Range:
-      return refuse("range", AmountRangeText(ToTranslate("amounts are from {0} to {1}")));
+      return "range";
     default:
-      return refuse("not-an-amount", Text("this is no amount; write it as 1234.56 or 1 234,56 Kč"));
+      return "not-an-amount";
   }
+}
+
+RoundAnswer RefusedAnswer(AmountFault fault) {
+  return {{}, {}, {}, FaultCode(fault), FaultText(fault), Answer::WrongUsage};
 }
 
 std::string LimitText(std::string_view english, const RoundRule& rule, std::string_view suite = {}) {
@@ -85,6 +87,21 @@ void AnswerAsSuite(RoundAnswer& answer, const RoundRule& rule) {
 
 }  // namespace
 
+std::string FaultText(AmountFault fault) {
+  switch (fault) {
+    case AmountFault::Groups:
+      return Text("the digits are not in groups of three");
+    case AmountFault::Decimals:
+      return Text("an amount has at most four decimals");
+    case AmountFault::Ambiguous:
+      return Text("three digits after \".\" or \",\" may be thousands or decimals; write 12500 or 12,50");
+    case AmountFault::Range:
+      return AmountRangeText(ToTranslate("amounts are from {0} to {1}"));
+    default:
+      return Text("this is no amount; write it as 1234.56 or 1 234,56 Kč");
+  }
+}
+
 RoundAnswer AnswerRound(std::string_view text, const RoundRequest& request) {
   auto read = ReadAmount(text);
   if (const auto* fault = std::get_if<AmountFault>(&read)) return RefusedAnswer(*fault);
@@ -96,14 +113,7 @@ RoundAnswer AnswerRound(std::string_view text, const RoundRequest& request) {
 }
 
 std::string RoundedText(const RoundAnswer& answer, const RoundRequest& request) {
-  Notation notation = answer.amount->notation;
-  if (request.notation == "plain") notation = {};
-  if (request.notation == "cs" || request.notation == "en") {
-    const bool is_czech = request.notation == "cs";
-    notation.group = is_czech ? "\u00A0" : ",";
-    notation.decimal = is_czech ? ',' : '.';
-  }
-  return AmountText(*answer.rounded, notation);
+  return AmountText(*answer.rounded, NotationAsked(answer.amount->notation, request.notation));
 }
 
 }  // namespace tool

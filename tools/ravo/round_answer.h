@@ -27,6 +27,9 @@ struct RoundAnswer {
   Answer answer = Answer::Yes;
 };
 
+/// Returns why a text is no amount, for people.
+[[nodiscard]] std::string FaultText(AmountFault fault);
+
 [[nodiscard]] RoundAnswer AnswerRound(std::string_view text, const RoundRequest& request);
 
 /// Returns the rounded amount in the notation asked for. Precondition: there is one.

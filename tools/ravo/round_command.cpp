@@ -1,7 +1,9 @@
 #include "commands.h"
 #include "csv_column.h"
+#include "file_reason.h"
 #include "input_lines.h"
 #include "json_text.h"
+#include "program_values.h"
 #include "round_answer.h"
 #include "text.h"
 
@@ -26,6 +28,7 @@ struct RoundOptions {
   std::string file;
   std::string column;
   std::string delimiter;
+  std::string encoding;
   bool suite = false;
   bool json = false;
 };
@@ -87,7 +90,8 @@ class Messages {
   std::size_t count_ = 0;
 };
 
-void RoundColumn(const RoundOptions& options, std::string_view table, Outcome& outcome) {
+void RoundColumn(const RoundOptions& options, const CsvColumn& column, std::string_view table,
+                 Outcome& outcome) {
   const RoundRequest request = RequestOf(options);
   Messages messages(outcome);
   const auto place = [&](std::size_t line) {
@@ -102,16 +106,16 @@ void RoundColumn(const RoundOptions& options, std::string_view table, Outcome& o
   const auto missing = [&](std::size_t line) {
     messages.Add(place(line) + Text("the row has no field in this column"), Answer::WrongUsage);
   };
-  const char delimiter = options.delimiter.empty() ? '\0' : options.delimiter.front();
-  outcome.out = ChangeCsvColumn(table, {options.column, delimiter}, change, missing);
+  outcome.out = ChangeCsvColumn(table, column, change, missing);
   messages.Finish();
 }
 
 void RoundFile(const RoundOptions& options, Outcome& outcome) {
+  const CsvColumn column{options.column, DelimiterOf(options.delimiter), TableEncodingOf(options.encoding)};
   const std::optional<std::string> table = ReadWhole(options.file);
-  if (!table) return Complain(outcome, Text("{0}: cannot be read", {options.file}), Answer::WrongUsage);
+  if (!table) return Complain(outcome, UnreadableMessage(options.file), Answer::WrongUsage);
   try {
-    RoundColumn(options, *table, outcome);
+    RoundColumn(options, column, *table, outcome);
   } catch (const std::runtime_error& error) {
     Complain(outcome, options.file + ": " + error.what(), Answer::WrongUsage);
   }
@@ -125,7 +129,8 @@ void Run(const RoundOptions& options, Outcome& outcome) {
 
 constexpr const char* kRoundFooter = ToTranslate(
     "Amounts are read as people write them: 1234.56, 1 234,56 Kč, 1.234,56, .5 or -12,-. A single point\n"
-    "or comma separates decimals. The answer is written like the amount.\n"
+    "or comma separates decimals, except in 12.500,-; 12.500 Kč and 12,500 € are refused, as they may be\n"
+    "thousands. The answer is written like the amount.\n"
     "\n"
     "Modes: up is away from zero, down is toward zero, math is to the nearest with halves away from zero.\n"
     "Rules for VAT: H to hundredths, D to tenths, M to whole crowns, each with halves away from zero;\n"
@@ -167,11 +172,8 @@ void AddTable(CLI::App& command, RoundOptions& options, CLI::Option* amounts, CL
   CLI::Option* column = command.add_option("--column", options.column, Text("The column, by name or number"));
   column->needs(file);
   file->needs(column);
-  command
-      .add_option("--delimiter", options.delimiter, Text("The delimiter between fields; detected by default"))
-      ->type_name(Text("CHAR"))
-      ->check(CLI::IsMember({";", ",", "\t", "|"}))
-      ->needs(file);
+  AddDelimiterOption(command, options.delimiter)->needs(file);
+  AddTableEncodingOption(command, options.encoding)->needs(file);
 }
 
 }  // namespace
@@ -182,12 +184,7 @@ void AddRoundCommand(CLI::App& program, Outcome& outcome) {
   CLI::Option* amounts = command->add_option(
       Text("AMOUNT"), options->amounts, Text("Amounts; - reads them from standard input, one in a line"));
   AddRules(*command, *options);
-  command
-      ->add_option("--notation", options->notation,
-                   Text("How to write answers: input (like the amount), plain (1234.56), cs (1 234,56) or en "
-                        "(1,234.56)"))
-      ->check(CLI::IsMember({"input", "plain", "cs", "en"}))
-      ->capture_default_str();
+  AddNotationOption(*command, options->notation);
   CLI::Option* json = command->add_flag("--json", options->json, Text("Write JSON"));
   AddTable(*command, *options, amounts, json);
   command->footer(Text(kRoundFooter));

@@ -7,6 +7,7 @@
 #include <ravo/DIUtils.h>
 
 #include <memory>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -21,6 +22,7 @@ struct SortOptions {
   std::string encoding = "UTF-8";
   std::string output{kInputName};
   LineOrder order;
+  bool header = false;
   bool suite = false;
 };
 
@@ -32,9 +34,9 @@ SuiteOrder SuiteOrderOf(const CzechOrder& order) {
 // Tells where the order of the suite differs. It has no fields and no amounts.
 std::string Remark(const Lines& sorted, const SortOptions& options) {
   if (options.suite || !options.order.fields.empty() || options.order.numeric) return {};
-  const std::size_t line =
-      FirstUnlikeTheSuite(sorted, SuiteOrderOf(options.order.czech), options.order.reverse);
+  std::size_t line = FirstUnlikeTheSuite(sorted, SuiteOrderOf(options.order.czech), options.order.reverse);
   if (line == 0) return {};
+  if (options.header) ++line;
   return Text("the order of the suite differs from line {0} on; --suite shows it", {std::to_string(line)});
 }
 
@@ -47,10 +49,12 @@ Lines InOrder(const Lines& lines, const SortOptions& options) {
 constexpr std::size_t kWrittenAtOnce = std::size_t{1} << 20;
 
 // Writes lines in the encoding in which they came; a terminal gets UTF-8.
-std::string WriteLines(const Lines& lines, const SortInput& input, const std::string& name) {
+std::string WriteLines(std::optional<std::string_view> header, const Lines& lines, const SortInput& input,
+                       const std::string& name) {
   const bool shown = name == kInputName && IsTerminal(Channel::Out);
   WholeFile file(name);
   std::string piece(input.Mark());
+  if (header) piece.append(*header) += '\n';
   const auto flush = [&] {
     static_cast<void>(file.Write(shown ? piece : input.InEncoding(piece)));
     piece.clear();
@@ -69,8 +73,9 @@ void Run(const SortOptions& options, Outcome& outcome) {
     SortInput input(options.encoding);
     if (options.files.empty()) input.Add(std::string(kInputName));
     for (const std::string& name : options.files) input.Add(name);
+    const auto header = options.header ? input.TakeHeader() : std::nullopt;
     const Lines sorted = InOrder(input.AllLines(), options);
-    const std::string failure = WriteLines(sorted, input, options.output);
+    const std::string failure = WriteLines(header, sorted, input, options.output);
     if (!failure.empty()) return fail(options.output + ": " + failure);
     const std::string remark = Remark(sorted, options);
     if (!remark.empty()) Complain(outcome, remark, Answer::Yes);
@@ -95,7 +100,7 @@ constexpr const char* kSortFooter = ToTranslate(
     "Examples:\n"
     "  ravo sort names.txt -o names.txt                   in place: a file is replaced once all is written\n"
     "  ravo sort --natural files.txt                      FV9 before FV10\n"
-    "  ravo sort -t ';' -k 3 -r ledger.csv                by the third field, from the end\n"
+    "  ravo sort -t ';' -k 3 -r --header ledger.csv       by the third field, from the end, below the names\n"
     "  ravo sort -n -k 2 amounts.txt                      by amounts such as 1 234,50\n"
     "  ls | ravo sort --natural --ignore-case -\n");
 
@@ -119,14 +124,18 @@ void AddSortCommand(CLI::App& program, Outcome& outcome) {
           ->add_option("-k,--key", order.fields, Text("Compare this field; several times for further ones"))
           ->type_name(Text("FIELD"))
           ->allow_extra_args(false)
-          ->check(CLI::PositiveNumber);
+          ->check(AtLeast(1));
   command->add_option("-t,--delimiter", order.delimiter, Text("What is between fields; else runs of blanks"))
-      ->type_name("TEXT")
+      ->type_name(Text("TEXT"))
       ->needs(field);
+  CLI::Option* header = command->add_flag(
+      "--header", options->header, Text("Keep the first line at the top, once if all files begin with it"));
   command->add_option("--encoding", options->encoding, Text("The encoding of the files"))
+      ->type_name(Text("ENCODING"))
       ->capture_default_str();
   command->add_flag("--suite", options->suite, Text("The order of the suite"))
       ->excludes(field)
+      ->excludes(header)
       ->excludes("--numeric")
       ->excludes("--digits-first");
   command->add_option("-o,--output", options->output, Text("The file to write; - is standard output"))

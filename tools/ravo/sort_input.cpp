@@ -1,5 +1,6 @@
 #include "sort_input.h"
 
+#include "encoding_label.h"
 #include "text.h"
 #include "utf8_reader.h"
 #include "whole_input.h"
@@ -57,24 +58,38 @@ std::string SortInput::InUtf8(std::string bytes, const std::string& name) const 
       std::mismatch(bytes.begin(), bytes.end(), back.begin(), back.end()).first - bytes.begin();
   throw std::runtime_error(
       name + ": " +
-      Text("byte {0} cannot be read as {1}", {std::to_string(differ + 1), std::string(encoding_.name)}));
+      Text("byte {0} cannot be read as {1}", {std::to_string(differ + 1), ShortLabel(encoding_.label)}));
 }
 
 void SortInput::Add(const std::string& name) {
   std::string reason;
   std::optional<std::string> bytes = ReadWhole(name, &reason);
   if (!bytes) throw std::runtime_error(name + ": " + reason);
-  std::string& text = texts_.emplace_back(InUtf8(std::move(*bytes), name));
+  std::string& text = sources_.emplace_back(Source{name, InUtf8(std::move(*bytes), name)}).text;
   if (text.starts_with(kMarkInUtf8)) {
     text.erase(0, kMarkInUtf8.size());
-    if (texts_.size() == 1) mark_ = kMarkInUtf8;
+    if (sources_.size() == 1) mark_ = kMarkInUtf8;
   }
   EndLastLine(text);
 }
 
+std::optional<std::string_view> SortInput::TakeHeader() {
+  std::optional<std::string_view> header;
+  for (Source& source : sources_) {
+    if (source.text.empty()) continue;
+    const std::string_view line = std::string_view(source.text).substr(0, source.text.find('\n'));
+    source.begin = line.size() + 1;
+    if (!header) header = line;
+    if (TextOfLine(line) != TextOfLine(*header))
+      throw std::runtime_error(source.name + ": " + Text("its first line is not that of the first file"));
+  }
+  return header;
+}
+
 Lines SortInput::AllLines() const {
   Lines lines;
-  for (std::string_view text : texts_) {
+  for (const Source& source : sources_) {
+    std::string_view text = std::string_view(source.text).substr(source.begin);
     lines.reserve(lines.size() + static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')));
     while (!text.empty()) {
       const std::size_t end = text.find('\n');

@@ -3,7 +3,9 @@
 #include "line_sort.h"
 #include <ravo/codec/encoding.h>
 
+#include <cstddef>
 #include <deque>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -19,8 +21,12 @@ class SortInput {
   /// be read or is in another encoding.
   void Add(const std::string& name);
 
-  /// Returns all lines, without the line feed; a carriage return before it stays. They are views of this
-  /// object.
+  /// Takes the first line of each file, to stay before the sorted ones, and returns it; nothing without
+  /// lines. Throws `std::runtime_error`, with the file's name, if two files begin with different lines.
+  [[nodiscard]] std::optional<std::string_view> TakeHeader();
+
+  /// Returns all lines that are left, without the line feed; a carriage return before it stays. They are
+  /// views of this object.
   [[nodiscard]] Lines AllLines() const;
 
   /// Returns `text`, some of these lines in UTF-8, in their encoding.
@@ -33,7 +39,13 @@ class SortInput {
   [[nodiscard]] std::string InUtf8(std::string bytes, const std::string& name) const;
 
   const ravo::codec::Encoding& encoding_;
-  std::deque<std::string> texts_;
+  // A file, and where the lines begin that are left.
+  struct Source {
+    std::string name;
+    std::string text;
+    std::size_t begin = 0;
+  };
+  std::deque<Source> sources_;
   std::string_view mark_;
 };
 

@@ -33,14 +33,13 @@ std::string HexByte(char byte) {
 
 }  // namespace
 
-TableChecker::TableChecker(const TableRules& rules, WriteEarly write_early)
-    : rules_(rules), write_early_(std::move(write_early)) {
+TableChecker::TableChecker(const TableRules& rules) : rules_(rules) {
   for (const CheckedColumn& column : rules_.columns) {
     columns_.push_back({columns_.size(), column.place, column.kind->check, {}});
   }
 }
 
-void TableChecker::Check(BlockWork& work, std::size_t from, std::size_t line) {
+void TableChecker::Check(BlockWork& work, std::size_t from, std::size_t line, const WriteEarly& write_early) {
   work_ = &work;
   text_ = work.block.Text().substr(from);
   next_wrong_ = rules_.text->FirstWrong(text_, 0);
@@ -48,8 +47,9 @@ void TableChecker::Check(BlockWork& work, std::size_t from, std::size_t line) {
   while (scanner.Next(row_)) {
     CheckRow();
     if (counts_.findings != findings_before_) Reject();
-    if (work.lines.size() > kLargeLines) write_early_(work);
+    if (work.lines.size() > kLargeLines) write_early();
   }
+  work.is_done = true;
 }
 
 void TableChecker::CheckRow() {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "table_findings.h"
-#include "table_queue.h"
+#include "table_work.h"
 
 #include <cstddef>
 #include <functional>
@@ -24,13 +24,13 @@ struct TableRules {
 /// Checks blocks of a table. One object for each worker.
 class TableChecker {
  public:
-  /// Writes what there is of a block whose findings grow large.
-  using WriteEarly = std::function<void(BlockWork&)>;
+  /// Writes what there is of the block, whose findings grow large.
+  using WriteEarly = std::function<void()>;
 
-  TableChecker(const TableRules& rules, WriteEarly write_early);
+  explicit TableChecker(const TableRules& rules);
 
   /// Checks the rows from the index `from` of the block's text on, which are from line `line` of the file on.
-  void Check(BlockWork& work, std::size_t from, std::size_t line);
+  void Check(BlockWork& work, std::size_t from, std::size_t line, const WriteEarly& write_early);
 
   [[nodiscard]] TableCounts Counts() const;
 
@@ -54,7 +54,6 @@ class TableChecker {
   void Reject();
 
   const TableRules& rules_;
-  WriteEarly write_early_;
   std::vector<ColumnCheck> columns_;
   TableCounts counts_;
   BlockWork* work_ = nullptr;

@@ -1,7 +1,7 @@
 #include "table_columns.h"
 
 #include "nearest.h"
-#include "table_text.h"
+#include "printable.h"
 #include "text.h"
 #include <ravo/DIUnicode.h>
 #include <ravo/RavoInterface.h>
@@ -38,7 +38,7 @@ std::string Numbers(const Indices& indices) {
 // Returns a line of its own with the names of all columns.
 std::string ColumnList(const std::vector<std::string>& names, char delimiter) {
   std::string list;
-  for (const std::string& name : names) list += (list.empty() ? "" : ", ") + Shown(name);
+  for (const std::string& name : names) list += (list.empty() ? "" : ", ") + OnOneLine(name);
   return "\n  " + Text("columns, split at {0}: {1}", {DelimiterName(delimiter), list});
 }
 
@@ -52,7 +52,7 @@ std::string NearestName(const std::vector<std::string>& names, std::string_view 
   for (const std::string& name : names) folded.push_back(InLetters(Folded(name)));
   const std::string nearest = Nearest(InLetters(Folded(wanted)), folded);
   if (nearest.empty()) return {};
-  return Shown(names[static_cast<std::size_t>(std::ranges::find(folded, nearest) - folded.begin())]);
+  return OnOneLine(names[static_cast<std::size_t>(std::ranges::find(folded, nearest) - folded.begin())]);
 }
 
 std::optional<std::size_t> ColumnNumber(std::string_view text) {
@@ -85,17 +85,18 @@ FoundColumn FindColumn(const std::vector<std::string>& names, std::string_view w
   const Indices exact = Where(names, [&](const std::string& name) { return name == wanted; });
   if (exact.size() == 1) return {exact[0], {}};
   if (!exact.empty())
-    return {{},
-            Text("columns {0} are all named '{1}'; name one by its number", {Numbers(exact), Shown(wanted)})};
+    return {
+        {},
+        Text("columns {0} are all named '{1}'; name one by its number", {Numbers(exact), OnOneLine(wanted)})};
   const std::string folded = Folded(wanted);
   const Indices near = Where(names, [&](const std::string& name) { return Folded(name) == folded; });
   if (near.size() == 1) return {near[0], {}};
   if (!near.empty())
     return {{},
             Text("columns {0} are named '{1}' but for case; name one exactly or by its number",
-                 {Numbers(near), Shown(wanted)})};
+                 {Numbers(near), OnOneLine(wanted)})};
   if (const auto number = ColumnNumber(wanted)) return Numbered(names, wanted, *number, delimiter);
-  return {{}, NoColumn(Shown(wanted), NearestName(names, wanted)) + ColumnList(names, delimiter)};
+  return {{}, NoColumn(OnOneLine(wanted), NearestName(names, wanted)) + ColumnList(names, delimiter)};
 }
 
 }  // namespace tool

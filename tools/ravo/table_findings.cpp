@@ -1,5 +1,6 @@
 #include "table_findings.h"
 
+#include "printable.h"
 #include "text.h"
 
 #include <charconv>
@@ -20,7 +21,7 @@ std::string JsonString(std::string_view utf8) {
 }
 
 std::string ColumnPart(std::string_view name, std::string_view kind, bool json) {
-  if (!json) return "\t" + Shown(name) + "\t";
+  if (!json) return "\t" + OnOneLine(name) + "\t";
   return ",\"column\":" + JsonString(name) + ",\"kind\":" + JsonString(kind) + ",\"value\":\"";
 }
 
@@ -58,7 +59,7 @@ std::string JsonSummary(const std::vector<CheckedColumn>& columns, const TableCo
 
 std::string SummaryLine(std::string_view name, std::string_view kind, std::size_t count,
                         const std::string& what) {
-  return Shown(name) + "\t" + std::string(kind) + "\t" + std::to_string(count) + "\t" + what + "\n";
+  return OnOneLine(name) + "\t" + std::string(kind) + "\t" + std::to_string(count) + "\t" + what + "\n";
 }
 
 std::string ReasonLines(std::string_view name, std::string_view kind,
@@ -88,7 +89,7 @@ FindingLines::FindingLines(std::string_view file, std::string_view shown_file,
                            const std::vector<CheckedColumn>& columns, const TableText& text, bool json)
     : text_(text), json_(json) {
   const std::string place =
-      shown_file.empty() ? Text("line {0}", {"\f"}) : Text("{0}: line {1}", {Shown(shown_file), "\f"});
+      shown_file.empty() ? Text("line {0}", {"\f"}) : Text("{0}: line {1}", {OnOneLine(shown_file), "\f"});
   std::tie(before_line_, after_line_) = Around(place);
   if (json) before_line_ = "{\"type\":\"finding\",\"file\":" + JsonString(file) + ",\"line\":";
   if (json) after_line_.clear();
@@ -106,7 +107,7 @@ void FindingLines::AppendValueText(std::string& lines, std::string_view value) c
   } else if (json_) {
     AppendJson(lines, text_.Utf8(value));
   } else {
-    lines += Shown(text_.Utf8(value));
+    lines += OnOneLine(text_.Utf8(value));
   }
 }
 

@@ -1,10 +1,10 @@
 #include "table_input.h"
 
 #include "console.h"
+#include "file_reason.h"
 #include "text.h"
 #include "text_file.h"
 
-#include <cerrno>
 #include <filesystem>
 #include <stdexcept>
 #include <system_error>
@@ -15,10 +15,9 @@ TableInput::TableInput(const std::string& name) : is_standard_(name == kInputNam
   if (is_standard_) return;
   const std::filesystem::path path = PathOf(name);
   std::error_code error;
-  if (std::filesystem::is_directory(path, error)) throw std::runtime_error(Text("is a folder"));
-  errno = 0;
   file_.open(path, std::ios::binary);
-  if (!file_) throw std::runtime_error(Text("cannot be read: {0}", {std::generic_category().message(errno)}));
+  if (!file_ || std::filesystem::is_directory(path, error))
+    throw std::runtime_error(Text("cannot be read: {0}", {WhyUnreadable(name)}));
   const auto size = std::filesystem::file_size(path, error);
   size_ = error ? 0 : static_cast<std::int64_t>(size);
 }

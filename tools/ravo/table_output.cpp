@@ -1,7 +1,7 @@
 #include "table_output.h"
 
 #include "console.h"
-#include "table_text.h"
+#include "printable.h"
 #include "text.h"
 
 #include <algorithm>
@@ -65,7 +65,7 @@ std::string_view FirstLines(std::string_view text, std::size_t count) {
 
 void Complain(const std::string& file, const std::string& what) {
   static_cast<void>(
-      tool::Write(Channel::Err, "ravo check: " + (file.empty() ? "" : Shown(file) + ": ") + what + "\n"));
+      tool::Write(Channel::Err, "ravo check: " + (file.empty() ? "" : OnOneLine(file) + ": ") + what + "\n"));
 }
 
 OutputError::OutputError() : std::runtime_error(Text("the output cannot be written")) {}

@@ -1,11 +1,14 @@
 #include "table_run.h"
 
 #include "encoding_guess.h"
+#include "ordered_blocks.h"
 #include "table_columns.h"
 #include "table_shape.h"
 #include "text.h"
 
 #include <algorithm>
+#include <deque>
+#include <mutex>
 #include <stdexcept>
 #include <thread>
 
@@ -86,9 +89,9 @@ void TableRun::CheckFirstBlock() {
   ReadHeader(first.block.Text(), header);
   split_.emplace(job_.rejects, job_.clean);
   split_->Add(mark_, {});
-  TableChecker checker(rules_, [this](BlockWork& work) { WriteWork(work); });
-  checker.Check(first, header.end, 1 + CountLineEnds(first.block.Text().substr(0, header.end)));
-  first.is_done = true;
+  TableChecker checker(rules_);
+  checker.Check(first, header.end, 1 + CountLineEnds(first.block.Text().substr(0, header.end)),
+                [&] { WriteWork(first); });
   WriteWork(first);
   counts_.Add(checker.Counts());
 }
@@ -119,31 +122,32 @@ void TableRun::AddColumn(const std::vector<std::string>& names, const ColumnRequ
 
 void TableRun::CheckRest() {
   const unsigned threads = Threads();
-  BlockQueue queue(reader_, std::size_t{threads} * 2, [this](BlockWork& work) { WriteWork(work); });
-  RunOnThreads(threads, [&] { Work(queue); });
-  queue.Rethrow();
+  std::mutex adding;
+  std::deque<TableChecker> checkers;
+  const auto read = [this](BlockWork& work) {
+    work.is_done = false;
+    return reader_.Next(work.block);
+  };
+  const auto check = [&] {
+    const std::lock_guard lock(adding);
+    return [&checker = checkers.emplace_back(rules_)](BlockWork& work, const auto& write_early) {
+      checker.Check(work, 0, work.block.first_line, [&] {
+        if (!write_early()) work.lines.clear();
+      });
+    };
+  };
+  const auto write = [this](BlockWork& work) {
+    WriteWork(work);
+    return true;
+  };
+  OrderedBlocks<BlockWork>(std::size_t{threads} * 2).Run(threads, read, check, write);
+  for (const TableChecker& checker : checkers) counts_.Add(checker.Counts());
 }
 
 unsigned TableRun::Threads() const {
   if (reader_.IsAtEnd()) return 1;
   const unsigned processors = std::max(1U, std::thread::hardware_concurrency());
   return std::min(job_.threads != 0 ? job_.threads : processors, kMostThreads);
-}
-
-void TableRun::Work(BlockQueue& queue) {
-  try {
-    TableChecker checker(rules_, [&queue](BlockWork& work) {
-      if (!queue.WriteEarly(work)) work.lines.clear();
-    });
-    while (BlockWork* const work = queue.Take()) {
-      checker.Check(*work, 0, work->block.first_line);
-      queue.Finish(*work);
-    }
-    const std::lock_guard lock(counts_lock_);
-    counts_.Add(checker.Counts());
-  } catch (...) {
-    queue.Stop(std::current_exception());
-  }
 }
 
 // Called for one block at a time, in the order of the table.

@@ -7,7 +7,6 @@
 #include "table_output.h"
 #include "table_split.h"
 
-#include <mutex>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -38,7 +37,6 @@ class TableRun {
   void AddColumn(const std::vector<std::string>& names, const ColumnRequest& request);
   void CheckRest();
   [[nodiscard]] unsigned Threads() const;
-  void Work(BlockQueue& queue);
   void WriteWork(BlockWork& work);
 
   const TableJob& job_;
@@ -53,7 +51,6 @@ class TableRun {
   std::optional<FindingLines> lines_;
   TableRules rules_;
   std::optional<TableSplit> split_;
-  std::mutex counts_lock_;
   TableCounts counts_;
 };
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "table_queue.h"
+#include "table_work.h"
 #include "text_file.h"
 
 #include <optional>

@@ -1,5 +1,6 @@
 #include "table_text.h"
 
+#include "encoding_label.h"
 #include <ravo/RavoInterface.h>
 #include <ravo/codec/kernels/block.h>
 
@@ -161,7 +162,7 @@ bool TableText::CanRead(const EncodingRow& encoding) {
 }
 
 TableText::TableText(const EncodingRow& encoding)
-    : label_(encoding.label.substr(0, encoding.label.find(" ("))), is_utf8_(encoding.name == "UTF_8") {
+    : label_(ShortLabel(encoding.label)), is_utf8_(encoding.name == "UTF_8") {
   if (is_utf8_) return;
   for (unsigned i = 0; i < upper_.size(); ++i) {
     upper_[i] = CharacterOf(encoding, static_cast<unsigned char>(i + 0x80));
@@ -191,18 +192,6 @@ std::string TableText::Utf8(std::string_view bytes) const {
 
 bool IsPrintableAscii(std::string_view text) noexcept {
   return std::ranges::all_of(text, [](char byte) { return byte >= 0x20 && byte < 0x7F; });
-}
-
-std::string Shown(std::string_view utf8) {
-  std::string shown;
-  for (std::size_t i = 0; i < utf8.size(); ++i) {
-    if (IsControlByte(utf8, i)) {
-      AppendControl(shown, utf8, i);
-    } else {
-      shown += utf8[i];
-    }
-  }
-  return shown;
 }
 
 void AppendJson(std::string& json, std::string_view utf8) {

@@ -44,10 +44,6 @@ class TableText {
 /// Whether all bytes are printable ASCII.
 [[nodiscard]] bool IsPrintableAscii(std::string_view text) noexcept;
 
-/// Returns `utf8` with its control characters written as escapes ("\t", "\u001B"), so that it fits a line of
-/// a table and cannot steer a terminal.
-[[nodiscard]] std::string Shown(std::string_view utf8);
-
 /// Appends `utf8` to `json` as the inside of a JSON string.
 void AppendJson(std::string& json, std::string_view utf8);
 

@@ -1,5 +1,6 @@
 #include "commands.h"
 #include "console.h"
+#include "json_text.h"
 #include "program.h"
 #include "text.h"
 #include "text_file.h"
@@ -18,6 +19,11 @@ namespace tool {
 namespace {
 
 namespace fs = std::filesystem;
+
+struct TourOptions {
+  bool commands_only = false;
+  bool json = false;
+};
 
 // A file that the commands of the tour read.
 struct TourFile {
@@ -156,10 +162,18 @@ constexpr const char* kTourFooter = ToTranslate(
     "\n"
     "Examples:\n"
     "  ravo tour\n"
-    "  ravo tour --commands           what it would run, one command in a line\n");
+    "  ravo tour --commands           what it would run, one command in a line\n"
+    "  ravo tour --json               the same, with what each command is for\n");
 
 void ListCommands(Outcome& outcome) {
   for (const Stop& stop : kStops) outcome.out += std::string("ravo ") + stop.command + "\n";
+}
+
+void ListStops(Outcome& outcome) {
+  Json stops = Json::array();
+  for (const Stop& stop : kStops)
+    stops.push_back({{"purpose", Text(stop.why)}, {"command", std::string("ravo ") + stop.command}});
+  outcome.out = JsonText(stops);
 }
 
 void Walk(Outcome& outcome) {
@@ -173,10 +187,14 @@ void Walk(Outcome& outcome) {
 
 void AddTourCommand(CLI::App& program, Outcome& outcome) {
   CLI::App* command = program.add_subcommand("tour", Text("Shows the commands at work, in a minute"));
-  const auto commands_only = std::make_shared<bool>(false);
-  command->add_flag("--commands", *commands_only, Text("Only list what the tour runs"));
+  const auto options = std::make_shared<TourOptions>();
+  command->add_flag("--commands", options->commands_only, Text("Only list what the tour runs"));
+  command->add_flag("--json", options->json, Text("Only list what the tour runs, as JSON"));
   command->footer(Text(kTourFooter));
-  command->callback([commands_only, &outcome] { *commands_only ? ListCommands(outcome) : Walk(outcome); });
+  command->callback([options, &outcome] {
+    if (options->json) return ListStops(outcome);
+    options->commands_only ? ListCommands(outcome) : Walk(outcome);
+  });
 }
 
 }  // namespace tool

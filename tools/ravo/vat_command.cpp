@@ -2,6 +2,8 @@
 #include "commands.h"
 #include "czech_day.h"
 #include "json_text.h"
+#include "program_values.h"
+#include "round_answer.h"
 #include "text.h"
 #include <ravo/czech/vat.h>
 
@@ -24,6 +26,7 @@ struct VatOptions {
   std::string rate = "standard";
   std::string on;
   std::string crowns;
+  std::string notation = "input";
   bool total = false;
   bool coefficient = false;
   bool sum = false;
@@ -58,8 +61,9 @@ AmountAndRate SplitAmount(const std::string& text) {
 }
 
 std::string CheckVatAmount(const std::string& text) {
-  if (ParseAmount(SplitAmount(text).amount)) return {};
-  return Text("'{0}' is not an amount of at most four decimals, alone or with a rate as in 1000:12", {text});
+  const auto read = ReadAmount(SplitAmount(text).amount);
+  const auto* const fault = std::get_if<AmountFault>(&read);
+  return fault ? text + ": " + FaultText(*fault) : std::string();
 }
 
 // The kind of rate that a percentage or a name means on a day, or nothing.
@@ -86,10 +90,16 @@ void RefuseVat(Outcome& outcome, const std::string& message) {
   Complain(outcome, message, Answer::WrongUsage);
 }
 
+// A line, and how its amounts are written.
+struct VatInput {
+  czech::VatLine line;
+  Notation notation;
+};
+
 // All lines, or nothing and a message about each that has no rate.
-std::optional<std::vector<czech::VatLine>> VatLinesOf(const VatOptions& options, czech::Day day,
-                                                      Outcome& outcome) {
-  std::vector<czech::VatLine> lines;
+std::optional<std::vector<VatInput>> VatInputsOf(const VatOptions& options, czech::Day day,
+                                                 Outcome& outcome) {
+  std::vector<VatInput> lines;
   for (const std::string& text : options.amounts) {
     const AmountAndRate parts = SplitAmount(text);
     const std::string& rate = parts.rate.empty() ? options.rate : parts.rate;
@@ -98,16 +108,17 @@ std::optional<std::vector<czech::VatLine>> VatLinesOf(const VatOptions& options,
       RefuseVat(outcome, Text("no rate {0} was in force on {1}; see ravo vat --rates", {rate, DayText(day)}));
       continue;
     }
-    lines.push_back({ParseAmount(parts.amount).value_or(ravo::Currency{}), *kind});
+    const Amount amount = std::get<Amount>(ReadAmount(parts.amount));
+    lines.push_back({{amount.value, *kind}, NotationAsked(amount.notation, options.notation)});
   }
   if (lines.size() < options.amounts.size()) return std::nullopt;
   return lines;
 }
 
-std::string VatRowText(std::string_view rate, const czech::VatAmounts& amounts) {
+std::string VatRowText(std::string_view rate, const czech::VatAmounts& amounts, const Notation& notation) {
   std::string text(rate);
   for (const ravo::Currency amount : {amounts.base, amounts.tax, amounts.total})
-    text += "\t" + AmountText(amount);
+    text += "\t" + AmountText(amount, notation);
   if (amounts.half) text += "\t" + Text("the exact tax ends on half a haléř");
   return text + "\n";
 }
@@ -127,20 +138,20 @@ Json RateRow(const czech::VatRow& row) {
 
 // A row of each rate that has lines, and their sum.
 void WriteRecapitulation(const czech::VatRecapitulation& result, const VatOptions& options,
-                         Outcome& outcome) {
+                         const Notation& notation, Outcome& outcome) {
   Json rows = Json::array();
   for (const czech::VatRow& row : result.rows) {
     if (row.lines == 0) continue;
-    outcome.out += VatRowText(std::to_string(row.percent) + " %", row.amounts);
+    outcome.out += VatRowText(std::to_string(row.percent) + " %", row.amounts, notation);
     rows.push_back(RateRow(row));
   }
   Json json{{"rows", rows}, {"sum", VatRowJson(result.sum)}};
-  if (options.sum) outcome.out += VatRowText(Text("sum"), result.sum);
+  if (options.sum) outcome.out += VatRowText(Text("sum"), result.sum, notation);
   if (!options.crowns.empty()) {
     const auto rounded = czech::RoundToCrowns(result.sum.total, kCrownNames.at(options.crowns));
     if (!rounded) return RefuseVat(outcome, Text("an amount is out of range"));
-    outcome.out += Text("to pay") + "\t" + AmountText(rounded.value.rounded) + "\t" +
-                   AmountText(rounded.value.difference) + "\n";
+    outcome.out += Text("to pay") + "\t" + AmountText(rounded.value.rounded, notation) + "\t" +
+                   AmountText(rounded.value.difference, notation) + "\n";
     json["rounded"] = AmountText(rounded.value.rounded);
     json["difference"] = AmountText(rounded.value.difference);
   }
@@ -148,18 +159,26 @@ void WriteRecapitulation(const czech::VatRecapitulation& result, const VatOption
 }
 
 // Each amount by itself.
-void WriteVatLines(const std::vector<czech::VatLine>& lines, const VatOptions& options, czech::Day day,
+void WriteVatLines(const std::vector<VatInput>& inputs, const VatOptions& options, czech::Day day,
                    Outcome& outcome) {
   Json rows = Json::array();
-  for (const czech::VatLine& line : lines) {
+  for (const auto& [line, notation] : inputs) {
     const auto result =
         czech::Recapitulate(std::span(&line, 1), VatMethodOf(options, day), czech::VatPer::Line, day);
     if (!result) return RefuseVat(outcome, Text("an amount is out of range"));
     const czech::VatRow& row = result.value.rows[static_cast<std::size_t>(line.rate)];
-    outcome.out += VatRowText(std::to_string(row.percent) + " %", row.amounts);
+    outcome.out += VatRowText(std::to_string(row.percent) + " %", row.amounts, notation);
     rows.push_back(RateRow(row));
   }
   if (options.json) outcome.out = JsonText(rows);
+}
+
+bool HasRates(czech::Day day) {
+  return static_cast<bool>(czech::VatPercentOn(day, czech::VatRateKind::Standard));
+}
+
+std::string NoRates(czech::Day day) {
+  return Text("no rates are known for {0}; the first are of 1 January 1993", {DayText(day)});
 }
 
 void WriteRates(const VatOptions& options, Outcome& outcome) {
@@ -178,10 +197,7 @@ void WriteRates(const VatOptions& options, Outcome& outcome) {
                     {"percent", rate.percent},
                     {"law", rate.law}});
   }
-  if (rows.empty()) {
-    Complain(outcome, Text("no rates are known for {0}; the first are of 1 January 1993", {DayText(day)}),
-             Answer::No);
-  }
+  if (rows.empty()) Complain(outcome, NoRates(day), Answer::No);
   if (options.json) outcome.out = JsonText(rows);
 }
 
@@ -189,21 +205,25 @@ void Run(const VatOptions& options, Outcome& outcome) {
   if (options.rates) return WriteRates(options, outcome);
   if (options.amounts.empty()) throw CLI::ValidationError(Text("give an amount, or --rates"));
   const czech::Day day = DayOrToday(options.on);
+  if (!HasRates(day)) return RefuseVat(outcome, NoRates(day));
   const czech::VatMethod method = VatMethodOf(options, day);
   if (!czech::IsLawful(method, day)) {
     return RefuseVat(outcome, Text("this way to compute the tax was not lawful on {0}", {DayText(day)}));
   }
-  const auto lines = VatLinesOf(options, day, outcome);
-  if (!lines) return;
-  if (!options.sum && options.crowns.empty()) return WriteVatLines(*lines, options, day, outcome);
+  const auto inputs = VatInputsOf(options, day, outcome);
+  if (!inputs) return;
+  if (!options.sum && options.crowns.empty()) return WriteVatLines(*inputs, options, day, outcome);
+  std::vector<czech::VatLine> lines;
+  for (const VatInput& input : *inputs) lines.push_back(input.line);
   const czech::VatPer per = options.by_line ? czech::VatPer::Line : czech::VatPer::Document;
-  const auto result = czech::Recapitulate(*lines, method, per, day);
+  const auto result = czech::Recapitulate(lines, method, per, day);
   if (!result) return RefuseVat(outcome, Text("an amount is out of range"));
-  WriteRecapitulation(result.value, options, outcome);
+  WriteRecapitulation(result.value, options, inputs->front().notation, outcome);
 }
 
 constexpr const char* kVatFooter = ToTranslate(
-    "Each line has the rate, the base, the tax and the total. The tax is rounded to the haléř, halves away\n"
+    "Each line has the rate, the base, the tax and the total, written like the amount; sums like the first.\n"
+    "The tax is rounded to the haléř, halves away\n"
     "from zero; the amount that was given stays, and the third is the rest. Rates and ways to compute the "
     "tax\n"
     "are those of the day. A coefficient of four decimals was lawful from 1 May 2004 to 30 September 2019,\n"
@@ -233,6 +253,7 @@ void AddVatOptions(CLI::App& command, VatOptions& options) {
   command.add_option("--crowns", options.crowns, Text("Round what is to pay to crowns: nearest, up or down"))
       ->check(CLI::IsMember(kCrownNames))
       ->type_name("HOW");
+  AddNotationOption(command, options.notation);
 }
 
 }  // namespace

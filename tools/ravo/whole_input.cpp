@@ -5,6 +5,7 @@
 #include "text.h"
 #include "text_file.h"
 
+#include <cerrno>
 #include <filesystem>
 #include <fstream>
 #include <span>
@@ -32,18 +33,12 @@ std::string WholeInput() {
 
 [[noreturn]] void Fail(std::errc reason) { throw std::system_error(std::make_error_code(reason)); }
 
-// The reason why a file could not be opened.
-std::errc OpenError(const std::filesystem::path& path) {
-  std::error_code error;
-  return std::filesystem::exists(path, error) || error ? std::errc::permission_denied
-                                                       : std::errc::no_such_file_or_directory;
-}
-
 std::string WholeFileOf(const std::filesystem::path& path) {
   std::error_code error;
   if (std::filesystem::is_directory(path, error)) Fail(std::errc::is_a_directory);
+  errno = 0;
   std::ifstream file(path, std::ios::binary);
-  if (!file) Fail(OpenError(path));
+  if (!file) Fail(static_cast<std::errc>(errno));
   const auto read = [&](std::span<char> to) {
     file.read(to.data(), static_cast<std::streamsize>(to.size()));
     return static_cast<std::size_t>(file.gcount());

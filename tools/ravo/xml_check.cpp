@@ -4,13 +4,15 @@
 #include "document_places.h"
 #include "foreign_text.h"
 #include "json_text.h"
+#include "printable.h"
 #include "text.h"
 #include "text_file.h"
 #include "xml_file.h"
-#include "xml_tree_text.h"
 #include "xml_work.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <functional>
 #include <memory>
 #include <span>
 #include <string>
@@ -19,9 +21,13 @@
 namespace tool {
 namespace {
 
-std::vector<DocumentFinding> FindingsOf(const std::string& name, const OpenDocument& open) {
+// Reports each finding with its place; returns their number.
+using PlacedReport = std::function<void(TextPlace place, const DocumentFinding& finding)>;
+std::size_t ReportFindings(const std::string& name, const OpenDocument& open, const PlacedReport& report) {
+  PlaceFinder places(open.Text().utf8);
   try {
-    return CheckDocument(open.Text(), open.Document());
+    return CheckDocument(open.Text(), open.Document(),
+                         [&](const DocumentFinding& finding) { report(places.Find(finding.at), finding); });
   } catch (const DocumentError& error) {
     throw FileError(ShownName(name) + ":" + PlacedError(open.Text().utf8, error).what());
   }
@@ -43,12 +49,10 @@ std::string FindingText(const XmlOptions& options, const std::string& file, Text
 
 void CheckFile(const XmlOptions& options, const std::string& file, Outcome& outcome) {
   const OpenDocument open(file);
-  const auto findings = FindingsOf(file, open);
-  PlaceFinder places(open.Text().utf8);
-  for (const DocumentFinding& finding : findings) {
-    AddOutput(outcome, FindingText(options, file, places.Find(finding.at), finding));
-  }
-  if (!findings.empty())
+  const auto report = [&](TextPlace place, const DocumentFinding& finding) {
+    AddOutput(outcome, FindingText(options, file, place, finding));
+  };
+  if (ReportFindings(file, open, report) > 0)
     outcome.answer = std::max(outcome.answer, Answer::No);
   else if (!options.json)
     AddOutput(outcome, ShownName(file) + ": " + MessageText(DocumentMessage::Survives) + "\n");
@@ -89,14 +93,16 @@ class SavedDocument final : public ravo::ByteStream {
 // Whether the suite keeps a document; reports why not.
 bool Survives(const XmlOptions& options, const std::string& bytes, Outcome& outcome) {
   const OpenDocument open(options.file, bytes);
-  const auto findings = FindingsOf(options.file, open);
-  if (findings.empty()) return true;
-  PlaceFinder places(open.Text().utf8);
-  const TextPlace place = places.Find(findings[0].at);
-  const std::string at = ":" + std::to_string(place.line) + ":" + std::to_string(place.column) + ": ";
-  Complain(outcome, ShownName(options.file) + at + findings[0].Text(), Answer::No);
+  std::string first;
+  const auto keep_first = [&first](TextPlace place, const DocumentFinding& finding) {
+    if (!first.empty()) return;
+    first = ":" + std::to_string(place.line) + ":" + std::to_string(place.column) + ": " + finding.Text();
+  };
+  const std::size_t count = ReportFindings(options.file, open, keep_first);
+  if (count == 0) return true;
+  Complain(outcome, ShownName(options.file) + first, Answer::No);
   const std::string refusal =
-      TextOf(std::ssize(findings),
+      TextOf(static_cast<std::int64_t>(count),
              "the suite would spoil the document in one place; --suite formats it all the same",
              "the suite would spoil the document in {0} places, which `ravo xml check` lists; --suite "
              "formats it all the same");

@@ -1,7 +1,7 @@
 #include "commands.h"
 #include "document_file.h"
+#include "printable.h"
 #include "text.h"
-#include "xml_tree_text.h"
 #include "xml_work.h"
 #include <ravo/RavoInterface.h>
 

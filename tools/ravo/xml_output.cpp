@@ -1,5 +1,5 @@
 #include "console.h"
-#include "xml_tree_text.h"
+#include "printable.h"
 #include "xml_work.h"
 
 #include <algorithm>
@@ -23,7 +23,7 @@ std::string OnLines(std::string_view utf8) {
     const std::size_t end = std::min(utf8.find('\n'), utf8.size());
     std::string_view line = utf8.substr(0, end);
     if (line.ends_with('\r')) line.remove_suffix(1);
-    shown += OnOneLine(std::string(line));
+    shown += Printable(line);
     if (end < utf8.size()) shown += '\n';
     utf8.remove_prefix(std::min(end + 1, utf8.size()));
   }

@@ -1,8 +1,8 @@
 #include "document_file.h"
 #include "document_places.h"
 #include "json_text.h"
+#include "printable.h"
 #include "xml_file.h"
-#include "xml_tree_text.h"
 #include "xml_work.h"
 #include <ravo/ECXMLTokenizer.h>
 #include <ravo/RavoInterface.h>

@@ -1,5 +1,6 @@
 #include "xml_tree_text.h"
 
+#include "printable.h"
 #include "text.h"
 
 #include <algorithm>
@@ -7,10 +8,16 @@
 namespace tool {
 namespace {
 
-std::string Stripped(const std::string& text) {
-  const std::size_t begin = text.find_first_not_of(' ');
+// Tabs and line ends of a text are layout: each is a blank, and none is left at the edges.
+std::string WithoutLayout(std::string_view text) {
+  std::string line;
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    if (text.substr(at, 2) == "\r\n") continue;
+    line += text[at] == '\t' || text[at] == '\n' ? ' ' : text[at];
+  }
+  const std::size_t begin = line.find_first_not_of(' ');
   return begin == std::string::npos ? std::string()
-                                    : text.substr(begin, text.find_last_not_of(' ') + 1 - begin);
+                                    : line.substr(begin, line.find_last_not_of(' ') + 1 - begin);
 }
 
 class Painter {
@@ -33,30 +40,11 @@ std::string ElementLine(const ReadElement& element, const Painter& painter) {
   for (const auto& [name, value] : element.attributes) {
     line += " " + painter.Attribute(OnOneLine(name)) + "=" + painter.Value("\"" + OnOneLine(value) + "\"");
   }
-  const std::string text = Stripped(OnOneLine(element.text));
+  const std::string text = OnOneLine(WithoutLayout(element.text));
   return text.empty() ? line : line + ": " + text;
 }
 
-// Control characters, which a terminal may obey: those of ASCII, and U+0080 to U+009F, which are C2 80 to C2
-// 9F in UTF-8.
-bool IsControl(const std::string& utf8, std::size_t at) {
-  const auto byte = static_cast<unsigned char>(utf8[at]);
-  if (byte < 0x20 || byte == 0x7F) return true;
-  return byte == 0xC2 && at + 1 < utf8.size() && static_cast<unsigned char>(utf8[at + 1]) < 0xA0;
-}
-
 }  // namespace
-
-std::string OnOneLine(std::string utf8) {
-  std::size_t to = 0;
-  for (std::size_t at = 0; at < utf8.size(); ++at) {
-    const bool control = IsControl(utf8, at);
-    if (control && (utf8[at] == '\xC2' || (utf8[at] == '\r' && utf8[at + 1] == '\n'))) ++at;
-    utf8[to++] = control ? ' ' : utf8[at];
-  }
-  utf8.resize(to);
-  return utf8;
-}
 
 // Indents stop growing where they would no longer help.
 std::string XmlElementLine(const ReadElement& element, bool colours) {

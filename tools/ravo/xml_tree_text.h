@@ -6,9 +6,6 @@
 
 namespace tool {
 
-/// Returns `utf8` with a blank for each line break and control character.
-[[nodiscard]] std::string OnOneLine(std::string utf8);
-
 /// Returns the line of an element: its name, attributes and text, indented by its depth.
 [[nodiscard]] std::string XmlElementLine(const ReadElement& element, bool colours);
 

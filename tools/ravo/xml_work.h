@@ -37,7 +37,7 @@ XmlWork FormatXml;
 /// Adds to the output, which is written as it grows.
 void AddOutput(Outcome& outcome, std::string_view text);
 
-/// Returns a text of several lines in the form for a terminal, without control characters.
+/// Returns a text of several lines in the form for a terminal, with its control characters made visible.
 [[nodiscard]] std::string OnLines(std::string_view utf8);
 
 }  // namespace tool
