@@ -38,6 +38,7 @@ struct Finding {
   std::string_view element;  ///< the name of the element; lives as long as the document
   std::string found;         ///< what is there, UTF-8; empty if there is nothing
   std::string expected;      ///< what should be there; empty if the rule says it all
+  czech::Code reason{};      ///< why the country's rules refuse it; `Correct` if they do not
 };
 
 /// Findings in the order in which they were found.
