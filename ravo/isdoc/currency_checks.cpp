@@ -50,15 +50,18 @@ class RateChecker {
   RateChecker(const Invoice& invoice, const Amount& rate, const Amount& reference)
       : invoice_(invoice), rate_(rate), reference_(reference) {}
 
-  // `count`: of how many amounts, each converted by itself, the sum may be.
-  void Check(const Element& element, const MoneyName& name, std::size_t count) const {
+  // `count`: of how many amounts, each converted by itself, the sum may be. A tax may be computed in both
+  // currencies, and each then has a rounding of its own.
+  void Check(const Element& element, const MoneyName& name, std::size_t count, bool has_tax) const {
     const auto local = invoice_.Number(element, name.local);
     const auto foreign = invoice_.Number(element, name.foreign);
     if (!local || !foreign) return;
     const Amount exact = *foreign * rate_;
     const Amount difference = *local * reference_ - exact;
-    if (difference.Absolute() <= local->HalfUnit() * reference_.Absolute()) return;
-    const Amount tolerance = Tolerance(count + 1) * reference_.Absolute() + foreign->HalfUnit() * rate_.Absolute();
+    const Amount rounding = local->HalfUnit() * reference_.Absolute();
+    const Amount foreign_rounding = foreign->HalfUnit() * rate_.Absolute();
+    if (difference.Absolute() <= (has_tax ? rounding + foreign_rounding : rounding)) return;
+    const Amount tolerance = Tolerance(count + 1) * reference_.Absolute() + foreign_rounding;
     const auto expected = exact.DividedBy(reference_, 2);
     invoice_.Report(Rule::Conversion, GravityOf(difference, tolerance), *invoice_.Child(element, name.local),
                     std::string(invoice_.Text(element, name.local)), expected ? expected->Text() : "");
@@ -77,16 +80,19 @@ void CheckConversions(const Invoice& invoice) {
   if (!rate || !reference || reference->IsZero()) return;
   const RateChecker checker(invoice, *rate, *reference);
   for (const Line& line : invoice.Lines()) {
-    for (const MoneyName& name : {kLineBase, kLineTotal}) checker.Check(*line.element, name, 1);
+    checker.Check(*line.element, kLineBase, 1, false);
+    checker.Check(*line.element, kLineTotal, 1, true);
   }
   for (const Subtotal& subtotal : invoice.Subtotals()) {
-    for (const MoneyName& name : {kBase, kTax, kTotal})
-      checker.Check(*subtotal.element, name, subtotal.lines.size());
+    checker.Check(*subtotal.element, kBase, subtotal.lines.size(), false);
+    for (const MoneyName& name : {kTax, kTotal})
+      checker.Check(*subtotal.element, name, subtotal.lines.size(), true);
   }
   if (const Element* const tax = invoice.Child(invoice.Root(), "TaxTotal"))
-    checker.Check(*tax, kTax, invoice.Lines().size());
+    checker.Check(*tax, kTax, invoice.Lines().size(), true);
   if (const Element* const totals = invoice.Totals()) {
-    for (const MoneyName& name : {kSumBase, kTotal}) checker.Check(*totals, name, invoice.Lines().size());
+    checker.Check(*totals, kSumBase, invoice.Lines().size(), false);
+    checker.Check(*totals, kTotal, invoice.Lines().size(), true);
   }
 }
 
