@@ -64,7 +64,6 @@ constexpr Verdict kSkipped{};
 constexpr Verdict kAny{Verdict::Kind::Any, nullptr, nullptr};
 
 Verdict Typed(const Type& type) { return {Verdict::Kind::Typed, &type, nullptr}; }
-Verdict RootTyped(const Root& root) { return {Verdict::Kind::Typed, &kTypes[root.type], &root}; }
 
 // Walks through a document with one frame for each open element.
 class StructureWalk {
@@ -106,12 +105,19 @@ class StructureWalk {
 
   Verdict RootVerdict(const Element& element) {
     root_ = RootOf(element);
-    if (root_ != nullptr) return RootTyped(*root_);
+    if (root_ != nullptr) return RootTyped(element, *root_);
     std::string expected;
     for (const Root& root : kRoots)
       AppendName(expected, "{" + std::string(kSpace) + "}" + std::string(root.name));
     Report(Rule::RootUnknown, element, "{" + std::string(element.space) + "}" + std::string(element.name),
            std::move(expected));
+    return kSkipped;
+  }
+
+  // No type restricts that of a root.
+  Verdict RootTyped(const Element& element, const Root& root) {
+    if (document_.TypeOf(element) == nullptr) return {Verdict::Kind::Typed, &kTypes[root.type], &root};
+    ReportType(element, {});
     return kSkipped;
   }
 
@@ -133,7 +139,7 @@ class StructureWalk {
   // An element of extensions or of a signature: its type is the one that it declares, or that of a document
   // of its own.
   Verdict AnyVerdict(const Element& element) {
-    if (root_ != nullptr && RootOf(element) == root_) return RootTyped(*root_);
+    if (root_ != nullptr && RootOf(element) == root_) return RootTyped(element, *root_);
     const DeclaredType* const declared = document_.TypeOf(element);
     if (declared == nullptr) return kAny;
     if (const Type* const type = TypeNamed(declared->space, declared->name)) return Typed(*type);

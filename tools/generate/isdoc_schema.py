@@ -3,9 +3,12 @@
 attributes, facets, keys. What the schemas do not use is refused, not guessed.
 
 usage: tools/generate/isdoc_schema.py SCHEMA_FOLDER            writes the checked-in file
-       tools/generate/isdoc_schema.py SCHEMA_FOLDER --check    exit status 1 if the checked-in file differs
+       tools/generate/isdoc_schema.py [SCHEMA_FOLDER] --check  exit status 1 if the checked-in file differs
+
+Without a folder the check takes the one that RAVO_ISDOC_SCHEMAS names; if there is none either, its status is 77.
 """
 import dataclasses
+import os
 import pathlib
 import sys
 import xml.etree.ElementTree as ElementTree
@@ -459,6 +462,11 @@ def text_of(folder: pathlib.Path) -> str:
 def main(arguments: list[str]) -> int:
     check = "--check" in arguments
     folders = [argument for argument in arguments if argument != "--check"]
+    if check and not folders:
+        folders = [os.environ.get("RAVO_ISDOC_SCHEMAS", "")]
+        if not folders[0]:
+            print("RAVO_ISDOC_SCHEMAS names no folder with the schemas")
+            return 77
     if len(folders) != 1:
         sys.exit(__doc__)
     text = text_of(pathlib.Path(folders[0]))
