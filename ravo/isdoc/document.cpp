@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <type_traits>
+#include <unordered_map>
 #include <utility>
 
 #include <expat.h>
@@ -34,6 +35,7 @@ class DocumentReader {
     XML_SetUserData(parser_.get(), this);
     XML_SetElementHandler(parser_.get(), Opened, Closed);
     XML_SetCharacterDataHandler(parser_.get(), Texted);
+    XML_SetNamespaceDeclHandler(parser_.get(), SpaceDeclared, SpaceEnded);
   }
 
   std::optional<Document> Read(std::string_view utf8, ReadingError& error) {
@@ -93,6 +95,29 @@ class DocumentReader {
       self.open_[self.depth_ - 1].text.append(text, static_cast<std::size_t>(size));
     });
   }
+  static void SpaceDeclared(void* own, const XML_Char* prefix, const XML_Char* space) {
+    Guarded(own, [&](DocumentReader& self) {
+      self.spaces_[prefix == nullptr ? "" : prefix].push_back(self.Stored(space == nullptr ? "" : space));
+    });
+  }
+  static void SpaceEnded(void* own, const XML_Char* prefix) {
+    Guarded(own, [&](DocumentReader& self) { self.spaces_[prefix == nullptr ? "" : prefix].pop_back(); });
+  }
+
+  // The type of a qualified name such as "xs:date", by the prefixes of this place.
+  DeclaredType Declared(std::uint32_t element, std::string_view name) {
+    const std::size_t first = name.find_first_not_of(" \t\r\n");
+    if (first == std::string_view::npos) return {element, {}, {}};
+    name = name.substr(first, name.find_last_not_of(" \t\r\n") - first + 1);
+    const std::size_t colon = name.find(':');
+    const std::string_view prefix =
+        colon == std::string_view::npos ? std::string_view() : name.substr(0, colon);
+    const auto declared = spaces_.find(std::string(prefix));
+    const bool known = declared != spaces_.end() && !declared->second.empty();
+    if (!known && !prefix.empty()) return {element, {}, {}};
+    return {element, known ? declared->second.back() : std::string_view(),
+            name.substr(prefix.empty() ? 0 : colon + 1)};
+  }
 
   void Begin(std::string_view name, const XML_Char** attributes) {
     const auto number = static_cast<std::uint32_t>(document_.elements_.size());
@@ -108,6 +133,9 @@ class DocumentReader {
       const Name attribute = Divided(attributes[0]);
       document_.attributes_.push_back(
           {Stored(attribute.space), Stored(attribute.local), Stored(attributes[1])});
+      if (attribute.local == "type" && attribute.space == kInstanceSpace) {
+        document_.types_.push_back(Declared(number, document_.attributes_.back().value));
+      }
     }
     document_.elements_.push_back(element);
     // Texts of closed elements are used again with their room.
@@ -150,11 +178,18 @@ class DocumentReader {
   std::vector<Open> open_;
   std::size_t depth_ = 0;
   std::string_view last_space_;
+  // The namespaces of each prefix, the innermost last.
+  std::unordered_map<std::string, std::vector<std::string_view>> spaces_;
   bool no_memory_ = false;
 };
 
 std::optional<Document> Document::Read(std::string_view utf8, ReadingError& error) {
   return DocumentReader().Read(utf8, error);
+}
+
+const DeclaredType* Document::TypeOf(const Element& element) const noexcept {
+  const auto found = std::ranges::lower_bound(types_, NumberOf(element), {}, &DeclaredType::element);
+  return found == types_.end() || found->element != NumberOf(element) ? nullptr : &*found;
 }
 
 const Element* Document::Child(const Element& element, std::string_view name) const noexcept {

@@ -39,8 +39,18 @@ struct Element {
   std::uint32_t attribute_count = 0;
 };
 
+/// The type that an element declares for itself by `xsi:type`.
+struct DeclaredType {
+  std::uint32_t element = 0;  ///< number
+  std::string_view space;     ///< the URI of its prefix's namespace; empty for none
+  std::string_view name;      ///< without a prefix; empty if nothing declares the prefix
+};
+
 /// The number that no element has.
 inline constexpr std::uint32_t kNone = 0xFFFF'FFFF;
+
+/// The namespace of `xsi:type` and of the attributes that tell where a schema is.
+inline constexpr std::string_view kInstanceSpace = "http://www.w3.org/2001/XMLSchema-instance";
 
 /// Why a document could not be read, and where.
 struct ReadingError {
@@ -77,6 +87,9 @@ class Document {
     return std::span(attributes_).subspan(element.first_attribute, element.attribute_count);
   }
 
+  /// The type that the element declares; null if it declares none.
+  [[nodiscard]] const DeclaredType* TypeOf(const Element& element) const noexcept;
+
  private:
   friend class DocumentReader;
   [[nodiscard]] const Element* At(std::uint32_t number) const noexcept {
@@ -86,6 +99,7 @@ class Document {
   std::unique_ptr<std::pmr::monotonic_buffer_resource> texts_;
   std::vector<Element> elements_;
   std::vector<Attribute> attributes_;
+  std::vector<DeclaredType> types_;
 };
 
 /// Calls `use(child)` for each child of an element that has this name.
