@@ -114,7 +114,7 @@ void CheckTaxOfRow(const Invoice& invoice, const Subtotal& subtotal, bool is_for
   const LawfulTaxes lawful(*base, *total, subtotal.percent, invoice.TaxDay(), 2);
   const auto lines = is_foreign || subtotal.lines.empty() ? std::nullopt : TaxOfLines(invoice, subtotal);
   const Element& at = *invoice.Child(row, kTax.In(is_foreign));
-  TaxWay way = lawful.WayOf(*tax);
+  TaxWay way = lawful.WayOf(*tax, IsFromTotal(subtotal));
   const bool differs = lines && *lines != *tax;
   if (way != TaxWay::None && !differs) return;
   if (!is_foreign && way == TaxWay::None && IsConverted(invoice, row, *tax)) return;

@@ -4,6 +4,8 @@
 
 #include "invoice.h"
 
+#include <algorithm>
+
 namespace ravo::isdoc {
 namespace detail {
 namespace {
@@ -22,7 +24,8 @@ TaxWay WayOfRow(const Invoice& invoice, const Subtotal& subtotal) {
   if (!base || !tax || !total) return TaxWay::None;
   if (subtotal.percent.IsZero() || subtotal.reverse || !subtotal.is_taxed)
     return tax->IsZero() ? TaxWay::Untaxed : TaxWay::None;
-  const TaxWay way = LawfulTaxes(*base, *total, subtotal.percent, invoice.TaxDay(), 2).WayOf(*tax);
+  const TaxWay way = LawfulTaxes(*base, *total, subtotal.percent, invoice.TaxDay(), 2)
+                         .WayOf(*tax, IsFromTotal(subtotal));
   if (way != TaxWay::None) return way;
   const auto lines = TaxOfLines(invoice, subtotal);
   return lines && *lines == *tax ? TaxWay::SumOfLines : TaxWay::None;
@@ -41,11 +44,17 @@ LawfulTaxes::LawfulTaxes(const Amount& base, const Amount& total, const Amount& 
     Add(TaxWay::ByCoefficient, (total * *coefficient).Rounded(decimals));
 }
 
-TaxWay LawfulTaxes::WayOf(const Amount& tax) const noexcept {
+TaxWay LawfulTaxes::WayOf(const Amount& tax, bool from_total) const noexcept {
+  TaxWay way = TaxWay::None;
   for (const Tax& lawful : All()) {
-    if (lawful.amount == tax) return lawful.way;
+    if (lawful.amount != tax) continue;
+    if (way == TaxWay::None || (from_total && way == TaxWay::FromBase)) way = lawful.way;
   }
-  return TaxWay::None;
+  return way;
+}
+
+bool IsFromTotal(const Subtotal& subtotal) noexcept {
+  return !subtotal.lines.empty() && std::ranges::all_of(subtotal.lines, &Line::from_total);
 }
 
 std::optional<Amount> TaxOfLines(const Invoice& invoice, const Subtotal& subtotal) {

@@ -29,8 +29,8 @@ struct RateWay {
   TaxWay way = TaxWay::None;
 };
 
-/// Returns for each row of the recapitulation the first lawful way that gives its tax, in the order of the
-/// document.
+/// Returns for each row of the recapitulation the lawful way that gives its tax, in the order of the document.
+/// Of several it is the one that the lines name.
 [[nodiscard]] std::vector<RateWay> TaxWays(const Document& document);
 
 namespace detail {
@@ -51,8 +51,9 @@ class LawfulTaxes {
   LawfulTaxes(const Amount& base, const Amount& total, const Amount& percent, std::optional<czech::Day> day,
               int decimals);
 
-  /// The way that gives `tax`; `None` if there is no such way.
-  [[nodiscard]] TaxWay WayOf(const Amount& tax) const noexcept;
+  /// The way that gives `tax`; `None` if there is no such way. Of several the one from the base or, for
+  /// `from_total`, the one from the total.
+  [[nodiscard]] TaxWay WayOf(const Amount& tax, bool from_total = false) const noexcept;
   [[nodiscard]] std::span<const Tax> All() const noexcept { return std::span(taxes_).first(count_); }
 
  private:
@@ -61,6 +62,9 @@ class LawfulTaxes {
   std::array<Tax, 3> taxes_;
   std::size_t count_ = 0;
 };
+
+/// Returns whether the lines of a row say that their tax comes from the total.
+[[nodiscard]] bool IsFromTotal(const Subtotal& subtotal) noexcept;
 
 /// Returns the sum of the taxes of a row's lines; nothing if one has none.
 [[nodiscard]] std::optional<Amount> TaxOfLines(const Invoice& invoice, const Subtotal& subtotal);

@@ -228,7 +228,9 @@ std::string Shop(std::string_view day, std::string_view base, std::string_view t
 // 19.98 x 21 / 121 is 3.4676: 3.47, and 1.73 of each line makes 3.46; 16.51 x 21 % is 3.47, 16.52 is 3.47 too.
 TEST(ContentRules, NameTheWayThatFitsWhereAnotherDoesNot) {
   const auto ways = [](const std::string& text) { return TaxWays(test::Parsed(text)).at(0).way; };
-  EXPECT_EQ(ways(Shop("2026-11-02", "16.51", "3.47")), TaxWay::FromBase);
+  EXPECT_EQ(ways(Shop("2026-11-02", "16.51", "3.47")), TaxWay::FromTotal);
+  EXPECT_EQ(ways(test::Sample("domestic.isdoc")), TaxWay::FromBase);
+  EXPECT_EQ(ways(test::Sample("receipt.isdoc")), TaxWay::FromTotal);
   EXPECT_EQ(ways(Shop("2026-11-02", "16.52", "3.46")), TaxWay::SumOfLines);
   EXPECT_EQ(ways(Shop("2026-11-02", "16.00", "3.47")), TaxWay::FromTotal);
   EXPECT_EQ(ways(Shop("2026-11-02", "16.00", "3.40")), TaxWay::None);
@@ -238,7 +240,7 @@ TEST(ContentRules, NameTheWayThatFitsWhereAnotherDoesNot) {
 
 TEST(ContentRules, TakeTheRoundingOfEachLineForANote) {
   const Findings findings = FindingsIn(Shop("2026-11-02", "16.51", "3.47"));
-  const auto named = std::ranges::find(findings, Rule::TaxFromBase, &Finding::rule);
+  const auto named = std::ranges::find(findings, Rule::TaxFromTotal, &Finding::rule);
   ASSERT_NE(named, findings.end()) << ListOf(findings);
   EXPECT_EQ(named->severity, kNote);
   EXPECT_EQ(named->found, "3.47");

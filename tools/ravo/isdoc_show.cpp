@@ -281,10 +281,12 @@ std::string RatesText(const Json& rates) {
 std::string TotalsText(const Json& invoice) {
   Columns rows;
   const Json& totals = invoice.at("totals");
+  const bool has_deposits = Str(totals, "claimed_total") != "0.00";
   for (const Field& field : kTotals) {
     const std::string amount = Str(totals, field.name);
-    const bool always = std::string_view(field.name) == "payable";
-    if (!amount.empty() && (always || amount != "0.00"))
+    const std::string_view name = field.name;
+    const bool says_something = amount != "0.00" && (name != "difference_total" || has_deposits);
+    if (!amount.empty() && (says_something || name == "payable"))
       rows.Add({Text(field.caption), amount + " " + Str(invoice, "currency")});
   }
   return rows.Text();
