@@ -77,14 +77,12 @@ bool ContentModel::Reaches(std::size_t state, std::uint16_t element) const {
   return false;
 }
 
-// The elements of which one must come at a state; where none must come alone, all that may.
+// The elements of which one must come at a state. Every state that is not final has some.
 ContentModel::Names ContentModel::Needed(std::size_t state) const {
   Names needed;
   for (const Arc& arc : ArcsOf(state)) {
     if (arc.needed) needed.push_back(arc.element);
   }
-  if (!needed.empty()) return needed;
-  for (const Arc& arc : ArcsOf(state)) needed.push_back(arc.element);
   return needed;
 }
 

@@ -154,26 +154,12 @@ std::size_t CharacterCount(std::string_view utf8) {
       utf8, [](char unit) { return (static_cast<unsigned char>(unit) & 0xC0U) != 0x80U; }));
 }
 
-std::optional<ValueFault> FormFault(BuiltIn type) {
-  switch (type) {
-    case BuiltIn::Decimal:
-      return ValueFault{Rule::NumberForm, {}};
-    case BuiltIn::Integer:
-      return ValueFault{Rule::IntegerForm, {}};
-    case BuiltIn::Boolean:
-      return ValueFault{Rule::BooleanForm, "true, false"};
-    case BuiltIn::Date:
-      return ValueFault{Rule::DateForm, {}};
-    case BuiltIn::Time:
-      return ValueFault{Rule::TimeForm, {}};
-    case BuiltIn::Uri:
-      return ValueFault{Rule::AddressForm, {}};
-    case BuiltIn::Language:
-      return ValueFault{Rule::LanguageForm, {}};
-    case BuiltIn::String:
-      break;
-  }
-  return std::nullopt;
+// The rule that a text breaks which does not have the form of a type, in the order of the types.
+constexpr Rule kFormRules[] = {Rule{},         Rule::NumberForm, Rule::IntegerForm, Rule::BooleanForm,
+                               Rule::DateForm, Rule::TimeForm,   Rule::AddressForm, Rule::LanguageForm};
+
+ValueFault FormFault(BuiltIn type) {
+  return {kFormRules[static_cast<std::size_t>(type)], type == BuiltIn::Boolean ? "true, false" : ""};
 }
 
 std::span<const Facet> FacetsOf(const Type& type) {

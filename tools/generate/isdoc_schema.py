@@ -360,10 +360,13 @@ class Rows:
         leaves = [automaton.leaves[position] for position in arcs]
         expect(len(set(leaves)) == len(leaves), f"ambiguous: {leaves}")
         self.states.append(f"{{{len(self.arcs)}, {len(arcs)}, {str(final).lower()}}},")
+        later = {position: reachable(automaton, position) for position in arcs}
+        needed = [position for position in arcs
+                  if not final and not any(other in later[position] for other in arcs if other != position)]
+        expect(final or bool(needed), f"no element is needed: {leaves}")
         for position in arcs:
-            later = reachable(automaton, position)
-            needed = not final and not any(other in later for other in arcs if other != position)
-            self.arcs.append(f"{{{names.index(automaton.leaves[position])}, {position + 1}, {str(needed).lower()}}},")
+            number = names.index(automaton.leaves[position])
+            self.arcs.append(f"{{{number}, {position + 1}, {str(position in needed).lower()}}},")
 
     def pattern(self, text: str) -> int:
         """The first state of the pattern's automaton, which is made deterministic."""
