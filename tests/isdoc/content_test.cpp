@@ -261,7 +261,7 @@ TEST(ContentRules, AreAllTried) {
   std::set<Rule> tried{Rule::RateTwice, Rule::TaxFromTotal, Rule::TaxByCoefficient};
   for (const Row& row : kRows) tried.insert(row.rule);
 #define RAVO_RULE(number, name, text, czech, english) \
-  if ((number) >= 200) EXPECT_TRUE(tried.contains(Rule::name)) << text;
+  EXPECT_TRUE((number) < 200 || tried.contains(Rule::name)) << text;
 #include <ravo/isdoc/rules.inc>
 #undef RAVO_RULE
 }
