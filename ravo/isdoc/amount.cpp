@@ -54,7 +54,8 @@ std::optional<Amount> Amount::Read(std::string_view text) noexcept {
   if (!parts) return std::nullopt;
   parts->whole.remove_prefix(std::min(parts->whole.find_first_not_of('0'), parts->whole.size()));
   if (parts->fraction.size() > kMostDigits)
-    parts->fraction = parts->fraction.substr(0, std::max<std::size_t>(kMostDigits, parts->fraction.find_last_not_of('0') + 1));
+    parts->fraction = parts->fraction.substr(
+        0, std::max<std::size_t>(kMostDigits, parts->fraction.find_last_not_of('0') + 1));
   if (parts->whole.size() > kMostDigits || parts->fraction.size() > kMostDigits) return std::nullopt;
   for (const std::string_view digits : {parts->whole, parts->fraction}) {
     for (const char digit : digits) result.MultiplyAndAdd(10, static_cast<std::uint32_t>(digit - '0'));
@@ -93,7 +94,8 @@ Amount Amount::Absolute() const noexcept {
 Amount Amount::HalfUnit() const noexcept { return Amount(5, std::max(decimals_, 2) + 1); }
 
 std::optional<Amount> Amount::DividedBy(const Amount& divisor, int decimals) const noexcept {
-  if (divisor.IsZero() || !std::all_of(divisor.limbs_.begin() + 1, divisor.limbs_.end(), [](auto limb) { return limb == 0; }))
+  if (divisor.IsZero() ||
+      !std::all_of(divisor.limbs_.begin() + 1, divisor.limbs_.end(), [](auto limb) { return limb == 0; }))
     return std::nullopt;
   // One decimal more than asked for decides how it is rounded.
   Amount result = WithDecimals(std::max(decimals_, decimals + 1));
@@ -161,8 +163,7 @@ std::strong_ordering operator<=>(const Amount& left, const Amount& right) noexce
   if (left.IsNegative() != right.IsNegative())
     return left.IsNegative() ? std::strong_ordering::less : std::strong_ordering::greater;
   const int decimals = std::max(left.decimals_, right.decimals_);
-  const auto sizes =
-      CompareSizes(left.WithDecimals(decimals).limbs_, right.WithDecimals(decimals).limbs_);
+  const auto sizes = CompareSizes(left.WithDecimals(decimals).limbs_, right.WithDecimals(decimals).limbs_);
   return left.IsNegative() ? 0 <=> sizes : sizes;
 }
 

@@ -8,8 +8,8 @@ namespace ravo::isdoc {
 namespace {
 
 constexpr void (*kChecks[])(const detail::Invoice&) = {
-    detail::CheckBusinessRules,  detail::CheckCurrencies, detail::CheckItems, detail::CheckParties,
-    detail::CheckPayment,        detail::CheckDates,      detail::CheckLines, detail::CheckRates,
+    detail::CheckBusinessRules,  detail::CheckCurrencies, detail::CheckItems,  detail::CheckParties,
+    detail::CheckPayment,        detail::CheckDates,      detail::CheckLines,  detail::CheckRates,
     detail::CheckRecapitulation, detail::CheckDeposits,   detail::CheckTotals,
 };
 

@@ -8,8 +8,8 @@ namespace ravo::isdoc::detail {
 namespace {
 
 const MoneyName* Named(std::string_view name, bool is_foreign) {
-  const auto* const found = std::ranges::find_if(
-      kMoneyNames, [&](const MoneyName& names) { return names.In(is_foreign) == name; });
+  const auto* const found =
+      std::ranges::find_if(kMoneyNames, [&](const MoneyName& names) { return names.In(is_foreign) == name; });
   return found == std::end(kMoneyNames) ? nullptr : found;
 }
 

@@ -36,7 +36,8 @@ void CheckDue(const Invoice& invoice, czech::Day issued) {
     const auto due = details == nullptr ? std::nullopt : invoice.Day(*details, "PaymentDueDate");
     if (due && *due < issued)
       invoice.Report(Rule::DueBeforeIssue, Severity::Note, *invoice.Child(*details, "PaymentDueDate"),
-                     Written(invoice, *details, "PaymentDueDate"), Written(invoice, invoice.Root(), "IssueDate"));
+                     Written(invoice, *details, "PaymentDueDate"),
+                     Written(invoice, invoice.Root(), "IssueDate"));
   });
 }
 
@@ -62,7 +63,8 @@ void CheckDates(const Invoice& invoice) {
   CheckDue(invoice, *issued);
   CheckReferences(invoice, *issued, "OriginalDocumentReferences", "OriginalDocumentReference",
                   Rule::OriginalLater, Severity::Error);
-  CheckReferences(invoice, *issued, "OrderReferences", "OrderReference", Rule::ReferenceLater, Severity::Note);
+  CheckReferences(invoice, *issued, "OrderReferences", "OrderReference", Rule::ReferenceLater,
+                  Severity::Note);
   CheckReferences(invoice, *issued, "DeliveryNoteReferences", "DeliveryNoteReference", Rule::ReferenceLater,
                   Severity::Note);
   CheckReferences(invoice, *issued, "ContractReferences", "ContractReference", Rule::ReferenceLater,

@@ -58,9 +58,8 @@ Amount SumOfRate(const Invoice& invoice, const Element& deposits, const Subtotal
 
 // Rows of one rate share its deposits: with reverse charge or without.
 bool HasOwnRate(const Invoice& invoice, const Subtotal& subtotal) {
-  return std::ranges::count_if(invoice.Subtotals(), [&](const Subtotal& other) {
-           return other.percent == subtotal.percent;
-         }) == 1;
+  return std::ranges::count_if(invoice.Subtotals(),
+                               [&](const Subtotal& other) { return other.percent == subtotal.percent; }) == 1;
 }
 
 void CheckTaxedDeposits(const Invoice& invoice, bool is_foreign) {

@@ -88,8 +88,7 @@ void Invoice::Report(Rule rule, Severity severity, const Element& element, std::
 }
 
 void Invoice::Refuse(Rule rule, const Element& element, std::string_view found, czech::Code reason) const {
-  findings_.push_back(
-      {rule, Severity::Error, element.place, element.name, std::string(found), {}, reason});
+  findings_.push_back({rule, Severity::Error, element.place, element.name, std::string(found), {}, reason});
 }
 
 void Invoice::Expect(Rule rule, const Element& element, std::string_view name, const Amount& expected,
@@ -142,7 +141,8 @@ Subtotal* Invoice::SubtotalOf(const Line& line) noexcept {
   Subtotal* best = nullptr;
   int most = -1;
   for (Subtotal& subtotal : subtotals_) {
-    const int agreed = (subtotal.reverse == line.reverse ? 2 : 0) + (subtotal.is_taxed == line.is_taxed ? 1 : 0);
+    const int agreed =
+        (subtotal.reverse == line.reverse ? 2 : 0) + (subtotal.is_taxed == line.is_taxed ? 1 : 0);
     if (subtotal.percent != line.percent || agreed <= most) continue;
     best = &subtotal;
     most = agreed;

@@ -53,18 +53,18 @@ inline constexpr MoneyName kPaidDeposits{"PaidDepositsAmount", "PaidDepositsAmou
 inline constexpr MoneyName kPayable{"PayableAmount", "PayableAmountCurr"};
 
 inline constexpr MoneyName kMoneyNames[] = {
-    kLineBase,       kLineTotal,       kDeposit,        kDepositBase,    kDepositTotal,
-    kTax,            kBase,            kTotal,          kClaimedBase,    kClaimedTax,
-    kClaimedTotal,   kDifferenceBase,  kDifferenceTax,  kDifferenceTotal, kSumBase,
-    kSumClaimedBase, kSumDifferenceBase, kRounding,     kPaidDeposits,   kPayable,
+    kLineBase,      kLineTotal,       kDeposit,     kDepositBase,    kDepositTotal,      kTax,
+    kBase,          kTotal,           kClaimedBase, kClaimedTax,     kClaimedTotal,      kDifferenceBase,
+    kDifferenceTax, kDifferenceTotal, kSumBase,     kSumClaimedBase, kSumDifferenceBase, kRounding,
+    kPaidDeposits,  kPayable,
 };
 
 /// A line of the invoice.
 struct Line {
   const Element* element = nullptr;
-  Amount percent;          ///< as it is written
+  Amount percent;           ///< as it is written
   bool from_total = false;  ///< the tax comes from the total
-  bool reverse = false;    ///< the customer owes the tax
+  bool reverse = false;     ///< the customer owes the tax
   bool is_taxed = true;     ///< subject to VAT
 };
 

@@ -1,5 +1,4 @@
 #include "invoice.h"
-
 #include <ravo/czech/ean.h>
 
 #include <algorithm>
@@ -38,7 +37,8 @@ void CheckEan(const Invoice& invoice, const Element& item) {
 // A batch without a unit has that of its line.
 void CheckUnits(const Invoice& invoice, const Line& line, const Element& batches) {
   const Element* const quantity = invoice.Child(*line.element, "InvoicedQuantity");
-  std::string_view unit = quantity == nullptr ? std::string_view() : invoice.AttributeOf(*quantity, "unitCode");
+  std::string_view unit =
+      quantity == nullptr ? std::string_view() : invoice.AttributeOf(*quantity, "unitCode");
   ForEachChild(invoice.Source(), batches, "StoreBatch", [&](const Element& batch) {
     const Element* const own = invoice.Child(batch, "Quantity");
     const std::string_view code = own == nullptr ? std::string_view() : invoice.AttributeOf(*own, "unitCode");

@@ -12,9 +12,7 @@ constexpr std::string_view kLineTax = "LineExtensionTaxAmount";
 constexpr std::string_view kUnitPrice = "UnitPrice";
 constexpr std::string_view kUnitTotal = "UnitPriceTaxInclusive";
 
-Amount PercentOf(const Line& line) {
-  return line.reverse || !line.is_taxed ? Amount() : line.percent;
-}
+Amount PercentOf(const Line& line) { return line.reverse || !line.is_taxed ? Amount() : line.percent; }
 
 int WrittenDecimals(const Amount& amount) { return std::max(amount.Decimals(), 2); }
 
@@ -70,14 +68,15 @@ void CheckUnitTax(const Invoice& invoice, const Line& line) {
   const Amount whole = PercentOf(line) + Amount(100);
   const Amount exact = (*price * whole).Hundredth();
   const auto back = (*with_tax * Amount(100)).DividedBy(whole, WrittenDecimals(*price));
-  const bool fits = line.from_total ? back && *back == *price
-                                    : exact.Rounded(WrittenDecimals(*with_tax)) == *with_tax;
+  const bool fits =
+      line.from_total ? back && *back == *price : exact.Rounded(WrittenDecimals(*with_tax)) == *with_tax;
   if (fits) return;
   const Amount tolerance = with_tax->HalfUnit() + (price->HalfUnit() * whole).Hundredth();
   const std::string_view name = line.from_total ? kUnitPrice : kUnitTotal;
   const Amount expected = line.from_total && back ? *back : exact.Rounded(WrittenDecimals(*with_tax));
-  invoice.Report(Rule::UnitPriceTax, GravityOf(exact - *with_tax, tolerance), *invoice.Child(*line.element, name),
-                 std::string(invoice.Text(*line.element, name)), expected.Text());
+  invoice.Report(Rule::UnitPriceTax, GravityOf(exact - *with_tax, tolerance),
+                 *invoice.Child(*line.element, name), std::string(invoice.Text(*line.element, name)),
+                 expected.Text());
 }
 
 // What the line would be without its discount, without tax and with it.

@@ -1,5 +1,4 @@
 #include "invoice.h"
-
 #include <ravo/czech/dic.h>
 #include <ravo/czech/ico.h>
 #include <ravo/czech/post_code.h>
@@ -132,9 +131,8 @@ void CheckReverse(const Invoice& invoice, const Party& customer) {
 }  // namespace
 
 void CheckParties(const Invoice& invoice) {
-  for (const std::string_view role :
-       {"AccountingSupplierParty", "SellerSupplierParty", "AccountingCustomerParty", "BuyerCustomerParty",
-        "Delivery"})
+  for (const std::string_view role : {"AccountingSupplierParty", "SellerSupplierParty",
+                                      "AccountingCustomerParty", "BuyerCustomerParty", "Delivery"})
     CheckParty(invoice, PartyOf(invoice, role));
   CheckSupplier(invoice, PartyOf(invoice, "AccountingSupplierParty"));
   if (invoice.Root().name == "Invoice") CheckReverse(invoice, PartyOf(invoice, "AccountingCustomerParty"));

@@ -1,5 +1,4 @@
 #include "invoice.h"
-
 #include <ravo/czech/account.h>
 #include <ravo/czech/banks.h>
 #include <ravo/czech/bic.h>
@@ -20,7 +19,8 @@ const Element* Filled(const Invoice& invoice, const Element& element, std::strin
 }
 
 template <class Parse>
-void CheckSymbol(const Invoice& invoice, Rule rule, const Element& parent, std::string_view name, Parse parse) {
+void CheckSymbol(const Invoice& invoice, Rule rule, const Element& parent, std::string_view name,
+                 Parse parse) {
   const Element* const symbol = Filled(invoice, parent, name);
   if (symbol == nullptr) return;
   const auto parsed = parse(Trimmed(symbol->text));
@@ -58,7 +58,8 @@ std::string AccountText(const Invoice& invoice, const Element& place, const Elem
 
 // Numbers of accounts in other countries have the forms of these.
 bool IsCzechAccount(const std::optional<czech::Iban>& iban, std::string_view text) {
-  return iban ? iban->text.View().starts_with("CZ") : text.find_first_not_of("0123456789-/ ") == std::string_view::npos;
+  return iban ? iban->text.View().starts_with("CZ")
+              : text.find_first_not_of("0123456789-/ ") == std::string_view::npos;
 }
 
 std::optional<czech::Account> CheckAccount(const Invoice& invoice, const Element& place,
@@ -135,7 +136,8 @@ void CheckPaid(const Invoice& invoice, const Element& means) {
 }
 
 void CheckDepositSymbols(const Invoice& invoice) {
-  for (const auto& [all, one] : {std::pair("NonTaxedDeposits", "NonTaxedDeposit"), {"TaxedDeposits", "TaxedDeposit"}}) {
+  for (const auto& [all, one] :
+       {std::pair("NonTaxedDeposits", "NonTaxedDeposit"), {"TaxedDeposits", "TaxedDeposit"}}) {
     const Element* const deposits = invoice.Child(invoice.Root(), all);
     if (deposits == nullptr) continue;
     ForEachChild(invoice.Source(), *deposits, one,

@@ -1,5 +1,4 @@
 #include "invoice.h"
-
 #include <ravo/czech/vat_rates.h>
 
 #include <algorithm>

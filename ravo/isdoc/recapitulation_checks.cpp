@@ -122,7 +122,8 @@ void CheckTaxOfRow(const Invoice& invoice, const Subtotal& subtotal, bool is_for
   const std::size_t count = subtotal.lines.size();
   if (const auto named = NamedWay(way)) {
     const Amount& other = way == TaxWay::SumOfLines ? lawful.All()[0].amount : *lines;
-    return invoice.Report(*named, GravityOf(other - *tax, Tolerance(count + 1)), at, tax->Text(), other.Text());
+    return invoice.Report(*named, GravityOf(other - *tax, Tolerance(count + 1)), at, tax->Text(),
+                          other.Text());
   }
   invoice.Report(Rule::TaxOfRate, GravityOfTax(lawful, *tax, count), at, tax->Text(), Joined(lawful, lines));
 }
@@ -138,7 +139,8 @@ void CheckSubtotal(const Invoice& invoice, const Subtotal& subtotal, bool is_for
   for (const Equation& equation : kRowEquations)
     CheckEquation(invoice, *subtotal.element, equation, is_foreign);
   if (IsTwice(invoice, subtotal)) {
-    if (!is_foreign) invoice.Report(Rule::RateTwice, Severity::Note, *subtotal.element, subtotal.percent.Text());
+    if (!is_foreign)
+      invoice.Report(Rule::RateTwice, Severity::Note, *subtotal.element, subtotal.percent.Text());
     return;
   }
   CheckSums(invoice, subtotal, is_foreign);

@@ -1,8 +1,7 @@
 #include "tax_ways.h"
 
-#include <ravo/czech/vat_rates.h>
-
 #include "invoice.h"
+#include <ravo/czech/vat_rates.h>
 
 #include <algorithm>
 
@@ -24,8 +23,8 @@ TaxWay WayOfRow(const Invoice& invoice, const Subtotal& subtotal) {
   if (!base || !tax || !total) return TaxWay::None;
   if (subtotal.percent.IsZero() || subtotal.reverse || !subtotal.is_taxed)
     return tax->IsZero() ? TaxWay::Untaxed : TaxWay::None;
-  const TaxWay way = LawfulTaxes(*base, *total, subtotal.percent, invoice.TaxDay(), 2)
-                         .WayOf(*tax, IsFromTotal(subtotal));
+  const TaxWay way =
+      LawfulTaxes(*base, *total, subtotal.percent, invoice.TaxDay(), 2).WayOf(*tax, IsFromTotal(subtotal));
   if (way != TaxWay::None) return way;
   const auto lines = TaxOfLines(invoice, subtotal);
   return lines && *lines == *tax ? TaxWay::SumOfLines : TaxWay::None;

@@ -29,8 +29,8 @@ struct RateWay {
   TaxWay way = TaxWay::None;
 };
 
-/// Returns for each row of the recapitulation the lawful way that gives its tax, in the order of the document.
-/// Of several it is the one that the lines name.
+/// Returns for each row of the recapitulation the lawful way that gives its tax, in the order of the
+/// document. Of several it is the one that the lines name.
 [[nodiscard]] std::vector<RateWay> TaxWays(const Document& document);
 
 namespace detail {

@@ -35,8 +35,7 @@ void CheckDifference(const Invoice& invoice, const Element& totals, const MoneyN
                      const MoneyName& all, const MoneyName& claimed, bool is_foreign) {
   const auto amount = invoice.Number(totals, all.In(is_foreign));
   const auto less = invoice.Number(totals, claimed.In(is_foreign));
-  if (amount && less)
-    invoice.Expect(Rule::TotalDifference, totals, result.In(is_foreign), *amount - *less);
+  if (amount && less) invoice.Expect(Rule::TotalDifference, totals, result.In(is_foreign), *amount - *less);
 }
 
 void CheckPayable(const Invoice& invoice, const Element& totals, bool is_foreign) {

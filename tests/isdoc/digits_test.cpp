@@ -11,7 +11,7 @@
 #include <gtest/gtest.h>
 
 /// Every digit of every identifier and every amount, changed once, is reported.
-namespace ravo::isdoc {
+namespace ravo::isdoc::digits_test {
 namespace {
 
 // Texts with digits that no other text of the document confirms.
@@ -94,7 +94,8 @@ Findings FindingsOf(const std::string& text) {
 
 // A unit price leaves a line to its own rounding, and a tax in two currencies each to its own.
 bool MayBeNote(std::string_view path, const Amount& before, const Amount& after) {
-  const bool is_price = path.find("/UnitPrice") != std::string_view::npos || path.ends_with("InvoicedQuantity");
+  const bool is_price =
+      path.find("/UnitPrice") != std::string_view::npos || path.ends_with("InvoicedQuantity");
   return is_price || (after - before).Absolute() <= Amount(5, 3);
 }
 
@@ -172,4 +173,4 @@ TEST(Content, ReportsEveryChangedDigit) {
 }
 
 }  // namespace
-}  // namespace ravo::isdoc
+}  // namespace ravo::isdoc::digits_test

@@ -19,15 +19,24 @@ namespace isdoc = ravo::isdoc;
 using CsvCells = std::vector<std::string>;
 
 constexpr std::string_view kDocumentColumns[] = {
-    "file",         "document",     "type",     "issued",      "tax_point", "supplier_ico", "supplier_dic",
-    "supplier",     "customer_ico", "customer_dic", "customer", "currency",
+    "file",         "document", "type",         "issued",       "tax_point", "supplier_ico",
+    "supplier_dic", "supplier", "customer_ico", "customer_dic", "customer",  "currency",
 };
 constexpr std::string_view kLineColumns[] = {
     "line", "description", "quantity", "unit", "unit_price", "rate", "reverse_charge", "base", "tax", "total",
 };
 constexpr std::string_view kRateColumns[] = {
-    "rate",          "reverse_charge",  "base",          "tax",         "total",          "claimed_base",
-    "claimed_tax",   "claimed_total",   "difference_base", "difference_tax", "difference_total",
+    "rate",
+    "reverse_charge",
+    "base",
+    "tax",
+    "total",
+    "claimed_base",
+    "claimed_tax",
+    "claimed_total",
+    "difference_base",
+    "difference_tax",
+    "difference_total",
 };
 
 CsvCells PartyCells(const isdoc::Document& invoice, std::string_view role) {
@@ -50,8 +59,11 @@ CsvCells DocumentCells(const std::string& name, const isdoc::Document& invoice) 
 }
 
 CsvCells LineCells(const isdoc::Document& invoice, const isdoc::Element& line) {
-  const auto text = [&](std::initializer_list<std::string_view> path) { return TextAt(invoice, &line, path); };
-  const bool is_reverse = ElementAt(invoice, &line, {"ClassifiedTaxCategory", "LocalReverseCharge"}) != nullptr;
+  const auto text = [&](std::initializer_list<std::string_view> path) {
+    return TextAt(invoice, &line, path);
+  };
+  const bool is_reverse =
+      ElementAt(invoice, &line, {"ClassifiedTaxCategory", "LocalReverseCharge"}) != nullptr;
   return {text({"ID"}),
           text({"Item", "Description"}),
           text({"InvoicedQuantity"}),
@@ -115,9 +127,11 @@ InvoiceResult RowsOf(const IsdocOptions& options, const std::string& name, const
   const isdoc::Element* const rows = ElementAt(invoice, &invoice.Root(), {all});
   if (rows == nullptr) return result;
   if (options.recapitulation)
-    isdoc::ForEachChild(invoice, *rows, "TaxSubTotal", [&](const auto& row) { add(RateCells(invoice, row)); });
+    isdoc::ForEachChild(invoice, *rows, "TaxSubTotal",
+                        [&](const auto& row) { add(RateCells(invoice, row)); });
   else
-    isdoc::ForEachChild(invoice, *rows, "InvoiceLine", [&](const auto& row) { add(LineCells(invoice, row)); });
+    isdoc::ForEachChild(invoice, *rows, "InvoiceLine",
+                        [&](const auto& row) { add(LineCells(invoice, row)); });
   return result;
 }
 

@@ -26,7 +26,8 @@ std::string TextAt(const isdoc::Document& invoice, const isdoc::Element* element
   return std::string(text.substr(0, text.find_last_not_of(kXmlSpace) + 1));
 }
 
-std::string AttributeAt(const isdoc::Document& invoice, const isdoc::Element* element, std::string_view name) {
+std::string AttributeAt(const isdoc::Document& invoice, const isdoc::Element* element,
+                        std::string_view name) {
   if (element == nullptr) return {};
   for (const isdoc::Attribute& attribute : invoice.Attributes(*element)) {
     if (attribute.name == name) return std::string(attribute.value);

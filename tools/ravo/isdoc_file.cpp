@@ -129,7 +129,8 @@ OpenInvoice ReadInvoice(const std::string& name) {
 std::string WhyNotKnown(const OpenInvoice& invoice) {
   if (invoice.version == InvoiceVersion::Other)
     return Text("is ISDOC {0}; this program knows ISDOC 6", {VersionText(invoice.document)});
-  return Text("is no ISDOC document: its root is '{0}'", {OnOneLine(std::string(invoice.document.Root().name))});
+  return Text("is no ISDOC document: its root is '{0}'",
+              {OnOneLine(std::string(invoice.document.Root().name))});
 }
 
 isdoc::Document ReadKnownInvoice(const std::string& name) {

@@ -15,8 +15,8 @@ struct InvoiceFile {
 
 /// The invoices that a command line names.
 struct InvoiceFiles {
-  std::vector<InvoiceFile> files;  ///< those of a folder by their names
-  std::size_t others = 0;          ///< files in folders that cannot be invoices
+  std::vector<InvoiceFile> files;   ///< those of a folder by their names
+  std::size_t others = 0;           ///< files in folders that cannot be invoices
   std::vector<std::string> errors;  ///< folders that cannot be read
 };
 

@@ -36,8 +36,8 @@ void AddIsdocReaders(CLI::App& isdoc, Outcome& outcome) {
   show->add_option(Text("FILE"), options->file, Text("An invoice"))->required();
   CLI::App* const csv = add("csv", Text("Writes the lines of invoices as a table"), WriteInvoicesAsTable);
   csv->add_option(Text("FILE"), options->files, Text("Invoices, and folders of them"))->required();
-  CLI::Option* const rates =
-      csv->add_flag("--recapitulation", options->recapitulation, Text("The rates of VAT instead of the lines"));
+  CLI::Option* const rates = csv->add_flag("--recapitulation", options->recapitulation,
+                                           Text("The rates of VAT instead of the lines"));
   csv->add_flag("--lines", options->lines, Text("The lines, as by default"))->excludes(rates);
 }
 

@@ -102,7 +102,8 @@ InvoiceCounts RunOverInvoices(const std::vector<std::string>& names, Outcome& ou
   };
   const unsigned threads = Threads(found.files.size());
   OrderedBlocks<Batch>(2 * std::size_t{threads})
-      .Run(threads, read, [&] { return [&](Batch& batch) { WorkOnBatch(work, batch); }; }, write);
+      .Run(
+          threads, read, [&] { return [&](Batch& batch) { WorkOnBatch(work, batch); }; }, write);
   return all;
 }
 

@@ -12,7 +12,7 @@ namespace tool {
 
 /// What the work on one invoice gave.
 struct InvoiceResult {
-  std::string out;        ///< for standard output
+  std::string out;         ///< for standard output
   std::size_t errors = 0;  ///< findings that break a rule
   std::size_t notes = 0;   ///< findings that are worth a look
 };

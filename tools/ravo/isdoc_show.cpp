@@ -40,10 +40,14 @@ struct NamedCode {
   const char* name;
 };
 constexpr NamedCode kPaymentMeans[] = {
-    {"10", ToTranslate("in cash")},        {"20", ToTranslate("by cheque")},
-    {"31", ToTranslate("by credit transfer")},  {"42", ToTranslate("by bank transfer")},
-    {"48", ToTranslate("by card")},        {"49", ToTranslate("by direct debit")},
-    {"50", ToTranslate("cash on delivery")}, {"97", ToTranslate("by mutual settlement")},
+    {"10", ToTranslate("in cash")},
+    {"20", ToTranslate("by cheque")},
+    {"31", ToTranslate("by credit transfer")},
+    {"42", ToTranslate("by bank transfer")},
+    {"48", ToTranslate("by card")},
+    {"49", ToTranslate("by direct debit")},
+    {"50", ToTranslate("cash on delivery")},
+    {"97", ToTranslate("by mutual settlement")},
 };
 
 struct NamedWay {
@@ -77,7 +81,8 @@ class View {
   [[nodiscard]] const Element* At(std::initializer_list<std::string_view> path) const {
     return ElementAt(document_, &document_.Root(), path);
   }
-  [[nodiscard]] std::string Field(const Element* element, std::initializer_list<std::string_view> path) const {
+  [[nodiscard]] std::string Field(const Element* element,
+                                  std::initializer_list<std::string_view> path) const {
     return OnOneLine(TextAt(document_, element, path));
   }
   [[nodiscard]] std::string Head(std::string_view name) const { return Field(&document_.Root(), {name}); }
@@ -103,10 +108,11 @@ std::string Joined(std::initializer_list<std::string> parts, std::string_view be
 
 std::string AddressOf(const View& view, const Element* party) {
   const auto field = [&](std::initializer_list<std::string_view> path) { return view.Field(party, path); };
-  return Joined({Joined({field({"PostalAddress", "StreetName"}), field({"PostalAddress", "BuildingNumber"})}, " "),
-                 Joined({field({"PostalAddress", "PostalZone"}), field({"PostalAddress", "CityName"})}, " "),
-                 field({"PostalAddress", "Country", "IdentificationCode"})},
-                ", ");
+  return Joined(
+      {Joined({field({"PostalAddress", "StreetName"}), field({"PostalAddress", "BuildingNumber"})}, " "),
+       Joined({field({"PostalAddress", "PostalZone"}), field({"PostalAddress", "CityName"})}, " "),
+       field({"PostalAddress", "Country", "IdentificationCode"})},
+      ", ");
 }
 
 Json PartyJson(const View& view, const char* role) {
@@ -242,13 +248,15 @@ std::string HeadText(const Json& invoice) {
   Columns rows;
   AddParty(rows, Text("supplier"), invoice.at("supplier"));
   AddParty(rows, Text("customer"), invoice.at("customer"));
-  for (const Field& field : kDates) AddCaption(rows, Text(field.caption), Str(invoice.at("dates"), field.name));
+  for (const Field& field : kDates)
+    AddCaption(rows, Text(field.caption), Str(invoice.at("dates"), field.name));
   AddCaption(rows, Text("remark"), Str(invoice, "note"));
   return rows.Text();
 }
 
 std::string RateText(const Json& row) {
-  return Str(row, "rate") + " %" + (row.at("reverse_charge").get<bool>() ? ", " + Text("reverse charge") : "");
+  return Str(row, "rate") + " %" +
+         (row.at("reverse_charge").get<bool>() ? ", " + Text("reverse charge") : "");
 }
 
 std::string LinesText(const Json& lines) {
@@ -256,8 +264,9 @@ std::string LinesText(const Json& lines) {
   rows.Add({Text("line"), Text("description"), Text("quantity"), Text("unit price"), Text("rate"),
             Text("without tax"), Text("with tax")});
   for (const Json& line : lines) {
-    rows.Add({Str(line, "line"), Str(line, "description"), Joined({Str(line, "quantity"), Str(line, "unit")}, " "),
-              Str(line, "unit_price"), RateText(line), Str(line, "base"), Str(line, "total")});
+    rows.Add({Str(line, "line"), Str(line, "description"),
+              Joined({Str(line, "quantity"), Str(line, "unit")}, " "), Str(line, "unit_price"),
+              RateText(line), Str(line, "base"), Str(line, "total")});
   }
   return rows.Text();
 }
