@@ -160,11 +160,13 @@ Amount operator*(const Amount& left, const Amount& right) noexcept {
 }
 
 std::strong_ordering operator<=>(const Amount& left, const Amount& right) noexcept {
-  if (left.IsNegative() != right.IsNegative())
-    return left.IsNegative() ? std::strong_ordering::less : std::strong_ordering::greater;
+  const bool is_negative = left.IsNegative();
+  if (is_negative != right.IsNegative())
+    return is_negative ? std::strong_ordering::less : std::strong_ordering::greater;
   const int decimals = std::max(left.decimals_, right.decimals_);
-  const auto sizes = CompareSizes(left.WithDecimals(decimals).limbs_, right.WithDecimals(decimals).limbs_);
-  return left.IsNegative() ? 0 <=> sizes : sizes;
+  const Amount first = left.WithDecimals(decimals);
+  const Amount second = right.WithDecimals(decimals);
+  return is_negative ? CompareSizes(second.limbs_, first.limbs_) : CompareSizes(first.limbs_, second.limbs_);
 }
 
 void Amount::Scale(int power) noexcept {

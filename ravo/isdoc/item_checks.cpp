@@ -28,7 +28,8 @@ bool IsDigits(std::string_view text) {
 void CheckEan(const Invoice& invoice, const Element& item) {
   const Element* const catalogue = invoice.Child(item, "CatalogueItemIdentification");
   const Element* const id = catalogue == nullptr ? nullptr : invoice.Child(*catalogue, "ID");
-  const std::string_view text = id == nullptr ? std::string_view() : Trimmed(id->text);
+  if (id == nullptr) return;
+  const std::string_view text = Trimmed(id->text);
   if (!IsDigits(text) || (text.size() != 8 && (text.size() < 12 || text.size() > 14))) return;
   const auto ean = czech::ParseEan(text);
   if (!ean) invoice.Refuse(Rule::EanWrong, *id, text, ean.code);

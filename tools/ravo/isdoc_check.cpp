@@ -71,11 +71,17 @@ std::string FindingJson(const std::string& name, const isdoc::Finding& finding) 
                    {"message", isdoc::Sentence(finding.rule, UserLanguage())}});
 }
 
+bool IsBefore(const isdoc::Finding& left, const isdoc::Finding& right) {
+  if (left.place.line != right.place.line) return left.place.line < right.place.line;
+  return left.place.column < right.place.column;
+}
+
 InvoiceResult CheckInvoice(const IsdocOptions& options, const std::string& name,
                            const isdoc::Document& invoice) {
   isdoc::Findings findings;
   isdoc::CheckStructure(invoice, findings);
   isdoc::CheckContent(invoice, findings);
+  std::ranges::stable_sort(findings, IsBefore);
   InvoiceResult result;
   for (const isdoc::Finding& finding : findings) {
     ++(finding.severity == isdoc::Severity::Note ? result.notes : result.errors);
