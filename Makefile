@@ -1,5 +1,5 @@
 # The two commands of the README, and helpers for everyday work. CMake does the rest: see CMakePresets.json.
-.PHONY: run check bench coverage reliability reference guide quirks xml-check pictures package check-packages format clean
+.PHONY: run check bench coverage reliability reference guide quirks xml-check invoices pictures package check-packages format clean
 
 run:            ## Build for this machine and show the library at work
 	@scripts/run
@@ -27,6 +27,9 @@ quirks:         ## Write docs/quirks.md from the comments `// Kept:` of the sour
 
 xml-check:      ## Write the classes of `ravo xml check` to docs/xml-check.md
 	@/usr/bin/env python3 -B tools/pages/xml_check.py --write
+
+invoices:       ## Write the rules of `ravo isdoc check` to docs/invoices.md and docs/invoices.cs.md
+	@/usr/bin/env python3 -B tools/pages/invoices.py --write
 
 pictures:       ## Draw docs/structure.svg and the charts of docs/performance.md
 	@/usr/bin/env python3 -B tools/pages/structure.py --write

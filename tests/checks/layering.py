@@ -41,11 +41,12 @@ MAY_USE: dict[str, set[str] | None] = {
     "ravo/utils": {"runtime", "codec", "platform", "frame", "unicode/characters", "utils/messages.inc"},
     "ravo/common": {"runtime", "platform", "frame", "catalogue", "utils"},
     "ravo/czech": {"runtime"},
+    "ravo/isdoc": {"runtime", "czech"},
     "ravo/sysinfo": {"runtime", "platform", "frame", "common"},
     "ravo/xml": {"runtime", "codec", "platform", "frame"},
     "ravo/formout": {"runtime", "codec", "platform", "frame", "unicode"},
     "ravo/hostapi": {"runtime", "platform", "frame"},
-    "tools/ravo": {PUBLIC, "codec", "czech"},
+    "tools/ravo": {PUBLIC, "codec", "czech", "isdoc"},
 }
 SCANNED = ("ravo", "tools/ravo")
 

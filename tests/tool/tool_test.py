@@ -20,6 +20,7 @@ from document_checks import (check_forms, check_xml, check_xml_edits, check_xml_
 from file_checks import (check_colours, check_conversions, check_full_device, check_pipes, check_report_file,
                          check_report_json, check_sums, check_unreadable)
 from harness import NO, SKIPPED, YES, Program, Row, differs
+from isdoc_checks import ISDOC_CHECKS, ISDOC_ROWS, without_readers
 from lossless_checks import check_lossless
 from long_work_checks import check_interruption, check_progress, check_streaming
 from output_checks import OUTPUT_CHECKS
@@ -66,6 +67,7 @@ CHECKS = (
     check_terminal_tables,
     check_sorted_files,
     check_bank_lists,
+    *ISDOC_CHECKS,
     check_natural_order,
     check_sorted_encodings,
     *OUTPUT_CHECKS,
@@ -92,7 +94,7 @@ CHECKS = (
 def tested(program):
     # An emulator mostly waits for its servers.
     with ThreadPoolExecutor(max_workers=4 if program.emulated else 2) as pool:
-        for failures in pool.map(program.failures, ROWS + CZECH_ROWS):
+        for failures in pool.map(program.failures, ROWS + CZECH_ROWS + ([] if without_readers(program) else ISDOC_ROWS)):
             yield from failures
     for check in CHECKS:
         yield from check(program)

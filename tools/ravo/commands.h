@@ -29,6 +29,7 @@ void AddUrlCommand(CLI::App& program, Outcome& outcome);
 void AddAddressCommand(CLI::App& program, Outcome& outcome);
 void AddBackupNameCommand(CLI::App& program, Outcome& outcome);
 void AddInterfacesCommand(CLI::App& program, Outcome& outcome);
+void AddIsdocCommand(CLI::App& program, Outcome& outcome);
 void AddXmlCommand(CLI::App& program, Outcome& outcome);
 void AddFormCommand(CLI::App& program, Outcome& outcome);
 void AddEncodingsCommand(CLI::App& program, Outcome& outcome);

@@ -49,7 +49,7 @@ std::vector<Theme> Themes() {
       {ToTranslate("Accounting"),
        {AddCheckCommand, AddRoundCommand, AddVatCommand, AddDateCommand, AddDueCommand, AddHolidaysCommand,
         AddAddressCommand, AddBackupNameCommand}},
-      {ToTranslate("Documents"), {AddXmlCommand, AddFormCommand}},
+      {ToTranslate("Documents"), {AddIsdocCommand, AddXmlCommand, AddFormCommand}},
       {ToTranslate("Characters and texts"),
        {AddCharCommand, AddSortCommand, AddMatchCommand, AddUrlCommand, AddRandomCommand}},
       {ToTranslate("Files"), {AddConvertCommand, AddEncodingsCommand, AddHashCommand}},
