@@ -222,16 +222,8 @@ WrittenPaymentCode Refusal(Code code, std::size_t field, std::size_t position) n
   return {{}, code, field, position};
 }
 
-}  // namespace
-
-std::string_view PaymentCode::Value(std::string_view key) const noexcept {
-  const auto fields = Fields();
-  const auto found = std::ranges::find(fields, key, &PaymentCodeField::key);
-  return found == fields.end() ? std::string_view() : found->value;
-}
-
-WrittenPaymentCode WritePaymentCode(PaymentCodeKind kind, std::span<const PaymentCodeField> fields,
-                                    bool checksum) noexcept {
+WrittenPaymentCode Write(PaymentCodeKind kind, std::span<const PaymentCodeField> fields, bool checksum,
+                         bool inside) noexcept {
   WrittenPaymentCode written;
   Appender appender(written.text);
   if (fields.size() >= kPaymentCodeFields) return Refusal(Code::PaymentCodeRoom, kPaymentCodeFields - 1, 0);
@@ -247,10 +239,27 @@ WrittenPaymentCode WritePaymentCode(PaymentCodeKind kind, std::span<const Paymen
     appender.AppendEncoded(fields[i].value, key && key->form <= detail::ValueForm::Accounts);
     if (appender.Overflowed()) return Refusal(Code::PaymentCodeRoom, i, 0);
   }
-  if (!IsComplete(kind, fields, false)) return Refusal(Code::PaymentCodeMissing, fields.size(), 0);
+  if (!IsComplete(kind, fields, inside)) return Refusal(Code::PaymentCodeMissing, fields.size(), 0);
   if (checksum) AppendChecksum(appender, written);
   if (appender.Overflowed()) return Refusal(Code::PaymentCodeRoom, fields.size(), 0);
   return written;
+}
+
+}  // namespace
+
+std::string_view PaymentCode::Value(std::string_view key) const noexcept {
+  const auto fields = Fields();
+  const auto found = std::ranges::find(fields, key, &PaymentCodeField::key);
+  return found == fields.end() ? std::string_view() : found->value;
+}
+
+WrittenPaymentCode WritePaymentCode(PaymentCodeKind kind, std::span<const PaymentCodeField> fields,
+                                    bool checksum) noexcept {
+  return Write(kind, fields, checksum, false);
+}
+
+WrittenPaymentCode WriteInvoiceInside(std::span<const PaymentCodeField> fields) noexcept {
+  return Write(PaymentCodeKind::Invoice, fields, false, true);
 }
 
 Parsed<PaymentCode> ParsePaymentCode(std::string_view text) noexcept { return Reader(text, false).Run(); }

@@ -77,6 +77,9 @@ struct WrittenPaymentCode {
                                                   std::span<const PaymentCodeField> fields,
                                                   bool checksum = false) noexcept;
 
+/// Returns an invoice code for X-INV of a payment code: it may lack AM, which the payment has.
+[[nodiscard]] WrittenPaymentCode WriteInvoiceInside(std::span<const PaymentCodeField> fields) noexcept;
+
 /// Returns the attributes of a code, correct in form: each by the rules of its key, and the checksum if there
 /// is one.
 ///

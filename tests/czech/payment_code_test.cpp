@@ -202,6 +202,16 @@ TEST(PaymentCode, HoldsAnInvoice) {
   EXPECT_EQ(code.position, 66U);
 }
 
+TEST(PaymentCode, InvoiceInsideMayLackTheAmount) {
+  const Fields fields{{"ID", "a*b"}, {"DD", "20261122"}};
+  const auto invoice = WriteInvoiceInside(fields);
+  ASSERT_TRUE(invoice);
+  EXPECT_EQ(invoice.text.View(), "SID*1.0*ID:a%2Ab*DD:20261122");
+  EXPECT_EQ(WrittenWith("X-INV", invoice.text.View()),
+            "SPD*1.0*ACC:CZ6508000000192000145399*X-INV:SID%2A1.0%2AID:a%252Ab%2ADD:20261122");
+  EXPECT_EQ(WriteInvoiceInside(Fields{{"ID", "1"}}).code, Code::PaymentCodeMissing);
+}
+
 // A bank's own keys pass, and so does one that a later version of the standard adds.
 TEST(PaymentCode, UnknownKeysPass) {
   EXPECT_EQ(WrittenWith("X-OWN", "1"), "SPD*1.0*ACC:CZ6508000000192000145399*X-OWN:1");

@@ -20,6 +20,7 @@ void AddDateCommand(CLI::App& program, Outcome& outcome);
 void AddVatCommand(CLI::App& program, Outcome& outcome);
 void AddDueCommand(CLI::App& program, Outcome& outcome);
 void AddHolidaysCommand(CLI::App& program, Outcome& outcome);
+void AddQrCommand(CLI::App& program, Outcome& outcome);
 void AddHashCommand(CLI::App& program, Outcome& outcome);
 void AddRandomCommand(CLI::App& program, Outcome& outcome);
 void AddCharCommand(CLI::App& program, Outcome& outcome);
