@@ -31,6 +31,7 @@ void AddAddressCommand(CLI::App& program, Outcome& outcome);
 void AddBackupNameCommand(CLI::App& program, Outcome& outcome);
 void AddInterfacesCommand(CLI::App& program, Outcome& outcome);
 void AddXmlCommand(CLI::App& program, Outcome& outcome);
+void AddIsdocCommand(CLI::App& program, Outcome& outcome);
 void AddFormCommand(CLI::App& program, Outcome& outcome);
 void AddEncodingsCommand(CLI::App& program, Outcome& outcome);
 void AddConvertCommand(CLI::App& program, Outcome& outcome);

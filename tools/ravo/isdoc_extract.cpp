@@ -4,11 +4,13 @@
 #include "text.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <utility>
 
 namespace tool {
 namespace {
 
-constexpr std::size_t kAlwaysPermitted = std::size_t{1} << 20;
+constexpr std::uint64_t kAlwaysPermitted = std::uint64_t{1} << 20;
 // The header of a PDF may follow other bytes.
 constexpr std::size_t kPdfHeaderWithin = 1024;
 constexpr std::size_t kInvoiceBeginsWithin = 4096;
@@ -21,9 +23,13 @@ constexpr std::size_t kInvoiceBeginsWithin = 4096;
 }  // namespace
 
 std::string UnpackBudget::Unpack(std::string_view data, bool zlib_header) {
-  const std::size_t by_ratio = std::max(kAlwaysPermitted, data.size() > rest_ ? rest_ : data.size() * kRatio);
-  Inflated inflated =
-      Inflate(data, zlib_header ? DeflateFrame::Zlib : DeflateFrame::None, std::min(rest_, by_ratio));
+  const std::uint64_t by_ratio = std::max(kAlwaysPermitted, std::uint64_t{data.size()} * kRatio);
+  const auto limit = static_cast<std::size_t>(std::min<std::uint64_t>(rest_, by_ratio));
+  Inflated inflated = Inflate(data, zlib_header ? DeflateFrame::Zlib : DeflateFrame::None, limit);
+  if (inflated.fault == InflateFault::TooLarge && limit < rest_) {
+    throw ContainerError(
+        Text("a part of it unpacks to more than {0} times its size", {std::to_string(kRatio)}));
+  }
   if (inflated.fault == InflateFault::TooLarge) FailTooLarge();
   if (inflated.fault) throw ContainerError(Text("a part of it is damaged and cannot be unpacked"));
   rest_ -= inflated.bytes.size();
@@ -40,7 +46,9 @@ void UnpackBudget::CountPart() {
   if (++parts_ > kParts) throw ContainerError(Text("it has more than {0} parts", {std::to_string(kParts)}));
 }
 
-bool IsZip(std::string_view bytes) { return bytes.starts_with("PK\x03\x04") || bytes.starts_with("PK\x05\x06"); }
+bool IsZip(std::string_view bytes) {
+  return bytes.starts_with("PK\x03\x04") || bytes.starts_with("PK\x05\x06");
+}
 
 bool IsPdf(std::string_view bytes) {
   return bytes.substr(0, kPdfHeaderWithin).find("%PDF-") != std::string_view::npos;

@@ -1,5 +1,4 @@
 #include "isdoc_extract.h"
-
 #include <ravo/DIUnicode.h>
 #include <ravo/RavoInterface.h>
 

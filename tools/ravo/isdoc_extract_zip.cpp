@@ -9,7 +9,8 @@
 #include <algorithm>
 #include <cstdint>
 
-// The format of ZIP archives is that of PKWARE's APPNOTE.TXT 6.3; sizes past 4 GiB and several disks are refused.
+// The format of ZIP archives is that of PKWARE's APPNOTE.TXT 6.3; sizes past 4 GiB and several disks are
+// refused.
 namespace tool {
 namespace {
 

@@ -47,7 +47,7 @@ std::vector<Theme> Themes() {
       {ToTranslate("Accounting"),
        {AddCheckCommand, AddRoundCommand, AddVatCommand, AddDateCommand, AddDueCommand, AddHolidaysCommand,
         AddQrCommand, AddAddressCommand, AddBackupNameCommand}},
-      {ToTranslate("Documents"), {AddXmlCommand, AddFormCommand}},
+      {ToTranslate("Documents"), {AddXmlCommand, AddIsdocCommand, AddFormCommand}},
       {ToTranslate("Characters and texts"),
        {AddCharCommand, AddSortCommand, AddMatchCommand, AddUrlCommand, AddRandomCommand}},
       {ToTranslate("Files"), {AddConvertCommand, AddEncodingsCommand, AddHashCommand}},

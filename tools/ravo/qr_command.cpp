@@ -38,21 +38,22 @@ const std::map<std::string, QrFormat> kQrFormats{
     {"text", QrFormat::Text}, {"blocks", QrFormat::Blocks}, {"svg", QrFormat::Svg}, {"png", QrFormat::Png}};
 
 void AddPaymentOptions(CLI::App& command, PaymentRequest& request) {
-  const auto add = [&](const char* name, std::string& value, const std::string& what, const char* type) {
-    command.add_option(name, value, what)->type_name(type);
-  };
-  add("--amount", request.amount, Text("The amount, with \".\" or \",\""), "NUMBER");
-  add("--currency", request.currency, Text("The currency; CZK by default"), "CODE");
-  add("--vs", request.vs, Text("The variable symbol"), "NUMBER");
-  add("--ks", request.ks, Text("The constant symbol"), "NUMBER");
-  add("--ss", request.ss, Text("The specific symbol"), "NUMBER");
-  add("--message", request.message, Text("The message for the recipient, of up to 60 characters"), "TEXT");
-  add("--due", request.due, Text("The due date, such as 2026-11-21, 21.11.2026 or +14d"), "DATE");
-  add("--recipient", request.recipient, Text("The name of the recipient, of up to 35 characters"), "TEXT");
+  const auto add = [&](const char* name, std::string& value, const std::string& what,
+                       const std::string& type) { command.add_option(name, value, what)->type_name(type); };
+  add("--amount", request.amount, Text("The amount, with \".\" or \",\""), Text("NUMBER"));
+  add("--currency", request.currency, Text("The currency; CZK by default"), Text("CODE"));
+  add("--vs", request.vs, Text("The variable symbol"), Text("NUMBER"));
+  add("--ks", request.ks, Text("The constant symbol"), Text("NUMBER"));
+  add("--ss", request.ss, Text("The specific symbol"), Text("NUMBER"));
+  add("--message", request.message, Text("The message for the recipient, of up to 60 characters"),
+      Text("TEXT"));
+  add("--due", request.due, Text("The due date, such as 2026-11-21, 21.11.2026 or +14d"), Text("DATE"));
+  add("--recipient", request.recipient, Text("The name of the recipient, of up to 35 characters"),
+      Text("TEXT"));
   command.add_option("--field", request.fields, Text("Other attributes of the standard, such as X-ID=17"))
-      ->type_name("KEY=VALUE");
+      ->type_name(Text("KEY=VALUE"));
   command.add_option("--invoice", request.invoice, Text("The attributes of an invoice, such as ID=FV26001"))
-      ->type_name("KEY=VALUE");
+      ->type_name(Text("KEY=VALUE"));
   command.add_flag("--utf8", request.utf8, Text("Keep case and characters beyond ASCII"));
   command.add_flag("--crc", request.checksum, Text("Add a checksum"));
 }
@@ -62,7 +63,7 @@ void AddQrOutput(CLI::App& command, QrOptions& options) {
       .add_option("--format", options.format,
                   Text("What is written: text, blocks, svg or png; the name of the file tells it too"))
       ->transform(CLI::CheckedTransformer(kQrFormats).description(""))
-      ->type_name("FORMAT");
+      ->type_name(Text("FORMAT"));
   command.add_option("--scale", options.scale, Text("Pixels a module of a PNG"))
       ->check(CLI::Range(1, 64).description(""))
       ->capture_default_str();
@@ -81,7 +82,7 @@ void AddQrCommand(CLI::App& program, Outcome& outcome) {
   AddQrOutput(*command, *options);
   command
       ->add_option("--read", options->read, Text("Read the text of a code instead; \"-\" is standard input"))
-      ->type_name("TEXT");
+      ->type_name(Text("TEXT"));
   command->footer(Text(kQrFooter));
   command->callback([options, &outcome] { AnswerQr(*options, outcome); });
 }
