@@ -9,6 +9,7 @@ import struct
 import subprocess
 import zipfile
 import zlib
+from collections.abc import Iterator
 
 from harness import NO, WRONG_USAGE, YES
 
@@ -130,30 +131,30 @@ def check_unsafe_names(program):
         yield f"a name in code page 852 is {set(folder.files())}"
 
 
-def refused_archives():
+def refused_archives() -> Iterator[tuple[str, bytes, str, list[str]]]:
     whole = archive([("FV1.isdoc", INVOICE)])
-    yield "of more than is permitted", archive([("zeros", b"\0" * 20_000_000)]), "more than 200 times"
-    yield "of too much in all", archive([(f"{i}", random.Random(i).randbytes(600_000)) for i in range(2)]), "unpacks to more", "--max-size=1"
-    yield "with a damaged sum", whole.replace(struct.pack("<I", zlib.crc32(INVOICE)), b"\1\2\3\4"), "is damaged"
+    yield "of more than is permitted", archive([("zeros", b"\0" * 20_000_000)]), "more than 200 times", []
+    yield "of too much in all", archive([(f"{i}", random.Random(i).randbytes(600_000)) for i in range(2)]), "unpacks to more", ["--max-size=1"]
+    yield "with a damaged sum", whole.replace(struct.pack("<I", zlib.crc32(INVOICE)), b"\1\2\3\4"), "is damaged", []
     directory = whole.index(b"PK\x01\x02")
-    yield "encrypted", whole[: directory + 8] + b"\x01" + whole[directory + 9 :], "is encrypted"
-    yield "in another compression", whole[: directory + 10] + b"\x0c" + whole[directory + 11 :], "compressed in a way"
+    yield "encrypted", whole[: directory + 8] + b"\x01" + whole[directory + 9 :], "is encrypted", []
+    yield "in another compression", whole[: directory + 10] + b"\x0c" + whole[directory + 11 :], "compressed in a way", []
     # Two entries that share their bytes.
     noise = archive([("aa", random.Random(1).randbytes(5000))])
     directory, end = noise.index(b"PK\x01\x02"), noise.index(b"PK\x05\x06")
     entry = noise[directory:end]
     tail = bytearray(noise[end:])
     tail[8:12], tail[12:16] = struct.pack("<HH", 2, 2), struct.pack("<I", 2 * len(entry))
-    yield "with entries that overlap", noise[:directory] + entry + entry + tail, "is damaged"
-    yield "of too many parts", archive([(str(i), b"") for i in range(1001)]), "more than 1000 parts"
-    yield "that is the invoice", INVOICE, "it is the invoice itself"
-    yield "of another kind", b"GIF89a", "neither a ZIP archive (ISDOCX) nor a PDF"
-    yield "that is empty", b"", "neither a ZIP archive (ISDOCX) nor a PDF"
+    yield "with entries that overlap", noise[:directory] + entry + entry + tail, "is damaged", []
+    yield "of too many parts", archive([(str(i), b"") for i in range(1001)]), "more than 1000 parts", []
+    yield "that is the invoice", INVOICE, "it is the invoice itself", []
+    yield "of another kind", b"GIF89a", "neither a ZIP archive (ISDOCX) nor a PDF", []
+    yield "that is empty", b"", "neither a ZIP archive (ISDOCX) nor a PDF", []
 
 
 def check_refused_archives(program):
     folder = Folder(program)
-    for what, content, words, *options in refused_archives():
+    for what, content, words, options in refused_archives():
         result = folder.extract(content, *options)
         if result.status != WRONG_USAGE or words not in result.err or result.out or folder.place.exists():
             yield f"a container {what}: {result}"
@@ -207,7 +208,7 @@ def check_documents_of_others(program):
                                           (3, b"<< /Type /Page /Parent 2 0 R /MediaBox [0 0 9 9] >>")], b"<< /Size 4 /Root 1 0 R >>"))
     (place / "FV1.isdoc").write_bytes(INVOICE)
     (place / "note.txt").write_bytes(b"note")
-    for options in ([], ["compress"]):
+    for options in (("compress",), ()):
         subprocess.run(["pdftk", "page.pdf", "attach_files", "FV1.isdoc", "note.txt", "output", "full.pdf", *options], cwd=place, check=True)
         result = folder.extract((place / "full.pdf").read_bytes())
         if result.status != YES or folder.files() != {"FV1.isdoc": INVOICE, "note.txt": b"note"}:
