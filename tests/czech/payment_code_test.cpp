@@ -155,6 +155,21 @@ TEST(PaymentCode, IsReadBack) {
   EXPECT_EQ(Decoded("%C5%BDlu+%5"), "Žlu+%5");
 }
 
+// Amounts and symbols have no check digits of their own: a checksum finds each digit that changed.
+TEST(PaymentCode, EveryWrongDigitUnderAChecksumIsRefused) {
+  const std::string text = Written(
+      kPayment, {{"ACC", kIban}, {"AM", "1210.50"}, {"DT", "20261206"}, {"X-VS", "2026000579"}}, true);
+  ASSERT_TRUE(ParsePaymentCode(text));
+  bool in_value = false;
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    in_value = text[at] == ':' || (in_value && text[at] != '*');
+    if (!in_value || text[at] < '0' || text[at] > '9') continue;
+    std::string changed = text;
+    changed[at] = text[at] == '9' ? '0' : static_cast<char>(text[at] + 1);
+    EXPECT_FALSE(ParsePaymentCode(changed)) << changed;
+  }
+}
+
 TEST(PaymentCode, OneAsteriskMayEndIt) {
   EXPECT_TRUE(ParsePaymentCode("SPD*1.0*ACC:CZ6508000000192000145399*"));
   EXPECT_EQ(ParsePaymentCode("SPD*1.0*ACC:CZ6508000000192000145399**").code, Code::PaymentCodeField);

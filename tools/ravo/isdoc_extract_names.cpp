@@ -55,17 +55,23 @@ StemAndExtension Divided(const std::u16string& name) {
   return {name.substr(0, dot), name.substr(dot)};
 }
 
+// Windows drops blanks and dots at the end of a name.
+void TrimEnd(std::u16string& name) {
+  while (name.ends_with(u' ') || name.ends_with(u'.')) name.pop_back();
+}
+
 // Shortens the stem, between two characters, so that `mark` has room too.
 std::u16string Joined(StemAndExtension parts, const std::u16string& mark) {
   const std::size_t room = kLongestName - parts.extension.size() - mark.size();
   if (parts.stem.size() > room) parts.stem.resize(IsLowSurrogate(parts.stem[room]) ? room - 1 : room);
+  TrimEnd(parts.stem);
   return parts.stem + mark + parts.extension;
 }
 
 std::u16string Safe(const std::string& name) {
   std::u16string safe = LastComponent(ravo::FromUtf8(name));
   for (char16_t& c : safe) c = MayStand(c) ? c : u'_';
-  while (safe.ends_with(u' ') || safe.ends_with(u'.')) safe.pop_back();
+  TrimEnd(safe);
   while (safe.starts_with(u' ')) safe.erase(0, 1);
   if (safe.empty()) return u"part";
   if (safe[0] == u'.' || safe[0] == u'-') safe[0] = u'_';

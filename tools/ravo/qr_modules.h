@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -14,7 +15,8 @@ struct QrModules {
   /// Whether a module is dark; those around the code are not.
   [[nodiscard]] bool IsDark(int row, int column) const {
     const bool inside = row >= 0 && column >= 0 && row < size && column < size;
-    return inside && dark[static_cast<std::size_t>(row * size + column)];
+    return inside && dark[static_cast<std::size_t>(row) * static_cast<std::size_t>(size) +
+                          static_cast<std::size_t>(column)];
   }
 };
 

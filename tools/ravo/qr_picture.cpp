@@ -36,8 +36,9 @@ std::string SvgRow(const QrModules& modules, int row) {
     while (modules.IsDark(row, column)) ++column;
     if (column == begin) continue;
     const std::string length = std::to_string(column - begin);
-    path += "M" + std::to_string(begin + kQuietZone) + " " + std::to_string(row + kQuietZone) + "h" + length +
-            "v1h-" + length + "z";
+    path.append("M").append(std::to_string(begin + kQuietZone)).append(" ");
+    path.append(std::to_string(row + kQuietZone)).append("h").append(length);
+    path.append("v1h-").append(length).append("z");
   }
   return path;
 }
@@ -57,11 +58,12 @@ std::string PngChunk(std::string_view kind, std::string_view bytes) {
 // One bit a pixel, 1 for white; each row begins with the number of its filter, none.
 std::string PngRow(const QrModules& modules, int row, int scale) {
   const int pixels = SideOf(modules) * scale;
-  std::string bits(static_cast<std::size_t>(1 + (pixels + 7) / 8), '\0');
+  std::string bits(1, '\0');
   for (int pixel = 0; pixel < pixels; ++pixel) {
-    if (modules.IsDark(row, pixel / scale - kQuietZone)) continue;
-    char& byte = bits[static_cast<std::size_t>(1 + pixel / 8)];
-    byte = static_cast<char>(static_cast<unsigned char>(byte) | 0x80U >> pixel % 8);
+    if (pixel % 8 == 0) bits += '\0';
+    const bool is_light = !modules.IsDark(row, pixel / scale - kQuietZone);
+    const unsigned bit = is_light ? 0x80U >> pixel % 8 : 0;
+    bits.back() = static_cast<char>(static_cast<unsigned char>(bits.back()) | bit);
   }
   return bits;
 }
