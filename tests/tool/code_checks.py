@@ -69,6 +69,13 @@ CODE_ROWS = [
     Row(["qr", "--read", f"{CODE[:-1]}8"], NO, exact="", err=("ravo qr: character 15: wrong: the check digits do not match",)),
     Row(["qr", "--read", "SPD*1.0*AM:1", "--json"], NO, err=("character 13",),
         holds=as_json(lambda answer: (answer["reason"], answer["position"]) != ("code.missing", 12) and str(answer))),
+    # Containers of invoices; check_archives and others have the files.
+    Row(["isdoc", "extract", "--help"], out=("--list", "Examples:"), czech=("obálky",)),
+    Row(["isdoc", "extract"], WRONG_USAGE),
+    Row(["isdoc", "extract", "missing.isdocx"], WRONG_USAGE, err=("give a folder, or --list",)),
+    Row(["isdoc", "extract", "missing.isdocx", "--list"], WRONG_USAGE, exact="", err=("missing.isdocx: cannot be read: there is no such file",)),
+    Row(["isdoc", "extract", "missing.isdocx", "folder", "--list"], WRONG_USAGE, exact=""),
+    Row(["isdoc", "extract", "missing.isdocx", "folder", "--max-size", "0"], WRONG_USAGE, exact=""),
 ]
 
 

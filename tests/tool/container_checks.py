@@ -113,7 +113,7 @@ def check_archives(program):
 
 UNSAFE = {
     "../../evil.txt": "evil.txt", "/etc/passwd": "passwd", "C:\\Windows\\win.ini": "win.ini", "..": "part", "a/..": "part-2",
-    "CON": "_CON", "lpt1.txt": "_lpt1.txt", "con .x": "_con .x", "COM¹": "_COM¹", ".bashrc": "_bashrc", "-rf": "_rf", "a\x1b[2J\u202e.txt": "a_[2J_.txt", "tail. .": "tail",
+    "CON": "_CON", "lpt1.txt": "_lpt1.txt", "con .x": "_con.x", "COM¹": "_COM¹", ".bashrc": "_bashrc", "-rf": "_rf", "a\x1b[2J\u202e.txt": "a_[2J_.txt", "tail. .": "tail",
     "q?*<>|\":.txt": "q_______.txt", "ŽLUŤ.txt": "ŽLUŤ.txt", "žluť.TXT": "žluť-2.TXT", "x" * 200 + ".isdoc": "x" * 114 + ".isdoc",
 }
 

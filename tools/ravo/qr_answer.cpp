@@ -10,37 +10,52 @@
 #include "user_language.h"
 #include "whole_input.h"
 
-#include <array>
+#include <algorithm>
+#include <optional>
 #include <string_view>
-#include <utility>
 
 namespace tool {
 namespace {
 
 namespace czech = ravo::czech;
 
-constexpr std::array<std::pair<std::string_view, QrFormat>, 3> kExtensions{
-    {{".txt", QrFormat::Text}, {".svg", QrFormat::Svg}, {".png", QrFormat::Png}}};
+// How a code is written.
+enum class QrFormat { Text, Blocks, Svg, Png };
 
-std::optional<QrFormat> FormatOfName(const std::string& name) {
+struct QrFormatRow {
+  std::string_view name;
+  std::string_view extension;
+  QrFormat format;
+};
+// Files of blocks have no extension of their own.
+constexpr QrFormatRow kQrFormats[] = {{"text", ".txt", QrFormat::Text},
+                                      {"svg", ".svg", QrFormat::Svg},
+                                      {"png", ".png", QrFormat::Png},
+                                      {"blocks", "", QrFormat::Blocks}};
+
+QrFormat FormatNamed(const std::string& name) {
+  return std::ranges::find(kQrFormats, name, &QrFormatRow::name)->format;
+}
+
+std::optional<QrFormat> FormatOfFile(const std::string& name) {
   std::string lower = name;
   for (char& c : lower) c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-  for (const auto& [extension, format] : kExtensions) {
-    if (lower.ends_with(extension)) return format;
+  for (const QrFormatRow& row : kQrFormats) {
+    if (!row.extension.empty() && lower.ends_with(row.extension)) return row.format;
   }
   return std::nullopt;
 }
 
 // Which format is meant, or nothing and a message.
 std::optional<QrFormat> FormatOf(const QrOptions& options, Outcome& outcome) {
-  if (options.format == QrFormat::Png && options.out.empty()) {
+  if (options.format == "png" && options.out.empty()) {
     Complain(outcome, Text("a PNG needs a file: give -o"), Answer::WrongUsage);
     return std::nullopt;
   }
-  if (options.format) return options.format;
+  if (!options.format.empty()) return FormatNamed(options.format);
   if (options.out.empty())
     return IsTerminal(Channel::Out) && DrawsQrCodes() ? QrFormat::Blocks : QrFormat::Text;
-  const auto format = FormatOfName(options.out);
+  const auto format = FormatOfFile(options.out);
   if (!format) {
     Complain(outcome, Text("{0}: the name tells no format (.txt, .svg, .png); give --format", {options.out}),
              Answer::WrongUsage);

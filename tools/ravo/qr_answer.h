@@ -3,18 +3,14 @@
 #include "outcome.h"
 #include "payment_request.h"
 
-#include <optional>
 #include <string>
 
 namespace tool {
 
-/// How a code is written.
-enum class QrFormat { Text, Blocks, Svg, Png };
-
 /// What `ravo qr` is asked.
 struct QrOptions {
   PaymentRequest request;
-  std::optional<QrFormat> format;
+  std::string format;  ///< "text", "blocks", "svg", "png"; or empty
   std::string out;
   std::string read;  ///< the text of a code to read, "-" for standard input; or empty
   int scale = 8;

@@ -2,7 +2,6 @@
 #include "qr_answer.h"
 #include "text.h"
 
-#include <map>
 #include <memory>
 #include <string>
 
@@ -34,9 +33,6 @@ constexpr const char* kQrFooter = ToTranslate(
     "  ravo qr 19-2000145399/0800 --amount 1210 --invoice ID=FV26001 DD=20261122 INI=27082440\n"
     "  ravo qr --read 'SPD*1.0*ACC:CZ6508000000192000145399*AM:1210.00*CC:CZK'\n");
 
-const std::map<std::string, QrFormat> kQrFormats{
-    {"text", QrFormat::Text}, {"blocks", QrFormat::Blocks}, {"svg", QrFormat::Svg}, {"png", QrFormat::Png}};
-
 void AddPaymentOptions(CLI::App& command, PaymentRequest& request) {
   const auto add = [&](const char* name, std::string& value, const std::string& what,
                        const std::string& type) { command.add_option(name, value, what)->type_name(type); };
@@ -62,8 +58,7 @@ void AddQrOutput(CLI::App& command, QrOptions& options) {
   command
       .add_option("--format", options.format,
                   Text("What is written: text, blocks, svg or png; the name of the file tells it too"))
-      ->transform(CLI::CheckedTransformer(kQrFormats).description(""))
-      ->type_name(Text("FORMAT"));
+      ->check(CLI::IsMember({"text", "blocks", "svg", "png"}));
   command.add_option("--scale", options.scale, Text("Pixels a module of a PNG"))
       ->check(CLI::Range(1, 64).description(""))
       ->capture_default_str();
