@@ -9,6 +9,7 @@
 #include <cstdlib>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace {
 
@@ -56,6 +57,25 @@ void CheckFound(Text text) {
   }
 }
 
+void CheckPaymentCode(std::string_view text) {
+  const auto code = ParsePaymentCode(text);
+  Require(code.position <= text.size());
+  if (!code) return;
+  std::array<std::string, kPaymentCodeFields> values;
+  std::vector<PaymentCodeField> fields;
+  for (std::size_t i = 0; i < code.value.Fields().size(); ++i) {
+    const PaymentCodeField field = code.value.Fields()[i];
+    if (field.key == "CRC32") continue;
+    values[i].resize(field.value.size());
+    values[i].resize(DecodePaymentValue(field.value, values[i]));
+    fields.push_back({field.key, values[i]});
+  }
+  // The same attributes, percent-encoded in the writer's own way, which may take more room.
+  const auto written = WritePaymentCode(code.value.kind, fields, true);
+  if (written.code == Code::PaymentCodeRoom) return;
+  Require(static_cast<bool>(written) && ParsePaymentCode(written.text.View()));
+}
+
 void CheckBanks(std::string_view text) {
   std::array<Bank, 16> room;
   const auto count = ReadBankList(text, room);
@@ -81,5 +101,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   CheckFound(text);
   CheckFound(std::u16string_view(wide));
   CheckBanks(text);
+  CheckPaymentCode(text);
   return 0;
 }

@@ -20,7 +20,7 @@
 ///
 /// Begin with `ico.h` and `ico.cpp`: every other kind copies them. What kinds share when they read is
 /// `reading.h`; the reasons are rows of `reasons.inc`. Days are in `day.h` and `holidays.h`, VAT in
-/// `vat_rates.h` and `vat.h`.
+/// `vat_rates.h` and `vat.h`, the texts of QR codes in `payment_code.h`.
 ///
 /// This room never asks the machine: not the clock, not the locale, not a file, not a network.
 #include <ravo/czech/account.h>
@@ -35,6 +35,7 @@
 #include <ravo/czech/ico.h>
 #include <ravo/czech/isbn.h>
 #include <ravo/czech/kinds.h>
+#include <ravo/czech/payment_code.h>
 #include <ravo/czech/payment_text.h>
 #include <ravo/czech/post_code.h>
 #include <ravo/czech/reason.h>

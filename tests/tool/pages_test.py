@@ -37,7 +37,7 @@ def all_commands(program, commands):
 
 
 def options_of(text):
-    return sorted(set(re.findall(r"^  (?:-\w,)?(--?[a-z][a-z-]*)", text, re.MULTILINE)))
+    return sorted(set(re.findall(r"^  (?:-\w,)?(--?[a-z][a-z0-9-]*)", text, re.MULTILINE)))
 
 
 def completed(script, *words):

@@ -11,7 +11,9 @@ import sys
 import tempfile
 from concurrent.futures import ThreadPoolExecutor
 
+from code_checks import CODE_CHECKS, CODE_ROWS
 from command_rows import ROWS
+from container_checks import CONTAINER_CHECKS
 from convert_checks import CONVERT_CHECKS
 from czech_checks import CZECH_ROWS, check_bank_lists
 from date_checks import check_dates
@@ -71,6 +73,8 @@ CHECKS = (
     check_natural_order,
     check_sorted_encodings,
     *OUTPUT_CHECKS,
+    *CODE_CHECKS,
+    *CONTAINER_CHECKS,
     check_xml,
     check_xml_edits,
     check_xml_targets,
@@ -94,7 +98,7 @@ CHECKS = (
 def tested(program):
     # An emulator mostly waits for its servers.
     with ThreadPoolExecutor(max_workers=4 if program.emulated else 2) as pool:
-        for failures in pool.map(program.failures, ROWS + CZECH_ROWS + ([] if without_readers(program) else ISDOC_ROWS)):
+        for failures in pool.map(program.failures, ROWS + CZECH_ROWS + CODE_ROWS + ([] if without_readers(program) else ISDOC_ROWS)):
             yield from failures
     for check in CHECKS:
         yield from check(program)

@@ -1,5 +1,6 @@
 #include "commands.h"
 #include "isdoc_commands.h"
+#include "isdoc_extract_command.h"
 #include "text.h"
 
 namespace tool {
@@ -25,7 +26,8 @@ constexpr const char* kIsdocFooter = ToTranslate(
     "  ravo isdoc check invoices/ --json\n"
     "  ravo isdoc show invoice.isdoc\n"
     "  ravo isdoc csv invoices/ > lines.csv\n"
-    "  ravo isdoc csv --recapitulation invoices/ > vat.csv\n");
+    "  ravo isdoc csv --recapitulation invoices/ > vat.csv\n"
+    "  ravo isdoc extract invoice.isdocx folder\n");
 
 }  // namespace
 
@@ -34,6 +36,7 @@ void AddIsdocCommand(CLI::App& program, Outcome& outcome) {
   isdoc->require_subcommand(1);
   isdoc->footer(Text(kIsdocFooter));
   AddIsdocReaders(*isdoc, outcome);
+  AddIsdocExtract(*isdoc, outcome);
 }
 
 }  // namespace tool

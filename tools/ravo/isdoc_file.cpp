@@ -78,7 +78,8 @@ std::string VersionText(const isdoc::Document& document) {
 }
 
 [[noreturn]] void RefuseContainer(const std::string& name) {
-  throw FileError(ShownName(name) + ": " + Text("is an archive or a PDF; take the invoice out of it first"));
+  throw FileError(ShownName(name) + ": " +
+                  Text("is an archive or a PDF; take the invoice out of it with 'ravo isdoc extract'"));
 }
 
 // The program's own scanner tells in the user's language what is not XML.

@@ -48,7 +48,7 @@ std::vector<Theme> Themes() {
       {ToTranslate("The suite"), {AddTableCommand, AddCaptionsCommand, AddInterfacesCommand}},
       {ToTranslate("Accounting"),
        {AddCheckCommand, AddRoundCommand, AddVatCommand, AddDateCommand, AddDueCommand, AddHolidaysCommand,
-        AddAddressCommand, AddBackupNameCommand}},
+        AddQrCommand, AddAddressCommand, AddBackupNameCommand}},
       {ToTranslate("Documents"), {AddIsdocCommand, AddXmlCommand, AddFormCommand}},
       {ToTranslate("Characters and texts"),
        {AddCharCommand, AddSortCommand, AddMatchCommand, AddUrlCommand, AddRandomCommand}},
