@@ -2,6 +2,7 @@
 #include "isdoc_run.h"
 #include "isdoc_work.h"
 #include "json_text.h"
+#include "printable.h"
 #include "text.h"
 #include "user_language.h"
 #include "xml_tree_text.h"

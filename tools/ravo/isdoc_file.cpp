@@ -4,6 +4,7 @@
 #include "document_file.h"
 #include "document_scanner.h"
 #include "document_text.h"
+#include "printable.h"
 #include "text.h"
 #include "text_file.h"
 #include "xml_tree_text.h"

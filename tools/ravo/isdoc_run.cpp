@@ -101,9 +101,8 @@ InvoiceCounts RunOverInvoices(const std::vector<std::string>& names, Outcome& ou
     return true;
   };
   const unsigned threads = Threads(found.files.size());
-  OrderedBlocks<Batch>(2 * std::size_t{threads})
-      .Run(
-          threads, read, [&] { return [&](Batch& batch) { WorkOnBatch(work, batch); }; }, write);
+  const auto transform = [&] { return [&](Batch& batch, const auto&) { WorkOnBatch(work, batch); }; };
+  OrderedBlocks<Batch>(2 * std::size_t{threads}).Run(threads, read, transform, write);
   return all;
 }
 

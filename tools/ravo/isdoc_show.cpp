@@ -3,6 +3,7 @@
 #include "isdoc_file.h"
 #include "isdoc_work.h"
 #include "json_text.h"
+#include "printable.h"
 #include "text.h"
 #include "xml_tree_text.h"
 #include "xml_work.h"
