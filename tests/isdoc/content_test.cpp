@@ -383,6 +383,13 @@ TEST(ContentRules, CompareARateThatIsThereTwiceWithNothing) {
   EXPECT_EQ(std::ranges::count(findings, Rule::SumOfLines, &Finding::rule), 0);
 }
 
+TEST(ContentRules, DoNotCompareRowsWithoutEnd) {
+  std::string text = "<Invoice><TaxTotal>";
+  for (int i = 0; i < 101; ++i) text += "<TaxSubTotal><TaxCategory/></TaxSubTotal>";
+  const Findings findings = FindingsIn(text + "</TaxTotal></Invoice>");
+  EXPECT_EQ(std::ranges::count(findings, Rule::RateTwice, &Finding::rule), 1) << ListOf(findings);
+}
+
 // Two ways are hard to tell apart in a sample: lines of a shop at the prices of its shelves.
 constexpr std::string_view kShop =
     "<Invoice><DocumentType>1</DocumentType><IssueDate>{day}</IssueDate><TaxPointDate>{day}</"
