@@ -9,15 +9,22 @@
 namespace ravo::isdoc::detail {
 namespace {
 
+// A sum of deposits that are not listed may be right.
+void CheckUnlisted(const Invoice& invoice, std::string_view name) {
+  const auto paid = invoice.Number(*invoice.Totals(), name);
+  if (paid && !paid->IsZero())
+    invoice.Report(Rule::UntaxedDeposits, Severity::Note, *invoice.Child(*invoice.Totals(), name),
+                   paid->Text(), Amount().Text());
+}
+
 void CheckUntaxedDeposits(const Invoice& invoice, bool is_foreign) {
   const Element* const deposits = invoice.Child(invoice.Root(), "NonTaxedDeposits");
   if (invoice.Totals() == nullptr) return;
+  if (deposits == nullptr) return CheckUnlisted(invoice, kPaidDeposits.In(is_foreign));
   Amount sum;
-  if (deposits != nullptr) {
-    ForEachChild(invoice.Source(), *deposits, "NonTaxedDeposit", [&](const Element& deposit) {
-      sum += invoice.Number(deposit, kDeposit.In(is_foreign)).value_or(Amount());
-    });
-  }
+  ForEachChild(invoice.Source(), *deposits, "NonTaxedDeposit", [&](const Element& deposit) {
+    sum += invoice.Number(deposit, kDeposit.In(is_foreign)).value_or(Amount());
+  });
   invoice.Expect(Rule::UntaxedDeposits, *invoice.Totals(), kPaidDeposits.In(is_foreign), sum);
 }
 

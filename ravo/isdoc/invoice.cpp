@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <string>
 #include <utility>
 
 namespace ravo::isdoc::detail {
@@ -113,6 +114,15 @@ void Invoice::ReadSubtotals() {
     subtotal.is_taxed = is_taxed_ && Text(*category, "VATApplicable") != "false";
     subtotals_.push_back(std::move(subtotal));
   });
+  LimitSubtotals(*tax);
+}
+
+// There are a few rates; rows without end would be compared with each other without end.
+void Invoice::LimitSubtotals(const Element& tax) {
+  constexpr std::size_t kMost = 100;
+  if (subtotals_.size() <= kMost) return;
+  Report(Rule::RateTwice, Severity::Note, tax, std::to_string(subtotals_.size()));
+  subtotals_.clear();
 }
 
 void Invoice::ReadLines() {
@@ -131,8 +141,10 @@ void Invoice::ReadLines() {
     }
     lines_.push_back(line);
   });
-  for (const Line& line : lines_) {
-    if (Subtotal* const subtotal = SubtotalOf(line)) subtotal->lines.push_back(&line);
+  for (Line& line : lines_) {
+    Subtotal* const subtotal = SubtotalOf(line);
+    line.has_row = subtotal != nullptr;
+    if (subtotal != nullptr) subtotal->lines.push_back(&line);
   }
 }
 

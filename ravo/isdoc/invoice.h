@@ -66,6 +66,7 @@ struct Line {
   bool from_total = false;  ///< the tax comes from the total
   bool reverse = false;     ///< the customer owes the tax
   bool is_taxed = true;     ///< subject to VAT
+  bool has_row = false;     ///< its rate is in the recapitulation
 };
 
 /// A row of the recapitulation.
@@ -121,6 +122,7 @@ class Invoice {
  private:
   void ReadLines();
   void ReadSubtotals();
+  void LimitSubtotals(const Element& tax);
   [[nodiscard]] Subtotal* SubtotalOf(const Line& line) noexcept;
 
   const isdoc::Document& document_;

@@ -67,12 +67,12 @@ bool CheckIco(const Invoice& invoice, const Party& party) {
 bool CheckTaxNumber(const Invoice& invoice, const Party& party) {
   if (party.dic == nullptr) return false;
   const std::string_view text = Trimmed(party.dic->text);
-  if (text.starts_with(kCzech) || party.country == kCzech)
+  const auto number = czech::ParseVatNumber(text);
+  const bool is_foreign = number || number.code != czech::Code::VatCountry;
+  if (text.starts_with(kCzech) || (!is_foreign && party.country == kCzech))
     return CheckSpelling(invoice, Rule::DicWrong, *party.dic, czech::ParseDic(text));
   // Countries outside of the Union have numbers of their own.
-  const auto number = czech::ParseVatNumber(text);
-  if (number || number.code != czech::Code::VatCountry)
-    CheckSpelling(invoice, Rule::VatNumberWrong, *party.dic, number);
+  if (is_foreign) CheckSpelling(invoice, Rule::VatNumberWrong, *party.dic, number);
   return false;
 }
 

@@ -45,12 +45,6 @@ void CheckLawful(const Invoice& invoice, const Line& line, czech::Day day) {
                    std::string(Trimmed(at->text)), RatesOn(day));
 }
 
-bool HasRow(const Invoice& invoice, const Line& line) {
-  return std::ranges::any_of(invoice.Subtotals(), [&](const Subtotal& subtotal) {
-    return std::ranges::find(subtotal.lines, &line) != subtotal.lines.end();
-  });
-}
-
 std::string RatesOfRows(const Invoice& invoice) {
   std::string rates;
   for (const Subtotal& subtotal : invoice.Subtotals()) {
@@ -63,7 +57,7 @@ std::string RatesOfRows(const Invoice& invoice) {
 void CheckRow(const Invoice& invoice, const Line& line) {
   const Element* const category = invoice.Child(*line.element, "ClassifiedTaxCategory");
   const Element* const percent = category == nullptr ? nullptr : invoice.Child(*category, "Percent");
-  if (percent == nullptr || invoice.Subtotals().empty() || HasRow(invoice, line)) return;
+  if (percent == nullptr || invoice.Subtotals().empty() || line.has_row) return;
   const auto base = invoice.Number(*line.element, kLineBase.local);
   if (base && !base->IsZero())
     invoice.Report(Rule::RateMissing, Severity::Error, *percent, std::string(Trimmed(percent->text)),

@@ -9,9 +9,9 @@ namespace ravo::isdoc {
 ///
 /// Nothing is appended if and only if the document is valid by the schema of its root, `Invoice` or
 /// `CommonDocument`. Each fault is told once; after it the check goes on where the document fits again. What
-/// is missing has the place of its parent. Takes linear time. May throw `std::bad_alloc`. A text in
-/// extensions or a signature whose `xsi:type` is a type of XML Schema that the standard does not use is not
-/// checked.
+/// is missing has the place of its parent. Takes linear time, but for sorting findings and keys. May throw
+/// `std::bad_alloc`. A text in extensions or a signature whose `xsi:type` is a type of XML Schema that the
+/// standard does not use is not checked.
 void CheckStructure(const Document& document, Findings& findings);
 
 }  // namespace ravo::isdoc

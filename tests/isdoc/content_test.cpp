@@ -309,6 +309,12 @@ const Row kRows[] = {
      "taxed-deposits.isdoc",
      {{"<PaidDepositsAmount>5000.00", "<PaidDepositsAmount>4000.00"}},
      "5000.00"},
+    {Rule::UntaxedDeposits,
+     kNote,
+     "domestic.isdoc",
+     {{"<PaidDepositsAmount>0.00", "<PaidDepositsAmount>100.00"}},
+     "0.00"},
+    {Rule::VatNumberWrong, kError, "domestic.isdoc", {{"CZ09900101", "SK12345"}}, ""},
     {Rule::TaxedDeposits,
      kError,
      "taxed-deposits.isdoc",
@@ -381,6 +387,13 @@ TEST(ContentRules, CompareARateThatIsThereTwiceWithNothing) {
   const Findings findings = FindingsIn(WithRateTwice(test::Sample("domestic.isdoc")));
   EXPECT_EQ(std::ranges::count(findings, Rule::RateTwice, &Finding::rule), 2);
   EXPECT_EQ(std::ranges::count(findings, Rule::SumOfLines, &Finding::rule), 0);
+}
+
+TEST(ContentRules, DoNotCompareRowsWithoutEnd) {
+  std::string text = "<Invoice><TaxTotal>";
+  for (int i = 0; i < 101; ++i) text += "<TaxSubTotal><TaxCategory/></TaxSubTotal>";
+  const Findings findings = FindingsIn(text + "</TaxTotal></Invoice>");
+  EXPECT_EQ(std::ranges::count(findings, Rule::RateTwice, &Finding::rule), 1) << ListOf(findings);
 }
 
 // Two ways are hard to tell apart in a sample: lines of a shop at the prices of its shelves.

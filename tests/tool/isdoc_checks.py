@@ -32,6 +32,7 @@ ISDOC_ROWS = [
     Row(["isdoc", "check", sample("domestic.isdoc")], exact="one invoice, with errors: 0, with notes alone: 0\n",
         czech=("jedna faktura, s chybami: 0, jen s upozorněními: 0",)),
     Row(["isdoc", "check", "--json", sample("domestic.isdoc")], exact=""),
+    Row(["isdoc", "check", "--json", sample("mistakes.isdoc"), sample("domestic.isdoc")], NO, silent=True, holds=lines(7)),
     Row(["isdoc", "show", sample("domestic.isdoc")],
         out=("Invoice 20260101\n", "supplier\tPapírna Vzorová s.r.o., Smyšlená 12/3, 190 00 Vzorov, CZ\n",
              "1\tKancelářský papír A4, 500 listů\t10 ks\t89.90\t21 %\t899.00\t1087.79\n", "21 %\t1859.00\t390.39\t2249.39\ttax from the base\n",

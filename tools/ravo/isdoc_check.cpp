@@ -30,7 +30,7 @@ std::string SeverityText(isdoc::Severity severity) {
 
 // What the document has at the place and what belongs there.
 std::string Difference(const isdoc::Finding& finding) {
-  const std::string element(finding.element);
+  std::string element(finding.element);
   const std::string found = OnOneLine(finding.found);
   const std::string expected = OnOneLine(finding.expected);
   if (!found.empty() && !expected.empty())
