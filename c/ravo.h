@@ -34,7 +34,7 @@
  *           begins with its size. The symbols have the version RAVO_1.0.
  *
  * A check of form says "correct in form" and never that something exists. The file is in chapters: failure,
- * version, checks, banks, days, money and VAT.
+ * version, checks, banks, days, money and VAT, columns.
  */
 #ifndef RAVO_H
 #define RAVO_H
@@ -205,6 +205,215 @@ ravo_status RAVO_CALL ravo_day_of(int32_t year, int32_t month, int32_t day_of_mo
 
 /* Writes the date of a day. RAVO_RANGE outside of the years 1 to 9999. Never allocates. */
 ravo_status RAVO_CALL ravo_date_of(ravo_day day, ravo_date *date, ravo_error *error);
+
+/* ------------------------------------------------------------------------------------------------------------
+ * Columns
+ *
+ * A whole column of a table in one call: where data frames and databases already have it, without a copy. A
+ * ravo_column describes memory of the caller in one of the layouts of the Arrow columnar format. Describe it by
+ * hand, or let ravo_column_of_arrow read it from the structs of the Arrow C data interface; every function of this
+ * chapter takes the result.
+ *
+ *     ravo_column column = RAVO_COLUMN_INIT;             // three company numbers, one after the other
+ *     const int32_t offsets[] = {0, 8, 16, 19};
+ *     uint16_t codes[3];
+ *     ravo_answers answers = RAVO_ANSWERS_INIT;
+ *     column.layout = RAVO_LAYOUT_OFFSETS_32;
+ *     column.length = 3;
+ *     column.values = offsets;
+ *     column.data = "0462578104625782abc";
+ *     column.data_size = 19;
+ *     answers.codes = codes;
+ *     if (ravo_check_column(RAVO_KIND_ICO, &column, 0, &answers, NULL, NULL, NULL) == RAVO_OK)
+ *       printf("%zu wrong\n", answers.wrong);            // 2: codes are 0, 104, 102
+ *
+ * Trust.    Offsets, views and indices are checked while their row is read: a row whose value does not lie in the
+ *           data ends the call with RAVO_RANGE, and its index is in error->position. RAVO_TRUSTED leaves these
+ *           checks out: for memory of a library that has made them itself. The offsets of null rows, and entries
+ *           of a dictionary that no row has, are not looked at. Nothing needs an alignment.
+ * UTF-8.    Text and binary are one. A value that is not UTF-8 is a wrong value, with RAVO_CODE_NOT_UTF8, and ends
+ *           nothing.
+ * Results.  What is written per row may have been overwritten after every status; counts are written on RAVO_OK and
+ *           RAVO_BUFFER. Memory of results must not overlap the column.
+ * Memory.   A column with a dictionary allocates a few bytes for each of its entries, each of which is checked at
+ *           most once; RAVO_MEMORY if there are none. Other columns never allocate.
+ * Threads.  To use several processors, give each thread a slice: the same column with an `offset` and a `length`.
+ */
+
+/* Where the values of a column are. The numbers are kept for ever. */
+typedef int32_t ravo_layout;
+enum {
+  RAVO_LAYOUT_OFFSETS_32 = 1,         /* row i is data[o[i]] to data[o[i + 1]]; o is int32_t. Arrow: utf8, binary */
+  RAVO_LAYOUT_OFFSETS_64 = 2,         /* the same with int64_t. Arrow: large utf8, large binary */
+  RAVO_LAYOUT_VIEWS = 3,              /* 16 bytes for each row: short texts, or a place in a buffer. Arrow: views */
+  RAVO_LAYOUT_FIXED = 4,              /* `width` bytes for each row; NULs at the end are no part of the text */
+  RAVO_LAYOUT_DICTIONARY = 5,         /* signed indices of `width` bytes (1, 2, 4, 8) into another column */
+  RAVO_LAYOUT_DICTIONARY_UNSIGNED = 6 /* unsigned indices of `width` bytes into another column */
+};
+
+/* The size of data that the caller does not know: it ends where the offset of the last row ends. */
+#define RAVO_SIZE_UNKNOWN ((size_t)-1)
+
+/* A column of the caller. It starts as `ravo_column column = RAVO_COLUMN_INIT;`. What a layout lacks is 0. */
+typedef struct ravo_column {
+  size_t size;                          /* sizeof(ravo_column) */
+  ravo_layout layout;
+  int32_t width;                        /* bytes of a value (fixed) or of an index (dictionary) */
+  size_t length;                        /* rows */
+  size_t offset;                        /* rows of the memory before the first one, as a slice has them */
+  const uint8_t *validity;              /* bit offset + i, lowest first, is 0 if row i is null; null: none is */
+  const void *values;                   /* offsets, views, values of fixed width, or indices */
+  const char *data;                     /* what offsets are into */
+  size_t data_size;                     /* bytes of data; or RAVO_SIZE_UNKNOWN */
+  const void *const *buffers;           /* what views are into */
+  const int64_t *buffer_sizes;          /* bytes of each */
+  size_t buffer_count;
+  const struct ravo_column *dictionary; /* a column of any layout without a dictionary */
+} ravo_column;
+
+#define RAVO_COLUMN_INIT {sizeof(ravo_column), 0, 0, 0, 0, NULL, NULL, NULL, 0, NULL, NULL, 0, NULL}
+
+/* What a function may rely on. */
+enum { RAVO_TRUSTED = 1 /* offsets, views and indices are right: do not check them */ };
+
+/* Codes of rows beside the reasons of checks. */
+enum {
+  RAVO_CODE_CORRECT = 0,
+  RAVO_CODE_NOT_UTF8 = 65534, /* the value is not UTF-8 */
+  RAVO_CODE_NULL = 65535      /* the row has no value */
+};
+
+/*
+ * A function of the caller that a long call calls every few thousand rows, and at the end.
+ *
+ * 0 goes on. Any other result ends the call: RAVO_STOPPED, with the result in error->code.
+ */
+typedef int32_t(RAVO_CALL *ravo_progress)(void *context, uint64_t done, uint64_t total);
+
+/* Room for a column of texts that a function writes. Rows that are wrong or null have an empty text. */
+typedef struct ravo_texts {
+  size_t size;        /* sizeof(ravo_texts) */
+  ravo_layout layout; /* RAVO_LAYOUT_OFFSETS_32, _OFFSETS_64 or _FIXED */
+  int32_t width;      /* bytes of a value (fixed); shorter ones end with NULs, a longer one is RAVO_RANGE */
+  void *offsets;      /* room for an offset more than rows; not with fixed */
+  char *data;         /* may be null with data_size 0, to ask for the length alone */
+  size_t data_size;
+  size_t data_length; /* receives the bytes of all texts. More than data_size: RAVO_BUFFER, and what fits is there */
+} ravo_texts;
+
+#define RAVO_TEXTS_INIT {sizeof(ravo_texts), 0, 0, NULL, NULL, 0, 0}
+
+/* Room for what a check finds. Each pointer may be null. */
+typedef struct ravo_answers {
+  size_t size;       /* sizeof(ravo_answers) */
+  uint16_t *codes;   /* of each row: the number of the reason, or one of RAVO_CODE_... */
+  uint8_t *validity; /* (rows + 7) / 8 bytes: bit i, lowest first, is 1 if row i is correct; bits past the end: 0 */
+  ravo_texts *texts; /* canonical forms, or usual spellings */
+  size_t wrong;      /* receives how many rows are wrong; those that are null do not count */
+  size_t nulls;      /* receives how many rows are null */
+} ravo_answers;
+
+#define RAVO_ANSWERS_INIT {sizeof(ravo_answers), NULL, NULL, NULL, 0, 0}
+
+/*
+ * Checks every row of a column for a kind, as ravo_check does, and writes codes, validity and canonical forms.
+ *
+ * RAVO_OK whatever the rows are. `flags` is 0 or RAVO_TRUSTED. `progress` may be null. Allocates for dictionaries
+ * alone. The example is at the top of the chapter.
+ */
+ravo_status RAVO_CALL ravo_check_column(ravo_kind kind, const ravo_column *column, uint32_t flags,
+                                        ravo_answers *answers, ravo_progress progress, void *context,
+                                        ravo_error *error);
+
+/*
+ * Checks every row of a column for a kind, and writes usual spellings where ravo_check_column writes canonical forms.
+ */
+ravo_status RAVO_CALL ravo_respell_column(ravo_kind kind, const ravo_column *column, uint32_t flags,
+                                          ravo_answers *answers, ravo_progress progress, void *context,
+                                          ravo_error *error);
+
+/*
+ * Writes the CRC-32 (ISO-HDLC, as in ZIP) of the bytes of each row to `results`; 0 for an empty or null row.
+ *
+ * Any bytes will do: they need not be UTF-8. Allocates for dictionaries alone.
+ *
+ *     "123456789"  // 0xCBF43926
+ */
+ravo_status RAVO_CALL ravo_crc32_column(const ravo_column *column, uint32_t flags, uint32_t *results,
+                                        ravo_progress progress, void *context, ravo_error *error);
+
+/* The structs of the Arrow C data interface, exactly as that standard has them; a program may have them already. */
+#ifndef ARROW_C_DATA_INTERFACE
+#define ARROW_C_DATA_INTERFACE
+#define ARROW_FLAG_DICTIONARY_ORDERED 1
+#define ARROW_FLAG_NULLABLE 2
+#define ARROW_FLAG_MAP_KEYS_SORTED 4
+struct ArrowSchema {
+  const char *format;
+  const char *name;
+  const char *metadata;
+  int64_t flags;
+  int64_t n_children;
+  struct ArrowSchema **children;
+  struct ArrowSchema *dictionary;
+  void (*release)(struct ArrowSchema *);
+  void *private_data;
+};
+struct ArrowArray {
+  int64_t length;
+  int64_t null_count;
+  int64_t offset;
+  int64_t n_buffers;
+  int64_t n_children;
+  const void **buffers;
+  struct ArrowArray **children;
+  struct ArrowArray *dictionary;
+  void (*release)(struct ArrowArray *);
+  void *private_data;
+};
+#endif
+
+/* The struct of the Arrow C stream interface. */
+#ifndef ARROW_C_STREAM_INTERFACE
+#define ARROW_C_STREAM_INTERFACE
+struct ArrowArrayStream {
+  int (*get_schema)(struct ArrowArrayStream *, struct ArrowSchema *out);
+  int (*get_next)(struct ArrowArrayStream *, struct ArrowArray *out);
+  const char *(*get_last_error)(struct ArrowArrayStream *);
+  void (*release)(struct ArrowArrayStream *);
+  void *private_data;
+};
+#endif
+
+/*
+ * Describes an Arrow array of texts: writes `*column`, and `*dictionary` if the array has one.
+ *
+ * `field` is the name of a column of a record batch, or null for an array that is no batch. Formats: u, U, vu, z, Z,
+ * vz, w:N, and dictionaries of these. Another format, or an array whose parts do not fit its format, is RAVO_ARGUMENT;
+ * a name that the batch has not is RAVO_UNKNOWN. Schema and array are borrowed: they stay the caller's, who releases
+ * them as ever, and the column holds until then. `dictionary` may be null if there is none. Never allocates.
+ */
+ravo_status RAVO_CALL ravo_column_of_arrow(const struct ArrowSchema *schema, const struct ArrowArray *array,
+                                           const char *field, size_t field_length, ravo_column *column,
+                                           ravo_column *dictionary, ravo_error *error);
+
+/*
+ * A function of the caller that receives a batch of a stream: its column, and how many rows came before it.
+ *
+ * The column holds until the function returns. 0 goes on. Any other result ends the stream: RAVO_STOPPED, with the
+ * result in error->code.
+ */
+typedef int32_t(RAVO_CALL *ravo_batch)(void *context, const ravo_column *column, uint64_t first_row);
+
+/*
+ * Reads an Arrow stream to its end and gives a column of each batch to a function.
+ *
+ * `field` is as in ravo_column_of_arrow. The stream becomes the function's: it is released exactly once, whatever the
+ * status, and so are its schema and its batches. A failure of the stream itself is RAVO_STOPPED, with its own number
+ * in error->code and its own words as the message. Allocates nothing; the stream may.
+ */
+ravo_status RAVO_CALL ravo_arrow_stream(struct ArrowArrayStream *stream, const char *field, size_t field_length,
+                                        ravo_batch batch, void *context, ravo_error *error);
 
 #ifdef __cplusplus
 }
