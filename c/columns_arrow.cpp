@@ -187,9 +187,16 @@ class Owned {
   Struct value_{};
 };
 
-ravo_status FailStream(ArrowArrayStream& stream, int code, ravo_error* error) noexcept {
+// The stream's own words may be of any length and encoding: whole characters of them that fit.
+std::string_view MessageOf(ArrowArrayStream& stream) noexcept {
   const char* const words = stream.get_last_error == nullptr ? nullptr : stream.get_last_error(&stream);
-  return Fail(error, {RAVO_STOPPED, code, 0, words == nullptr ? "the stream failed" : words});
+  if (words == nullptr) return "the stream failed";
+  const std::string_view fits = std::string_view(words).substr(0, sizeof(ravo_error::message) - 1);
+  return fits.substr(0, ravo::c::WellFormedLength(fits));
+}
+
+ravo_status FailStream(ArrowArrayStream& stream, int code, ravo_error* error) noexcept {
+  return Fail(error, {RAVO_STOPPED, code, 0, MessageOf(stream)});
 }
 
 struct BatchSink {

@@ -4,7 +4,7 @@
 #include <ravo.h>
 
 /* The tests of ravo.h: one source for each chapter. */
-#define TEST_CHAPTERS(CHAPTER) CHAPTER(checks) CHAPTER(days) CHAPTER(columns) 
+#define TEST_CHAPTERS(CHAPTER) CHAPTER(checks) CHAPTER(days) CHAPTER(columns) CHAPTER(columns_arrow) 
 
 #define TEST_DECLARE(chapter) void test_##chapter(void);
 TEST_CHAPTERS(TEST_DECLARE)
