@@ -91,6 +91,12 @@ ravo_status CheckColumn(const ravo_column* column, std::uint32_t flags, ravo_err
   return CheckOne(*column->dictionary, error);
 }
 
+ravo_status FailRow(Row found, std::size_t row, ravo_error* error) noexcept {
+  const std::string_view message = found == Row::Broken ? "the value of the row is not in the column's data"
+                                                        : "the result of the row does not fit its column";
+  return Fail(error, {RAVO_RANGE, 0, row, message});
+}
+
 ravo_status Report(const Run& run, std::size_t done, std::size_t total, ravo_error* error) {
   if (run.progress == nullptr) return RAVO_OK;
   const std::int32_t code = run.progress(run.context, done, total);

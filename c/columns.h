@@ -134,23 +134,35 @@ class FixedTexts {
   const char* values_;
 };
 
-enum class Row : std::uint8_t { Value, Null, Broken };
+enum class Row : std::uint8_t {
+  Done,
+  Null,
+  Broken,  ///< the value is not in the data
+  Misfit   ///< the result does not fit its column
+};
+
+/// Does a job for a text, without a copy of its result.
+template <class Job>
+[[nodiscard]] Row DoText(Job& job, std::size_t row, std::string_view text) noexcept {
+  return job.Put(row, job.Of(text)) ? Row::Done : Row::Misfit;
+}
 
 /// Rows that have their own texts.
 template <class Texts, class Job>
 class PlainRows {
  public:
-  using Result = typename Job::Result;
-
   PlainRows(const ravo_column& column, bool trusted) noexcept
       : texts_(column, trusted), valid_{column.validity, column.offset} {}
 
-  [[nodiscard]] Row At(std::size_t row, const Job& job, Result& result) const noexcept {
+  [[nodiscard]] Row Get(std::size_t row, std::string_view& text) const noexcept {
     if (!valid_.Has(row)) return Row::Null;
+    return texts_.Get(row, text) ? Row::Done : Row::Broken;
+  }
+
+  [[nodiscard]] Row Do(std::size_t row, Job& job) const noexcept {
     std::string_view text;
-    if (!texts_.Get(row, text)) return Row::Broken;
-    result = job.Of(text);
-    return Row::Value;
+    const Row found = Get(row, text);
+    return found == Row::Done ? DoText(job, row, text) : found;
   }
 
  private:
@@ -165,8 +177,6 @@ class PlainRows {
 template <class Texts, class Job>
 class DictionaryRows {
  public:
-  using Result = typename Job::Result;
-
   DictionaryRows(const ravo_column& column, bool trusted)
       : column_(column),
         entries_(*column.dictionary, trusted),
@@ -174,25 +184,31 @@ class DictionaryRows {
         trusted_(trusted),
         done_(Room(column.dictionary->length)) {}
 
-  [[nodiscard]] Row At(std::size_t row, const Job& job, Result& result) noexcept {
+  [[nodiscard]] Row Do(std::size_t row, Job& job) noexcept {
     if (!valid_.Has(row)) return Row::Null;
     const std::uint64_t index = IndexAt(column_, row);
     if (!trusted_ && index >= done_.size()) return Row::Broken;
-    Entry& entry = done_[static_cast<std::size_t>(index)];
-    if (!entry) {
-      entry.emplace();
-      entry->row = entries_.At(static_cast<std::size_t>(index), job, entry->result);
-    }
-    result = entry->result;
-    return entry->row;
+    const Entry& entry = DoneEntry(static_cast<std::size_t>(index), job);
+    if (entry->row != Row::Done) return entry->row;
+    return job.Put(row, entry->result) ? Row::Done : Row::Misfit;
   }
 
  private:
   struct Done {
     Row row = Row::Null;
-    Result result{};
+    typename Job::Result result{};
   };
   using Entry = std::optional<Done>;
+
+  [[nodiscard]] const Entry& DoneEntry(std::size_t index, const Job& job) noexcept {
+    Entry& entry = done_[index];
+    if (entry) return entry;
+    entry.emplace();
+    std::string_view text;
+    entry->row = entries_.Get(index, text);
+    if (entry->row == Row::Done) entry->result = job.Of(text);
+    return entry;
+  }
 
   // A length past all memory is a lack of memory, not a fault.
   static std::size_t Room(std::size_t length) {
@@ -221,20 +237,18 @@ struct Run {
 /// Reports the progress; returns RAVO_OK or RAVO_STOPPED.
 [[nodiscard]] ravo_status Report(const Run& run, std::size_t done, std::size_t total, ravo_error* error);
 
+/// The failure of a row that is neither done nor null.
+[[nodiscard]] ravo_status FailRow(Row found, std::size_t row, ravo_error* error) noexcept;
+
 /// Does a job for the rows from `first` to `end`.
 template <class Rows, class Job>
 [[nodiscard]] ravo_status RunBlock(Rows& rows, std::size_t first, std::size_t end, Job& job,
                                    ravo_error* error) noexcept {
   for (std::size_t row = first; row < end; ++row) {
-    typename Job::Result result{};
-    const Row found = rows.At(row, job, result);
-    if (found == Row::Broken)
-      return Fail(error, {RAVO_RANGE, 0, row, "the value of the row is not in the column's data"});
-    if (found == Row::Null) {
-      job.PutNull(row);
-    } else if (!job.Put(row, result)) {
-      return Fail(error, {RAVO_RANGE, 0, row, "the result of the row does not fit its column"});
-    }
+    const Row found = rows.Do(row, job);
+    if (found == Row::Done) continue;
+    if (found != Row::Null) return FailRow(found, row, error);
+    job.PutNull(row);
   }
   job.EndBlock(first, end);
   return RAVO_OK;

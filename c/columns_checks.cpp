@@ -12,9 +12,8 @@ namespace czech = ravo::czech;
 
 namespace {
 
-std::uint16_t CodeOfRefusal(czech::Code code, std::string_view text) noexcept {
-  if (ravo::c::WellFormedLength(text) != text.size()) return RAVO_CODE_NOT_UTF8;
-  return static_cast<std::uint16_t>(code);
+czech::Code CodeOfRefusal(czech::Code code, std::string_view text) noexcept {
+  return ravo::c::WellFormedLength(text) == text.size() ? code : czech::Code{RAVO_CODE_NOT_UTF8};
 }
 
 // What correct texts are spelled as. A text that is correct in form is UTF-8: only refused ones are looked
@@ -76,8 +75,9 @@ class TextsOfRows {
   explicit TextsOfRows(ravo_texts& texts) noexcept : texts_(texts) { StoreOffset(0); }
 
   // False if the text does not fit the width, or its end an offset.
-  [[nodiscard]] bool Put(std::size_t row, std::string_view text) noexcept {
-    if (texts_.layout == RAVO_LAYOUT_FIXED) return PutFixed(text);
+  template <std::size_t capacity>
+  [[nodiscard]] bool Put(std::size_t row, const czech::FixedText<capacity>& text) noexcept {
+    if (texts_.layout == RAVO_LAYOUT_FIXED) return PutFixed(text.View());
     Append(text);
     if (texts_.layout == RAVO_LAYOUT_OFFSETS_32 && length_ > INT32_MAX) return false;
     StoreOffset(row + 1);
@@ -102,9 +102,15 @@ class TextsOfRows {
     return true;
   }
 
-  void Append(std::string_view text) noexcept {
-    if (MakeRoom(text.size())) std::copy_n(text.data(), text.size(), texts_.data + length_);
-    length_ += text.size();
+  // A copy of known length is a few instructions: the next text overwrites what is too much of it.
+  template <std::size_t capacity>
+  void Append(const czech::FixedText<capacity>& text) noexcept {
+    if (fits_ && texts_.data_size - length_ >= capacity) {
+      std::copy_n(text.characters.data(), capacity, texts_.data + length_);
+    } else if (MakeRoom(text.size)) {
+      std::copy_n(text.characters.data(), text.size, texts_.data + length_);
+    }
+    length_ += text.size;
   }
 
   // After the first text that does not fit, none is written.
@@ -138,7 +144,8 @@ class CodesJob {
 
   [[nodiscard]] Result Of(std::string_view text) const noexcept {
     const czech::Code code = czech::Check(kind_, text).code;
-    return code == czech::Code::Correct ? Result{RAVO_CODE_CORRECT} : CodeOfRefusal(code, text);
+    if (code == czech::Code::Correct) return RAVO_CODE_CORRECT;
+    return static_cast<Result>(CodeOfRefusal(code, text));
   }
   [[nodiscard]] bool Put(std::size_t row, Result code) noexcept {
     codes_.Put(row, code);
@@ -160,26 +167,24 @@ class CodesJob {
 template <class Form>
 class FormsJob {
  public:
-  struct Result {
-    std::uint16_t code = RAVO_CODE_CORRECT;
-    typename Form::Text text;
-  };
+  /// Its code is that of the row.
+  using Result = czech::Parsed<typename Form::Text>;
 
   FormsJob(czech::Kind kind, const ravo_answers& answers) noexcept
       : kind_(kind), codes_(answers), texts_(*answers.texts) {}
 
   [[nodiscard]] Result Of(std::string_view text) const noexcept {
-    const auto checked = Form::Of(kind_, text);
-    if (!checked) return {CodeOfRefusal(checked.code, text), {}};
-    return {RAVO_CODE_CORRECT, checked.value};
+    Result checked = Form::Of(kind_, text);
+    if (!checked) checked = {{}, CodeOfRefusal(checked.code, text)};
+    return checked;
   }
   [[nodiscard]] bool Put(std::size_t row, const Result& result) noexcept {
-    codes_.Put(row, result.code);
-    return texts_.Put(row, result.text.View());
+    codes_.Put(row, static_cast<std::uint16_t>(result.code));
+    return texts_.Put(row, result.value);
   }
   void PutNull(std::size_t row) noexcept {
     codes_.Put(row, RAVO_CODE_NULL);
-    (void)texts_.Put(row, {});
+    (void)texts_.Put(row, typename Form::Text());
   }
   void EndBlock(std::size_t first, std::size_t end) noexcept { codes_.EndBlock(first, end); }
   [[nodiscard]] ravo_status Finish(ravo_answers& answers, ravo_error* error) const noexcept {
