@@ -39,7 +39,7 @@ static const char arrow_data[] = "abc0462578104625782xyz";
 static const uint8_t arrow_validity[] = {0x0D};
 
 static void expect_arrow_codes(const ravo_column* column, const uint16_t* expected) {
-  uint16_t codes[16];
+  uint16_t codes[64];
   ravo_answers answers = RAVO_ANSWERS_INIT;
   answers.codes = codes;
   EXPECT(ravo_check_column(RAVO_KIND_ICO, column, 0, &answers, NULL, NULL, NULL) == RAVO_OK);
@@ -181,6 +181,47 @@ static void what_is_no_array_is_refused(void) {
   EXPECT(ravo_column_of_arrow(&schema, &array, NULL, 0, &column, NULL, NULL) == RAVO_ARGUMENT);
   schema = schema_of(NULL, "");
   EXPECT(ravo_column_of_arrow(&schema, &array, NULL, 0, &column, NULL, NULL) == RAVO_ARGUMENT);
+}
+
+/* A column of another implementation: the buffers of an array, those of its dictionary, and the codes
+ * expected. */
+struct arrow_sample {
+  const char* format;
+  int64_t length;
+  const uint16_t* codes;
+  int64_t n_buffers;
+  const void* buffers[5];
+  const char* dictionary_format;
+  int64_t dictionary_length;
+  int64_t dictionary_n_buffers;
+  const void* dictionary_buffers[5];
+};
+
+#include "arrow_columns.inc"
+
+static void expect_sample(const struct arrow_sample* sample, int64_t offset) {
+  struct arrow_sample copy = *sample;
+  struct ArrowSchema schema = schema_of(sample->format, "");
+  struct ArrowSchema entries_schema = schema_of(sample->dictionary_format, "");
+  struct ArrowArray array = array_of(sample->length - offset, offset, copy.buffers, sample->n_buffers);
+  struct ArrowArray entries =
+      array_of(sample->dictionary_length, 0, copy.dictionary_buffers, sample->dictionary_n_buffers);
+  ravo_column column = RAVO_COLUMN_INIT;
+  ravo_column dictionary = RAVO_COLUMN_INIT;
+  if (sample->dictionary_format != NULL) {
+    schema.dictionary = &entries_schema;
+    array.dictionary = &entries;
+  }
+  EXPECT(ravo_column_of_arrow(&schema, &array, NULL, 0, &column, &dictionary, NULL) == RAVO_OK);
+  expect_arrow_codes(&column, sample->codes + offset);
+}
+
+static void columns_of_another_implementation_have_codes(void) {
+  size_t i;
+  int64_t offset;
+  for (i = 0; i < sizeof ARROW_SAMPLES / sizeof *ARROW_SAMPLES; ++i) {
+    for (offset = 0; offset < ARROW_SAMPLES[i].length; ++offset) expect_sample(&ARROW_SAMPLES[i], offset);
+  }
 }
 
 /* A record batch of two columns, of which the second one has the texts. */
@@ -422,6 +463,7 @@ void test_columns_arrow(void) {
   arrow_dictionaries_are_columns();
   formats_are_known_or_refused();
   what_is_no_array_is_refused();
+  columns_of_another_implementation_have_codes();
   batches_have_columns_by_name();
   batches_that_do_not_fit_are_refused();
   streams_give_every_batch();
