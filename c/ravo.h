@@ -288,7 +288,7 @@ enum {
  *
  * 0 goes on. Any other result ends the call: RAVO_STOPPED, with the result in error->code.
  */
-typedef int32_t(RAVO_CALL *ravo_progress)(void *context, uint64_t done, uint64_t total);
+typedef int32_t(RAVO_CALL *ravo_progress)(void *context, size_t done, size_t total);
 
 /* Room for a column of texts that a function writes. Rows that are wrong or null have an empty text. */
 typedef struct ravo_texts {

@@ -411,8 +411,8 @@ static void columns_past_all_memory_are_refused(void) {
 struct progress_log {
   int calls;
   int last;
-  uint64_t done;
-  uint64_t total;
+  size_t done;
+  size_t total;
 };
 
 static int32_t RAVO_CALL log_progress(void* context, uint64_t done, uint64_t total) {
