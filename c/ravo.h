@@ -37,7 +37,7 @@
  *
  * A check of form says "correct in form" and never that something exists. The file is in chapters: failure,
  * version, checks, what numbers tell, banks, days, holidays and terms, money, VAT, the suite's own rules, its tables
- * and captions, texts, checksums.
+ * and captions, texts, checksums, encodings.
  */
 #ifndef RAVO_H
 #define RAVO_H
@@ -74,14 +74,16 @@ enum {
   RAVO_UNKNOWN = 6,   /* there is nothing of that name or number */
   RAVO_MEMORY = 7,    /* there is no memory left */
   RAVO_STOPPED = 8,   /* a callback of the caller ended the work */
-  RAVO_INTERNAL = 9   /* a fault of the library: please report it */
+  RAVO_INTERNAL = 9,  /* a fault of the library: please report it */
+  RAVO_MALFORMED = 10, /* bytes are no character of their encoding */
+  RAVO_LACKING = 11   /* an encoding lacks a character */
 };
 
 /* Why a function failed. Declare it as `ravo_error error = RAVO_ERROR_INIT;`. */
 typedef struct ravo_error {
   size_t size;         /* sizeof(ravo_error), set by the caller */
   ravo_status status;  /* what the function returned */
-  int32_t code;        /* with RAVO_WRONG: the number of the reason, see ravo_reason_name; 0 if the rule has none */
+  int32_t code;        /* of RAVO_WRONG the reason, see ravo_reason_name, or 0; of RAVO_STOPPED the caller's number */
   size_t position;     /* where, in bytes of the text or as the index of the item; 0 if there is no place */
   char message[232];   /* one sentence in English, UTF-8, ends with NUL */
 } ravo_error;
@@ -1023,6 +1025,116 @@ enum {
  */
 ravo_status RAVO_CALL ravo_suite_hash(ravo_suite_hash_of what, const void *bytes, size_t bytes_length,
                                       uint32_t initial, uint32_t *hash, ravo_error *error);
+
+/* ------------------------------------------------------------------------------------------------------------
+ * Encodings
+ *
+ * Conversion is exact: every character of Unicode, and what the encoding's definition calls malformed is malformed.
+ * A byte-order mark is a character like any other.
+ */
+
+/*
+ * An encoding by its number, 0, 1, ... without gaps.
+ *
+ * Other versions of the library may have other numbers: keep the name.
+ */
+typedef int32_t ravo_encoding;
+
+/* What is known of an encoding. Declare it as `ravo_encoding_info info = RAVO_ENCODING_INFO_INIT;`. */
+typedef struct ravo_encoding_info {
+  size_t size;          /* sizeof(ravo_encoding_info), set by the caller */
+  const char *name;     /* "Windows_1250" */
+  const char *label;    /* for people */
+  const char *aliases;  /* other names, separated by blanks */
+  const char *notes;    /* remarks; may be empty */
+  int32_t code_page;    /* Windows number; 0 if it has none */
+  int32_t can_read;     /* 1 if it can be converted from, else 0 */
+  int32_t can_write;    /* 1 if it can be converted to, else 0 */
+} ravo_encoding_info;
+
+#define RAVO_ENCODING_INFO_INIT {sizeof(ravo_encoding_info), 0, 0, 0, 0, 0, 0, 0}
+
+/* Returns how many encodings there are. Never allocates. */
+size_t RAVO_CALL ravo_encoding_count(void);
+
+/* Writes what is known of an encoding. RAVO_UNKNOWN for a number that is none. Never allocates. */
+ravo_status RAVO_CALL ravo_encoding_at(ravo_encoding encoding, ravo_encoding_info *info, ravo_error *error);
+
+/*
+ * Writes the encoding with a name, an alias, a label, or the number of a code page with or without "cp".
+ *
+ * Only ASCII letters and digits count, in either case. RAVO_UNKNOWN if there is none. Never allocates.
+ *
+ *     ravo_encoding_find("windows-1250", RAVO_NUL_TERMINATED, &encoding, NULL)
+ */
+ravo_status RAVO_CALL ravo_encoding_find(const char *name, size_t name_length, ravo_encoding *encoding,
+                                         ravo_error *error);
+
+/* Writes the encoding with the number of a Windows code page. RAVO_UNKNOWN if there is none. Never allocates. */
+ravo_status RAVO_CALL ravo_encoding_of_code_page(int32_t code_page, ravo_encoding *encoding, ravo_error *error);
+
+/*
+ * Writes the encoding that a byte-order mark at the start of bytes names, and the mark's length in bytes.
+ *
+ * Fewer than four bytes count as the whole text. `mark_length` may be null. RAVO_UNKNOWN if there is no mark. Never
+ * allocates.
+ */
+ravo_status RAVO_CALL ravo_encoding_of_mark(const void *bytes, size_t bytes_length, ravo_encoding *encoding,
+                                            size_t *mark_length, ravo_error *error);
+
+/* What happens to what cannot be converted. */
+typedef int32_t ravo_convert_policy;
+enum {
+  RAVO_CONVERT_STRICT = 0, /* the conversion fails at its position */
+  RAVO_CONVERT_REPLACE = 1 /* it becomes U+FFFD, or "?" if the encoding lacks that */
+};
+
+/* Hears how many bytes of `total` are done; returns 0 to continue, another number to stop. */
+typedef int32_t(RAVO_CALL *ravo_progress)(void *context, size_t done, size_t total);
+
+/*
+ * Converts bytes from one encoding to another.
+ *
+ * RAVO_ARGUMENT if an encoding cannot be read or written. With RAVO_CONVERT_STRICT, RAVO_MALFORMED for bytes that are
+ * no character and RAVO_LACKING for a character that `to` lacks, at the position in `bytes`. `progress` may be null;
+ * it gets `context`, and if it stops the work, RAVO_STOPPED with its number as `error->code`. If the buffer is too
+ * small, or on failure, its contents are undefined. Allocates.
+ */
+ravo_status RAVO_CALL ravo_convert(ravo_encoding from, const void *bytes, size_t bytes_length, ravo_encoding to,
+                                   ravo_convert_policy policy, void *buffer, size_t size, size_t *length,
+                                   ravo_progress progress, void *context, ravo_error *error);
+
+/* A conversion of a text that comes in pieces. One thread at a time may use it. */
+typedef struct ravo_converter ravo_converter;
+
+/* Opens a conversion. Close it with ravo_converter_close. Fails as ravo_convert does. Allocates. */
+ravo_status RAVO_CALL ravo_converter_open(ravo_encoding from, ravo_encoding to, ravo_convert_policy policy,
+                                          ravo_converter **converter, ravo_error *error);
+
+/* Closes a conversion. Null is allowed. */
+void RAVO_CALL ravo_converter_close(ravo_converter *converter);
+
+/*
+ * Converts the next bytes of a text, of any number; the last characters may be cut. `is_last` is 1 if no more follow,
+ * else 0.
+ *
+ * Fails as ravo_convert does, with the position in the whole text. After a failure, and after the last bytes, the
+ * conversion takes no more: RAVO_ARGUMENT. Allocates.
+ */
+ravo_status RAVO_CALL ravo_converter_push(ravo_converter *converter, const void *bytes, size_t bytes_length,
+                                          int32_t is_last, ravo_error *error);
+
+/*
+ * Writes converted bytes that are waiting, at most `size`, and how many they are; 0 if none are left.
+ *
+ * Never allocates.
+ *
+ *     ravo_converter_push(converter, piece, piece_length, 0, NULL);
+ *     while (ravo_converter_pull(converter, buffer, sizeof buffer, &length, NULL) == RAVO_OK && length != 0)
+ *       fwrite(buffer, 1, length, file);
+ */
+ravo_status RAVO_CALL ravo_converter_pull(ravo_converter *converter, void *buffer, size_t size, size_t *length,
+                                          ravo_error *error);
 
 #ifdef __cplusplus
 }

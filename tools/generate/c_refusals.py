@@ -5,8 +5,9 @@ What a parameter is follows from its name and type, which ravo.h keeps regular:
     const char *x, size_t x_length       a text            const void *x, size_t x_length    bytes
     char *x, size_t x_size, *x_length    a text as result  (of `buffer`: size, length)
     const T *x, size_t x_length          items             T *x                              a result
-    T **x                                a handle that the function opens; T_close closes it
+    H **x                                a handle that the function opens; H_close closes it
     const H *x                           a handle; null is allowed
+    H *x                                 a handle that the function changes, from OPENINGS
 """
 
 import dataclasses
@@ -30,11 +31,14 @@ GOOD_TEXTS = {
     "ravo_day_read": "2026-11-21",
     "ravo_suite_timestamp_to_bytes": "00000000000007D1",
     "ravo_suite_caption_find": "rPropertySazbaNulova",
+    "ravo_encoding_find": "utf-8",
 }
+# And their lengths.
+GOOD_BYTES = {"ravo_encoding_of_mark": ('"\\xEF\\xBB\\xBF"', "3")}
 GOOD_NUMBERS = {
     "year": "2026", "month": "11", "day_of_month": "21", "week": "47", "days": "14", "months": "1", "index": "0", "nth": "0",
     "from": "0", "separator": "'.'", "decimal": "','", "places": "2", "percent": "21", "id": "71710", "milliseconds": "0",
-    "code": "800", "numerator": "21", "denominator": "121", "moment": "40000.0", "letter": "'M'", "decimals": "2",
+    "code": "800", "code_page": "1250", "numerator": "21", "denominator": "121", "moment": "40000.0", "letter": "'M'", "decimals": "2",
 }
 # By function and parameter.
 GOOD_SPECIAL = {
@@ -46,7 +50,8 @@ GOOD_SPECIAL = {
     ("ravo_reason_name", "code"): "104",
     ("ravo_reason_sentence", "code"): "104",
 }
-GOOD_BY_TYPE = {"ravo_day": "2461366", "ravo_money": "10000", "double": "1.5"}
+GOOD_BY_TYPE = {"ravo_day": "2461366", "ravo_money": "10000", "double": "1.5", "ravo_progress": "NULL", "ravo_encoding": "0"}
+OPENINGS = {"ravo_converter": "ravo_converter_open(0, 0, RAVO_CONVERT_STRICT, &converter, NULL)"}
 BAD_NUMBERS = {"int32_t": "INT32_MIN", "ravo_day": "INT32_MIN", "size_t": "(size_t)-2"}
 
 
@@ -90,7 +95,9 @@ def with_roles(function: Function, sized: set[str], handles: set[str]) -> Functi
         elif one.stars == 2:
             one.role = "opened"
         elif one.type in handles:
-            one.role = "handle"
+            one.role = "handle" if one.constant or function.result == "void" else "open"
+        elif one.name == "context":
+            one.role = "context"
         elif one.stars == 1 and one.constant and length in names:
             one.role = {"char": "text", "void": "bytes"}.get(one.type, "items")
         elif one.stars == 1 and one.type in ("char", "void") and (one.name == "buffer" or size in names):
@@ -137,12 +144,14 @@ def good(function: Function, one: Parameter, header: Header) -> str:
     if one.role == "text":
         return '"' + GOOD_TEXTS.get(function.name, "1") + '"'
     if one.role == "bytes":
-        return '"1"'
-    if one.role in ("items", "handle"):
+        return GOOD_BYTES.get(function.name, ('"1"', "1"))[0]
+    if one.role in ("items", "handle", "context"):
         return "NULL"
+    if one.role == "open":
+        return one.name
     if one.role == "count":
         owner = next(other for other in function.parameters if other.name == one.name.removesuffix("_length"))
-        return "RAVO_NUL_TERMINATED" if owner.role == "text" else "1" if owner.role == "bytes" else "0"
+        return {"text": "RAVO_NUL_TERMINATED", "bytes": GOOD_BYTES.get(function.name, ("", "1"))[1]}.get(owner.role, "0")
     if one.role == "size":
         return f"sizeof {'buffer' if one.name == 'size' else one.name.removesuffix('_size')}"
     if one.role == "buffer":
@@ -175,10 +184,13 @@ def changes(function: Function, header: Header) -> Iterator[tuple[str, dict[str,
             yield "no length", {count: "RAVO_NUL_TERMINATED"}, "RAVO_ARGUMENT"
         if one.role == "buffer":
             yield "a null buffer", {one.name: "NULL", size_name(one): "1"}, "RAVO_ARGUMENT"
-        if one.role in ("struct", "result", "opened"):
-            yield "a null result", {one.name: "NULL"}, "RAVO_ARGUMENT"
+        if one.role in ("struct", "result", "opened", "open"):
+            yield "a null pointer", {one.name: "NULL"}, "RAVO_ARGUMENT"
         if one.role == "struct":
             yield "a struct of no size", {one.name: f"unsized(&{one.name})"}, "RAVO_ARGUMENT"
+        if one.role == "value" and one.type == "ravo_encoding":
+            yield "no encoding", {one.name: "-1"}, "RAVO_UNKNOWN" if function.name == "ravo_encoding_at" else "RAVO_ARGUMENT"
+            yield "no encoding either", {one.name: "INT32_MAX"}, "RAVO_UNKNOWN" if function.name == "ravo_encoding_at" else "RAVO_ARGUMENT"
         if one.role == "value" and one.type in header.enums:
             yield "a number too low", {one.name: str(min(header.enums[one.type]) - 1)}, "RAVO_ARGUMENT"
             yield "a number too high", {one.name: str(max(header.enums[one.type]) + 1)}, "RAVO_ARGUMENT"
@@ -203,15 +215,25 @@ def untouched(outputs: list[Parameter]) -> str:
     return " ".join(f"{'UNTOUCHED_STRUCT' if one.role == 'struct' else 'UNTOUCHED'}({one.name});" for one in outputs)
 
 
+def opening(function: Function) -> tuple[list[str], list[str], list[str]]:
+    """Declarations, statements before and after calls with an open handle."""
+    handles = [one for one in function.parameters if one.role == "open"]
+    return ([f"  {one.type} *{one.name} = NULL;" for one in handles], [f"  EXPECT({OPENINGS[one.type]} == RAVO_OK);" for one in handles],
+            [f"  {one.type}_close({one.name});" for one in handles])
+
+
 def refusal(function: Function, header: Header) -> str:
     outputs = outputs_of(function)
+    handles, opened, closed = opening(function)
     closing = " ".join(f"{one.type}_close({one.name});" for one in outputs if one.role == "opened")
-    lines = [f"static void refuses_{function.name}(void) {{", *map(declaration, outputs), "  ravo_error error = RAVO_ERROR_INIT;"]
+    lines = [f"static void refuses_{function.name}(void) {{", *map(declaration, outputs), *handles, "  ravo_error error = RAVO_ERROR_INIT;"]
     for error in ("&error", "NULL", "unsized(&error)"):
-        lines += [f"  {fresh(outputs)}", f"  EXPECT({call(function, header, error=error)} == RAVO_OK);", f"  {closing}"]
+        lines += [*opened, f"  {fresh(outputs)}", f"  EXPECT({call(function, header, error=error)} == RAVO_OK);", f"  {closing}", *closed]
+    lines += opened
     for what, changed, status in changes(function, header):
         lines += [f"  /* {what} */", f"  {fresh(outputs)}", f"  REFUSED({call(function, header, **changed)}, {status});", f"  {untouched(outputs)}",
                   f"  EXPECT({call(function, header, **changed, error='NULL')} == {status});"]
+    lines += closed
     return "\n".join(line for line in lines if line.strip()) + "\n}\n"
 
 
@@ -242,23 +264,28 @@ def refusals(tree: c_ast.FileAST) -> str:
 
 
 def memory_calls(tree: c_ast.FileAST, comments: dict[str, str]) -> str:
-    """Each function once, by whether its comment says that it never allocates."""
+    """Each function once, by whether its comment says that it never allocates: a handle's own memory does not count."""
     header = header_of(tree)
+    quiet = {one.name for one in header.functions
+             if "ever allocates." in comments[one.name] and not any(other.role == "open" for other in one.parameters)}
     text = "/* Written by tools/generate/c_interface.py from c/ravo.h; not to be edited by hand. */\n\n"
     for one in header.functions:
         outputs = outputs_of(one)
         if one.result == "void":
             continue
         closing = " ".join(f"{other.type}_close({other.name});" for other in outputs if other.role == "opened")
-        lines = [f"static ravo_status call_{one.name}(void) {{", *map(declaration, outputs)]
+        handles, _, closed = opening(one)
+        lines = [f"static ravo_status call_{one.name}(void) {{", *map(declaration, outputs), *handles]
         if one.result == "ravo_status":
-            lines += ["  ravo_error error = RAVO_ERROR_INIT;", "  ravo_status status;", f"  {fresh(outputs)}", f"  status = {call(one, header)};"]
+            lines += ["  ravo_error error = RAVO_ERROR_INIT;", "  ravo_status status;",
+                      *(f"  status = {OPENINGS[other.type]};\n  if (status != RAVO_OK) return status;" for other in one.parameters if other.role == "open"),
+                      f"  {fresh(outputs)}", f"  status = {call(one, header)};"]
             if closing:
                 lines.append(f"  if (status == RAVO_OK) {closing}")
-            lines.append("  return status;")
+            lines += [*closed, "  return status;"]
         else:
             lines += [f"  (void){call(one, header)};", "  return RAVO_OK;"]
         text += "\n".join(line for line in lines if line.strip()) + "\n}\n\n"
-    rows = [f"    {{\"{one.name}\", call_{one.name}, {int('ever allocates.' in comments[one.name])}}},\n"
+    rows = [f"    {{\"{one.name}\", call_{one.name}, {int(one.name in quiet)}}},\n"
             for one in header.functions if one.result != "void"]
     return text + "static const memory_call memory_calls[] = {\n" + "".join(rows) + "};\n"
