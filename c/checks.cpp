@@ -14,6 +14,10 @@ czech::Language LanguageOf(ravo_language language) {
   return language == RAVO_LANGUAGE_CZECH ? czech::Language::Czech : czech::Language::English;
 }
 
+bool IsLanguage(ravo_language language) {
+  return language == RAVO_LANGUAGE_CZECH || language == RAVO_LANGUAGE_ENGLISH;
+}
+
 // Texts of rows are literals, which end with NUL.
 const char* Literal(std::string_view text) { return text.empty() ? nullptr : text.data(); }
 
@@ -41,6 +45,7 @@ ravo_status Checked(ravo_kind kind, const char* text, std::size_t text_length, c
 const char* ravo_reason_name(int32_t code) { return Literal(czech::CodeText(CodeOf(code))); }
 
 const char* ravo_reason_sentence(int32_t code, ravo_language language) {
+  if (!IsLanguage(language)) return nullptr;
   return Literal(czech::Sentence(CodeOf(code), LanguageOf(language)));
 }
 
@@ -57,6 +62,7 @@ ravo_status ravo_reason_of(const char* name, size_t name_length, int32_t* code, 
 const char* ravo_kind_name(ravo_kind kind) { return Literal(czech::KindText(KindOf(kind))); }
 
 const char* ravo_kind_title(ravo_kind kind, ravo_language language) {
+  if (!IsLanguage(language)) return nullptr;
   return Literal(czech::KindName(KindOf(kind), LanguageOf(language)));
 }
 

@@ -54,9 +54,45 @@ std::size_t WellFormedLength(std::string_view text) noexcept {
   return at;
 }
 
+Units::Units(std::string_view text) {
+  if (text.size() > few_.size()) {
+    many_.resize(text.size());
+    units_ = many_.data();
+  }
+  for (std::size_t at = 0; at < text.size();) {
+    const auto byte = [&](std::size_t index) { return static_cast<unsigned char>(text[at + index]); };
+    const auto trail = [&](std::size_t index) { return char32_t{byte(index)} & 0x3F; };
+    const unsigned lead = byte(0);
+    if (lead < 0x80) {
+      units_[count_++] = static_cast<char16_t>(lead);
+      at += 1;
+    } else if (lead < 0xE0) {
+      units_[count_++] = static_cast<char16_t>((lead & 0x1F) << 6 | trail(1));
+      at += 2;
+    } else if (lead < 0xF0) {
+      units_[count_++] = static_cast<char16_t>((lead & 0x0F) << 12 | trail(1) << 6 | trail(2));
+      at += 3;
+    } else {
+      const char32_t code = (lead & 0x07) << 18 | trail(1) << 12 | trail(2) << 6 | trail(3);
+      units_[count_++] = static_cast<char16_t>(0xD7C0 + (code >> 10));
+      units_[count_++] = static_cast<char16_t>(0xDC00 + (code & 0x3FF));
+      at += 4;
+    }
+  }
+}
+
+ravo_status WriteBytes(const TextOut& out, std::string_view bytes, ravo_error* error) noexcept {
+  if (IsBroken(out)) return FailArgument(error, "the buffer is null, but its size is not 0");
+  if (out.length != nullptr) *out.length = bytes.size();
+  if (out.buffer == nullptr) return RAVO_OK;
+  if (out.size < bytes.size())
+    return Fail(error, {RAVO_BUFFER, 0, 0, "the result is longer than its buffer"});
+  std::copy_n(bytes.data(), bytes.size(), out.buffer);
+  return RAVO_OK;
+}
+
 ravo_status WriteText(const TextOut& out, std::string_view text, ravo_error* error) noexcept {
-  if (out.buffer == nullptr && out.size != 0)
-    return FailArgument(error, "the buffer is null, but its size is not 0");
+  if (IsBroken(out)) return FailArgument(error, "the buffer is null, but its size is not 0");
   if (out.length != nullptr) *out.length = text.size();
   if (out.size == 0) {
     // Without a buffer the caller asks for the length.

@@ -1,6 +1,7 @@
 #ifndef RAVO_TESTS_EXPECT_H
 #define RAVO_TESTS_EXPECT_H
 
+#include <ravo.h>
 #include <stdio.h>
 #include <string.h>
 
@@ -12,5 +13,11 @@ extern int failures;
   ((condition) ? (void)0 : (void)(printf("%s:%d: %s\n", __FILE__, __LINE__, #condition), ++failures))
 
 #define EXPECT_TEXT(found, expected) EXPECT(strcmp((found), (expected)) == 0)
+
+/* A literal and its length. */
+#define TEXT(literal) (literal), sizeof(literal) - 1
+
+/* The day of a date that exists. */
+ravo_day day_of(int32_t year, int32_t month, int32_t day_of_month);
 
 #endif

@@ -1,13 +1,15 @@
 #!/usr/bin/env python3
-"""Writes what follows from c/ravo.h: the lists of exported names.
+"""Writes what follows from c/ravo.h: the lists of exported names, and calls for its tests.
 
 usage: c_interface.py [--check]     (--check: compare with the files there; 1 if they differ)
 """
 import pathlib
+import re
 import subprocess
 import sys
 import tempfile
 
+import c_refusals
 from pycparser import CParser, c_ast  # type: ignore[import-untyped]
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
@@ -38,12 +40,22 @@ def functions(tree: c_ast.FileAST) -> list[c_ast.Decl]:
     return [node for node in tree.ext if isinstance(node, c_ast.Decl) and isinstance(node.type, c_ast.FuncDecl)]
 
 
+def comments(header: pathlib.Path = HEADER) -> dict[str, str]:
+    """The comment of each function."""
+    found = re.findall(r"/\*((?:(?!\*/).)*)\*/\n[^/\n;]*?\bRAVO_CALL (\w+)\(", header.read_text(), re.DOTALL)
+    return {name: " ".join(re.sub(r"^ \* ?", "", words, flags=re.MULTILINE).split()) for words, name in found}
+
+
 def outputs() -> dict[pathlib.Path, str]:
-    names = sorted(function.name for function in functions(parsed()))
+    tree = parsed()
+    names = sorted(function.name for function in functions(tree))
     lists = ROOT / "c" / "generated"
+    tests = ROOT / "tests" / "c" / "generated"
     return {
         lists / "libravo.map": f"{VERSION} {{\n  global:\n" + "".join(f"    {name};\n" for name in names) + "  local:\n    *;\n};\n",
         lists / "ravo.def": "LIBRARY ravo.dll\nEXPORTS\n" + "".join(f"  {name}\n" for name in names),
+        tests / "refusals.inc": c_refusals.refusals(tree),
+        tests / "memory_calls.inc": c_refusals.memory_calls(tree, comments()),
     }
 
 
@@ -54,6 +66,7 @@ def main() -> int:
             print(f"{path.relative_to(ROOT)}: differs from c/ravo.h: run tools/generate/c_interface.py")
         return 1 if differing else 0
     for path in differing:
+        path.parent.mkdir(exist_ok=True)
         path.write_text(outputs()[path])
     return 0
 
