@@ -1162,10 +1162,11 @@ ravo_status RAVO_CALL ravo_converter_pull(ravo_converter *converter, void *buffe
  *           of a dictionary that no row has, are not looked at. Nothing needs an alignment.
  * UTF-8.    Text and binary are one. A value that is not UTF-8 is a wrong value, with RAVO_CODE_NOT_UTF8, and ends
  *           nothing.
- * Results.  What is written per row may have been overwritten after every status; counts are written on RAVO_OK and
- *           RAVO_BUFFER. Memory of results must not overlap the column.
- * Memory.   A column with a dictionary allocates a few bytes for each of its entries, each of which is checked at
- *           most once; RAVO_MEMORY if there are none. Other columns never allocate.
+ * Results.  What is written per row may have been overwritten whatever the status; counts are written on RAVO_OK and
+ *           RAVO_BUFFER. Memory of results must not overlap the column. For the place of a fault, call ravo_check
+ *           with the text of that row.
+ * Memory.   Each entry of a dictionary is checked at most once. To remember the answers, a call over a dictionary
+ *           allocates a few bytes for each entry, with texts about 60. Other columns never allocate.
  * Threads.  To use several processors, give each thread a slice: the same column with an `offset` and a `length`.
  */
 
@@ -1220,7 +1221,8 @@ typedef struct ravo_texts {
   void *offsets;      /* room for an offset more than rows; not with fixed */
   char *data;         /* may be null with data_size 0, to ask for the length alone */
   size_t data_size;
-  size_t data_length; /* receives the bytes of all texts. More than data_size: RAVO_BUFFER, and what fits is there */
+  size_t data_length; /* receives the bytes of all texts. More than data_size: RAVO_BUFFER, and what fits is there.
+                         Bytes of data past the texts are undefined */
 } ravo_texts;
 
 #define RAVO_TEXTS_INIT {sizeof(ravo_texts), 0, 0, NULL, NULL, 0, 0}

@@ -415,7 +415,7 @@ struct progress_log {
   size_t total;
 };
 
-static int32_t RAVO_CALL log_progress(void* context, uint64_t done, uint64_t total) {
+static int32_t RAVO_CALL log_progress(void* context, size_t done, size_t total) {
   struct progress_log* log = (struct progress_log*)context;
   log->done = done;
   log->total = total;
