@@ -1,9 +1,10 @@
 #include <ravo/common/backup_name.h>
+#include <ravo/common/machine_free.h>
 #include <ravo/platform/locale.h>
 #include <ravo/runtime/date_text.h>
 #include <ravo/runtime/text.h>
 
-namespace ravo::RavoInterfaceCommon {
+namespace ravo {
 namespace {
 
 std::u16string FileNamePart(std::u16string_view name) {
@@ -28,18 +29,20 @@ std::u16string Filled(std::u16string_view text, std::u16string_view placeholder,
   return result;
 }
 
-std::u16string ClockText(std::u16string_view pattern) {
-  return FormatDateTime(pattern, platform::Locale().Now(), {});
-}
-
 }  // namespace
 
-std::u16string ParseZalohaFile(std::u16string_view Template, std::u16string_view Firma) {
-  std::u16string name = Filled(Template, u"%FIRMA%", FileNamePart(Firma));
-  name = Filled(name, u"%DATUM%", ClockText(u"yymmdd"));
-  // Kept: the clock is read twice: a name made at midnight can pair the old date with the new time. Test:
-  // ParseZalohaFileTest.ReadsTheClockTwiceAcrossMidnight
-  return Filled(name, u"%CAS%", ClockText(u"hhmmss"));
+std::u16string common::BackupName(std::u16string_view pattern, std::u16string_view company, DateTime date,
+                                  DateTime time) {
+  std::u16string name = Filled(pattern, u"%FIRMA%", FileNamePart(company));
+  name = Filled(name, u"%DATUM%", FormatDateTime(u"yymmdd", date, {}));
+  return Filled(name, u"%CAS%", FormatDateTime(u"hhmmss", time, {}));
 }
 
-}  // namespace ravo::RavoInterfaceCommon
+std::u16string RavoInterfaceCommon::ParseZalohaFile(std::u16string_view Template, std::u16string_view Firma) {
+  // Kept: the clock is read twice: a name made at midnight can pair the old date with the new time. Test:
+  // ParseZalohaFileTest.ReadsTheClockTwiceAcrossMidnight
+  const DateTime date = platform::Locale().Now();
+  return common::BackupName(Template, Firma, date, platform::Locale().Now());
+}
+
+}  // namespace ravo

@@ -1,4 +1,5 @@
 #include <ravo/common/byte_size.h>
+#include <ravo/common/machine_free.h>
 #include <ravo/platform/locale.h>
 #include <ravo/runtime/float_text.h>
 #include <ravo/runtime/text.h>
@@ -6,7 +7,7 @@
 #include <algorithm>
 #include <bit>
 
-namespace ravo::RavoInterfaceCommon {
+namespace ravo {
 namespace {
 
 constexpr std::int64_t kKilobyte = 1024;
@@ -35,25 +36,28 @@ std::int64_t TenthsOf(std::int64_t size, int shift) {
   return static_cast<std::int64_t>(whole - whole % 2 + RoundedShift(parity + fraction, shift));
 }
 
-std::u16string InMegabytes(std::int64_t size) {
-  const FormatSettings locale = platform::Locale().Settings();
+std::u16string InMegabytes(std::int64_t size, const FormatSettings& locale) {
   return NumberText(ToDecimal(TenthsOf(size, 20), 1), 1, locale.decimal_separator,
                     locale.thousands_separator) +
          u" MB";
 }
 
-std::u16string InKilobytes(std::int64_t size) {
-  const FormatSettings locale = platform::Locale().Settings();
+std::u16string InKilobytes(std::int64_t size, const FormatSettings& locale) {
   return GeneralText(ToDecimal(TenthsOf(size, 10), 1), locale.decimal_separator) + u" kB";
 }
 
 }  // namespace
 
-std::u16string BytesToStr(std::int64_t size, bool withBytes) {
+std::u16string common::BytesText(std::int64_t size, bool with_bytes, const FormatSettings& locale) {
   std::u16string bytes = ToText(size) + u" B";
   if (size <= kKilobyte) return bytes;
-  const std::u16string text = size > kMegabyte ? InMegabytes(size) : InKilobytes(size);
-  return withBytes ? text + u" (" + bytes + u")" : text;
+  const std::u16string text = size > kMegabyte ? InMegabytes(size, locale) : InKilobytes(size, locale);
+  return with_bytes ? text + u" (" + bytes + u")" : text;
 }
 
-}  // namespace ravo::RavoInterfaceCommon
+std::u16string RavoInterfaceCommon::BytesToStr(std::int64_t size, bool withBytes) {
+  return common::BytesText(size, withBytes,
+                           size > kKilobyte ? platform::Locale().Settings() : FormatSettings());
+}
+
+}  // namespace ravo

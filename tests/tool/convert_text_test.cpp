@@ -1,8 +1,7 @@
-#include "convert_text.h"
-
 #include "czech_sentences.h"
 #include "text_divisions.h"
 #include <ravo/codec/texts.h>
+#include <ravo/convert/text_converter.h>
 
 #include <random>
 #include <string>

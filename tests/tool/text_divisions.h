@@ -1,13 +1,24 @@
 #pragma once
 
-#include "../../tools/ravo/convert_text.h"
+#include <ravo/convert/text_converter.h>
 
 #include <algorithm>
 #include <cstddef>
 #include <ostream>
 #include <string>
 
-namespace tool::test {
+namespace tool {
+
+using ravo::convert::ByteBuffer;
+using ravo::convert::Conversion;
+using ravo::convert::Converted;
+using ravo::convert::ExactEncoding;
+using ravo::convert::Fault;
+using ravo::convert::Following;
+using ravo::convert::TextConverter;
+using ravo::convert::TextExtent;
+
+namespace test {
 
 /// What a conversion gives: its bytes, the place after them, and why it ended.
 struct Outcome {
@@ -71,4 +82,5 @@ inline Outcome InBlocks(const Conversion& conversion, ravo::codec::ByteSpan text
   return OutcomeOf(all, last);
 }
 
-}  // namespace tool::test
+}  // namespace test
+}  // namespace tool

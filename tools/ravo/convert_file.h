@@ -1,7 +1,7 @@
 #pragma once
 
 #include "convert_source.h"
-#include "convert_text.h"
+#include <ravo/convert/text_converter.h>
 
 #include <cstdint>
 #include <functional>
@@ -9,6 +9,16 @@
 #include <string_view>
 
 namespace tool {
+
+using ravo::convert::ByteBuffer;
+using ravo::convert::Character;
+using ravo::convert::Conversion;
+using ravo::convert::Converted;
+using ravo::convert::ExactEncoding;
+using ravo::convert::Fault;
+using ravo::convert::Following;
+using ravo::convert::TextConverter;
+using ravo::convert::TextExtent;
 
 /// Where and why a conversion ended before the text did.
 struct ConversionEnd {

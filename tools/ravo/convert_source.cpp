@@ -1,9 +1,9 @@
 #include "convert_source.h"
 
 #include "encoding_guess.h"
-#include "exact_encoding.h"
 #include "text.h"
 #include <ravo/codec/byte_order_mark.h>
+#include <ravo/convert/exact_encoding.h>
 
 #include <algorithm>
 #include <string_view>
@@ -40,7 +40,7 @@ const codec::Encoding& InOrder(const codec::Encoding& row, std::string_view orde
 bool BeginsWithMark(const codec::Encoding& row, codec::ByteSpan bytes) {
   constexpr char32_t kMark = 0xFEFF;
   codec::State state;
-  return ExactEncoding(row).Read(state, bytes, true).code == kMark;
+  return ravo::convert::ExactEncoding(row).Read(state, bytes, true).code == kMark;
 }
 
 // The order by the mark or, without one, by the zero bytes; big-endian if there are none.

@@ -1,11 +1,11 @@
-#include "convert_text.h"
+#include <ravo/convert/text_converter.h>
 
 #include <algorithm>
 #include <array>
 #include <span>
 #include <utility>
 
-namespace tool {
+namespace ravo::convert {
 namespace {
 
 namespace codec = ravo::codec;
@@ -60,6 +60,7 @@ struct TextConverter::Run {
   std::size_t taken = 0;
   std::size_t made = 0;
   bool ends_before_other = false;  // the next character is for `ExactEncoding`
+  codec::State before;             // of the decoder
 };
 
 TextConverter::TextConverter(const Conversion& conversion)
@@ -87,12 +88,12 @@ TextConverter::Run TextConverter::DecodeRun(codec::ByteSpan bytes) {
     decoder_ = before;
     step = decode(usual);
     room_ = kFewUnits;
-    return {step.taken, step.made, true};
+    return {step.taken, step.made, true, before};
   }
   room_ = std::min(2 * room_, kUnits);
   // A low surrogate is taken, and no character of UTF-16.
-  if (step.stop == codec::Stop::EndOfData) return {step.taken - 2, step.made, true};
-  return {step.taken, step.made, step.stop != codec::Stop::RoomUsed};
+  if (step.stop == codec::Stop::EndOfData) return {step.taken - 2, step.made, true, before};
+  return {step.taken, step.made, step.stop != codec::Stop::RoomUsed, before};
 }
 
 // Up to the first character that the encoding lacks: how many units that are.
@@ -139,13 +140,21 @@ bool TextConverter::WriteCharacter(char32_t code, ByteBuffer& to) {
   return Encode(Units(code).View(), to) == 1;
 }
 
+// How many bytes of a run its first `count` units are. Decodes them again, over themselves.
+std::size_t TextConverter::LengthOf(const Run& run, codec::ByteSpan bytes, std::size_t count) {
+  codec::State state = run.before;
+  return codec::Decode(from_.Row(), state, bytes.first(run.taken), std::span(units_).first(count),
+                       codec::Input::MoreFollows)
+      .taken;
+}
+
 void TextConverter::Transfer(const Run& run, codec::ByteSpan bytes, Converted& converted) {
   const std::u16string_view text(units_.data(), run.made);
   for (std::size_t at = 0; at != text.size(); ++at) {
     at += Encode(text.substr(at), converted.bytes);
     if (at == text.size()) break;
     if (Substitute(text[at], converted.bytes)) continue;
-    converted.fault = {Fault::Kind::Lacking, text[at], {}};
+    converted.fault = {Fault::Kind::Lacking, text[at], {}, LengthOf(run, bytes, at)};
     converted.extent += TextExtent(text.substr(0, at));
     return;
   }
@@ -175,7 +184,7 @@ bool TextConverter::ConvertNext(codec::ByteSpan bytes, Following following, std:
   const auto kind = whole                               ? Fault::Kind::Lacking
                     : next.reading == Reading::CutShort ? Fault::Kind::CutShort
                                                         : Fault::Kind::Malformed;
-  converted.fault = {kind, code, AsText(rest.first(next.bytes))};
+  converted.fault = {kind, code, AsText(rest.first(next.bytes)), 0};
   return false;
 }
 
@@ -184,9 +193,16 @@ std::size_t TextConverter::Convert(codec::ByteSpan bytes, Following following, C
   for (;;) {
     const Run run = DecodeRun(bytes.subspan(taken));
     Transfer(run, bytes.subspan(taken), converted);
+    if (converted.fault) {
+      converted.fault->position += taken;
+      return taken + run.taken;
+    }
     taken += run.taken;
-    if (converted.fault || (run.ends_before_other && !ConvertNext(bytes, following, taken, converted)))
+    const std::size_t before = taken;
+    if (run.ends_before_other && !ConvertNext(bytes, following, taken, converted)) {
+      if (converted.fault) converted.fault->position = before;
       return taken;
+    }
   }
 }
 
@@ -195,4 +211,4 @@ void TextConverter::Finish(ByteBuffer& bytes) {
   bytes.Add(codec::Flush(to_.Row(), encoder_, room.first<codec::kMostBytesAtOnce>()));
 }
 
-}  // namespace tool
+}  // namespace ravo::convert

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "byte_buffer.h"
-#include "exact_encoding.h"
-#include "text_extent.h"
 #include <ravo/codec/encoding.h>
+#include <ravo/convert/byte_buffer.h>
+#include <ravo/convert/exact_encoding.h>
+#include <ravo/convert/text_extent.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -14,7 +14,7 @@
 #include <string_view>
 #include <vector>
 
-namespace tool {
+namespace ravo::convert {
 
 /// How a text is converted.
 struct Conversion {
@@ -30,8 +30,9 @@ struct Conversion {
 struct Fault {
   enum class Kind : std::uint8_t { Malformed, CutShort, Lacking };
   Kind kind;
-  char32_t code;      ///< of the character that the target lacks
-  std::string bytes;  ///< those that are no character
+  char32_t code;             ///< of the character that the target lacks
+  std::string bytes;         ///< those that are no character
+  std::size_t position = 0;  ///< where the character begins in the bytes of the call
 };
 
 /// What follows the bytes of a piece.
@@ -67,6 +68,7 @@ class TextConverter {
   [[nodiscard]] Run DecodeRun(ravo::codec::ByteSpan bytes);
   bool ConvertNext(ravo::codec::ByteSpan bytes, Following following, std::size_t& taken,
                    Converted& converted);
+  [[nodiscard]] std::size_t LengthOf(const Run& run, ravo::codec::ByteSpan bytes, std::size_t count);
   void Transfer(const Run& run, ravo::codec::ByteSpan bytes, Converted& converted);
   bool WriteCharacter(char32_t code, ByteBuffer& to);
   [[nodiscard]] std::size_t Encode(std::u16string_view text, ByteBuffer& to);
@@ -86,4 +88,4 @@ class TextConverter {
   std::map<char32_t, std::u16string> spellings_;
 };
 
-}  // namespace tool
+}  // namespace ravo::convert

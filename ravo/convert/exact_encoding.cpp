@@ -1,11 +1,10 @@
-#include "exact_encoding.h"
-
 #include <ravo/codec/byte_spans.h>
+#include <ravo/convert/exact_encoding.h>
 
 #include <algorithm>
 #include <array>
 
-namespace tool {
+namespace ravo::convert {
 namespace {
 
 namespace codec = ravo::codec;
@@ -192,4 +191,4 @@ bool ExactEncoding::Write(codec::State& state, char32_t code, ByteBuffer& to) co
   }
 }
 
-}  // namespace tool
+}  // namespace ravo::convert

@@ -5,7 +5,7 @@
 #include <span>
 #include <string_view>
 
-namespace tool {
+namespace ravo::convert {
 
 /// The lines and characters of a piece of text; pieces add up to a text. A carriage return, a line feed, and
 /// a pair of both end a line.
@@ -35,4 +35,4 @@ class TextExtent {
   bool ends_with_return_ = false;
 };
 
-}  // namespace tool
+}  // namespace ravo::convert

@@ -1,8 +1,8 @@
-#include "text_extent.h"
+#include <ravo/convert/text_extent.h>
 
 #include <algorithm>
 
-namespace tool {
+namespace ravo::convert {
 namespace {
 
 // Few enough for a count of eight bits. The compiler makes vectors of a loop of known length.
@@ -63,4 +63,4 @@ TextExtent& TextExtent::operator+=(const TextExtent& next) {
   return *this;
 }
 
-}  // namespace tool
+}  // namespace ravo::convert

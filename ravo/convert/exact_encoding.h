@@ -1,12 +1,12 @@
 #pragma once
 
-#include "byte_buffer.h"
 #include <ravo/codec/encoding.h>
+#include <ravo/convert/byte_buffer.h>
 
 #include <cstddef>
 #include <cstdint>
 
-namespace tool {
+namespace ravo::convert {
 
 /// A character of a text in bytes.
 struct Character {
@@ -56,4 +56,4 @@ class ExactEncoding {
   bool upper_first_;
 };
 
-}  // namespace tool
+}  // namespace ravo::convert

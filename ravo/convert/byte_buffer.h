@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-namespace tool {
+namespace ravo::convert {
 
 /// Bytes that are written in place. Room that was used once is not initialised again.
 class ByteBuffer {
@@ -31,4 +31,4 @@ class ByteBuffer {
   std::size_t size_ = 0;
 };
 
-}  // namespace tool
+}  // namespace ravo::convert

@@ -1,0 +1,94 @@
+#include "support.h"
+#include <ravo/czech/vat.h>
+#include <ravo/runtime/currency.h>
+#include <ravo/runtime/text.h>
+
+using ravo::Currency;
+using ravo::c::Computed;
+using ravo::c::Fail;
+using ravo::c::FailArgument;
+using ravo::c::FailNullResult;
+using ravo::c::FailRefused;
+using ravo::c::Guarded;
+using ravo::c::ReadText;
+using ravo::c::Units;
+using ravo::c::WriteText;
+namespace czech = ravo::czech;
+
+namespace {
+
+bool IsRounding(ravo_rounding rounding) {
+  return rounding >= RAVO_ROUND_HALF_AWAY && rounding <= RAVO_ROUND_TOWARD;
+}
+
+ravo_status FailRounding(ravo_error* error) { return FailArgument(error, "the rounding is unknown"); }
+
+// A character that can part crowns from decimals.
+bool IsSeparator(int32_t separator) {
+  return separator > ' ' && separator < 0x7F && (separator < '0' || separator > '9') && separator != '-' &&
+         separator != '+';
+}
+
+ravo_status FailSeparator(ravo_error* error) { return FailArgument(error, "the separator is unusable"); }
+
+template <class Compute>
+ravo_status Product(ravo_money* result, ravo_rounding rounding, ravo_error* error, Compute compute) {
+  if (!IsRounding(rounding)) return FailRounding(error);
+  return Computed(result, error, [&] { return compute(static_cast<ravo::Rounding>(rounding)).raw; });
+}
+
+}  // namespace
+
+ravo_status ravo_money_format(ravo_money amount, int32_t separator, int32_t places, char* buffer, size_t size,
+                              size_t* length, ravo_error* error) {
+  if (!IsSeparator(separator)) return FailSeparator(error);
+  if (places < 0 || places > Currency::kPlaces) return FailArgument(error, "the places are not 0 to 4");
+  return Guarded(error, [&] {
+    const std::u16string text = ravo::CurrencyText({amount}, static_cast<char16_t>(separator), places);
+    return WriteText({buffer, size, length}, ravo::ToUtf8(text), error);
+  });
+}
+
+ravo_status ravo_money_read(const char* text, size_t text_length, int32_t separator, ravo_money* amount,
+                            ravo_error* error) {
+  if (amount == nullptr) return FailNullResult(error);
+  if (!IsSeparator(separator)) return FailSeparator(error);
+  const auto [input, status] = ReadText(text, text_length, error);
+  if (status != RAVO_OK) return status;
+  return Guarded(error, [&, &utf8 = input] {
+    const auto parsed = ravo::TryParseCurrency(Units(utf8), static_cast<char16_t>(separator));
+    if (!parsed) return Fail(error, {RAVO_WRONG, 0, 0, "the text is no amount"});
+    *amount = parsed->raw;
+    return static_cast<ravo_status>(RAVO_OK);
+  });
+}
+
+ravo_status ravo_money_round(ravo_money amount, ravo_money step, ravo_rounding rounding, ravo_money* result,
+                             ravo_error* error) {
+  return Product(result, rounding, error,
+                 [&](ravo::Rounding how) { return ravo::RoundedTo({amount}, {step}, how); });
+}
+
+ravo_status ravo_money_times_ratio(ravo_money amount, int64_t numerator, int64_t denominator, ravo_money step,
+                                   ravo_rounding rounding, ravo_money* result, ravo_error* error) {
+  return Product(result, rounding, error, [&](ravo::Rounding how) {
+    return ravo::TimesRatio({amount}, numerator, denominator, {step}, how);
+  });
+}
+
+ravo_status ravo_money_times_rate(ravo_money amount, ravo_money rate, ravo_money step, ravo_rounding rounding,
+                                  ravo_money* result, ravo_error* error) {
+  return Product(result, rounding, error,
+                 [&](ravo::Rounding how) { return ravo::TimesRate({amount}, {rate}, {step}, how); });
+}
+
+ravo_status ravo_money_to_crowns(ravo_money amount, ravo_rounding rounding, ravo_money* rounded,
+                                 ravo_money* difference, ravo_error* error) {
+  if (rounded == nullptr || difference == nullptr) return FailNullResult(error);
+  if (!IsRounding(rounding)) return FailRounding(error);
+  const auto answer = czech::RoundToCrowns({amount}, static_cast<czech::CrownRounding>(rounding));
+  if (!answer) return FailRefused(error, answer.code, 0);
+  *rounded = answer.value.rounded.raw;
+  *difference = answer.value.difference.raw;
+  return RAVO_OK;
+}

@@ -1,0 +1,1346 @@
+/*
+ * ravo.h: what Czech bookkeeping checks and computes, for every language.
+ *
+ * This is the C interface of RavoInterface. It has the rules of the country (identifiers, banks, days,
+ * money, VAT) and those of the accounting suite, whose names begin with ravo_suite_. Link libravo.so.1 or
+ * ravo.dll; no C++ name leaves either, and on Windows neither needs another library.
+ *
+ *     ravo_error error = RAVO_ERROR_INIT;
+ *     char ico[16];
+ *     size_t length = 0;
+ *     if (ravo_check(RAVO_KIND_ICO, "046 25 781", RAVO_NUL_TERMINATED, ico, sizeof ico, &length, &error) == RAVO_OK)
+ *       puts(ico);                                                     // 04625781
+ *     else
+ *       printf("%s at %zu\n", error.message, error.position);
+ *
+ * Texts.    A text is UTF-8 and a length in bytes. Pass RAVO_NUL_TERMINATED as the length of a C string. Null is
+ *           a text of length 0; null with another length is RAVO_ARGUMENT. Ill-formed UTF-8 is RAVO_UTF8, at its
+ *           position. A text may contain NUL.
+ * Results.  A text goes into the caller's buffer of `size` bytes and ends with NUL; `*length` receives its whole
+ *           length without the NUL, as snprintf returns it. If the buffer is too small, it receives what fits, never
+ *           a part of a character, and the function returns RAVO_BUFFER. A null buffer with size 0 asks for the
+ *           length alone: RAVO_OK. `length` may be null.
+ * Failure.  A function that can fail returns a ravo_status; RAVO_OK is 0. The last parameter is null or a
+ *           ravo_error of the caller, which every failure fills. Results are written on RAVO_OK and, as said above,
+ *           on RAVO_BUFFER; on any other status they are as they were. Nothing is thrown, nothing is kept for the
+ *           thread, no function ends the process.
+ * Memory.   No function returns memory that the caller must free. Strings that a function returns are constants of
+ *           the library, or live as long as the handle that has them. What says "never allocates" calls no allocator
+ *           at all. What _open opens, _close closes.
+ * Threads.  Every function may be called from any thread at any time. A handle may be read by several threads at
+ *           once.
+ * Money.    A ravo_money is an amount in ten-thousandths: 12 crowns 50 are 125000.
+ * Days.     A ravo_day is a Julian Day Number: 2451545 is 1 January 2000. What depends on the day takes it as an
+ *           argument: the library has no clock.
+ * Versions. Names, numbers and meanings in this file are kept for ever; new ones are added. A struct that may grow
+ *           begins with its size, which its _INIT sets. The symbols have the version RAVO_1.0.
+ *
+ * A check of form says "correct in form" and never that something exists. The file is in chapters: failure,
+ * version, checks, what numbers tell, banks, days, holidays and terms, money, VAT, the suite's own rules, its tables
+ * and captions, texts, checksums, encodings.
+ */
+#ifndef RAVO_H
+#define RAVO_H
+
+#include <stddef.h>
+#include <stdint.h>
+
+#if defined(_WIN32)
+#define RAVO_CALL __cdecl
+#else
+#define RAVO_CALL
+#endif
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* ------------------------------------------------------------------------------------------------------------
+ * Failure
+ */
+
+/* The length of a text that ends with NUL. */
+#define RAVO_NUL_TERMINATED ((size_t)-1)
+
+/* What a function answers. */
+typedef int32_t ravo_status;
+enum {
+  RAVO_OK = 0,        /* done, or correct in form */
+  RAVO_WRONG = 1,     /* the value is refused: ravo_error.code is the reason */
+  RAVO_BUFFER = 2,    /* the result is longer than its buffer */
+  RAVO_ARGUMENT = 3,  /* a null pointer, an unknown number, a struct of an unknown size */
+  RAVO_UTF8 = 4,      /* a text is not UTF-8 */
+  RAVO_RANGE = 5,     /* a number, a day or a result is out of range */
+  RAVO_UNKNOWN = 6,   /* there is nothing of that name or number */
+  RAVO_MEMORY = 7,    /* there is no memory left */
+  RAVO_STOPPED = 8,   /* a callback of the caller ended the work */
+  RAVO_INTERNAL = 9,  /* a fault of the library: please report it */
+  RAVO_MALFORMED = 10, /* bytes are no character of their encoding */
+  RAVO_LACKING = 11   /* an encoding lacks a character */
+};
+
+/* Why a function failed. Declare it as `ravo_error error = RAVO_ERROR_INIT;`. */
+typedef struct ravo_error {
+  size_t size;         /* sizeof(ravo_error), set by the caller */
+  ravo_status status;  /* what the function returned */
+  int32_t code;        /* of RAVO_WRONG the reason, see ravo_reason_name, or 0; of RAVO_STOPPED the caller's number */
+  size_t position;     /* where, in bytes of the text or as the index of the item; 0 if there is no place */
+  char message[232];   /* one sentence in English, UTF-8, ends with NUL */
+} ravo_error;
+
+#define RAVO_ERROR_INIT {sizeof(ravo_error), 0, 0, 0, {0}}
+
+/* Languages of sentences. */
+typedef int32_t ravo_language;
+enum { RAVO_LANGUAGE_CZECH = 0, RAVO_LANGUAGE_ENGLISH = 1 };
+
+/*
+ * Returns the stable name of a reason, such as "ico.checksum", or null for an unknown number.
+ *
+ * Never allocates.
+ */
+const char *RAVO_CALL ravo_reason_name(int32_t code);
+
+/*
+ * Returns the sentence of a reason in a language, UTF-8, without a full stop, or null for an unknown number.
+ *
+ * Never allocates.
+ *
+ *     ravo_reason_sentence(104, RAVO_LANGUAGE_ENGLISH)  // "wrong: the check digit does not match"
+ */
+const char *RAVO_CALL ravo_reason_sentence(int32_t code, ravo_language language);
+
+/*
+ * Writes the number of the reason with a name, such as "ico.checksum", to `*code`.
+ *
+ * RAVO_UNKNOWN if there is none. Never allocates.
+ */
+ravo_status RAVO_CALL ravo_reason_of(const char *name, size_t name_length, int32_t *code, ravo_error *error);
+
+/* ------------------------------------------------------------------------------------------------------------
+ * Version
+ */
+
+/* Returns the version of the library that is running, such as "1.1.0". Never allocates. */
+const char *RAVO_CALL ravo_version(void);
+
+/*
+ * Writes what the library was built with and runs on: lines of "name: value", such as the vector kernels that
+ * this processor gets and the dates of the lists inside.
+ */
+ravo_status RAVO_CALL ravo_build_info(char *buffer, size_t size, size_t *length, ravo_error *error);
+
+/* ------------------------------------------------------------------------------------------------------------
+ * Checks
+ *
+ * Form alone: length, digits, weights, dates of the calendar. The answer depends on the text and on nothing else.
+ * Texts are taken as people write them: with a label ("IČ:"), with blanks of all widths.
+ */
+
+/* What a text can be checked for. */
+typedef int32_t ravo_kind;
+enum {
+  RAVO_KIND_ICO = 1,              /* company number */
+  RAVO_KIND_DIC = 2,              /* Czech VAT number */
+  RAVO_KIND_VAT_NUMBER = 3,       /* VAT number of a country of the European Union */
+  RAVO_KIND_BIRTH_NUMBER = 4,     /* rodné číslo */
+  RAVO_KIND_IBAN = 5,             /* of every country */
+  RAVO_KIND_BIC = 6,              /* code of a bank in the SWIFT network */
+  RAVO_KIND_ACCOUNT = 7,          /* Czech account number with bank code */
+  RAVO_KIND_VARIABLE_SYMBOL = 8,  /* variabilní symbol */
+  RAVO_KIND_CONSTANT_SYMBOL = 9,  /* konstantní symbol */
+  RAVO_KIND_SPECIFIC_SYMBOL = 10, /* specifický symbol */
+  RAVO_KIND_POST_CODE = 11,       /* PSČ */
+  RAVO_KIND_EAN = 12,             /* EAN-8, -12, -13, -14 */
+  RAVO_KIND_ISBN = 13             /* ISBN-10, -13 */
+};
+
+/* The longest canonical form or usual spelling in bytes, with its NUL. */
+#define RAVO_VALUE_SIZE 48
+
+/*
+ * Returns the stable name of a kind, such as "ico", or null for an unknown number. Never allocates.
+ *
+ * The kinds are 1, 2, ... without gaps: ask until null.
+ */
+const char *RAVO_CALL ravo_kind_name(ravo_kind kind);
+
+/* Returns the name of a kind for people, UTF-8, or null for an unknown number. Never allocates. */
+const char *RAVO_CALL ravo_kind_title(ravo_kind kind, ravo_language language);
+
+/* Writes the kind with a name, such as "ico", to `*kind`. RAVO_UNKNOWN if there is none. Never allocates. */
+ravo_status RAVO_CALL ravo_kind_of(const char *name, size_t name_length, ravo_kind *kind, ravo_error *error);
+
+/*
+ * Checks a text for a kind and writes its canonical form, of at most RAVO_VALUE_SIZE bytes.
+ *
+ * RAVO_WRONG if it is not correct in form: `error->code` is the reason, `error->position` the place. The buffer may
+ * be null. Never allocates.
+ *
+ *     ravo_check(RAVO_KIND_IBAN, "CZ65 0800 0000 1920 0014 5399", RAVO_NUL_TERMINATED, iban, sizeof iban, NULL, NULL)
+ */
+ravo_status RAVO_CALL ravo_check(ravo_kind kind, const char *text, size_t text_length, char *buffer, size_t size,
+                                 size_t *length, ravo_error *error);
+
+/*
+ * Checks a text for a kind and writes its usual spelling, of at most RAVO_VALUE_SIZE bytes.
+ *
+ * As ravo_check, but for the form: "CZ65 0800 0000 1920 0014 5399". Never allocates.
+ */
+ravo_status RAVO_CALL ravo_respell(ravo_kind kind, const char *text, size_t text_length, char *buffer, size_t size,
+                                   size_t *length, ravo_error *error);
+
+/* ------------------------------------------------------------------------------------------------------------
+ * What numbers tell
+ *
+ * An account tells its IBAN, a birth number the day of birth, a letter what is to be paid. Each function refuses
+ * what ravo_check refuses, with the same reasons: RAVO_WRONG.
+ */
+
+/* A Czech bank account. Declare it as `ravo_account account = RAVO_ACCOUNT_INIT;`. */
+typedef struct ravo_account {
+  size_t size;     /* sizeof(ravo_account), set by the caller */
+  int64_t number;  /* at most ten digits */
+  int32_t prefix;  /* at most six digits; 0 for none */
+  int32_t bank;    /* the bank code: 800 is 0800 */
+} ravo_account;
+
+#define RAVO_ACCOUNT_INIT {sizeof(ravo_account), 0, 0, 0}
+
+/* Writes the parts of an account. Never allocates. */
+ravo_status RAVO_CALL ravo_account_read(const char *text, size_t text_length, ravo_account *account,
+                                        ravo_error *error);
+
+/*
+ * Writes the IBAN of a Czech account, of at most RAVO_VALUE_SIZE bytes.
+ *
+ * Never allocates.
+ *
+ *     ravo_account_to_iban("19-2000145399/0800", ...)  // CZ6508000000192000145399
+ */
+ravo_status RAVO_CALL ravo_account_to_iban(const char *text, size_t text_length, char *buffer, size_t size,
+                                           size_t *length, ravo_error *error);
+
+/*
+ * Writes the account of a Czech IBAN in its usual spelling, of at most RAVO_VALUE_SIZE bytes.
+ *
+ * RAVO_UNKNOWN for an IBAN of another country. Never allocates.
+ */
+ravo_status RAVO_CALL ravo_account_of_iban(const char *text, size_t text_length, char *buffer, size_t size,
+                                           size_t *length, ravo_error *error);
+
+/* A day by its Julian Day Number, of the years 1 to 9999. */
+typedef int32_t ravo_day;
+
+/* The sex that a birth number tells. */
+typedef int32_t ravo_sex;
+enum { RAVO_SEX_MALE = 0, RAVO_SEX_FEMALE = 1 };
+
+/* What a birth number tells. Declare it as `ravo_birth birth = RAVO_BIRTH_INIT;`. */
+typedef struct ravo_birth {
+  size_t size;            /* sizeof(ravo_birth), set by the caller */
+  ravo_day born;          /* the day of birth */
+  ravo_sex sex;           /* women have 50 added to the month */
+  int32_t second_series;  /* 1 if 20 is added to the month, else 0 */
+  int32_t remainder_ten;  /* 1 if it is not divisible by eleven and right all the same, else 0 */
+} ravo_birth;
+
+#define RAVO_BIRTH_INIT {sizeof(ravo_birth), 0, 0, 0, 0}
+
+/*
+ * Writes what a birth number tells.
+ *
+ * RAVO_WRONG with the reason "rc.future" if the day of birth is after `today`. Never allocates.
+ *
+ *     ravo_birth_read("880125/1680", RAVO_NUL_TERMINATED, today, &birth, NULL)  // 25 January 1988, male
+ */
+ravo_status RAVO_CALL ravo_birth_read(const char *text, size_t text_length, ravo_day today, ravo_birth *birth,
+                                      ravo_error *error);
+
+/* Writes the ISBN of thirteen digits of a book, of at most RAVO_VALUE_SIZE bytes. Never allocates. */
+ravo_status RAVO_CALL ravo_isbn_to_13(const char *text, size_t text_length, char *buffer, size_t size,
+                                      size_t *length, ravo_error *error);
+
+/* A piece of payment data in a text. Declare it as `ravo_payment payment = RAVO_PAYMENT_INIT;`. */
+typedef struct ravo_payment {
+  size_t size;                      /* sizeof(ravo_payment), set by the caller */
+  size_t begin;                     /* where it begins, past its label, in bytes */
+  size_t end;                       /* where it ends; the next search begins there */
+  ravo_kind kind;                   /* an account, an IBAN or one of the three symbols */
+  char canonical[RAVO_VALUE_SIZE];  /* as ravo_check writes it, ends with NUL */
+} ravo_payment;
+
+#define RAVO_PAYMENT_INIT {sizeof(ravo_payment), 0, 0, 0, {0}}
+
+/*
+ * Writes the first account, IBAN or payment symbol that ends after the byte `from` of a text.
+ *
+ * Accounts and IBANs are found by their form, symbols by their labels. RAVO_UNKNOWN if there is none, RAVO_RANGE
+ * if `from` is past the end. Never allocates.
+ *
+ *     while (ravo_payment_find(letter, length, payment.end, &payment, NULL) == RAVO_OK) puts(payment.canonical);
+ */
+ravo_status RAVO_CALL ravo_payment_find(const char *text, size_t text_length, size_t from, ravo_payment *payment,
+                                        ravo_error *error);
+
+/* ------------------------------------------------------------------------------------------------------------
+ * Banks
+ *
+ * A list says which banks there were on its day, and nothing about other days. One is built in; a newer one is
+ * opened from the central bank's CSV. Where a function takes a list, null is the one that is built in.
+ */
+
+/* A list of banks. */
+typedef struct ravo_bank_list ravo_bank_list;
+
+/* A bank. Declare it as `ravo_bank bank = RAVO_BANK_INIT;`. Its texts live as long as the list. */
+typedef struct ravo_bank {
+  size_t size;       /* sizeof(ravo_bank), set by the caller */
+  const char *bic;   /* null if it has none */
+  const char *name;  /* UTF-8 */
+  int32_t code;      /* 800 is 0800 */
+  int32_t clears;    /* 1 if it takes part in the clearing system CERTIS, else 0 */
+} ravo_bank;
+
+#define RAVO_BANK_INIT {sizeof(ravo_bank), 0, 0, 0, 0}
+
+/*
+ * Opens a list in the central bank's CSV form, converted to UTF-8: a line of captions, then lines of code, name,
+ * BIC and "A" for the clearing system, with semicolons between them.
+ *
+ * `date` is the day of the list. RAVO_WRONG with the reasons "bank.line", "bank.code", "bank.twice" and
+ * "bank.empty", at their position; RAVO_RANGE for a day outside of the calendar. The list keeps no part of the
+ * text. Close it with ravo_bank_list_close. Allocates.
+ */
+ravo_status RAVO_CALL ravo_bank_list_open(const char *text, size_t text_length, ravo_day date,
+                                          ravo_bank_list **list, ravo_error *error);
+
+/* Closes a list. Null is allowed. */
+void RAVO_CALL ravo_bank_list_close(ravo_bank_list *list);
+
+/* Returns the day of a list; of the one that is built in for null. Never allocates. */
+ravo_day RAVO_CALL ravo_bank_list_date(const ravo_bank_list *list);
+
+/* Returns how many banks a list has; the one that is built in for null. Never allocates. */
+size_t RAVO_CALL ravo_bank_count(const ravo_bank_list *list);
+
+/* Writes the bank with an index, by code in ascending order. RAVO_UNKNOWN past the last. Never allocates. */
+ravo_status RAVO_CALL ravo_bank_at(const ravo_bank_list *list, size_t index, ravo_bank *bank, ravo_error *error);
+
+/*
+ * Writes the bank with a code; 800 is 0800.
+ *
+ * RAVO_WRONG with the reason "bank.unknown" if the list does not have it. Never allocates.
+ */
+ravo_status RAVO_CALL ravo_bank_find(const ravo_bank_list *list, int32_t code, ravo_bank *bank,
+                                     ravo_error *error);
+
+/* ------------------------------------------------------------------------------------------------------------
+ * Days
+ */
+
+/* A date of the proleptic Gregorian calendar. */
+typedef struct ravo_date {
+  int32_t year;  /* 1 to 9999 */
+  int32_t month; /* 1 to 12 */
+  int32_t day;   /* of the month, from 1 */
+} ravo_date;
+
+/* Writes the day of a date. RAVO_RANGE if there is no such date. Never allocates. */
+ravo_status RAVO_CALL ravo_day_of(int32_t year, int32_t month, int32_t day_of_month, ravo_day *day,
+                                  ravo_error *error);
+
+/* Writes the date of a day. RAVO_RANGE outside of the years 1 to 9999. Never allocates. */
+ravo_status RAVO_CALL ravo_date_of(ravo_day day, ravo_date *date, ravo_error *error);
+
+/* Returns 1 if a year of the Gregorian calendar is a leap year, else 0. Never allocates. */
+int32_t RAVO_CALL ravo_is_leap_year(int32_t year);
+
+/*
+ * Writes the day of the week, 0 for Monday to 6 for Sunday.
+ *
+ * RAVO_RANGE outside of the years 1 to 9999, as all functions of this chapter. Never allocates.
+ */
+ravo_status RAVO_CALL ravo_weekday_of(ravo_day day, int32_t *weekday, ravo_error *error);
+
+/* A week by ISO 8601. */
+typedef struct ravo_week {
+  int32_t year; /* the year of its Thursday */
+  int32_t week; /* 1 to 53 */
+} ravo_week;
+
+/* Writes the ISO 8601 week of a day. Never allocates. */
+ravo_status RAVO_CALL ravo_week_of(ravo_day day, ravo_week *week, ravo_error *error);
+
+/* Writes the Monday of an ISO 8601 week. RAVO_RANGE if the year has no such week. Never allocates. */
+ravo_status RAVO_CALL ravo_day_of_week(int32_t year, int32_t week, ravo_day *monday, ravo_error *error);
+
+/* Writes how many days a month has. Never allocates. */
+ravo_status RAVO_CALL ravo_days_in_month(int32_t year, int32_t month, int32_t *days, ravo_error *error);
+
+/* Writes the first day of the month of a day. Never allocates. */
+ravo_status RAVO_CALL ravo_month_begin(ravo_day day, ravo_day *first, ravo_error *error);
+
+/* Writes the last day of the month of a day. Never allocates. */
+ravo_status RAVO_CALL ravo_month_end(ravo_day day, ravo_day *last, ravo_error *error);
+
+/*
+ * Writes the day `months` months later, or earlier if negative.
+ *
+ * A day past the end of the new month becomes its last one. Never allocates.
+ */
+ravo_status RAVO_CALL ravo_add_months(ravo_day day, int32_t months, ravo_day *result, ravo_error *error);
+
+/* How a date is written. */
+typedef int32_t ravo_date_form;
+enum {
+  RAVO_DATE_ISO = 0,    /* 2026-11-21 */
+  RAVO_DATE_CZECH = 1,  /* 21. 11. 2026 */
+  RAVO_DATE_COMPACT = 2 /* 20261121 */
+};
+
+/* The longest date in bytes, with its NUL. */
+#define RAVO_DATE_SIZE 16
+
+/* Writes a day as a text of at most RAVO_DATE_SIZE bytes. Never allocates. */
+ravo_status RAVO_CALL ravo_day_format(ravo_day day, ravo_date_form form, char *buffer, size_t size,
+                                      size_t *length, ravo_error *error);
+
+/*
+ * Writes the day of a date as people write it: each form of ravo_date_form, in Czech with or without blanks.
+ *
+ * RAVO_WRONG with code 0 for a text that is none of them, RAVO_RANGE if there is no such date. Blanks around it
+ * are skipped. Never allocates.
+ */
+ravo_status RAVO_CALL ravo_day_read(const char *text, size_t text_length, ravo_day *day, ravo_error *error);
+
+/* ------------------------------------------------------------------------------------------------------------
+ * Holidays and terms
+ *
+ * Holidays by law 245/2000, working days, and the days on which terms end. Days before 2000 are not verified; before
+ * 1993 there are no holidays.
+ */
+
+/* A public holiday. Declare it as `ravo_holiday holiday = RAVO_HOLIDAY_INIT;`. */
+typedef struct ravo_holiday {
+  size_t size;          /* sizeof(ravo_holiday), set by the caller */
+  const char *czech;    /* its name by law, UTF-8 */
+  const char *english;  /* its name in English */
+  const char *law;      /* the law that gave it this form: "245/2000" */
+  int32_t first_year;   /* the first year in which it holds */
+  int32_t last_year;    /* the last; 9999 if there is no end */
+  int32_t month;        /* 1 to 12; 0 if it follows Easter */
+  int32_t day;          /* of the month, or days after Easter Sunday */
+} ravo_holiday;
+
+#define RAVO_HOLIDAY_INIT {sizeof(ravo_holiday), 0, 0, 0, 0, 0, 0, 0}
+
+/* Returns how many holidays are known, former ones included. Never allocates. */
+size_t RAVO_CALL ravo_holiday_count(void);
+
+/* Writes the holiday with an index, by its place in the year. RAVO_UNKNOWN past the last. Never allocates. */
+ravo_status RAVO_CALL ravo_holiday_at(size_t index, ravo_holiday *holiday, ravo_error *error);
+
+/* Writes the day of the holiday with an index. RAVO_RANGE if it does not hold in that year. Never allocates. */
+ravo_status RAVO_CALL ravo_holiday_day(size_t index, int32_t year, ravo_day *day, ravo_error *error);
+
+/*
+ * Writes the `nth` holiday of a day, 0 for the first: 1 January has two.
+ *
+ * RAVO_UNKNOWN if there are fewer. Never allocates.
+ */
+ravo_status RAVO_CALL ravo_holiday_on(ravo_day day, size_t nth, ravo_holiday *holiday, ravo_error *error);
+
+/* Writes Easter Sunday of a year. RAVO_RANGE outside of the years 1583 to 9999. Never allocates. */
+ravo_status RAVO_CALL ravo_easter_sunday(int32_t year, ravo_day *day, ravo_error *error);
+
+/* Returns 1 if a day is Monday to Friday and no holiday, else 0. Never allocates. */
+int32_t RAVO_CALL ravo_is_working_day(ravo_day day);
+
+/* Writes the first working day from `day` on, which may be `day` itself. Never allocates. */
+ravo_status RAVO_CALL ravo_next_working_day(ravo_day day, ravo_day *working_day, ravo_error *error);
+
+/*
+ * Writes how many working days there are after `from` up to and with `to`.
+ *
+ * Negative if `to` is before `from`. Never allocates.
+ */
+ravo_status RAVO_CALL ravo_working_days_between(ravo_day from, ravo_day to, int32_t *days, ravo_error *error);
+
+/* When a term ends. Declare it as `ravo_term term = RAVO_TERM_INIT;`. */
+typedef struct ravo_term {
+  size_t size;       /* sizeof(ravo_term), set by the caller */
+  ravo_day counted;  /* as the days or months count */
+  ravo_day due;      /* the same, or the next working day if it is not one */
+  int32_t verified;  /* 1 if the holidays up to there are verified, else 0 */
+} ravo_term;
+
+#define RAVO_TERM_INIT {sizeof(ravo_term), 0, 0, 0}
+
+/*
+ * Writes when a term of `days` days ends. The day of the event, `from`, does not count.
+ *
+ * Never allocates.
+ */
+ravo_status RAVO_CALL ravo_term_in_days(ravo_day from, int32_t days, ravo_term *term, ravo_error *error);
+
+/*
+ * Writes when a term of `months` months ends: on the day of the same number, or the month's last.
+ *
+ * Never allocates.
+ */
+ravo_status RAVO_CALL ravo_term_in_months(ravo_day from, int32_t months, ravo_term *term, ravo_error *error);
+
+/* Writes how many days `today` is past the due day; 0 up to that day. Never allocates. */
+ravo_status RAVO_CALL ravo_days_overdue(ravo_day due, ravo_day today, int32_t *days, ravo_error *error);
+
+/* ------------------------------------------------------------------------------------------------------------
+ * Money
+ *
+ * All products are exact, and each result is rounded once. RAVO_RANGE if a result does not fit 64 bits.
+ */
+
+/* An amount in ten-thousandths: 12 crowns 50 are 125000. */
+typedef int64_t ravo_money;
+
+/* How an amount between two multiples of a step is rounded. */
+typedef int32_t ravo_rounding;
+enum {
+  RAVO_ROUND_HALF_AWAY = 0, /* to the nearest multiple, halves away from zero */
+  RAVO_ROUND_AWAY = 1,      /* to the multiple farther from zero */
+  RAVO_ROUND_TOWARD = 2     /* to the multiple nearer to zero */
+};
+
+/* The longest amount in bytes, with its NUL. */
+#define RAVO_MONEY_SIZE 24
+
+/*
+ * Writes an amount in plain digits, as a text of at most RAVO_MONEY_SIZE bytes.
+ *
+ * `separator` is the character between crowns and decimals, in ASCII; RAVO_ARGUMENT for another. There are at
+ * least `places` decimals, 0 to 4, and at most four. Allocates for long amounts.
+ *
+ *     ravo_money_format(125000, ',', 2, ...)  // 12,50
+ */
+ravo_status RAVO_CALL ravo_money_format(ravo_money amount, int32_t separator, int32_t places, char *buffer,
+                                        size_t size, size_t *length, ravo_error *error);
+
+/*
+ * Writes the amount that a whole text is: a sign, digits, a separator, at most four decimals that are not zeros
+ * at the end.
+ *
+ * RAVO_WRONG with code 0 for any other text and for amounts that do not fit 64 bits. Never allocates for texts of
+ * up to 256 bytes.
+ */
+ravo_status RAVO_CALL ravo_money_read(const char *text, size_t text_length, int32_t separator, ravo_money *amount,
+                                      ravo_error *error);
+
+/*
+ * Writes an amount rounded to a multiple of `step`: 100 are hundredths, 10000 whole crowns.
+ *
+ * RAVO_RANGE if `step` is not positive. Allocates on failure alone.
+ */
+ravo_status RAVO_CALL ravo_money_round(ravo_money amount, ravo_money step, ravo_rounding rounding,
+                                       ravo_money *result, ravo_error *error);
+
+/*
+ * Writes an amount times `numerator` / `denominator`, rounded to a multiple of `step`.
+ *
+ * RAVO_RANGE if `denominator` is 0 or `step` is not positive. Allocates on failure alone.
+ *
+ *     ravo_money_times_ratio(gross, 21, 121, 100, RAVO_ROUND_HALF_AWAY, &tax, NULL)
+ */
+ravo_status RAVO_CALL ravo_money_times_ratio(ravo_money amount, int64_t numerator, int64_t denominator,
+                                             ravo_money step, ravo_rounding rounding, ravo_money *result,
+                                             ravo_error *error);
+
+/*
+ * Writes an amount times a rate, rounded to a multiple of `step`. 2100 is 21 %, 253400 an exchange rate of 25,34.
+ *
+ * As ravo_money_times_ratio. Allocates on failure alone.
+ */
+ravo_status RAVO_CALL ravo_money_times_rate(ravo_money amount, ravo_money rate, ravo_money step,
+                                            ravo_rounding rounding, ravo_money *result, ravo_error *error);
+
+/*
+ * Writes an amount in whole crowns, and the rounded amount less the given one.
+ *
+ * Never allocates.
+ */
+ravo_status RAVO_CALL ravo_money_to_crowns(ravo_money amount, ravo_rounding rounding, ravo_money *rounded,
+                                           ravo_money *difference, ravo_error *error);
+
+/* ------------------------------------------------------------------------------------------------------------
+ * VAT
+ *
+ * Rates and ways of computing the tax since 1993, with the days on which they are in force. The tax is rounded to
+ * the haléř, halves away from zero.
+ */
+
+/* Which of the rates. */
+typedef int32_t ravo_vat_kind;
+enum {
+  RAVO_VAT_ZERO = 0,          /* no tax */
+  RAVO_VAT_STANDARD = 1,      /* základní */
+  RAVO_VAT_REDUCED = 2,       /* snížená; from 2015 to 2023 the first of two */
+  RAVO_VAT_SECOND_REDUCED = 3 /* druhá snížená, 2015 to 2023 */
+};
+
+/* How the tax comes from an amount. */
+typedef int32_t ravo_vat_method;
+enum {
+  RAVO_VAT_FROM_BASE = 0,                 /* base times rate */
+  RAVO_VAT_FROM_TOTAL_BY_COEFFICIENT = 1, /* total times a coefficient of four decimals */
+  RAVO_VAT_FROM_TOTAL = 2                 /* total less total / (1 + rate) */
+};
+
+/* A rate. Declare it as `ravo_vat_rate rate = RAVO_VAT_RATE_INIT;`. */
+typedef struct ravo_vat_rate {
+  size_t size;         /* sizeof(ravo_vat_rate), set by the caller */
+  const char *law;     /* the law that set it: "500/2012" */
+  ravo_day first;      /* the first day on which it is in force */
+  ravo_day last;       /* the last; 31 December 9999 if there is no end */
+  ravo_vat_kind kind;  /* which */
+  int32_t percent;     /* 21 is 21 % */
+} ravo_vat_rate;
+
+#define RAVO_VAT_RATE_INIT {sizeof(ravo_vat_rate), 0, 0, 0, 0, 0}
+
+/* Returns how many rates are known, former ones included. Never allocates. */
+size_t RAVO_CALL ravo_vat_rate_count(void);
+
+/* Writes the rate with an index, by its first day. RAVO_UNKNOWN past the last. Never allocates. */
+ravo_status RAVO_CALL ravo_vat_rate_at(size_t index, ravo_vat_rate *rate, ravo_error *error);
+
+/*
+ * Writes the percentage of a kind of rate on a day; 0 for RAVO_VAT_ZERO.
+ *
+ * RAVO_WRONG with the reason "rate.unknown" if it was not in force. Never allocates.
+ */
+ravo_status RAVO_CALL ravo_vat_percent_on(ravo_day day, ravo_vat_kind kind, int32_t *percent, ravo_error *error);
+
+/* Writes the kind of a percentage on a day. RAVO_UNKNOWN if there was no such rate. Never allocates. */
+ravo_status RAVO_CALL ravo_vat_kind_on(ravo_day day, int32_t percent, ravo_vat_kind *kind, ravo_error *error);
+
+/* A way of computing the tax. Declare it as `ravo_vat_way way = RAVO_VAT_WAY_INIT;`. */
+typedef struct ravo_vat_way {
+  size_t size;             /* sizeof(ravo_vat_way), set by the caller */
+  const char *law;         /* the law that has it: "235/2004" */
+  ravo_day first;          /* the first day on which it is lawful */
+  ravo_day last;           /* the last; 31 December 9999 if there is no end */
+  ravo_vat_method method;  /* which */
+} ravo_vat_way;
+
+#define RAVO_VAT_WAY_INIT {sizeof(ravo_vat_way), 0, 0, 0, 0}
+
+/* Returns how many ways of computing the tax are known. Never allocates. */
+size_t RAVO_CALL ravo_vat_way_count(void);
+
+/* Writes the way with an index. RAVO_UNKNOWN past the last. Never allocates. */
+ravo_status RAVO_CALL ravo_vat_way_at(size_t index, ravo_vat_way *way, ravo_error *error);
+
+/* Returns 1 if a way of computing the tax is lawful on a day, else 0. Never allocates. */
+int32_t RAVO_CALL ravo_vat_is_lawful(ravo_vat_method method, ravo_day day);
+
+/* Base, tax and total of an amount. Declare it as `ravo_vat_amounts amounts = RAVO_VAT_AMOUNTS_INIT;`. */
+typedef struct ravo_vat_amounts {
+  size_t size;      /* sizeof(ravo_vat_amounts), set by the caller */
+  ravo_money base;  /* without the tax */
+  ravo_money tax;   /* whole haléře */
+  ravo_money total; /* both */
+  int32_t half;     /* 1 if the exact tax ends on half a haléř, else 0 */
+} ravo_vat_amounts;
+
+#define RAVO_VAT_AMOUNTS_INIT {sizeof(ravo_vat_amounts), 0, 0, 0, 0}
+
+/*
+ * Writes base, tax and total of an amount, which the method says to be a base or a total.
+ *
+ * RAVO_WRONG with the reason "rate.unknown" for a percentage outside of 0 to 100. Never allocates.
+ */
+ravo_status RAVO_CALL ravo_vat_compute(ravo_money amount, int32_t percent, ravo_vat_method method,
+                                       ravo_vat_amounts *amounts, ravo_error *error);
+
+/* A line of a document. */
+typedef struct ravo_vat_line {
+  ravo_money amount;  /* base or total, as the method says */
+  ravo_vat_kind kind; /* its rate */
+} ravo_vat_line;
+
+/* Where the tax of a document is computed. */
+typedef int32_t ravo_vat_per;
+enum {
+  RAVO_VAT_PER_DOCUMENT = 0, /* once for each rate, of the sum of its lines */
+  RAVO_VAT_PER_LINE = 1      /* of each line, then added */
+};
+
+/* The part of a document that has one rate. */
+typedef struct ravo_vat_row {
+  ravo_money base;
+  ravo_money tax;
+  ravo_money total;
+  size_t lines;    /* how many lines have the rate */
+  int32_t percent; /* the percentage on the day */
+  int32_t half;    /* 1 if any of its taxes ends on half a haléř, else 0 */
+} ravo_vat_row;
+
+/* A document by rates. Declare it as `ravo_vat_summary summary = RAVO_VAT_SUMMARY_INIT;`. */
+typedef struct ravo_vat_summary {
+  size_t size;          /* sizeof(ravo_vat_summary), set by the caller */
+  ravo_vat_row rows[4]; /* by ravo_vat_kind */
+  ravo_vat_row sum;     /* of all rows; its percentage is 0 */
+} ravo_vat_summary;
+
+#define RAVO_VAT_SUMMARY_INIT {sizeof(ravo_vat_summary), {{0, 0, 0, 0, 0, 0}}, {0, 0, 0, 0, 0, 0}}
+
+/*
+ * Writes the recapitulation of a document's lines by the rates of a day.
+ *
+ * RAVO_WRONG with the reasons "rate.unknown" at the index of the line and "rate.method" for a way that is not
+ * lawful on the day; RAVO_RANGE at the index of the line. Allocates.
+ */
+ravo_status RAVO_CALL ravo_vat_recapitulate(const ravo_vat_line *lines, size_t lines_length,
+                                            ravo_vat_method method, ravo_vat_per per, ravo_day day,
+                                            ravo_vat_summary *summary, ravo_error *error);
+
+/* ------------------------------------------------------------------------------------------------------------
+ * The suite's own rules
+ *
+ * What the modules of the suite compute, with the oddities that stored documents depend on. The checks are lenient;
+ * those of the country are ravo_check's. Texts of more than 256 bytes and texts as results allocate.
+ */
+
+/* Writes 1 if a text consists of digits, at least one, else 0. */
+ravo_status RAVO_CALL ravo_suite_is_numbers(const char *text, size_t text_length, int32_t *answer,
+                                            ravo_error *error);
+
+/* Writes 1 if a text is a synthetic account, three digits, else 0. */
+ravo_status RAVO_CALL ravo_suite_valid_su(const char *text, size_t text_length, int32_t *answer,
+                                          ravo_error *error);
+
+/* Writes 1 if a text is an analytic account, up to three digits or nothing, else 0. */
+ravo_status RAVO_CALL ravo_suite_valid_au(const char *text, size_t text_length, int32_t *answer,
+                                          ravo_error *error);
+
+/* Writes 1 if a text is an account of the chart of accounts, three to six digits, else 0. */
+ravo_status RAVO_CALL ravo_suite_valid_ucet(const char *text, size_t text_length, int32_t *answer,
+                                            ravo_error *error);
+
+/*
+ * Writes 1 if a text is a payment reference with a valid Luhn check digit, else 0.
+ *
+ * RAVO_RANGE if the weighted sum does not fit 32 bits.
+ */
+ravo_status RAVO_CALL ravo_suite_valid_vs(const char *text, size_t text_length, int32_t *answer,
+                                          ravo_error *error);
+
+/*
+ * Writes 1 if the weighted sum of an account is divisible by 11, else 0.
+ *
+ * What follows the first "/" is ignored, then every character that is no digit; prefix and number form one sum.
+ * RAVO_RANGE for more than 62 digits.
+ *
+ *     ravo_suite_ucet_mod_11("19-2000145399/0800", RAVO_NUL_TERMINATED, &answer, NULL)  // 1
+ */
+ravo_status RAVO_CALL ravo_suite_ucet_mod_11(const char *text, size_t text_length, int32_t *answer,
+                                             ravo_error *error);
+
+/* Writes the first three characters of an account, unchanged, and the next three without blanks around them. */
+ravo_status RAVO_CALL ravo_suite_ucet_na_su_au(const char *ucet, size_t ucet_length, char *su, size_t su_size,
+                                               size_t *su_length, char *au, size_t au_size, size_t *au_length,
+                                               ravo_error *error);
+
+/* The check digits of an EAN. Declare it as `ravo_suite_ean ean = RAVO_SUITE_EAN_INIT;`. */
+typedef struct ravo_suite_ean {
+  size_t size;        /* sizeof(ravo_suite_ean), set by the caller */
+  int32_t valid;      /* 1 if the text has 7, 8, 12 or 13 digits, else 0 */
+  char old_check[4];  /* the check digit of the code; a blank if it has none */
+  char new_check[4];  /* the computed one; a blank if the text is no code */
+  char full_code[16]; /* the code with the computed digit; empty if the text is no code */
+} ravo_suite_ean;
+
+#define RAVO_SUITE_EAN_INIT {sizeof(ravo_suite_ean), 0, {0}, {0}, {0}}
+
+/* Writes the check digits of an EAN. The old and the new one are not compared. */
+ravo_status RAVO_CALL ravo_suite_calculate_ean(const char *code, size_t code_length, ravo_suite_ean *ean,
+                                               ravo_error *error);
+
+/* The direction of the suite's rounding. Any other number up to 255 means no rounding. */
+enum {
+  RAVO_SUITE_ROUND_UP = 0,   /* away from zero */
+  RAVO_SUITE_ROUND_DOWN = 1, /* toward zero */
+  RAVO_SUITE_ROUND_MATH = 2  /* halves away from zero */
+};
+
+/*
+ * Writes an amount rounded to `decimals` places: 2 are hundredths, 0 whole crowns, -1 tens.
+ *
+ * Halves are recognized after the fraction is rounded to four places. RAVO_RANGE if `decimals` is below -4 or
+ * above 14 or the scaled amount does not fit 64 bits; RAVO_SUITE_ROUND_UP and RAVO_SUITE_ROUND_DOWN wrap silently
+ * from 2147483648 units on. Allocates on failure alone.
+ */
+ravo_status RAVO_CALL ravo_suite_round_value(ravo_money amount, uint8_t direction, int8_t decimals,
+                                             ravo_money *result, ravo_error *error);
+
+/*
+ * Writes a double rounded to `decimals` places, with the errors of doubles: RAVO_SUITE_ROUND_DOWN lowers most exact
+ * values by one unit.
+ *
+ * RAVO_RANGE for infinities and NaN, and if the scaled value does not fit 64 bits. Allocates on failure alone.
+ */
+ravo_status RAVO_CALL ravo_suite_round_value_float(double value, uint8_t direction, int8_t decimals,
+                                                   double *result, ravo_error *error);
+
+/*
+ * Writes an amount of VAT rounded by one of five letters: H hundredths, D tenths, P halves of a crown, N tenths
+ * away from zero, M whole crowns.
+ *
+ * Any other letter leaves the amount as it is. RAVO_RANGE if the result does not fit 64 bits. Allocates on failure
+ * alone.
+ */
+ravo_status RAVO_CALL ravo_suite_round_dph(ravo_money amount, int32_t letter, ravo_money *result,
+                                           ravo_error *error);
+
+/* A moment in days since midnight of 30 December 1899; the fraction is the time of day. */
+typedef double ravo_suite_moment;
+
+/* Writes the moment of a day and a time of day in milliseconds, 0 to 86399999. Allocates on failure alone. */
+ravo_status RAVO_CALL ravo_suite_moment_of(ravo_day day, int32_t milliseconds, ravo_suite_moment *moment,
+                                           ravo_error *error);
+
+/*
+ * Writes the day of a moment and its time in milliseconds, to the nearest, ties to even. What is nearest to
+ * midnight is the next day.
+ *
+ * RAVO_RANGE outside of the years 1 to 9999. Allocates on failure alone.
+ */
+ravo_status RAVO_CALL ravo_suite_moment_parts(ravo_suite_moment moment, ravo_day *day, int32_t *milliseconds,
+                                              ravo_error *error);
+
+/* Writes the date of a moment for SQL: "20101231". RAVO_RANGE outside of the years 1 to 9999. Allocates. */
+ravo_status RAVO_CALL ravo_suite_sql_date(ravo_suite_moment moment, char *buffer, size_t size, size_t *length,
+                                          ravo_error *error);
+
+/* Writes the time of a moment for SQL: "13:05:09:007". RAVO_RANGE for infinities and NaN. Allocates. */
+ravo_status RAVO_CALL ravo_suite_sql_time(ravo_suite_moment moment, char *buffer, size_t size, size_t *length,
+                                          ravo_error *error);
+
+/* Writes date and time of a moment for SQL: "20101231 13:05:09:007". Allocates. */
+ravo_status RAVO_CALL ravo_suite_sql_date_time(ravo_suite_moment moment, char *buffer, size_t size,
+                                               size_t *length, ravo_error *error);
+
+/*
+ * Writes the same day of the next month if `step` is positive, else of the previous one; the time is dropped.
+ *
+ * RAVO_RANGE outside of the years 1 to 9999. Allocates on failure alone.
+ */
+ravo_status RAVO_CALL ravo_suite_change_month(ravo_suite_moment moment, int32_t step, ravo_suite_moment *result,
+                                              ravo_error *error);
+
+/* Writes the same day of the next or previous year, as ravo_suite_change_month. Allocates on failure alone. */
+ravo_status RAVO_CALL ravo_suite_change_year(ravo_suite_moment moment, int32_t step, ravo_suite_moment *result,
+                                             ravo_error *error);
+
+/*
+ * Writes street and house number of an address: "Nádražní" and "1234/5" of "Nádražní 1234/5".
+ *
+ * The street is the whole text if the last word is no number.
+ */
+ravo_status RAVO_CALL ravo_suite_adresa_expand(const char *adresa, size_t adresa_length, char *ulice,
+                                               size_t ulice_size, size_t *ulice_length, char *cislo,
+                                               size_t cislo_size, size_t *cislo_length, ravo_error *error);
+
+/* Writes the name of a document: "FV0012/2010" of "FV", "0012" and "2010". */
+ravo_status RAVO_CALL ravo_suite_doklad_description(const char *prefix, size_t prefix_length, const char *number,
+                                                    size_t number_length, const char *suffix,
+                                                    size_t suffix_length, char *buffer, size_t size,
+                                                    size_t *length, ravo_error *error);
+
+/*
+ * Writes the name of a backup: a pattern with its "%FIRMA%", "%DATUM%" and "%CAS%" replaced.
+ *
+ * `moment` is the local time. RAVO_RANGE outside of the years 1 to 9999.
+ *
+ *     ravo_suite_parse_zaloha_file("%FIRMA%_%DATUM%", ..., "A/B: s.r.o.", ...)  // AB s.r.o._110203
+ */
+ravo_status RAVO_CALL ravo_suite_parse_zaloha_file(const char *pattern, size_t pattern_length, const char *firma,
+                                                   size_t firma_length, ravo_suite_moment moment, char *buffer,
+                                                   size_t size, size_t *length, ravo_error *error);
+
+/* Writes what is before the first "." of a name, or all of it: "Faktury" of "Faktury.Cislo". */
+ravo_status RAVO_CALL ravo_suite_extract_table_from_property(const char *name, size_t name_length, char *buffer,
+                                                             size_t size, size_t *length, ravo_error *error);
+
+/* Writes properties without the name of a table and "." before them: "A;B;G.C" of "F" and "F.A;F.B;G.C". */
+ravo_status RAVO_CALL ravo_suite_remove_table_from_properties(const char *table, size_t table_length,
+                                                              const char *properties, size_t properties_length,
+                                                              char *buffer, size_t size, size_t *length,
+                                                              ravo_error *error);
+
+/* Writes the identifier of a record between single quotes; "Null" for null. Quotes inside stay as they are. */
+ravo_status RAVO_CALL ravo_suite_uid_to_string(const char *uid, size_t uid_length, char *buffer, size_t size,
+                                               size_t *length, ravo_error *error);
+
+/*
+ * Writes the eight bytes of a record version in hexadecimal; none for a text of three characters or fewer.
+ *
+ * RAVO_RANGE if a pair of digits is missing, incomplete or not hexadecimal.
+ */
+ravo_status RAVO_CALL ravo_suite_timestamp_to_bytes(const char *text, size_t text_length, void *buffer,
+                                                    size_t size, size_t *length, ravo_error *error);
+
+/*
+ * Writes a number of bytes for people: "1,5 kB", and with `with_bytes` "1,5 kB (1536 B)".
+ *
+ * `decimal` is the decimal separator in ASCII, `thousands` the text between groups of three digits.
+ */
+ravo_status RAVO_CALL ravo_suite_bytes_to_str(int64_t bytes, int32_t with_bytes, int32_t decimal,
+                                              const char *thousands, size_t thousands_length, char *buffer,
+                                              size_t size, size_t *length, ravo_error *error);
+
+/* Writes text in Windows-1250 with 25 Czech letters replaced by their base letters. */
+ravo_status RAVO_CALL ravo_suite_remove_diacritics(const void *bytes, size_t bytes_length, void *buffer,
+                                                   size_t size, size_t *length, ravo_error *error);
+
+/* ------------------------------------------------------------------------------------------------------------
+ * Tables and captions of the suite
+ */
+
+/* A table, or tables that share a name. Declare it as `ravo_suite_table table = RAVO_SUITE_TABLE_INIT;`. */
+typedef struct ravo_suite_table {
+  size_t size;         /* sizeof(ravo_suite_table), set by the caller */
+  const char *name;    /* in Czech, UTF-8 */
+  const char *module;  /* the module that has it: "RavoMzdaConstants" */
+  int32_t first;       /* the first identifier */
+  int32_t last;        /* the last identifier */
+} ravo_suite_table;
+
+#define RAVO_SUITE_TABLE_INIT {sizeof(ravo_suite_table), 0, 0, 0, 0}
+
+/* Returns how many rows of tables there are. Never allocates. */
+size_t RAVO_CALL ravo_suite_table_count(void);
+
+/* Writes the row with an index, by module, then by identifier. RAVO_UNKNOWN past the last. Never allocates. */
+ravo_status RAVO_CALL ravo_suite_table_at(size_t index, ravo_suite_table *table, ravo_error *error);
+
+/* Writes the row of a table. RAVO_UNKNOWN if there is no such table. Never allocates. */
+ravo_status RAVO_CALL ravo_suite_table_find(int32_t id, ravo_suite_table *table, ravo_error *error);
+
+/*
+ * Returns the Czech name of a table, UTF-8, or null if there is no such table. Never allocates.
+ *
+ *     ravo_suite_table_name(71710)  // Účetní deník
+ */
+const char *RAVO_CALL ravo_suite_table_name(int32_t id);
+
+/* A caption or message. Declare it as `ravo_suite_caption caption = RAVO_SUITE_CAPTION_INIT;`. */
+typedef struct ravo_suite_caption {
+  size_t size;         /* sizeof(ravo_suite_caption), set by the caller */
+  const char *name;    /* "rPropertySazbaNulova" */
+  const char *text;    /* in Czech, UTF-8; "&" marks the accelerator */
+  const char *group;   /* the title of its group, in English */
+  const char *prefix;  /* what the names of the group begin with */
+  int32_t id;          /* in the string table */
+} ravo_suite_caption;
+
+#define RAVO_SUITE_CAPTION_INIT {sizeof(ravo_suite_caption), 0, 0, 0, 0, 0}
+
+/* Returns how many captions and messages there are. Never allocates. */
+size_t RAVO_CALL ravo_suite_caption_count(void);
+
+/* Writes the caption with an index, group by group. RAVO_UNKNOWN past the last. Never allocates. */
+ravo_status RAVO_CALL ravo_suite_caption_at(size_t index, ravo_suite_caption *caption, ravo_error *error);
+
+/* Writes the caption with a name. RAVO_UNKNOWN if there is none. Never allocates. */
+ravo_status RAVO_CALL ravo_suite_caption_find(const char *name, size_t name_length, ravo_suite_caption *caption,
+                                              ravo_error *error);
+
+/* ------------------------------------------------------------------------------------------------------------
+ * Texts
+ *
+ * Case is mapped character by character: the number of characters stays. Functions that write texts allocate.
+ */
+
+/* Writes a text in upper case. */
+ravo_status RAVO_CALL ravo_text_upper(const char *text, size_t text_length, char *buffer, size_t size,
+                                      size_t *length, ravo_error *error);
+
+/* Writes a text in lower case. */
+ravo_status RAVO_CALL ravo_text_lower(const char *text, size_t text_length, char *buffer, size_t size,
+                                      size_t *length, ravo_error *error);
+
+/* Writes the case-folded form of a text, equal for texts that differ only in case. */
+ravo_status RAVO_CALL ravo_text_fold(const char *text, size_t text_length, char *buffer, size_t size,
+                                     size_t *length, ravo_error *error);
+
+/*
+ * Writes 1 if a whole text matches a mask, else 0. "*" is any run of characters, "?" one character of UTF-16.
+ *
+ * `ignore_case` is 0, or 1 to fold both. Never allocates for texts and masks of up to 256 bytes.
+ */
+ravo_status RAVO_CALL ravo_text_match(const char *text, size_t text_length, const char *mask, size_t mask_length,
+                                      int32_t ignore_case, int32_t *answer, ravo_error *error);
+
+/* Writes a text in the form encoding of URLs: "a+b%26c" of "a b&c". */
+ravo_status RAVO_CALL ravo_url_encode(const char *text, size_t text_length, char *buffer, size_t size,
+                                      size_t *length, ravo_error *error);
+
+/*
+ * Writes a form-encoded text decoded. A "%" without two hexadecimal digits stays.
+ *
+ * RAVO_UTF8 if the result is not UTF-8, at its position there.
+ */
+ravo_status RAVO_CALL ravo_url_decode(const char *text, size_t text_length, char *buffer, size_t size,
+                                      size_t *length, ravo_error *error);
+
+/* ------------------------------------------------------------------------------------------------------------
+ * Checksums
+ *
+ * Bytes are a pointer and a length; RAVO_NUL_TERMINATED is RAVO_ARGUMENT here.
+ */
+
+/*
+ * Changes the CRC-32 of zip and Ethernet to that of the bytes so far and these. Begin with 0.
+ *
+ * Never allocates.
+ *
+ *     uint32_t crc = 0;
+ *     ravo_crc32("123456789", 9, &crc, NULL);  // 0xCBF43926
+ */
+ravo_status RAVO_CALL ravo_crc32(const void *bytes, size_t bytes_length, uint32_t *crc, ravo_error *error);
+
+/* How bytes or characters count in the suite's hash. */
+typedef int32_t ravo_suite_hash_of;
+enum {
+  RAVO_SUITE_HASH_BYTES = 0,        /* the bytes */
+  RAVO_SUITE_HASH_UPPER_BYTES = 1,  /* the bytes in upper case, as letters of Windows-1250 */
+  RAVO_SUITE_HASH_TEXT = 2,         /* the little-endian bytes of the text in UTF-16 */
+  RAVO_SUITE_HASH_FOLDED_TEXT = 3   /* the case-folded UTF-16 units of the text */
+};
+
+/*
+ * Writes the suite's 32-bit hash. `initial` selects one of many independent hash functions.
+ *
+ * Texts are UTF-8. Texts of more than 256 bytes allocate.
+ */
+ravo_status RAVO_CALL ravo_suite_hash(ravo_suite_hash_of what, const void *bytes, size_t bytes_length,
+                                      uint32_t initial, uint32_t *hash, ravo_error *error);
+
+/* ------------------------------------------------------------------------------------------------------------
+ * Encodings
+ *
+ * Conversion is exact: every character of Unicode, and what the encoding's definition calls malformed is malformed.
+ * A byte-order mark is a character like any other.
+ */
+
+/*
+ * An encoding by its number, 0, 1, ... without gaps.
+ *
+ * Other versions of the library may have other numbers: keep the name.
+ */
+typedef int32_t ravo_encoding;
+
+/* What is known of an encoding. Declare it as `ravo_encoding_info info = RAVO_ENCODING_INFO_INIT;`. */
+typedef struct ravo_encoding_info {
+  size_t size;          /* sizeof(ravo_encoding_info), set by the caller */
+  const char *name;     /* "Windows_1250" */
+  const char *label;    /* for people */
+  const char *aliases;  /* other names, separated by blanks */
+  const char *notes;    /* remarks; may be empty */
+  int32_t code_page;    /* Windows number; 0 if it has none */
+  int32_t can_read;     /* 1 if it can be converted from, else 0 */
+  int32_t can_write;    /* 1 if it can be converted to, else 0 */
+} ravo_encoding_info;
+
+#define RAVO_ENCODING_INFO_INIT {sizeof(ravo_encoding_info), 0, 0, 0, 0, 0, 0, 0}
+
+/* Returns how many encodings there are. Never allocates. */
+size_t RAVO_CALL ravo_encoding_count(void);
+
+/* Writes what is known of an encoding. RAVO_UNKNOWN for a number that is none. Never allocates. */
+ravo_status RAVO_CALL ravo_encoding_at(ravo_encoding encoding, ravo_encoding_info *info, ravo_error *error);
+
+/*
+ * Writes the encoding with a name, an alias, a label, or the number of a code page with or without "cp".
+ *
+ * Only ASCII letters and digits count, in either case. RAVO_UNKNOWN if there is none. Never allocates.
+ *
+ *     ravo_encoding_find("windows-1250", RAVO_NUL_TERMINATED, &encoding, NULL)
+ */
+ravo_status RAVO_CALL ravo_encoding_find(const char *name, size_t name_length, ravo_encoding *encoding,
+                                         ravo_error *error);
+
+/* Writes the encoding with the number of a Windows code page. RAVO_UNKNOWN if there is none. Never allocates. */
+ravo_status RAVO_CALL ravo_encoding_of_code_page(int32_t code_page, ravo_encoding *encoding, ravo_error *error);
+
+/*
+ * Writes the encoding that a byte-order mark at the start of bytes names, and the mark's length in bytes.
+ *
+ * Fewer than four bytes count as the whole text. `mark_length` may be null. RAVO_UNKNOWN if there is no mark. Never
+ * allocates.
+ */
+ravo_status RAVO_CALL ravo_encoding_of_mark(const void *bytes, size_t bytes_length, ravo_encoding *encoding,
+                                            size_t *mark_length, ravo_error *error);
+
+/* What happens to what cannot be converted. */
+typedef int32_t ravo_convert_policy;
+enum {
+  RAVO_CONVERT_STRICT = 0, /* the conversion fails at its position */
+  RAVO_CONVERT_REPLACE = 1 /* it becomes U+FFFD, or "?" if the encoding lacks that */
+};
+
+/* Hears how many bytes of `total` are done; returns 0 to continue, another number to stop. */
+typedef int32_t(RAVO_CALL *ravo_progress)(void *context, size_t done, size_t total);
+
+/*
+ * Converts bytes from one encoding to another.
+ *
+ * RAVO_ARGUMENT if an encoding cannot be read or written. With RAVO_CONVERT_STRICT, RAVO_MALFORMED for bytes that are
+ * no character and RAVO_LACKING for a character that `to` lacks, at the position in `bytes`. `progress` may be null;
+ * it gets `context`, and if it stops the work, RAVO_STOPPED with its number as `error->code`. If the buffer is too
+ * small, or on failure, its contents are undefined. Allocates.
+ */
+ravo_status RAVO_CALL ravo_convert(ravo_encoding from, const void *bytes, size_t bytes_length, ravo_encoding to,
+                                   ravo_convert_policy policy, void *buffer, size_t size, size_t *length,
+                                   ravo_progress progress, void *context, ravo_error *error);
+
+/* A conversion of a text that comes in pieces. One thread at a time may use it. */
+typedef struct ravo_converter ravo_converter;
+
+/* Opens a conversion. Close it with ravo_converter_close. Fails as ravo_convert does. Allocates. */
+ravo_status RAVO_CALL ravo_converter_open(ravo_encoding from, ravo_encoding to, ravo_convert_policy policy,
+                                          ravo_converter **converter, ravo_error *error);
+
+/* Closes a conversion. Null is allowed. */
+void RAVO_CALL ravo_converter_close(ravo_converter *converter);
+
+/*
+ * Converts the next bytes of a text, of any number; the last characters may be cut. `is_last` is 1 if no more follow,
+ * else 0.
+ *
+ * Fails as ravo_convert does, with the position in the whole text. After a failure, and after the last bytes, the
+ * conversion takes no more: RAVO_ARGUMENT. Allocates.
+ */
+ravo_status RAVO_CALL ravo_converter_push(ravo_converter *converter, const void *bytes, size_t bytes_length,
+                                          int32_t is_last, ravo_error *error);
+
+/*
+ * Writes converted bytes that are waiting, at most `size`, and how many they are; 0 if none are left.
+ *
+ * Never allocates.
+ *
+ *     ravo_converter_push(converter, piece, piece_length, 0, NULL);
+ *     while (ravo_converter_pull(converter, buffer, sizeof buffer, &length, NULL) == RAVO_OK && length != 0)
+ *       fwrite(buffer, 1, length, file);
+ */
+ravo_status RAVO_CALL ravo_converter_pull(ravo_converter *converter, void *buffer, size_t size, size_t *length,
+                                          ravo_error *error);
+/* ------------------------------------------------------------------------------------------------------------
+ * Columns
+ *
+ * A whole column of a table in one call: where data frames and databases already have it, without a copy. A
+ * ravo_column describes memory of the caller in one of the layouts of the Arrow columnar format. Describe it by
+ * hand, or let ravo_column_of_arrow read it from the structs of the Arrow C data interface; every function of this
+ * chapter takes the result.
+ *
+ *     ravo_column column = RAVO_COLUMN_INIT;             // three company numbers, one after the other
+ *     const int32_t offsets[] = {0, 8, 16, 19};
+ *     uint16_t codes[3];
+ *     ravo_answers answers = RAVO_ANSWERS_INIT;
+ *     column.layout = RAVO_LAYOUT_OFFSETS_32;
+ *     column.length = 3;
+ *     column.values = offsets;
+ *     column.data = "0462578104625782abc";
+ *     column.data_size = 19;
+ *     answers.codes = codes;
+ *     if (ravo_check_column(RAVO_KIND_ICO, &column, 0, &answers, NULL, NULL, NULL) == RAVO_OK)
+ *       printf("%zu wrong\n", answers.wrong);            // 2: codes are 0, 104, 102
+ *
+ * Trust.    Offsets, views and indices are checked while their row is read: a row whose value does not lie in the
+ *           data ends the call with RAVO_RANGE, and its index is in error->position. RAVO_TRUSTED leaves these
+ *           checks out: for memory of a library that has made them itself. The offsets of null rows, and entries
+ *           of a dictionary that no row has, are not looked at. Nothing needs an alignment.
+ * UTF-8.    Text and binary are one. A value that is not UTF-8 is a wrong value, with RAVO_CODE_NOT_UTF8, and ends
+ *           nothing.
+ * Results.  What is written per row may have been overwritten whatever the status; counts are written on RAVO_OK and
+ *           RAVO_BUFFER. Memory of results must not overlap the column. For the place of a fault, call ravo_check
+ *           with the text of that row.
+ * Memory.   Each entry of a dictionary is checked at most once. To remember the answers, a call over a dictionary
+ *           allocates a few bytes for each entry, with texts about 60. Other columns never allocate.
+ * Threads.  To use several processors, give each thread a slice: the same column with an `offset` and a `length`.
+ */
+
+/* Where the values of a column are. The numbers are kept for ever. */
+typedef int32_t ravo_layout;
+enum {
+  RAVO_LAYOUT_OFFSETS_32 = 1,         /* row i is data[o[i]] to data[o[i + 1]]; o is int32_t. Arrow: utf8, binary */
+  RAVO_LAYOUT_OFFSETS_64 = 2,         /* the same with int64_t. Arrow: large utf8, large binary */
+  RAVO_LAYOUT_VIEWS = 3,              /* 16 bytes for each row: short texts, or a place in a buffer. Arrow: views */
+  RAVO_LAYOUT_FIXED = 4,              /* `width` bytes for each row; NULs at the end are no part of the text */
+  RAVO_LAYOUT_DICTIONARY = 5,         /* signed indices of `width` bytes (1, 2, 4, 8) into another column */
+  RAVO_LAYOUT_DICTIONARY_UNSIGNED = 6 /* unsigned indices of `width` bytes into another column */
+};
+
+/* The size of data that the caller does not know: it ends where the offset of the last row ends. */
+#define RAVO_SIZE_UNKNOWN ((size_t)-1)
+
+/* A column of the caller. It starts as `ravo_column column = RAVO_COLUMN_INIT;`. What a layout lacks is 0. */
+typedef struct ravo_column {
+  size_t size;                          /* sizeof(ravo_column) */
+  ravo_layout layout;
+  int32_t width;                        /* bytes of a value (fixed) or of an index (dictionary) */
+  size_t length;                        /* rows */
+  size_t offset;                        /* rows of the memory before the first one, as a slice has them */
+  const uint8_t *validity;              /* bit offset + i, lowest first, is 0 if row i is null; null: none is */
+  const void *values;                   /* offsets, views, values of fixed width, or indices */
+  const char *data;                     /* what offsets are into */
+  size_t data_size;                     /* bytes of data; or RAVO_SIZE_UNKNOWN */
+  const void *const *buffers;           /* what views are into */
+  const int64_t *buffer_sizes;          /* bytes of each */
+  size_t buffer_count;
+  const struct ravo_column *dictionary; /* a column of any layout without a dictionary */
+} ravo_column;
+
+#define RAVO_COLUMN_INIT {sizeof(ravo_column), 0, 0, 0, 0, NULL, NULL, NULL, 0, NULL, NULL, 0, NULL}
+
+/* What a function may rely on. */
+enum { RAVO_TRUSTED = 1 /* offsets, views and indices are right: do not check them */ };
+
+/* Codes of rows beside the reasons of checks. */
+enum {
+  RAVO_CODE_CORRECT = 0,
+  RAVO_CODE_NOT_UTF8 = 65534, /* the value is not UTF-8 */
+  RAVO_CODE_NULL = 65535      /* the row has no value */
+};
+
+/* Room for a column of texts that a function writes. Rows that are wrong or null have an empty text. */
+typedef struct ravo_texts {
+  size_t size;        /* sizeof(ravo_texts) */
+  ravo_layout layout; /* RAVO_LAYOUT_OFFSETS_32, _OFFSETS_64 or _FIXED */
+  int32_t width;      /* bytes of a value (fixed); shorter ones end with NULs, a longer one is RAVO_RANGE */
+  void *offsets;      /* room for an offset more than rows; not with fixed */
+  char *data;         /* may be null with data_size 0, to ask for the length alone */
+  size_t data_size;
+  size_t data_length; /* receives the bytes of all texts. More than data_size: RAVO_BUFFER, and what fits is there.
+                         Bytes of data past the texts are undefined */
+} ravo_texts;
+
+#define RAVO_TEXTS_INIT {sizeof(ravo_texts), 0, 0, NULL, NULL, 0, 0}
+
+/* Room for what a check finds. Each pointer may be null. */
+typedef struct ravo_answers {
+  size_t size;       /* sizeof(ravo_answers) */
+  uint16_t *codes;   /* of each row: the number of the reason, or one of RAVO_CODE_... */
+  uint8_t *validity; /* (rows + 7) / 8 bytes: bit i, lowest first, is 1 if row i is correct; bits past the end: 0 */
+  ravo_texts *texts; /* canonical forms, or usual spellings */
+  size_t wrong;      /* receives how many rows are wrong; those that are null do not count */
+  size_t nulls;      /* receives how many rows are null */
+} ravo_answers;
+
+#define RAVO_ANSWERS_INIT {sizeof(ravo_answers), NULL, NULL, NULL, 0, 0}
+
+/*
+ * Checks every row of a column for a kind, as ravo_check does, and writes codes, validity and canonical forms.
+ *
+ * RAVO_OK whatever the rows are. `flags` is 0 or RAVO_TRUSTED. `progress` may be null. Allocates for dictionaries
+ * alone. The example is at the top of the chapter.
+ */
+ravo_status RAVO_CALL ravo_check_column(ravo_kind kind, const ravo_column *column, uint32_t flags,
+                                        ravo_answers *answers, ravo_progress progress, void *context,
+                                        ravo_error *error);
+
+/*
+ * Checks every row of a column for a kind, and writes usual spellings where ravo_check_column writes canonical forms.
+ */
+ravo_status RAVO_CALL ravo_respell_column(ravo_kind kind, const ravo_column *column, uint32_t flags,
+                                          ravo_answers *answers, ravo_progress progress, void *context,
+                                          ravo_error *error);
+
+/*
+ * Writes the CRC-32 (ISO-HDLC, as in ZIP) of the bytes of each row to `results`; 0 for an empty or null row.
+ *
+ * Any bytes will do: they need not be UTF-8. Allocates for dictionaries alone.
+ *
+ *     "123456789"  // 0xCBF43926
+ */
+ravo_status RAVO_CALL ravo_crc32_column(const ravo_column *column, uint32_t flags, uint32_t *results,
+                                        ravo_progress progress, void *context, ravo_error *error);
+
+/* The structs of the Arrow C data interface, exactly as that standard has them; a program may have them already. */
+#ifndef ARROW_C_DATA_INTERFACE
+#define ARROW_C_DATA_INTERFACE
+#define ARROW_FLAG_DICTIONARY_ORDERED 1
+#define ARROW_FLAG_NULLABLE 2
+#define ARROW_FLAG_MAP_KEYS_SORTED 4
+struct ArrowSchema {
+  const char *format;
+  const char *name;
+  const char *metadata;
+  int64_t flags;
+  int64_t n_children;
+  struct ArrowSchema **children;
+  struct ArrowSchema *dictionary;
+  void (*release)(struct ArrowSchema *);
+  void *private_data;
+};
+struct ArrowArray {
+  int64_t length;
+  int64_t null_count;
+  int64_t offset;
+  int64_t n_buffers;
+  int64_t n_children;
+  const void **buffers;
+  struct ArrowArray **children;
+  struct ArrowArray *dictionary;
+  void (*release)(struct ArrowArray *);
+  void *private_data;
+};
+#endif
+
+/* The struct of the Arrow C stream interface. */
+#ifndef ARROW_C_STREAM_INTERFACE
+#define ARROW_C_STREAM_INTERFACE
+struct ArrowArrayStream {
+  int (*get_schema)(struct ArrowArrayStream *, struct ArrowSchema *out);
+  int (*get_next)(struct ArrowArrayStream *, struct ArrowArray *out);
+  const char *(*get_last_error)(struct ArrowArrayStream *);
+  void (*release)(struct ArrowArrayStream *);
+  void *private_data;
+};
+#endif
+
+/*
+ * Describes an Arrow array of texts: writes `*column`, and `*dictionary` if the array has one.
+ *
+ * `field` is the name of a column of a record batch, or null for an array that is no batch. Formats: u, U, vu, z, Z,
+ * vz, w:N, and dictionaries of these. Another format, or an array whose parts do not fit its format, is RAVO_ARGUMENT;
+ * a name that the batch has not is RAVO_UNKNOWN. Schema and array are borrowed: they stay the caller's, who releases
+ * them as ever, and the column holds until then. `dictionary` may be null if there is none. Never allocates.
+ */
+ravo_status RAVO_CALL ravo_column_of_arrow(const struct ArrowSchema *schema, const struct ArrowArray *array,
+                                           const char *field, size_t field_length, ravo_column *column,
+                                           ravo_column *dictionary, ravo_error *error);
+
+/*
+ * A function of the caller that receives a batch of a stream: its column, and how many rows came before it.
+ *
+ * The column holds until the function returns. 0 goes on. Any other result ends the stream: RAVO_STOPPED, with the
+ * result in error->code.
+ */
+typedef int32_t(RAVO_CALL *ravo_batch)(void *context, const ravo_column *column, uint64_t first_row);
+
+/*
+ * Reads an Arrow stream to its end and gives a column of each batch to a function.
+ *
+ * `field` is as in ravo_column_of_arrow. The stream becomes the function's: it is released exactly once, whatever the
+ * status, and so are its schema and its batches. A failure of the stream itself is RAVO_STOPPED, with its own number
+ * in error->code and its own words as the message. Allocates nothing; the stream may.
+ */
+ravo_status RAVO_CALL ravo_arrow_stream(struct ArrowArrayStream *stream, const char *field, size_t field_length,
+                                        ravo_batch batch, void *context, ravo_error *error);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif
