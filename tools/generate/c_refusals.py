@@ -265,7 +265,8 @@ def refusals(tree: c_ast.FileAST) -> str:
     bodies = [refusal(one, header) for one in failing] + [plain(one, header) for one in others]
     names = [f"refuses_{one.name}" for one in failing] + [f"survives_{one.name}" for one in others]
     return ("/* Written by tools/generate/c_interface.py from c/ravo.h; not to be edited by hand. */\n\n" + "\n".join(bodies) +
-            "\nstatic void refuse_what_is_wrong(void) {\n" + "".join(f"  {name}();\n" for name in names) + "}\n")
+            "\n/* A table, so that no compiler makes one function of them all. */\nstatic void (*const refusals[])(void) = {\n" +
+            "".join(f"    {name},\n" for name in names) + "};\n")
 
 
 def memory_calls(tree: c_ast.FileAST, comments: dict[str, str]) -> str:
