@@ -28,11 +28,19 @@ czech::Code CodeOf(std::int32_t code) {
 
 czech::Kind KindOf(ravo_kind kind) { return static_cast<czech::Kind>(kind > 0 && kind <= 0xFF ? kind : 0); }
 
+// Kinds are numbered from 1, without gaps.
+#define RAVO_KIND(number, name, text, parse, czech, english) +1
+constexpr ravo_kind kKinds =
+#include <ravo/czech/kinds.inc>
+    ;
+#undef RAVO_KIND
+static_assert(static_cast<ravo_kind>(czech::Kind::Isbn) == kKinds);
+
 template <class Check>
 ravo_status Checked(ravo_kind kind, const char* text, std::size_t text_length, const ravo::c::TextOut& out,
                     ravo_error* error, Check check) noexcept {
+  if (kind < 1 || kind > kKinds) return FailArgument(error, "the kind is unknown");
   const czech::Kind known = KindOf(kind);
-  if (czech::KindText(known).empty()) return FailArgument(error, "the kind is unknown");
   const auto [input, status] = ReadText(text, text_length, error);
   if (status != RAVO_OK) return status;
   const auto answer = check(known, input);

@@ -49,6 +49,7 @@ convert::Conversion ConversionOf(ravo_encoding from, ravo_encoding to, ravo_conv
   convert::Conversion conversion;
   conversion.from = RowOf(from);
   conversion.to = RowOf(to);
+  conversion.measures = false;
   if (policy == RAVO_CONVERT_REPLACE) conversion.replacement = codec::kReplacement;
   return conversion;
 }

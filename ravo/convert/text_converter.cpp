@@ -158,6 +158,7 @@ void TextConverter::Transfer(const Run& run, codec::ByteSpan bytes, Converted& c
     converted.extent += TextExtent(text.substr(0, at));
     return;
   }
+  if (!conversion_.measures) return;
   converted.extent +=
       from_.Row().decode_until != nullptr ? TextExtent(text, bytes.first(run.taken)) : TextExtent(text);
 }

@@ -24,6 +24,8 @@ struct Conversion {
   std::u16string (*spelling)(char32_t code, const std::function<bool(char16_t)>& has) = nullptr;
   /// What is written for a character that cannot be; none: the conversion ends there.
   std::optional<char32_t> replacement;
+  /// Whether `Converted::extent` is wanted: to count lines takes as long as to convert.
+  bool measures = true;
 };
 
 /// Why a conversion ends before the text does, at the character after what was converted.

@@ -28,6 +28,7 @@
 #include <ravo/czech/bic.h>
 #include <ravo/czech/birth_number.h>
 #include <ravo/czech/day.h>
+#include <ravo/czech/day_text.h>
 #include <ravo/czech/dic.h>
 #include <ravo/czech/ean.h>
 #include <ravo/czech/holidays.h>

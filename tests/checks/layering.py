@@ -41,14 +41,16 @@ MAY_USE: dict[str, set[str] | None] = {
     "ravo/utils": {"runtime", "codec", "platform", "frame", "unicode/characters", "utils/messages.inc"},
     "ravo/common": {"runtime", "platform", "frame", "catalogue", "utils"},
     "ravo/czech": {"runtime"},
+    "ravo/convert": {"codec"},
     "ravo/isdoc": {"runtime", "czech"},
     "ravo/sysinfo": {"runtime", "platform", "frame", "common"},
     "ravo/xml": {"runtime", "codec", "platform", "frame"},
     "ravo/formout": {"runtime", "codec", "platform", "frame", "unicode"},
     "ravo/hostapi": {"runtime", "platform", "frame"},
-    "tools/ravo": {PUBLIC, "codec", "czech", "isdoc"},
+    "c": {"runtime", "codec", "convert", "catalogue", "unicode", "utils", "common", "czech", "isdoc"},
+    "tools/ravo": {PUBLIC, "codec", "convert", "czech", "isdoc"},
 }
-SCANNED = ("ravo", "tools/ravo")
+SCANNED = ("ravo", "c", "tools/ravo")
 
 SYSTEM_NAME = re.compile(
     r"\b(_WIN32|_WIN64|WIN32|__MINGW32__|__MINGW64__|__CYGWIN__|__linux__|__unix__|__APPLE__|_MSC_VER)\b"

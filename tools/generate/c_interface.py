@@ -10,7 +10,7 @@ import sys
 import tempfile
 
 import c_refusals
-from pycparser import CParser, c_ast  # type: ignore[import-untyped]
+from pycparser import CParser, c_ast  # type: ignore[import]
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 HEADER = ROOT / "c" / "ravo.h"

@@ -13,7 +13,7 @@ What a parameter is follows from its name and type, which ravo.h keeps regular:
 import dataclasses
 from collections.abc import Iterator
 
-from pycparser import c_ast, c_generator  # type: ignore[import-untyped]
+from pycparser import c_ast, c_generator  # type: ignore[import]
 
 # Arguments with which each function succeeds, where another than the usual one is needed.
 GOOD_TEXTS = {
@@ -85,7 +85,8 @@ def parameter(node: c_ast.Decl) -> Parameter:
     stars, kind = 0, node.type
     while isinstance(kind, c_ast.PtrDecl):
         stars, kind = stars + 1, kind.type
-    return Parameter(node.name, " ".join(kind.type.names), stars, "const" in kind.quals)
+    name = " ".join(kind.type.names) if isinstance(kind.type, c_ast.IdentifierType) else f"struct {kind.type.name}"
+    return Parameter(node.name, name, stars, "const" in kind.quals)
 
 
 def with_roles(function: Function, sized: set[str], handles: set[str]) -> Function:
@@ -102,6 +103,8 @@ def with_roles(function: Function, sized: set[str], handles: set[str]) -> Functi
             one.role = "context"
         elif one.stars == 1 and one.constant and length in names:
             one.role = {"char": "text", "void": "bytes"}.get(one.type, "items")
+        elif one.stars and (one.constant or one.type.startswith("struct ")):
+            one.role = "given"
         elif one.stars == 1 and one.type in ("char", "void") and (one.name == "buffer" or size in names):
             one.role = "buffer"
         elif one.stars == 1 and one.name.endswith("length"):
@@ -139,7 +142,9 @@ def header_of(tree: c_ast.FileAST) -> Header:
             arguments = node.type.args.params if node.type.args else []
             functions.append(Function(node.name, " ".join(result.split()), [parameter(one) for one in arguments if isinstance(one, c_ast.Decl)]))
     enums.pop("ravo_status", None)
-    return Header([with_roles(one, sized, handles) for one in functions], enums, sized, handles)
+    told = [with_roles(one, sized, handles) for one in functions]
+    # What takes a struct that the caller fills in, such as a column, has tests of its own.
+    return Header([one for one in told if all(other.role != "given" for other in one.parameters)], enums, sized, handles)
 
 
 def good(function: Function, one: Parameter, header: Header) -> str:
@@ -162,8 +167,8 @@ def good(function: Function, one: Parameter, header: Header) -> str:
         return f"&{one.name}"
     if one.type in header.enums:
         return str(header.enums[one.type][0])
-    special = GOOD_SPECIAL.get((function.name, one.name))
-    return special or GOOD_BY_TYPE.get(one.type) or GOOD_NUMBERS.get(one.name, "1")
+    special = GOOD_SPECIAL.get((function.name, one.name), "")
+    return special or GOOD_BY_TYPE.get(one.type, "") or GOOD_NUMBERS.get(one.name, "1")
 
 
 def call(function: Function, header: Header, **changed: str) -> str:
@@ -262,7 +267,8 @@ def refusals(tree: c_ast.FileAST) -> str:
     bodies = [refusal(one, header) for one in failing] + [plain(one, header) for one in others]
     names = [f"refuses_{one.name}" for one in failing] + [f"survives_{one.name}" for one in others]
     return ("/* Written by tools/generate/c_interface.py from c/ravo.h; not to be edited by hand. */\n\n" + "\n".join(bodies) +
-            "\nstatic void refuse_what_is_wrong(void) {\n" + "".join(f"  {name}();\n" for name in names) + "}\n")
+            "\n/* A table, so that no compiler makes one function of them all. */\nstatic void (*const refusals[])(void) = {\n" +
+            "".join(f"    {name},\n" for name in names) + "};\n")
 
 
 def memory_calls(tree: c_ast.FileAST, comments: dict[str, str]) -> str:

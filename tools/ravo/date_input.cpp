@@ -2,6 +2,7 @@
 
 #include "month_names.h"
 #include "text.h"
+#include <ravo/czech/day_text.h>
 
 #include <algorithm>
 #include <array>
@@ -37,6 +38,8 @@ class DateReader {
     return true;
   }
 
+  std::optional<ravo::DateParts> Date() { return ravo::czech::TakeDate(rest_); }
+
   void SkipBlanks() {
     while (Take(" ") || Take(kNoBreak)) {
     }
@@ -55,39 +58,6 @@ class DateReader {
  private:
   std::string_view rest_;
 };
-
-std::optional<ravo::DateParts> IsoDay(DateReader& from) {
-  DateReader reader = from;
-  const auto year = reader.Number(4, 4);
-  const auto month = year && reader.Take("-") ? reader.Number(1, 2) : std::nullopt;
-  const auto day = month && reader.Take("-") ? reader.Number(1, 2) : std::nullopt;
-  if (!day) return {};
-  from = reader;
-  return ravo::DateParts{*year, *month, *day};
-}
-
-std::optional<int> NumberAndPoint(DateReader& reader) {
-  const auto number = reader.Number(1, 2);
-  if (!number || !reader.Take(".")) return {};
-  reader.SkipBlanks();
-  return number;
-}
-
-std::optional<ravo::DateParts> CzechDay(DateReader& from) {
-  DateReader reader = from;
-  const auto day = NumberAndPoint(reader);
-  const auto month = day ? NumberAndPoint(reader) : std::nullopt;
-  const auto year = month ? reader.Number(4, 4) : std::nullopt;
-  if (!year) return {};
-  from = reader;
-  return ravo::DateParts{*year, *month, *day};
-}
-
-std::optional<ravo::DateParts> CompactDay(DateReader& reader) {
-  const auto number = reader.Number(8, 8);
-  if (!number) return {};
-  return ravo::DateParts{*number / 10000, *number / 100 % 100, *number % 100};
-}
 
 std::optional<ravo::TimeParts> TakeTime(DateReader& from) {
   DateReader reader = from;
@@ -160,19 +130,13 @@ std::optional<DateFault> FaultOf(const ravo::TimeParts& time) {
   return DateFault{Text("times are from 00:00:00.000 to 23:59:59.999")};
 }
 
-std::optional<ravo::DateParts> TakeDay(DateReader& reader) {
-  if (const auto iso = IsoDay(reader)) return iso;
-  if (const auto czech = CzechDay(reader)) return czech;
-  return CompactDay(reader);
-}
-
 // Takes the day and its time, or the word for it.
 std::optional<DateFault> TakeStart(DateReader& reader, DateInput& input) {
   if (const auto days = WordDays(reader)) {
     input.steps.push_back({DateStep::Unit::Days, *days});
     return {};
   }
-  const auto day = TakeDay(reader);
+  const auto day = reader.Date();
   if (!day) return {};
   input.start.date = *day;
   if (const auto time = TakeTime(reader)) input.start.time = *time;
