@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Writes what follows from c/ravo.h: the lists of exported names.
+"""Writes what follows from c/ravo.h: the lists of exported names, and the declarations of C#.
 
 usage: c_interface.py [--check]     (--check: compare with the files there; 1 if they differ)
 """
@@ -8,6 +8,7 @@ import subprocess
 import sys
 import tempfile
 
+from csharp import Declarations
 from pycparser import CParser, c_ast  # type: ignore[import-untyped]
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
@@ -24,14 +25,18 @@ PLAIN_HEADERS = {
 }
 
 
-def parsed(header: pathlib.Path = HEADER) -> c_ast.FileAST:
-    """The declarations of a header, as every parser of C reads them after the preprocessor."""
+def preprocessed(header: pathlib.Path, plain_headers: dict[str, str]) -> str:
+    """What the preprocessor makes of a header, with these headers of the system."""
     with tempfile.TemporaryDirectory() as folder:
-        for name, text in PLAIN_HEADERS.items():
+        for name, text in plain_headers.items():
             (pathlib.Path(folder) / name).write_text(text)
         command = ["cc", "-E", "-P", "-nostdinc", "-isystem", folder, str(header)]
-        text = subprocess.run(command, capture_output=True, text=True, check=True).stdout
-    return CParser().parse(text, str(header))
+        return subprocess.run(command, capture_output=True, text=True, check=True).stdout
+
+
+def parsed(header: pathlib.Path = HEADER) -> c_ast.FileAST:
+    """The declarations of a header, as every parser of C reads them after the preprocessor."""
+    return CParser().parse(preprocessed(header, PLAIN_HEADERS), str(header))
 
 
 def functions(tree: c_ast.FileAST) -> list[c_ast.Decl]:
@@ -39,22 +44,24 @@ def functions(tree: c_ast.FileAST) -> list[c_ast.Decl]:
 
 
 def outputs() -> dict[pathlib.Path, str]:
-    names = sorted(function.name for function in functions(parsed()))
+    tree = parsed()
+    names = sorted(function.name for function in functions(tree))
     lists = ROOT / "c" / "generated"
     return {
         lists / "libravo.map": f"{VERSION} {{\n  global:\n" + "".join(f"    {name};\n" for name in names) + "  local:\n    *;\n};\n",
         lists / "ravo.def": "LIBRARY ravo.dll\nEXPORTS\n" + "".join(f"  {name}\n" for name in names),
+        ROOT / "bindings" / "csharp" / "Ravo.cs": Declarations(HEADER.read_text(encoding="utf-8"), tree).text(),
     }
 
 
 def main() -> int:
-    differing = [path for path, text in outputs().items() if not path.exists() or path.read_text() != text]
+    differing = [path for path, text in outputs().items() if not path.exists() or path.read_text(encoding="utf-8") != text]
     if sys.argv[1:] == ["--check"]:
         for path in differing:
             print(f"{path.relative_to(ROOT)}: differs from c/ravo.h: run tools/generate/c_interface.py")
         return 1 if differing else 0
     for path in differing:
-        path.write_text(outputs()[path])
+        path.write_text(outputs()[path], encoding="utf-8")
     return 0
 
 
