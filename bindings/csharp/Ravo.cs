@@ -94,7 +94,7 @@ public static class Ravo
     /// <para>RAVO_UNKNOWN if there is none. Never allocates.</para>
     /// </remarks>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_reason_of(byte[] name, UIntPtr name_length, out int code,
+    public static extern int ravo_reason_of(byte[] name, UIntPtr name_length, ref int code,
         [In, Out] ravo_error error);
 
     /// <summary>Returns the version of the library that is running, such as "1.1.0". Never allocates.</summary>
@@ -104,7 +104,7 @@ public static class Ravo
     /// <summary>Writes what the library was built with and runs on: lines of "name: value", such as the vector kernels that
     /// this processor gets and the dates of the lists inside.</summary>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_build_info([Out] byte[] buffer, UIntPtr size, out UIntPtr length,
+    public static extern int ravo_build_info([Out] byte[] buffer, UIntPtr size, ref UIntPtr length,
         [In, Out] ravo_error error);
 
     /// <summary>company number</summary>
@@ -147,7 +147,7 @@ public static class Ravo
 
     /// <summary>Writes the kind with a name, such as "ico", to `*kind`. RAVO_UNKNOWN if there is none. Never allocates.</summary>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_kind_of(byte[] name, UIntPtr name_length, out int kind,
+    public static extern int ravo_kind_of(byte[] name, UIntPtr name_length, ref int kind,
         [In, Out] ravo_error error);
 
     /// <summary>Checks a text for a kind and writes its canonical form, of at most RAVO_VALUE_SIZE bytes.</summary>
@@ -158,7 +158,7 @@ public static class Ravo
     /// </remarks>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern int ravo_check(int kind, byte[] text, UIntPtr text_length, [Out] byte[] buffer,
-        UIntPtr size, out UIntPtr length, [In, Out] ravo_error error);
+        UIntPtr size, ref UIntPtr length, [In, Out] ravo_error error);
 
     /// <summary>Checks a text for a kind and writes its usual spelling, of at most RAVO_VALUE_SIZE bytes.</summary>
     /// <remarks>
@@ -166,7 +166,7 @@ public static class Ravo
     /// </remarks>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern int ravo_respell(int kind, byte[] text, UIntPtr text_length, [Out] byte[] buffer,
-        UIntPtr size, out UIntPtr length, [In, Out] ravo_error error);
+        UIntPtr size, ref UIntPtr length, [In, Out] ravo_error error);
 
     /// <summary>A date of the proleptic Gregorian calendar.</summary>
     [StructLayout(LayoutKind.Sequential)]
@@ -182,10 +182,10 @@ public static class Ravo
 
     /// <summary>Writes the day of a date. RAVO_RANGE if there is no such date. Never allocates.</summary>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_day_of(int year, int month, int day_of_month, out int day,
+    public static extern int ravo_day_of(int year, int month, int day_of_month, ref int day,
         [In, Out] ravo_error error);
 
     /// <summary>Writes the date of a day. RAVO_RANGE outside of the years 1 to 9999. Never allocates.</summary>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_date_of(int day, out ravo_date date, [In, Out] ravo_error error);
+    public static extern int ravo_date_of(int day, ref ravo_date date, [In, Out] ravo_error error);
 }

@@ -1,9 +1,8 @@
 /* Checks a value: check KIND VALUE, for example check ico "046 25 781". */
 #include <ravo.h>
-
 #include <stdio.h>
 
-int main(int count, char **arguments) {
+int main(int count, char** arguments) {
   ravo_error error = RAVO_ERROR_INIT;
   ravo_kind kind = 0;
   char value[RAVO_VALUE_SIZE];

@@ -6,7 +6,7 @@ usage: declarations.py LIBRARY
 import pathlib
 import sys
 
-import cffi  # type: ignore[import-untyped]
+import cffi  # type: ignore[import]
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 sys.path.append(str(ROOT / "tools" / "generate"))

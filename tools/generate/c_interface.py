@@ -9,7 +9,7 @@ import sys
 import tempfile
 
 from csharp import Declarations
-from pycparser import CParser, c_ast  # type: ignore[import-untyped]
+from pycparser import CParser, c_ast  # type: ignore[import]
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 HEADER = ROOT / "c" / "ravo.h"

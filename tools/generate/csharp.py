@@ -1,13 +1,14 @@
 """The declarations of C# for a header in C: bindings/csharp/Ravo.cs.
 
 Names and numbers are those of the header. A text is a `byte[]` of UTF-8 and its length. A struct that begins with its
-size is a class, which may be null and knows its size; any other struct is a struct. Comments come along.
+size is a class, which may be null and knows its size; any other struct is a struct. What a function writes is `ref`: it
+stays as it was if the function fails. Comments come along.
 """
 import re
 import textwrap
 from collections.abc import Iterator
 
-from pycparser import c_ast, c_generator  # type: ignore[import-untyped]
+from pycparser import c_ast, c_generator  # type: ignore[import]
 
 HEAD = """\
 // What Czech bookkeeping checks and computes, for C#. Written from c/ravo.h, which is the manual of every function.
@@ -45,10 +46,19 @@ SCALARS = {
     "int8_t": "sbyte", "int16_t": "short", "int32_t": "int", "int64_t": "long",
     "uint8_t": "byte", "uint16_t": "ushort", "uint32_t": "uint", "uint64_t": "ulong",
 }  # fmt: skip
-KEYWORDS = {"base", "checked", "decimal", "event", "fixed", "in", "is", "lock", "object", "out", "params", "ref", "string"}
+KEYWORDS = set(
+    "abstract as base bool break byte case catch char checked class const continue decimal default delegate do double else enum "
+    "event explicit extern false finally fixed float for foreach goto if implicit in int interface internal is lock long namespace "
+    "new null object operator out override params private protected public readonly ref return sbyte sealed short sizeof stackalloc "
+    "static string struct switch this throw true try typeof uint ulong unchecked unsafe ushort using virtual void volatile while".split()
+)
 COMMENT = re.compile(r"^/\*(?!\s*-{9})((?:(?!\*/).)*)\*/\n(#define \w+|[^/#\n][^;{]*[;{])", re.DOTALL | re.MULTILINE)
-NUMBER = re.compile(r"#define (RAVO_\w+) (\d+)$", re.MULTILINE)
+NUMBER = re.compile(r"#define (RAVO_\w+) (\d+|\(\(size_t\)-1\))$", re.MULTILINE)
 MAX_SIZE = "UIntPtr.Size == 8 ? new UIntPtr(ulong.MaxValue) : new UIntPtr(uint.MaxValue)"
+
+
+def spelled(name: str) -> str:
+    return f"@{name}" if name in KEYWORDS else name
 
 
 class Declarations:
@@ -103,7 +113,7 @@ class Declarations:
         """The name of a type below its pointers."""
         while isinstance(node, (c_ast.PtrDecl, c_ast.TypeDecl, c_ast.ArrayDecl, c_ast.FuncDecl)):
             node = node.type
-        return " ".join(node.names) if isinstance(node, c_ast.IdentifierType) else node.name
+        return str(" ".join(node.names) if isinstance(node, c_ast.IdentifierType) else node.name)
 
     def value(self, node: c_ast.Node) -> str:
         """The type of a result or of a field."""
@@ -113,8 +123,7 @@ class Declarations:
         return self.scalars.get(name, name)
 
     def parameter(self, node: c_ast.Decl, has_rows: bool) -> str:
-        name = f"@{node.name}" if node.name in KEYWORDS else node.name
-        return f"{self.parameter_type(node, has_rows)} {name}"
+        return f"{self.parameter_type(node, has_rows)} {spelled(node.name)}"
 
     def parameter_type(self, node: c_ast.Decl, has_rows: bool) -> str:
         if not isinstance(node.type, (c_ast.PtrDecl, c_ast.ArrayDecl)):
@@ -128,20 +137,20 @@ class Declarations:
         if base in self.classes:
             return f"[In{'' if is_const else ', Out'}] {base}"
         if base in self.structs:
-            return f"{'ref' if is_const or has_rows else 'out'} {base}"
+            return f"ref {base}"
         if base == "void" and not is_const or base not in self.scalars:
             return "IntPtr"
         scalar = "byte" if base == "void" else self.scalars[base]
         if is_const:
             return f"{scalar}[]"
         is_row = scalar == "byte" or has_rows and base != "size_t"
-        return f"[Out] {scalar}[]" if is_row else f"out {scalar}"
+        return f"[Out] {scalar}[]" if is_row else f"ref {scalar}"
 
     # Declarations.
 
     def parameters(self, function: c_ast.FuncDecl) -> str:
         nodes = [node for node in function.args.params if isinstance(node, c_ast.Decl)] if function.args else []
-        has_rows = any(node.name.endswith("count") for node in nodes)
+        has_rows = any(node.name.endswith("count") or self.base(node.type).endswith("_column") for node in nodes)
         return ", ".join(self.parameter(node, has_rows) for node in nodes)
 
     def function(self, node: c_ast.Decl) -> Iterator[str]:
@@ -169,7 +178,7 @@ class Declarations:
             kind, value = f"{kind}[]", f" = new {kind}[{size}]" if struct in self.classes else ""
         elif node.name == "size" and struct in self.classes:
             value = f" = (UIntPtr)Marshal.SizeOf(typeof({struct}))"
-        yield f"        public {kind} {node.name}{value};"
+        yield f"        public {kind} {spelled(node.name)}{value};"
 
     def struct(self, node: c_ast.Struct) -> Iterator[str]:
         self.structs.add(node.name)
@@ -213,11 +222,10 @@ class Declarations:
             self.scalar(node)
 
     def macros(self) -> Iterator[str]:
-        yield from self.comment("RAVO_NUL_TERMINATED")
-        yield f"    public static readonly UIntPtr RAVO_NUL_TERMINATED = {MAX_SIZE};"
         for name, number in NUMBER.findall(self.header):
             yield from self.comment(name)
-            yield f"    public const int {name} = {number};"
+            is_size = number.startswith("(")
+            yield f"    public {'static readonly UIntPtr' if is_size else 'const int'} {name} = {MAX_SIZE if is_size else number};"
 
     def text(self) -> str:
         blocks = [list(self.macros()), *(list(self.declaration(node)) for node in self.tree.ext)]

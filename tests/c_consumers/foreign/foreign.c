@@ -1,34 +1,35 @@
 /*
- * A program of another compiler, linked by another linker: it has no library but the system's and ours, by ravo.lib.
+ * A program of another compiler, linked by another linker: it has no library but the system's and ours, by
+ * ravo.lib.
  */
 #include <ravo.h>
 
 __declspec(dllimport) void __stdcall ExitProcess(unsigned code);
-__declspec(dllimport) void *__stdcall GetStdHandle(unsigned long which);
-__declspec(dllimport) int __stdcall WriteFile(void *file, const void *bytes, unsigned long size, unsigned long *written,
-                                              void *overlapped);
+__declspec(dllimport) void* __stdcall GetStdHandle(unsigned long which);
+__declspec(dllimport) int __stdcall WriteFile(void* file, const void* bytes, unsigned long size,
+                                              unsigned long* written, void* overlapped);
 
 /* What a compiler expects of a C library. */
 int _fltused = 0;
 
-void *memset(void *bytes, int value, size_t size) {
-  for (size_t i = 0; i < size; ++i) ((unsigned char *)bytes)[i] = (unsigned char)value;
+void* memset(void* bytes, int value, size_t size) {
+  for (size_t i = 0; i < size; ++i) ((unsigned char*)bytes)[i] = (unsigned char)value;
   return bytes;
 }
 
-void *memcpy(void *to, const void *from, size_t size) {
-  for (size_t i = 0; i < size; ++i) ((unsigned char *)to)[i] = ((const unsigned char *)from)[i];
+void* memcpy(void* to, const void* from, size_t size) {
+  for (size_t i = 0; i < size; ++i) ((unsigned char*)to)[i] = ((const unsigned char*)from)[i];
   return to;
 }
 
-static int same(const char *left, const char *right) {
+static int same(const char* left, const char* right) {
   for (; *left != '\0' && *left == *right; ++left) ++right;
   return *left == *right;
 }
 
 static int failures = 0;
 
-static void say(const char *text) {
+static void say(const char* text) {
   unsigned long size = 0;
   while (text[size] != '\0') ++size;
   WriteFile(GetStdHandle((unsigned long)-11), text, size, &size, NULL);
@@ -42,7 +43,8 @@ static void say(const char *text) {
 static void gets_values(void) {
   char value[RAVO_VALUE_SIZE];
   size_t length = 0;
-  EXPECT(ravo_respell(RAVO_KIND_IBAN, "cz6508000000192000145399", 24, value, sizeof value, &length, NULL) == RAVO_OK);
+  EXPECT(ravo_respell(RAVO_KIND_IBAN, "cz6508000000192000145399", 24, value, sizeof value, &length, NULL) ==
+         RAVO_OK);
   EXPECT(same(value, "CZ65 0800 0000 1920 0014 5399"));
   EXPECT(length == 29);
 }
@@ -68,8 +70,9 @@ static void keeps_registers(void) {
 }
 
 static void runs_vectors(void) {
-  static const char text[] = "P\xC5\x99\xC3\xADli\xC5\xA1 \xC5\xBElu\xC5\xA5ou\xC4\x8Dk\xC3\xBD k\xC5\xAF\xC5\x88, "
-                             "P\xC5\x99\xC3\xADli\xC5\xA1 \xC5\xBElu\xC5\xA5ou\xC4\x8Dk\xC3\xBD k\xC5\xAF\xC5\x88\xFF";
+  static const char text[] =
+      "P\xC5\x99\xC3\xADli\xC5\xA1 \xC5\xBElu\xC5\xA5ou\xC4\x8Dk\xC3\xBD k\xC5\xAF\xC5\x88, "
+      "P\xC5\x99\xC3\xADli\xC5\xA1 \xC5\xBElu\xC5\xA5ou\xC4\x8Dk\xC3\xBD k\xC5\xAF\xC5\x88\xFF";
   ravo_error error = RAVO_ERROR_INIT;
   char info[1024];
   EXPECT(ravo_check(RAVO_KIND_ICO, text, sizeof text - 1, NULL, 0, NULL, &error) == RAVO_UTF8);
@@ -85,7 +88,8 @@ static void everything(void) {
 }
 
 #if defined(__i386__)
-/* Compilers for 32-bit Windows align the stack to 4 bytes and no more: each place that a caller's stack can have. */
+/* Compilers for 32-bit Windows align the stack to 4 bytes and no more: each place that a caller's stack can
+ * have. */
 static void with_stack_at(unsigned depth, void (*work)(void)) {
   __asm__ volatile("movl %%esp, %%esi\n\tsubl %0, %%esp\n\tcall *%1\n\tmovl %%esi, %%esp"
                    :
