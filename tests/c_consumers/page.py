@@ -57,7 +57,7 @@ def findings(page: str, project: pathlib.Path, prefix: pathlib.Path, folder: pat
 def main(project: str, prefix: str) -> int:
     page = (pathlib.Path(project) / "docs" / "libravo.md").read_text(encoding="utf-8")
     with tempfile.TemporaryDirectory() as folder:
-        lines = list(findings(page, pathlib.Path(project), pathlib.Path(prefix), pathlib.Path(folder)))
+        lines = list(findings(page, pathlib.Path(project), pathlib.Path(prefix).resolve(), pathlib.Path(folder)))
     print("\n".join(lines) or "the page is true")
     return 1 if lines or not page.count("\n$ ") else 0
 

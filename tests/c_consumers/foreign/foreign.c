@@ -80,11 +80,38 @@ static void runs_vectors(void) {
   EXPECT(ravo_build_info(info, sizeof info, NULL, &error) == RAVO_OK);
 }
 
+#ifdef RAVO_COLUMN_INIT
+/* Adds what it gets to the caller's sum, and ends the work with a number of its own. */
+static int32_t RAVO_CALL stops(void* context, uint64_t done, uint64_t total) {
+  *(double*)context += (double)(done + total);
+  return -17;
+}
+
+static void is_called_back(void) {
+  static const int32_t offsets[] = {0, 8};
+  ravo_column column = RAVO_COLUMN_INIT;
+  ravo_answers answers = RAVO_ANSWERS_INIT;
+  ravo_error error = RAVO_ERROR_INIT;
+  double sum = 0.5;
+  column.layout = RAVO_LAYOUT_OFFSETS_32;
+  column.length = 1;
+  column.values = offsets;
+  column.data = "04625781";
+  column.data_size = 8;
+  EXPECT(ravo_check_column(RAVO_KIND_ICO, &column, 0, &answers, stops, &sum, &error) == RAVO_STOPPED);
+  EXPECT(error.code == -17);
+  EXPECT(sum == 2.5);
+}
+#else
+static void is_called_back(void) {}
+#endif
+
 static void everything(void) {
   gets_values();
   gets_reasons();
   keeps_registers();
   runs_vectors();
+  is_called_back();
 }
 
 #if defined(__i386__)
