@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Writes what follows from c/ravo.h: the lists of exported names, and the declarations of C#.
+"""Writes what follows from c/ravo.h: the lists of exported names.
 
 usage: c_interface.py [--check]     (--check: compare with the files there; 1 if they differ)
 """
@@ -8,8 +8,8 @@ import subprocess
 import sys
 import tempfile
 
+from pycparser import CParser, c_ast  # type: ignore[import-untyped]
 from csharp import Declarations
-from pycparser import CParser, c_ast  # type: ignore[import]
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 HEADER = ROOT / "c" / "ravo.h"
@@ -48,20 +48,20 @@ def outputs() -> dict[pathlib.Path, str]:
     names = sorted(function.name for function in functions(tree))
     lists = ROOT / "c" / "generated"
     return {
+        ROOT / "bindings" / "csharp" / "Ravo.cs": Declarations(HEADER.read_text(encoding="utf-8"), tree).text(),
         lists / "libravo.map": f"{VERSION} {{\n  global:\n" + "".join(f"    {name};\n" for name in names) + "  local:\n    *;\n};\n",
         lists / "ravo.def": "LIBRARY ravo.dll\nEXPORTS\n" + "".join(f"  {name}\n" for name in names),
-        ROOT / "bindings" / "csharp" / "Ravo.cs": Declarations(HEADER.read_text(encoding="utf-8"), tree).text(),
     }
 
 
 def main() -> int:
-    differing = [path for path, text in outputs().items() if not path.exists() or path.read_text(encoding="utf-8") != text]
+    differing = [path for path, text in outputs().items() if not path.exists() or path.read_text() != text]
     if sys.argv[1:] == ["--check"]:
         for path in differing:
             print(f"{path.relative_to(ROOT)}: differs from c/ravo.h: run tools/generate/c_interface.py")
         return 1 if differing else 0
     for path in differing:
-        path.write_text(outputs()[path], encoding="utf-8")
+        path.write_text(outputs()[path])
     return 0
 
 
