@@ -9,6 +9,7 @@ import sys
 import tempfile
 
 from pycparser import CParser, c_ast  # type: ignore[import-untyped]
+
 from csharp import Declarations
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
