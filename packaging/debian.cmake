@@ -1,4 +1,4 @@
-# Three Debian packages: libravointerface1, libravointerface-dev and ravo. The dependencies of each are read
+# Five Debian packages: libravointerface1, libravointerface-dev, libravo1, libravo-dev and ravo. The dependencies of each are read
 # from the binaries; each has the licence and both changelogs in its own folder of documents.
 set(CPACK_GENERATOR DEB)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
@@ -12,15 +12,23 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}/bin)
 set(CPACK_DEBIAN_ENABLE_COMPONENT_DEPENDS ON)
 set(ravo_debian_runtime libravointerface${PROJECT_VERSION_MAJOR})
 set(ravo_debian_development libravointerface-dev)
+set(ravo_debian_c_runtime libravo1)
+set(ravo_debian_c_development libravo-dev)
 set(ravo_debian_tool ravo)
 
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
+set(CPACK_DEBIAN_C_RUNTIME_PACKAGE_SECTION libs)
+set(CPACK_DEBIAN_C_DEVELOPMENT_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_TOOL_PACKAGE_SECTION utils)
 set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "Table names, captions, accounting rules and the support report of a modular
 double-entry accounting suite for Czech businesses: the shared library.")
 set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "Headers, the static library, and the files by which CMake and pkg-config find
 the library.")
+set(CPACK_COMPONENT_C_RUNTIME_DESCRIPTION "What Czech bookkeeping checks and computes, for programs in every language:
+the shared library with an interface in C.")
+set(CPACK_COMPONENT_C_DEVELOPMENT_DESCRIPTION "The header, declarations for C#, and the files by which CMake and pkg-config
+find the library.")
 set(CPACK_COMPONENT_TOOL_DESCRIPTION "The library at the prompt: looks tables and captions up, checks accounts and
 payment references, rounds money and writes the support report.")
 
@@ -44,12 +52,17 @@ function(ravo_packed file packed)
   add_custom_command(OUTPUT ${packed} COMMAND sh -c "gzip -9nc <\"$1\" >\"$2\"" gzip ${file} ${packed} DEPENDS ${file} VERBATIM)
 endfunction()
 set(folder ${PROJECT_BINARY_DIR}/debian)
-# The package that provides the shared library, and the trigger that updates the linker's cache when it is
+# The package that provides a shared library, and the trigger that updates the linker's cache when it is
 # installed or removed.
-file(WRITE ${folder}/shlibs
-  "libRavoInterface ${PROJECT_VERSION_MAJOR} ${ravo_debian_runtime} (>= ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})\n")
-file(WRITE ${folder}/triggers "activate-noawait ldconfig\n")
-set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${folder}/shlibs ${folder}/triggers)
+function(ravo_debian_library component library version)
+  string(TOUPPER ${component} upper)
+  set(control ${PROJECT_BINARY_DIR}/debian/${component})
+  file(WRITE ${control}/shlibs "${library} ${version} ${ravo_debian_${component}} (>= ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})\n")
+  file(WRITE ${control}/triggers "activate-noawait ldconfig\n")
+  set(CPACK_DEBIAN_${upper}_PACKAGE_CONTROL_EXTRA ${control}/shlibs ${control}/triggers PARENT_SCOPE)
+endfunction()
+ravo_debian_library(runtime libRavoInterface ${PROJECT_VERSION_MAJOR})
+ravo_debian_library(c_runtime libravo 1)
 
 ravo_packed(${folder}/changelog.Debian ${folder}/changelog.Debian.gz)
 ravo_packed(${PROJECT_SOURCE_DIR}/CHANGELOG.md ${folder}/changelog.gz)
@@ -68,5 +81,8 @@ foreach(component ${CPACK_COMPONENTS_ALL})
   install(FILES ${folder}/changelog.Debian.gz ${folder}/changelog.gz DESTINATION ${documents} COMPONENT ${component})
 endforeach()
 ravo_install_pages(${CMAKE_INSTALL_DATADIR}/doc/${ravo_debian_development} ${CMAKE_INSTALL_DATADIR}/doc/${ravo_debian_tool})
+set(documents ${CMAKE_INSTALL_DATADIR}/doc/${ravo_debian_c_development})
+install(FILES docs/libravo.md DESTINATION ${documents}/docs COMPONENT c_development)
+install(DIRECTORY examples/c examples/csharp DESTINATION ${documents}/examples COMPONENT c_development)
 install(FILES ${folder}/ravo.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tool)
 install(FILES ${folder}/cs/ravo.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/cs/man1 COMPONENT tool)

@@ -7,9 +7,10 @@ set(CPACK_PACKAGE_NAME RavoInterface)
 set(CPACK_PACKAGE_VENDOR "RavoInterface developers")
 set(CPACK_PACKAGE_CONTACT "${RAVO_MAINTAINER}")
 set(CPACK_VERBATIM_VARIABLES ON)
-set(CPACK_COMPONENTS_ALL runtime development tool)
+set(CPACK_COMPONENTS_ALL runtime development tool c_runtime c_development)
 set(CPACK_COMPONENT_DEVELOPMENT_DEPENDS runtime)
 set(CPACK_COMPONENT_TOOL_DEPENDS runtime)
+set(CPACK_COMPONENT_C_DEVELOPMENT_DEPENDS c_runtime)
 set(CPACK_STRIP_FILES ON)
 
 # The pages lie as in the checkout, so that their links work; the files that the commands of the pages name, with the program.

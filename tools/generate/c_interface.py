@@ -12,6 +12,8 @@ import tempfile
 import c_refusals
 from pycparser import CParser, c_ast  # type: ignore[import]
 
+from csharp import Declarations
+
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 HEADER = ROOT / "c" / "ravo.h"
 VERSION = "RAVO_1.0"
@@ -26,14 +28,18 @@ PLAIN_HEADERS = {
 }
 
 
-def parsed(header: pathlib.Path = HEADER) -> c_ast.FileAST:
-    """The declarations of a header, as every parser of C reads them after the preprocessor."""
+def preprocessed(header: pathlib.Path, plain_headers: dict[str, str]) -> str:
+    """What the preprocessor makes of a header, with these headers of the system."""
     with tempfile.TemporaryDirectory() as folder:
-        for name, text in PLAIN_HEADERS.items():
+        for name, text in plain_headers.items():
             (pathlib.Path(folder) / name).write_text(text)
         command = ["cc", "-E", "-P", "-nostdinc", "-isystem", folder, str(header)]
-        text = subprocess.run(command, capture_output=True, text=True, check=True).stdout
-    return CParser().parse(text, str(header))
+        return subprocess.run(command, capture_output=True, text=True, check=True).stdout
+
+
+def parsed(header: pathlib.Path = HEADER) -> c_ast.FileAST:
+    """The declarations of a header, as every parser of C reads them after the preprocessor."""
+    return CParser().parse(preprocessed(header, PLAIN_HEADERS), str(header))
 
 
 def functions(tree: c_ast.FileAST) -> list[c_ast.Decl]:
@@ -52,6 +58,7 @@ def outputs() -> dict[pathlib.Path, str]:
     lists = ROOT / "c" / "generated"
     tests = ROOT / "tests" / "c" / "generated"
     return {
+        ROOT / "bindings" / "csharp" / "Ravo.cs": Declarations(HEADER.read_text(encoding="utf-8"), tree).text(),
         lists / "libravo.map": f"{VERSION} {{\n  global:\n" + "".join(f"    {name};\n" for name in names) + "  local:\n    *;\n};\n",
         lists / "ravo.def": "LIBRARY ravo.dll\nEXPORTS\n" + "".join(f"  {name}\n" for name in names),
         tests / "refusals.inc": c_refusals.refusals(tree),
