@@ -32,6 +32,12 @@ public static class Ravo
     public static readonly UIntPtr RAVO_NUL_TERMINATED = UIntPtr.Size == 8 ? new UIntPtr(ulong.MaxValue) : new UIntPtr(uint.MaxValue);
     /// <summary>The longest canonical form or usual spelling in bytes, with its NUL.</summary>
     public const int RAVO_VALUE_SIZE = 48;
+    /// <summary>The longest date in bytes, with its NUL.</summary>
+    public const int RAVO_DATE_SIZE = 16;
+    /// <summary>The longest amount in bytes, with its NUL.</summary>
+    public const int RAVO_MONEY_SIZE = 24;
+    /// <summary>The size of data that the caller does not know: it ends where the offset of the last row ends.</summary>
+    public static readonly UIntPtr RAVO_SIZE_UNKNOWN = UIntPtr.Size == 8 ? new UIntPtr(ulong.MaxValue) : new UIntPtr(uint.MaxValue);
 
     /// <summary>done, or correct in form</summary>
     public const int RAVO_OK = 0;
@@ -53,6 +59,10 @@ public static class Ravo
     public const int RAVO_STOPPED = 8;
     /// <summary>a fault of the library: please report it</summary>
     public const int RAVO_INTERNAL = 9;
+    /// <summary>bytes are no character of their encoding</summary>
+    public const int RAVO_MALFORMED = 10;
+    /// <summary>an encoding lacks a character</summary>
+    public const int RAVO_LACKING = 11;
 
     /// <summary>Why a function failed. Declare it as `ravo_error error = RAVO_ERROR_INIT;`.</summary>
     [StructLayout(LayoutKind.Sequential)]
@@ -62,7 +72,7 @@ public static class Ravo
         public UIntPtr size = (UIntPtr)Marshal.SizeOf(typeof(ravo_error));
         /// <summary>what the function returned</summary>
         public int status;
-        /// <summary>with RAVO_WRONG: the number of the reason, see ravo_reason_name</summary>
+        /// <summary>of RAVO_WRONG the reason, see ravo_reason_name, or 0; of RAVO_STOPPED the caller's number</summary>
         public int code;
         /// <summary>where, in bytes of the text or as the index of the item; 0 if there is no place</summary>
         public UIntPtr position;
@@ -84,7 +94,7 @@ public static class Ravo
     /// <summary>Returns the sentence of a reason in a language, UTF-8, without a full stop, or null for an unknown number.</summary>
     /// <remarks>
     /// <para>Never allocates.</para>
-    /// <code>ravo_reason_sentence(104, RAVO_LANGUAGE_ENGLISH)  // "the check digit does not match"</code>
+    /// <code>ravo_reason_sentence(104, RAVO_LANGUAGE_ENGLISH)  // "wrong: the check digit does not match"</code>
     /// </remarks>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern IntPtr ravo_reason_sentence(int code, int language);
@@ -168,6 +178,154 @@ public static class Ravo
     public static extern int ravo_respell(int kind, byte[] text, UIntPtr text_length, [Out] byte[] buffer,
         UIntPtr size, ref UIntPtr length, [In, Out] ravo_error error);
 
+    /// <summary>A Czech bank account. Declare it as `ravo_account account = RAVO_ACCOUNT_INIT;`.</summary>
+    [StructLayout(LayoutKind.Sequential)]
+    public sealed class ravo_account
+    {
+        /// <summary>sizeof(ravo_account), set by the caller</summary>
+        public UIntPtr size = (UIntPtr)Marshal.SizeOf(typeof(ravo_account));
+        /// <summary>at most ten digits</summary>
+        public long number;
+        /// <summary>at most six digits; 0 for none</summary>
+        public int prefix;
+        /// <summary>the bank code: 800 is 0800</summary>
+        public int bank;
+    }
+
+    /// <summary>Writes the parts of an account. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_account_read(byte[] text, UIntPtr text_length, [In, Out] ravo_account account,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes the IBAN of a Czech account, of at most RAVO_VALUE_SIZE bytes.</summary>
+    /// <remarks>
+    /// <para>Never allocates.</para>
+    /// <code>ravo_account_to_iban("19-2000145399/0800", ...)  // CZ6508000000192000145399</code>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_account_to_iban(byte[] text, UIntPtr text_length, [Out] byte[] buffer,
+        UIntPtr size, ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>Writes the account of a Czech IBAN in its usual spelling, of at most RAVO_VALUE_SIZE bytes.</summary>
+    /// <remarks>
+    /// <para>RAVO_UNKNOWN for an IBAN of another country. Never allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_account_of_iban(byte[] text, UIntPtr text_length, [Out] byte[] buffer,
+        UIntPtr size, ref UIntPtr length, [In, Out] ravo_error error);
+
+    public const int RAVO_SEX_MALE = 0;
+    public const int RAVO_SEX_FEMALE = 1;
+
+    /// <summary>What a birth number tells. Declare it as `ravo_birth birth = RAVO_BIRTH_INIT;`.</summary>
+    [StructLayout(LayoutKind.Sequential)]
+    public sealed class ravo_birth
+    {
+        /// <summary>sizeof(ravo_birth), set by the caller</summary>
+        public UIntPtr size = (UIntPtr)Marshal.SizeOf(typeof(ravo_birth));
+        /// <summary>the day of birth</summary>
+        public int born;
+        /// <summary>women have 50 added to the month</summary>
+        public int sex;
+        /// <summary>1 if 20 is added to the month, else 0</summary>
+        public int second_series;
+        /// <summary>1 if it is not divisible by eleven and right all the same, else 0</summary>
+        public int remainder_ten;
+    }
+
+    /// <summary>Writes what a birth number tells.</summary>
+    /// <remarks>
+    /// <para>RAVO_WRONG with the reason "rc.future" if the day of birth is after `today`. Never allocates.</para>
+    /// <code>ravo_birth_read("880125/1680", RAVO_NUL_TERMINATED, today, &amp;birth, NULL)  // 25 January 1988, male</code>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_birth_read(byte[] text, UIntPtr text_length, int today,
+        [In, Out] ravo_birth birth, [In, Out] ravo_error error);
+
+    /// <summary>Writes the ISBN of thirteen digits of a book, of at most RAVO_VALUE_SIZE bytes. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_isbn_to_13(byte[] text, UIntPtr text_length, [Out] byte[] buffer, UIntPtr size,
+        ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>A piece of payment data in a text. Declare it as `ravo_payment payment = RAVO_PAYMENT_INIT;`.</summary>
+    [StructLayout(LayoutKind.Sequential)]
+    public sealed class ravo_payment
+    {
+        /// <summary>sizeof(ravo_payment), set by the caller</summary>
+        public UIntPtr size = (UIntPtr)Marshal.SizeOf(typeof(ravo_payment));
+        /// <summary>where it begins, past its label, in bytes</summary>
+        public UIntPtr begin;
+        /// <summary>where it ends; the next search begins there</summary>
+        public UIntPtr end;
+        /// <summary>an account, an IBAN or one of the three symbols</summary>
+        public int kind;
+        /// <summary>as ravo_check writes it, ends with NUL</summary>
+        [MarshalAs(UnmanagedType.ByValArray, SizeConst = 48)]
+        public byte[] canonical = new byte[48];
+    }
+
+    /// <summary>Writes the first account, IBAN or payment symbol that ends after the byte `from` of a text.</summary>
+    /// <remarks>
+    /// <para>Accounts and IBANs are found by their form, symbols by their labels. RAVO_UNKNOWN if there is none, RAVO_RANGE
+    /// if `from` is past the end. Never allocates.</para>
+    /// <code>while (ravo_payment_find(letter, length, payment.end, &amp;payment, NULL) == RAVO_OK) puts(payment.canonical);</code>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_payment_find(byte[] text, UIntPtr text_length, UIntPtr from,
+        [In, Out] ravo_payment payment, [In, Out] ravo_error error);
+
+    /// <summary>A bank. Declare it as `ravo_bank bank = RAVO_BANK_INIT;`. Its texts live as long as the list.</summary>
+    [StructLayout(LayoutKind.Sequential)]
+    public sealed class ravo_bank
+    {
+        /// <summary>sizeof(ravo_bank), set by the caller</summary>
+        public UIntPtr size = (UIntPtr)Marshal.SizeOf(typeof(ravo_bank));
+        /// <summary>null if it has none</summary>
+        public IntPtr bic;
+        /// <summary>UTF-8</summary>
+        public IntPtr name;
+        /// <summary>800 is 0800</summary>
+        public int code;
+        /// <summary>1 if it takes part in the clearing system CERTIS, else 0</summary>
+        public int clears;
+    }
+
+    /// <summary>Opens a list in the central bank's CSV form, converted to UTF-8: a line of captions, then lines of code, name,
+    /// BIC and "A" for the clearing system, with semicolons between them.</summary>
+    /// <remarks>
+    /// <para>`date` is the day of the list. RAVO_WRONG with the reasons "bank.line", "bank.code", "bank.twice" and
+    /// "bank.empty", at their position; RAVO_RANGE for a day outside of the calendar. The list keeps no part of the
+    /// text. Close it with ravo_bank_list_close. Allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_bank_list_open(byte[] text, UIntPtr text_length, int date, out IntPtr list,
+        [In, Out] ravo_error error);
+
+    /// <summary>Closes a list. Null is allowed.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern void ravo_bank_list_close(IntPtr list);
+
+    /// <summary>Returns the day of a list; of the one that is built in for null. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_bank_list_date(IntPtr list);
+
+    /// <summary>Returns how many banks a list has; the one that is built in for null. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern UIntPtr ravo_bank_count(IntPtr list);
+
+    /// <summary>Writes the bank with an index, by code in ascending order. RAVO_UNKNOWN past the last. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_bank_at(IntPtr list, UIntPtr index, [In, Out] ravo_bank bank,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes the bank with a code; 800 is 0800.</summary>
+    /// <remarks>
+    /// <para>RAVO_WRONG with the reason "bank.unknown" if the list does not have it. Never allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_bank_find(IntPtr list, int code, [In, Out] ravo_bank bank,
+        [In, Out] ravo_error error);
+
     /// <summary>A date of the proleptic Gregorian calendar.</summary>
     [StructLayout(LayoutKind.Sequential)]
     public struct ravo_date
@@ -188,4 +346,1006 @@ public static class Ravo
     /// <summary>Writes the date of a day. RAVO_RANGE outside of the years 1 to 9999. Never allocates.</summary>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern int ravo_date_of(int day, ref ravo_date date, [In, Out] ravo_error error);
+
+    /// <summary>Returns 1 if a year of the Gregorian calendar is a leap year, else 0. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_is_leap_year(int year);
+
+    /// <summary>Writes the day of the week, 0 for Monday to 6 for Sunday.</summary>
+    /// <remarks>
+    /// <para>RAVO_RANGE outside of the years 1 to 9999, as all functions of this chapter. Never allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_weekday_of(int day, ref int weekday, [In, Out] ravo_error error);
+
+    /// <summary>A week by ISO 8601.</summary>
+    [StructLayout(LayoutKind.Sequential)]
+    public struct ravo_week
+    {
+        /// <summary>the year of its Thursday</summary>
+        public int year;
+        /// <summary>1 to 53</summary>
+        public int week;
+    }
+
+    /// <summary>Writes the ISO 8601 week of a day. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_week_of(int day, ref ravo_week week, [In, Out] ravo_error error);
+
+    /// <summary>Writes the Monday of an ISO 8601 week. RAVO_RANGE if the year has no such week. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_day_of_week(int year, int week, ref int monday, [In, Out] ravo_error error);
+
+    /// <summary>Writes how many days a month has. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_days_in_month(int year, int month, ref int days, [In, Out] ravo_error error);
+
+    /// <summary>Writes the first day of the month of a day. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_month_begin(int day, ref int first, [In, Out] ravo_error error);
+
+    /// <summary>Writes the last day of the month of a day. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_month_end(int day, ref int last, [In, Out] ravo_error error);
+
+    /// <summary>Writes the day `months` months later, or earlier if negative.</summary>
+    /// <remarks>
+    /// <para>A day past the end of the new month becomes its last one. Never allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_add_months(int day, int months, ref int result, [In, Out] ravo_error error);
+
+    /// <summary>2026-11-21</summary>
+    public const int RAVO_DATE_ISO = 0;
+    /// <summary>21. 11. 2026</summary>
+    public const int RAVO_DATE_CZECH = 1;
+    /// <summary>20261121</summary>
+    public const int RAVO_DATE_COMPACT = 2;
+
+    /// <summary>Writes a day as a text of at most RAVO_DATE_SIZE bytes. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_day_format(int day, int form, [Out] byte[] buffer, UIntPtr size,
+        ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>Writes the day of a date as people write it: each form of ravo_date_form, in Czech with or without blanks.</summary>
+    /// <remarks>
+    /// <para>RAVO_WRONG with code 0 for a text that is none of them, RAVO_RANGE if there is no such date. Blanks around it
+    /// are skipped. Never allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_day_read(byte[] text, UIntPtr text_length, ref int day,
+        [In, Out] ravo_error error);
+
+    /// <summary>A public holiday. Declare it as `ravo_holiday holiday = RAVO_HOLIDAY_INIT;`.</summary>
+    [StructLayout(LayoutKind.Sequential)]
+    public sealed class ravo_holiday
+    {
+        /// <summary>sizeof(ravo_holiday), set by the caller</summary>
+        public UIntPtr size = (UIntPtr)Marshal.SizeOf(typeof(ravo_holiday));
+        /// <summary>its name by law, UTF-8</summary>
+        public IntPtr czech;
+        /// <summary>its name in English</summary>
+        public IntPtr english;
+        /// <summary>the law that gave it this form: "245/2000"</summary>
+        public IntPtr law;
+        /// <summary>the first year in which it holds</summary>
+        public int first_year;
+        /// <summary>the last; 9999 if there is no end</summary>
+        public int last_year;
+        /// <summary>1 to 12; 0 if it follows Easter</summary>
+        public int month;
+        /// <summary>of the month, or days after Easter Sunday</summary>
+        public int day;
+    }
+
+    /// <summary>Returns how many holidays are known, former ones included. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern UIntPtr ravo_holiday_count();
+
+    /// <summary>Writes the holiday with an index, by its place in the year. RAVO_UNKNOWN past the last. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_holiday_at(UIntPtr index, [In, Out] ravo_holiday holiday,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes the day of the holiday with an index. RAVO_RANGE if it does not hold in that year. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_holiday_day(UIntPtr index, int year, ref int day, [In, Out] ravo_error error);
+
+    /// <summary>Writes the `nth` holiday of a day, 0 for the first: 1 January has two.</summary>
+    /// <remarks>
+    /// <para>RAVO_UNKNOWN if there are fewer. Never allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_holiday_on(int day, UIntPtr nth, [In, Out] ravo_holiday holiday,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes Easter Sunday of a year. RAVO_RANGE outside of the years 1583 to 9999. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_easter_sunday(int year, ref int day, [In, Out] ravo_error error);
+
+    /// <summary>Returns 1 if a day is Monday to Friday and no holiday, else 0. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_is_working_day(int day);
+
+    /// <summary>Writes the first working day from `day` on, which may be `day` itself. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_next_working_day(int day, ref int working_day, [In, Out] ravo_error error);
+
+    /// <summary>Writes how many working days there are after `from` up to and with `to`.</summary>
+    /// <remarks>
+    /// <para>Negative if `to` is before `from`. Never allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_working_days_between(int from, int to, ref int days, [In, Out] ravo_error error);
+
+    /// <summary>When a term ends. Declare it as `ravo_term term = RAVO_TERM_INIT;`.</summary>
+    [StructLayout(LayoutKind.Sequential)]
+    public sealed class ravo_term
+    {
+        /// <summary>sizeof(ravo_term), set by the caller</summary>
+        public UIntPtr size = (UIntPtr)Marshal.SizeOf(typeof(ravo_term));
+        /// <summary>as the days or months count</summary>
+        public int counted;
+        /// <summary>the same, or the next working day if it is not one</summary>
+        public int due;
+        /// <summary>1 if the holidays up to there are verified, else 0</summary>
+        public int verified;
+    }
+
+    /// <summary>Writes when a term of `days` days ends. The day of the event, `from`, does not count.</summary>
+    /// <remarks>
+    /// <para>Never allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_term_in_days(int from, int days, [In, Out] ravo_term term,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes when a term of `months` months ends: on the day of the same number, or the month's last.</summary>
+    /// <remarks>
+    /// <para>Never allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_term_in_months(int from, int months, [In, Out] ravo_term term,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes how many days `today` is past the due day; 0 up to that day. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_days_overdue(int due, int today, ref int days, [In, Out] ravo_error error);
+
+    /// <summary>to the nearest multiple, halves away from zero</summary>
+    public const int RAVO_ROUND_HALF_AWAY = 0;
+    /// <summary>to the multiple farther from zero</summary>
+    public const int RAVO_ROUND_AWAY = 1;
+    /// <summary>to the multiple nearer to zero</summary>
+    public const int RAVO_ROUND_TOWARD = 2;
+
+    /// <summary>Writes an amount in plain digits, as a text of at most RAVO_MONEY_SIZE bytes.</summary>
+    /// <remarks>
+    /// <para>`separator` is the character between crowns and decimals, in ASCII; RAVO_ARGUMENT for another. There are at
+    /// least `places` decimals, 0 to 4, and at most four. Allocates for long amounts.</para>
+    /// <code>ravo_money_format(125000, ',', 2, ...)  // 12,50</code>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_money_format(long amount, int separator, int places, [Out] byte[] buffer,
+        UIntPtr size, ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>Writes the amount that a whole text is: a sign, digits, a separator, at most four decimals that are not zeros
+    /// at the end.</summary>
+    /// <remarks>
+    /// <para>RAVO_WRONG with code 0 for any other text and for amounts that do not fit 64 bits. Never allocates for texts of
+    /// up to 256 bytes.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_money_read(byte[] text, UIntPtr text_length, int separator, ref long amount,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes an amount rounded to a multiple of `step`: 100 are hundredths, 10000 whole crowns.</summary>
+    /// <remarks>
+    /// <para>RAVO_RANGE if `step` is not positive. Allocates on failure alone.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_money_round(long amount, long step, int rounding, ref long result,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes an amount times `numerator` / `denominator`, rounded to a multiple of `step`.</summary>
+    /// <remarks>
+    /// <para>RAVO_RANGE if `denominator` is 0 or `step` is not positive. Allocates on failure alone.</para>
+    /// <code>ravo_money_times_ratio(gross, 21, 121, 100, RAVO_ROUND_HALF_AWAY, &amp;tax, NULL)</code>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_money_times_ratio(long amount, long numerator, long denominator, long step,
+        int rounding, ref long result, [In, Out] ravo_error error);
+
+    /// <summary>Writes an amount times a rate, rounded to a multiple of `step`. 2100 is 21 %, 253400 an exchange rate of 25,34.</summary>
+    /// <remarks>
+    /// <para>As ravo_money_times_ratio. Allocates on failure alone.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_money_times_rate(long amount, long rate, long step, int rounding, ref long result,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes an amount in whole crowns, and the rounded amount less the given one.</summary>
+    /// <remarks>
+    /// <para>Never allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_money_to_crowns(long amount, int rounding, ref long rounded, ref long difference,
+        [In, Out] ravo_error error);
+
+    /// <summary>no tax</summary>
+    public const int RAVO_VAT_ZERO = 0;
+    /// <summary>základní</summary>
+    public const int RAVO_VAT_STANDARD = 1;
+    /// <summary>snížená; from 2015 to 2023 the first of two</summary>
+    public const int RAVO_VAT_REDUCED = 2;
+    /// <summary>druhá snížená, 2015 to 2023</summary>
+    public const int RAVO_VAT_SECOND_REDUCED = 3;
+
+    /// <summary>base times rate</summary>
+    public const int RAVO_VAT_FROM_BASE = 0;
+    /// <summary>total times a coefficient of four decimals</summary>
+    public const int RAVO_VAT_FROM_TOTAL_BY_COEFFICIENT = 1;
+    /// <summary>total less total / (1 + rate)</summary>
+    public const int RAVO_VAT_FROM_TOTAL = 2;
+
+    /// <summary>A rate. Declare it as `ravo_vat_rate rate = RAVO_VAT_RATE_INIT;`.</summary>
+    [StructLayout(LayoutKind.Sequential)]
+    public sealed class ravo_vat_rate
+    {
+        /// <summary>sizeof(ravo_vat_rate), set by the caller</summary>
+        public UIntPtr size = (UIntPtr)Marshal.SizeOf(typeof(ravo_vat_rate));
+        /// <summary>the law that set it: "500/2012"</summary>
+        public IntPtr law;
+        /// <summary>the first day on which it is in force</summary>
+        public int first;
+        /// <summary>the last; 31 December 9999 if there is no end</summary>
+        public int last;
+        /// <summary>which</summary>
+        public int kind;
+        /// <summary>21 is 21 %</summary>
+        public int percent;
+    }
+
+    /// <summary>Returns how many rates are known, former ones included. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern UIntPtr ravo_vat_rate_count();
+
+    /// <summary>Writes the rate with an index, by its first day. RAVO_UNKNOWN past the last. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_vat_rate_at(UIntPtr index, [In, Out] ravo_vat_rate rate,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes the percentage of a kind of rate on a day; 0 for RAVO_VAT_ZERO.</summary>
+    /// <remarks>
+    /// <para>RAVO_WRONG with the reason "rate.unknown" if it was not in force. Never allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_vat_percent_on(int day, int kind, ref int percent, [In, Out] ravo_error error);
+
+    /// <summary>Writes the kind of a percentage on a day. RAVO_UNKNOWN if there was no such rate. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_vat_kind_on(int day, int percent, ref int kind, [In, Out] ravo_error error);
+
+    /// <summary>A way of computing the tax. Declare it as `ravo_vat_way way = RAVO_VAT_WAY_INIT;`.</summary>
+    [StructLayout(LayoutKind.Sequential)]
+    public sealed class ravo_vat_way
+    {
+        /// <summary>sizeof(ravo_vat_way), set by the caller</summary>
+        public UIntPtr size = (UIntPtr)Marshal.SizeOf(typeof(ravo_vat_way));
+        /// <summary>the law that has it: "235/2004"</summary>
+        public IntPtr law;
+        /// <summary>the first day on which it is lawful</summary>
+        public int first;
+        /// <summary>the last; 31 December 9999 if there is no end</summary>
+        public int last;
+        /// <summary>which</summary>
+        public int method;
+    }
+
+    /// <summary>Returns how many ways of computing the tax are known. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern UIntPtr ravo_vat_way_count();
+
+    /// <summary>Writes the way with an index. RAVO_UNKNOWN past the last. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_vat_way_at(UIntPtr index, [In, Out] ravo_vat_way way, [In, Out] ravo_error error);
+
+    /// <summary>Returns 1 if a way of computing the tax is lawful on a day, else 0. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_vat_is_lawful(int method, int day);
+
+    /// <summary>Base, tax and total of an amount. Declare it as `ravo_vat_amounts amounts = RAVO_VAT_AMOUNTS_INIT;`.</summary>
+    [StructLayout(LayoutKind.Sequential)]
+    public sealed class ravo_vat_amounts
+    {
+        /// <summary>sizeof(ravo_vat_amounts), set by the caller</summary>
+        public UIntPtr size = (UIntPtr)Marshal.SizeOf(typeof(ravo_vat_amounts));
+        /// <summary>without the tax</summary>
+        public long @base;
+        /// <summary>whole haléře</summary>
+        public long tax;
+        /// <summary>both</summary>
+        public long total;
+        /// <summary>1 if the exact tax ends on half a haléř, else 0</summary>
+        public int half;
+    }
+
+    /// <summary>Writes base, tax and total of an amount, which the method says to be a base or a total.</summary>
+    /// <remarks>
+    /// <para>RAVO_WRONG with the reason "rate.unknown" for a percentage outside of 0 to 100. Never allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_vat_compute(long amount, int percent, int method,
+        [In, Out] ravo_vat_amounts amounts, [In, Out] ravo_error error);
+
+    /// <summary>A line of a document.</summary>
+    [StructLayout(LayoutKind.Sequential)]
+    public struct ravo_vat_line
+    {
+        /// <summary>base or total, as the method says</summary>
+        public long amount;
+        /// <summary>its rate</summary>
+        public int kind;
+    }
+
+    /// <summary>once for each rate, of the sum of its lines</summary>
+    public const int RAVO_VAT_PER_DOCUMENT = 0;
+    /// <summary>of each line, then added</summary>
+    public const int RAVO_VAT_PER_LINE = 1;
+
+    /// <summary>The part of a document that has one rate.</summary>
+    [StructLayout(LayoutKind.Sequential)]
+    public struct ravo_vat_row
+    {
+        public long @base;
+        public long tax;
+        public long total;
+        /// <summary>how many lines have the rate</summary>
+        public UIntPtr lines;
+        /// <summary>the percentage on the day</summary>
+        public int percent;
+        /// <summary>1 if any of its taxes ends on half a haléř, else 0</summary>
+        public int half;
+    }
+
+    /// <summary>A document by rates. Declare it as `ravo_vat_summary summary = RAVO_VAT_SUMMARY_INIT;`.</summary>
+    [StructLayout(LayoutKind.Sequential)]
+    public sealed class ravo_vat_summary
+    {
+        /// <summary>sizeof(ravo_vat_summary), set by the caller</summary>
+        public UIntPtr size = (UIntPtr)Marshal.SizeOf(typeof(ravo_vat_summary));
+        /// <summary>by ravo_vat_kind</summary>
+        [MarshalAs(UnmanagedType.ByValArray, SizeConst = 4)]
+        public ravo_vat_row[] rows = new ravo_vat_row[4];
+        /// <summary>of all rows; its percentage is 0</summary>
+        public ravo_vat_row sum;
+    }
+
+    /// <summary>Writes the recapitulation of a document's lines by the rates of a day.</summary>
+    /// <remarks>
+    /// <para>RAVO_WRONG with the reasons "rate.unknown" at the index of the line and "rate.method" for a way that is not
+    /// lawful on the day; RAVO_RANGE at the index of the line. Allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_vat_recapitulate(ref ravo_vat_line lines, UIntPtr lines_length, int method,
+        int per, int day, [In, Out] ravo_vat_summary summary, [In, Out] ravo_error error);
+
+    /// <summary>Writes 1 if a text consists of digits, at least one, else 0.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_is_numbers(byte[] text, UIntPtr text_length, ref int answer,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes 1 if a text is a synthetic account, three digits, else 0.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_valid_su(byte[] text, UIntPtr text_length, ref int answer,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes 1 if a text is an analytic account, up to three digits or nothing, else 0.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_valid_au(byte[] text, UIntPtr text_length, ref int answer,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes 1 if a text is an account of the chart of accounts, three to six digits, else 0.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_valid_ucet(byte[] text, UIntPtr text_length, ref int answer,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes 1 if a text is a payment reference with a valid Luhn check digit, else 0.</summary>
+    /// <remarks>
+    /// <para>RAVO_RANGE if the weighted sum does not fit 32 bits.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_valid_vs(byte[] text, UIntPtr text_length, ref int answer,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes 1 if the weighted sum of an account is divisible by 11, else 0.</summary>
+    /// <remarks>
+    /// <para>What follows the first "/" is ignored, then every character that is no digit; prefix and number form one sum.
+    /// RAVO_RANGE for more than 62 digits.</para>
+    /// <code>ravo_suite_ucet_mod_11("19-2000145399/0800", RAVO_NUL_TERMINATED, &amp;answer, NULL)  // 1</code>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_ucet_mod_11(byte[] text, UIntPtr text_length, ref int answer,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes the first three characters of an account, unchanged, and the next three without blanks around them.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_ucet_na_su_au(byte[] ucet, UIntPtr ucet_length, [Out] byte[] su,
+        UIntPtr su_size, ref UIntPtr su_length, [Out] byte[] au, UIntPtr au_size, ref UIntPtr au_length,
+        [In, Out] ravo_error error);
+
+    /// <summary>The check digits of an EAN. Declare it as `ravo_suite_ean ean = RAVO_SUITE_EAN_INIT;`.</summary>
+    [StructLayout(LayoutKind.Sequential)]
+    public sealed class ravo_suite_ean
+    {
+        /// <summary>sizeof(ravo_suite_ean), set by the caller</summary>
+        public UIntPtr size = (UIntPtr)Marshal.SizeOf(typeof(ravo_suite_ean));
+        /// <summary>1 if the text has 7, 8, 12 or 13 digits, else 0</summary>
+        public int valid;
+        /// <summary>the check digit of the code; a blank if it has none</summary>
+        [MarshalAs(UnmanagedType.ByValArray, SizeConst = 4)]
+        public byte[] old_check = new byte[4];
+        /// <summary>the computed one; a blank if the text is no code</summary>
+        [MarshalAs(UnmanagedType.ByValArray, SizeConst = 4)]
+        public byte[] new_check = new byte[4];
+        /// <summary>the code with the computed digit; empty if the text is no code</summary>
+        [MarshalAs(UnmanagedType.ByValArray, SizeConst = 16)]
+        public byte[] full_code = new byte[16];
+    }
+
+    /// <summary>Writes the check digits of an EAN. The old and the new one are not compared.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_calculate_ean(byte[] code, UIntPtr code_length,
+        [In, Out] ravo_suite_ean ean, [In, Out] ravo_error error);
+
+    /// <summary>away from zero</summary>
+    public const int RAVO_SUITE_ROUND_UP = 0;
+    /// <summary>toward zero</summary>
+    public const int RAVO_SUITE_ROUND_DOWN = 1;
+    /// <summary>halves away from zero</summary>
+    public const int RAVO_SUITE_ROUND_MATH = 2;
+
+    /// <summary>Writes an amount rounded to `decimals` places: 2 are hundredths, 0 whole crowns, -1 tens.</summary>
+    /// <remarks>
+    /// <para>Halves are recognized after the fraction is rounded to four places. RAVO_RANGE if `decimals` is below -4 or
+    /// above 14 or the scaled amount does not fit 64 bits; RAVO_SUITE_ROUND_UP and RAVO_SUITE_ROUND_DOWN wrap silently
+    /// from 2147483648 units on. Allocates on failure alone.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_round_value(long amount, byte direction, sbyte decimals, ref long result,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes a double rounded to `decimals` places, with the errors of doubles: RAVO_SUITE_ROUND_DOWN lowers most exact
+    /// values by one unit.</summary>
+    /// <remarks>
+    /// <para>RAVO_RANGE for infinities and NaN, and if the scaled value does not fit 64 bits. Allocates on failure alone.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_round_value_float(double value, byte direction, sbyte decimals,
+        ref double result, [In, Out] ravo_error error);
+
+    /// <summary>Writes an amount of VAT rounded by one of five letters: H hundredths, D tenths, P halves of a crown, N tenths
+    /// away from zero, M whole crowns.</summary>
+    /// <remarks>
+    /// <para>Any other letter leaves the amount as it is. RAVO_RANGE if the result does not fit 64 bits. Allocates on failure
+    /// alone.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_round_dph(long amount, int letter, ref long result,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes the moment of a day and a time of day in milliseconds, 0 to 86399999. Allocates on failure alone.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_moment_of(int day, int milliseconds, ref double moment,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes the day of a moment and its time in milliseconds, to the nearest, ties to even. What is nearest to
+    /// midnight is the next day.</summary>
+    /// <remarks>
+    /// <para>RAVO_RANGE outside of the years 1 to 9999. Allocates on failure alone.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_moment_parts(double moment, ref int day, ref int milliseconds,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes the date of a moment for SQL: "20101231". RAVO_RANGE outside of the years 1 to 9999. Allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_sql_date(double moment, [Out] byte[] buffer, UIntPtr size,
+        ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>Writes the time of a moment for SQL: "13:05:09:007". RAVO_RANGE for infinities and NaN. Allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_sql_time(double moment, [Out] byte[] buffer, UIntPtr size,
+        ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>Writes date and time of a moment for SQL: "20101231 13:05:09:007". Allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_sql_date_time(double moment, [Out] byte[] buffer, UIntPtr size,
+        ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>Writes the same day of the next month if `step` is positive, else of the previous one; the time is dropped.</summary>
+    /// <remarks>
+    /// <para>RAVO_RANGE outside of the years 1 to 9999. Allocates on failure alone.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_change_month(double moment, int step, ref double result,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes the same day of the next or previous year, as ravo_suite_change_month. Allocates on failure alone.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_change_year(double moment, int step, ref double result,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes street and house number of an address: "Nádražní" and "1234/5" of "Nádražní 1234/5".</summary>
+    /// <remarks>
+    /// <para>The street is the whole text if the last word is no number.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_adresa_expand(byte[] adresa, UIntPtr adresa_length, [Out] byte[] ulice,
+        UIntPtr ulice_size, ref UIntPtr ulice_length, [Out] byte[] cislo, UIntPtr cislo_size,
+        ref UIntPtr cislo_length, [In, Out] ravo_error error);
+
+    /// <summary>Writes the name of a document: "FV0012/2010" of "FV", "0012" and "2010".</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_doklad_description(byte[] prefix, UIntPtr prefix_length, byte[] number,
+        UIntPtr number_length, byte[] suffix, UIntPtr suffix_length, [Out] byte[] buffer, UIntPtr size,
+        ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>Writes the name of a backup: a pattern with its "%FIRMA%", "%DATUM%" and "%CAS%" replaced.</summary>
+    /// <remarks>
+    /// <para>`moment` is the local time. RAVO_RANGE outside of the years 1 to 9999.</para>
+    /// <code>ravo_suite_parse_zaloha_file("%FIRMA%_%DATUM%", ..., "A/B: s.r.o.", ...)  // AB s.r.o._110203</code>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_parse_zaloha_file(byte[] pattern, UIntPtr pattern_length, byte[] firma,
+        UIntPtr firma_length, double moment, [Out] byte[] buffer, UIntPtr size, ref UIntPtr length,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes what is before the first "." of a name, or all of it: "Faktury" of "Faktury.Cislo".</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_extract_table_from_property(byte[] name, UIntPtr name_length,
+        [Out] byte[] buffer, UIntPtr size, ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>Writes properties without the name of a table and "." before them: "A;B;G.C" of "F" and "F.A;F.B;G.C".</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_remove_table_from_properties(byte[] table, UIntPtr table_length,
+        byte[] properties, UIntPtr properties_length, [Out] byte[] buffer, UIntPtr size, ref UIntPtr length,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes the identifier of a record between single quotes; "Null" for null. Quotes inside stay as they are.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_uid_to_string(byte[] uid, UIntPtr uid_length, [Out] byte[] buffer,
+        UIntPtr size, ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>Writes the eight bytes of a record version in hexadecimal; none for a text of three characters or fewer.</summary>
+    /// <remarks>
+    /// <para>RAVO_RANGE if a pair of digits is missing, incomplete or not hexadecimal.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_timestamp_to_bytes(byte[] text, UIntPtr text_length, IntPtr buffer,
+        UIntPtr size, ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>Writes a number of bytes for people: "1,5 kB", and with `with_bytes` "1,5 kB (1536 B)".</summary>
+    /// <remarks>
+    /// <para>`decimal` is the decimal separator in ASCII, `thousands` the text between groups of three digits.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_bytes_to_str(long bytes, int with_bytes, int @decimal, byte[] thousands,
+        UIntPtr thousands_length, [Out] byte[] buffer, UIntPtr size, ref UIntPtr length,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes text in Windows-1250 with 25 Czech letters replaced by their base letters.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_remove_diacritics(byte[] bytes, UIntPtr bytes_length, IntPtr buffer,
+        UIntPtr size, ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>A table, or tables that share a name. Declare it as `ravo_suite_table table = RAVO_SUITE_TABLE_INIT;`.</summary>
+    [StructLayout(LayoutKind.Sequential)]
+    public sealed class ravo_suite_table
+    {
+        /// <summary>sizeof(ravo_suite_table), set by the caller</summary>
+        public UIntPtr size = (UIntPtr)Marshal.SizeOf(typeof(ravo_suite_table));
+        /// <summary>in Czech, UTF-8</summary>
+        public IntPtr name;
+        /// <summary>the module that has it: "RavoMzdaConstants"</summary>
+        public IntPtr module;
+        /// <summary>the first identifier</summary>
+        public int first;
+        /// <summary>the last identifier</summary>
+        public int last;
+    }
+
+    /// <summary>Returns how many rows of tables there are. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern UIntPtr ravo_suite_table_count();
+
+    /// <summary>Writes the row with an index, by module, then by identifier. RAVO_UNKNOWN past the last. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_table_at(UIntPtr index, [In, Out] ravo_suite_table table,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes the row of a table. RAVO_UNKNOWN if there is no such table. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_table_find(int id, [In, Out] ravo_suite_table table,
+        [In, Out] ravo_error error);
+
+    /// <summary>Returns the Czech name of a table, UTF-8, or null if there is no such table. Never allocates.</summary>
+    /// <remarks>
+    /// <code>ravo_suite_table_name(71710)  // Účetní deník</code>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern IntPtr ravo_suite_table_name(int id);
+
+    /// <summary>A caption or message. Declare it as `ravo_suite_caption caption = RAVO_SUITE_CAPTION_INIT;`.</summary>
+    [StructLayout(LayoutKind.Sequential)]
+    public sealed class ravo_suite_caption
+    {
+        /// <summary>sizeof(ravo_suite_caption), set by the caller</summary>
+        public UIntPtr size = (UIntPtr)Marshal.SizeOf(typeof(ravo_suite_caption));
+        /// <summary>"rPropertySazbaNulova"</summary>
+        public IntPtr name;
+        /// <summary>in Czech, UTF-8; "&amp;" marks the accelerator</summary>
+        public IntPtr text;
+        /// <summary>the title of its group, in English</summary>
+        public IntPtr group;
+        /// <summary>what the names of the group begin with</summary>
+        public IntPtr prefix;
+        /// <summary>in the string table</summary>
+        public int id;
+    }
+
+    /// <summary>Returns how many captions and messages there are. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern UIntPtr ravo_suite_caption_count();
+
+    /// <summary>Writes the caption with an index, group by group. RAVO_UNKNOWN past the last. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_caption_at(UIntPtr index, [In, Out] ravo_suite_caption caption,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes the caption with a name. RAVO_UNKNOWN if there is none. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_caption_find(byte[] name, UIntPtr name_length,
+        [In, Out] ravo_suite_caption caption, [In, Out] ravo_error error);
+
+    /// <summary>Writes a text in upper case.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_text_upper(byte[] text, UIntPtr text_length, [Out] byte[] buffer, UIntPtr size,
+        ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>Writes a text in lower case.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_text_lower(byte[] text, UIntPtr text_length, [Out] byte[] buffer, UIntPtr size,
+        ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>Writes the case-folded form of a text, equal for texts that differ only in case.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_text_fold(byte[] text, UIntPtr text_length, [Out] byte[] buffer, UIntPtr size,
+        ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>Writes 1 if a whole text matches a mask, else 0. "*" is any run of characters, "?" one character of UTF-16.</summary>
+    /// <remarks>
+    /// <para>`ignore_case` is 0, or 1 to fold both. Never allocates for texts and masks of up to 256 bytes.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_text_match(byte[] text, UIntPtr text_length, byte[] mask, UIntPtr mask_length,
+        int ignore_case, ref int answer, [In, Out] ravo_error error);
+
+    /// <summary>Writes a text in the form encoding of URLs: "a+b%26c" of "a b&amp;c".</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_url_encode(byte[] text, UIntPtr text_length, [Out] byte[] buffer, UIntPtr size,
+        ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>Writes a form-encoded text decoded. A "%" without two hexadecimal digits stays.</summary>
+    /// <remarks>
+    /// <para>RAVO_UTF8 if the result is not UTF-8, at its position there.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_url_decode(byte[] text, UIntPtr text_length, [Out] byte[] buffer, UIntPtr size,
+        ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>Changes the CRC-32 of zip and Ethernet to that of the bytes so far and these. Begin with 0.</summary>
+    /// <remarks>
+    /// <para>Never allocates.</para>
+    /// <code>uint32_t crc = 0;
+    /// ravo_crc32("123456789", 9, &amp;crc, NULL);  // 0xCBF43926</code>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_crc32(byte[] bytes, UIntPtr bytes_length, ref uint crc,
+        [In, Out] ravo_error error);
+
+    /// <summary>the bytes</summary>
+    public const int RAVO_SUITE_HASH_BYTES = 0;
+    /// <summary>the bytes in upper case, as letters of Windows-1250</summary>
+    public const int RAVO_SUITE_HASH_UPPER_BYTES = 1;
+    /// <summary>the little-endian bytes of the text in UTF-16</summary>
+    public const int RAVO_SUITE_HASH_TEXT = 2;
+    /// <summary>the case-folded UTF-16 units of the text</summary>
+    public const int RAVO_SUITE_HASH_FOLDED_TEXT = 3;
+
+    /// <summary>Writes the suite's 32-bit hash. `initial` selects one of many independent hash functions.</summary>
+    /// <remarks>
+    /// <para>Texts are UTF-8. Texts of more than 256 bytes allocate.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_hash(int what, byte[] bytes, UIntPtr bytes_length, uint initial,
+        ref uint hash, [In, Out] ravo_error error);
+
+    /// <summary>What is known of an encoding. Declare it as `ravo_encoding_info info = RAVO_ENCODING_INFO_INIT;`.</summary>
+    [StructLayout(LayoutKind.Sequential)]
+    public sealed class ravo_encoding_info
+    {
+        /// <summary>sizeof(ravo_encoding_info), set by the caller</summary>
+        public UIntPtr size = (UIntPtr)Marshal.SizeOf(typeof(ravo_encoding_info));
+        /// <summary>"Windows_1250"</summary>
+        public IntPtr name;
+        /// <summary>for people</summary>
+        public IntPtr label;
+        /// <summary>other names, separated by blanks</summary>
+        public IntPtr aliases;
+        /// <summary>remarks; may be empty</summary>
+        public IntPtr notes;
+        /// <summary>Windows number; 0 if it has none</summary>
+        public int code_page;
+        /// <summary>1 if it can be converted from, else 0</summary>
+        public int can_read;
+        /// <summary>1 if it can be converted to, else 0</summary>
+        public int can_write;
+    }
+
+    /// <summary>Returns how many encodings there are. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern UIntPtr ravo_encoding_count();
+
+    /// <summary>Writes what is known of an encoding. RAVO_UNKNOWN for a number that is none. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_encoding_at(int encoding, [In, Out] ravo_encoding_info info,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes the encoding with a name, an alias, a label, or the number of a code page with or without "cp".</summary>
+    /// <remarks>
+    /// <para>Only ASCII letters and digits count, in either case. RAVO_UNKNOWN if there is none. Never allocates.</para>
+    /// <code>ravo_encoding_find("windows-1250", RAVO_NUL_TERMINATED, &amp;encoding, NULL)</code>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_encoding_find(byte[] name, UIntPtr name_length, ref int encoding,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes the encoding with the number of a Windows code page. RAVO_UNKNOWN if there is none. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_encoding_of_code_page(int code_page, ref int encoding,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes the encoding that a byte-order mark at the start of bytes names, and the mark's length in bytes.</summary>
+    /// <remarks>
+    /// <para>Fewer than four bytes count as the whole text. `mark_length` may be null. RAVO_UNKNOWN if there is no mark. Never
+    /// allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_encoding_of_mark(byte[] bytes, UIntPtr bytes_length, ref int encoding,
+        ref UIntPtr mark_length, [In, Out] ravo_error error);
+
+    /// <summary>the conversion fails at its position</summary>
+    public const int RAVO_CONVERT_STRICT = 0;
+    /// <summary>it becomes U+FFFD, or "?" if the encoding lacks that</summary>
+    public const int RAVO_CONVERT_REPLACE = 1;
+
+    [UnmanagedFunctionPointer(CallingConvention.Cdecl)]
+    public delegate int ravo_progress(IntPtr context, UIntPtr done, UIntPtr total);
+
+    /// <summary>Converts bytes from one encoding to another.</summary>
+    /// <remarks>
+    /// <para>RAVO_ARGUMENT if an encoding cannot be read or written. With RAVO_CONVERT_STRICT, RAVO_MALFORMED for bytes that are
+    /// no character and RAVO_LACKING for a character that `to` lacks, at the position in `bytes`. `progress` may be null;
+    /// it gets `context`, and if it stops the work, RAVO_STOPPED with its number as `error->code`. If the buffer is too
+    /// small, or on failure, its contents are undefined. Allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_convert(int from, byte[] bytes, UIntPtr bytes_length, int to, int policy,
+        IntPtr buffer, UIntPtr size, ref UIntPtr length, ravo_progress progress, IntPtr context,
+        [In, Out] ravo_error error);
+
+    /// <summary>Opens a conversion. Close it with ravo_converter_close. Fails as ravo_convert does. Allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_converter_open(int from, int to, int policy, out IntPtr converter,
+        [In, Out] ravo_error error);
+
+    /// <summary>Closes a conversion. Null is allowed.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern void ravo_converter_close(IntPtr converter);
+
+    /// <summary>Converts the next bytes of a text, of any number; the last characters may be cut. `is_last` is 1 if no more follow,
+    /// else 0.</summary>
+    /// <remarks>
+    /// <para>Fails as ravo_convert does, with the position in the whole text. After a failure, and after the last bytes, the
+    /// conversion takes no more: RAVO_ARGUMENT. Allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_converter_push(IntPtr converter, byte[] bytes, UIntPtr bytes_length, int is_last,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes converted bytes that are waiting, at most `size`, and how many they are; 0 if none are left.</summary>
+    /// <remarks>
+    /// <para>Never allocates.</para>
+    /// <code>ravo_converter_push(converter, piece, piece_length, 0, NULL);
+    /// while (ravo_converter_pull(converter, buffer, sizeof buffer, &amp;length, NULL) == RAVO_OK &amp;&amp; length != 0)
+    ///   fwrite(buffer, 1, length, file);</code>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_converter_pull(IntPtr converter, IntPtr buffer, UIntPtr size, ref UIntPtr length,
+        [In, Out] ravo_error error);
+
+    /// <summary>row i is data[o[i]] to data[o[i + 1]]; o is int32_t. Arrow: utf8, binary</summary>
+    public const int RAVO_LAYOUT_OFFSETS_32 = 1;
+    /// <summary>the same with int64_t. Arrow: large utf8, large binary</summary>
+    public const int RAVO_LAYOUT_OFFSETS_64 = 2;
+    /// <summary>16 bytes for each row: short texts, or a place in a buffer. Arrow: views</summary>
+    public const int RAVO_LAYOUT_VIEWS = 3;
+    /// <summary>`width` bytes for each row; NULs at the end are no part of the text</summary>
+    public const int RAVO_LAYOUT_FIXED = 4;
+    /// <summary>signed indices of `width` bytes (1, 2, 4, 8) into another column</summary>
+    public const int RAVO_LAYOUT_DICTIONARY = 5;
+    /// <summary>unsigned indices of `width` bytes into another column</summary>
+    public const int RAVO_LAYOUT_DICTIONARY_UNSIGNED = 6;
+
+    /// <summary>A column of the caller. It starts as `ravo_column column = RAVO_COLUMN_INIT;`. What a layout lacks is 0.</summary>
+    [StructLayout(LayoutKind.Sequential)]
+    public sealed class ravo_column
+    {
+        /// <summary>sizeof(ravo_column)</summary>
+        public UIntPtr size = (UIntPtr)Marshal.SizeOf(typeof(ravo_column));
+        public int layout;
+        /// <summary>bytes of a value (fixed) or of an index (dictionary)</summary>
+        public int width;
+        /// <summary>rows</summary>
+        public UIntPtr length;
+        /// <summary>rows of the memory before the first one, as a slice has them</summary>
+        public UIntPtr offset;
+        /// <summary>bit offset + i, lowest first, is 0 if row i is null; null: none is</summary>
+        public IntPtr validity;
+        /// <summary>offsets, views, values of fixed width, or indices</summary>
+        public IntPtr values;
+        /// <summary>what offsets are into</summary>
+        public IntPtr data;
+        /// <summary>bytes of data; or RAVO_SIZE_UNKNOWN</summary>
+        public UIntPtr data_size;
+        /// <summary>what views are into</summary>
+        public IntPtr buffers;
+        /// <summary>bytes of each</summary>
+        public IntPtr buffer_sizes;
+        public UIntPtr buffer_count;
+        /// <summary>a column of any layout without a dictionary</summary>
+        public IntPtr dictionary;
+    }
+
+    public const int RAVO_TRUSTED = 1;
+
+    public const int RAVO_CODE_CORRECT = 0;
+    /// <summary>the value is not UTF-8</summary>
+    public const int RAVO_CODE_NOT_UTF8 = 65534;
+    /// <summary>the row has no value</summary>
+    public const int RAVO_CODE_NULL = 65535;
+
+    /// <summary>Room for a column of texts that a function writes. Rows that are wrong or null have an empty text.</summary>
+    [StructLayout(LayoutKind.Sequential)]
+    public sealed class ravo_texts
+    {
+        /// <summary>sizeof(ravo_texts)</summary>
+        public UIntPtr size = (UIntPtr)Marshal.SizeOf(typeof(ravo_texts));
+        /// <summary>RAVO_LAYOUT_OFFSETS_32, _OFFSETS_64 or _FIXED</summary>
+        public int layout;
+        /// <summary>bytes of a value (fixed); shorter ones end with NULs, a longer one is RAVO_RANGE</summary>
+        public int width;
+        /// <summary>room for an offset more than rows; not with fixed</summary>
+        public IntPtr offsets;
+        /// <summary>may be null with data_size 0, to ask for the length alone</summary>
+        public IntPtr data;
+        public UIntPtr data_size;
+        public UIntPtr data_length;
+    }
+
+    /// <summary>Room for what a check finds. Each pointer may be null.</summary>
+    [StructLayout(LayoutKind.Sequential)]
+    public sealed class ravo_answers
+    {
+        /// <summary>sizeof(ravo_answers)</summary>
+        public UIntPtr size = (UIntPtr)Marshal.SizeOf(typeof(ravo_answers));
+        /// <summary>of each row: the number of the reason, or one of RAVO_CODE_...</summary>
+        public IntPtr codes;
+        /// <summary>(rows + 7) / 8 bytes: bit i, lowest first, is 1 if row i is correct; bits past the end: 0</summary>
+        public IntPtr validity;
+        /// <summary>canonical forms, or usual spellings</summary>
+        public IntPtr texts;
+        /// <summary>receives how many rows are wrong; those that are null do not count</summary>
+        public UIntPtr wrong;
+        /// <summary>receives how many rows are null</summary>
+        public UIntPtr nulls;
+    }
+
+    /// <summary>Checks every row of a column for a kind, as ravo_check does, and writes codes, validity and canonical forms.</summary>
+    /// <remarks>
+    /// <para>RAVO_OK whatever the rows are. `flags` is 0 or RAVO_TRUSTED. `progress` may be null. Allocates for dictionaries
+    /// alone. The example is at the top of the chapter.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_check_column(int kind, [In] ravo_column column, uint flags,
+        [In, Out] ravo_answers answers, ravo_progress progress, IntPtr context, [In, Out] ravo_error error);
+
+    /// <summary>Checks every row of a column for a kind, and writes usual spellings where ravo_check_column writes canonical forms.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_respell_column(int kind, [In] ravo_column column, uint flags,
+        [In, Out] ravo_answers answers, ravo_progress progress, IntPtr context, [In, Out] ravo_error error);
+
+    /// <summary>Writes the CRC-32 (ISO-HDLC, as in ZIP) of the bytes of each row to `results`; 0 for an empty or null row.</summary>
+    /// <remarks>
+    /// <para>Any bytes will do: they need not be UTF-8. Allocates for dictionaries alone.</para>
+    /// <code>"123456789"  // 0xCBF43926</code>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_crc32_column([In] ravo_column column, uint flags, [Out] uint[] results,
+        ravo_progress progress, IntPtr context, [In, Out] ravo_error error);
+
+    [StructLayout(LayoutKind.Sequential)]
+    public struct ArrowSchema
+    {
+        public IntPtr format;
+        public IntPtr name;
+        public IntPtr metadata;
+        public long flags;
+        public long n_children;
+        public IntPtr children;
+        public IntPtr dictionary;
+        public IntPtr release;
+        public IntPtr private_data;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    public struct ArrowArray
+    {
+        public long length;
+        public long null_count;
+        public long offset;
+        public long n_buffers;
+        public long n_children;
+        public IntPtr buffers;
+        public IntPtr children;
+        public IntPtr dictionary;
+        public IntPtr release;
+        public IntPtr private_data;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    public struct ArrowArrayStream
+    {
+        public IntPtr get_schema;
+        public IntPtr get_next;
+        public IntPtr get_last_error;
+        public IntPtr release;
+        public IntPtr private_data;
+    }
+
+    /// <summary>Describes an Arrow array of texts: writes `*column`, and `*dictionary` if the array has one.</summary>
+    /// <remarks>
+    /// <para>`field` is the name of a column of a record batch, or null for an array that is no batch. Formats: u, U, vu, z, Z,
+    /// vz, w:N, and dictionaries of these. Another format, or an array whose parts do not fit its format, is RAVO_ARGUMENT;
+    /// a name that the batch has not is RAVO_UNKNOWN. Schema and array are borrowed: they stay the caller's, who releases
+    /// them as ever, and the column holds until then. `dictionary` may be null if there is none. Never allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_column_of_arrow(ref ArrowSchema schema, ref ArrowArray array, byte[] field,
+        UIntPtr field_length, [In, Out] ravo_column column, [In, Out] ravo_column dictionary,
+        [In, Out] ravo_error error);
+
+    [UnmanagedFunctionPointer(CallingConvention.Cdecl)]
+    public delegate int ravo_batch(IntPtr context, [In] ravo_column column, ulong first_row);
+
+    /// <summary>Reads an Arrow stream to its end and gives a column of each batch to a function.</summary>
+    /// <remarks>
+    /// <para>`field` is as in ravo_column_of_arrow. The stream becomes the function's: it is released exactly once, whatever the
+    /// status, and so are its schema and its batches. A failure of the stream itself is RAVO_STOPPED, with its own number
+    /// in error->code and its own words as the message. Allocates nothing; the stream may.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_arrow_stream(ref ArrowArrayStream stream, byte[] field, UIntPtr field_length,
+        ravo_batch batch, IntPtr context, [In, Out] ravo_error error);
 }
