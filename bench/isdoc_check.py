@@ -8,12 +8,10 @@ The programs run in turn, several times. Prints the medians of processor and wal
 every run, in the format of the other benchmarks.
 """
 
-import json
 import pathlib
-import statistics
 import sys
 
-from convert import measure
+from whole_program import measure, report
 
 COUNT, LIMIT = 10_000, 2.0
 SAMPLES = pathlib.Path(__file__).resolve().parents[1] / "samples/isdoc"
@@ -34,18 +32,12 @@ def main(ravo, folder, report_file):
     folder, runs = pathlib.Path(folder), []
     all_invoices = invoices(folder)
     files = [str(file) for file in sorted(all_invoices.rglob("*.isdoc"))]
-    times = measure({
+    times = measure("10000 invoices", {
         "ravo": [ravo, "isdoc", "check", str(all_invoices)],
         "xmllint": ["xmllint", "--noout", *files],
     }, folder)
-    times["limit"] = [(LIMIT, LIMIT)]
-    for place, what in enumerate(("processor time", "time")):
-        medians = {name: statistics.median(taken[place] for taken in all_runs) for name, all_runs in times.items()}
-        for name, median in medians.items():
-            print(f"10000 invoices, {what:14}  {name:10} {median:7.3f} s  {median / medians['ravo']:6.2f}x")
-            runs += [{"run_name": f"10000 invoices, {what}/{name}", "run_type": "iteration", "cpu_time": taken[place] * 1e9}
-                     for taken in times[name]]
-    pathlib.Path(report_file).write_text(json.dumps({"benchmarks": runs}), encoding="utf-8")
+    times |= {("10000 invoices, processor time", "limit"): [LIMIT], ("10000 invoices, time", "limit"): [LIMIT]}
+    report(times, report_file)
     return 0
 
 
