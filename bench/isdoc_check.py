@@ -29,7 +29,7 @@ def invoices(folder):
 
 
 def main(ravo, folder, report_file):
-    folder, runs = pathlib.Path(folder), []
+    folder = pathlib.Path(folder)
     all_invoices = invoices(folder)
     files = [str(file) for file in sorted(all_invoices.rglob("*.isdoc"))]
     times = measure("10000 invoices", {

@@ -12,7 +12,8 @@ ravo_day day_of(int32_t year, int32_t month, int32_t day_of_month) {
 int main(void) {
   /* What failed is told even if the program ends early. */
   setbuf(stdout, NULL);
-#define TEST_RUN(chapter) test_##chapter();
-  TEST_CHAPTERS(TEST_RUN)
+#define TEST_CHAPTER(chapter) test_##chapter();
+#include "chapters.inc"
+#undef TEST_CHAPTER
   return failures == 0 ? 0 : 1;
 }
