@@ -80,9 +80,8 @@ static void runs_vectors(void) {
   EXPECT(ravo_build_info(info, sizeof info, NULL, &error) == RAVO_OK);
 }
 
-#ifdef RAVO_COLUMN_INIT
 /* Adds what it gets to the caller's sum, and ends the work with a number of its own. */
-static int32_t RAVO_CALL stops(void* context, uint64_t done, uint64_t total) {
+static int32_t RAVO_CALL stops(void* context, size_t done, size_t total) {
   *(double*)context += (double)(done + total);
   return -17;
 }
@@ -102,9 +101,6 @@ static void is_called_back(void) {
   EXPECT(error.code == -17);
   EXPECT(sum == 2.5);
 }
-#else
-static void is_called_back(void) {}
-#endif
 
 static void everything(void) {
   gets_values();
