@@ -12,6 +12,10 @@ const int allocations_are_counted = 1;
 static size_t left = (size_t)-1;
 
 /* The allocator of the C library, by the names under which a program that replaces it still reaches it. */
+#if defined(__clang__)
+/* The C library's own names for its allocator. */
+#pragma clang diagnostic ignored "-Wreserved-identifier"
+#endif
 extern void* __libc_malloc(size_t size);
 extern void* __libc_calloc(size_t count, size_t size);
 extern void* __libc_realloc(void* memory, size_t size);
