@@ -1,11 +1,13 @@
 """QR codes of payments and invoices that `ravo` makes and reads."""
 
 import random
+import re
 import shutil
 import subprocess
 import urllib.parse
 
 from harness import NO, WRONG_USAGE, YES, Row, as_json, differs
+from isdoc_checks import FOLDER, sample, without_readers
 
 ACCOUNT = "19-2000145399/0800"
 IBAN = "CZ6508000000192000145399"
@@ -61,6 +63,9 @@ CODE_ROWS = [
     Row(["qr", ACCOUNT, "--format", "png"], WRONG_USAGE, exact="", err=("give -o",)),
     Row(["qr", ACCOUNT, "-o", "code.bmp"], WRONG_USAGE, exact="", err=("code.bmp: the name tells no format",)),
     Row(["qr", ACCOUNT, "-o", "missing/code.svg"], WRONG_USAGE, exact="", err=("ravo qr: missing/code.svg: cannot be written",)),
+    Row(["qr", ACCOUNT, "--invoice"], WRONG_USAGE, exact="", err=("--invoice needs KEY=VALUE, or --isdoc",), czech=("potřebuje KLÍČ=ÚDAJ",)),
+    Row(["qr", "--isdoc", "missing.isdoc"], WRONG_USAGE, exact=""),
+    Row(["qr", "--isdoc", "missing.isdoc", "--read", CODE], WRONG_USAGE, exact=""),
     # Read back.
     Row(["qr", "--read", f"{CODE}*AM:1.50*MSG:%C5%98*X-INV:SID%2A1.0%2AID:1%2ADD:20261122*"],
         exact=f"ACC\t{IBAN}\nAM\t1.50\nMSG\tŘ\nX-INV/ID\t1\nX-INV/DD\t20261122\n"),
@@ -135,4 +140,107 @@ def check_scanned_codes(program):
         yield "the scanner reads the same in every picture"
 
 
-CODE_CHECKS = (check_scanned_codes,)
+INVOICE_CODE = "SPD*1.0*ACC:CZ5708000000191234500002*AM:2679.00*CC:CZK*DT:20261116*X-VS:20260101*X-KS:0308*RN:PAPIRNA VZOROVA S.R.O.*MSG:20260101"
+INVOICE_INSIDE = ("*X-INV:SID%2A1.0%2AID:20260101%2ADD:20261102%2AVII:CZ09900101%2AINI:09900101%2AVIR:CZ09900209%2AINR:09900209"
+                  "%2ADUZP:20261102")
+SPELLED = ("--utf8 keeps them",)
+CASH = "<Payment><PaidAmount>679.00</PaidAmount><PaymentMeansCode>10</PaymentMeansCode></Payment>"
+PAYMENT = re.compile("<PaymentMeans>.*</PaymentMeans>", re.DOTALL)
+
+# What is asked beside the invoice, and what the code says instead or what is said of it, in English and in Czech.
+ASKED_BESIDE = [
+    (["--amount", "5", "--vs", "7", "--ks", "0558", "--ss", "9", "--due", "1.12.2026", "--recipient", "Novak", "--message", "Faktura"],
+     "SPD*1.0*ACC:CZ5708000000191234500002*AM:5.00*CC:CZK*DT:20261201*X-VS:7*X-KS:0558*X-SS:9*RN:NOVAK*MSG:FAKTURA"),
+    ([ACCOUNT], INVOICE_CODE.replace("CZ5708000000191234500002", IBAN)),
+    (["--field", "X-VS=1", "X-ID=2"], INVOICE_CODE.replace("*X-VS:20260101", "").replace("*MSG:20260101", "*MSG:20260101*X-VS:1*X-ID:2")),
+    (["--invoice"], INVOICE_CODE + INVOICE_INSIDE),
+    (["--invoice", "ID=FV1"], INVOICE_CODE + INVOICE_INSIDE.replace("ID:20260101%2A", "ID:FV1%2A", 1)),
+    (["--amount", "5", "--invoice"],
+     INVOICE_CODE.replace("2679.00", "5.00") + INVOICE_INSIDE.replace("%2AVII", "%2AAM:2679.00%2AVII")),
+]
+
+# What is changed in an invoice, and what is then in the code.
+CHANGED_INVOICES = [
+    ("<IBAN>CZ5708000000191234500002</IBAN>", "", "", ""),
+    ("<ID>19-1234500002</ID>", "<ID>19-1234500002/0800</ID>", "", ""),
+    ("<ID>19-1234500002</ID>", "<ID/>", "", ""),
+    ("<IBAN>CZ5708000000191234500002", "<IBAN>SK31 1200 0000 1987 4263 7541", "ACC:CZ5708000000191234500002", "ACC:SK3112000000198742637541+GIBACZPX"),
+    ("<PayableAmount>2679.00", "<PayableAmount>2679.500000", "AM:2679.00", "AM:2679.50"),
+    ("<PaymentDueDate>2026-11-16", "<PaymentDueDate>2026-11-16+01:00", "", ""),
+    ("<VariableSymbol>20260101", "<VariableSymbol>", "*X-VS:20260101", ""),
+    ("<Name>Papírna Vzorová s.r.o.", "<Name>\n Papírna\nVzorová s.r.o. ", "", ""),
+    ("<PaymentMeansCode>42", "<PaymentMeansCode>31", "", ""),
+]
+
+# What is changed in an invoice so that there is no code, and what is said.
+REFUSED_INVOICES = [
+    ("<DocumentType>1", "<DocumentType>2", "faktura.isdoc: a credit note asks for no payment", "dobropis žádnou platbu nežádá"),
+    ("<PaymentMeansCode>42", "<PaymentMeansCode>10", "no payment of the document is a transfer to an account; give ACCOUNT",
+     "není převodem na účet"),
+    ("<PayableAmount>2679.00", "<PayableAmount>0", "there is nothing to pay: the amount is 0.00", "není co platit"),
+    ("<PayableAmount>2679.00", "<PayableAmount>-1", "there is nothing to pay: the amount is -1.00", "není co platit"),
+    ("<PayableAmount>2679.00", "<PayableAmount>moc", "the amount to pay 'moc' is not a number; give --amount", "není číslo"),
+    ("<PayableAmount>2679.00</PayableAmount>", "", "the document has no amount to pay; give --amount", "nemá částku k úhradě"),
+    ("<ID>19-1234500002", "<ID>19-1234500003", "faktura.isdoc: the account '19-1234500003/0800': wrong: the weighted sum", ""),
+    ("<IBAN>CZ57", "<IBAN>CZ58", "faktura.isdoc: the account 'CZ5808000000191234500002': wrong: the check digits", ""),
+    ("<ID>19-1234500002", "<ID>19-2000145399", "account 19-2000145399/0800 and IBAN CZ5708000000191234500002 are two accounts; give ACCOUNT",
+     "jsou dva různé účty"),
+    ("<VariableSymbol>20260101", "<VariableSymbol>FV1", "faktura.isdoc: VariableSymbol 'FV1': wrong", ""),
+    ("<PaymentDueDate>2026-11-16", "<PaymentDueDate>today", "the due date 'today' is not a date; give --due", "není datum"),
+    ("<LocalCurrencyCode>CZK", "<LocalCurrencyCode>Kč", "faktura.isdoc: CurrencyCode 'Kc': wrong", ""),
+]
+
+
+def check_invoice_codes(program):
+    """Codes of what invoices ask to be paid."""
+    if without_readers(program):
+        return
+    whole = (FOLDER / "domestic.isdoc").read_text(encoding="utf-8")
+    file = program.folder / "faktura.isdoc"
+    ask = ["qr", "--isdoc", file.name]
+
+    def change(old, new):
+        if old not in whole:
+            raise AssertionError(old)
+        file.write_text(whole.replace(old, new, 1), encoding="utf-8")
+
+    change("", "")
+    for arguments, code in ASKED_BESIDE:
+        # The options that take several values come last, the account first.
+        at = 1 if arguments[0] == ACCOUNT else 3
+        yield from program.failures(Row(ask[:at] + arguments + ask[at:], exact=f"{code}\n", err=SPELLED if "VZOROVA" in code else ()))
+    yield from program.failures(Row(["qr", "--isdoc", sample("foreign-currency.isdoc")], out=("*AM:265.72*CC:EUR*",), err=("payments in CZK",)))
+    yield from program.failures(Row(["qr", "--isdoc", sample("foreign-currency.isdoc"), "--currency", "CZK"], out=("*AM:6464.87*CC:CZK*",), err=SPELLED))
+    yield from program.failures(Row(["qr", "--isdoc", sample("foreign-currency.isdoc"), "--currency", "USD"], WRONG_USAGE, exact="",
+                                    err=("no amount in USD; give --amount",), czech=("nemá částku v měně USD",)))
+    result = program.run(["qr", "--isdoc", "-"], given=file.name)
+    if result.out != f"{INVOICE_CODE}\n":
+        yield f"qr --isdoc -: {result}"
+    for old, new, code, other in CHANGED_INVOICES:
+        change(old, new)
+        yield from program.failures(Row(ask, exact=f"{INVOICE_CODE.replace(code, other)}\n", err=SPELLED))
+    for old, new, message, czech in REFUSED_INVOICES:
+        change(old, new)
+        yield from program.failures(Row(ask, WRONG_USAGE, exact="", err=(message,), czech=(czech,)))
+    yield from check_payments_of_invoices(program, file, whole)
+    file.unlink()
+
+
+def check_payments_of_invoices(program, file, whole):
+    """Invoices with no payment or several, and with names that a code has no room for."""
+    ask = ["qr", "--isdoc", file.name]
+    file.write_text(PAYMENT.sub("", whole), encoding="utf-8")
+    yield from program.failures(Row(ask, WRONG_USAGE, exact="", err=("the document asks for no payment; give ACCOUNT",), czech=("žádnou platbu nežádá",)))
+    yield from program.failures(Row(["qr", ACCOUNT, *ask[1:]], out=("*AM:2679.00*CC:CZK*RN:",), err=SPELLED))
+    several = whole.replace("<PaymentMeans>", f"<PaymentMeans>{CASH}", 1).replace("<PaidAmount>2679.00", "<PaidAmount>2000.00", 1)
+    file.write_text(several, encoding="utf-8")
+    yield from program.failures(Row(ask, exact=INVOICE_CODE.replace("2679", "2000") + "\n",
+                                    err=("the document has 2 payments; this is the first transfer, of 2000.00",), czech=("plateb v dokladu: 2",)))
+    file.write_text(several.replace("<LocalCurrencyCode>", "<ForeignCurrencyCode>EUR</ForeignCurrencyCode><LocalCurrencyCode>"), encoding="utf-8")
+    yield from program.failures(Row(ask, WRONG_USAGE, exact="", err=("several payments and two currencies; give --amount",), czech=("dvě měny",)))
+    file.write_text(whole.replace("Papírna Vzorová s.r.o.", "Ž" * 34 + " společnost"), encoding="utf-8")
+    yield from program.failures(Row(ask, out=(f"*RN:{'Z' * 34}*MSG:",), err=("Name is shortened to 35 characters: ZZZ",), czech=("zkráceno na 35 znaků",)))
+    yield from program.failures(Row([*ask, "--utf8"], out=(f"*RN:{'%C5%BD' * 34}*MSG:",), err=("shortened to 35",)))
+
+
+CODE_CHECKS = (check_scanned_codes, check_invoice_codes)

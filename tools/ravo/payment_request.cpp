@@ -47,8 +47,7 @@ Value Require(const czech::Parsed<Value>& parsed, const std::string& given, cons
 }
 
 // "19-2000145399/0800", an IBAN, or an IBAN with a BIC.
-std::string IbanText(const std::string& account) {
-  const std::string given = Text("the account");
+std::string IbanText(const std::string& account, const std::string& given) {
   if (account.find('/') != std::string::npos) {
     const auto parsed = Require(czech::ParseAccount(account), given, account);
     return std::string(czech::IbanOf(parsed).text.View());
@@ -59,13 +58,13 @@ std::string IbanText(const std::string& account) {
   return plus == std::string::npos ? text : text + account.substr(plus);
 }
 
-std::string AmountDigits(const std::string& amount) {
+std::string AmountDigits(const std::string& amount, const std::string&) {
   const auto parsed = ParseAmount(amount);
   if (!parsed) throw Refusal{Text("'{0}' is not an amount of at most four decimals", {amount})};
   return AmountText(*parsed);
 }
 
-std::string DueDigits(const std::string& due) {
+std::string DueDigits(const std::string& due, const std::string&) {
   const auto read = ReadDate(due, czech::PartsOf(DayOrToday({})));
   if (const auto* fault = std::get_if<DateFault>(&read)) throw Refusal{fault->message};
   const auto& input = std::get<DateInput>(read);
@@ -77,7 +76,7 @@ std::string DueDigits(const std::string& due) {
 
 // The digits of a symbol as they were given, so that a constant symbol keeps its zeros.
 template <class Parse>
-std::string SymbolDigits(const std::string& symbol, const char* given, Parse parse) {
+std::string SymbolDigits(const std::string& symbol, const std::string& given, Parse parse) {
   static_cast<void>(Require(parse(std::string_view(symbol)), given, symbol));
   std::string digits;
   std::ranges::copy_if(symbol, std::back_inserter(digits), [](char c) { return c >= '0' && c <= '9'; });
@@ -98,24 +97,38 @@ AskedFields SplitFields(const std::vector<std::string>& texts) {
   return fields;
 }
 
+// What messages call the value of an attribute.
+std::string GivenAs(const PaymentRequest& request, const std::string& key, const std::string& option) {
+  const auto found = request.origins.find(key);
+  return found == request.origins.end() ? option : found->second;
+}
+
+AskedFields InvoiceFieldsOf(const PaymentRequest& request) {
+  AskedFields fields = SplitFields(request.invoice);
+  for (AskedField& field : fields) field.given = GivenAs(request, "X-INV/" + field.key, field.given);
+  return fields;
+}
+
 AskedFields FieldsOf(const PaymentRequest& request) {
   AskedFields fields;
-  const auto add = [&](const char* key, const std::string& asked, const char* given, const auto& value_of) {
-    if (!asked.empty()) fields.push_back({key, value_of(asked), given});
+  const auto add = [&](const char* key, const std::string& asked, const std::string& option,
+                       const auto& value_of) {
+    const std::string given = GivenAs(request, key, option);
+    if (!asked.empty()) fields.push_back({key, value_of(asked, given), given});
   };
-  const auto as_it_is = [](const std::string& value) { return value; };
-  fields.push_back({"ACC", IbanText(request.account), Text("the account")});
+  const auto as_it_is = [](const std::string& value, const std::string&) { return value; };
+  add("ACC", request.account, Text("the account"), IbanText);
   add("AM", request.amount, "--amount", AmountDigits);
-  fields.push_back({"CC", request.currency.empty() ? "CZK" : request.currency, "--currency"});
+  add("CC", request.currency.empty() ? "CZK" : request.currency, "--currency", as_it_is);
   add("DT", request.due, "--due", DueDigits);
-  add("X-VS", request.vs, "--vs", [](const std::string& text) {
-    return SymbolDigits(text, "--vs", [](std::string_view vs) { return czech::ParseVariableSymbol(vs); });
+  add("X-VS", request.vs, "--vs", [](const std::string& text, const std::string& given) {
+    return SymbolDigits(text, given, [](std::string_view vs) { return czech::ParseVariableSymbol(vs); });
   });
-  add("X-KS", request.ks, "--ks", [](const std::string& text) {
-    return SymbolDigits(text, "--ks", [](std::string_view ks) { return czech::ParseConstantSymbol(ks); });
+  add("X-KS", request.ks, "--ks", [](const std::string& text, const std::string& given) {
+    return SymbolDigits(text, given, [](std::string_view ks) { return czech::ParseConstantSymbol(ks); });
   });
-  add("X-SS", request.ss, "--ss", [](const std::string& text) {
-    return SymbolDigits(text, "--ss", [](std::string_view ss) { return czech::ParseSpecificSymbol(ss); });
+  add("X-SS", request.ss, "--ss", [](const std::string& text, const std::string& given) {
+    return SymbolDigits(text, given, [](std::string_view ss) { return czech::ParseSpecificSymbol(ss); });
   });
   add("RN", request.recipient, "--recipient", as_it_is);
   add("MSG", request.message, "--message", as_it_is);
@@ -157,6 +170,30 @@ void MakeAscii(AskedFields& fields, std::vector<PaymentNote>& notes) {
   if (!spelled || is_known) return;
   notes.push_back(
       {"transliterated", Text("characters beyond ASCII are spelled without diacritics; --utf8 keeps them")});
+}
+
+// Where a text of at most `longest` characters ends; it may be shorter.
+std::size_t EndOf(const std::string& utf8, std::size_t longest) {
+  std::size_t at = 0;
+  for (; at < utf8.size(); ++at) {
+    const bool begins = (static_cast<unsigned char>(utf8[at]) & 0xC0) != 0x80;
+    if (begins && longest-- == 0) break;
+  }
+  return at;
+}
+
+// Names and numbers that the user did not type may be longer than a code permits.
+void Shorten(const PaymentRequest& request, AskedFields& fields, std::vector<PaymentNote>& notes) {
+  for (AskedField& field : fields) {
+    if (!IsFreeText(field.key) || !request.origins.contains(field.key)) continue;
+    const std::size_t longest = field.key == "RN" ? 35 : 60;
+    const std::size_t end = EndOf(field.value, longest);
+    if (end == field.value.size()) continue;
+    field.value.resize(end);
+    while (field.value.ends_with(' ')) field.value.pop_back();
+    notes.push_back({"shortened", Text("{0} is shortened to {1} characters: {2}",
+                                       {field.given, std::to_string(longest), field.value})});
+  }
 }
 
 std::vector<czech::PaymentCodeField> ViewsOf(const AskedFields& fields) {
@@ -221,11 +258,12 @@ PaymentAnswer InvoiceAlone(const PaymentRequest& request) {
 PaymentAnswer Payment(const PaymentRequest& request) {
   PaymentAnswer answer;
   AskedFields payment = FieldsOf(request);
-  AskedFields invoice = SplitFields(request.invoice);
+  AskedFields invoice = InvoiceFieldsOf(request);
   if (!request.utf8) {
     MakeAscii(payment, answer.notes);
     MakeAscii(invoice, answer.notes);
   }
+  Shorten(request, payment, answer.notes);
   LeaveShared(invoice, payment);
   if (!invoice.empty()) {
     const auto inside = czech::WriteInvoiceInside(ViewsOf(invoice));

@@ -2,6 +2,7 @@
 
 #include <ravo/czech/payment_code.h>
 
+#include <map>
 #include <string>
 #include <utility>
 #include <variant>
@@ -25,6 +26,9 @@ struct PaymentRequest {
   std::vector<std::string> invoice;  ///< "KEY=VALUE", the attributes of an invoice
   bool utf8 = false;                 ///< keeps the case of messages and names, and characters beyond ASCII
   bool checksum = false;
+  /// What messages call the values that the user did not give, by the key of the attribute: "X-VS", and
+  /// "X-INV/INI" in an invoice. Those that are too long are shortened.
+  std::map<std::string, std::string> origins;
 };
 
 /// What a user should know about a code: a word for scripts, and a sentence.

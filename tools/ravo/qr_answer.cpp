@@ -3,6 +3,8 @@
 #include "columns.h"
 #include "compression.h"
 #include "console.h"
+#include "document_file.h"
+#include "isdoc_payment.h"
 #include "json_text.h"
 #include "output_file.h"
 #include "qr_picture.h"
@@ -13,6 +15,8 @@
 #include <algorithm>
 #include <optional>
 #include <string_view>
+#include <variant>
+#include <vector>
 
 namespace tool {
 namespace {
@@ -142,10 +146,31 @@ void WriteCode(const PaymentAnswer& answer, const QrOptions& options, QrFormat f
   }
 }
 
+std::variant<PaymentAnswer, PaymentFault> AskByInvoice(const QrOptions& options) {
+  PaymentRequest request = options.request;
+  std::vector<PaymentNote> notes;
+  try {
+    notes = FillFromInvoice(options.isdoc, options.with_invoice, request);
+  } catch (const FileError& error) {
+    return PaymentFault{error.what()};
+  }
+  auto asked = AskForPayment(request);
+  if (auto* answer = std::get_if<PaymentAnswer>(&asked))
+    answer->notes.insert(answer->notes.begin(), notes.begin(), notes.end());
+  return asked;
+}
+
+std::variant<PaymentAnswer, PaymentFault> Ask(const QrOptions& options) {
+  if (!options.isdoc.empty()) return AskByInvoice(options);
+  if (options.with_invoice && options.request.invoice.empty())
+    return PaymentFault{Text("--invoice needs KEY=VALUE, or --isdoc")};
+  return AskForPayment(options.request);
+}
+
 void MakeCode(const QrOptions& options, Outcome& outcome) {
   const auto format = FormatOf(options, outcome);
   if (!format || !CanDraw(*format, outcome)) return;
-  const auto asked = AskForPayment(options.request);
+  const auto asked = Ask(options);
   if (const auto* fault = std::get_if<PaymentFault>(&asked))
     return Complain(outcome, fault->message, Answer::WrongUsage);
   const auto& answer = std::get<PaymentAnswer>(asked);

@@ -4,6 +4,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace tool {
 namespace {
@@ -20,6 +21,12 @@ constexpr const char* kQrFooter = ToTranslate(
     "are ID (number), DD (day of issue), AM, VII and INI (DIČ and IČO of the issuer), VIR and INR (of the\n"
     "recipient), DUZP, TB0, T0, TB1, T1 (bases and taxes) and others; days are YYYYMMDD.\n"
     "\n"
+    "--isdoc takes account, amount, currency, due date, symbols, supplier and number of an invoice (ISDOC "
+    "6);\n"
+    "what is given beside it wins. The invoice is not checked: 'ravo isdoc check' does that. With --invoice "
+    "the\n"
+    "data of the invoice are inside the payment, KEY=VALUE or not.\n"
+    "\n"
     "On a terminal the code is drawn with blocks, for light letters on a dark ground; elsewhere its text is\n"
     "written. With -o, the name of the file tells the format.\n"
     "\n"
@@ -31,6 +38,7 @@ constexpr const char* kQrFooter = ToTranslate(
     "  ravo qr 19-2000145399/0800 --amount 1210 --vs 2026000579 --due +14d\n"
     "  ravo qr CZ6508000000192000145399 --amount 1210 --message \"Nájemné za listopad\" -o payment.png\n"
     "  ravo qr 19-2000145399/0800 --amount 1210 --invoice ID=FV26001 DD=20261122 INI=27082440\n"
+    "  ravo qr --isdoc invoice.isdoc -o payment.png\n"
     "  ravo qr --read 'SPD*1.0*ACC:CZ6508000000192000145399*AM:1210.00*CC:CZK'\n");
 
 void AddPaymentOptions(CLI::App& command, PaymentRequest& request) {
@@ -49,7 +57,8 @@ void AddPaymentOptions(CLI::App& command, PaymentRequest& request) {
   command.add_option("--field", request.fields, Text("Other attributes of the standard, such as X-ID=17"))
       ->type_name(Text("KEY=VALUE"));
   command.add_option("--invoice", request.invoice, Text("The attributes of an invoice, such as ID=FV26001"))
-      ->type_name(Text("KEY=VALUE"));
+      ->type_name(Text("KEY=VALUE"))
+      ->expected(0, -1);
   command.add_flag("--utf8", request.utf8, Text("Keep case and characters beyond ASCII"));
   command.add_flag("--crc", request.checksum, Text("Add a checksum"));
 }
@@ -75,11 +84,21 @@ void AddQrCommand(CLI::App& program, Outcome& outcome) {
                       Text("The recipient's account or IBAN, perhaps with \"+\" and a BIC"));
   AddPaymentOptions(*command, options->request);
   AddQrOutput(*command, *options);
+  CLI::Option* const isdoc =
+      command
+          ->add_option("--isdoc", options->isdoc,
+                       Text("Take what is not given from this invoice; \"-\" is standard input"))
+          ->type_name(Text("FILE"));
   command
       ->add_option("--read", options->read, Text("Read the text of a code instead; \"-\" is standard input"))
-      ->type_name(Text("TEXT"));
+      ->type_name(Text("TEXT"))
+      ->excludes(isdoc);
   command->footer(Text(kQrFooter));
-  command->callback([options, &outcome] { AnswerQr(*options, outcome); });
+  command->callback([options, command, &outcome] {
+    options->with_invoice = command->count("--invoice") > 0;
+    std::erase(options->request.invoice, "");  // the parser's value for none
+    AnswerQr(*options, outcome);
+  });
 }
 
 }  // namespace tool
