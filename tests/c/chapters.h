@@ -11,8 +11,10 @@
   CHAPTER(days)                                                                                       \
   CHAPTER(holidays)                                                                                   \
   CHAPTER(money)                                                                                      \
-  CHAPTER(vat) CHAPTER(suite) CHAPTER(catalogue) CHAPTER(texts) CHAPTER(checksums) CHAPTER(encodings) \
-      CHAPTER(columns) CHAPTER(columns_arrow) CHAPTER(refusals) CHAPTER(memory)
+  CHAPTER(vat)                                                                                        \
+  CHAPTER(payment_codes) CHAPTER(invoices) CHAPTER(suite) CHAPTER(catalogue) CHAPTER(texts)           \
+      CHAPTER(checksums) CHAPTER(encodings) CHAPTER(columns) CHAPTER(columns_arrow) CHAPTER(refusals) \
+          CHAPTER(memory)
 
 #define TEST_DECLARE(chapter) void test_##chapter(void);
 TEST_CHAPTERS(TEST_DECLARE)
