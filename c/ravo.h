@@ -36,8 +36,8 @@
  *           begins with its size, which its _INIT sets. The symbols have the version RAVO_1.0.
  *
  * A check of form says "correct in form" and never that something exists. The file is in chapters: failure,
- * version, checks, what numbers tell, banks, days, holidays and terms, money, VAT, the suite's own rules, its tables
- * and captions, texts, checksums, encodings.
+ * version, checks, what numbers tell, banks, days, holidays and terms, money, VAT, payment codes, invoices, the
+ * suite's own rules, its tables and captions, texts, checksums, encodings.
  */
 #ifndef RAVO_H
 #define RAVO_H
@@ -702,6 +702,352 @@ typedef struct ravo_vat_summary {
 ravo_status RAVO_CALL ravo_vat_recapitulate(const ravo_vat_line *lines, size_t lines_length,
                                             ravo_vat_method method, ravo_vat_per per, ravo_day day,
                                             ravo_vat_summary *summary, ravo_error *error);
+
+/* ------------------------------------------------------------------------------------------------------------
+ * Payment codes
+ *
+ * The texts of Czech QR codes: payments (SPAYD, "SPD*1.0*ACC:...*AM:450.00") by standard 26 of the Czech Banking
+ * Association, and invoices (SID, "SID*1.0*ID:..."). A code has at most 2331 bytes, the room of the largest QR code.
+ * Values are UTF-8 and plain: the functions encode and decode percent signs, asterisks and what is not ASCII.
+ */
+
+/* The longest code in bytes, with its NUL. */
+#define RAVO_PAYMENT_CODE_SIZE 2332
+
+/* Which of the two codes. */
+typedef int32_t ravo_payment_code;
+enum {
+  RAVO_PAYMENT_CODE_SPAYD = 0, /* a payment */
+  RAVO_PAYMENT_CODE_SID = 1    /* an invoice */
+};
+
+/* A payment. Each value ends with NUL; null is left out. Declare it as `ravo_spayd code = RAVO_SPAYD_INIT;`. */
+typedef struct ravo_spayd {
+  size_t size;                 /* sizeof(ravo_spayd), set by the caller */
+  const char *account;         /* ACC: an IBAN, perhaps with "+" and a BIC; must be there */
+  const char *other_accounts;  /* ALT-ACC: one or two of them, divided by a comma */
+  const char *amount;          /* AM: "450.00" */
+  const char *currency;        /* CC: "CZK" */
+  const char *reference;       /* RF: digits for the receiver */
+  const char *receiver;        /* RN: the name of the receiver */
+  const char *due;             /* DT: "20261231" */
+  const char *payment_type;    /* PT: "IP" for an instant payment */
+  const char *message;         /* MSG: for the receiver */
+  const char *notify_by;       /* NT: "P" by telephone, "E" by electronic mail */
+  const char *notify_to;       /* NTA: the number or the address */
+  const char *retry_days;      /* X-PER: for how many days a refused payment is tried again */
+  const char *variable_symbol; /* X-VS */
+  const char *specific_symbol; /* X-SS */
+  const char *constant_symbol; /* X-KS */
+  const char *own_id;          /* X-ID: for the payer */
+  const char *url;             /* X-URL */
+  const char *invoice;         /* X-INV: an invoice code, from ravo_sid_write */
+  int32_t checksum;            /* 1 to end the code with CRC32, else 0 */
+} ravo_spayd;
+
+#define RAVO_SPAYD_INIT \
+  {sizeof(ravo_spayd), 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0}
+
+/*
+ * Writes the code of a payment, of at most RAVO_PAYMENT_CODE_SIZE bytes.
+ *
+ * RAVO_WRONG with the reasons "code...." and those of accounts, and RAVO_UTF8: `error->position` is the place in the
+ * value, and the message begins with its key: "AM: wrong: an amount has ...". "code.missing" has neither: the account
+ * is not there. Never allocates.
+ *
+ *     ravo_spayd code = RAVO_SPAYD_INIT;
+ *     code.account = "CZ6508000000192000145399";
+ *     code.amount = "450.00";
+ *     ravo_spayd_write(&code, text, sizeof text, NULL, &error);
+ */
+ravo_status RAVO_CALL ravo_spayd_write(const ravo_spayd *code, char *buffer, size_t size, size_t *length,
+                                       ravo_error *error);
+
+/* An invoice. Each value ends with NUL; null is left out. Declare it as `ravo_sid code = RAVO_SID_INIT;`. */
+typedef struct ravo_sid {
+  size_t size;                 /* sizeof(ravo_sid), set by the caller */
+  const char *number;          /* ID: of the document; must be there */
+  const char *issued;          /* DD: "20261121"; must be there */
+  const char *amount;          /* AM: "-450.00"; must be there unless `inside` */
+  const char *tax_type;        /* TP: 0 usual, 1 reverse charge, 2 both */
+  const char *document_type;   /* TD: 0 no tax document, 1 to 5 and 9 as the standard has them */
+  const char *has_deposits;    /* SA: 1 if deposits are settled, else 0 */
+  const char *message;         /* MSG */
+  const char *order;           /* ON: number of the order */
+  const char *variable_symbol; /* VS */
+  const char *supplier_dic;    /* VII */
+  const char *supplier_ico;    /* INI */
+  const char *customer_dic;    /* VIR */
+  const char *customer_ico;    /* INR */
+  const char *tax_point;       /* DUZP: a day, as the others */
+  const char *tax_due;         /* DPPD: the day of the duty to tell the tax */
+  const char *due;             /* DT */
+  const char *base_standard;   /* TB0: base in the standard rate */
+  const char *tax_standard;    /* T0 */
+  const char *base_reduced;    /* TB1: in the first reduced rate */
+  const char *tax_reduced;     /* T1 */
+  const char *base_second;     /* TB2: in the second reduced rate */
+  const char *tax_second;      /* T2 */
+  const char *untaxed;         /* NTB: what is not taxed */
+  const char *currency;        /* CC: "CZK" */
+  const char *exchange_rate;   /* FX: crowns for `exchange_count` units of the currency */
+  const char *exchange_count;  /* FXA */
+  const char *account;         /* ACC: an IBAN, perhaps with "+" and a BIC */
+  const char *software;        /* X-SW */
+  const char *url;             /* X-URL */
+  int32_t inside;              /* 1 if the code goes into a payment code, which has what is left out, else 0 */
+  int32_t checksum;            /* 1 to end the code with CRC32, else 0; nothing inside of a payment */
+} ravo_sid;
+
+#define RAVO_SID_INIT \
+  {sizeof(ravo_sid), 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0}
+
+/*
+ * Writes the code of an invoice, of at most RAVO_PAYMENT_CODE_SIZE bytes.
+ *
+ * As ravo_spayd_write, and with the reasons of IČO and DIČ. Never allocates.
+ */
+ravo_status RAVO_CALL ravo_sid_write(const ravo_sid *code, char *buffer, size_t size, size_t *length,
+                                     ravo_error *error);
+
+/*
+ * Checks a code and writes which of the two it is and how many values it has.
+ *
+ * Keys that the standard does not have pass, and a checksum is compared. RAVO_WRONG with the reasons "code....",
+ * those of accounts, IČO and DIČ, at their position in the text. Either result may not be null. Never allocates.
+ */
+ravo_status RAVO_CALL ravo_payment_code_read(const char *text, size_t text_length, ravo_payment_code *code,
+                                             size_t *values, ravo_error *error);
+
+/*
+ * Writes key and value with an index, in the order of a code: "AM" and "450.00".
+ *
+ * As ravo_payment_code_read; RAVO_UNKNOWN past the last. A value may contain NUL. Never allocates.
+ */
+ravo_status RAVO_CALL ravo_payment_code_at(const char *text, size_t text_length, size_t index, char *key,
+                                           size_t key_size, size_t *key_length, char *value, size_t value_size,
+                                           size_t *value_length, ravo_error *error);
+
+/* ------------------------------------------------------------------------------------------------------------
+ * Invoices
+ *
+ * Electronic invoices by the Czech national standard ISDOC 6.0.2: what is wrong with one, by the standard's schema, its
+ * business rules and exact sums, and what it says. Everything is read and checked when an invoice is opened; what reads
+ * an open one never allocates.
+ *
+ * Texts are UTF-8 as the document has them, without white space at their ends, amounts and days too ("2026-11-21",
+ * "1500.00"). They live as long as the invoice; what the document lacks is "". Amounts are in the currency of the books.
+ */
+
+/* An invoice. */
+typedef struct ravo_invoice ravo_invoice;
+
+/*
+ * Reads and checks an invoice.
+ *
+ * The text is UTF-8, whatever encoding it declares. RAVO_WRONG with code 0 for what is not XML: `error->position` is
+ * the place, the message tells line and column and why. What is XML and no invoice is opened, and its findings say so.
+ * The invoice keeps no part of the text. Close it with ravo_invoice_close. Allocates.
+ */
+ravo_status RAVO_CALL ravo_invoice_open(const char *text, size_t text_length, ravo_invoice **invoice,
+                                        ravo_error *error);
+
+/* Closes an invoice. Null is allowed. */
+void RAVO_CALL ravo_invoice_close(ravo_invoice *invoice);
+
+/* Whether the checks know a document. */
+typedef int32_t ravo_invoice_version;
+enum {
+  RAVO_INVOICE_KNOWN = 0, /* ISDOC 6 */
+  RAVO_INVOICE_OTHER = 1, /* ISDOC of another version: findings say little */
+  RAVO_INVOICE_NONE = 2   /* no document of ISDOC */
+};
+
+/* What an invoice says once. Declare it as `ravo_invoice_head head = RAVO_INVOICE_HEAD_INIT;`. */
+typedef struct ravo_invoice_head {
+  size_t size;                  /* sizeof(ravo_invoice_head), set by the caller */
+  const char *number;           /* of the document */
+  const char *type;             /* "1" an invoice, to "7", as the standard numbers them */
+  const char *uuid;
+  const char *issued;
+  const char *tax_point;
+  const char *currency;         /* of the books */
+  const char *foreign_currency; /* of the document, if it is another */
+  const char *note;
+  ravo_invoice_version version; /* whether the checks know it */
+} ravo_invoice_head;
+
+#define RAVO_INVOICE_HEAD_INIT {sizeof(ravo_invoice_head), 0, 0, 0, 0, 0, 0, 0, 0, 0}
+
+/* Writes what an invoice says once. */
+ravo_status RAVO_CALL ravo_invoice_head_of(const ravo_invoice *invoice, ravo_invoice_head *head,
+                                           ravo_error *error);
+
+/* The two sides of the business. */
+typedef int32_t ravo_invoice_role;
+enum { RAVO_INVOICE_SUPPLIER = 0, RAVO_INVOICE_CUSTOMER = 1 };
+
+/* One side of the business. Declare it as `ravo_invoice_party party = RAVO_INVOICE_PARTY_INIT;`. */
+typedef struct ravo_invoice_party {
+  size_t size;         /* sizeof(ravo_invoice_party), set by the caller */
+  const char *ico;     /* company number */
+  const char *dic;     /* the number for VAT, or else the first tax number */
+  const char *name;
+  const char *street;
+  const char *building;
+  const char *post_code;
+  const char *city;
+  const char *country; /* its code: "CZ" */
+} ravo_invoice_party;
+
+#define RAVO_INVOICE_PARTY_INIT {sizeof(ravo_invoice_party), 0, 0, 0, 0, 0, 0, 0, 0}
+
+/* Writes a side of the business. */
+ravo_status RAVO_CALL ravo_invoice_party_of(const ravo_invoice *invoice, ravo_invoice_role role,
+                                            ravo_invoice_party *party, ravo_error *error);
+
+/* A line. Declare it as `ravo_invoice_line line = RAVO_INVOICE_LINE_INIT;`. */
+typedef struct ravo_invoice_line {
+  size_t size;            /* sizeof(ravo_invoice_line), set by the caller */
+  const char *number;
+  const char *text;       /* what was sold */
+  const char *quantity;
+  const char *unit;
+  const char *unit_price;
+  const char *rate;       /* in percent */
+  const char *base;       /* without the tax */
+  const char *tax;
+  const char *total;      /* with the tax */
+  int32_t reverse_charge; /* 1 if the customer owes the tax, else 0 */
+} ravo_invoice_line;
+
+#define RAVO_INVOICE_LINE_INIT {sizeof(ravo_invoice_line), 0, 0, 0, 0, 0, 0, 0, 0, 0, 0}
+
+/* Returns how many lines an invoice has; 0 for null. Never allocates. */
+size_t RAVO_CALL ravo_invoice_line_count(const ravo_invoice *invoice);
+
+/* Writes the line with an index. RAVO_UNKNOWN past the last. */
+ravo_status RAVO_CALL ravo_invoice_line_at(const ravo_invoice *invoice, size_t index, ravo_invoice_line *line,
+                                           ravo_error *error);
+
+/* The ways in which a tax comes about. */
+typedef int32_t ravo_invoice_way;
+enum {
+  RAVO_INVOICE_WAY_NONE = 0,        /* no lawful way gives it */
+  RAVO_INVOICE_WAY_UNTAXED = 1,     /* there is no tax */
+  RAVO_INVOICE_WAY_BASE = 2,        /* of the base */
+  RAVO_INVOICE_WAY_TOTAL = 3,       /* of the amount with tax */
+  RAVO_INVOICE_WAY_COEFFICIENT = 4, /* of the amount with tax, by a coefficient of four decimals */
+  RAVO_INVOICE_WAY_LINES = 5        /* the taxes of the lines added */
+};
+
+/* A row of the recapitulation. Declare it as `ravo_invoice_rate rate = RAVO_INVOICE_RATE_INIT;`. */
+typedef struct ravo_invoice_rate {
+  size_t size;                 /* sizeof(ravo_invoice_rate), set by the caller */
+  const char *rate;            /* in percent */
+  const char *base;            /* without the tax */
+  const char *tax;
+  const char *total;           /* with the tax */
+  const char *claimed_base;    /* of taxed deposits */
+  const char *claimed_tax;
+  const char *claimed_total;
+  const char *difference_base; /* less the taxed deposits */
+  const char *difference_tax;
+  const char *difference_total;
+  int32_t reverse_charge;      /* 1 if the customer owes the tax, else 0 */
+  ravo_invoice_way way;        /* the lawful way that gives the tax */
+} ravo_invoice_rate;
+
+#define RAVO_INVOICE_RATE_INIT {sizeof(ravo_invoice_rate), 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0}
+
+/* Returns how many rows the recapitulation has; 0 for null. Never allocates. */
+size_t RAVO_CALL ravo_invoice_rate_count(const ravo_invoice *invoice);
+
+/* Writes the row of the recapitulation with an index. RAVO_UNKNOWN past the last. */
+ravo_status RAVO_CALL ravo_invoice_rate_at(const ravo_invoice *invoice, size_t index, ravo_invoice_rate *rate,
+                                           ravo_error *error);
+
+/* The sums of an invoice. Declare it as `ravo_invoice_totals totals = RAVO_INVOICE_TOTALS_INIT;`. */
+typedef struct ravo_invoice_totals {
+  size_t size;                 /* sizeof(ravo_invoice_totals), set by the caller */
+  const char *base;            /* without the tax */
+  const char *tax;
+  const char *total;           /* with the tax */
+  const char *claimed_base;    /* of taxed deposits */
+  const char *claimed_total;
+  const char *difference_base; /* less the taxed deposits */
+  const char *difference_total;
+  const char *rounding;
+  const char *paid_deposits;   /* deposits that are not taxed */
+  const char *payable;         /* what is to be paid */
+} ravo_invoice_totals;
+
+#define RAVO_INVOICE_TOTALS_INIT {sizeof(ravo_invoice_totals), 0, 0, 0, 0, 0, 0, 0, 0, 0, 0}
+
+/* Writes the sums of an invoice. */
+ravo_status RAVO_CALL ravo_invoice_totals_of(const ravo_invoice *invoice, ravo_invoice_totals *totals,
+                                             ravo_error *error);
+
+/* A payment of an invoice. Declare it as `ravo_invoice_payment payment = RAVO_INVOICE_PAYMENT_INIT;`. */
+typedef struct ravo_invoice_payment {
+  size_t size;         /* sizeof(ravo_invoice_payment), set by the caller */
+  const char *amount;
+  const char *means;   /* its code: "10" in cash, "42" by bank transfer */
+  const char *due;
+  const char *account; /* without the bank */
+  const char *bank;    /* its code */
+  const char *iban;
+  const char *bic;
+  const char *variable_symbol;
+  const char *constant_symbol;
+  const char *specific_symbol;
+} ravo_invoice_payment;
+
+#define RAVO_INVOICE_PAYMENT_INIT {sizeof(ravo_invoice_payment), 0, 0, 0, 0, 0, 0, 0, 0, 0, 0}
+
+/* Returns how many payments an invoice has; 0 for null. Never allocates. */
+size_t RAVO_CALL ravo_invoice_payment_count(const ravo_invoice *invoice);
+
+/* Writes the payment with an index. RAVO_UNKNOWN past the last. */
+ravo_status RAVO_CALL ravo_invoice_payment_at(const ravo_invoice *invoice, size_t index,
+                                              ravo_invoice_payment *payment, ravo_error *error);
+
+/* How grave a finding is. */
+typedef int32_t ravo_invoice_severity;
+enum {
+  RAVO_INVOICE_NOTE = 0, /* lawful, or within half a haléř for each line; worth a look */
+  RAVO_INVOICE_ERROR = 1 /* the document breaks a rule */
+};
+
+/* What is wrong with an invoice. Declare it as `ravo_invoice_finding finding = RAVO_INVOICE_FINDING_INIT;`. */
+typedef struct ravo_invoice_finding {
+  size_t size;                    /* sizeof(ravo_invoice_finding), set by the caller */
+  const char *name;               /* the stable name of the rule: "sum.lines" */
+  const char *element;            /* the name of the element */
+  const char *found;              /* what is there; "" if nothing is */
+  const char *expected;           /* what should be there; "" if the rule says it all */
+  int32_t rule;                   /* its number, for ravo_invoice_rule_sentence */
+  int32_t reason;                 /* why a check refuses what is there, for ravo_reason_sentence; 0 if none does */
+  ravo_invoice_severity severity; /* how grave it is */
+  uint32_t line;                  /* in the text, from 1 */
+  uint32_t column;                /* in characters, from 1 */
+} ravo_invoice_finding;
+
+#define RAVO_INVOICE_FINDING_INIT {sizeof(ravo_invoice_finding), 0, 0, 0, 0, 0, 0, 0, 0, 0}
+
+/* Returns how many findings an invoice has, of structure and content; 0 for null. Never allocates. */
+size_t RAVO_CALL ravo_invoice_finding_count(const ravo_invoice *invoice);
+
+/* Writes the finding with an index, in the order of the text. RAVO_UNKNOWN past the last. */
+ravo_status RAVO_CALL ravo_invoice_finding_at(const ravo_invoice *invoice, size_t index,
+                                              ravo_invoice_finding *finding, ravo_error *error);
+
+/*
+ * Returns the sentence of a rule in a language, UTF-8, without a full stop, or null for an unknown number.
+ *
+ * Never allocates.
+ */
+const char *RAVO_CALL ravo_invoice_rule_sentence(int32_t rule, ravo_language language);
 
 /* ------------------------------------------------------------------------------------------------------------
  * The suite's own rules

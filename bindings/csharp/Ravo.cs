@@ -36,6 +36,8 @@ public static class Ravo
     public const int RAVO_DATE_SIZE = 16;
     /// <summary>The longest amount in bytes, with its NUL.</summary>
     public const int RAVO_MONEY_SIZE = 24;
+    /// <summary>The longest code in bytes, with its NUL.</summary>
+    public const int RAVO_PAYMENT_CODE_SIZE = 2332;
     /// <summary>The size of data that the caller does not know: it ends where the offset of the last row ends.</summary>
     public static readonly UIntPtr RAVO_SIZE_UNKNOWN = UIntPtr.Size == 8 ? new UIntPtr(ulong.MaxValue) : new UIntPtr(uint.MaxValue);
 
@@ -729,6 +731,429 @@ public static class Ravo
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern int ravo_vat_recapitulate(ref ravo_vat_line lines, UIntPtr lines_length, int method,
         int per, int day, [In, Out] ravo_vat_summary summary, [In, Out] ravo_error error);
+
+    /// <summary>a payment</summary>
+    public const int RAVO_PAYMENT_CODE_SPAYD = 0;
+    /// <summary>an invoice</summary>
+    public const int RAVO_PAYMENT_CODE_SID = 1;
+
+    /// <summary>A payment. Each value ends with NUL; null is left out. Declare it as `ravo_spayd code = RAVO_SPAYD_INIT;`.</summary>
+    [StructLayout(LayoutKind.Sequential)]
+    public sealed class ravo_spayd
+    {
+        /// <summary>sizeof(ravo_spayd), set by the caller</summary>
+        public UIntPtr size = (UIntPtr)Marshal.SizeOf(typeof(ravo_spayd));
+        /// <summary>ACC: an IBAN, perhaps with "+" and a BIC; must be there</summary>
+        public IntPtr account;
+        /// <summary>ALT-ACC: one or two of them, divided by a comma</summary>
+        public IntPtr other_accounts;
+        /// <summary>AM: "450.00"</summary>
+        public IntPtr amount;
+        /// <summary>CC: "CZK"</summary>
+        public IntPtr currency;
+        /// <summary>RF: digits for the receiver</summary>
+        public IntPtr reference;
+        /// <summary>RN: the name of the receiver</summary>
+        public IntPtr receiver;
+        /// <summary>DT: "20261231"</summary>
+        public IntPtr due;
+        /// <summary>PT: "IP" for an instant payment</summary>
+        public IntPtr payment_type;
+        /// <summary>MSG: for the receiver</summary>
+        public IntPtr message;
+        /// <summary>NT: "P" by telephone, "E" by electronic mail</summary>
+        public IntPtr notify_by;
+        /// <summary>NTA: the number or the address</summary>
+        public IntPtr notify_to;
+        /// <summary>X-PER: for how many days a refused payment is tried again</summary>
+        public IntPtr retry_days;
+        /// <summary>X-VS</summary>
+        public IntPtr variable_symbol;
+        /// <summary>X-SS</summary>
+        public IntPtr specific_symbol;
+        /// <summary>X-KS</summary>
+        public IntPtr constant_symbol;
+        /// <summary>X-ID: for the payer</summary>
+        public IntPtr own_id;
+        /// <summary>X-URL</summary>
+        public IntPtr url;
+        /// <summary>X-INV: an invoice code, from ravo_sid_write</summary>
+        public IntPtr invoice;
+        /// <summary>1 to end the code with CRC32, else 0</summary>
+        public int checksum;
+    }
+
+    /// <summary>Writes the code of a payment, of at most RAVO_PAYMENT_CODE_SIZE bytes.</summary>
+    /// <remarks>
+    /// <para>RAVO_WRONG with the reasons "code...." and those of accounts, and RAVO_UTF8: `error->position` is the place in the
+    /// value, and the message begins with its key: "AM: wrong: an amount has ...". "code.missing" has neither: the account
+    /// is not there. Never allocates.</para>
+    /// <code>ravo_spayd code = RAVO_SPAYD_INIT;
+    /// code.account = "CZ6508000000192000145399";
+    /// code.amount = "450.00";
+    /// ravo_spayd_write(&amp;code, text, sizeof text, NULL, &amp;error);</code>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_spayd_write([In] ravo_spayd code, [Out] byte[] buffer, UIntPtr size,
+        ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>An invoice. Each value ends with NUL; null is left out. Declare it as `ravo_sid code = RAVO_SID_INIT;`.</summary>
+    [StructLayout(LayoutKind.Sequential)]
+    public sealed class ravo_sid
+    {
+        /// <summary>sizeof(ravo_sid), set by the caller</summary>
+        public UIntPtr size = (UIntPtr)Marshal.SizeOf(typeof(ravo_sid));
+        /// <summary>ID: of the document; must be there</summary>
+        public IntPtr number;
+        /// <summary>DD: "20261121"; must be there</summary>
+        public IntPtr issued;
+        /// <summary>AM: "-450.00"; must be there unless `inside`</summary>
+        public IntPtr amount;
+        /// <summary>TP: 0 usual, 1 reverse charge, 2 both</summary>
+        public IntPtr tax_type;
+        /// <summary>TD: 0 no tax document, 1 to 5 and 9 as the standard has them</summary>
+        public IntPtr document_type;
+        /// <summary>SA: 1 if deposits are settled, else 0</summary>
+        public IntPtr has_deposits;
+        /// <summary>MSG</summary>
+        public IntPtr message;
+        /// <summary>ON: number of the order</summary>
+        public IntPtr order;
+        /// <summary>VS</summary>
+        public IntPtr variable_symbol;
+        /// <summary>VII</summary>
+        public IntPtr supplier_dic;
+        /// <summary>INI</summary>
+        public IntPtr supplier_ico;
+        /// <summary>VIR</summary>
+        public IntPtr customer_dic;
+        /// <summary>INR</summary>
+        public IntPtr customer_ico;
+        /// <summary>DUZP: a day, as the others</summary>
+        public IntPtr tax_point;
+        /// <summary>DPPD: the day of the duty to tell the tax</summary>
+        public IntPtr tax_due;
+        /// <summary>DT</summary>
+        public IntPtr due;
+        /// <summary>TB0: base in the standard rate</summary>
+        public IntPtr base_standard;
+        /// <summary>T0</summary>
+        public IntPtr tax_standard;
+        /// <summary>TB1: in the first reduced rate</summary>
+        public IntPtr base_reduced;
+        /// <summary>T1</summary>
+        public IntPtr tax_reduced;
+        /// <summary>TB2: in the second reduced rate</summary>
+        public IntPtr base_second;
+        /// <summary>T2</summary>
+        public IntPtr tax_second;
+        /// <summary>NTB: what is not taxed</summary>
+        public IntPtr untaxed;
+        /// <summary>CC: "CZK"</summary>
+        public IntPtr currency;
+        /// <summary>FX: crowns for `exchange_count` units of the currency</summary>
+        public IntPtr exchange_rate;
+        /// <summary>FXA</summary>
+        public IntPtr exchange_count;
+        /// <summary>ACC: an IBAN, perhaps with "+" and a BIC</summary>
+        public IntPtr account;
+        /// <summary>X-SW</summary>
+        public IntPtr software;
+        /// <summary>X-URL</summary>
+        public IntPtr url;
+        /// <summary>1 if the code goes into a payment code, which has what is left out, else 0</summary>
+        public int inside;
+        /// <summary>1 to end the code with CRC32, else 0; nothing inside of a payment</summary>
+        public int checksum;
+    }
+
+    /// <summary>Writes the code of an invoice, of at most RAVO_PAYMENT_CODE_SIZE bytes.</summary>
+    /// <remarks>
+    /// <para>As ravo_spayd_write, and with the reasons of IČO and DIČ. Never allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_sid_write([In] ravo_sid code, [Out] byte[] buffer, UIntPtr size,
+        ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>Checks a code and writes which of the two it is and how many values it has.</summary>
+    /// <remarks>
+    /// <para>Keys that the standard does not have pass, and a checksum is compared. RAVO_WRONG with the reasons "code....",
+    /// those of accounts, IČO and DIČ, at their position in the text. Either result may not be null. Never allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_payment_code_read(byte[] text, UIntPtr text_length, ref int code,
+        ref UIntPtr values, [In, Out] ravo_error error);
+
+    /// <summary>Writes key and value with an index, in the order of a code: "AM" and "450.00".</summary>
+    /// <remarks>
+    /// <para>As ravo_payment_code_read; RAVO_UNKNOWN past the last. A value may contain NUL. Never allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_payment_code_at(byte[] text, UIntPtr text_length, UIntPtr index, [Out] byte[] key,
+        UIntPtr key_size, ref UIntPtr key_length, [Out] byte[] value, UIntPtr value_size, ref UIntPtr value_length,
+        [In, Out] ravo_error error);
+
+    /// <summary>Reads and checks an invoice.</summary>
+    /// <remarks>
+    /// <para>The text is UTF-8, whatever encoding it declares. RAVO_WRONG with code 0 for what is not XML: `error->position` is
+    /// the place, the message tells line and column and why. What is XML and no invoice is opened, and its findings say so.
+    /// The invoice keeps no part of the text. Close it with ravo_invoice_close. Allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_invoice_open(byte[] text, UIntPtr text_length, out IntPtr invoice,
+        [In, Out] ravo_error error);
+
+    /// <summary>Closes an invoice. Null is allowed.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern void ravo_invoice_close(IntPtr invoice);
+
+    /// <summary>ISDOC 6</summary>
+    public const int RAVO_INVOICE_KNOWN = 0;
+    /// <summary>ISDOC of another version: findings say little</summary>
+    public const int RAVO_INVOICE_OTHER = 1;
+    /// <summary>no document of ISDOC</summary>
+    public const int RAVO_INVOICE_NONE = 2;
+
+    /// <summary>What an invoice says once. Declare it as `ravo_invoice_head head = RAVO_INVOICE_HEAD_INIT;`.</summary>
+    [StructLayout(LayoutKind.Sequential)]
+    public sealed class ravo_invoice_head
+    {
+        /// <summary>sizeof(ravo_invoice_head), set by the caller</summary>
+        public UIntPtr size = (UIntPtr)Marshal.SizeOf(typeof(ravo_invoice_head));
+        /// <summary>of the document</summary>
+        public IntPtr number;
+        /// <summary>"1" an invoice, to "7", as the standard numbers them</summary>
+        public IntPtr type;
+        public IntPtr uuid;
+        public IntPtr issued;
+        public IntPtr tax_point;
+        /// <summary>of the books</summary>
+        public IntPtr currency;
+        /// <summary>of the document, if it is another</summary>
+        public IntPtr foreign_currency;
+        public IntPtr note;
+        /// <summary>whether the checks know it</summary>
+        public int version;
+    }
+
+    /// <summary>Writes what an invoice says once.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_invoice_head_of(IntPtr invoice, [In, Out] ravo_invoice_head head,
+        [In, Out] ravo_error error);
+
+    public const int RAVO_INVOICE_SUPPLIER = 0;
+    public const int RAVO_INVOICE_CUSTOMER = 1;
+
+    /// <summary>One side of the business. Declare it as `ravo_invoice_party party = RAVO_INVOICE_PARTY_INIT;`.</summary>
+    [StructLayout(LayoutKind.Sequential)]
+    public sealed class ravo_invoice_party
+    {
+        /// <summary>sizeof(ravo_invoice_party), set by the caller</summary>
+        public UIntPtr size = (UIntPtr)Marshal.SizeOf(typeof(ravo_invoice_party));
+        /// <summary>company number</summary>
+        public IntPtr ico;
+        /// <summary>the number for VAT, or else the first tax number</summary>
+        public IntPtr dic;
+        public IntPtr name;
+        public IntPtr street;
+        public IntPtr building;
+        public IntPtr post_code;
+        public IntPtr city;
+        /// <summary>its code: "CZ"</summary>
+        public IntPtr country;
+    }
+
+    /// <summary>Writes a side of the business.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_invoice_party_of(IntPtr invoice, int role, [In, Out] ravo_invoice_party party,
+        [In, Out] ravo_error error);
+
+    /// <summary>A line. Declare it as `ravo_invoice_line line = RAVO_INVOICE_LINE_INIT;`.</summary>
+    [StructLayout(LayoutKind.Sequential)]
+    public sealed class ravo_invoice_line
+    {
+        /// <summary>sizeof(ravo_invoice_line), set by the caller</summary>
+        public UIntPtr size = (UIntPtr)Marshal.SizeOf(typeof(ravo_invoice_line));
+        public IntPtr number;
+        /// <summary>what was sold</summary>
+        public IntPtr text;
+        public IntPtr quantity;
+        public IntPtr unit;
+        public IntPtr unit_price;
+        /// <summary>in percent</summary>
+        public IntPtr rate;
+        /// <summary>without the tax</summary>
+        public IntPtr @base;
+        public IntPtr tax;
+        /// <summary>with the tax</summary>
+        public IntPtr total;
+        /// <summary>1 if the customer owes the tax, else 0</summary>
+        public int reverse_charge;
+    }
+
+    /// <summary>Returns how many lines an invoice has; 0 for null. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern UIntPtr ravo_invoice_line_count(IntPtr invoice);
+
+    /// <summary>Writes the line with an index. RAVO_UNKNOWN past the last.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_invoice_line_at(IntPtr invoice, UIntPtr index, [In, Out] ravo_invoice_line line,
+        [In, Out] ravo_error error);
+
+    /// <summary>no lawful way gives it</summary>
+    public const int RAVO_INVOICE_WAY_NONE = 0;
+    /// <summary>there is no tax</summary>
+    public const int RAVO_INVOICE_WAY_UNTAXED = 1;
+    /// <summary>of the base</summary>
+    public const int RAVO_INVOICE_WAY_BASE = 2;
+    /// <summary>of the amount with tax</summary>
+    public const int RAVO_INVOICE_WAY_TOTAL = 3;
+    /// <summary>of the amount with tax, by a coefficient of four decimals</summary>
+    public const int RAVO_INVOICE_WAY_COEFFICIENT = 4;
+    /// <summary>the taxes of the lines added</summary>
+    public const int RAVO_INVOICE_WAY_LINES = 5;
+
+    /// <summary>A row of the recapitulation. Declare it as `ravo_invoice_rate rate = RAVO_INVOICE_RATE_INIT;`.</summary>
+    [StructLayout(LayoutKind.Sequential)]
+    public sealed class ravo_invoice_rate
+    {
+        /// <summary>sizeof(ravo_invoice_rate), set by the caller</summary>
+        public UIntPtr size = (UIntPtr)Marshal.SizeOf(typeof(ravo_invoice_rate));
+        /// <summary>in percent</summary>
+        public IntPtr rate;
+        /// <summary>without the tax</summary>
+        public IntPtr @base;
+        public IntPtr tax;
+        /// <summary>with the tax</summary>
+        public IntPtr total;
+        /// <summary>of taxed deposits</summary>
+        public IntPtr claimed_base;
+        public IntPtr claimed_tax;
+        public IntPtr claimed_total;
+        /// <summary>less the taxed deposits</summary>
+        public IntPtr difference_base;
+        public IntPtr difference_tax;
+        public IntPtr difference_total;
+        /// <summary>1 if the customer owes the tax, else 0</summary>
+        public int reverse_charge;
+        /// <summary>the lawful way that gives the tax</summary>
+        public int way;
+    }
+
+    /// <summary>Returns how many rows the recapitulation has; 0 for null. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern UIntPtr ravo_invoice_rate_count(IntPtr invoice);
+
+    /// <summary>Writes the row of the recapitulation with an index. RAVO_UNKNOWN past the last.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_invoice_rate_at(IntPtr invoice, UIntPtr index, [In, Out] ravo_invoice_rate rate,
+        [In, Out] ravo_error error);
+
+    /// <summary>The sums of an invoice. Declare it as `ravo_invoice_totals totals = RAVO_INVOICE_TOTALS_INIT;`.</summary>
+    [StructLayout(LayoutKind.Sequential)]
+    public sealed class ravo_invoice_totals
+    {
+        /// <summary>sizeof(ravo_invoice_totals), set by the caller</summary>
+        public UIntPtr size = (UIntPtr)Marshal.SizeOf(typeof(ravo_invoice_totals));
+        /// <summary>without the tax</summary>
+        public IntPtr @base;
+        public IntPtr tax;
+        /// <summary>with the tax</summary>
+        public IntPtr total;
+        /// <summary>of taxed deposits</summary>
+        public IntPtr claimed_base;
+        public IntPtr claimed_total;
+        /// <summary>less the taxed deposits</summary>
+        public IntPtr difference_base;
+        public IntPtr difference_total;
+        public IntPtr rounding;
+        /// <summary>deposits that are not taxed</summary>
+        public IntPtr paid_deposits;
+        /// <summary>what is to be paid</summary>
+        public IntPtr payable;
+    }
+
+    /// <summary>Writes the sums of an invoice.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_invoice_totals_of(IntPtr invoice, [In, Out] ravo_invoice_totals totals,
+        [In, Out] ravo_error error);
+
+    /// <summary>A payment of an invoice. Declare it as `ravo_invoice_payment payment = RAVO_INVOICE_PAYMENT_INIT;`.</summary>
+    [StructLayout(LayoutKind.Sequential)]
+    public sealed class ravo_invoice_payment
+    {
+        /// <summary>sizeof(ravo_invoice_payment), set by the caller</summary>
+        public UIntPtr size = (UIntPtr)Marshal.SizeOf(typeof(ravo_invoice_payment));
+        public IntPtr amount;
+        /// <summary>its code: "10" in cash, "42" by bank transfer</summary>
+        public IntPtr means;
+        public IntPtr due;
+        /// <summary>without the bank</summary>
+        public IntPtr account;
+        /// <summary>its code</summary>
+        public IntPtr bank;
+        public IntPtr iban;
+        public IntPtr bic;
+        public IntPtr variable_symbol;
+        public IntPtr constant_symbol;
+        public IntPtr specific_symbol;
+    }
+
+    /// <summary>Returns how many payments an invoice has; 0 for null. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern UIntPtr ravo_invoice_payment_count(IntPtr invoice);
+
+    /// <summary>Writes the payment with an index. RAVO_UNKNOWN past the last.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_invoice_payment_at(IntPtr invoice, UIntPtr index,
+        [In, Out] ravo_invoice_payment payment, [In, Out] ravo_error error);
+
+    /// <summary>lawful, or within half a haléř for each line; worth a look</summary>
+    public const int RAVO_INVOICE_NOTE = 0;
+    /// <summary>the document breaks a rule</summary>
+    public const int RAVO_INVOICE_ERROR = 1;
+
+    /// <summary>What is wrong with an invoice. Declare it as `ravo_invoice_finding finding = RAVO_INVOICE_FINDING_INIT;`.</summary>
+    [StructLayout(LayoutKind.Sequential)]
+    public sealed class ravo_invoice_finding
+    {
+        /// <summary>sizeof(ravo_invoice_finding), set by the caller</summary>
+        public UIntPtr size = (UIntPtr)Marshal.SizeOf(typeof(ravo_invoice_finding));
+        /// <summary>the stable name of the rule: "sum.lines"</summary>
+        public IntPtr name;
+        /// <summary>the name of the element</summary>
+        public IntPtr element;
+        /// <summary>what is there; "" if nothing is</summary>
+        public IntPtr found;
+        /// <summary>what should be there; "" if the rule says it all</summary>
+        public IntPtr expected;
+        /// <summary>its number, for ravo_invoice_rule_sentence</summary>
+        public int rule;
+        /// <summary>why a check refuses what is there, for ravo_reason_sentence; 0 if none does</summary>
+        public int reason;
+        /// <summary>how grave it is</summary>
+        public int severity;
+        /// <summary>in the text, from 1</summary>
+        public uint line;
+        /// <summary>in characters, from 1</summary>
+        public uint column;
+    }
+
+    /// <summary>Returns how many findings an invoice has, of structure and content; 0 for null. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern UIntPtr ravo_invoice_finding_count(IntPtr invoice);
+
+    /// <summary>Writes the finding with an index, in the order of the text. RAVO_UNKNOWN past the last.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_invoice_finding_at(IntPtr invoice, UIntPtr index,
+        [In, Out] ravo_invoice_finding finding, [In, Out] ravo_error error);
+
+    /// <summary>Returns the sentence of a rule in a language, UTF-8, without a full stop, or null for an unknown number.</summary>
+    /// <remarks>
+    /// <para>Never allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern IntPtr ravo_invoice_rule_sentence(int rule, int language);
 
     /// <summary>Writes 1 if a text consists of digits, at least one, else 0.</summary>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]

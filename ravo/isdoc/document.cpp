@@ -45,9 +45,8 @@ class DocumentReader {
       utf8.remove_prefix(piece.size());
       const auto status =
           XML_Parse(parser_.get(), piece.data(), static_cast<int>(piece.size()), utf8.empty() ? 1 : 0);
-      if (no_memory_) throw std::bad_alloc();
       if (status != XML_STATUS_OK) {
-        error = {Here(), XML_ErrorString(XML_GetErrorCode(parser_.get()))};
+        error = Failure();
         return std::nullopt;
       }
     } while (!utf8.empty());
@@ -69,6 +68,14 @@ class DocumentReader {
   [[nodiscard]] Place Here() const {
     return {static_cast<std::uint32_t>(XML_GetCurrentLineNumber(parser_.get())),
             static_cast<std::uint32_t>(XML_GetCurrentColumnNumber(parser_.get()) + 1)};
+  }
+
+  // Throws if what failed is memory, ours or expat's.
+  [[nodiscard]] ReadingError Failure() const {
+    const XML_Error code = XML_GetErrorCode(parser_.get());
+    if (no_memory_ || code == XML_ERROR_NO_MEMORY) throw std::bad_alloc();
+    const XML_Index position = std::max<XML_Index>(XML_GetCurrentByteIndex(parser_.get()), 0);
+    return {Here(), XML_ErrorString(code), static_cast<std::size_t>(position)};
   }
 
   // Exceptions must not pass through expat, which is C.

@@ -55,7 +55,8 @@ inline constexpr std::string_view kInstanceSpace = "http://www.w3.org/2001/XMLSc
 /// Why a document could not be read, and where.
 struct ReadingError {
   Place place;
-  std::string message;  ///< expat's own words, English
+  std::string message;       ///< expat's own words, English
+  std::size_t position = 0;  ///< in bytes
 };
 
 /// An XML document as a tree of numbered elements: the root is 0, the others follow as they open.

@@ -14,7 +14,7 @@ sys.path.append(str(ROOT / "tools" / "generate"))
 from c_interface import VERSION, functions, parsed  # noqa: E402
 
 WINDOWS = {"kernel32", "msvcrt", "advapi32", "gdi32", "ole32", "oleaut32", "shell32", "user32", "version"}
-LINUX = {"libc.so.6", "libm.so.6", "libgcc_s.so.1", "libstdc++.so.6", "ld-linux-x86-64.so.2"}
+LINUX = {"libc.so.6", "libm.so.6", "libgcc_s.so.1", "libstdc++.so.6", "libexpat.so.1", "ld-linux-x86-64.so.2"}
 
 
 def run(*command: str) -> str:

@@ -53,7 +53,10 @@ RULES: list[Rule] = [
     ("ravo/czech/kinds", "Check", "ravo_check"),
     ("ravo/czech/kinds", "Respell", "ravo_respell"),
     ("ravo/czech/payment_text", ".*", "ravo_payment_find"),
-    ("ravo/czech/payment_code", ".*", LATER),
+    ("ravo/czech/payment_code", "WritePaymentCode|WrittenPaymentCode|PaymentCodeText|View", "ravo_spayd_write, ravo_sid_write"),
+    ("ravo/czech/payment_code", "WriteInvoiceInside", "ravo_sid_write"),
+    ("ravo/czech/payment_code", "IsPaymentKey", "the members of the two codes in `ravo.h`"),
+    ("ravo/czech/payment_code", ".*", "ravo_payment_code_read, ravo_payment_code_at"),
     ("ravo/czech/reason", "CodeText|Code", "ravo_reason_name"),
     ("ravo/czech/reason", "CodeOf", "ravo_reason_of"),
     ("ravo/czech/reason", "Sentence|Language|Parsed", "ravo_reason_sentence"),
@@ -167,12 +170,13 @@ BESIDE = [
     ("`ravo convert` without `--from`", "detection of encodings", PROGRAM),
     ("`ravo sort`", "Czech alphabetical order", PROGRAM),
     ("`ravo xml set`", "change of XML with every other byte kept", PROGRAM),
-    ("`ravo/isdoc`", "findings and lines of electronic invoices", LATER),
 ]
 # What has no counterpart in a C++ header of its own.
 OF_C = {
     "ravo_version", "ravo_build_info", "ravo_encoding_of_mark", "ravo_check_column", "ravo_respell_column", "ravo_crc32_column", "ravo_column_of_arrow",
-    "ravo_arrow_stream",
+    "ravo_arrow_stream", "ravo_invoice_open", "ravo_invoice_close", "ravo_invoice_head_of", "ravo_invoice_party_of", "ravo_invoice_totals_of",
+    "ravo_invoice_line_count", "ravo_invoice_line_at", "ravo_invoice_rate_count", "ravo_invoice_rate_at", "ravo_invoice_payment_count",
+    "ravo_invoice_payment_at", "ravo_invoice_finding_count", "ravo_invoice_finding_at", "ravo_invoice_rule_sentence",
 }
 TYPE = re.compile(r"^\s*(?:template\s*<[^>]*>\s*)?(?:struct|class|enum class|enum)\s+(?:RAVO_API\s+|alignas\(\w+\)\s+)*(\w+)\b([^;{]*)(;|\{)", re.MULTILINE)
 NO_NAME = re.compile(r"~|operator|(?:void|bool|switch|if|while|for|memcpy|copy_n|one|date|name|Name|new|delete|no|int)$")

@@ -7,10 +7,8 @@
 #include "user_language.h"
 #include "xml_tree_text.h"
 #include "xml_work.h"
-#include <ravo/isdoc/content.h>
-#include <ravo/isdoc/structure.h>
+#include <ravo/isdoc/check.h>
 
-#include <algorithm>
 #include <string>
 #include <string_view>
 
@@ -72,19 +70,10 @@ std::string FindingJson(const std::string& name, const isdoc::Finding& finding) 
                    {"message", isdoc::Sentence(finding.rule, UserLanguage())}});
 }
 
-bool IsBefore(const isdoc::Finding& left, const isdoc::Finding& right) {
-  if (left.place.line != right.place.line) return left.place.line < right.place.line;
-  return left.place.column < right.place.column;
-}
-
 InvoiceResult CheckInvoice(const IsdocOptions& options, const std::string& name,
                            const isdoc::Document& invoice) {
-  isdoc::Findings findings;
-  isdoc::CheckStructure(invoice, findings);
-  isdoc::CheckContent(invoice, findings);
-  std::ranges::stable_sort(findings, IsBefore);
   InvoiceResult result;
-  for (const isdoc::Finding& finding : findings) {
+  for (const isdoc::Finding& finding : isdoc::Check(invoice)) {
     ++(finding.severity == isdoc::Severity::Note ? result.notes : result.errors);
     result.out += options.json ? FindingJson(name, finding) : InvoiceFindingText(name, finding);
   }

@@ -1,11 +1,11 @@
 #include "document_file.h"
-#include "isdoc_fields.h"
 #include "isdoc_run.h"
 #include "isdoc_work.h"
 #include "json_text.h"
 #include "xml_work.h"
+#include <ravo/isdoc/fields.h>
 
-#include <array>
+#include <initializer_list>
 #include <span>
 #include <string>
 #include <string_view>
@@ -39,51 +39,40 @@ constexpr std::string_view kRateColumns[] = {
     "difference_total",
 };
 
-CsvCells PartyCells(const isdoc::Document& invoice, std::string_view role) {
-  const isdoc::Element* const party = ElementAt(invoice, &invoice.Root(), {role, "Party"});
-  return {TextAt(invoice, party, {"PartyIdentification", "ID"}), TaxNumberOf(invoice, party),
-          TextAt(invoice, party, {"PartyName", "Name"})};
+void AddCells(CsvCells& cells, std::initializer_list<std::string_view> texts) {
+  cells.insert(cells.end(), texts.begin(), texts.end());
 }
+
+void AddCells(CsvCells& cells, const isdoc::AmountFields& amounts) {
+  AddCells(cells, {amounts.base, amounts.tax, amounts.total});
+}
+
+std::string_view YesOrNo(bool answer) { return answer ? "true" : "false"; }
 
 // What every row of an invoice begins with.
 CsvCells DocumentCells(const std::string& name, const isdoc::Document& invoice) {
-  const isdoc::Element* const root = &invoice.Root();
+  const isdoc::HeadFields head = isdoc::HeadOf(invoice);
   CsvCells cells{name};
-  for (const std::string_view field : {"ID", "DocumentType", "IssueDate", "TaxPointDate"})
-    cells.push_back(TextAt(invoice, root, {field}));
+  AddCells(cells, {head.number, head.type, head.issued, head.tax_point});
   for (const std::string_view role : {"AccountingSupplierParty", "AccountingCustomerParty"}) {
-    for (std::string& cell : PartyCells(invoice, role)) cells.push_back(std::move(cell));
+    const isdoc::PartyFields party = isdoc::PartyOf(invoice, role);
+    AddCells(cells, {party.ico, party.dic, party.name});
   }
-  cells.push_back(TextAt(invoice, root, {"LocalCurrencyCode"}));
+  AddCells(cells, {head.currency});
   return cells;
 }
 
-CsvCells LineCells(const isdoc::Document& invoice, const isdoc::Element& line) {
-  const auto text = [&](std::initializer_list<std::string_view> path) {
-    return TextAt(invoice, &line, path);
-  };
-  const bool is_reverse =
-      ElementAt(invoice, &line, {"ClassifiedTaxCategory", "LocalReverseCharge"}) != nullptr;
-  return {text({"ID"}),
-          text({"Item", "Description"}),
-          text({"InvoicedQuantity"}),
-          AttributeAt(invoice, ElementAt(invoice, &line, {"InvoicedQuantity"}), "unitCode"),
-          text({"UnitPrice"}),
-          text({"ClassifiedTaxCategory", "Percent"}),
-          is_reverse ? "true" : "false",
-          text({"LineExtensionAmount"}),
-          text({"LineExtensionTaxAmount"}),
-          text({"LineExtensionAmountTaxInclusive"})};
+CsvCells LineCells(const isdoc::LineFields& line) {
+  CsvCells cells;
+  AddCells(cells, {line.number, line.text, line.quantity, line.unit, line.unit_price, line.rate,
+                   YesOrNo(line.reverse_charge), line.base, line.tax, line.total});
+  return cells;
 }
 
-CsvCells RateCells(const isdoc::Document& invoice, const isdoc::Element& row) {
-  const std::string reverse = TextAt(invoice, &row, {"TaxCategory", "LocalReverseChargeFlag"});
-  CsvCells cells{TextAt(invoice, &row, {"TaxCategory", "Percent"}), reverse == "true" ? "true" : "false"};
-  for (const std::string_view name :
-       {"TaxableAmount", "TaxAmount", "TaxInclusiveAmount", "AlreadyClaimedTaxableAmount",
-        "AlreadyClaimedTaxAmount", "AlreadyClaimedTaxInclusiveAmount", "DifferenceTaxableAmount",
-        "DifferenceTaxAmount", "DifferenceTaxInclusiveAmount"})
-    cells.push_back(TextAt(invoice, &row, {name}));
+CsvCells RateCells(const isdoc::RateFields& row) {
+  CsvCells cells;
+  AddCells(cells, {row.rate, YesOrNo(row.reverse_charge)});
+  for (const isdoc::AmountFields& amounts : {row.all, row.claimed, row.difference}) AddCells(cells, amounts);
   return cells;
 }
 
@@ -123,15 +112,12 @@ InvoiceResult RowsOf(const IsdocOptions& options, const std::string& name, const
   InvoiceResult result;
   const CsvCells document = DocumentCells(name, invoice);
   const auto add = [&](const CsvCells& own) { result.out += RowText(options, document, own); };
-  const char* const all = options.recapitulation ? "TaxTotal" : "InvoiceLines";
-  const isdoc::Element* const rows = ElementAt(invoice, &invoice.Root(), {all});
-  if (rows == nullptr) return result;
   if (options.recapitulation)
-    isdoc::ForEachChild(invoice, *rows, "TaxSubTotal",
-                        [&](const auto& row) { add(RateCells(invoice, row)); });
+    isdoc::ForEachRow(invoice, isdoc::kRatePlace,
+                      [&](const auto& row) { add(RateCells(isdoc::RateOf(invoice, row))); });
   else
-    isdoc::ForEachChild(invoice, *rows, "InvoiceLine",
-                        [&](const auto& row) { add(LineCells(invoice, row)); });
+    isdoc::ForEachRow(invoice, isdoc::kLinePlace,
+                      [&](const auto& row) { add(LineCells(isdoc::LineOf(invoice, row))); });
   return result;
 }
 

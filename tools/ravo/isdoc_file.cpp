@@ -22,9 +22,6 @@ namespace {
 namespace isdoc = ravo::isdoc;
 namespace fs = std::filesystem;
 
-constexpr std::string_view kNamespace = "http://isdoc.cz/namespace/2013";
-constexpr std::string_view kOldNamespace = "http://isdoc.cz/namespace/invoice";
-
 std::string Utf8Of(const fs::path& path) {
   const std::u8string text = path.u8string();
   return {text.begin(), text.end()};
@@ -58,24 +55,6 @@ void AddFolder(const std::string& folder, InvoiceFiles& found) {
   if (error) found.errors.push_back(ShownName(folder) + ": " + Text("the folder cannot be read to its end"));
   std::ranges::sort(names);
   for (std::string& name : names) found.files.push_back({std::move(name), false});
-}
-
-InvoiceVersion VersionOf(const isdoc::Document& document) {
-  const isdoc::Element& root = document.Root();
-  if (root.space == kOldNamespace) return InvoiceVersion::Other;
-  if (root.space != kNamespace || (root.name != "Invoice" && root.name != "CommonDocument"))
-    return InvoiceVersion::None;
-  for (const isdoc::Attribute& attribute : document.Attributes(root)) {
-    if (attribute.name == "version" && !attribute.value.starts_with("6.")) return InvoiceVersion::Other;
-  }
-  return InvoiceVersion::Known;
-}
-
-std::string VersionText(const isdoc::Document& document) {
-  for (const isdoc::Attribute& attribute : document.Attributes(document.Root())) {
-    if (attribute.name == "version") return OnOneLine(std::string(attribute.value));
-  }
-  return "5";
 }
 
 [[noreturn]] void RefuseContainer(const std::string& name) {
@@ -124,20 +103,21 @@ OpenInvoice ReadInvoice(const std::string& name) {
   isdoc::ReadingError error;
   std::optional<isdoc::Document> document = isdoc::Document::Read(text.utf8, error);
   if (!document) RefuseXml(name, text, error);
-  const InvoiceVersion version = VersionOf(*document);
+  const isdoc::Version version = isdoc::VersionOf(*document);
   return {std::move(*document), version};
 }
 
 std::string WhyNotKnown(const OpenInvoice& invoice) {
-  if (invoice.version == InvoiceVersion::Other)
-    return Text("is ISDOC {0}; this program knows ISDOC 6", {VersionText(invoice.document)});
+  if (invoice.version == isdoc::Version::Other)
+    return Text("is ISDOC {0}; this program knows ISDOC 6",
+                {OnOneLine(std::string(isdoc::VersionText(invoice.document)))});
   return Text("is no ISDOC document: its root is '{0}'",
               {OnOneLine(std::string(invoice.document.Root().name))});
 }
 
 isdoc::Document ReadKnownInvoice(const std::string& name) {
   OpenInvoice invoice = ReadInvoice(name);
-  if (invoice.version != InvoiceVersion::Known)
+  if (invoice.version != isdoc::Version::Known)
     throw FileError(ShownName(name) + ": " + WhyNotKnown(invoice));
   return std::move(invoice.document);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <ravo/isdoc/document.h>
+#include <ravo/isdoc/version.h>
 
 #include <string>
 #include <vector>
@@ -23,13 +24,10 @@ struct InvoiceFiles {
 /// Returns the files that `names` stand for: of a folder all *.isdoc and *.xml in it and below.
 [[nodiscard]] InvoiceFiles FindInvoices(const std::vector<std::string>& names);
 
-/// Whether a document is an invoice that this program knows.
-enum class InvoiceVersion { Known, Other, None };
-
 /// A document read from a file.
 struct OpenInvoice {
   ravo::isdoc::Document document;
-  InvoiceVersion version = InvoiceVersion::None;
+  ravo::isdoc::Version version = ravo::isdoc::Version::None;
 };
 
 /// Reads a file, decoded as XML requires. Throws `FileError`, with line and column if it is not XML.

@@ -1,12 +1,12 @@
 #include "isdoc_payment.h"
 
 #include "document_file.h"
-#include "isdoc_fields.h"
 #include "isdoc_file.h"
 #include "text.h"
 #include <ravo/czech/account.h>
 #include <ravo/czech/iban.h>
 #include <ravo/isdoc/amount.h>
+#include <ravo/isdoc/fields.h>
 
 #include <algorithm>
 #include <initializer_list>
@@ -21,6 +21,12 @@ namespace czech = ravo::czech;
 namespace isdoc = ravo::isdoc;
 using isdoc::Document;
 using isdoc::Element;
+using isdoc::ElementAt;
+
+std::string TextOwned(const Document& invoice, const Element* element,
+                      std::initializer_list<std::string_view> path) {
+  return std::string(isdoc::TextAt(invoice, element, path));
+}
 
 // One payment that an invoice asks for, and how many there are.
 struct AskedPayment {
@@ -36,7 +42,7 @@ AskedPayment TransferOf(const Document& invoice) {
   const Element* second = nullptr;
   isdoc::ForEachChild(invoice, *means, "Payment", [&](const Element& payment) {
     ++asked.count;
-    const std::string code = TextAt(invoice, &payment, {"PaymentMeansCode"});
+    const std::string code = TextOwned(invoice, &payment, {"PaymentMeansCode"});
     if (code == "42" && asked.payment == nullptr) asked.payment = &payment;
     if (code == "31" && second == nullptr) second = &payment;
   });
@@ -91,9 +97,9 @@ class Filler {
     AddToInvoice("AM", Money(Payable(IsLocal())));
     AddToInvoice("CC", request_.currency);
     AddToInvoice("VS", Detail("VariableSymbol"));
-    AddToInvoice("VII", TaxNumberOf(invoice_, ElementAt(invoice_, &invoice_.Root(), {kSupplier, "Party"})));
+    AddToInvoice("VII", std::string(isdoc::PartyOf(invoice_, kSupplier).dic));
     AddToInvoice("INI", Party(kSupplier, {"PartyIdentification", "ID"}));
-    AddToInvoice("VIR", TaxNumberOf(invoice_, ElementAt(invoice_, &invoice_.Root(), {kCustomer, "Party"})));
+    AddToInvoice("VIR", std::string(isdoc::PartyOf(invoice_, kCustomer).dic));
     AddToInvoice("INR", Party(kCustomer, {"PartyIdentification", "ID"}));
     AddToInvoice("DUZP", DayDigits(Head("TaxPointDate")));
   }
@@ -104,15 +110,17 @@ class Filler {
   [[noreturn]] void Refuse(const std::string& why) const { throw FileError(name_ + ": " + why); }
 
   [[nodiscard]] std::string Head(std::string_view name) const {
-    return TextAt(invoice_, &invoice_.Root(), {name});
+    return TextOwned(invoice_, &invoice_.Root(), {name});
   }
-  [[nodiscard]] std::string Detail(std::string_view name) const { return TextAt(invoice_, details_, {name}); }
+  [[nodiscard]] std::string Detail(std::string_view name) const {
+    return TextOwned(invoice_, details_, {name});
+  }
   [[nodiscard]] std::string Party(std::string_view role, std::initializer_list<std::string_view> path) const {
-    return TextAt(invoice_, ElementAt(invoice_, &invoice_.Root(), {role, "Party"}), path);
+    return TextOwned(invoice_, ElementAt(invoice_, &invoice_.Root(), {role, "Party"}), path);
   }
   [[nodiscard]] std::string Payable(bool is_local) const {
     const char* const name = is_local ? "PayableAmount" : "PayableAmountCurr";
-    return TextAt(invoice_, &invoice_.Root(), {"LegalMonetaryTotal", name});
+    return TextOwned(invoice_, &invoice_.Root(), {"LegalMonetaryTotal", name});
   }
   [[nodiscard]] bool IsLocal() const { return request_.currency == local_; }
 
@@ -196,7 +204,7 @@ class Filler {
       Refuse(Text("the document has several payments and two currencies; give --amount and --currency"));
     if (asked_.payment == nullptr)
       Refuse(Text("no payment of the document is a transfer to an account; give --amount"));
-    std::string part = TextAt(invoice_, asked_.payment, {"PaidAmount"});
+    std::string part = TextOwned(invoice_, asked_.payment, {"PaidAmount"});
     notes_.push_back({"payments", Text("the document has {0} payments; this is the first transfer, of {1}",
                                        {std::to_string(asked_.count), Money(part)})});
     return part;

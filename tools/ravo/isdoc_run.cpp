@@ -38,7 +38,7 @@ void Count(const InvoiceResult& result, InvoiceCounts& counts) {
 
 // In a folder there are other XML files too; what claims to be an invoice is one.
 bool IsSkipped(const InvoiceFile& file, const OpenInvoice& invoice) {
-  return !file.is_named && file.name.ends_with(".xml") && invoice.version == InvoiceVersion::None;
+  return !file.is_named && file.name.ends_with(".xml") && invoice.version == ravo::isdoc::Version::None;
 }
 
 void WorkOn(const InvoiceFile& file, const Work& work, Batch& batch) {
@@ -48,7 +48,7 @@ void WorkOn(const InvoiceFile& file, const Work& work, Batch& batch) {
       ++batch.counts.skipped;
       return;
     }
-    if (invoice.version != InvoiceVersion::Known)
+    if (invoice.version != ravo::isdoc::Version::Known)
       throw FileError(ShownName(file.name) + ": " + WhyNotKnown(invoice));
     const InvoiceResult result = work(file.name, invoice.document);
     batch.out += result.out;

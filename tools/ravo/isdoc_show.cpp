@@ -1,5 +1,4 @@
 #include "columns.h"
-#include "isdoc_fields.h"
 #include "isdoc_file.h"
 #include "isdoc_work.h"
 #include "json_text.h"
@@ -8,6 +7,7 @@
 #include "xml_tree_text.h"
 #include "xml_work.h"
 #include <ravo/isdoc/amount.h>
+#include <ravo/isdoc/fields.h>
 #include <ravo/isdoc/tax_ways.h>
 
 #include <initializer_list>
@@ -67,35 +67,17 @@ constexpr NamedWay kWays[] = {
 
 const NamedWay& Named(isdoc::TaxWay way) { return kWays[static_cast<std::size_t>(way)]; }
 
+std::string Shown(std::string_view text) { return OnOneLine(std::string(text)); }
+
 // Amounts have two decimals at least; what is no number stays as it is.
-std::string Money(const std::string& text) {
+std::string Money(std::string_view text) {
   const auto amount = isdoc::Amount::Read(text);
-  return amount ? amount->Text() : text;
+  return amount ? amount->Text() : Shown(text);
 }
 
-// The fields of a document by paths, for the text and for JSON.
-class View {
- public:
-  explicit View(const Document& document) : document_(document) {}
-
-  [[nodiscard]] const Document& Source() const { return document_; }
-  [[nodiscard]] const Element* At(std::initializer_list<std::string_view> path) const {
-    return ElementAt(document_, &document_.Root(), path);
-  }
-  [[nodiscard]] std::string Field(const Element* element,
-                                  std::initializer_list<std::string_view> path) const {
-    return OnOneLine(TextAt(document_, element, path));
-  }
-  [[nodiscard]] std::string Head(std::string_view name) const { return Field(&document_.Root(), {name}); }
-
- private:
-  const Document& document_;
-};
-
-std::string TitleOf(const View& view) {
-  const std::string type = view.Head("DocumentType");
-  const bool is_known = type.size() == 1 && type[0] >= '1' && type[0] <= '7';
-  return Text(kTypes[is_known ? type[0] - '0' : 0]) + " " + view.Head("ID");
+std::string TitleOf(const isdoc::HeadFields& head) {
+  const bool is_known = head.type.size() == 1 && head.type[0] >= '1' && head.type[0] <= '7';
+  return Text(kTypes[is_known ? head.type[0] - '0' : 0]) + " " + Shown(head.number);
 }
 
 std::string Joined(std::initializer_list<std::string> parts, std::string_view between) {
@@ -107,129 +89,114 @@ std::string Joined(std::initializer_list<std::string> parts, std::string_view be
   return text;
 }
 
-std::string AddressOf(const View& view, const Element* party) {
-  const auto field = [&](std::initializer_list<std::string_view> path) { return view.Field(party, path); };
-  return Joined(
-      {Joined({field({"PostalAddress", "StreetName"}), field({"PostalAddress", "BuildingNumber"})}, " "),
-       Joined({field({"PostalAddress", "PostalZone"}), field({"PostalAddress", "CityName"})}, " "),
-       field({"PostalAddress", "Country", "IdentificationCode"})},
-      ", ");
+std::string AddressOf(const isdoc::PartyFields& party) {
+  return Joined({Joined({Shown(party.street), Shown(party.building)}, " "),
+                 Joined({Shown(party.post_code), Shown(party.city)}, " "), Shown(party.country)},
+                ", ");
 }
 
-Json PartyJson(const View& view, const char* role) {
-  const Element* const party = view.At({role, "Party"});
-  if (party == nullptr) return nullptr;
-  return {{"name", view.Field(party, {"PartyName", "Name"})},
-          {"address", AddressOf(view, party)},
-          {"ico", view.Field(party, {"PartyIdentification", "ID"})},
-          {"dic", OnOneLine(TaxNumberOf(view.Source(), party))}};
+Json PartyJson(const Document& document, std::string_view role) {
+  if (isdoc::ElementAt(document, &document.Root(), {role, "Party"}) == nullptr) return nullptr;
+  const isdoc::PartyFields party = isdoc::PartyOf(document, role);
+  return {{"name", Shown(party.name)},
+          {"address", AddressOf(party)},
+          {"ico", Shown(party.ico)},
+          {"dic", Shown(party.dic)}};
 }
 
 struct Field {
   const char* name;     // in JSON
   const char* caption;  // for people
-  std::string_view element;
 };
 constexpr Field kDates[] = {
-    {"issued", ToTranslate("issued"), "IssueDate"},
-    {"tax_point", ToTranslate("tax point"), "TaxPointDate"},
+    {"issued", ToTranslate("issued")},
+    {"tax_point", ToTranslate("tax point")},
 };
 constexpr Field kTotals[] = {
-    {"base", ToTranslate("without tax"), "TaxExclusiveAmount"},
-    {"total", ToTranslate("with tax"), "TaxInclusiveAmount"},
-    {"claimed_total", ToTranslate("taxed deposits"), "AlreadyClaimedTaxInclusiveAmount"},
-    {"difference_total", ToTranslate("less the taxed deposits"), "DifferenceTaxInclusiveAmount"},
-    {"rounding", ToTranslate("rounding"), "PayableRoundingAmount"},
-    {"paid_deposits", ToTranslate("paid deposits"), "PaidDepositsAmount"},
-    {"payable", ToTranslate("to pay"), "PayableAmount"},
+    {"base", ToTranslate("without tax")},
+    {"total", ToTranslate("with tax")},
+    {"claimed_total", ToTranslate("taxed deposits")},
+    {"difference_total", ToTranslate("less the taxed deposits")},
+    {"rounding", ToTranslate("rounding")},
+    {"paid_deposits", ToTranslate("paid deposits")},
+    {"payable", ToTranslate("to pay")},
 };
 
-std::vector<Json> LinesOf(const View& view) {
+std::vector<Json> LinesOf(const Document& document) {
   std::vector<Json> lines;
-  const Element* const all = view.At({"InvoiceLines"});
-  if (all == nullptr) return lines;
-  isdoc::ForEachChild(view.Source(), *all, "InvoiceLine", [&](const Element& line) {
-    const auto field = [&](std::initializer_list<std::string_view> path) { return view.Field(&line, path); };
-    const bool is_reverse =
-        ElementAt(view.Source(), &line, {"ClassifiedTaxCategory", "LocalReverseCharge"}) != nullptr;
-    const Element* const quantity = ElementAt(view.Source(), &line, {"InvoicedQuantity"});
-    lines.push_back({{"line", field({"ID"})},
-                     {"description", field({"Item", "Description"})},
-                     {"quantity", field({"InvoicedQuantity"})},
-                     {"unit", OnOneLine(AttributeAt(view.Source(), quantity, "unitCode"))},
-                     {"unit_price", Money(field({"UnitPrice"}))},
-                     {"rate", field({"ClassifiedTaxCategory", "Percent"})},
-                     {"reverse_charge", is_reverse},
-                     {"base", Money(field({"LineExtensionAmount"}))},
-                     {"tax", Money(field({"LineExtensionTaxAmount"}))},
-                     {"total", Money(field({"LineExtensionAmountTaxInclusive"}))}});
+  isdoc::ForEachRow(document, isdoc::kLinePlace, [&](const Element& element) {
+    const isdoc::LineFields line = isdoc::LineOf(document, element);
+    lines.push_back({{"line", Shown(line.number)},
+                     {"description", Shown(line.text)},
+                     {"quantity", Shown(line.quantity)},
+                     {"unit", Shown(line.unit)},
+                     {"unit_price", Money(line.unit_price)},
+                     {"rate", Shown(line.rate)},
+                     {"reverse_charge", line.reverse_charge},
+                     {"base", Money(line.base)},
+                     {"tax", Money(line.tax)},
+                     {"total", Money(line.total)}});
   });
   return lines;
 }
 
-std::vector<Json> RatesOf(const View& view) {
+std::vector<Json> RatesOf(const Document& document) {
   std::vector<Json> rates;
-  for (const isdoc::RateWay& rate : isdoc::TaxWays(view.Source())) {
-    const auto field = [&](std::initializer_list<std::string_view> path) {
-      return view.Field(rate.subtotal, path);
-    };
-    rates.push_back({{"rate", field({"TaxCategory", "Percent"})},
-                     {"reverse_charge", field({"TaxCategory", "LocalReverseChargeFlag"}) == "true"},
-                     {"base", Money(field({"TaxableAmount"}))},
-                     {"tax", Money(field({"TaxAmount"}))},
-                     {"total", Money(field({"TaxInclusiveAmount"}))},
-                     {"way", Named(rate.way).code}});
+  for (const isdoc::RateWay& way : isdoc::TaxWays(document)) {
+    const isdoc::RateFields row = isdoc::RateOf(document, *way.subtotal);
+    rates.push_back({{"rate", Shown(row.rate)},
+                     {"reverse_charge", row.reverse_charge},
+                     {"base", Money(row.all.base)},
+                     {"tax", Money(row.all.tax)},
+                     {"total", Money(row.all.total)},
+                     {"way", Named(way.way).code}});
   }
   return rates;
 }
 
-std::vector<Json> PaymentsOf(const View& view) {
+std::vector<Json> PaymentsOf(const Document& document) {
   std::vector<Json> payments;
-  const Element* const all = view.At({"PaymentMeans"});
-  if (all == nullptr) return payments;
-  isdoc::ForEachChild(view.Source(), *all, "Payment", [&](const Element& payment) {
-    const Element* const details = ElementAt(view.Source(), &payment, {"Details"});
-    const auto detail = [&](std::string_view name) { return view.Field(details, {name}); };
-    const std::string account = Joined({detail("ID"), detail("BankCode")}, "/");
-    payments.push_back({{"amount", Money(view.Field(&payment, {"PaidAmount"}))},
-                        {"means", view.Field(&payment, {"PaymentMeansCode"})},
-                        {"due", detail("PaymentDueDate")},
-                        {"account", account},
-                        {"iban", detail("IBAN")},
-                        {"bic", detail("BIC")},
-                        {"vs", detail("VariableSymbol")},
-                        {"ks", detail("ConstantSymbol")},
-                        {"ss", detail("SpecificSymbol")}});
+  isdoc::ForEachRow(document, isdoc::kPaymentPlace, [&](const Element& element) {
+    const isdoc::PaymentFields payment = isdoc::PaymentOf(document, element);
+    payments.push_back({{"amount", Money(payment.amount)},
+                        {"means", Shown(payment.means)},
+                        {"due", Shown(payment.due)},
+                        {"account", Joined({Shown(payment.account), Shown(payment.bank)}, "/")},
+                        {"iban", Shown(payment.iban)},
+                        {"bic", Shown(payment.bic)},
+                        {"vs", Shown(payment.vs)},
+                        {"ks", Shown(payment.ks)},
+                        {"ss", Shown(payment.ss)}});
   });
   return payments;
 }
 
-Json FieldsOf(const View& view, const Element* element, std::span<const Field> fields, bool are_amounts) {
-  Json json = Json::object();
-  for (const Field& field : fields) {
-    const std::string text = view.Field(element, {field.element});
-    json[field.name] = are_amounts ? Money(text) : text;
-  }
-  return json;
+Json TotalsJson(const isdoc::TotalFields& totals) {
+  return {{"base", Money(totals.all.base)},
+          {"total", Money(totals.all.total)},
+          {"claimed_total", Money(totals.claimed.total)},
+          {"difference_total", Money(totals.difference.total)},
+          {"rounding", Money(totals.rounding)},
+          {"paid_deposits", Money(totals.paid_deposits)},
+          {"payable", Money(totals.payable)}};
 }
 
 // An invoice as JSON; the text for people is made of the same.
-Json InvoiceJson(const View& view) {
-  const std::string foreign = view.Head("ForeignCurrencyCode");
-  const std::string local = view.Head("LocalCurrencyCode");
-  return {{"type", view.Head("DocumentType")},
-          {"document", view.Head("ID")},
-          {"uuid", view.Head("UUID")},
-          {"dates", FieldsOf(view, &view.Source().Root(), kDates, false)},
-          {"currency", local},
-          {"foreign_currency", foreign},
-          {"note", view.Head("Note")},
-          {"supplier", PartyJson(view, "AccountingSupplierParty")},
-          {"customer", PartyJson(view, "AccountingCustomerParty")},
-          {"lines", LinesOf(view)},
-          {"recapitulation", RatesOf(view)},
-          {"totals", FieldsOf(view, view.At({"LegalMonetaryTotal"}), kTotals, true)},
-          {"payments", PaymentsOf(view)}};
+Json InvoiceJson(const Document& document) {
+  const isdoc::HeadFields head = isdoc::HeadOf(document);
+  return {{"type", Shown(head.type)},
+          {"document", Shown(head.number)},
+          {"uuid", Shown(head.uuid)},
+          {"dates", {{"issued", Shown(head.issued)}, {"tax_point", Shown(head.tax_point)}}},
+          {"currency", Shown(head.currency)},
+          {"foreign_currency", Shown(head.foreign_currency)},
+          {"note", Shown(head.note)},
+          {"supplier", PartyJson(document, "AccountingSupplierParty")},
+          {"customer", PartyJson(document, "AccountingCustomerParty")},
+          {"lines", LinesOf(document)},
+          {"recapitulation", RatesOf(document)},
+          {"totals", TotalsJson(isdoc::TotalsOf(document))},
+          {"payments", PaymentsOf(document)}};
 }
 
 std::string Str(const Json& json, const char* name) { return json.at(name).get<std::string>(); }
@@ -322,9 +289,10 @@ std::string PaymentText(const Json& payment) {
   return rows.Text();
 }
 
-std::string InvoiceText(const View& view, const Json& invoice) {
-  std::string text = TitleOf(view) + "\n" + HeadText(invoice) + "\n" + LinesText(invoice.at("lines")) + "\n" +
-                     RatesText(invoice.at("recapitulation")) + "\n" + TotalsText(invoice);
+std::string InvoiceText(const Document& document, const Json& invoice) {
+  std::string text = TitleOf(isdoc::HeadOf(document)) + "\n" + HeadText(invoice) + "\n" +
+                     LinesText(invoice.at("lines")) + "\n" + RatesText(invoice.at("recapitulation")) + "\n" +
+                     TotalsText(invoice);
   for (const Json& payment : invoice.at("payments")) text += "\n" + PaymentText(payment);
   return text;
 }
@@ -333,9 +301,8 @@ std::string InvoiceText(const View& view, const Json& invoice) {
 
 void ShowInvoice(const IsdocOptions& options, Outcome& outcome) {
   const Document document = ReadKnownInvoice(options.file);
-  const View view(document);
-  const Json invoice = InvoiceJson(view);
-  AddOutput(outcome, options.json ? JsonLine(invoice) : InvoiceText(view, invoice));
+  const Json invoice = InvoiceJson(document);
+  AddOutput(outcome, options.json ? JsonLine(invoice) : InvoiceText(document, invoice));
 }
 
 }  // namespace tool
