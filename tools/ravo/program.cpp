@@ -169,6 +169,8 @@ void Describe(CLI::App& program, Outcome& outcome) {
 Outcome Run(std::vector<std::string> arguments) {
   if (const auto language = LanguageAsked(arguments)) SetLanguage(*language);
   CLI::App program;
+  // A path or a bank code may begin with a slash, on Windows too.
+  program.allow_windows_style_options(false);
   Outcome outcome;
   Describe(program, outcome);
   arguments = MarkedAfterDashes(std::move(arguments));
