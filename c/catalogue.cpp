@@ -40,9 +40,10 @@ struct TableSlot {
 
 constexpr auto kTableSlots = [] {
   std::array<TableSlot, std::size_t{1} << ravo::table_index::kSlotBits> slots{};
-  for (std::uint16_t row = 0; row < std::size(kTables); ++row) {
+  for (std::size_t row = 0; row < std::size(kTables); ++row) {
     for (std::int32_t id = kTables[row].first; id <= kTables[row].last; ++id)
-      slots[ravo::table_index::Place(id, ravo::table_index::kTableHashMultiplier)] = {id, row};
+      slots[ravo::table_index::Place(id, ravo::table_index::kTableHashMultiplier)] = {
+          id, static_cast<std::uint16_t>(row)};
   }
   return slots;
 }();

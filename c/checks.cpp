@@ -1,6 +1,8 @@
 #include "support.h"
 #include <ravo/czech/kinds.h>
 
+#include <iterator>
+
 using ravo::c::Fail;
 using ravo::c::FailArgument;
 using ravo::c::FailWrong;
@@ -29,12 +31,13 @@ czech::Code CodeOf(std::int32_t code) {
 czech::Kind KindOf(ravo_kind kind) { return static_cast<czech::Kind>(kind > 0 && kind <= 0xFF ? kind : 0); }
 
 // Kinds are numbered from 1, without gaps.
-#define RAVO_KIND(number, name, text, parse, czech, english) +1
-constexpr ravo_kind kKinds =
+#define RAVO_KIND(number, name, text, parse, in_czech, in_english) czech::Kind::name,
+constexpr czech::Kind kKindList[] = {
 #include <ravo/czech/kinds.inc>
-    ;
+};
 #undef RAVO_KIND
-static_assert(static_cast<ravo_kind>(czech::Kind::Isbn) == kKinds);
+constexpr auto kKinds = static_cast<ravo_kind>(std::size(kKindList));
+static_assert(static_cast<ravo_kind>(kKindList[kKinds - 1]) == kKinds);
 
 template <class Check>
 ravo_status Checked(ravo_kind kind, const char* text, std::size_t text_length, const ravo::c::TextOut& out,

@@ -5,7 +5,6 @@
 
 using ravo::c::FailArgument;
 using ravo::c::FailNullResult;
-using ravo::c::FailRange;
 using ravo::c::FailRefused;
 using ravo::c::FailStruct;
 using ravo::c::FailUnknown;

@@ -164,8 +164,8 @@ class Filler {
 
   // Of one account spelled twice the IBAN, if both are right; a wrong one is refused by who takes it.
   [[nodiscard]] std::string AccountOf() const {
-    const std::string iban = Detail("IBAN");
-    const std::string number = NumberOf();
+    std::string iban = Detail("IBAN");
+    std::string number = NumberOf();
     if (!iban.empty() && CountryOf(iban) != "CZ") {
       const std::string bic = Detail("BIC");
       return bic.empty() ? iban : iban + "+" + bic;

@@ -63,8 +63,7 @@ std::string OptionNamed(const std::string& name) { return name.empty() ? "--lang
 
 std::string Phrased(const Phrase& phrase, std::vector<std::string> parts) {
   parts.resize(std::max<std::size_t>(parts.size(), 4));
-  const std::string text =
-      Text(phrase.ours, {OptionNamed(parts[0]), parts[1], WithSpaces(parts[2]), parts[3]});
+  std::string text = Text(phrase.ours, {OptionNamed(parts[0]), parts[1], WithSpaces(parts[2]), parts[3]});
   if (phrase.parser != kNotInSet) return text;
   const std::string meant = DidYouMean(parts[1], CLI::detail::split(parts[2], ','));
   return meant.empty() ? text : text + " " + meant;
