@@ -97,13 +97,12 @@ static void writes_records(void) {
   EXPECT(wrote(TEXT("\0\0\0\0\0")));
 }
 
-/* Reads the record at `from` of some bytes; where the next one begins, or -1. */
+/* Reads the record at `from` of some bytes; where the next one begins, or the status below 0. */
 static int read_record(const char* bytes, size_t bytes_length, size_t from) {
   size_t end = 0;
-  return ravo_suite_string_from_stream(bytes, bytes_length, from, written, sizeof written, &written_length,
-                                       &end, NULL) == RAVO_OK
-             ? (int)end
-             : -1;
+  const ravo_status status = ravo_suite_string_from_stream(bytes, bytes_length, from, written, sizeof written,
+                                                           &written_length, &end, NULL);
+  return status == RAVO_OK ? (int)end : -(int)status;
 }
 
 static void reads_records(void) {
@@ -111,19 +110,20 @@ static void reads_records(void) {
   EXPECT(read_record(two, sizeof two, 0) == 10 && wrote(TEXT("first")));
   EXPECT(read_record(two, sizeof two, 10) == 18 && wrote(TEXT("a\0b")));
   EXPECT(sizeof two == 18);
-  EXPECT(read_record(two, sizeof two, 18) == -1 && read_record(two, sizeof two, 15) == -1);
-  EXPECT(read_record(two, sizeof two, 19) == -1 && read_record(two, sizeof two, (size_t)-1) == -1);
-  EXPECT(read_record(NULL, 0, 0) == -1);
+  EXPECT(read_record(two, sizeof two, 18) == -RAVO_RANGE && read_record(two, sizeof two, 15) == -RAVO_RANGE);
+  EXPECT(read_record(two, sizeof two, 19) == -RAVO_RANGE &&
+         read_record(two, sizeof two, (size_t)-1) == -RAVO_RANGE);
+  EXPECT(read_record(NULL, 0, 0) == -RAVO_RANGE);
 }
 
 static void reads_broken_records(void) {
   size_t end = 0;
   EXPECT(read_record(TEXT("\6\0\0\0ab"), 0) == 7 && wrote(TEXT("ab\0\0\0\0")));
-  EXPECT(read_record(TEXT("\1\0\0"), 0) == -1);
+  EXPECT(read_record(TEXT("\1\0\0"), 0) == -RAVO_RANGE);
   EXPECT(read_record(TEXT("\xFF\xFF\xFF\xFF"
                           "a"),
-                     0) == -1);
-  EXPECT(read_record(TEXT("\0\0\0\x80"), 0) == -1);
+                     0) == -RAVO_RANGE);
+  EXPECT(read_record(TEXT("\0\0\0\x80"), 0) == -RAVO_RANGE);
   /* What a record promises is not allocated. */
   EXPECT(ravo_suite_string_from_stream("\xFF\xFF\xFF\x7Fxy", 6, 0, NULL, 0, &written_length, &end, NULL) ==
          RAVO_OK);
