@@ -31,13 +31,14 @@
  *           once.
  * Money.    A ravo_money is an amount in ten-thousandths: 12 crowns 50 are 125000.
  * Days.     A ravo_day is a Julian Day Number: 2451545 is 1 January 2000. What depends on the day takes it as an
- *           argument: the library has no clock.
+ *           argument: but for the chapter "this machine", nothing asks the clock.
  * Versions. Names, numbers and meanings in this file are kept for ever; new ones are added. A struct that may grow
  *           begins with its size, which its _INIT sets. The symbols have the version RAVO_1.0.
  *
  * A check of form says "correct in form" and never that something exists. The file is in chapters: failure,
  * version, checks, what numbers tell, banks, days, holidays and terms, money, VAT, payment codes, invoices, the
- * suite's own rules, its tables and captions, texts, checksums, encodings.
+ * suite's own rules, its forms and records, its tables, captions and modules, this machine, texts, checksums, random
+ * numbers, encodings, columns.
  */
 #ifndef RAVO_H
 #define RAVO_H
@@ -1249,7 +1250,77 @@ ravo_status RAVO_CALL ravo_suite_remove_diacritics(const void *bytes, size_t byt
                                                    size_t size, size_t *length, ravo_error *error);
 
 /* ------------------------------------------------------------------------------------------------------------
- * Tables and captions of the suite
+ * Forms and records of the suite
+ *
+ * What the modules of the suite write into PDF forms, XML exports and streams. Forms are in Windows-1250; a character
+ * that it lacks becomes "?". Results allocate.
+ */
+
+/*
+ * Writes a text as the text string of a PDF: the bytes FE FF and UTF-16, high byte first.
+ *
+ * The byte 0D of "č" is written as "\r", which readers of PDF would change to a line feed. Nothing else is escaped.
+ */
+ravo_status RAVO_CALL ravo_suite_win_1250_to_pdf_doc_encoding(const char *text, size_t text_length, void *buffer,
+                                                              size_t size, size_t *length, ravo_error *error);
+
+/*
+ * Writes a field of a forms data file (FDF): the name in Windows-1250, the value too, or with `as_unicode` as a text
+ * string.
+ *
+ * Neither is escaped. The header, the brackets and the trailer around the fields are the caller's.
+ *
+ *     ravo_suite_fill_pdf_field("Jmeno", ..., "Rada", ..., 0, ...)  // <</T(Jmeno)/V(Rada)>>
+ */
+ravo_status RAVO_CALL ravo_suite_fill_pdf_field(const char *name, size_t name_length, const char *value,
+                                                size_t value_length, int32_t as_unicode, void *buffer,
+                                                size_t size, size_t *length, ravo_error *error);
+
+/* Writes a field of a check box or a choice, whose states are numbers: "<</T(Ano)/V/1>>". */
+ravo_status RAVO_CALL ravo_suite_fill_pdf_field_as_integer(const char *name, size_t name_length, int32_t value,
+                                                           void *buffer, size_t size, size_t *length,
+                                                           ravo_error *error);
+
+/*
+ * Writes the date of a moment for a form: "5.3.2024", "5.3." with `without_year`, "05.03.2024" with `leading_zeros`.
+ *
+ * Nothing for the moment 0. RAVO_RANGE outside of the years 1 to 9999.
+ */
+ravo_status RAVO_CALL ravo_suite_date_2_pdf(ravo_suite_moment moment, int32_t without_year,
+                                            int32_t leading_zeros, char *buffer, size_t size, size_t *length,
+                                            ravo_error *error);
+
+/* Writes the date of a moment for an XML export, "2024-03-05", as ravo_suite_date_2_pdf. */
+ravo_status RAVO_CALL ravo_suite_date_2_xml(ravo_suite_moment moment, char *buffer, size_t size, size_t *length,
+                                            ravo_error *error);
+
+/* Writes "X" for a value that is not 0, and nothing for 0. */
+ravo_status RAVO_CALL ravo_suite_bool_2_xml(int32_t value, char *buffer, size_t size, size_t *length,
+                                            ravo_error *error);
+
+/*
+ * Writes a string record: the number of bytes as a signed number of 32 bits, little-endian, the bytes, and a zero.
+ *
+ * The bytes are text in the code page of the suite, Windows-1250. RAVO_RANGE if their number does not fit 32 bits.
+ */
+ravo_status RAVO_CALL ravo_suite_string_to_stream(const void *bytes, size_t bytes_length, void *buffer,
+                                                  size_t size, size_t *length, ravo_error *error);
+
+/*
+ * Writes the text of the string record that begins at the byte `from`, and to `*end` where the next one begins.
+ *
+ * A record may promise more bytes than there are: those are zeros, and `*end` is one byte past the end of all.
+ * RAVO_RANGE if fewer than four bytes follow `from`, or the number is negative. Never allocates.
+ *
+ *     for (at = 0; at < stream_length; at = end)
+ *       ravo_suite_string_from_stream(stream, stream_length, at, text, sizeof text, &length, &end, NULL);
+ */
+ravo_status RAVO_CALL ravo_suite_string_from_stream(const void *bytes, size_t bytes_length, size_t from,
+                                                    void *buffer, size_t size, size_t *length, size_t *end,
+                                                    ravo_error *error);
+
+/* ------------------------------------------------------------------------------------------------------------
+ * Tables, captions and modules of the suite
  */
 
 /* A table, or tables that share a name. Declare it as `ravo_suite_table table = RAVO_SUITE_TABLE_INIT;`. */
@@ -1300,6 +1371,47 @@ ravo_status RAVO_CALL ravo_suite_caption_at(size_t index, ravo_suite_caption *ca
 /* Writes the caption with a name. RAVO_UNKNOWN if there is none. Never allocates. */
 ravo_status RAVO_CALL ravo_suite_caption_find(const char *name, size_t name_length, ravo_suite_caption *caption,
                                               ravo_error *error);
+
+/* A module of the suite's library. Declare it as `ravo_suite_module module = RAVO_SUITE_MODULE_INIT;`. */
+typedef struct ravo_suite_module {
+  size_t size;       /* sizeof(ravo_suite_module), set by the caller */
+  const char *name;  /* "DIUnicode" */
+  const char *uses;  /* the modules that start before it, separated by blanks */
+  int32_t order;     /* its place in the order in which modules start, from 0; they stop in reverse */
+  int32_t is_main;   /* 1 for the main module, else 0 */
+} ravo_suite_module;
+
+#define RAVO_SUITE_MODULE_INIT {sizeof(ravo_suite_module), 0, 0, 0, 0}
+
+/* Returns how many modules the suite's library contains. Never allocates. */
+size_t RAVO_CALL ravo_suite_module_count(void);
+
+/* Writes the module with an index, as the package names them. RAVO_UNKNOWN past the last. Never allocates. */
+ravo_status RAVO_CALL ravo_suite_module_at(size_t index, ravo_suite_module *module, ravo_error *error);
+
+/* ------------------------------------------------------------------------------------------------------------
+ * This machine
+ *
+ * The one chapter whose answers depend on the machine and the moment, not on arguments alone.
+ */
+
+/* Which part of the suite asks for the report. */
+typedef int32_t ravo_machine_layer;
+enum {
+  RAVO_MACHINE_CLIENT = 0,  /* a client with a user interface */
+  RAVO_MACHINE_BUSINESS = 1 /* the application layer */
+};
+
+/*
+ * Writes the suite's support report: date and time, system, folders, memory, disks, and the installed files of the
+ * suite, in Czech, indented with tabs, with CR LF after each line.
+ *
+ * It reads clock, locale, registry and files, changes nothing and sends nothing. It names the computer, its user and
+ * folders. A value that the machine does not have is empty, and its line is still there. Two reports may differ in
+ * length: some 64 KiB are room for each. Allocates.
+ */
+ravo_status RAVO_CALL ravo_machine_report(ravo_machine_layer layer, char *buffer, size_t size, size_t *length,
+                                          ravo_error *error);
 
 /* ------------------------------------------------------------------------------------------------------------
  * Texts
@@ -1371,6 +1483,86 @@ enum {
  */
 ravo_status RAVO_CALL ravo_suite_hash(ravo_suite_hash_of what, const void *bytes, size_t bytes_length,
                                       uint32_t initial, uint32_t *hash, ravo_error *error);
+
+/* ------------------------------------------------------------------------------------------------------------
+ * Random numbers and texts
+ *
+ * The Mersenne Twister MT19937: a seed gives the same numbers on every machine. Not for secrets. Numbers that the
+ * generator draws never allocate.
+ *
+ *     ravo_random *random = NULL;
+ *     uint32_t number = 0;
+ *     ravo_random_open(5489, &random, NULL);
+ *     ravo_random_int32(random, &number, NULL);  // 3499211612
+ *     ravo_random_close(random);
+ */
+
+/* A generator. One thread at a time may use it. */
+typedef struct ravo_random ravo_random;
+
+/* Opens a generator by a number. Close it with ravo_random_close. Allocates. */
+ravo_status RAVO_CALL ravo_random_open(uint32_t seed, ravo_random **random, ravo_error *error);
+
+/* Opens a generator by an array of keys, as the generator's authors do. RAVO_RANGE if there are none. Allocates. */
+ravo_status RAVO_CALL ravo_random_open_array(const uint32_t *keys, size_t keys_length, ravo_random **random,
+                                             ravo_error *error);
+
+/*
+ * Opens a generator by bytes, as the suite does: each byte is a key.
+ *
+ * From 624 bytes on it is another generator than that of an array with the same keys. RAVO_RANGE if there are none.
+ * Allocates.
+ */
+ravo_status RAVO_CALL ravo_random_open_bytes(const void *bytes, size_t bytes_length, ravo_random **random,
+                                             ravo_error *error);
+
+/* Closes a generator. Null is allowed. */
+void RAVO_CALL ravo_random_close(ravo_random *random);
+
+/* Writes the upper 31 of the next 32 bits: 0 to 2147483647. Never allocates. */
+ravo_status RAVO_CALL ravo_random_int31(ravo_random *random, uint32_t *number, ravo_error *error);
+
+/* Writes the next 32 bits. Never allocates. */
+ravo_status RAVO_CALL ravo_random_int32(ravo_random *random, uint32_t *number, ravo_error *error);
+
+/*
+ * Writes the next 32 bits as the low half, and the upper 31 bits of the draw after it as the high half.
+ *
+ * RAVO_RANGE if the highest bit of the low half is set, as it is every other time: that draw is gone. For 63 bits
+ * that never fail, call ravo_random_int32 and ravo_random_int31. Allocates on failure alone.
+ */
+ravo_status RAVO_CALL ravo_random_int63(ravo_random *random, int64_t *number, ravo_error *error);
+
+/*
+ * Writes the next 32 bits as the low half, and the 32 bits after them as the high half.
+ *
+ * RAVO_RANGE if the highest bit of either is set: the draws up to that one are gone. For 64 bits that never fail,
+ * call ravo_random_int32 twice. Allocates on failure alone.
+ */
+ravo_status RAVO_CALL ravo_random_int64(ravo_random *random, int64_t *number, ravo_error *error);
+
+/* Writes a number from 0 to 1, both included, in steps of 1 / (2^32 - 1). Never allocates. */
+ravo_status RAVO_CALL ravo_random_real1(ravo_random *random, double *number, ravo_error *error);
+
+/* Writes a number from 0 to below 1, in steps of 2^-32. Never allocates. */
+ravo_status RAVO_CALL ravo_random_real2(ravo_random *random, double *number, ravo_error *error);
+
+/* Writes a number between 0 and 1, neither included, in steps of 2^-32. Never allocates. */
+ravo_status RAVO_CALL ravo_random_real3(ravo_random *random, double *number, ravo_error *error);
+
+/* Writes a number from 0 to below 1, in steps of 2^-53, from two draws. Never allocates. */
+ravo_status RAVO_CALL ravo_random_res53(ravo_random *random, double *number, ravo_error *error);
+
+/*
+ * Writes a text of `count` characters of an alphabet, one draw for each: what the suite's StrRandom makes if the
+ * generator was just opened by the bytes of its seed.
+ *
+ * RAVO_ARGUMENT if the alphabet is empty and `count` is not 0. If the buffer is null or too small, the generator stays
+ * as it was. Allocates.
+ */
+ravo_status RAVO_CALL ravo_random_text(ravo_random *random, const char *alphabet, size_t alphabet_length,
+                                       size_t count, char *buffer, size_t size, size_t *length,
+                                       ravo_error *error);
 
 /* ------------------------------------------------------------------------------------------------------------
  * Encodings

@@ -81,13 +81,14 @@ Units::Units(std::string_view text) {
   }
 }
 
-ravo_status WriteBytes(const TextOut& out, std::string_view bytes, ravo_error* error) noexcept {
+ravo_status WriteBytes(const TextOut& out, std::string_view bytes, ravo_error* error,
+                       std::size_t zeros) noexcept {
   if (IsBroken(out)) return FailArgument(error, "the buffer is null, but its size is not 0");
-  if (out.length != nullptr) *out.length = bytes.size();
+  const std::size_t total = bytes.size() + zeros;
+  if (out.length != nullptr) *out.length = total;
   if (out.buffer == nullptr) return RAVO_OK;
-  if (out.size < bytes.size())
-    return Fail(error, {RAVO_BUFFER, 0, 0, "the result is longer than its buffer"});
-  std::copy_n(bytes.data(), bytes.size(), out.buffer);
+  if (out.size < total) return Fail(error, {RAVO_BUFFER, 0, 0, "the result is longer than its buffer"});
+  std::fill_n(std::copy_n(bytes.data(), bytes.size(), out.buffer), zeros, '\0');
   return RAVO_OK;
 }
 

@@ -146,8 +146,9 @@ struct TextOut {
 /// Writes a result as ravo.h says under "Results".
 [[nodiscard]] ravo_status WriteText(const TextOut& out, std::string_view text, ravo_error* error) noexcept;
 
-/// Writes bytes, without NUL after them: all or none.
-[[nodiscard]] ravo_status WriteBytes(const TextOut& out, std::string_view bytes, ravo_error* error) noexcept;
+/// Writes bytes and zeros after them, without NUL: all or none.
+[[nodiscard]] ravo_status WriteBytes(const TextOut& out, std::string_view bytes, ravo_error* error,
+                                     std::size_t zeros = 0) noexcept;
 
 /// Whether a buffer is null although its size is not 0.
 [[nodiscard]] inline bool IsBroken(const TextOut& out) noexcept {

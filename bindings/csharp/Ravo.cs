@@ -1364,6 +1364,67 @@ public static class Ravo
     public static extern int ravo_suite_remove_diacritics(byte[] bytes, UIntPtr bytes_length, IntPtr buffer,
         UIntPtr size, ref UIntPtr length, [In, Out] ravo_error error);
 
+    /// <summary>Writes a text as the text string of a PDF: the bytes FE FF and UTF-16, high byte first.</summary>
+    /// <remarks>
+    /// <para>The byte 0D of "č" is written as "\r", which readers of PDF would change to a line feed. Nothing else is escaped.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_win_1250_to_pdf_doc_encoding(byte[] text, UIntPtr text_length,
+        IntPtr buffer, UIntPtr size, ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>Writes a field of a forms data file (FDF): the name in Windows-1250, the value too, or with `as_unicode` as a text
+    /// string.</summary>
+    /// <remarks>
+    /// <para>Neither is escaped. The header, the brackets and the trailer around the fields are the caller's.</para>
+    /// <code>ravo_suite_fill_pdf_field("Jmeno", ..., "Rada", ..., 0, ...)  // &lt;&lt;/T(Jmeno)/V(Rada)>></code>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_fill_pdf_field(byte[] name, UIntPtr name_length, byte[] value,
+        UIntPtr value_length, int as_unicode, IntPtr buffer, UIntPtr size, ref UIntPtr length,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes a field of a check box or a choice, whose states are numbers: "&lt;&lt;/T(Ano)/V/1>>".</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_fill_pdf_field_as_integer(byte[] name, UIntPtr name_length, int value,
+        IntPtr buffer, UIntPtr size, ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>Writes the date of a moment for a form: "5.3.2024", "5.3." with `without_year`, "05.03.2024" with `leading_zeros`.</summary>
+    /// <remarks>
+    /// <para>Nothing for the moment 0. RAVO_RANGE outside of the years 1 to 9999.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_date_2_pdf(double moment, int without_year, int leading_zeros,
+        [Out] byte[] buffer, UIntPtr size, ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>Writes the date of a moment for an XML export, "2024-03-05", as ravo_suite_date_2_pdf.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_date_2_xml(double moment, [Out] byte[] buffer, UIntPtr size,
+        ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>Writes "X" for a value that is not 0, and nothing for 0.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_bool_2_xml(int value, [Out] byte[] buffer, UIntPtr size, ref UIntPtr length,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes a string record: the number of bytes as a signed number of 32 bits, little-endian, the bytes, and a zero.</summary>
+    /// <remarks>
+    /// <para>The bytes are text in the code page of the suite, Windows-1250. RAVO_RANGE if their number does not fit 32 bits.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_string_to_stream(byte[] bytes, UIntPtr bytes_length, IntPtr buffer,
+        UIntPtr size, ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>Writes the text of the string record that begins at the byte `from`, and to `*end` where the next one begins.</summary>
+    /// <remarks>
+    /// <para>A record may promise more bytes than there are: those are zeros, and `*end` is one byte past the end of all.
+    /// RAVO_RANGE if fewer than four bytes follow `from`, or the number is negative. Never allocates.</para>
+    /// <code>for (at = 0; at &lt; stream_length; at = end)
+    ///   ravo_suite_string_from_stream(stream, stream_length, at, text, sizeof text, &amp;length, &amp;end, NULL);</code>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_string_from_stream(byte[] bytes, UIntPtr bytes_length, UIntPtr from,
+        IntPtr buffer, UIntPtr size, ref UIntPtr length, ref UIntPtr end, [In, Out] ravo_error error);
+
     /// <summary>A table, or tables that share a name. Declare it as `ravo_suite_table table = RAVO_SUITE_TABLE_INIT;`.</summary>
     [StructLayout(LayoutKind.Sequential)]
     public sealed class ravo_suite_table
@@ -1433,6 +1494,47 @@ public static class Ravo
     public static extern int ravo_suite_caption_find(byte[] name, UIntPtr name_length,
         [In, Out] ravo_suite_caption caption, [In, Out] ravo_error error);
 
+    /// <summary>A module of the suite's library. Declare it as `ravo_suite_module module = RAVO_SUITE_MODULE_INIT;`.</summary>
+    [StructLayout(LayoutKind.Sequential)]
+    public sealed class ravo_suite_module
+    {
+        /// <summary>sizeof(ravo_suite_module), set by the caller</summary>
+        public UIntPtr size = (UIntPtr)Marshal.SizeOf(typeof(ravo_suite_module));
+        /// <summary>"DIUnicode"</summary>
+        public IntPtr name;
+        /// <summary>the modules that start before it, separated by blanks</summary>
+        public IntPtr uses;
+        /// <summary>its place in the order in which modules start, from 0; they stop in reverse</summary>
+        public int order;
+        /// <summary>1 for the main module, else 0</summary>
+        public int is_main;
+    }
+
+    /// <summary>Returns how many modules the suite's library contains. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern UIntPtr ravo_suite_module_count();
+
+    /// <summary>Writes the module with an index, as the package names them. RAVO_UNKNOWN past the last. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_module_at(UIntPtr index, [In, Out] ravo_suite_module module,
+        [In, Out] ravo_error error);
+
+    /// <summary>a client with a user interface</summary>
+    public const int RAVO_MACHINE_CLIENT = 0;
+    /// <summary>the application layer</summary>
+    public const int RAVO_MACHINE_BUSINESS = 1;
+
+    /// <summary>Writes the suite's support report: date and time, system, folders, memory, disks, and the installed files of the
+    /// suite, in Czech, indented with tabs, with CR LF after each line.</summary>
+    /// <remarks>
+    /// <para>It reads clock, locale, registry and files, changes nothing and sends nothing. It names the computer, its user and
+    /// folders. A value that the machine does not have is empty, and its line is still there. Two reports may differ in
+    /// length: some 64 KiB are room for each. Allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_machine_report(int layer, [Out] byte[] buffer, UIntPtr size, ref UIntPtr length,
+        [In, Out] ravo_error error);
+
     /// <summary>Writes a text in upper case.</summary>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern int ravo_text_upper(byte[] text, UIntPtr text_length, [Out] byte[] buffer, UIntPtr size,
@@ -1495,6 +1597,78 @@ public static class Ravo
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern int ravo_suite_hash(int what, byte[] bytes, UIntPtr bytes_length, uint initial,
         ref uint hash, [In, Out] ravo_error error);
+
+    /// <summary>Opens a generator by a number. Close it with ravo_random_close. Allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_random_open(uint seed, out IntPtr random, [In, Out] ravo_error error);
+
+    /// <summary>Opens a generator by an array of keys, as the generator's authors do. RAVO_RANGE if there are none. Allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_random_open_array(uint[] keys, UIntPtr keys_length, out IntPtr random,
+        [In, Out] ravo_error error);
+
+    /// <summary>Opens a generator by bytes, as the suite does: each byte is a key.</summary>
+    /// <remarks>
+    /// <para>From 624 bytes on it is another generator than that of an array with the same keys. RAVO_RANGE if there are none.
+    /// Allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_random_open_bytes(byte[] bytes, UIntPtr bytes_length, out IntPtr random,
+        [In, Out] ravo_error error);
+
+    /// <summary>Closes a generator. Null is allowed.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern void ravo_random_close(IntPtr random);
+
+    /// <summary>Writes the upper 31 of the next 32 bits: 0 to 2147483647. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_random_int31(IntPtr random, ref uint number, [In, Out] ravo_error error);
+
+    /// <summary>Writes the next 32 bits. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_random_int32(IntPtr random, ref uint number, [In, Out] ravo_error error);
+
+    /// <summary>Writes the next 32 bits as the low half, and the upper 31 bits of the draw after it as the high half.</summary>
+    /// <remarks>
+    /// <para>RAVO_RANGE if the highest bit of the low half is set, as it is every other time: that draw is gone. For 63 bits
+    /// that never fail, call ravo_random_int32 and ravo_random_int31. Allocates on failure alone.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_random_int63(IntPtr random, ref long number, [In, Out] ravo_error error);
+
+    /// <summary>Writes the next 32 bits as the low half, and the 32 bits after them as the high half.</summary>
+    /// <remarks>
+    /// <para>RAVO_RANGE if the highest bit of either is set: the draws up to that one are gone. For 64 bits that never fail,
+    /// call ravo_random_int32 twice. Allocates on failure alone.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_random_int64(IntPtr random, ref long number, [In, Out] ravo_error error);
+
+    /// <summary>Writes a number from 0 to 1, both included, in steps of 1 / (2^32 - 1). Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_random_real1(IntPtr random, ref double number, [In, Out] ravo_error error);
+
+    /// <summary>Writes a number from 0 to below 1, in steps of 2^-32. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_random_real2(IntPtr random, ref double number, [In, Out] ravo_error error);
+
+    /// <summary>Writes a number between 0 and 1, neither included, in steps of 2^-32. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_random_real3(IntPtr random, ref double number, [In, Out] ravo_error error);
+
+    /// <summary>Writes a number from 0 to below 1, in steps of 2^-53, from two draws. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_random_res53(IntPtr random, ref double number, [In, Out] ravo_error error);
+
+    /// <summary>Writes a text of `count` characters of an alphabet, one draw for each: what the suite's StrRandom makes if the
+    /// generator was just opened by the bytes of its seed.</summary>
+    /// <remarks>
+    /// <para>RAVO_ARGUMENT if the alphabet is empty and `count` is not 0. If the buffer is null or too small, the generator stays
+    /// as it was. Allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_random_text(IntPtr random, byte[] alphabet, UIntPtr alphabet_length,
+        UIntPtr count, [Out] byte[] buffer, UIntPtr size, ref UIntPtr length, [In, Out] ravo_error error);
 
     /// <summary>What is known of an encoding. Declare it as `ravo_encoding_info info = RAVO_ENCODING_INFO_INIT;`.</summary>
     [StructLayout(LayoutKind.Sequential)]

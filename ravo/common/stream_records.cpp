@@ -1,5 +1,6 @@
 #include <ravo/common/stream_records.h>
 #include <ravo/runtime/checked.h>
+#include <ravo/runtime/little_endian.h>
 
 #include <algorithm>
 #include <array>
@@ -17,13 +18,6 @@ LengthBytes ToBytes(std::int32_t length) {
     bytes[i] = static_cast<std::byte>(static_cast<std::uint32_t>(length) >> (8 * i));
   }
   return bytes;
-}
-
-std::int32_t FromBytes(const LengthBytes& bytes) {
-  std::uint32_t length = 0;
-  for (std::size_t i = 0; i < bytes.size(); ++i)
-    length |= std::to_integer<std::uint32_t>(bytes[i]) << (8 * i);
-  return static_cast<std::int32_t>(length);
 }
 
 // Reads in blocks, so a malformed record allocates memory for missing bytes only after the read.
@@ -53,7 +47,7 @@ std::string StringFromStream(ByteStream* stream) {
   if (!stream) return {};
   LengthBytes length{};
   stream->ReadChecked(length);
-  const auto promised = CheckedCast<std::uint32_t>(FromBytes(length));
+  const auto promised = CheckedCast<std::uint32_t>(static_cast<std::int32_t>(ReadLittle32(length, 0)));
   std::string text = ReadAvailable(*stream, promised);
   text.resize(promised);
   stream->SetPosition(CheckedAdd(stream->Position(), std::int64_t{1}));

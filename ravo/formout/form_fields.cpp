@@ -1,4 +1,5 @@
 #include <ravo/formout/form_fields.h>
+#include <ravo/formout/machine_free.h>
 #include <ravo/platform/code_pages.h>
 #include <ravo/runtime/text.h>
 #include <ravo/unicode/encodings.h>
@@ -8,12 +9,10 @@
 #include <span>
 #include <string>
 
-namespace ravo::RavoFileCommon {
+namespace ravo::formout {
 namespace {
 
 constexpr char16_t kSmallCWithCaron = u'\u010D';
-
-std::string EightBit(std::u16string_view text) { return platform::CodePages().ToCodePage(text); }
 
 void Write(ByteStream& stream, std::string_view bytes) {
   stream.WriteChecked(std::as_bytes(std::span(bytes)));
@@ -33,6 +32,8 @@ void WriteCharacter(DIUnicode::TDIUnicodeWriter& writer, char16_t ch) {
   for (const char byte : {'\x01', '\\', 'r'}) writer.WriteByte(static_cast<std::uint8_t>(byte));
 }
 
+}  // namespace
+
 // The bytes are interpreted as Windows-1250, even if the system has another code page.
 void WriteTextString(ByteStream& stream, std::string_view bytes) {
   DIUnicode::TDIUnicodeReader reader(nullptr);
@@ -46,22 +47,37 @@ void WriteTextString(ByteStream& stream, std::string_view bytes) {
   writer.FlushDataBuffer();
 }
 
-}  // namespace
-
-void Win1250ToPDFDocEncoding(ByteStream& stream, std::u16string_view text) {
-  WriteTextString(stream, EightBit(text));
-}
-
-void FillPDFField(ByteStream& stream, std::u16string_view name, std::u16string_view value, bool AsUnicode) {
-  const std::string start = "<</T(" + EightBit(name) + ")/V(";
-  if (!AsUnicode) return Write(stream, start + EightBit(value) + ")>>");
+void WriteField(ByteStream& stream, std::string_view name, std::string_view value, bool as_unicode) {
+  const std::string start = "<</T(" + std::string(name) + ")/V(";
+  if (!as_unicode) return Write(stream, start + std::string(value) + ")>>");
   Write(stream, start);
-  WriteTextString(stream, EightBit(value));
+  WriteTextString(stream, value);
   Write(stream, ")>>");
 }
 
+void WriteIntegerField(ByteStream& stream, std::string_view name, std::int32_t value) {
+  Write(stream, "<</T(" + std::string(name) + ")/V/" + std::to_string(value) + ">>");
+}
+
+}  // namespace ravo::formout
+
+namespace ravo::RavoFileCommon {
+namespace {
+
+std::string EightBit(std::u16string_view text) { return platform::CodePages().ToCodePage(text); }
+
+}  // namespace
+
+void Win1250ToPDFDocEncoding(ByteStream& stream, std::u16string_view text) {
+  formout::WriteTextString(stream, EightBit(text));
+}
+
+void FillPDFField(ByteStream& stream, std::u16string_view name, std::u16string_view value, bool AsUnicode) {
+  formout::WriteField(stream, EightBit(name), EightBit(value), AsUnicode);
+}
+
 void FillPDFFieldAsInteger(ByteStream& stream, std::u16string_view name, std::int32_t value) {
-  Write(stream, "<</T(" + EightBit(name) + ")/V/" + std::to_string(value) + ">>");
+  formout::WriteIntegerField(stream, EightBit(name), value);
 }
 
 }  // namespace ravo::RavoFileCommon

@@ -23,6 +23,14 @@ inline constexpr auto kModules = std::to_array<ModuleRow>({
 #undef RAVO_MODULE
 });
 
+/// Indices of `kModules` in the order in which the modules start. Modules that use each other in a circle do
+/// not compile.
+inline constexpr auto kModuleOrder = [] {
+  std::array<std::size_t, kModules.size()> order{};
+  if (!OrderModules(kModules, order)) throw "the modules use each other in a circle or name an unknown one";
+  return order;
+}();
+
 /// Slots of the module table for the required run-time libraries, which have nothing to start in this build.
 inline constexpr std::size_t kRuntimeSlots = 77;
 inline constexpr std::size_t kSlotCount = kRuntimeSlots + kModules.size();

@@ -57,16 +57,9 @@ constexpr auto kProcedures = std::to_array<RavoPackageUnit>({
 #undef RAVO_MODULE
 });
 
-// Modules that use each other in a circle do not compile.
-constexpr auto kOrder = [] {
-  std::array<std::size_t, kModules.size()> order{};
-  if (!OrderModules(kModules, order)) throw "the modules use each other in a circle or name an unknown one";
-  return order;
-}();
-
 constexpr auto kUnits = [] {
   std::array<RavoPackageUnit, kSlotCount> units{};
-  std::ranges::transform(kOrder, units.begin() + kRuntimeSlots,
+  std::ranges::transform(kModuleOrder, units.begin() + kRuntimeSlots,
                          [](std::size_t row) { return kProcedures[row]; });
   return units;
 }();

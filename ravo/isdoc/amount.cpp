@@ -1,19 +1,14 @@
 #include "amount.h"
 
+#include "blanks.h"
+
 #include <algorithm>
 #include <utility>
 
 namespace ravo::isdoc {
 namespace {
 
-constexpr std::string_view kSpace = " \t\r\n";
 constexpr std::string_view kDigits = "0123456789";
-
-std::string_view WithoutSpace(std::string_view text) {
-  const std::size_t first = std::min(text.find_first_not_of(kSpace), text.size());
-  text.remove_prefix(first);
-  return text.substr(0, text.find_last_not_of(kSpace) + 1);
-}
 
 // The digits of a number on either side of its point.
 struct Parts {
@@ -46,7 +41,7 @@ Amount::Amount(std::int64_t value, int decimals) noexcept : negative_(value < 0)
 }
 
 std::optional<Amount> Amount::Read(std::string_view text) noexcept {
-  text = WithoutSpace(text);
+  text = Trimmed(text);
   Amount result;
   result.negative_ = text.starts_with('-');
   if (text.starts_with('-') || text.starts_with('+')) text.remove_prefix(1);

@@ -1,5 +1,7 @@
 #include "document.h"
 
+#include "blanks.h"
+
 #include <algorithm>
 #include <type_traits>
 #include <unordered_map>
@@ -113,9 +115,8 @@ class DocumentReader {
 
   // The type of a qualified name such as "xs:date", by the prefixes of this place.
   DeclaredType Declared(std::uint32_t element, std::string_view name) {
-    const std::size_t first = name.find_first_not_of(" \t\r\n");
-    if (first == std::string_view::npos) return {element, {}, {}};
-    name = name.substr(first, name.find_last_not_of(" \t\r\n") - first + 1);
+    name = Trimmed(name);
+    if (name.empty()) return {element, {}, {}};
     const std::size_t colon = name.find(':');
     const std::string_view prefix =
         colon == std::string_view::npos ? std::string_view() : name.substr(0, colon);

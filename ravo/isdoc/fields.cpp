@@ -1,6 +1,6 @@
 #include "fields.h"
 
-#include "invoice.h"
+#include "blanks.h"
 
 namespace ravo::isdoc {
 namespace {
@@ -55,7 +55,7 @@ const Element* ElementAt(const Document& document, const Element* element,
 std::string_view TextAt(const Document& document, const Element* element,
                         std::initializer_list<std::string_view> path) noexcept {
   const Element* const found = ElementAt(document, element, path);
-  return found == nullptr ? std::string_view() : detail::Trimmed(found->text);
+  return found == nullptr ? std::string_view() : Trimmed(found->text);
 }
 
 HeadFields HeadOf(const Document& document) noexcept {

@@ -31,12 +31,6 @@ std::optional<czech::Day> DayIn(std::string_view text) {
 
 }  // namespace
 
-std::string_view Trimmed(std::string_view text) noexcept {
-  constexpr std::string_view kSpace = " \t\r\n";
-  text.remove_prefix(std::min(text.find_first_not_of(kSpace), text.size()));
-  return text.substr(0, text.find_last_not_of(kSpace) + 1);
-}
-
 Amount Tolerance(std::size_t count) noexcept {
   return Amount(5, 3) * Amount(static_cast<std::int64_t>(std::max<std::size_t>(count, 1)));
 }

@@ -2,6 +2,7 @@
 
 #include <ravo/czech/day.h>
 #include <ravo/isdoc/amount.h>
+#include <ravo/isdoc/blanks.h>
 #include <ravo/isdoc/document.h>
 #include <ravo/isdoc/finding.h>
 
@@ -12,9 +13,6 @@
 
 /// What the checks of the content share: the fields of an invoice by their names, as the standard has them.
 namespace ravo::isdoc::detail {
-
-/// Returns `text` without white space at its ends.
-[[nodiscard]] std::string_view Trimmed(std::string_view text) noexcept;
 
 /// The name of an amount in the currency of the books, and in that of a document in a foreign currency.
 struct MoneyName {

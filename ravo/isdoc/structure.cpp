@@ -1,5 +1,6 @@
 #include "structure.h"
 
+#include "blanks.h"
 #include "content_model.h"
 #include "keys.h"
 #include "schema.h"
@@ -212,7 +213,7 @@ class StructureWalk {
         if (!element.text.empty()) Report(Rule::NotEmpty, element, std::string(element.text), {});
         break;
       case Content::Elements: {
-        const std::string_view text = WithoutBlanks(element.text);
+        const std::string_view text = Trimmed(element.text);
         if (!text.empty()) Report(Rule::TextUnexpected, element, std::string(text), {});
         break;
       }

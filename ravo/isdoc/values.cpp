@@ -1,5 +1,6 @@
 #include "values.h"
 
+#include "blanks.h"
 #include "uri.h"
 
 #include <algorithm>
@@ -9,7 +10,6 @@
 namespace ravo::isdoc::schema {
 namespace {
 
-constexpr std::string_view kBlanks = " \t\n\r";
 constexpr int kMinutesOfZone = 14 * 60;
 
 bool IsDigit(char character) { return character >= '0' && character <= '9'; }
@@ -207,12 +207,6 @@ std::optional<ValueFault> FacetFault(const Type& type, std::string_view text) {
 
 }  // namespace
 
-std::string_view WithoutBlanks(std::string_view text) noexcept {
-  const std::size_t first = text.find_first_not_of(kBlanks);
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-}
-
 bool HasForm(BuiltIn type, std::string_view text) noexcept {
   switch (type) {
     case BuiltIn::Decimal:
@@ -237,7 +231,7 @@ bool HasForm(BuiltIn type, std::string_view text) noexcept {
 
 std::optional<ValueFault> FaultOf(const Type& type, std::string_view text) {
   // Only plain texts keep their blanks.
-  if (type.built_in != BuiltIn::String) text = WithoutBlanks(text);
+  if (type.built_in != BuiltIn::String) text = Trimmed(text);
   if (!HasForm(type.built_in, text)) return FormFault(type.built_in);
   if (type.facet_count == 0) return std::nullopt;
   return FacetFault(type, text);

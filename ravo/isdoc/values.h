@@ -18,9 +18,6 @@ struct ValueFault {
 /// Returns why `text` is no value of the type; nothing if it is one.
 [[nodiscard]] std::optional<ValueFault> FaultOf(const Type& type, std::string_view text);
 
-/// Returns the text without the blanks of XML at both ends: space, tabulator, line feed, carriage return.
-[[nodiscard]] std::string_view WithoutBlanks(std::string_view text) noexcept;
-
 /// Whether a text without blanks at its ends is in the lexical form of a built-in type of XML Schema 1.0.
 ///
 /// Numbers may have any length, as the standard says. An address may have any characters but those that no

@@ -2,6 +2,7 @@
 #include "expect.h"
 #include "marks.h"
 #include "memory.h"
+#include "random_keys.h"
 #include "small_invoice.h"
 
 /* A good call of a function. */

@@ -47,7 +47,7 @@ MAY_USE: dict[str, set[str] | None] = {
     "ravo/xml": {"runtime", "codec", "platform", "frame"},
     "ravo/formout": {"runtime", "codec", "platform", "frame", "unicode"},
     "ravo/hostapi": {"runtime", "platform", "frame"},
-    "c": {"runtime", "codec", "convert", "catalogue", "unicode", "utils", "common", "czech", "isdoc"},
+    "c": {"runtime", "codec", "convert", "frame", "catalogue", "unicode", "utils", "common", "czech", "isdoc", "sysinfo", "formout"},
     "tools/ravo": {PUBLIC, "codec", "convert", "czech", "isdoc"},
 }
 SCANNED = ("ravo", "c", "tools/ravo")
