@@ -4,7 +4,6 @@
 
 using ravo::c::Computed;
 using ravo::c::FailArgument;
-using ravo::c::FailNullResult;
 using ravo::c::Guarded;
 using ravo::c::WriteText;
 namespace unicode = ravo::DIUnicode;

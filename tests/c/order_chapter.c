@@ -78,21 +78,9 @@ static void writes_whole_keys_or_none(void) {
 }
 
 static void has_numbers_by_value(void) {
-  static const char* const numbers[] = {"Kč",
-                                        "-1 234,50",
-                                        "-1234.4",
-                                        "-0,5",
-                                        "0",
-                                        "0,05",
-                                        ".5",
-                                        "0.51 Kč",
-                                        "1,2",
-                                        "1,25",
-                                        "+9",
-                                        "1 234",
-                                        "1\xC2\xA0"
-                                        "234,5",
-                                        "12345678901234567890123"};
+  static const char* const numbers[] = {
+      "Kč",      "-1 234,50", "-1234.4", "-0,5", "0",     "0,05",         ".5",
+      "0.51 Kč", "1,2",       "1,25",    "+9",   "1 234", "1\u00A0234,5", "12345678901234567890123"};
   const size_t count = sizeof numbers / sizeof *numbers;
   const size_t all = RAVO_NUL_TERMINATED;
   size_t i = 0;
