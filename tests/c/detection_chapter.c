@@ -41,6 +41,7 @@ static void is_sure(void) {
 }
 
 static void has_doubts(void) {
+  expect_detected(TEXT("Кто"), 0, RAVO_EVIDENCE_CLOSE, "UTF_8 CP_852 ");
   expect_detected(TEXT("Dobr\xFD den"), 0, RAVO_EVIDENCE_ALIKE, "Windows_1250 Iso_8859_2 CP_852 ");
   expect_detected(TEXT("\x81\x83\x88\x90\x98"), 0, RAVO_EVIDENCE_FOREIGN, "CP_852 Windows_1250 Iso_8859_2 ");
   expect_detected(TEXT("\x7F\x45LF\0\0\0\1\2\3\4\0"), 0, RAVO_EVIDENCE_BINARY, "Windows_1250 ");
