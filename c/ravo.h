@@ -37,8 +37,8 @@
  *
  * A check of form says "correct in form" and never that something exists. The file is in chapters: failure,
  * version, checks, what numbers tell, banks, days, holidays and terms, money, VAT, payment codes, invoices, the
- * suite's own rules, its forms and records, its tables, captions and modules, this machine, texts, checksums, random
- * numbers, encodings, columns.
+ * suite's own rules, its forms and records, its tables, captions and modules, this machine, texts, order, characters,
+ * checksums, random numbers, encodings, columns.
  */
 #ifndef RAVO_H
 #define RAVO_H
@@ -1431,6 +1431,10 @@ ravo_status RAVO_CALL ravo_text_lower(const char *text, size_t text_length, char
 ravo_status RAVO_CALL ravo_text_fold(const char *text, size_t text_length, char *buffer, size_t size,
                                      size_t *length, ravo_error *error);
 
+/* Writes a text with the first character of each word in upper case and the others in lower case. */
+ravo_status RAVO_CALL ravo_text_proper(const char *text, size_t text_length, char *buffer, size_t size,
+                                       size_t *length, ravo_error *error);
+
 /*
  * Writes 1 if a whole text matches a mask, else 0. "*" is any run of characters, "?" one character of UTF-16.
  *
@@ -1438,6 +1442,15 @@ ravo_status RAVO_CALL ravo_text_fold(const char *text, size_t text_length, char 
  */
 ravo_status RAVO_CALL ravo_text_match(const char *text, size_t text_length, const char *mask, size_t mask_length,
                                       int32_t ignore_case, int32_t *answer, ravo_error *error);
+
+/*
+ * As ravo_text_match, with other characters than "*" and "?": units of UTF-16. If both are the same, it is `wild`.
+ *
+ * Never allocates for texts and masks of up to 256 bytes.
+ */
+ravo_status RAVO_CALL ravo_text_match_with(const char *text, size_t text_length, const char *mask,
+                                           size_t mask_length, uint16_t wild, uint16_t one, int32_t ignore_case,
+                                           int32_t *answer, ravo_error *error);
 
 /* Writes a text in the form encoding of URLs: "a+b%26c" of "a b&c". */
 ravo_status RAVO_CALL ravo_url_encode(const char *text, size_t text_length, char *buffer, size_t size,
@@ -1450,6 +1463,212 @@ ravo_status RAVO_CALL ravo_url_encode(const char *text, size_t text_length, char
  */
 ravo_status RAVO_CALL ravo_url_decode(const char *text, size_t text_length, char *buffer, size_t size,
                                       size_t *length, ravo_error *error);
+
+/* Writes the part of a URI before the first "#"; all of it if there is none. */
+ravo_status RAVO_CALL ravo_uri_without_fragment(const char *uri, size_t uri_length, char *buffer, size_t size,
+                                                size_t *length, ravo_error *error);
+
+/* Writes the part of a URI after the first "#"; an empty text if there is none. */
+ravo_status RAVO_CALL ravo_uri_fragment(const char *uri, size_t uri_length, char *buffer, size_t size,
+                                        size_t *length, ravo_error *error);
+
+/* ------------------------------------------------------------------------------------------------------------
+ * Order
+ *
+ * The Czech alphabetical order: c, č, ... h, ch, ... r, ř, s, š, ... z, ž. Of words with the same letters, accents
+ * decide, then capitals: small letters come first. Blanks and signs precede letters, digits follow them (ČSN 97
+ * 6030). It is the same on every machine. To sort many texts, make a key of each: keys compare byte by byte, as
+ * memcmp does and then their lengths, and so do columns of bytes.
+ */
+
+/* How texts compare; add up what is wanted. */
+typedef int32_t ravo_order_flags;
+enum {
+  RAVO_ORDER_PLAIN = 0,        /* as said above */
+  RAVO_ORDER_IGNORE_CASE = 1,  /* small letters and capitals are equal */
+  RAVO_ORDER_NATURAL = 2,      /* runs of the digits 0 to 9 compare by value: "FV9" before "FV10" */
+  RAVO_ORDER_DIGITS_FIRST = 4  /* digits precede letters, as in most programs */
+};
+
+/*
+ * Writes -1, 0 or 1: whether text `a` comes before `b` in the Czech order, is equal to it, or comes after it.
+ *
+ * RAVO_ARGUMENT for unknown flags. Never allocates.
+ *
+ *     ravo_compare_czech("cihla", RAVO_NUL_TERMINATED, "čaj", RAVO_NUL_TERMINATED, 0, &order, NULL)  // -1
+ */
+ravo_status RAVO_CALL ravo_compare_czech(const char *a, size_t a_length, const char *b, size_t b_length,
+                                         ravo_order_flags flags, int32_t *order, ravo_error *error);
+
+/*
+ * Writes the key of a text in the Czech order: bytes, of which none is 0 without RAVO_ORDER_NATURAL, and no NUL
+ * after them. If the buffer is too small, nothing is written.
+ *
+ * Keys of the same flags compare as their texts do. Other versions of the library may make other keys: do not store
+ * them. RAVO_ARGUMENT for unknown flags. Allocates.
+ */
+ravo_status RAVO_CALL ravo_czech_key(const char *text, size_t text_length, ravo_order_flags flags, void *buffer,
+                                     size_t size, size_t *length, ravo_error *error);
+
+/*
+ * Writes -1, 0 or 1: how the numbers compare with which two texts begin.
+ *
+ * A number is a sign, digits of any count, blanks between them, a decimal comma or point: "-1 234,50 Kč". A text
+ * without a number is less than any number. Never allocates.
+ */
+ravo_status RAVO_CALL ravo_compare_numbers(const char *a, size_t a_length, const char *b, size_t b_length,
+                                           int32_t *order, ravo_error *error);
+
+/*
+ * Writes the key of the number with which a text begins: bytes, without NUL after them. If the buffer is too small,
+ * nothing is written.
+ *
+ * Keys compare as ravo_compare_numbers does. Other versions of the library may make other keys. Allocates.
+ */
+ravo_status RAVO_CALL ravo_number_key(const char *text, size_t text_length, void *buffer, size_t size,
+                                      size_t *length, ravo_error *error);
+
+/*
+ * Writes a negative number, 0 or a positive one: how the suite compares two texts with numbers, by UTF-16 units.
+ *
+ * The number is the difference of two units or of two lengths, or 1 or -1 if one number is longer. Digits are those
+ * of every script. Zeros inside a number do not count: "105" comes before "15", so that the order has cycles.
+ * `ignore_case` is 0, or 1 to fold both. Never allocates for texts of up to 256 bytes.
+ */
+ravo_status RAVO_CALL ravo_suite_compare_num(const char *a, size_t a_length, const char *b, size_t b_length,
+                                             int32_t ignore_case, int64_t *difference, ravo_error *error);
+
+/*
+ * The same for bytes of any encoding: digits are 0 to 9, and ASCII letters alone have case.
+ *
+ * Never allocates.
+ */
+ravo_status RAVO_CALL ravo_suite_compare_num_bytes(const void *a, size_t a_length, const void *b,
+                                                   size_t b_length, int32_t ignore_case, int64_t *difference,
+                                                   ravo_error *error);
+
+/* ------------------------------------------------------------------------------------------------------------
+ * Characters
+ *
+ * A character is a unit of UTF-16, as in the suite: one past U+FFFF is two surrogates, which have a category of
+ * their own and map to themselves. The tables are those of Unicode 15.0.0.
+ */
+
+/* What a character can be. In brackets: the category of Unicode. */
+typedef int32_t ravo_character_property;
+enum {
+  RAVO_CHARACTER_UNASSIGNED = 0,                  /* (Cn) no character, in the version of the tables */
+  RAVO_CHARACTER_LETTER_UPPER_CASE = 1,           /* (Lu) */
+  RAVO_CHARACTER_LETTER_LOWER_CASE = 2,           /* (Ll) */
+  RAVO_CHARACTER_LETTER_TITLE_CASE = 3,           /* (Lt) such as U+01C5 */
+  RAVO_CHARACTER_LETTER_MODIFIER = 4,             /* (Lm) */
+  RAVO_CHARACTER_LETTER_OTHER = 5,                /* (Lo) a letter without case */
+  RAVO_CHARACTER_MARK_NON_SPACING = 6,            /* (Mn) */
+  RAVO_CHARACTER_MARK_SPACING_COMBINED = 7,       /* (Mc) */
+  RAVO_CHARACTER_MARK_ENCLOSING = 8,              /* (Me) */
+  RAVO_CHARACTER_NUMBER_DECIMAL = 9,              /* (Nd) a decimal digit of any script */
+  RAVO_CHARACTER_NUMBER_LETTER = 10,              /* (Nl) such as U+2160, the Roman one */
+  RAVO_CHARACTER_NUMBER_OTHER = 11,               /* (No) such as U+00BD, a half */
+  RAVO_CHARACTER_PUNCTUATION_CONNECTOR = 12,      /* (Pc) such as the low line */
+  RAVO_CHARACTER_PUNCTUATION_DASH = 13,           /* (Pd) */
+  RAVO_CHARACTER_PUNCTUATION_OPEN = 14,           /* (Ps) */
+  RAVO_CHARACTER_PUNCTUATION_CLOSE = 15,          /* (Pe) */
+  RAVO_CHARACTER_PUNCTUATION_INITIAL_QUOTE = 16,  /* (Pi) */
+  RAVO_CHARACTER_PUNCTUATION_FINAL_QUOTE = 17,    /* (Pf) */
+  RAVO_CHARACTER_PUNCTUATION_OTHER = 18,          /* (Po) */
+  RAVO_CHARACTER_SYMBOL_MATH = 19,                /* (Sm) */
+  RAVO_CHARACTER_SYMBOL_CURRENCY = 20,            /* (Sc) */
+  RAVO_CHARACTER_SYMBOL_MODIFIER = 21,            /* (Sk) */
+  RAVO_CHARACTER_SYMBOL_OTHER = 22,               /* (So) */
+  RAVO_CHARACTER_SEPARATOR_SPACE = 23,            /* (Zs) */
+  RAVO_CHARACTER_SEPARATOR_LINE = 24,             /* (Zl) */
+  RAVO_CHARACTER_SEPARATOR_PARAGRAPH = 25,        /* (Zp) */
+  RAVO_CHARACTER_OTHER_CONTROL = 26,              /* (Cc) */
+  RAVO_CHARACTER_OTHER_FORMAT = 27,               /* (Cf) */
+  RAVO_CHARACTER_OTHER_SURROGATE = 28,            /* (Cs) */
+  RAVO_CHARACTER_OTHER_PRIVATE_USE = 29,          /* (Co) */
+  RAVO_CHARACTER_LETTER = 30,                     /* (L) numbers 1 to 5 */
+  RAVO_CHARACTER_MARK = 31,                       /* (M) numbers 6 to 8 */
+  RAVO_CHARACTER_NUMBER = 32,                     /* (N) numbers 9 to 11 */
+  RAVO_CHARACTER_PUNCTUATION = 33,                /* (P) numbers 12 to 18 */
+  RAVO_CHARACTER_SYMBOL = 34,                     /* (S) numbers 19 to 22 */
+  RAVO_CHARACTER_SEPARATOR = 35,                  /* (Z) numbers 23 to 25 */
+  RAVO_CHARACTER_OTHER = 36,                      /* (C) numbers 26 to 29: without the unassigned ones */
+  RAVO_CHARACTER_LETTER_COMMON = 37,              /* a letter of the Latin, Greek and Cyrillic blocks */
+  RAVO_CHARACTER_WHITE_SPACE = 38,                /* by the property White_Space */
+  RAVO_CHARACTER_ALPHA = 39,                      /* a letter */
+  RAVO_CHARACTER_ALPHA_NUM = 40,                  /* a letter or a decimal digit of any script */
+  RAVO_CHARACTER_DIGIT = 41,                      /* a decimal digit of any script */
+  RAVO_CHARACTER_HEX_DIGIT = 42,                  /* 0 to 9, A to F, a to f */
+  RAVO_CHARACTER_HANGUL = 43,                     /* a syllable, U+AC00 to U+D7A3 */
+  RAVO_CHARACTER_CR_LF = 44,                      /* carriage return or line feed */
+  RAVO_CHARACTER_LOW_LINE = 45,                   /* "_" */
+  RAVO_CHARACTER_QUOTE = 46,                      /* U+0022 or U+0027 */
+  RAVO_CHARACTER_WORD_SEPARATOR = 47,             /* assigned, and no letter, mark, number, connector, surrogate */
+  RAVO_CHARACTER_WHITE_SPACE_OR_AMPERSAND = 48,   /* white space or "&" */
+  RAVO_CHARACTER_WHITE_SPACE_OR_COLON = 49,       /* white space or ":" */
+  RAVO_CHARACTER_WHITE_SPACE_OR_NO_BREAK_SPACE = 50, /* white space, of which U+00A0 is */
+  RAVO_CHARACTER_WHITE_SPACE_GT = 51,             /* white space or ">" */
+  RAVO_CHARACTER_WHITE_SPACE_LT = 52,             /* white space or "<" */
+  RAVO_CHARACTER_WHITE_SPACE_HYPHEN = 53,         /* white space or "-" */
+  RAVO_CHARACTER_WHITE_SPACE_HYPHEN_GT = 54       /* white space, "-" or ">" */
+};
+
+/*
+ * Writes 1 if a character has a property, else 0.
+ *
+ * RAVO_ARGUMENT for an unknown property. Never allocates.
+ *
+ *     ravo_character_is(0x010D, RAVO_CHARACTER_LETTER, &answer, NULL)  // 1: č
+ */
+ravo_status RAVO_CALL ravo_character_is(uint16_t unit, ravo_character_property property, int32_t *answer,
+                                        ravo_error *error);
+
+/* Writes the category of a character: one of the numbers 0 to 29. Never allocates. */
+ravo_status RAVO_CALL ravo_character_category(uint16_t unit, ravo_character_property *category,
+                                              ravo_error *error);
+
+/*
+ * Returns the short name of a category or of a group, such as "Lu" or "L", or null for what is neither.
+ *
+ * Never allocates.
+ */
+const char *RAVO_CALL ravo_character_category_name(ravo_character_property category);
+
+/* Writes the upper case of a character, or itself if it has none of one unit. Never allocates. */
+ravo_status RAVO_CALL ravo_character_to_upper(uint16_t unit, uint16_t *mapped, ravo_error *error);
+
+/* Writes the lower case of a character, or itself if it has none of one unit. Never allocates. */
+ravo_status RAVO_CALL ravo_character_to_lower(uint16_t unit, uint16_t *mapped, ravo_error *error);
+
+/* Writes the title case of a character: the upper case, but U+01C5 for U+01C4 and the like. Never allocates. */
+ravo_status RAVO_CALL ravo_character_to_title(uint16_t unit, uint16_t *mapped, ravo_error *error);
+
+/* Writes the case-folded form of a character, equal for those that differ only in case. Never allocates. */
+ravo_status RAVO_CALL ravo_character_to_case_fold(uint16_t unit, uint16_t *mapped, ravo_error *error);
+
+/*
+ * Writes the canonical combining class of a character: 0 for a starter, else the rank of a mark, up to 254.
+ *
+ * Never allocates.
+ */
+ravo_status RAVO_CALL ravo_character_combining_class(uint16_t unit, int32_t *rank, ravo_error *error);
+
+/* Into what a character comes apart. */
+typedef int32_t ravo_decomposition;
+enum {
+  RAVO_DECOMPOSITION_CANONICAL = 0,  /* the full canonical one, marks in canonical order: "é" is "e" and U+0301 */
+  RAVO_DECOMPOSITION_COMPATIBLE = 1, /* the full compatibility one, or the canonical one if there is no other */
+  RAVO_DECOMPOSITION_HANGUL = 2      /* the letters of a Hangul syllable, which the others leave alone */
+};
+
+/*
+ * Writes the decomposition of a character; an empty text if it has none.
+ *
+ * RAVO_ARGUMENT for an unknown decomposition. Allocates.
+ */
+ravo_status RAVO_CALL ravo_character_decompose(uint16_t unit, ravo_decomposition decomposition, char *buffer,
+                                               size_t size, size_t *length, ravo_error *error);
 
 /* ------------------------------------------------------------------------------------------------------------
  * Checksums
@@ -1619,6 +1838,56 @@ ravo_status RAVO_CALL ravo_encoding_of_code_page(int32_t code_page, ravo_encodin
  */
 ravo_status RAVO_CALL ravo_encoding_of_mark(const void *bytes, size_t bytes_length, ravo_encoding *encoding,
                                             size_t *mark_length, ravo_error *error);
+
+/* Which texts are possible. */
+typedef int32_t ravo_detect_flags;
+enum {
+  RAVO_DETECT_PLAIN = 0, /* Czech texts of Windows, DOS and Unix, and of every form of Unicode */
+  RAVO_DETECT_MAC = 1    /* and those of the Macintosh: Mac Central European */
+};
+
+/* What a detected encoding rests on: it is sure for the numbers 1 to 5. */
+typedef int32_t ravo_evidence;
+enum {
+  RAVO_EVIDENCE_MARK = 1,    /* a byte-order mark */
+  RAVO_EVIDENCE_ZEROS = 2,   /* the zero bytes of UTF-16 or UTF-32 */
+  RAVO_EVIDENCE_ASCII = 3,   /* ASCII characters only, which count as UTF-8 */
+  RAVO_EVIDENCE_UTF8 = 4,    /* bytes that are valid UTF-8, too many for chance */
+  RAVO_EVIDENCE_CZECH = 5,   /* it looks most like Czech in this encoding */
+  RAVO_EVIDENCE_ALIKE = 6,   /* several encodings read it alike */
+  RAVO_EVIDENCE_CLOSE = 7,   /* several encodings are possible */
+  RAVO_EVIDENCE_FOREIGN = 8, /* it does not look like Czech in any encoding */
+  RAVO_EVIDENCE_BINARY = 9   /* zero bytes: it may not be text */
+};
+
+/* The encoding that a text seems to have. Declare it as `ravo_detection detection = RAVO_DETECTION_INIT;`. */
+typedef struct ravo_detection {
+  size_t size;              /* sizeof(ravo_detection), set by the caller */
+  size_t candidates;        /* how many cannot be told apart; 1 if it is sure */
+  ravo_encoding encoding;   /* the most likely one */
+  ravo_evidence evidence;   /* why */
+  int32_t is_sure;          /* 1 if there is no doubt, else 0 */
+} ravo_detection;
+
+#define RAVO_DETECTION_INIT {sizeof(ravo_detection), 0, 0, 0, 0}
+
+/*
+ * Writes the encoding that a text seems to have, by its first bytes; they may end inside a character.
+ *
+ * 256 KiB are more than enough. RAVO_ARGUMENT for unknown flags. Allocates.
+ *
+ *     ravo_encoding_detect("P\xF8\xEDli\x9A", 6, RAVO_DETECT_PLAIN, &detection, NULL)  // Windows-1250
+ */
+ravo_status RAVO_CALL ravo_encoding_detect(const void *bytes, size_t bytes_length, ravo_detect_flags flags,
+                                           ravo_detection *detection, ravo_error *error);
+
+/*
+ * Writes one of the encodings that cannot be told apart, by its index from 0, from the most likely one on.
+ *
+ * Detects again. RAVO_UNKNOWN past the last one. Allocates.
+ */
+ravo_status RAVO_CALL ravo_encoding_candidate_at(const void *bytes, size_t bytes_length, ravo_detect_flags flags,
+                                                 size_t index, ravo_encoding *encoding, ravo_error *error);
 
 /* What happens to what cannot be converted. */
 typedef int32_t ravo_convert_policy;

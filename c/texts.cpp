@@ -1,6 +1,7 @@
 #include "support.h"
 #include <ravo/runtime/text.h>
 #include <ravo/unicode/characters/mappings.h>
+#include <ravo/utils/strings/letter_case.h>
 #include <ravo/utils/strings/url.h>
 #include <ravo/utils/strings/wildcards.h>
 
@@ -26,6 +27,13 @@ ravo_status Mapped(const TextIn& text, const TextOut& out, ravo_error* error, ch
   });
 }
 
+// Writes the UTF-16 text that is made of a text.
+ravo_status Made(const TextIn& text, const TextOut& out, ravo_error* error,
+                 std::u16string (*make)(std::u16string_view)) {
+  if (text.status != RAVO_OK) return text.status;
+  return Guarded(error, [&] { return WriteText(out, ravo::ToUtf8(make(Units(text.text))), error); });
+}
+
 }  // namespace
 
 ravo_status ravo_text_upper(const char* text, size_t text_length, char* buffer, size_t size, size_t* length,
@@ -46,8 +54,19 @@ ravo_status ravo_text_fold(const char* text, size_t text_length, char* buffer, s
                 [](char16_t unit) { return ravo::DIUnicode::CharToCaseFoldW(unit); });
 }
 
+ravo_status ravo_text_proper(const char* text, size_t text_length, char* buffer, size_t size, size_t* length,
+                             ravo_error* error) {
+  return Made(ReadText(text, text_length, error), {buffer, size, length}, error, ravo::DIUtils::ProperCaseW);
+}
+
 ravo_status ravo_text_match(const char* text, size_t text_length, const char* mask, size_t mask_length,
                             int32_t ignore_case, int32_t* answer, ravo_error* error) {
+  return ravo_text_match_with(text, text_length, mask, mask_length, u'*', u'?', ignore_case, answer, error);
+}
+
+ravo_status ravo_text_match_with(const char* text, size_t text_length, const char* mask, size_t mask_length,
+                                 uint16_t wild, uint16_t one, int32_t ignore_case, int32_t* answer,
+                                 ravo_error* error) {
   if (answer == nullptr) return FailNullResult(error);
   const TextIn whole = ReadText(text, text_length, error);
   if (whole.status != RAVO_OK) return whole.status;
@@ -55,7 +74,7 @@ ravo_status ravo_text_match(const char* text, size_t text_length, const char* ma
   if (pattern.status != RAVO_OK) return pattern.status;
   return Guarded(error, [&] {
     const auto match = ignore_case != 0 ? ravo::DIUtils::StrMatchWildIW : ravo::DIUtils::StrMatchWildW;
-    *answer = match(Units(whole.text), Units(pattern.text), u'*', u'?');
+    *answer = match(Units(whole.text), Units(pattern.text), wild, one);
     return RAVO_OK;
   });
 }
@@ -79,4 +98,16 @@ ravo_status ravo_url_decode(const char* text, size_t text_length, char* buffer, 
     if (good != decoded.size()) return Fail(error, {RAVO_UTF8, 0, good, "the decoded text is not UTF-8"});
     return WriteText({buffer, size, length}, decoded, error);
   });
+}
+
+ravo_status ravo_uri_without_fragment(const char* uri, size_t uri_length, char* buffer, size_t size,
+                                      size_t* length, ravo_error* error) {
+  return Made(ReadText(uri, uri_length, error), {buffer, size, length}, error,
+              ravo::DIUtils::StrTrimUriFragmentW);
+}
+
+ravo_status ravo_uri_fragment(const char* uri, size_t uri_length, char* buffer, size_t size, size_t* length,
+                              ravo_error* error) {
+  return Made(ReadText(uri, uri_length, error), {buffer, size, length}, error,
+              ravo::DIUtils::StrExtractUriFragmentW);
 }

@@ -1,5 +1,6 @@
 // Every function of libravo that takes a text, over any bytes: statuses and positions make sense, results are
-// UTF-8 and as long as they say, and conversions in pieces give what the whole gives.
+// UTF-8 and as long as they say, conversions in pieces give what the whole gives, and texts compare as their
+// keys do.
 #include <cstdint>
 #include <cstdlib>
 #include <string>
@@ -17,9 +18,10 @@ using TextFunction = ravo_status(RAVO_CALL*)(const char*, size_t, char*, size_t,
 using AnswerFunction = ravo_status(RAVO_CALL*)(const char*, size_t, std::int32_t*, ravo_error*);
 
 constexpr TextFunction kTextFunctions[] = {
-    ravo_account_to_iban, ravo_account_of_iban,    ravo_isbn_to_13, ravo_suite_extract_table_from_property,
-    ravo_text_upper,      ravo_text_lower,         ravo_text_fold,  ravo_url_encode,
-    ravo_url_decode,      ravo_suite_uid_to_string};
+    ravo_account_to_iban, ravo_account_of_iban,     ravo_isbn_to_13,  ravo_suite_extract_table_from_property,
+    ravo_text_upper,      ravo_text_lower,          ravo_text_fold,   ravo_url_encode,
+    ravo_url_decode,      ravo_suite_uid_to_string, ravo_text_proper, ravo_uri_without_fragment,
+    ravo_uri_fragment};
 constexpr AnswerFunction kAnswerFunctions[] = {
     ravo_suite_is_numbers, ravo_suite_valid_su, ravo_suite_valid_au,    ravo_suite_valid_ucet,
     ravo_suite_valid_vs,   ravo_reason_of,      ravo_suite_ucet_mod_11, ravo_day_read};
@@ -148,6 +150,34 @@ void CheckConversion(std::string_view bytes) {
   Require(whole.status == pieces.status && whole.position == pieces.position && whole.bytes == pieces.bytes);
 }
 
+std::string KeyOf(std::string_view text, ravo_order_flags flags) {
+  std::size_t length = 0;
+  Require(ravo_czech_key(text.data(), text.size(), flags, nullptr, 0, &length, nullptr) == RAVO_OK);
+  std::string key(length, 'x');
+  Require(ravo_czech_key(text.data(), text.size(), flags, key.data(), length, nullptr, nullptr) == RAVO_OK);
+  return key;
+}
+
+void CheckOrder(std::string_view bytes) {
+  if (bytes.empty() || !IsUtf8(bytes.substr(1))) return;
+  const ravo_order_flags flags = static_cast<unsigned char>(bytes[0]) % 8;
+  const std::string_view text = bytes.substr(1);
+  const std::size_t end = text.find('\n');
+  const std::string_view a = text.substr(0, end);
+  const std::string_view b = end == std::string_view::npos ? text : text.substr(end + 1);
+  std::int32_t order = 0;
+  Require(ravo_compare_czech(a.data(), a.size(), b.data(), b.size(), flags, &order, nullptr) == RAVO_OK);
+  const int keys = KeyOf(a, flags).compare(KeyOf(b, flags));
+  Require(order == (keys > 0) - (keys < 0));
+}
+
+void CheckDetection(std::string_view bytes) {
+  ravo_detection detection = RAVO_DETECTION_INIT;
+  Require(ravo_encoding_detect(bytes.data(), bytes.size(), RAVO_DETECT_MAC, &detection, nullptr) == RAVO_OK);
+  Require(detection.candidates >= 1 && detection.candidates <= ravo_encoding_count());
+  Require(detection.is_sure == 0 || detection.candidates == 1);
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -162,5 +192,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   CheckPayments(text);
   CheckBanks(text);
   CheckConversion(text);
+  CheckOrder(text);
+  CheckDetection(text);
   return 0;
 }

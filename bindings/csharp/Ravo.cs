@@ -1550,6 +1550,11 @@ public static class Ravo
     public static extern int ravo_text_fold(byte[] text, UIntPtr text_length, [Out] byte[] buffer, UIntPtr size,
         ref UIntPtr length, [In, Out] ravo_error error);
 
+    /// <summary>Writes a text with the first character of each word in upper case and the others in lower case.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_text_proper(byte[] text, UIntPtr text_length, [Out] byte[] buffer, UIntPtr size,
+        ref UIntPtr length, [In, Out] ravo_error error);
+
     /// <summary>Writes 1 if a whole text matches a mask, else 0. "*" is any run of characters, "?" one character of UTF-16.</summary>
     /// <remarks>
     /// <para>`ignore_case` is 0, or 1 to fold both. Never allocates for texts and masks of up to 256 bytes.</para>
@@ -1557,6 +1562,14 @@ public static class Ravo
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern int ravo_text_match(byte[] text, UIntPtr text_length, byte[] mask, UIntPtr mask_length,
         int ignore_case, ref int answer, [In, Out] ravo_error error);
+
+    /// <summary>As ravo_text_match, with other characters than "*" and "?": units of UTF-16. If both are the same, it is `wild`.</summary>
+    /// <remarks>
+    /// <para>Never allocates for texts and masks of up to 256 bytes.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_text_match_with(byte[] text, UIntPtr text_length, byte[] mask,
+        UIntPtr mask_length, ushort wild, ushort one, int ignore_case, ref int answer, [In, Out] ravo_error error);
 
     /// <summary>Writes a text in the form encoding of URLs: "a+b%26c" of "a b&amp;c".</summary>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
@@ -1570,6 +1583,250 @@ public static class Ravo
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern int ravo_url_decode(byte[] text, UIntPtr text_length, [Out] byte[] buffer, UIntPtr size,
         ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>Writes the part of a URI before the first "#"; all of it if there is none.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_uri_without_fragment(byte[] uri, UIntPtr uri_length, [Out] byte[] buffer,
+        UIntPtr size, ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>Writes the part of a URI after the first "#"; an empty text if there is none.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_uri_fragment(byte[] uri, UIntPtr uri_length, [Out] byte[] buffer, UIntPtr size,
+        ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>as said above</summary>
+    public const int RAVO_ORDER_PLAIN = 0;
+    /// <summary>small letters and capitals are equal</summary>
+    public const int RAVO_ORDER_IGNORE_CASE = 1;
+    /// <summary>runs of the digits 0 to 9 compare by value: "FV9" before "FV10"</summary>
+    public const int RAVO_ORDER_NATURAL = 2;
+    /// <summary>digits precede letters, as in most programs</summary>
+    public const int RAVO_ORDER_DIGITS_FIRST = 4;
+
+    /// <summary>Writes -1, 0 or 1: whether text `a` comes before `b` in the Czech order, is equal to it, or comes after it.</summary>
+    /// <remarks>
+    /// <para>RAVO_ARGUMENT for unknown flags. Never allocates.</para>
+    /// <code>ravo_compare_czech("cihla", RAVO_NUL_TERMINATED, "čaj", RAVO_NUL_TERMINATED, 0, &amp;order, NULL)  // -1</code>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_compare_czech(byte[] a, UIntPtr a_length, byte[] b, UIntPtr b_length, int flags,
+        ref int order, [In, Out] ravo_error error);
+
+    /// <summary>Writes the key of a text in the Czech order: bytes, of which none is 0 without RAVO_ORDER_NATURAL, and no NUL
+    /// after them. If the buffer is too small, nothing is written.</summary>
+    /// <remarks>
+    /// <para>Keys of the same flags compare as their texts do. Other versions of the library may make other keys: do not store
+    /// them. RAVO_ARGUMENT for unknown flags. Allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_czech_key(byte[] text, UIntPtr text_length, int flags, IntPtr buffer,
+        UIntPtr size, ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>Writes -1, 0 or 1: how the numbers compare with which two texts begin.</summary>
+    /// <remarks>
+    /// <para>A number is a sign, digits of any count, blanks between them, a decimal comma or point: "-1 234,50 Kč". A text
+    /// without a number is less than any number. Never allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_compare_numbers(byte[] a, UIntPtr a_length, byte[] b, UIntPtr b_length,
+        ref int order, [In, Out] ravo_error error);
+
+    /// <summary>Writes the key of the number with which a text begins: bytes, without NUL after them. If the buffer is too small,
+    /// nothing is written.</summary>
+    /// <remarks>
+    /// <para>Keys compare as ravo_compare_numbers does. Other versions of the library may make other keys. Allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_number_key(byte[] text, UIntPtr text_length, IntPtr buffer, UIntPtr size,
+        ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>Writes a negative number, 0 or a positive one: how the suite compares two texts with numbers, by UTF-16 units.</summary>
+    /// <remarks>
+    /// <para>The number is the difference of two units or of two lengths, or 1 or -1 if one number is longer. Digits are those
+    /// of every script. Zeros inside a number do not count: "105" comes before "15", so that the order has cycles.
+    /// `ignore_case` is 0, or 1 to fold both. Never allocates for texts of up to 256 bytes.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_compare_num(byte[] a, UIntPtr a_length, byte[] b, UIntPtr b_length,
+        int ignore_case, ref long difference, [In, Out] ravo_error error);
+
+    /// <summary>The same for bytes of any encoding: digits are 0 to 9, and ASCII letters alone have case.</summary>
+    /// <remarks>
+    /// <para>Never allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_compare_num_bytes(byte[] a, UIntPtr a_length, byte[] b, UIntPtr b_length,
+        int ignore_case, ref long difference, [In, Out] ravo_error error);
+
+    /// <summary>(Cn) no character, in the version of the tables</summary>
+    public const int RAVO_CHARACTER_UNASSIGNED = 0;
+    /// <summary>(Lu)</summary>
+    public const int RAVO_CHARACTER_LETTER_UPPER_CASE = 1;
+    /// <summary>(Ll)</summary>
+    public const int RAVO_CHARACTER_LETTER_LOWER_CASE = 2;
+    /// <summary>(Lt) such as U+01C5</summary>
+    public const int RAVO_CHARACTER_LETTER_TITLE_CASE = 3;
+    /// <summary>(Lm)</summary>
+    public const int RAVO_CHARACTER_LETTER_MODIFIER = 4;
+    /// <summary>(Lo) a letter without case</summary>
+    public const int RAVO_CHARACTER_LETTER_OTHER = 5;
+    /// <summary>(Mn)</summary>
+    public const int RAVO_CHARACTER_MARK_NON_SPACING = 6;
+    /// <summary>(Mc)</summary>
+    public const int RAVO_CHARACTER_MARK_SPACING_COMBINED = 7;
+    /// <summary>(Me)</summary>
+    public const int RAVO_CHARACTER_MARK_ENCLOSING = 8;
+    /// <summary>(Nd) a decimal digit of any script</summary>
+    public const int RAVO_CHARACTER_NUMBER_DECIMAL = 9;
+    /// <summary>(Nl) such as U+2160, the Roman one</summary>
+    public const int RAVO_CHARACTER_NUMBER_LETTER = 10;
+    /// <summary>(No) such as U+00BD, a half</summary>
+    public const int RAVO_CHARACTER_NUMBER_OTHER = 11;
+    /// <summary>(Pc) such as the low line</summary>
+    public const int RAVO_CHARACTER_PUNCTUATION_CONNECTOR = 12;
+    /// <summary>(Pd)</summary>
+    public const int RAVO_CHARACTER_PUNCTUATION_DASH = 13;
+    /// <summary>(Ps)</summary>
+    public const int RAVO_CHARACTER_PUNCTUATION_OPEN = 14;
+    /// <summary>(Pe)</summary>
+    public const int RAVO_CHARACTER_PUNCTUATION_CLOSE = 15;
+    /// <summary>(Pi)</summary>
+    public const int RAVO_CHARACTER_PUNCTUATION_INITIAL_QUOTE = 16;
+    /// <summary>(Pf)</summary>
+    public const int RAVO_CHARACTER_PUNCTUATION_FINAL_QUOTE = 17;
+    /// <summary>(Po)</summary>
+    public const int RAVO_CHARACTER_PUNCTUATION_OTHER = 18;
+    /// <summary>(Sm)</summary>
+    public const int RAVO_CHARACTER_SYMBOL_MATH = 19;
+    /// <summary>(Sc)</summary>
+    public const int RAVO_CHARACTER_SYMBOL_CURRENCY = 20;
+    /// <summary>(Sk)</summary>
+    public const int RAVO_CHARACTER_SYMBOL_MODIFIER = 21;
+    /// <summary>(So)</summary>
+    public const int RAVO_CHARACTER_SYMBOL_OTHER = 22;
+    /// <summary>(Zs)</summary>
+    public const int RAVO_CHARACTER_SEPARATOR_SPACE = 23;
+    /// <summary>(Zl)</summary>
+    public const int RAVO_CHARACTER_SEPARATOR_LINE = 24;
+    /// <summary>(Zp)</summary>
+    public const int RAVO_CHARACTER_SEPARATOR_PARAGRAPH = 25;
+    /// <summary>(Cc)</summary>
+    public const int RAVO_CHARACTER_OTHER_CONTROL = 26;
+    /// <summary>(Cf)</summary>
+    public const int RAVO_CHARACTER_OTHER_FORMAT = 27;
+    /// <summary>(Cs)</summary>
+    public const int RAVO_CHARACTER_OTHER_SURROGATE = 28;
+    /// <summary>(Co)</summary>
+    public const int RAVO_CHARACTER_OTHER_PRIVATE_USE = 29;
+    /// <summary>(L) numbers 1 to 5</summary>
+    public const int RAVO_CHARACTER_LETTER = 30;
+    /// <summary>(M) numbers 6 to 8</summary>
+    public const int RAVO_CHARACTER_MARK = 31;
+    /// <summary>(N) numbers 9 to 11</summary>
+    public const int RAVO_CHARACTER_NUMBER = 32;
+    /// <summary>(P) numbers 12 to 18</summary>
+    public const int RAVO_CHARACTER_PUNCTUATION = 33;
+    /// <summary>(S) numbers 19 to 22</summary>
+    public const int RAVO_CHARACTER_SYMBOL = 34;
+    /// <summary>(Z) numbers 23 to 25</summary>
+    public const int RAVO_CHARACTER_SEPARATOR = 35;
+    /// <summary>(C) numbers 26 to 29: without the unassigned ones</summary>
+    public const int RAVO_CHARACTER_OTHER = 36;
+    /// <summary>a letter of the Latin, Greek and Cyrillic blocks</summary>
+    public const int RAVO_CHARACTER_LETTER_COMMON = 37;
+    /// <summary>by the property White_Space</summary>
+    public const int RAVO_CHARACTER_WHITE_SPACE = 38;
+    /// <summary>a letter</summary>
+    public const int RAVO_CHARACTER_ALPHA = 39;
+    /// <summary>a letter or a decimal digit of any script</summary>
+    public const int RAVO_CHARACTER_ALPHA_NUM = 40;
+    /// <summary>a decimal digit of any script</summary>
+    public const int RAVO_CHARACTER_DIGIT = 41;
+    /// <summary>0 to 9, A to F, a to f</summary>
+    public const int RAVO_CHARACTER_HEX_DIGIT = 42;
+    /// <summary>a syllable, U+AC00 to U+D7A3</summary>
+    public const int RAVO_CHARACTER_HANGUL = 43;
+    /// <summary>carriage return or line feed</summary>
+    public const int RAVO_CHARACTER_CR_LF = 44;
+    /// <summary>"_"</summary>
+    public const int RAVO_CHARACTER_LOW_LINE = 45;
+    /// <summary>U+0022 or U+0027</summary>
+    public const int RAVO_CHARACTER_QUOTE = 46;
+    /// <summary>assigned, and no letter, mark, number, connector, surrogate</summary>
+    public const int RAVO_CHARACTER_WORD_SEPARATOR = 47;
+    /// <summary>white space or "&amp;"</summary>
+    public const int RAVO_CHARACTER_WHITE_SPACE_OR_AMPERSAND = 48;
+    /// <summary>white space or ":"</summary>
+    public const int RAVO_CHARACTER_WHITE_SPACE_OR_COLON = 49;
+    /// <summary>white space, of which U+00A0 is</summary>
+    public const int RAVO_CHARACTER_WHITE_SPACE_OR_NO_BREAK_SPACE = 50;
+    /// <summary>white space or ">"</summary>
+    public const int RAVO_CHARACTER_WHITE_SPACE_GT = 51;
+    /// <summary>white space or "&lt;"</summary>
+    public const int RAVO_CHARACTER_WHITE_SPACE_LT = 52;
+    /// <summary>white space or "-"</summary>
+    public const int RAVO_CHARACTER_WHITE_SPACE_HYPHEN = 53;
+    /// <summary>white space, "-" or ">"</summary>
+    public const int RAVO_CHARACTER_WHITE_SPACE_HYPHEN_GT = 54;
+
+    /// <summary>Writes 1 if a character has a property, else 0.</summary>
+    /// <remarks>
+    /// <para>RAVO_ARGUMENT for an unknown property. Never allocates.</para>
+    /// <code>ravo_character_is(0x010D, RAVO_CHARACTER_LETTER, &amp;answer, NULL)  // 1: č</code>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_character_is(ushort unit, int property, ref int answer,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes the category of a character: one of the numbers 0 to 29. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_character_category(ushort unit, ref int category, [In, Out] ravo_error error);
+
+    /// <summary>Returns the short name of a category or of a group, such as "Lu" or "L", or null for what is neither.</summary>
+    /// <remarks>
+    /// <para>Never allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern IntPtr ravo_character_category_name(int category);
+
+    /// <summary>Writes the upper case of a character, or itself if it has none of one unit. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_character_to_upper(ushort unit, ref ushort mapped, [In, Out] ravo_error error);
+
+    /// <summary>Writes the lower case of a character, or itself if it has none of one unit. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_character_to_lower(ushort unit, ref ushort mapped, [In, Out] ravo_error error);
+
+    /// <summary>Writes the title case of a character: the upper case, but U+01C5 for U+01C4 and the like. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_character_to_title(ushort unit, ref ushort mapped, [In, Out] ravo_error error);
+
+    /// <summary>Writes the case-folded form of a character, equal for those that differ only in case. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_character_to_case_fold(ushort unit, ref ushort mapped,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes the canonical combining class of a character: 0 for a starter, else the rank of a mark, up to 254.</summary>
+    /// <remarks>
+    /// <para>Never allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_character_combining_class(ushort unit, ref int rank, [In, Out] ravo_error error);
+
+    /// <summary>the full canonical one, marks in canonical order: "é" is "e" and U+0301</summary>
+    public const int RAVO_DECOMPOSITION_CANONICAL = 0;
+    /// <summary>the full compatibility one, or the canonical one if there is no other</summary>
+    public const int RAVO_DECOMPOSITION_COMPATIBLE = 1;
+    /// <summary>the letters of a Hangul syllable, which the others leave alone</summary>
+    public const int RAVO_DECOMPOSITION_HANGUL = 2;
+
+    /// <summary>Writes the decomposition of a character; an empty text if it has none.</summary>
+    /// <remarks>
+    /// <para>RAVO_ARGUMENT for an unknown decomposition. Allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_character_decompose(ushort unit, int decomposition, [Out] byte[] buffer,
+        UIntPtr size, ref UIntPtr length, [In, Out] ravo_error error);
 
     /// <summary>Changes the CRC-32 of zip and Ethernet to that of the bytes so far and these. Begin with 0.</summary>
     /// <remarks>
@@ -1723,6 +1980,63 @@ public static class Ravo
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern int ravo_encoding_of_mark(byte[] bytes, UIntPtr bytes_length, ref int encoding,
         ref UIntPtr mark_length, [In, Out] ravo_error error);
+
+    /// <summary>Czech texts of Windows, DOS and Unix, and of every form of Unicode</summary>
+    public const int RAVO_DETECT_PLAIN = 0;
+    /// <summary>and those of the Macintosh: Mac Central European</summary>
+    public const int RAVO_DETECT_MAC = 1;
+
+    /// <summary>a byte-order mark</summary>
+    public const int RAVO_EVIDENCE_MARK = 1;
+    /// <summary>the zero bytes of UTF-16 or UTF-32</summary>
+    public const int RAVO_EVIDENCE_ZEROS = 2;
+    /// <summary>ASCII characters only, which count as UTF-8</summary>
+    public const int RAVO_EVIDENCE_ASCII = 3;
+    /// <summary>bytes that are valid UTF-8, too many for chance</summary>
+    public const int RAVO_EVIDENCE_UTF8 = 4;
+    /// <summary>it looks most like Czech in this encoding</summary>
+    public const int RAVO_EVIDENCE_CZECH = 5;
+    /// <summary>several encodings read it alike</summary>
+    public const int RAVO_EVIDENCE_ALIKE = 6;
+    /// <summary>several encodings are possible</summary>
+    public const int RAVO_EVIDENCE_CLOSE = 7;
+    /// <summary>it does not look like Czech in any encoding</summary>
+    public const int RAVO_EVIDENCE_FOREIGN = 8;
+    /// <summary>zero bytes: it may not be text</summary>
+    public const int RAVO_EVIDENCE_BINARY = 9;
+
+    /// <summary>The encoding that a text seems to have. Declare it as `ravo_detection detection = RAVO_DETECTION_INIT;`.</summary>
+    [StructLayout(LayoutKind.Sequential)]
+    public sealed class ravo_detection
+    {
+        /// <summary>sizeof(ravo_detection), set by the caller</summary>
+        public UIntPtr size = (UIntPtr)Marshal.SizeOf(typeof(ravo_detection));
+        /// <summary>how many cannot be told apart; 1 if it is sure</summary>
+        public UIntPtr candidates;
+        /// <summary>the most likely one</summary>
+        public int encoding;
+        /// <summary>why</summary>
+        public int evidence;
+        /// <summary>1 if there is no doubt, else 0</summary>
+        public int is_sure;
+    }
+
+    /// <summary>Writes the encoding that a text seems to have, by its first bytes; they may end inside a character.</summary>
+    /// <remarks>
+    /// <para>256 KiB are more than enough. RAVO_ARGUMENT for unknown flags. Allocates.</para>
+    /// <code>ravo_encoding_detect("P\xF8\xEDli\x9A", 6, RAVO_DETECT_PLAIN, &amp;detection, NULL)  // Windows-1250</code>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_encoding_detect(byte[] bytes, UIntPtr bytes_length, int flags,
+        [In, Out] ravo_detection detection, [In, Out] ravo_error error);
+
+    /// <summary>Writes one of the encodings that cannot be told apart, by its index from 0, from the most likely one on.</summary>
+    /// <remarks>
+    /// <para>Detects again. RAVO_UNKNOWN past the last one. Allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_encoding_candidate_at(byte[] bytes, UIntPtr bytes_length, int flags,
+        UIntPtr index, ref int encoding, [In, Out] ravo_error error);
 
     /// <summary>the conversion fails at its position</summary>
     public const int RAVO_CONVERT_STRICT = 0;

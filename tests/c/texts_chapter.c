@@ -9,6 +9,8 @@ static void change_case_by_character(void) {
   EXPECT_TEXT(text, "příliš žluťoučký");
   EXPECT(ravo_text_fold(TEXT("ΣΑΣ"), text, sizeof text, NULL, NULL) == RAVO_OK);
   EXPECT_TEXT(text, "σασ");
+  EXPECT(ravo_text_proper(TEXT("ÚČETNÍ deník, žižkov-ŘEPY"), text, sizeof text, NULL, NULL) == RAVO_OK);
+  EXPECT_TEXT(text, "Účetní Deník, Žižkov-Řepy");
 }
 
 static void match_masks(void) {
@@ -17,6 +19,10 @@ static void match_masks(void) {
   EXPECT(ravo_text_match(TEXT("ÚČET"), TEXT("účet"), 0, &answer, NULL) == RAVO_OK && answer == 0);
   EXPECT(ravo_text_match(TEXT("ÚČET"), TEXT("účet"), 1, &answer, NULL) == RAVO_OK && answer == 1);
   EXPECT(ravo_text_match(NULL, 0, TEXT("*"), 0, &answer, NULL) == RAVO_OK && answer == 1);
+  EXPECT(ravo_text_match_with(TEXT("ÚČ*T"), TEXT("ú%*_"), '%', '_', 1, &answer, NULL) == RAVO_OK &&
+         answer == 1);
+  EXPECT(ravo_text_match_with(TEXT("ÚČET"), TEXT("ú%*_"), '%', '_', 1, &answer, NULL) == RAVO_OK &&
+         answer == 0);
 }
 
 static void travel_in_urls(void) {
@@ -28,6 +34,12 @@ static void travel_in_urls(void) {
   EXPECT_TEXT(text, "a b&č%");
   EXPECT(ravo_url_decode(TEXT("ab%C4"), text, sizeof text, NULL, &error) == RAVO_UTF8);
   EXPECT(error.position == 2);
+  EXPECT(ravo_uri_without_fragment(TEXT("účet#část#2"), text, sizeof text, NULL, NULL) == RAVO_OK);
+  EXPECT_TEXT(text, "účet");
+  EXPECT(ravo_uri_fragment(TEXT("účet#část#2"), text, sizeof text, NULL, NULL) == RAVO_OK);
+  EXPECT_TEXT(text, "část#2");
+  EXPECT(ravo_uri_fragment(TEXT("účet"), text, sizeof text, NULL, NULL) == RAVO_OK);
+  EXPECT_TEXT(text, "");
 }
 
 static void are_never_cut_inside_a_character(void) {

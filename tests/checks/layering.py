@@ -42,13 +42,14 @@ MAY_USE: dict[str, set[str] | None] = {
     "ravo/common": {"runtime", "platform", "frame", "catalogue", "utils"},
     "ravo/czech": {"runtime"},
     "ravo/convert": {"codec"},
+    "ravo/order": {"convert"},
     "ravo/isdoc": {"runtime", "czech"},
     "ravo/sysinfo": {"runtime", "platform", "frame", "common"},
     "ravo/xml": {"runtime", "codec", "platform", "frame"},
     "ravo/formout": {"runtime", "codec", "platform", "frame", "unicode"},
     "ravo/hostapi": {"runtime", "platform", "frame"},
-    "c": {"runtime", "codec", "convert", "frame", "catalogue", "unicode", "utils", "common", "czech", "isdoc", "sysinfo", "formout"},
-    "tools/ravo": {PUBLIC, "codec", "convert", "czech", "isdoc"},
+    "c": {"runtime", "codec", "convert", "frame", "catalogue", "unicode", "utils", "common", "czech", "isdoc", "sysinfo", "formout", "order"},
+    "tools/ravo": {PUBLIC, "codec", "convert", "czech", "isdoc", "order"},
 }
 SCANNED = ("ravo", "c", "tools/ravo")
 

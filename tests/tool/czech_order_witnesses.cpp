@@ -2,7 +2,7 @@
 //
 // Both are asked about words and random strings. They differ in two places, which are decided in
 // `Witnesses.DifferInSigns` and by --digits-first.
-#include "czech_order.h"
+#include <ravo/order/czech_order.h>
 
 #include <clocale>
 #include <cstdint>
@@ -92,16 +92,22 @@ class Glibc {
 
 class Ours {
  public:
-  explicit Ours(const tool::CzechOrder& order = {}) : keys_(order) {}
+  explicit Ours(const ravo::order::CzechOrder& order = {}) : order_(order), keys_(order) {}
   std::string Key(const std::string& text) {
     std::string key;
     keys_.Append(text, key);
     return key;
   }
-  int operator()(const std::string& a, const std::string& b) { return Sign(Key(a).compare(Key(b))); }
+  // By keys and without them.
+  int operator()(const std::string& a, const std::string& b) {
+    const int by_keys = Sign(Key(a).compare(Key(b)));
+    EXPECT_EQ(ravo::order::CompareCzech(a, b, order_), by_keys) << a << " and " << b;
+    return by_keys;
+  }
 
  private:
-  tool::CzechKeys keys_;
+  ravo::order::CzechOrder order_;
+  ravo::order::CzechKeys keys_;
 };
 
 const Strings kLetters = {"a", "á",  "b",  "c",  "č", "d", "ď", "e", "é", "ě", "f", "g", "h", "ch", "i",

@@ -2,12 +2,14 @@
 
 #include "czech_sentences.h"
 #include <ravo/codec/texts.h>
+#include <ravo/convert/detection.h>
 
 #include <algorithm>
 #include <cstdio>
 #include <map>
 #include <random>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -148,6 +150,56 @@ TEST(GuessEncoding, NeverIsAnEncodingOfMacintosh) {
   for (int count = 0; count < 200; ++count) {
     const std::string bytes = Fitting(Prose(random, 200), *codec::FindEncoding("Mac_CentralEurope"), 200);
     EXPECT_EQ(GuessEncoding(bytes).encoding.find("Mac"), std::string::npos);
+  }
+}
+
+using ravo::convert::DetectEncoding;
+using ravo::convert::Detection;
+using ravo::convert::Evidence;
+using ravo::convert::MacTexts;
+
+std::vector<std::string> NamesOf(const Detection& detection) {
+  std::vector<std::string> names;
+  for (const codec::Encoding* const one : detection.candidates) names.emplace_back(one->name);
+  return names;
+}
+
+TEST(DetectEncoding, TellsWhatCannotBeToldApart) {
+  struct Row {
+    std::string_view bytes;
+    Evidence evidence;
+    std::vector<std::string> candidates;
+  };
+  const Row rows[] = {
+      {"", Evidence::Ascii, {"UTF_8"}},
+      {"P\xF8\xEDli\x9A \x9Elu\x9Dou\xE8k\xFD k\xF9\xF2", Evidence::Czech, {"Windows_1250"}},
+      {"Dobr\xFD den", Evidence::Alike, {"Windows_1250", "Iso_8859_2", "CP_852"}},
+      {"Кто", Evidence::Close, {"UTF_8", "CP_852"}},
+      {"\x81\x83\x88\x90\x98", Evidence::Foreign, {"CP_852", "Windows_1250", "Iso_8859_2"}},
+      {"\x7F\x45LF\0\0\0\1\2\3\4\0"sv, Evidence::Binary, {"Windows_1250"}},
+  };
+  for (const Row& row : rows) {
+    const Detection detection = DetectEncoding(row.bytes);
+    EXPECT_EQ(detection.evidence, row.evidence) << testing::PrintToString(row.bytes);
+    EXPECT_EQ(NamesOf(detection), row.candidates) << testing::PrintToString(row.bytes);
+    EXPECT_EQ(detection.IsSure(), row.evidence <= Evidence::Czech);
+  }
+}
+
+// Texts of all encodings, with Mac Central European among the possible ones.
+TEST(DetectEncoding, FindsTextsOfMacintoshOnRequest) {
+  constexpr const char* kEncodings[] = {"Mac_CentralEurope", "Windows_1250", "Iso_8859_2", "CP_852", "UTF_8"};
+  std::mt19937 random(13);
+  for (const char* const encoding : kEncodings) {
+    int right = 0;
+    for (int count = 0; count < kTexts; ++count) {
+      const std::string bytes = Fitting(Prose(random, 100), *codec::FindEncoding(encoding), 100);
+      const Detection detection = DetectEncoding(bytes, MacTexts::Possible);
+      const bool same = ReadAs(detection.Encoding().name, bytes) == ReadAs(encoding, bytes);
+      right += same ? 1 : 0;
+      EXPECT_TRUE(same || !detection.IsSure()) << encoding;
+    }
+    EXPECT_GE(right, 0.995 * kTexts) << encoding;
   }
 }
 

@@ -44,6 +44,7 @@ GOOD_NUMBERS = {
     "year": "2026", "month": "11", "day_of_month": "21", "week": "47", "days": "14", "months": "1", "index": "0", "nth": "0",
     "from": "0", "separator": "'.'", "decimal": "','", "places": "2", "percent": "21", "id": "71710", "milliseconds": "0",
     "code": "800", "code_page": "1250", "numerator": "21", "denominator": "121", "moment": "40000.0", "letter": "'M'", "decimals": "2",
+    "unit": "0xC0", "wild": "'*'", "one": "'?'",
 }
 # By function and parameter.
 GOOD_SPECIAL = {
@@ -216,7 +217,8 @@ def changes(function: Function, header: Header) -> Iterator[tuple[str, dict[str,
             yield "no encoding either", {one.name: "INT32_MAX"}, "RAVO_UNKNOWN" if function.name == "ravo_encoding_at" else "RAVO_ARGUMENT"
         if one.role == "value" and one.type in header.enums:
             yield "a number too low", {one.name: str(min(header.enums[one.type]) - 1)}, "RAVO_ARGUMENT"
-            yield "a number too high", {one.name: str(max(header.enums[one.type]) + 1)}, "RAVO_ARGUMENT"
+            above = 2 * max(header.enums[one.type]) if one.type.endswith("_flags") else max(header.enums[one.type]) + 1
+            yield "a number too high", {one.name: str(above)}, "RAVO_ARGUMENT"
             yield "a number of a low byte", {one.name: str(min(header.enums[one.type]) + 256)}, "RAVO_ARGUMENT"
 
 

@@ -139,10 +139,15 @@ RULES: list[Rule] = [
     ("ravo/sysinfo/captions", ".*", "of modules of the suite; ravo_machine_report has those of the report"),
     ("ravo/sysinfo/system_info", "FileVersion|GetTempDirectory", MACHINE),
     ("ravo/sysinfo/.*", ".*", "ravo_machine_report, of which it is a part"),
-    ("ravo/unicode/characters/mappings", "CharToCaseFoldW", "ravo_text_fold"),
-    ("ravo/unicode/characters/mappings", "CharToUpperW", "ravo_text_upper"),
-    ("ravo/unicode/characters/mappings", "CharToLowerW", "ravo_text_lower"),
-    ("ravo/unicode/characters.*", ".*", LATER),
+    ("ravo/unicode/characters/mappings", "CharToCaseFoldW", "ravo_character_to_case_fold, ravo_text_fold"),
+    ("ravo/unicode/characters/mappings", "CharToUpperW", "ravo_character_to_upper, ravo_text_upper"),
+    ("ravo/unicode/characters/mappings", "CharToLowerW", "ravo_character_to_lower, ravo_text_lower"),
+    ("ravo/unicode/characters/mappings", "CharToTitleW", "ravo_character_to_title"),
+    ("ravo/unicode/characters/mappings", "CharCanonicalCombiningClassW", "ravo_character_combining_class"),
+    ("ravo/unicode/characters/decompositions", ".*", "ravo_character_decompose"),
+    ("ravo/unicode/characters/categories", "CharIsLetterCommonW", "ravo_character_is"),
+    ("ravo/unicode/characters/categories", ".*", "ravo_character_is, ravo_character_category, ravo_character_category_name"),
+    ("ravo/unicode/characters/character_kinds", ".*", "ravo_character_is"),
     ("ravo/unicode/code_pages", "FromCodePage|ToCodePage", "ravo_convert with ravo_encoding_of_code_page"),
     ("ravo/unicode/code_pages", "CodePageFromLocale", MACHINE),
     ("ravo/unicode/encodings", "EncodingRows|EncodingRow", "ravo_encoding_count, ravo_encoding_at"),
@@ -163,12 +168,16 @@ RULES: list[Rule] = [
     ("ravo/utils/calendar", ".*", "ravo_day_of, ravo_date_of"),
     ("ravo/utils/checksums", ".*", "ravo_crc32"),
     ("ravo/utils/(hashes|hash_stream|lookup2)", ".*", "ravo_suite_hash"),
-    ("ravo/utils/strings/wildcards", ".*", "ravo_text_match"),
+    ("ravo/utils/strings/wildcards", ".*", "ravo_text_match, ravo_text_match_with"),
     ("ravo/utils/strings/url", "StrEncodeUrlA", "ravo_url_encode"),
     ("ravo/utils/strings/url", "StrDecodeUrlA", "ravo_url_decode"),
+    ("ravo/utils/strings/url", "StrTr?imUriFragment[AW]", "ravo_uri_without_fragment"),
+    ("ravo/utils/strings/url", "StrExtractUriFragmentW", "ravo_uri_fragment"),
+    ("ravo/utils/strings/letter_case", "ProperCase.*", "ravo_text_proper"),
     ("ravo/utils/strings/letter_case", "StrToUpper.*", "ravo_text_upper"),
     ("ravo/utils/strings/letter_case", "StrToLower.*", "ravo_text_lower"),
-    ("ravo/utils/strings/natural_order", ".*", LATER),
+    ("ravo/utils/strings/natural_order", ".*A", "ravo_suite_compare_num_bytes"),
+    ("ravo/utils/strings/natural_order", ".*", "ravo_suite_compare_num"),
     ("ravo/utils/strings/.*", ".*", OWN),
     ("ravo/utils/random", "init_genrand", "ravo_random_open"),
     ("ravo/utils/random", "init_by_array", "ravo_random_open_array"),
@@ -189,8 +198,8 @@ RULES: list[Rule] = [
 ]
 # What no public header has.
 BESIDE = [
-    ("`ravo convert` without `--from`", "detection of encodings", PROGRAM),
-    ("`ravo sort`", "Czech alphabetical order", PROGRAM),
+    ("`ravo convert` without `--from`", "detection of encodings", "`ravo_encoding_detect`, `ravo_encoding_candidate_at`"),
+    ("`ravo sort`", "Czech alphabetical order, numbers by value", "`ravo_compare_czech`, `ravo_czech_key`, `ravo_compare_numbers`, `ravo_number_key`"),
     ("`ravo xml set`", "change of XML with every other byte kept", PROGRAM),
 ]
 # What has no counterpart in a C++ header of its own.
@@ -198,6 +207,7 @@ OF_C = {
     "ravo_version", "ravo_build_info", "ravo_encoding_of_mark", "ravo_check_column", "ravo_respell_column", "ravo_crc32_column", "ravo_column_of_arrow",
     "ravo_arrow_stream", "ravo_invoice_open", "ravo_invoice_close", "ravo_invoice_head_of", "ravo_invoice_party_of", "ravo_invoice_totals_of",
     "ravo_invoice_line_count", "ravo_invoice_line_at", "ravo_invoice_rate_count", "ravo_invoice_rate_at", "ravo_invoice_payment_count",
+    "ravo_encoding_detect", "ravo_encoding_candidate_at", "ravo_compare_czech", "ravo_czech_key", "ravo_compare_numbers", "ravo_number_key",
     "ravo_invoice_payment_at", "ravo_invoice_finding_count", "ravo_invoice_finding_at", "ravo_invoice_rule_sentence",
 }
 TYPE = re.compile(r"^\s*(?:template\s*<[^>]*>\s*)?(?:struct|class|enum class|enum)\s+(?:RAVO_API\s+|alignas\(\w+\)\s+)*(\w+)\b([^;{]*)(;|\{)", re.MULTILINE)
@@ -242,7 +252,7 @@ def render(root: pathlib.Path, rules: list[Rule] = RULES) -> dict[str, str]:
     parts = []
     for header, lines in sorted(rows(root, rules).items()):
         parts.append(f"### {header}\n\n" + table(("C++", "C, or why not"), lines))
-    beside = table(("where", "what", "why not"), BESIDE)
+    beside = table(("where", "what", "C, or why not"), BESIDE)
     return {PAGE: with_block(read(root / PAGE), "\n".join(parts) + "\n### What no public header has\n\n" + beside)}
 
 
@@ -269,7 +279,7 @@ _HEADERS = {
 }
 _PAGE = with_block(_EMPTY, "### ravo/czech/day.h\n\n" + table(("C++", "C, or why not"), [("`Weekday`", OWN)]) +
                    "\n### ravo/czech/ico.h\n\n" + table(("C++", "C, or why not"), [("`Ico`, `ParseIco`", "`ravo_check`")]) +
-                   "\n### What no public header has\n\n" + table(("where", "what", "why not"), BESIDE))
+                   "\n### What no public header has\n\n" + table(("where", "what", "C, or why not"), BESIDE))
 
 
 def _tree(**changed: str) -> dict[str, str]:

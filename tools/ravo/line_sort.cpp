@@ -1,8 +1,8 @@
 #include "line_sort.h"
 
-#include "natural_order.h"
 #include "text.h"
 #include <ravo/RavoInterface.h>
+#include <ravo/order/number_keys.h>
 
 #include <algorithm>
 #include <cstdint>
@@ -85,7 +85,7 @@ class Part {
   }
   void AppendKeyOf(std::string_view text) {
     if (order_.numeric) {
-      AppendDecimalKey(text, bytes_);
+      ravo::order::AppendDecimalKey(text, bytes_);
     } else {
       keys_.Append(text, bytes_);
     }
@@ -98,7 +98,7 @@ class Part {
   }
 
   const LineOrder& order_;
-  CzechKeys keys_;
+  ravo::order::CzechKeys keys_;
   std::string bytes_;
 };
 

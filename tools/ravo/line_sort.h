@@ -1,6 +1,6 @@
 #pragma once
 
-#include "czech_order.h"
+#include <ravo/order/czech_order.h>
 
 #include <cstddef>
 #include <string>
@@ -8,6 +8,8 @@
 #include <vector>
 
 namespace tool {
+
+using ravo::order::CzechOrder;
 
 /// The order and options of a sort.
 struct LineOrder {

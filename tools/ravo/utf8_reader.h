@@ -1,20 +1,11 @@
 #pragma once
 
-#include <cstddef>
-#include <string_view>
+#include <ravo/convert/utf8_reader.h>
 
 namespace tool {
 
-/// A character at the start of a text in UTF-8, and how many bytes it takes: none if they are not UTF-8.
-struct Utf8Character {
-  char32_t code = 0;
-  std::size_t size = 0;
-};
-
-/// Returns the first character of a text that is not empty.
-[[nodiscard]] Utf8Character FirstCharacter(std::string_view utf8);
-
-/// Returns where the first byte is that is not UTF-8; the text's size otherwise.
-[[nodiscard]] std::size_t ValidUtf8Length(std::string_view text);
+using ravo::convert::FirstCharacter;
+using ravo::convert::Utf8Character;
+using ravo::convert::ValidUtf8Length;
 
 }  // namespace tool

@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-namespace tool::czech_order {
+namespace ravo::order::czech_table {
 
 // Of keys: the first bytes of primary weights.
 inline constexpr std::uint8_t kFirstLetterLead = 0x19;
@@ -1122,4 +1122,4 @@ inline constexpr std::uint32_t kExpansions[3112] = {
   0xbcc2046, 0xbc96000, 0xbcc2046, 0xbc7e000,
 };
 
-}  // namespace tool::czech_order
+}  // namespace ravo::order::czech_table

@@ -1,9 +1,9 @@
-#include "czech_likeness.h"
+#include <ravo/convert/czech_likeness.h>
 
 #include <algorithm>
 #include <cstddef>
 
-namespace tool {
+namespace ravo::convert {
 namespace {
 
 struct Letter {
@@ -125,4 +125,4 @@ int CzechLikeness(std::u16string_view text) {
   return bits;
 }
 
-}  // namespace tool
+}  // namespace ravo::convert

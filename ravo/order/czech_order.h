@@ -1,4 +1,10 @@
-// The Czech alphabetical order, as sort keys.
+// The room ravo/order: in which order texts stand in lists that people read.
+//
+// Start with `CompareCzech`, the Czech alphabetical order of two texts. `CzechKeys` makes sort keys of the
+// same order, for many texts. number_keys.h compares numbers by value, within texts and as amounts.
+//
+// The room has no locale: the order is the same on every machine. The suite's own natural order is not here
+// but in ravo/utils/strings.
 //
 // A key is a string of bytes; keys compare byte by byte as the texts do. It has three levels, each after the
 // other ones: letters (c before č, h before ch), then accents, then capitals. Each level is the weights of
@@ -11,7 +17,9 @@
 #include <string>
 #include <string_view>
 
-namespace tool {
+namespace ravo::order {
+
+struct CzechLetter;
 
 struct CzechOrder {
   bool ignore_case = false;
@@ -20,6 +28,10 @@ struct CzechOrder {
   /// Digits precede letters, as in most programs.
   bool digits_first = false;
 };
+
+/// Returns -1, 0 or 1: whether the first of two texts comes before the second one, equals it, or comes after
+/// it. It is how their keys compare, without making them. The texts must be UTF-8.
+[[nodiscard]] int CompareCzech(std::string_view a, std::string_view b, const CzechOrder& order) noexcept;
 
 /// Makes sort keys. Keeps its buffers: one for each thread.
 class CzechKeys {
@@ -30,8 +42,7 @@ class CzechKeys {
   void Append(std::string_view utf8, std::string& key);
 
  private:
-  std::size_t AppendCharacter(std::string_view rest, std::string& key);
-  void AppendElements(std::uint32_t elements, std::string& key);
+  void AppendLetter(const CzechLetter& letter, std::string& key);
   void AppendElement(std::uint32_t element, std::string& key);
   void AppendUnlisted(char32_t code, std::string& key);
   void AppendLevels(std::string& key);
@@ -43,4 +54,4 @@ class CzechKeys {
   std::string tertiary_;
 };
 
-}  // namespace tool
+}  // namespace ravo::order
