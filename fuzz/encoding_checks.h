@@ -102,14 +102,14 @@ inline void CheckRunsUntil(const DIUnicode::TDIUnicodeReadMethods& methods, Byte
   std::u16string text;
   for (Bytes rest(copy.get(), bytes.size());;) {
     const codec::RunUntil run = until(rest, std::span(target.get(), room), ends);
-    Require(run.taken <= rest.size() && run.made <= room);
-    const std::u16string_view made(target.get(), run.made);
+    Require(run.Taken() <= rest.size() && run.Made() <= room);
+    const std::u16string_view made(target.get(), run.Made());
     for (const char16_t end : {ends.First(), ends.Second(), ends.Third()})
       Require(made.find(end) == std::u16string_view::npos);
     text += made;
-    rest = rest.subspan(run.taken);
+    rest = rest.subspan(run.Taken());
     if (rest.empty()) break;
-    if (run.taken != 0) continue;
+    if (run.Taken() != 0) continue;
     DIUnicode::TDIUnicodeReader reader;
     reader.SetReadMethods(methods);
     reader.SetSourceBuffer(rest);

@@ -122,8 +122,8 @@ template <const ByteTable& table>
 struct Until<SingleByte<table>> {
   static RunUntil Decode(ByteSpan bytes, TextRoom text, EndBytes ends) {
     const auto until = ChosenKernels().decode_single_byte_until;
-    return until != nullptr ? until(table, bytes, text, ends)
-                            : DecodeUntilByBlocks(DecodeWith<SingleByte<table>>, bytes, text, ends);
+    return until != nullptr ? until(bytes, text, ends, table)
+                            : DecodeUntilByBlocks(bytes, text, ends, DecodeWith<SingleByte<table>>);
   }
   static constexpr DecodeUntil kDecode = KeepsAscii(table) ? Decode : nullptr;
 };
@@ -133,7 +133,7 @@ struct Until<Utf8Engine<Policy>> {
   static RunUntil Decode(ByteSpan bytes, TextRoom text, EndBytes ends) {
     const auto until = ChosenKernels().decode_utf8_until;
     return until != nullptr ? until(bytes, text, ends)
-                            : DecodeUntilByBlocks(DecodeWith<Utf8Engine<Policy>>, bytes, text, ends);
+                            : DecodeUntilByBlocks(bytes, text, ends, DecodeWith<Utf8Engine<Policy>>);
   }
   static constexpr DecodeUntil kDecode = Decode;
 };

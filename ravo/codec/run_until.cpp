@@ -41,14 +41,15 @@ Run DecodeMixedBefore(DecodeRun decode, ByteSpan bytes, TextRoom to, const Ends&
 
 }  // namespace
 
-RunUntil DecodeUntilByBlocks(DecodeRun decode, ByteSpan bytes, TextRoom text, EndBytes end_bytes) {
-  const Ends ends(char16_t{end_bytes.First()}, char16_t{end_bytes.Second()}, char16_t{end_bytes.Third()});
+RunUntil DecodeUntilByBlocks(ByteSpan bytes, TextRoom text, EndBytes end_bytes, DecodeRun decode) {
+  const Ends ends = OneOfEnds(end_bytes);
   const std::size_t ascii = WidenAsciiBefore(bytes, text, ends);
-  Run mixed;
-  if (ascii < bytes.size() && bytes[ascii] >= 0x80)
-    mixed = DecodeMixedBefore(decode, bytes.subspan(ascii), text.subspan(ascii), ends);
-  return {ascii + mixed.taken, static_cast<std::uint32_t>(ascii + mixed.made),
-          end_bytes.HasBreaks() ? Lines::One : Lines::MayBeMore};
+  Run run{ascii, ascii};
+  if (ascii < bytes.size() && bytes[ascii] >= 0x80) {
+    const Run mixed = DecodeMixedBefore(decode, bytes.subspan(ascii), text.subspan(ascii), ends);
+    run = {ascii + mixed.taken, ascii + mixed.made};
+  }
+  return WithLineStarts(run, bytes, text, end_bytes);
 }
 
 }  // namespace ravo::codec

@@ -8,15 +8,16 @@ namespace {
 // Few enough for a count of eight bits. The compiler makes vectors of a loop of known length.
 constexpr std::size_t kAtOnce = 240;
 
+// Each break is counted at its carriage return or before its line feed: a pair counts once.
 template <class Unit>
 bool EndsLine(const Unit* at) {
-  return (at[0] == '\n') | ((at[0] == '\r') & (at[1] != '\n'));
+  return (at[0] == '\r') | (at[1] == '\n');
 }
 
-// A carriage return at the end is a break.
 template <class Unit>
 std::uint64_t CountBreaks(std::span<const Unit> text) {
-  std::uint64_t count = 0;
+  if (text.empty()) return 0;
+  std::uint64_t count = (text.front() == '\n' ? 1U : 0U) + (text.back() == '\r' ? 1U : 0U);
   std::size_t at = 0;
   for (; at + kAtOnce < text.size(); at += kAtOnce) {
     const Unit* const part = text.data() + at;
@@ -25,7 +26,7 @@ std::uint64_t CountBreaks(std::span<const Unit> text) {
     count += here;
   }
   for (; at + 1 < text.size(); ++at) count += EndsLine(text.data() + at) ? 1 : 0;
-  return count + (!text.empty() && (text.back() == '\n' || text.back() == '\r') ? 1 : 0);
+  return count;
 }
 
 std::uint64_t CountCharacters(std::u16string_view text) {

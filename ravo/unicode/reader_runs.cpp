@@ -14,7 +14,7 @@ namespace ravo::DIUnicode {
 namespace {
 
 using codec::EndBytes;
-using codec::Lines;
+using codec::LineStarts;
 using codec::Not;
 using codec::OneOf;
 using codec::Run;
@@ -57,16 +57,6 @@ constexpr bool kIsUntil = false;
 template <std::size_t count>
 constexpr bool kIsUntil<Not<OneOf<count>>> = true;
 
-// Returns whether the run ends at a byte of ASCII, which can be found without decoding.
-template <class Belongs>
-bool EndsByAscii(const Belongs& belongs) {
-  // Untested: discarded in the other instances.
-  if constexpr (kIsUntil<Belongs>)
-    return belongs.What().IsAscii();
-  else
-    return false;
-}
-
 template <class Unit, class Belongs>
 std::size_t LengthIn(std::span<const Unit> run, const Belongs& belongs) {
   // Untested: discarded in the other instances.
@@ -88,15 +78,6 @@ std::size_t AsciiLengthIn(std::span<const std::uint8_t> bytes, const Belongs& be
   return length;
 }
 
-template <std::size_t count>
-constexpr EndBytes EndsOf(const Not<OneOf<count>>& belongs) {
-  const auto& ends = belongs.What().Chars();
-  const auto byte = [&ends](std::size_t i) {
-    return static_cast<std::uint8_t>(ends[std::min(i, count - 1)]);
-  };
-  return {byte(0), byte(1), byte(2)};
-}
-
 }  // namespace
 
 template <class Unit>
@@ -104,21 +85,21 @@ void TDIUnicodeReader::AddRun(std::span<Unit> run) {
   std::ranges::copy(run, ExtendData(run.size()).begin());
 }
 
-// Advances position, line and column past the run; its last unit becomes the current character. With
-// `Lines::One`, only the character before the run can be a line break followed by others.
-template <class Unit>
-void TDIUnicodeReader::CountRun(std::span<const Unit> run, Lines lines) noexcept {
-  if (run.empty()) return;
-  const auto starts = codec::FindLineStarts(FChar, lines == Lines::MayBeMore ? run : run.first(1));
-  const auto size = static_cast<std::uint32_t>(run.size());
-  const char16_t before = size > 1 ? static_cast<char16_t>(run[size - 2]) : FChar;
-  FChar = run.back();
+// Without a branch: line breaks are hard to predict.
+inline void TDIUnicodeReader::CountLines(std::uint32_t size, const LineStarts& starts) noexcept {
+  const std::uint32_t on_line = starts.count == 0 ? 1 : 0;
   FCharPos += size;
-  FCharCol += size;
-  if (starts.count != 0) {
-    FCharLine += static_cast<std::uint32_t>(starts.count);
-    FCharCol = size - static_cast<std::uint32_t>(starts.last);
-  }
+  FCharLine += static_cast<std::uint32_t>(starts.count);
+  FCharCol = (FCharCol & (0 - on_line)) + size - static_cast<std::uint32_t>(starts.last);
+}
+
+// Advances position, line and column past the run; its last unit becomes the current character.
+template <class Unit>
+void TDIUnicodeReader::CountRun(std::span<const Unit> run, const LineStarts& starts) noexcept {
+  if (run.empty()) return;
+  const char16_t before = run.size() > 1 ? static_cast<char16_t>(run[run.size() - 2]) : FChar;
+  FChar = run.back();
+  CountLines(static_cast<std::uint32_t>(run.size()), starts);
   // The line feed of a pair has the column of the carriage return.
   if (FChar == u'\n' && before == u'\r') --FCharCol;
 }
@@ -130,48 +111,34 @@ bool TDIUnicodeReader::TakeAscii(const Belongs& belongs, bool store) {
   const auto run = unread.first(AsciiLengthIn(unread, belongs));
   if (store) AddRun(run);
   FSourceBufferPosition += static_cast<std::uint32_t>(run.size());
-  CountRun(run, Lines::MayBeMore);
+  CountRun(run, codec::FindLineStarts(FChar, run));
   return !run.empty() && run.size() == unread.size();
 }
 
-// Takes everything before the first ending character, and that character, which becomes the current one.
-// Decodes directly into the Data if it is stored there, else into `room`. `Taken::All` if the ending
-// character was reached.
-template <class Belongs>
-inline auto TDIUnicodeReader::TakeUntil(std::span<char16_t> room, const Belongs& belongs, bool store)
-    -> Taken {
-  const bool in_place = store && FData != nullptr;
-  const auto to = in_place ? RoomInData() : room;
-  const EndBytes ends = EndsOf(belongs);
+// Takes characters up to the first ending one. Returns whether that is the current one now.
+[[gnu::always_inline]] inline bool TDIUnicodeReader::TakeUntil(EndBytes ends, bool store) {
+  // `FDecodeUntil` does not count a line that starts with the run.
+  if (FDecodeUntil == nullptr || FPeekedCount != 0 || codec::kLineBreaks(FChar)) return false;
+  std::array<char16_t, kLongestRun> room;
   const auto unread = UnreadBytes();
+  const auto to = store ? RoomInData() : room;
   const RunUntil run = FDecodeUntil(unread, to, ends);
-  if (in_place)
-    CountAsData(run.made);
-  else if (store)
-    AddRun(to.first(run.made));
-  // The Data may have moved.
-  const auto chars =
-      std::span(in_place ? Data().substr(FDataSize - run.made) : std::u16string_view(to.data(), run.made));
-  FSourceBufferPosition += static_cast<std::uint32_t>(run.taken);
-  if (run.taken == unread.size() || !ends.Has(unread[run.taken])) {
-    CountRun(chars, run.lines);
-    return run.taken != 0 && run.taken != unread.size() ? Taken::Some : Taken::Nothing;
+  const LineStarts starts{run.LineStarts(), run.LastLineStart()};
+  if (run.Taken() == unread.size() || !ends.Has(unread[run.Taken()])) {
+    CountRun(std::span<const char16_t>(to.first(run.Made())), starts);
+    if (store) CountAsData(run.Made());
+    FSourceBufferPosition += run.Taken();
+    return false;
   }
-  ++FSourceBufferPosition;
-  const std::uint8_t last = run.taken != 0 ? unread[run.taken - 1] : 0;
-  if (run.lines == Lines::One && last != '\r' && last != '\n' && !codec::kLineBreaks(FChar)) {
-    FCharPos += run.made + 1;
-    FCharCol += run.made + 1;
-    FChar = unread[run.taken];
-  } else {
-    // Reading units that were just stored would stall on store forwarding; the bytes are equal to them.
-    if (run.made == run.taken)
-      CountRun(unread.first(run.taken), run.lines);
-    else
-      CountRun(chars, run.lines);
-    CountRun(unread.subspan(run.taken, 1), Lines::One);
-  }
-  return Taken::All;
+  if (store) CountAsData(run.Made());
+  CountLines(run.Made(), starts);
+  // Reading units that were just stored would stall on store forwarding; line breaks are equal to their
+  // bytes.
+  FLastChar = run.Taken() != 0 ? unread[run.Taken() - 1] : FChar;
+  FChar = unread[run.Taken()];
+  FSourceBufferPosition += run.Taken() + 1;
+  CountLocation();
+  return true;
 }
 
 // Decodes a run and takes its leading characters that match.
@@ -185,39 +152,49 @@ std::size_t TDIUnicodeReader::TakeDecoded(std::span<char16_t> room, const Belong
   const auto chars = std::span<const char16_t>(room.first(run.made));
   if (store) AddRun(chars);
   FSourceBufferPosition += static_cast<std::uint32_t>(run.taken);
-  CountRun(chars, Lines::MayBeMore);
+  CountRun(chars, codec::FindLineStarts(FChar, chars));
   return run.made;
 }
 
-// Returns whether the ending character is already the current one.
+// Takes characters up to the first of `ends`, also across the ends of buffers.
+void TDIUnicodeReader::TakeTill(EndBytes ends, bool store) {
+  while (FCharOK && !ends.Has(FChar)) {
+    if (store) AddChar(FChar);
+    if (TakeUntil(ends, store)) return;
+    ReadChar();
+  }
+}
+
 template <class Belongs>
-bool TDIUnicodeReader::TakeRuns(const Belongs& belongs, bool store) {
-  if (FDecodeRun == nullptr || FPeekedCount != 0) return false;
-  std::array<char16_t, kLongestRun> room;
-  if (FDecodeUntil != nullptr && EndsByAscii(belongs)) {
-    if constexpr (kIsUntil<Belongs>) {
-      Taken taken = Taken::Some;
-      while (taken == Taken::Some) taken = TakeUntil(room, belongs, store);
-      return taken == Taken::All;
-    }
-  } else if (FDecodeUntil != nullptr && !kIsUntil<Belongs>) {
+void TDIUnicodeReader::TakeRuns(const Belongs& belongs, bool store) {
+  if (FDecodeUntil != nullptr && !kIsUntil<Belongs>) {
     while (TakeAscii(belongs, store)) {
     }
   } else {
+    std::array<char16_t, kLongestRun> room;
     std::size_t next = kFirstRun;
     while (TakeDecoded(std::span(room).first(next), belongs, store) == next)
       next = std::min(2 * next, kLongestRun);
   }
-  return false;
 }
 
+// Out of line: keeps `TakeWhileNot` short.
 template <class Belongs>
-void TDIUnicodeReader::TakeWhile(const Belongs& belongs, bool store) {
+[[gnu::noinline]] void TDIUnicodeReader::TakeWhile(const Belongs& belongs, bool store) {
   while (FCharOK && belongs(FChar)) {
     if (store) AddChar(FChar);
-    if (TakeRuns(belongs, store)) return;
+    if (FDecodeRun != nullptr && FPeekedCount == 0) TakeRuns(belongs, store);
     ReadChar();
   }
+}
+
+// Characters of ASCII are found among the bytes, without decoding.
+template <class... Chars>
+void TDIUnicodeReader::TakeWhileNot(bool store, Chars... ends) {
+  if (FDecodeUntil != nullptr && OneOf(ends...).IsAscii())
+    TakeTill(EndBytes(static_cast<std::uint8_t>(ends)...), store);
+  else
+    TakeWhile(Not(OneOf(ends...)), store);
 }
 
 std::size_t TDIUnicodeReader::ReadRun(std::span<char16_t> room) {
@@ -247,16 +224,12 @@ void TDIUnicodeReader::SkipChars(CharPredicate Validate, char16_t c) {
   TakeWhile(PassingBut{OrWhiteSpace(Validate), c}, false);
 }
 
-void TDIUnicodeReader::ReadCharsTill(char16_t c) { TakeWhile(Not(OneOf(c)), true); }
-void TDIUnicodeReader::SkipCharsTill(char16_t c) { TakeWhile(Not(OneOf(c)), false); }
-void TDIUnicodeReader::ReadCharsTill(char16_t c, char16_t c2) { TakeWhile(Not(OneOf(c, c2)), true); }
-void TDIUnicodeReader::SkipCharsTill(char16_t c, char16_t c2) { TakeWhile(Not(OneOf(c, c2)), false); }
-void TDIUnicodeReader::ReadCharsTill(char16_t c, char16_t c2, char16_t c3) {
-  TakeWhile(Not(OneOf(c, c2, c3)), true);
-}
-void TDIUnicodeReader::SkipCharsTill(char16_t c, char16_t c2, char16_t c3) {
-  TakeWhile(Not(OneOf(c, c2, c3)), false);
-}
+void TDIUnicodeReader::ReadCharsTill(char16_t c) { TakeWhileNot(true, c); }
+void TDIUnicodeReader::SkipCharsTill(char16_t c) { TakeWhileNot(false, c); }
+void TDIUnicodeReader::ReadCharsTill(char16_t c, char16_t c2) { TakeWhileNot(true, c, c2); }
+void TDIUnicodeReader::SkipCharsTill(char16_t c, char16_t c2) { TakeWhileNot(false, c, c2); }
+void TDIUnicodeReader::ReadCharsTill(char16_t c, char16_t c2, char16_t c3) { TakeWhileNot(true, c, c2, c3); }
+void TDIUnicodeReader::SkipCharsTill(char16_t c, char16_t c2, char16_t c3) { TakeWhileNot(false, c, c2, c3); }
 
 void TDIUnicodeReader::ReadCharsTill(CharPredicate Validate) {
   TakeWhile(Failing{OrWhiteSpace(Validate)}, true);
@@ -275,35 +248,26 @@ void TDIUnicodeReader::ReadCharsTillWhiteSpace() { TakeWhile(NoWhiteSpace{}, tru
 
 // Reads the rest of the current line break, and the character after it, from the buffer, as `ReadChar` does.
 // A branch can be predicted; a computed count would be a dependency chain.
-inline bool TDIUnicodeReader::TakeBufferedBreak() {
+inline bool TDIUnicodeReader::TakeBufferedBreak() noexcept {
   const auto unread = UnreadBytes();
   if (FDecodeUntil == nullptr || FPeekedCount != 0 || unread.size() < 2) return false;
-  if (FChar == u'\r' && unread[0] == '\n') [[likely]]
-    BeginLine(unread[1], 2, u'\n');
-  else
-    BeginLine(unread[0], 1, FChar);
-  return true;
+  return FChar == u'\r' && unread[0] == '\n' ? BeginLine(unread[1], 2) : BeginLine(unread[0], 1);
 }
 
-// Makes `first`, `count` bytes ahead and after a line break that ends in `before`, the current character.
-inline void TDIUnicodeReader::BeginLine(std::uint8_t first, std::uint32_t count, char16_t before) {
-  if (first < 0x80) [[likely]] {
-    FSourceBufferPosition += count;
-    FCharPos += count;
-    ++FCharLine;
-    FCharCol = 1;
-    FChar = first;
-  } else {
-    FSourceBufferPosition += count - 1;
-    FCharPos += count - 1;
-    FChar = before;
-    ReadChar();
-  }
+// Makes `first`, `count` bytes ahead and after a line break, the current character if it is ASCII.
+inline bool TDIUnicodeReader::BeginLine(std::uint8_t first, std::uint32_t count) noexcept {
+  if (first >= 0x80) return false;
+  FSourceBufferPosition += count;
+  FCharPos += count;
+  ++FCharLine;
+  FCharCol = 1;
+  FChar = first;
+  return true;
 }
 
 void TDIUnicodeReader::TakeLine(bool store) {
   if (!FCharOK) ReadChar();
-  TakeWhile(Not(codec::kLineBreaks), store);
+  TakeWhileNot(store, u'\r', u'\n');
   if (!FCharOK || TakeBufferedBreak()) return;
   const bool pair_may_follow = FChar == u'\r';
   ReadChar();

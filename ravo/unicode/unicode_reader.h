@@ -14,9 +14,9 @@
 
 namespace ravo::codec {
 struct Run;
-struct RunUntil;
+struct LineStarts;
+class RunUntil;
 class EndBytes;
-enum class Lines : std::uint32_t;
 }  // namespace ravo::codec
 
 namespace ravo::DIUnicode {
@@ -407,24 +407,25 @@ class RAVO_API TDIUnicodeReader : public TDIUnicodeBase {
   [[nodiscard]] std::span<const std::uint8_t> UnreadBytes() const noexcept {
     return {FSourceBuffer + FSourceBufferPosition, FSourceBufferSize - FSourceBufferPosition};
   }
-  enum class Taken : std::uint8_t { Nothing, Some, All };
-
   template <class Unit>
   RAVO_LOCAL void AddRun(std::span<Unit> run);
   template <class Unit>
-  RAVO_LOCAL void CountRun(std::span<const Unit> run, codec::Lines lines) noexcept;
+  RAVO_LOCAL void CountRun(std::span<const Unit> run, const codec::LineStarts& starts) noexcept;
+  RAVO_LOCAL void CountLines(std::uint32_t size, const codec::LineStarts& starts) noexcept;
   template <class Belongs>
   RAVO_LOCAL bool TakeAscii(const Belongs& belongs, bool store);
-  template <class Belongs>
-  RAVO_LOCAL Taken TakeUntil(std::span<char16_t> room, const Belongs& belongs, bool store);
+  RAVO_LOCAL bool TakeUntil(codec::EndBytes ends, bool store);
+  RAVO_LOCAL void TakeTill(codec::EndBytes ends, bool store);
+  template <class... Chars>
+  RAVO_LOCAL void TakeWhileNot(bool store, Chars... ends);
   template <class Belongs>
   RAVO_LOCAL std::size_t TakeDecoded(std::span<char16_t> room, const Belongs& belongs, bool store);
   template <class Belongs>
-  RAVO_LOCAL bool TakeRuns(const Belongs& belongs, bool store);
+  RAVO_LOCAL void TakeRuns(const Belongs& belongs, bool store);
   template <class Belongs>
   RAVO_LOCAL void TakeWhile(const Belongs& belongs, bool store);
-  bool TakeBufferedBreak();
-  void BeginLine(std::uint8_t first, std::uint32_t count, char16_t before);
+  bool TakeBufferedBreak() noexcept;
+  bool BeginLine(std::uint8_t first, std::uint32_t count) noexcept;
   void TakeLine(bool store);
   /// Reads the next run of characters and returns its length; 0 at the end of all data.
   std::size_t ReadRun(std::span<char16_t> room);

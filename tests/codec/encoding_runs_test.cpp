@@ -96,13 +96,18 @@ void ExpectRunUntil(const Encoding& row, const Bytes& bytes, std::size_t room, E
   const RunUntil run = row.decode_until(from, to, ends);
   const std::size_t end = static_cast<std::size_t>(
       std::ranges::find_if(bytes, [ends](std::uint8_t byte) { return ends.Has(byte); }) - bytes.begin());
-  ASSERT_LE(run.taken, end) << row.name;
-  const std::u16string text(to.data(), run.made);
-  ASSERT_EQ(text, ReadOneByOne(row, test::TextOf(bytes).substr(0, run.taken))) << row.name;
-  const std::size_t breaks = text.find_first_of(u"\r\n");
-  if (breaks < text.size() - 1 && !text.empty()) {
-    ASSERT_EQ(run.lines, Lines::MayBeMore) << row.name;
+  ASSERT_LE(run.Taken(), end) << row.name;
+  const std::u16string text(to.data(), run.Made());
+  ASSERT_EQ(text, ReadOneByOne(row, test::TextOf(bytes).substr(0, run.Taken()))) << row.name;
+  std::size_t starts = 0;
+  std::size_t last = 0;
+  for (std::size_t i = 1; i < text.size(); ++i) {
+    if (text[i - 1] != u'\n' && (text[i - 1] != u'\r' || text[i] == u'\n')) continue;
+    ++starts;
+    last = i;
   }
+  ASSERT_EQ(run.LineStarts(), starts) << row.name;
+  ASSERT_EQ(run.LastLineStart(), last) << row.name;
 }
 
 TEST_P(EncodingRunsOfKernel, EndBeforeAByte) {
@@ -115,10 +120,31 @@ TEST_P(EncodingRunsOfKernel, EndBeforeAByte) {
         if (!bytes.empty() && random() % 2 == 0)
           bytes[random() % bytes.size()] = static_cast<std::uint8_t>(byte);
       }
-      const EndBytes ends = i % 3 == 0   ? EndBytes('\r', '\n', '\n')
-                            : i % 3 == 1 ? EndBytes(';', ';', ';')
+      const EndBytes ends = i % 3 == 0   ? EndBytes('\r', '\n')
+                            : i % 3 == 1 ? EndBytes(';')
                                          : EndBytes('\n', 'q', 0);
       ASSERT_NO_FATAL_FAILURE(ExpectRunUntil(row, bytes, random() % 400, ends));
+    }
+  }
+}
+
+// Line breaks of all kinds at every place of the first blocks, also of text that is not ASCII or is
+// malformed.
+TEST_P(EncodingRunsOfKernel, CountTheLinesOfARun) {
+  using namespace std::string_view_literals;
+  constexpr std::string_view kPieces[] = {"\r"sv,       "\n"sv,           "\r\n"sv,       "a"sv,
+                                          "\xC4\x8D"sv, "\xE2\x82\xAC"sv, "plain text "sv};
+  std::mt19937 random(6);
+  for (const char* const name : {"Windows_1250", "ISO_8859_2", "UTF_8"}) {
+    for (int i = 0; i < 600; ++i) {
+      const std::size_t kinds = i % 2 == 0 ? std::size(kPieces) : 4;
+      std::string text(random() % 3, 'x');
+      while (text.size() < 600) text += kPieces[random() % kinds];
+      if (i % 5 == 0) text[random() % text.size()] = '\xC4';
+      text[random() % (i % 3 == 0 ? 600 : 140)] = ';';
+      const Bytes bytes(text.begin(), text.end());
+      for (const EndBytes ends : {EndBytes(';'), EndBytes(';', '\r'), EndBytes(';', '#', '\n')})
+        ASSERT_NO_FATAL_FAILURE(ExpectRunUntil(*FindEncoding(name), bytes, 1000, ends)) << i;
     }
   }
 }

@@ -30,7 +30,8 @@ class KernelChoice {
   }
 
  private:
-  const Kernel& Choose() noexcept {
+  // Out of line: callers keep their arguments in registers.
+  [[gnu::noinline, gnu::cold]] const Kernel& Choose() noexcept {
     const auto last = std::find_if(kernels_.rbegin(), kernels_.rend(),
                                    [](const Kernel& kernel) { return kernel.runs_here(); });
     chosen_.store(&*last, std::memory_order_relaxed);

@@ -39,8 +39,9 @@ struct KernelSet {
 
   /// Only for tables with ASCII.
   Run (*decode_single_byte)(const ByteTable& table, ByteSpan bytes, TextRoom text) noexcept;
-  RunUntil (*decode_single_byte_until)(const ByteTable& table, ByteSpan bytes, TextRoom text,
-                                       EndBytes ends) noexcept;
+  /// The table comes last, so that a caller's arguments stay in their registers.
+  RunUntil (*decode_single_byte_until)(ByteSpan bytes, TextRoom text, EndBytes ends,
+                                       const ByteTable& table) noexcept;
   /// `ascii` is `HasAscii` of the table. Stops before a block that contains a character without a byte, or
   /// U+0000.
   Run (*encode_single_byte)(const ReverseTable& table, bool ascii, TextSpan text, ByteRoom bytes) noexcept;

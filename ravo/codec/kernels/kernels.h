@@ -35,8 +35,8 @@ namespace ravo::codec {
 [[nodiscard]] Run EncodeUtf8Avx512(TextSpan text, ByteRoom bytes) noexcept;
 [[nodiscard]] std::size_t Utf8LengthAvx512(TextSpan text) noexcept;
 [[nodiscard]] Run DecodeSingleByteAvx512(const ByteTable& table, ByteSpan bytes, TextRoom text) noexcept;
-[[nodiscard]] RunUntil DecodeSingleByteUntilAvx512(const ByteTable& table, ByteSpan bytes, TextRoom text,
-                                                   EndBytes ends) noexcept;
+[[nodiscard]] RunUntil DecodeSingleByteUntilAvx512(ByteSpan bytes, TextRoom text, EndBytes ends,
+                                                   const ByteTable& table) noexcept;
 [[nodiscard]] Run EncodeSingleByteAvx512(const ReverseTable& table, bool ascii, TextSpan text,
                                          ByteRoom bytes) noexcept;
 

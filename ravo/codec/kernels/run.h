@@ -38,6 +38,10 @@ using EncodeRun = Run (*)(TextSpan text, ByteRoom bytes);
 /// memory would stall on store forwarding.
 class EndBytes {
  public:
+  constexpr explicit EndBytes(std::uint8_t only) noexcept : EndBytes(only, only) {}
+  constexpr EndBytes(std::uint8_t first, std::uint8_t second) noexcept : EndBytes(first, second, second) {
+    if (first == '\r' && second == '\n') bytes_ |= kAreBreaks;
+  }
   constexpr EndBytes(std::uint8_t first, std::uint8_t second, std::uint8_t third) noexcept
       : bytes_(std::uint32_t{first} | std::uint32_t{second} << 8 | std::uint32_t{third} << 16) {}
 
@@ -48,24 +52,41 @@ class EndBytes {
   [[nodiscard]] constexpr std::uint8_t Third() const noexcept {
     return static_cast<std::uint8_t>(bytes_ >> 16);
   }
-  [[nodiscard]] constexpr bool Has(std::uint8_t byte) const noexcept {
-    return byte == First() || byte == Second() || byte == Third();
+  [[nodiscard]] constexpr bool Has(char16_t c) const noexcept {
+    return c == First() || c == Second() || c == Third();
   }
-  /// Returns whether both line breaks are among them.
-  [[nodiscard]] constexpr bool HasBreaks() const noexcept { return Has('\r') && Has('\n'); }
+  /// Returns whether carriage return and line feed were given, and no others.
+  [[nodiscard]] constexpr bool AreBreaks() const noexcept { return (bytes_ & kAreBreaks) != 0; }
 
  private:
+  static constexpr std::uint32_t kAreBreaks = 1U << 24;
+
   std::uint32_t bytes_;
 };
 
-/// Whether characters other than the last one of a run may be line breaks.
-enum class Lines : std::uint32_t { One, MayBeMore };
+/// The progress of a run that ends before a given byte. Two integers, returned in registers: compilers gather
+/// four members in memory.
+class RunUntil {
+ public:
+  constexpr RunUntil(std::size_t taken, std::size_t made, std::size_t line_starts,
+                     std::size_t last_line_start) noexcept
+      : progress_(taken | std::uint64_t{made} << 32),
+        lines_(line_starts | std::uint64_t{last_line_start} << 32) {}
 
-/// The progress of a run that ends before a given byte. It fits two registers.
-struct RunUntil {
-  std::size_t taken = 0;   ///< bytes
-  std::uint32_t made = 0;  ///< units, at most as many as bytes
-  Lines lines = Lines::One;
+  /// Returns the number of bytes.
+  [[nodiscard]] constexpr std::uint32_t Taken() const noexcept { return Low(progress_); }
+  /// Returns the number of units, at most as many as bytes.
+  [[nodiscard]] constexpr std::uint32_t Made() const noexcept { return Low(progress_ >> 32); }
+  /// Returns the number of units after a line break of the run, without a line feed of a pair.
+  [[nodiscard]] constexpr std::uint32_t LineStarts() const noexcept { return Low(lines_); }
+  /// Returns the index of the last of these units; 0 without one.
+  [[nodiscard]] constexpr std::uint32_t LastLineStart() const noexcept { return Low(lines_ >> 32); }
+
+ private:
+  static constexpr std::uint32_t Low(std::uint64_t bits) { return static_cast<std::uint32_t>(bits); }
+
+  std::uint64_t progress_;
+  std::uint64_t lines_;
 };
 
 /// Decodes as `DecodeRun`, up to the first of `ends`, which is not decoded.

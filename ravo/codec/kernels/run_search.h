@@ -1,6 +1,7 @@
 #pragma once
 
 #include <ravo/codec/kernels/block.h>
+#include <ravo/codec/kernels/run.h>
 
 #include <algorithm>
 #include <array>
@@ -93,6 +94,10 @@ class OneOf {
 template <class... Chars>
 OneOf(Chars...) -> OneOf<sizeof...(Chars)>;
 
+[[nodiscard]] constexpr OneOf<3> OneOfEnds(EndBytes ends) {
+  return OneOf(char16_t{ends.First()}, char16_t{ends.Second()}, char16_t{ends.Third()});
+}
+
 inline constexpr OneOf kLineBreaks(u'\r', u'\n');
 
 /// Matches blanks and white-space controls, which are nearly all white space.
@@ -151,6 +156,17 @@ template <class Unit>
   }
   for (; at < run.size(); ++at) add(run[at] == '\n' ? 1 : 0, run[at] == '\r' ? 1 : 0, at, 1);
   return starts;
+}
+
+/// Adds the line starts to the progress of a run before `ends`.
+[[nodiscard]] inline RunUntil WithLineStarts(const Run& run, ByteSpan bytes, TextRoom text, EndBytes ends) {
+  LineStarts starts;
+  // Reading units that were just stored would stall on store forwarding; bytes that are as many are equal to
+  // them.
+  if (!ends.AreBreaks())
+    starts = run.made == run.taken ? FindLineStarts(u'\0', bytes.first(run.taken))
+                                   : FindLineStarts(u'\0', TextSpan(text.first(run.made)));
+  return {run.taken, run.made, starts.count, starts.last};
 }
 
 /// Returns the number of units before the first one of a kind. The last block overlaps the one before it.

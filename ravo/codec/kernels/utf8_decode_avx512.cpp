@@ -98,6 +98,11 @@ class Utf8Engine {
     return wrong == 0;
   }
 
+  RAVO_AVX512 Run DecodeNear(ByteSpan bytes, std::size_t length, TextRoom text) const {
+    return DecodeBlocks<true>(*this, bytes, length, text);
+  }
+
+  RAVO_AVX512 static Bits StartsIn(Vector bytes) { return _mm512_cmpge_epi8_mask(bytes, Everywhere(-0x40)); }
   RAVO_AVX512 bool IsBetweenCharacters() const { return expected_ == 0; }
   // Drops a last sequence that is incomplete: its lead byte is the last byte or the one before it.
   RAVO_AVX512 Run WithoutUnfinished(const Run& run, ByteSpan bytes) const {
