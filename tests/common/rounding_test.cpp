@@ -1,3 +1,4 @@
+#include "support/effort.h"
 #include "support/float_environment.h"
 #include "support/plain_rounding.h"
 #include "support/tried.h"
@@ -231,7 +232,7 @@ std::uint64_t FromEnvironment(const char* name, std::uint64_t otherwise) {
 TEST(RoundValue, EqualsTheProcessorsExtendedArithmetic) {
   if constexpr (!test::plain::kHasExtended) GTEST_SKIP() << "no 80-bit type";
   AmountSource source(FromEnvironment("RAVO_ROUNDING_SEED", 3));
-  const std::uint64_t all = FromEnvironment("RAVO_ROUNDING_ROWS", 1'000'000);
+  const std::uint64_t all = FromEnvironment("RAVO_ROUNDING_ROWS", test::Rounds(1'000'000));
   for (std::uint64_t rows = all; rows > 0; --rows) {
     const Currency value{source.Amount()};
     const TRoundType type = source.Type();
@@ -250,7 +251,7 @@ TEST(RoundValue, EqualsTheProcessorsExtendedArithmetic) {
 TEST(RoundValueFloat, EqualsTheProcessorsExtendedArithmetic) {
   if constexpr (!test::plain::kHasExtended) GTEST_SKIP() << "no 80-bit type";
   AmountSource source(FromEnvironment("RAVO_ROUNDING_SEED", 4));
-  const std::uint64_t all = FromEnvironment("RAVO_ROUNDING_ROWS", 1'000'000);
+  const std::uint64_t all = FromEnvironment("RAVO_ROUNDING_ROWS", test::Rounds(1'000'000));
   for (std::uint64_t rows = all; rows > 0; --rows) {
     const double value = source.Float();
     const TRoundType type = source.Type();

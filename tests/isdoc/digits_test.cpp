@@ -1,4 +1,5 @@
 #include "samples.h"
+#include "support/effort.h"
 #include "support/tried.h"
 #include <ravo/isdoc/amount.h>
 #include <ravo/isdoc/content.h>
@@ -144,9 +145,9 @@ std::size_t ChangeDigits(const std::string& text) {
     for (std::size_t i = 0; i < piece.text.size(); ++i) {
       const char digit = piece.text[i];
       if (digit < '0' || digit > '9') continue;
-      for (char other = '0'; other <= '9'; ++other) {
-        if (other == digit) continue;
-        ExpectReported(piece, text, piece.at + i, other);
+      for (unsigned other = 0; other < 10; other += ravo::test::StepUnderSanitizers(4)) {
+        if (other == static_cast<unsigned>(digit - '0')) continue;
+        ExpectReported(piece, text, piece.at + i, static_cast<char>('0' + other));
         ++tried;
       }
     }
@@ -168,7 +169,7 @@ TEST(Content, ReportsEveryChangedDigit) {
     SCOPED_TRACE(name);
     tried += ChangeDigits(test::Sample(name));
   }
-  EXPECT_GT(tried, 15'000U);
+  EXPECT_GT(tried, static_cast<unsigned>(ravo::test::Rounds(15'000)));
   ravo::test::Tried("invoice_digits", static_cast<std::int64_t>(tried));
 }
 

@@ -1,4 +1,5 @@
 #include "czech_sentences.h"
+#include "support/effort.h"
 #include "text_divisions.h"
 #include <ravo/codec/texts.h>
 #include <ravo/convert/text_converter.h>
@@ -86,7 +87,7 @@ TEST(TextConverter, IsTheSameForEveryDivisionOfTheText) {
                                             codec::FindEncoding("UTF_7")};
   for (const codec::Encoding& from : codec::Encodings()) {
     if (from.decode_one == nullptr) continue;
-    for (int round = 0; round < 120; ++round) {
+    for (int round = 0; round < ravo::test::Rounds(120); ++round) {
       const std::string bytes = RandomBytes(random, from);
       Conversion conversion;
       conversion.from = &from;

@@ -2,6 +2,7 @@
 //
 // Both are asked about words and random strings. They differ in two places, which are decided in
 // `Witnesses.DifferInSigns` and by --digits-first.
+#include "support/effort.h"
 #include <ravo/order/czech_order.h>
 
 #include <clocale>
@@ -156,14 +157,15 @@ Strings CzechWords() {
 void ExpectSame(const Strings& strings, const Compare& ours, const Compare& witness) {
   std::size_t pairs = 0;
   for (std::size_t i = 0; i < strings.size(); ++i) {
-    for (std::size_t step = 1; i + step < strings.size() && step < 200; ++step) {
+    for (std::size_t step = 1;
+         i + step < strings.size() && step < static_cast<std::size_t>(ravo::test::Rounds(200)); ++step) {
       const std::string& a = strings[i];
       const std::string& b = strings[i + step];
       ASSERT_EQ(ours(a, b), Sign(witness(a, b))) << '"' << a << "\" and \"" << b << '"';
       ++pairs;
     }
   }
-  EXPECT_GT(pairs, 100'000U);
+  EXPECT_GT(pairs, static_cast<std::size_t>(ravo::test::Rounds(100'000)));
 }
 
 TEST(CzechOrderWitnesses, IcuWithDigitsLast) {

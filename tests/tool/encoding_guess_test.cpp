@@ -1,6 +1,7 @@
 #include "encoding_guess.h"
 
 #include "czech_sentences.h"
+#include "support/effort.h"
 #include <ravo/codec/texts.h>
 #include <ravo/convert/detection.h>
 
@@ -54,7 +55,7 @@ struct Tally {
   std::map<std::string, int> guesses;
 };
 
-constexpr int kTexts = 1000;
+constexpr int kTexts = ravo::test::Rounds(1000);
 
 // Texts of ASCII alone, which all of them read alike, do not count.
 Tally Guess(std::string_view encoding, std::size_t size) {

@@ -1,5 +1,6 @@
 #include "table_rows.h"
 
+#include "support/effort.h"
 #include "table_blocks.h"
 #include "table_shape.h"
 
@@ -160,7 +161,7 @@ std::string RandomText(std::mt19937& source) {
 // Long rows make the pieces of 64 bytes differ, short ones the rest.
 TEST(TableRows, RandomTablesAreReadAsByteByByte) {
   std::mt19937 source(15);
-  for (int i = 0; i < 20000; ++i) {
+  for (int i = 0; i < ravo::test::Rounds(20000); ++i) {
     const std::string text = RandomText(source);
     const std::vector<PlainRow> wanted = Reference(text).Rows();
     ASSERT_EQ(RowsOf(text), wanted) << testing::PrintToString(text);

@@ -1,6 +1,7 @@
 // Decoding whole runs and single characters has identical results: each operation on the same bytes both
 // ways, from every kind of source.
 #include "decoded_sources.h"
+#include "support/effort.h"
 #include <ravo/codec/kernels/kernel_set.h>
 #include <ravo/unicode/encoding_of.h>
 
@@ -200,7 +201,7 @@ TEST(WholeRuns, GiveWhatSingleCharactersGive) {
   std::mt19937 random(72);
   for (const Encoding& encoding : kEncodings) {
     for (const Way way : {Way::Buffer, Way::Stream, Way::StingyStream, Way::SingleBytes}) {
-      for (std::uint32_t seed = 0; seed < 40; ++seed) {
+      for (std::uint32_t seed = 0; seed < 40; seed += test::StepUnderSanitizers(3)) {
         const std::string bytes = BytesFor(encoding, random, random() % (seed % 4 == 0 ? 9000 : 700));
         ASSERT_NO_FATAL_FAILURE(RunBoth(encoding, bytes, way, seed));
       }

@@ -72,7 +72,7 @@ TEST(WriterRuns, GiveWhatSingleCharactersGive) {
     if (row.write == nullptr || row.write->Init != nullptr) continue;
     hidden = row.write;
     ASSERT_EQ(EncodingOf(TDIUnicodeWriteMethods{nullptr, WriteHidden, nullptr, nullptr}), nullptr);
-    for (unsigned round = 0; round < 24; round += test::StepUnderSanitizers(3)) {
+    for (unsigned round = 0; round < 24; round += test::StepUnderSanitizers(5)) {
       std::vector<std::u16string> texts;
       for (int i = 0; i < 4; ++i)
         texts.push_back(RandomUnits(random, random() % (round % 8 == 0 ? 6000 : 300)));

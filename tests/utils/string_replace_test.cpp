@@ -1,3 +1,4 @@
+#include "support/effort.h"
 #include <ravo/runtime/error.h>
 #include <ravo/utils/strings/replace.h>
 
@@ -28,6 +29,7 @@ TEST(StrReplaceIW, Rows) { EXPECT_EQ(StrReplaceIW(u"Čč", u"č", u"x"), u"xx");
 
 // Every pass creates more occurrences for the next one.
 TEST(StrReplaceLoopA, EndsWithAnErrorWhereTheTextGrowsAndGrows) {
+  if (test::kSanitized) GTEST_SKIP() << "a text grows to the limit: the other builds do, and the wide form";
   std::string text;
   for (int i = 0; i < 64; ++i) text += "ab";
   EXPECT_THROW(static_cast<void>(StrReplaceLoopA(text, "ab", "bbaa")), RangeError);
