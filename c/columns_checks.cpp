@@ -143,7 +143,7 @@ class CodesJob {
   CodesJob(czech::Kind kind, const ravo_answers& answers) noexcept : kind_(kind), codes_(answers) {}
 
   [[nodiscard]] Result Of(std::string_view text) const noexcept {
-    const czech::Code code = czech::Check(kind_, text).code;
+    const czech::Code code = czech::Refusal(kind_, text);
     if (code == czech::Code::Correct) return RAVO_CODE_CORRECT;
     return static_cast<Result>(CodeOfRefusal(code, text));
   }

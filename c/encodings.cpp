@@ -59,8 +59,14 @@ class Filler {
  public:
   explicit Filler(const TextOut& out) : out_(out) {}
 
+  [[nodiscard]] std::span<std::uint8_t> Rest() const {
+    if (length_ >= out_.size) return {};
+    return {reinterpret_cast<std::uint8_t*>(out_.buffer) + length_, out_.size - length_};
+  }
+
+  // Bytes that were written into the rest stay there.
   void Add(std::string_view bytes) {
-    if (length_ <= out_.size && bytes.size() <= out_.size - length_)
+    if (length_ <= out_.size && bytes.size() <= out_.size - length_ && bytes.data() != out_.buffer + length_)
       std::copy_n(bytes.data(), bytes.size(), out_.buffer + length_);
     length_ += bytes.size();
   }
@@ -88,10 +94,10 @@ ravo_status ConvertWhole(std::string_view bytes, PieceConverter& converter, Fill
   do {
     const std::string_view piece = bytes.substr(done, kPiece);
     done += piece.size();
+    converter.BeginIn(filler.Rest());
     const ravo_status status = converter.Convert(piece, done == bytes.size(), error);
     if (status != RAVO_OK) return status;
     filler.Add(converter.Made());
-    converter.Clear();
     const std::int32_t answer =
         listener.progress == nullptr ? 0 : listener.progress(listener.context, done, bytes.size());
     if (answer != 0) return Fail(error, {RAVO_STOPPED, answer, done, "the caller stopped the work"});

@@ -50,7 +50,7 @@ RULES: list[Rule] = [
     ("ravo/czech/kinds", "AllKinds|KindText|Kind", "ravo_kind_name"),
     ("ravo/czech/kinds", "KindOf", "ravo_kind_of"),
     ("ravo/czech/kinds", "KindName", "ravo_kind_title"),
-    ("ravo/czech/kinds", "Check", "ravo_check"),
+    ("ravo/czech/kinds", "Check|Refusal", "ravo_check"),
     ("ravo/czech/kinds", "Respell", "ravo_respell"),
     ("ravo/czech/payment_text", ".*", "ravo_payment_find"),
     ("ravo/czech/payment_code", "WritePaymentCode|WrittenPaymentCode|PaymentCodeText|View", "ravo_spayd_write, ravo_sid_write"),
