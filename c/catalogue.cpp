@@ -1,12 +1,14 @@
-#include "support.h"
+#include "columns_answers.h"
 #include <ravo/catalogue/generated/table_hash.h>
 #include <ravo/catalogue/table_index.h>
 
 #include <array>
+#include <numeric>
 
 using ravo::c::FailStruct;
 using ravo::c::FailUnknown;
 using ravo::c::Fill;
+using ravo::c::Guarded;
 using ravo::c::IsKnown;
 using ravo::c::ReadText;
 
@@ -52,6 +54,23 @@ constexpr auto kTableSlots = [] {
 const TableLine* FindTable(std::int32_t id) {
   const TableSlot slot = kTableSlots[ravo::table_index::Place(id, ravo::table_index::kTableHashMultiplier)];
   return slot.id == id && id != 0 ? &kTables[slot.row] : nullptr;
+}
+
+// Rows by name.
+constexpr auto kTablesByName = [] {
+  std::array<std::uint16_t, std::size(kTables)> rows{};
+  std::iota(rows.begin(), rows.end(), std::uint16_t{0});
+  std::ranges::sort(rows, {}, [](std::uint16_t row) { return std::string_view(kTables[row].name); });
+  return rows;
+}();
+
+// The first number of the table with a name.
+ravo::c::Answer<std::int32_t> TableOfName(std::string_view name) noexcept {
+  const auto name_of = [](std::uint16_t row) { return std::string_view(kTables[row].name); };
+  const auto* const row = std::ranges::lower_bound(kTablesByName, name, {}, name_of);
+  if (row != kTablesByName.end() && name_of(*row) == name) return {kTables[*row].first};
+  const bool is_text = ravo::c::WellFormedLength(name) == name.size();
+  return {0, is_text ? std::uint16_t{RAVO_CODE_UNKNOWN} : std::uint16_t{RAVO_CODE_NOT_UTF8}};
 }
 
 struct CaptionLine {
@@ -115,6 +134,15 @@ ravo_status ravo_suite_table_find(int32_t id, ravo_suite_table* table, ravo_erro
 const char* ravo_suite_table_name(int32_t id) {
   const TableLine* row = FindTable(id);
   return row == nullptr ? nullptr : row->name;
+}
+
+ravo_status ravo_suite_table_find_column(const ravo_column* column, uint32_t flags, int32_t* ids,
+                                         ravo_answers* answers, ravo_progress progress, void* context,
+                                         ravo_error* error) {
+  return Guarded(error, [&] {
+    return ravo::c::AnswerNumbers<ravo::c::kTexts>(column, {flags, progress, context}, ids, answers, error,
+                                                   TableOfName);
+  });
 }
 
 size_t ravo_suite_caption_count(void) { return kCaptions.size(); }
