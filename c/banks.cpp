@@ -66,7 +66,8 @@ struct BankName {
     std::uint16_t code = 0;
     const char* const end = digits.data() + digits.size();
     const bool is_code = digits.size() == 4 && std::from_chars(digits.data(), end, code).ptr == end;
-    if (!is_code || ravo::c::WellFormedLength(text) != text.size())
+    const bool has_more = text.size() != digits.size();
+    if (!is_code || (has_more && ravo::c::WellFormedLength(text) != text.size()))
       return Refused(czech::Code::BankCode, text);
     const auto answer = czech::FindBank(list, code, list.date);
     if (answer.bank == nullptr) return Refused(answer.code, text);

@@ -3,7 +3,6 @@
 #include <ravo/catalogue/table_index.h>
 
 #include <array>
-#include <numeric>
 
 using ravo::c::FailStruct;
 using ravo::c::FailUnknown;
@@ -56,19 +55,31 @@ const TableLine* FindTable(std::int32_t id) {
   return slot.id == id && id != 0 ? &kTables[slot.row] : nullptr;
 }
 
-// Rows by name.
+// FNV-1a, of which the upper bits are mixed in.
+constexpr std::size_t SlotOfName(std::string_view name) noexcept {
+  std::uint32_t hash = 2166136261;
+  for (const char byte : name) hash = (hash ^ static_cast<unsigned char>(byte)) * 16777619;
+  return (hash ^ hash >> 16) % 1024;
+}
+
+// Rows by name, each counted from 1: at the slot of the name or the next free one.
 constexpr auto kTablesByName = [] {
-  std::array<std::uint16_t, std::size(kTables)> rows{};
-  std::iota(rows.begin(), rows.end(), std::uint16_t{0});
-  std::ranges::sort(rows, {}, [](std::uint16_t row) { return std::string_view(kTables[row].name); });
-  return rows;
+  std::array<std::uint16_t, 1024> slots{};
+  for (std::size_t row = 0; row < std::size(kTables); ++row) {
+    std::size_t slot = SlotOfName(kTables[row].name);
+    while (slots[slot] != 0) slot = (slot + 1) % slots.size();
+    slots[slot] = static_cast<std::uint16_t>(row + 1);
+  }
+  return slots;
 }();
 
 // The first number of the table with a name.
 ravo::c::Answer<std::int32_t> TableOfName(std::string_view name) noexcept {
-  const auto name_of = [](std::uint16_t row) { return std::string_view(kTables[row].name); };
-  const auto* const row = std::ranges::lower_bound(kTablesByName, name, {}, name_of);
-  if (row != kTablesByName.end() && name_of(*row) == name) return {kTables[*row].first};
+  std::size_t slot = SlotOfName(name);
+  for (; kTablesByName[slot] != 0; slot = (slot + 1) % kTablesByName.size()) {
+    const TableLine& table = kTables[kTablesByName[slot] - 1];
+    if (name == table.name) return {table.first};
+  }
   const bool is_text = ravo::c::WellFormedLength(name) == name.size();
   return {0, is_text ? std::uint16_t{RAVO_CODE_UNKNOWN} : std::uint16_t{RAVO_CODE_NOT_UTF8}};
 }

@@ -101,7 +101,7 @@ class TextsOfRows {
   /// False if the text does not fit the width, or its end an offset.
   template <std::size_t capacity>
   [[nodiscard]] bool Put(std::size_t row, const czech::FixedText<capacity>& text) noexcept {
-    if (texts_.layout == RAVO_LAYOUT_FIXED) return PutFixed(text.View());
+    if (texts_.layout == RAVO_LAYOUT_FIXED) return PutFixed(text);
     Append(text);
     return EndRow(row);
   }
@@ -130,11 +130,21 @@ class TextsOfRows {
     return length_ <= most_;
   }
 
-  // A copy of known length is a few instructions: the next text overwrites what is too much of it.
+  // Whole words, of which the next text overwrites what is too much.
+  template <std::size_t capacity>
+  [[nodiscard]] bool PutFixed(const czech::FixedText<capacity>& text) noexcept {
+    const auto width = static_cast<std::size_t>(texts_.width);
+    const bool has_words = fits_ && width <= text.kRoom && texts_.data_size - length_ >= text.kRoom;
+    if (!has_words || text.size > width) return PutFixed(text.View());
+    CopyWords(text, width, texts_.data + length_);
+    length_ += width;
+    return length_ <= most_;
+  }
+
   template <std::size_t capacity>
   void Append(const czech::FixedText<capacity>& text) noexcept {
-    if (fits_ && texts_.data_size - length_ >= capacity) {
-      std::copy_n(text.characters.data(), capacity, texts_.data + length_);
+    if (fits_ && texts_.data_size - length_ >= text.kRoom) {
+      CopyWords(text, text.size, texts_.data + length_);
     } else if (MakeRoom(text.size)) {
       std::copy_n(text.characters.data(), text.size, texts_.data + length_);
     }

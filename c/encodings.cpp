@@ -96,15 +96,14 @@ bool IsAscii(std::string_view text) {
 class RowConverter {
  public:
   explicit RowConverter(const convert::Conversion& conversion)
-      : from_(conversion.from),
-        keeps_ascii_(conversion.from->decode_until != nullptr && conversion.to->decode_until != nullptr),
+      : keeps_ascii_(conversion.from->decode_until != nullptr && conversion.to->decode_until != nullptr),
         converter_(conversion) {}
 
   [[nodiscard]] Answer<std::string_view> operator()(std::string_view text) {
     if (keeps_ascii_ && IsAscii(text)) return {text};
     converted_.bytes.Clear();
     converted_.fault.reset();
-    converter_.Restart(*from_);
+    converter_.Restart();
     converter_.Convert(BytesOf(text), convert::Following::Nothing, converted_);
     // After a fault too: the next text begins anew.
     converter_.Finish(converted_.bytes);
@@ -114,7 +113,6 @@ class RowConverter {
   }
 
  private:
-  const codec::Encoding* from_;
   bool keeps_ascii_;
   convert::TextConverter converter_;
   convert::Converted converted_;

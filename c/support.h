@@ -154,17 +154,23 @@ struct TextOut {
   std::size_t* length = nullptr;
 };
 
+/// Copies at least the first bytes of a value of a check, and zeros after it, into room for all of it. Word
+/// by word, as checks write it: a longer load would wait for the stores before it.
+template <std::size_t capacity>
+void CopyWords(const czech::FixedText<capacity>& text, std::size_t least, char* to) noexcept {
+  for (std::size_t at = 0; at < least; at += 8) std::memcpy(to + at, &text.characters[at], 8);
+}
+
 /// Writes a result as ravo.h says under "Results".
 [[nodiscard]] ravo_status WriteText(const TextOut& out, std::string_view text, ravo_error* error) noexcept;
 
-/// The same for a value of a check, with the zeros after it.
+/// The same for a value of a check, with zeros after it.
 template <std::size_t capacity>
 [[nodiscard]] ravo_status WriteFixed(const TextOut& out, const czech::FixedText<capacity>& text,
                                      ravo_error* error) noexcept {
   static_assert(text.kRoom > capacity);
   if (out.buffer == nullptr || out.size < text.kRoom) return WriteText(out, text.View(), error);
-  // Word by word, as checks write it: a longer load would wait for the stores before it.
-  for (std::size_t at = 0; at <= text.size; at += 8) std::memcpy(out.buffer + at, &text.characters[at], 8);
+  CopyWords(text, text.size + std::size_t{1}, out.buffer);
   if (out.length != nullptr) *out.length = text.size;
   return RAVO_OK;
 }

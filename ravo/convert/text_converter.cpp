@@ -78,6 +78,10 @@ TextConverter::TextConverter(const Conversion& conversion)
 
 void TextConverter::Restart(const codec::Encoding& from) {
   from_ = ExactEncoding(from);
+  Restart();
+}
+
+void TextConverter::Restart() {
   decoder_ = {};
   room_ = kUnits;
 }
