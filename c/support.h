@@ -168,7 +168,7 @@ void CopyWords(const czech::FixedText<capacity>& text, std::size_t least, char* 
 template <std::size_t capacity>
 [[nodiscard]] ravo_status WriteFixed(const TextOut& out, const czech::FixedText<capacity>& text,
                                      ravo_error* error) noexcept {
-  static_assert(text.kRoom > capacity);
+  static_assert(czech::FixedText<capacity>::kRoom > capacity);
   if (out.buffer == nullptr || out.size < text.kRoom) return WriteText(out, text.View(), error);
   CopyWords(text, text.size + std::size_t{1}, out.buffer);
   if (out.length != nullptr) *out.length = text.size;

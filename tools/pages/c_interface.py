@@ -173,7 +173,8 @@ BESIDE = [
 ]
 # What has no counterpart in a C++ header of its own.
 OF_C = {
-    "ravo_version", "ravo_build_info", "ravo_encoding_of_mark", "ravo_check_column", "ravo_respell_column", "ravo_crc32_column", "ravo_column_of_arrow",
+    "ravo_version", "ravo_build_info", "ravo_encoding_of_mark", "ravo_check_column", "ravo_respell_column", "ravo_crc32_column", "ravo_bank_find_column", "ravo_column_of_arrow",
+    "ravo_suite_table_find_column", "ravo_money_round_column", "ravo_day_read_column", "ravo_day_format_column", "ravo_convert_column",
     "ravo_arrow_stream", "ravo_invoice_open", "ravo_invoice_close", "ravo_invoice_head_of", "ravo_invoice_party_of", "ravo_invoice_totals_of",
     "ravo_invoice_line_count", "ravo_invoice_line_at", "ravo_invoice_rate_count", "ravo_invoice_rate_at", "ravo_invoice_payment_count",
     "ravo_invoice_payment_at", "ravo_invoice_finding_count", "ravo_invoice_finding_at", "ravo_invoice_rule_sentence",
