@@ -230,13 +230,7 @@ static ravo_encoding encoding_named(const char* name) {
 }
 
 static void columns_are_converted(void) {
-  static const char* const texts[] = {"abc",
-                                      "\xDA\xE8"
-                                      "etn\xED den\xEDk",
-                                      NULL,
-                                      "",
-                                      "x\x81",
-                                      "\x8A"};
+  static const char* const texts[] = {"abc", "\332\350etn\355 den\355k", NULL, "", "x\x81", "\x8A"};
   static const char* const utf8[] = {"abc", "Účetní deník", "", "", "", "Š"};
   static const uint16_t codes[] = {0, 0, RAVO_CODE_NULL, 0, RAVO_CODE_MALFORMED, 0};
   static const char* const replaced[] = {"abc", "Účetní deník", "", "", "x\xEF\xBF\xBD", "Š"};
@@ -259,14 +253,8 @@ static void columns_are_converted(void) {
 
 static void columns_are_converted_back(void) {
   static const char* const texts[] = {"Účetní deník", "a😀", NULL, "a\xFFz", "Šx", "12345678901234567890č"};
-  static const char* const czech[] = {
-      "\xDA\xE8"
-      "etn\xED den\xEDk",
-      "",
-      "",
-      "",
-      "\x8Ax",
-      "12345678901234567890\xE8"};
+  static const char* const czech[] = {"\332\350etn\355 den\355k", "", "", "", "\x8Ax",
+                                      "12345678901234567890\xE8"};
   static const uint16_t codes[] = {0, RAVO_CODE_LACKING, RAVO_CODE_NULL, RAVO_CODE_MALFORMED, 0, 0};
   const ravo_encoding utf8 = encoding_named("utf-8");
   const ravo_encoding to = encoding_named("windows-1250");
