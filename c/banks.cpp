@@ -1,11 +1,13 @@
-#include "support.h"
+#include "columns_answers.h"
 #include <ravo/czech/banks.h>
 
 #include <algorithm>
+#include <charconv>
 #include <memory>
 #include <string>
 #include <vector>
 
+using ravo::c::Answer;
 using ravo::c::FailNullResult;
 using ravo::c::FailRange;
 using ravo::c::FailStruct;
@@ -57,6 +59,26 @@ ravo_status OpenList(std::string_view text, czech::Day date, ravo_bank_list** li
   return RAVO_OK;
 }
 
+// Of a bank code, or of an account that ends with one: the name of the bank.
+struct BankName {
+  [[nodiscard]] Answer<std::string_view> operator()(std::string_view text) const noexcept {
+    const std::string_view digits = text.substr(text.rfind('/') + 1);
+    std::uint16_t code = 0;
+    const char* const end = digits.data() + digits.size();
+    const bool is_code = digits.size() == 4 && std::from_chars(digits.data(), end, code).ptr == end;
+    const bool has_more = text.size() != digits.size();
+    if (!is_code || (has_more && ravo::c::WellFormedLength(text) != text.size()))
+      return Refused(czech::Code::BankCode, text);
+    const auto answer = czech::FindBank(list, code, list.date);
+    if (answer.bank == nullptr) return Refused(answer.code, text);
+    return {answer.bank->name};
+  }
+  static Answer<std::string_view> Refused(czech::Code code, std::string_view text) noexcept {
+    return {{}, static_cast<std::uint16_t>(ravo::c::CodeOfRefusal(code, text))};
+  }
+  czech::BankList list;
+};
+
 }  // namespace
 
 ravo_status ravo_bank_list_open(const char* text, size_t text_length, ravo_day date, ravo_bank_list** list,
@@ -88,4 +110,13 @@ ravo_status ravo_bank_find(const ravo_bank_list* list, int32_t code, ravo_bank* 
   const auto answer = czech::FindBank(banks, static_cast<std::uint16_t>(code), banks.date);
   if (answer.bank == nullptr) return FailWrong(error, answer.code, 0);
   return FillBank(bank, *answer.bank);
+}
+
+ravo_status ravo_bank_find_column(const ravo_bank_list* list, const ravo_column* column, uint32_t flags,
+                                  ravo_answers* answers, ravo_progress progress, void* context,
+                                  ravo_error* error) {
+  return Guarded(error, [&] {
+    return ravo::c::AnswerTexts<ravo::c::kTexts>(column, {flags, progress, context}, answers, error,
+                                                 BankName{ListOf(list)});
+  });
 }

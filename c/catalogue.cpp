@@ -1,4 +1,4 @@
-#include "support.h"
+#include "columns_answers.h"
 #include <ravo/catalogue/generated/table_hash.h>
 #include <ravo/catalogue/table_index.h>
 
@@ -7,6 +7,7 @@
 using ravo::c::FailStruct;
 using ravo::c::FailUnknown;
 using ravo::c::Fill;
+using ravo::c::Guarded;
 using ravo::c::IsKnown;
 using ravo::c::ReadText;
 
@@ -52,6 +53,35 @@ constexpr auto kTableSlots = [] {
 const TableLine* FindTable(std::int32_t id) {
   const TableSlot slot = kTableSlots[ravo::table_index::Place(id, ravo::table_index::kTableHashMultiplier)];
   return slot.id == id && id != 0 ? &kTables[slot.row] : nullptr;
+}
+
+// FNV-1a, of which the upper bits are mixed in.
+constexpr std::size_t SlotOfName(std::string_view name) noexcept {
+  std::uint32_t hash = 2166136261;
+  for (const char byte : name) hash = (hash ^ static_cast<unsigned char>(byte)) * 16777619;
+  return (hash ^ hash >> 16) % 1024;
+}
+
+// Rows by name, each counted from 1: at the slot of the name or the next free one.
+constexpr auto kTablesByName = [] {
+  std::array<std::uint16_t, 1024> slots{};
+  for (std::size_t row = 0; row < std::size(kTables); ++row) {
+    std::size_t slot = SlotOfName(kTables[row].name);
+    while (slots[slot] != 0) slot = (slot + 1) % slots.size();
+    slots[slot] = static_cast<std::uint16_t>(row + 1);
+  }
+  return slots;
+}();
+
+// The first number of the table with a name.
+ravo::c::Answer<std::int32_t> TableOfName(std::string_view name) noexcept {
+  std::size_t slot = SlotOfName(name);
+  for (; kTablesByName[slot] != 0; slot = (slot + 1) % kTablesByName.size()) {
+    const TableLine& table = kTables[kTablesByName[slot] - 1];
+    if (name == table.name) return {table.first};
+  }
+  const bool is_text = ravo::c::WellFormedLength(name) == name.size();
+  return {0, is_text ? std::uint16_t{RAVO_CODE_UNKNOWN} : std::uint16_t{RAVO_CODE_NOT_UTF8}};
 }
 
 struct CaptionLine {
@@ -115,6 +145,15 @@ ravo_status ravo_suite_table_find(int32_t id, ravo_suite_table* table, ravo_erro
 const char* ravo_suite_table_name(int32_t id) {
   const TableLine* row = FindTable(id);
   return row == nullptr ? nullptr : row->name;
+}
+
+ravo_status ravo_suite_table_find_column(const ravo_column* column, uint32_t flags, int32_t* ids,
+                                         ravo_answers* answers, ravo_progress progress, void* context,
+                                         ravo_error* error) {
+  return Guarded(error, [&] {
+    return ravo::c::AnswerNumbers<ravo::c::kTexts>(column, {flags, progress, context}, ids, answers, error,
+                                                   TableOfName);
+  });
 }
 
 size_t ravo_suite_caption_count(void) { return kCaptions.size(); }

@@ -3,11 +3,13 @@
 
 #include <iterator>
 
+using ravo::c::CheckUtf8;
 using ravo::c::Fail;
 using ravo::c::FailArgument;
 using ravo::c::FailWrong;
+using ravo::c::ReadAnyText;
 using ravo::c::ReadText;
-using ravo::c::WriteText;
+using ravo::c::WriteFixed;
 namespace czech = ravo::czech;
 
 namespace {
@@ -39,16 +41,23 @@ constexpr czech::Kind kKindList[] = {
 constexpr auto kKinds = static_cast<ravo_kind>(std::size(kKindList));
 static_assert(static_cast<ravo_kind>(kKindList[kKinds - 1]) == kKinds);
 
+[[gnu::cold]] ravo_status FailCheck(std::string_view text, czech::Code code, std::size_t position,
+                                    ravo_error* error) noexcept {
+  const ravo_status status = CheckUtf8(text, error);
+  return status != RAVO_OK ? status : FailWrong(error, code, position);
+}
+
 template <class Check>
 ravo_status Checked(ravo_kind kind, const char* text, std::size_t text_length, const ravo::c::TextOut& out,
                     ravo_error* error, Check check) noexcept {
   if (kind < 1 || kind > kKinds) return FailArgument(error, "the kind is unknown");
   const czech::Kind known = KindOf(kind);
-  const auto [input, status] = ReadText(text, text_length, error);
+  const auto [input, status] = ReadAnyText(text, text_length, error);
   if (status != RAVO_OK) return status;
   const auto answer = check(known, input);
-  if (!answer) return FailWrong(error, answer.code, answer.position);
-  return WriteText(out, answer.value.View(), error);
+  // A text that is correct in form is UTF-8: only refused ones are looked at.
+  if (!answer) return FailCheck(input, answer.code, answer.position, error);
+  return WriteFixed(out, answer.value, error);
 }
 
 }  // namespace

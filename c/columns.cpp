@@ -11,7 +11,8 @@ bool IsIndexWidth(std::int32_t width) noexcept {
   return width == 1 || width == 2 || width == 4 || width == 8;
 }
 
-bool HasTexts(const ravo_column& column) noexcept {
+bool Has(const ravo_column& column, ValuesOfRows values) noexcept {
+  if (values != kTexts) return column.layout == RAVO_LAYOUT_NUMBERS && column.width == values;
   return column.layout >= RAVO_LAYOUT_OFFSETS_32 && column.layout <= RAVO_LAYOUT_FIXED;
 }
 
@@ -47,9 +48,11 @@ bool HasTooManyRows(const ravo_column& column) noexcept {
   return column.length > most || column.offset > most - column.length;
 }
 
-ravo_status CheckOne(const ravo_column& column, ravo_error* error) noexcept {
+ravo_status CheckOne(const ravo_column& column, ValuesOfRows values, ravo_error* error) noexcept {
   if (column.size < sizeof column) return FailArgument(error, "the size of the column is unknown");
-  if (!HasTexts(column) && !IsDictionary(column)) return FailArgument(error, "the layout is unknown");
+  if (!Has(column, values) && !IsDictionary(column))
+    return FailArgument(error, values == kTexts ? "the layout is not one of texts"
+                                                : "the layout or the width is not that of the numbers");
   const std::string_view fault = FaultOfShape(column);
   if (!fault.empty()) return FailArgument(error, fault);
   if (HasTooManyRows(column)) return Fail(error, {RAVO_RANGE, 0, 0, "the column has too many rows"});
@@ -78,17 +81,18 @@ std::uint64_t IndexAt(const ravo_column& column, std::size_t row) noexcept {
   }
 }
 
-ravo_status CheckColumn(const ravo_column* column, std::uint32_t flags, ravo_error* error) noexcept {
+ravo_status CheckColumn(const ravo_column* column, ValuesOfRows values, std::uint32_t flags,
+                        ravo_error* error) noexcept {
   if (column == nullptr) return FailArgument(error, "the column is null");
   if ((flags & ~std::uint32_t{RAVO_TRUSTED}) != 0) return FailArgument(error, "a flag is unknown");
-  const ravo_status status = CheckOne(*column, error);
+  const ravo_status status = CheckOne(*column, values, error);
   if (status != RAVO_OK) return status;
   if (IsDictionary(*column) != (column->dictionary != nullptr))
     return FailArgument(error, "the layout and the dictionary do not fit each other");
   if (column->dictionary == nullptr) return RAVO_OK;
   if (IsDictionary(*column->dictionary))
     return FailArgument(error, "the dictionary has a dictionary of its own");
-  return CheckOne(*column->dictionary, error);
+  return CheckOne(*column->dictionary, values, error);
 }
 
 ravo_status FailRow(Row found, std::size_t row, ravo_error* error) noexcept {

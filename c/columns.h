@@ -14,13 +14,18 @@
 /// Columns of the caller: reading their rows, whatever the layout.
 ///
 /// `ReadColumn` looks at the parts of a column and gives a reader of its rows to a function. A job has a
-/// `Result`, computes it from a text (`Of`) and writes it (`Put`, `PutNull`, `EndBlock`). `RunColumn` joins
-/// the two, block by block. Memory of the caller may be unaligned, and is untrusted unless it says otherwise.
+/// `Result`, computes it from the bytes of a row (`Of`) and writes it (`Put`, `PutNull`, `EndBlock`); for
+/// dictionaries, `Kept` is a result that lasts. `RunColumn` joins the two, block by block. Memory of the
+/// caller may be unaligned, and is untrusted unless it says otherwise.
 namespace ravo::c {
 
 /// The rows between two reports of progress. A multiple of eight, so that a block begins with a whole byte of
 /// a bitmap.
 inline constexpr std::size_t kBlockRows = 4096;
+
+/// What the rows of a column are: texts, or numbers of a width in bytes.
+using ValuesOfRows = std::int32_t;
+inline constexpr ValuesOfRows kTexts = 0;
 
 template <class Value>
 [[nodiscard]] inline Value LoadAt(const void* values, std::size_t index) noexcept {
@@ -134,6 +139,23 @@ class FixedTexts {
   const char* values_;
 };
 
+/// Numbers of one width, as their bytes.
+class NumberValues {
+ public:
+  NumberValues(const ravo_column& column, bool /*trusted*/) noexcept
+      : width_(static_cast<std::size_t>(column.width)),
+        values_(static_cast<const char*>(column.values) + column.offset * width_) {}
+
+  [[nodiscard]] bool Get(std::size_t row, std::string_view& bytes) const noexcept {
+    bytes = {values_ + row * width_, width_};
+    return true;
+  }
+
+ private:
+  std::size_t width_;
+  const char* values_;
+};
+
 enum class Row : std::uint8_t {
   Done,
   Null,
@@ -143,7 +165,7 @@ enum class Row : std::uint8_t {
 
 /// Does a job for a text, without a copy of its result.
 template <class Job>
-[[nodiscard]] Row DoText(Job& job, std::size_t row, std::string_view text) noexcept {
+[[nodiscard]] Row DoText(Job& job, std::size_t row, std::string_view text) {
   return job.Put(row, job.Of(text)) ? Row::Done : Row::Misfit;
 }
 
@@ -159,7 +181,7 @@ class PlainRows {
     return texts_.Get(row, text) ? Row::Done : Row::Broken;
   }
 
-  [[nodiscard]] Row Do(std::size_t row, Job& job) const noexcept {
+  [[nodiscard]] Row Do(std::size_t row, Job& job) const {
     std::string_view text;
     const Row found = Get(row, text);
     return found == Row::Done ? DoText(job, row, text) : found;
@@ -184,7 +206,7 @@ class DictionaryRows {
         trusted_(trusted),
         done_(Room(column.dictionary->length)) {}
 
-  [[nodiscard]] Row Do(std::size_t row, Job& job) noexcept {
+  [[nodiscard]] Row Do(std::size_t row, Job& job) {
     if (!valid_.Has(row)) return Row::Null;
     const std::uint64_t index = IndexAt(column_, row);
     if (!trusted_ && index >= done_.size()) return Row::Broken;
@@ -196,17 +218,17 @@ class DictionaryRows {
  private:
   struct Done {
     Row row = Row::Null;
-    typename Job::Result result{};
+    typename Job::Kept result{};
   };
   using Entry = std::optional<Done>;
 
-  [[nodiscard]] const Entry& DoneEntry(std::size_t index, const Job& job) noexcept {
+  [[nodiscard]] const Entry& DoneEntry(std::size_t index, Job& job) {
     Entry& entry = done_[index];
     if (entry) return entry;
     entry.emplace();
     std::string_view text;
     entry->row = entries_.Get(index, text);
-    if (entry->row == Row::Done) entry->result = job.Of(text);
+    if (entry->row == Row::Done) entry->result = typename Job::Kept(job.Of(text));
     return entry;
   }
 
@@ -231,7 +253,7 @@ struct Run {
 };
 
 /// Returns RAVO_OK, or why a column cannot be read at all.
-[[nodiscard]] ravo_status CheckColumn(const ravo_column* column, std::uint32_t flags,
+[[nodiscard]] ravo_status CheckColumn(const ravo_column* column, ValuesOfRows values, std::uint32_t flags,
                                       ravo_error* error) noexcept;
 
 /// Reports the progress; returns RAVO_OK or RAVO_STOPPED.
@@ -243,12 +265,11 @@ struct Run {
 /// Does a job for the rows from `first` to `end`.
 template <class Rows, class Job>
 [[nodiscard]] ravo_status RunBlock(Rows& rows, std::size_t first, std::size_t end, Job& job,
-                                   ravo_error* error) noexcept {
+                                   ravo_error* error) {
   for (std::size_t row = first; row < end; ++row) {
-    const Row found = rows.Do(row, job);
-    if (found == Row::Done) continue;
-    if (found != Row::Null) return FailRow(found, row, error);
-    job.PutNull(row);
+    Row found = rows.Do(row, job);
+    if (found == Row::Null) found = job.PutNull(row) ? Row::Done : Row::Misfit;
+    if (found != Row::Done) return FailRow(found, row, error);
   }
   job.EndBlock(first, end);
   return RAVO_OK;
@@ -288,10 +309,19 @@ template <template <class, class> class Rows, class Job>
 }
 
 /// Does a job for every row of a column. Precondition: `CheckColumn` accepted it.
-template <class Job>
+template <ValuesOfRows values = kTexts, class Job>
 [[nodiscard]] ravo_status RunColumn(const ravo_column& column, const Run& run, Job& job, ravo_error* error) {
-  if (column.dictionary == nullptr) return RunTexts<PlainRows>(column, column.layout, run, job, error);
-  return RunTexts<DictionaryRows>(column, column.dictionary->layout, run, job, error);
+  const auto with = [&]<class Rows>(std::in_place_type_t<Rows>) {
+    return RunRows(Rows(column, (run.flags & RAVO_TRUSTED) != 0), column.length, run, job, error);
+  };
+  const bool is_plain = column.dictionary == nullptr;
+  if constexpr (values != kTexts) {
+    if (is_plain) return with(std::in_place_type<PlainRows<NumberValues, Job>>);
+    return with(std::in_place_type<DictionaryRows<NumberValues, Job>>);
+  } else {
+    if (is_plain) return RunTexts<PlainRows>(column, column.layout, run, job, error);
+    return RunTexts<DictionaryRows>(column, column.dictionary->layout, run, job, error);
+  }
 }
 
 }  // namespace ravo::c

@@ -30,10 +30,12 @@ struct FormatRow {
   Format format;
 };
 
-constexpr FormatRow kTextFormats[] = {
+constexpr FormatRow kValueFormats[] = {
     {"u", {RAVO_LAYOUT_OFFSETS_32, 0, 3}}, {"z", {RAVO_LAYOUT_OFFSETS_32, 0, 3}},
     {"U", {RAVO_LAYOUT_OFFSETS_64, 0, 3}}, {"Z", {RAVO_LAYOUT_OFFSETS_64, 0, 3}},
     {"vu", {RAVO_LAYOUT_VIEWS, 0, 3}},     {"vz", {RAVO_LAYOUT_VIEWS, 0, 3}},
+    {"i", {RAVO_LAYOUT_NUMBERS, 4, 2}},    {"tdD", {RAVO_LAYOUT_NUMBERS, 4, 2}},
+    {"l", {RAVO_LAYOUT_NUMBERS, 8, 2}},
 };
 constexpr FormatRow kIndexFormats[] = {
     {"c", {RAVO_LAYOUT_DICTIONARY, 1, 2}}, {"C", {RAVO_LAYOUT_DICTIONARY_UNSIGNED, 1, 2}},
@@ -59,7 +61,7 @@ Format FixedFormat(std::string_view text) noexcept {
 Format FormatOf(const ArrowSchema& schema) noexcept {
   const std::string_view text = schema.format;
   if (schema.dictionary != nullptr) return FindFormat(kIndexFormats, text);
-  const Format format = FindFormat(kTextFormats, text);
+  const Format format = FindFormat(kValueFormats, text);
   return format.layout != 0 ? format : FixedFormat(text);
 }
 
@@ -74,7 +76,7 @@ bool IsSize(std::int64_t value) noexcept { return value >= 0 && std::uint64_t(va
 // What keeps an array from having its format; empty if nothing does.
 std::string_view FaultOf(const ArrowColumn& column, const Format& format) noexcept {
   const ArrowArray& array = *column.array;
-  if (format.layout == 0) return "the format is not that of a column of texts";
+  if (format.layout == 0) return "the format is not that of a column of texts or numbers";
   if (!IsSize(array.length) || !IsSize(array.offset)) return "the array has a length or offset out of range";
   if (array.n_buffers < format.buffers || array.buffers == nullptr)
     return "the array has fewer buffers than its format";

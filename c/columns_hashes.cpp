@@ -10,6 +10,7 @@ namespace {
 class Crc32Job {
  public:
   using Result = std::uint32_t;
+  using Kept = Result;
 
   explicit Crc32Job(std::uint32_t* results) noexcept : results_(results) {}
 
@@ -20,7 +21,7 @@ class Crc32Job {
     results_[row] = result;
     return true;
   }
-  void PutNull(std::size_t row) noexcept { results_[row] = 0; }
+  [[nodiscard]] bool PutNull(std::size_t row) noexcept { return Put(row, 0); }
   void EndBlock(std::size_t /*first*/, std::size_t /*end*/) noexcept {}
 
  private:
@@ -31,7 +32,7 @@ class Crc32Job {
 
 ravo_status ravo_crc32_column(const ravo_column* column, uint32_t flags, uint32_t* results,
                               ravo_progress progress, void* context, ravo_error* error) {
-  const ravo_status status = ravo::c::CheckColumn(column, flags, error);
+  const ravo_status status = ravo::c::CheckColumn(column, ravo::c::kTexts, flags, error);
   if (status != RAVO_OK) return status;
   if (results == nullptr && column->length != 0) return FailArgument(error, "the results are null");
   return ravo::c::Guarded(error, [&] {

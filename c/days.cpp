@@ -1,12 +1,14 @@
-#include "support.h"
+#include "columns_answers.h"
 #include <ravo/czech/day.h>
 #include <ravo/czech/day_text.h>
 #include <ravo/utils/calendar.h>
 
+using ravo::c::Answer;
 using ravo::c::Fail;
 using ravo::c::FailArgument;
 using ravo::c::FailNullResult;
 using ravo::c::FailRange;
+using ravo::c::Guarded;
 using ravo::c::ReadText;
 using ravo::c::WriteText;
 namespace czech = ravo::czech;
@@ -48,6 +50,44 @@ std::string_view Stripped(std::string_view text) {
   const std::size_t begin = std::min(text.find_first_not_of(kBlanks), text.size());
   return text.substr(begin, text.find_last_not_of(kBlanks) + 1 - begin);
 }
+
+// The date that a whole text is.
+std::optional<ravo::DateParts> ReadDate(std::string_view text) {
+  std::string_view rest = Stripped(text);
+  const auto date = czech::TakeDate(rest);
+  return rest.empty() ? date : std::nullopt;
+}
+
+bool IsForm(ravo_date_form form) { return form >= RAVO_DATE_ISO && form <= RAVO_DATE_COMPACT; }
+ravo_status FailForm(ravo_error* error) { return FailArgument(error, "the form is unknown"); }
+
+constexpr auto kDayRange = static_cast<std::uint16_t>(czech::Code::DayRange);
+
+struct DayOfText {
+  [[nodiscard]] Answer<std::int32_t> operator()(std::string_view text) const noexcept {
+    const auto date = ReadDate(text);
+    if (!date) {
+      const bool is_text = ravo::c::WellFormedLength(text) == text.size();
+      return {0, is_text ? std::uint16_t{RAVO_CODE_NO_DATE} : std::uint16_t{RAVO_CODE_NOT_UTF8}};
+    }
+    if (!czech::Exists(*date)) return {0, kDayRange};
+    const std::int64_t day = std::int64_t{czech::DayOf(*date).number} - origin;
+    if (day > INT32_MAX || day < INT32_MIN) return {0, kDayRange};
+    return {static_cast<std::int32_t>(day)};
+  }
+  ravo_day origin;
+};
+
+struct TextOfDay {
+  [[nodiscard]] czech::Parsed<czech::FixedText<12>> operator()(std::string_view bytes) const noexcept {
+    const std::int64_t day = std::int64_t{ravo::c::LoadAt<std::int32_t>(bytes.data(), 0)} + origin;
+    const bool is_known = day >= czech::detail::kFirstDay.number && day <= czech::detail::kLastDay.number;
+    if (!is_known) return {{}, czech::Code::DayRange};
+    return {czech::DateText({static_cast<std::int32_t>(day)}, form)};
+  }
+  ravo_day origin;
+  czech::DateForm form;
+};
 
 }  // namespace
 
@@ -120,7 +160,7 @@ ravo_status ravo_add_months(ravo_day day, int32_t months, ravo_day* result, ravo
 
 ravo_status ravo_day_format(ravo_day day, ravo_date_form form, char* buffer, size_t size, size_t* length,
                             ravo_error* error) {
-  if (form < RAVO_DATE_ISO || form > RAVO_DATE_COMPACT) return FailArgument(error, "the form is unknown");
+  if (!IsForm(form)) return FailForm(error);
   if (!czech::InCalendar({day})) return FailDay(error);
   return WriteText({buffer, size, length}, czech::DateText({day}, static_cast<czech::DateForm>(form)).View(),
                    error);
@@ -130,10 +170,28 @@ ravo_status ravo_day_read(const char* text, size_t text_length, ravo_day* day, r
   if (day == nullptr) return FailNullResult(error);
   const auto [input, status] = ReadText(text, text_length, error);
   if (status != RAVO_OK) return status;
-  std::string_view rest = Stripped(input);
-  const auto date = czech::TakeDate(rest);
-  if (!date || !rest.empty()) return Fail(error, {RAVO_WRONG, 0, 0, "the text is no date"});
+  const auto date = ReadDate(input);
+  if (!date) return Fail(error, {RAVO_WRONG, 0, 0, "the text is no date"});
   if (!czech::Exists(*date)) return FailRange(error, "there is no such date");
   *day = czech::DayOf(*date).number;
   return RAVO_OK;
+}
+
+ravo_status ravo_day_read_column(const ravo_column* column, uint32_t flags, ravo_day origin, int32_t* days,
+                                 ravo_answers* answers, ravo_progress progress, void* context,
+                                 ravo_error* error) {
+  return Guarded(error, [&] {
+    return ravo::c::AnswerNumbers<ravo::c::kTexts>(column, {flags, progress, context}, days, answers, error,
+                                                   DayOfText{origin});
+  });
+}
+
+ravo_status ravo_day_format_column(const ravo_column* column, uint32_t flags, ravo_day origin,
+                                   ravo_date_form form, ravo_answers* answers, ravo_progress progress,
+                                   void* context, ravo_error* error) {
+  if (!IsForm(form)) return FailForm(error);
+  return Guarded(error, [&] {
+    return ravo::c::AnswerTexts<sizeof(std::int32_t)>(column, {flags, progress, context}, answers, error,
+                                                      TextOfDay{origin, static_cast<czech::DateForm>(form)});
+  });
 }

@@ -1,6 +1,8 @@
+#include "columns_answers.h"
 #include "piece_converter.h"
 #include <ravo/codec/byte_order_mark.h>
 
+using ravo::c::Answer;
 using ravo::c::BytesOf;
 using ravo::c::Fail;
 using ravo::c::FailArgument;
@@ -59,8 +61,14 @@ class Filler {
  public:
   explicit Filler(const TextOut& out) : out_(out) {}
 
+  [[nodiscard]] std::span<std::uint8_t> Rest() const {
+    if (length_ >= out_.size) return {};
+    return {reinterpret_cast<std::uint8_t*>(out_.buffer) + length_, out_.size - length_};
+  }
+
+  // Bytes that were written into the rest stay there.
   void Add(std::string_view bytes) {
-    if (length_ <= out_.size && bytes.size() <= out_.size - length_)
+    if (length_ <= out_.size && bytes.size() <= out_.size - length_ && bytes.data() != out_.buffer + length_)
       std::copy_n(bytes.data(), bytes.size(), out_.buffer + length_);
     length_ += bytes.size();
   }
@@ -76,6 +84,51 @@ class Filler {
   std::size_t length_ = 0;
 };
 
+bool IsAscii(std::string_view text) {
+  std::size_t at = 0;
+  for (; text.size() - at >= sizeof(std::uint64_t); at += sizeof(std::uint64_t)) {
+    if ((ravo::c::LoadAt<std::uint64_t>(text.data() + at, 0) & 0x8080'8080'8080'8080) != 0) return false;
+  }
+  return std::ranges::all_of(text.substr(at), [](char byte) { return (byte & 0x80) == 0; });
+}
+
+// Converts rows, each of which is a whole text.
+class RowConverter {
+ public:
+  explicit RowConverter(const convert::Conversion& conversion)
+      : keeps_ascii_(conversion.from->decode_until != nullptr && conversion.to->decode_until != nullptr),
+        converter_(conversion) {}
+
+  [[nodiscard]] Answer<std::string_view> operator()(std::string_view text) {
+    if (keeps_ascii_ && IsAscii(text)) return {text};
+    converted_.bytes.Clear();
+    converted_.fault.reset();
+    converter_.Restart();
+    converter_.Convert(BytesOf(text), convert::Following::Nothing, converted_);
+    // After a fault too: the next text begins anew.
+    converter_.Finish(converted_.bytes);
+    if (!converted_.fault) return {converted_.bytes.Text()};
+    const bool lacks = converted_.fault->kind == convert::Fault::Kind::Lacking;
+    return {{}, lacks ? std::uint16_t{RAVO_CODE_LACKING} : std::uint16_t{RAVO_CODE_MALFORMED}};
+  }
+
+ private:
+  bool keeps_ascii_;
+  convert::TextConverter converter_;
+  convert::Converted converted_;
+};
+
+bool IsFixed(const ravo_column* column) {
+  return column != nullptr && column->size >= sizeof *column &&
+         (column->layout == RAVO_LAYOUT_FIXED || IsFixed(column->dictionary));
+}
+
+// Whether NULs at the end of a value, which are left out, can be a part of its last character.
+bool LosesNuls(const ravo_column* column, const codec::Encoding& from) {
+  constexpr std::string_view kWideEngines[] = {"Utf16", "Utf32", "Ucs2", "Ucs4"};
+  return std::ranges::find(kWideEngines, from.engine) != std::end(kWideEngines) && IsFixed(column);
+}
+
 struct Listener {
   ravo_progress progress;
   void* context;
@@ -83,15 +136,15 @@ struct Listener {
 
 ravo_status ConvertWhole(std::string_view bytes, PieceConverter& converter, Filler& filler,
                          const Listener& listener, ravo_error* error) {
-  constexpr std::size_t kPiece = std::size_t{1} << 16;  // results stay in the second-level cache
+  constexpr std::size_t kPiece = std::size_t{1} << 16;  // between two reports of progress
   std::size_t done = 0;
   do {
     const std::string_view piece = bytes.substr(done, kPiece);
     done += piece.size();
+    converter.BeginIn(filler.Rest());
     const ravo_status status = converter.Convert(piece, done == bytes.size(), error);
     if (status != RAVO_OK) return status;
     filler.Add(converter.Made());
-    converter.Clear();
     const std::int32_t answer =
         listener.progress == nullptr ? 0 : listener.progress(listener.context, done, bytes.size());
     if (answer != 0) return Fail(error, {RAVO_STOPPED, answer, done, "the caller stopped the work"});
@@ -156,6 +209,20 @@ ravo_status ravo_convert(ravo_encoding from, const void* bytes, size_t bytes_len
     PieceConverter converter(ConversionOf(from, to, policy));
     Filler filler(out);
     return ConvertWhole(text, converter, filler, {progress, context}, error);
+  });
+}
+
+ravo_status ravo_convert_column(ravo_encoding from, const ravo_column* column, uint32_t flags,
+                                ravo_encoding to, ravo_convert_policy policy, ravo_answers* answers,
+                                ravo_progress progress, void* context, ravo_error* error) {
+  if (const auto obstacle = Obstacle(from, to, policy); !obstacle.empty())
+    return FailArgument(error, obstacle);
+  if (LosesNuls(column, *RowOf(from)))
+    return FailArgument(error,
+                        "values of one width cannot have the encoding: NULs at their end are left out");
+  return Guarded(error, [&] {
+    return ravo::c::AnswerTexts<ravo::c::kTexts>(column, {flags, progress, context}, answers, error,
+                                                 RowConverter(ConversionOf(from, to, policy)));
   });
 }
 

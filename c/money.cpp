@@ -1,9 +1,10 @@
-#include "support.h"
+#include "columns_answers.h"
 #include <ravo/czech/vat.h>
 #include <ravo/runtime/currency.h>
 #include <ravo/runtime/text.h>
 
 using ravo::Currency;
+using ravo::c::Answer;
 using ravo::c::Computed;
 using ravo::c::Fail;
 using ravo::c::FailArgument;
@@ -37,6 +38,18 @@ ravo_status Product(ravo_money* result, ravo_rounding rounding, ravo_error* erro
   return Computed(result, error, [&] { return compute(static_cast<ravo::Rounding>(rounding)).raw; });
 }
 
+struct RoundedMoney {
+  [[nodiscard]] Answer<ravo_money> operator()(std::string_view bytes) const {
+    try {
+      return {ravo::RoundedTo({ravo::c::LoadAt<ravo_money>(bytes.data(), 0)}, step, rounding).raw};
+    } catch (const ravo::OverflowError&) {
+      return {0, static_cast<std::uint16_t>(czech::Code::MoneyRange)};
+    }
+  }
+  Currency step;
+  ravo::Rounding rounding;
+};
+
 }  // namespace
 
 ravo_status ravo_money_format(ravo_money amount, int32_t separator, int32_t places, char* buffer, size_t size,
@@ -67,6 +80,18 @@ ravo_status ravo_money_round(ravo_money amount, ravo_money step, ravo_rounding r
                              ravo_error* error) {
   return Product(result, rounding, error,
                  [&](ravo::Rounding how) { return ravo::RoundedTo({amount}, {step}, how); });
+}
+
+ravo_status ravo_money_round_column(const ravo_column* column, uint32_t flags, ravo_money step,
+                                    ravo_rounding rounding, ravo_money* results, ravo_answers* answers,
+                                    ravo_progress progress, void* context, ravo_error* error) {
+  if (!IsRounding(rounding)) return FailRounding(error);
+  if (step <= 0) return ravo::c::FailRange(error, "the step is not above 0");
+  return Guarded(error, [&] {
+    return ravo::c::AnswerNumbers<sizeof(ravo_money)>(
+        column, {flags, progress, context}, results, answers, error,
+        RoundedMoney{{step}, static_cast<ravo::Rounding>(rounding)});
+  });
 }
 
 ravo_status ravo_money_times_ratio(ravo_money amount, int64_t numerator, int64_t denominator, ravo_money step,

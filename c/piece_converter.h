@@ -36,7 +36,9 @@ class PieceConverter {
     return RAVO_OK;
   }
 
-  /// What was converted since `Clear`.
+  /// Begins the next bytes in memory of the caller, where they stay if there is room for them.
+  void BeginIn(std::span<std::uint8_t> memory) { converted_.bytes.BeginIn(memory); }
+  /// What was converted since `BeginIn` or `Clear`.
   [[nodiscard]] std::string_view Made() const { return converted_.bytes.Text(); }
   void Clear() { converted_.bytes.Clear(); }
 

@@ -19,7 +19,7 @@
  * Results.  A text goes into the caller's buffer of `size` bytes and ends with NUL; `*length` receives its whole
  *           length without the NUL, as snprintf returns it. If the buffer is too small, it receives what fits, never
  *           a part of a character, and the function returns RAVO_BUFFER. A null buffer with size 0 asks for the
- *           length alone: RAVO_OK. `length` may be null.
+ *           length alone: RAVO_OK. `length` may be null. What the buffer has past the NUL is undefined.
  * Failure.  A function that can fail returns a ravo_status; RAVO_OK is 0. The last parameter is null or a
  *           ravo_error of the caller, which every failure fills. Results are written on RAVO_OK and, as said above,
  *           on RAVO_BUFFER; on any other status they are as they were. Nothing is thrown, nothing is kept for the
@@ -1967,13 +1967,16 @@ ravo_status RAVO_CALL ravo_converter_pull(ravo_converter *converter, void *buffe
  *           data ends the call with RAVO_RANGE, and its index is in error->position. RAVO_TRUSTED leaves these
  *           checks out: for memory of a library that has made them itself. The offsets of null rows, and entries
  *           of a dictionary that no row has, are not looked at. Nothing needs an alignment.
+ * Numbers.  A column of numbers has RAVO_LAYOUT_NUMBERS, or is a dictionary of them. A function that takes texts
+ *           refuses numbers, and the other way round: RAVO_ARGUMENT.
  * UTF-8.    Text and binary are one. A value that is not UTF-8 is a wrong value, with RAVO_CODE_NOT_UTF8, and ends
  *           nothing.
  * Results.  What is written per row may have been overwritten whatever the status; counts are written on RAVO_OK and
- *           RAVO_BUFFER. Memory of results must not overlap the column. For the place of a fault, call ravo_check
- *           with the text of that row.
+ *           RAVO_BUFFER. Memory of results must not overlap the column, unless the comment of the function allows
+ *           it. For the place of a fault, call ravo_check with the text of that row.
  * Memory.   Each entry of a dictionary is checked at most once. To remember the answers, a call over a dictionary
- *           allocates a few bytes for each entry, with texts about 60. Other columns never allocate.
+ *           allocates a few bytes for each entry, with texts about 60. Other columns never allocate, unless the
+ *           comment of the function says so.
  * Threads.  To use several processors, give each thread a slice: the same column with an `offset` and a `length`.
  */
 
@@ -1985,7 +1988,8 @@ enum {
   RAVO_LAYOUT_VIEWS = 3,              /* 16 bytes for each row: short texts, or a place in a buffer. Arrow: views */
   RAVO_LAYOUT_FIXED = 4,              /* `width` bytes for each row; NULs at the end are no part of the text */
   RAVO_LAYOUT_DICTIONARY = 5,         /* signed indices of `width` bytes (1, 2, 4, 8) into another column */
-  RAVO_LAYOUT_DICTIONARY_UNSIGNED = 6 /* unsigned indices of `width` bytes into another column */
+  RAVO_LAYOUT_DICTIONARY_UNSIGNED = 6, /* unsigned indices of `width` bytes into another column */
+  RAVO_LAYOUT_NUMBERS = 7             /* signed numbers of `width` bytes (4, 8). Arrow: int32, int64, date32 */
 };
 
 /* The size of data that the caller does not know: it ends where the offset of the last row ends. */
@@ -1995,11 +1999,11 @@ enum {
 typedef struct ravo_column {
   size_t size;                          /* sizeof(ravo_column) */
   ravo_layout layout;
-  int32_t width;                        /* bytes of a value (fixed) or of an index (dictionary) */
+  int32_t width;                        /* bytes of a value (fixed, numbers) or of an index (dictionary) */
   size_t length;                        /* rows */
   size_t offset;                        /* rows of the memory before the first one, as a slice has them */
   const uint8_t *validity;              /* bit offset + i, lowest first, is 0 if row i is null; null: none is */
-  const void *values;                   /* offsets, views, values of fixed width, or indices */
+  const void *values;                   /* offsets, views, values of fixed width, numbers, or indices */
   const char *data;                     /* what offsets are into */
   size_t data_size;                     /* bytes of data; or RAVO_SIZE_UNKNOWN */
   const void *const *buffers;           /* what views are into */
@@ -2016,8 +2020,12 @@ enum { RAVO_TRUSTED = 1 /* offsets, views and indices are right: do not check th
 /* Codes of rows beside the reasons of checks. */
 enum {
   RAVO_CODE_CORRECT = 0,
-  RAVO_CODE_NOT_UTF8 = 65534, /* the value is not UTF-8 */
-  RAVO_CODE_NULL = 65535      /* the row has no value */
+  RAVO_CODE_LACKING = 65530,   /* an encoding lacks a character of the value */
+  RAVO_CODE_MALFORMED = 65531, /* bytes of the value are no character of their encoding */
+  RAVO_CODE_UNKNOWN = 65532,   /* there is nothing of that name */
+  RAVO_CODE_NO_DATE = 65533,   /* the value is not written as a date */
+  RAVO_CODE_NOT_UTF8 = 65534,  /* the value is not UTF-8 */
+  RAVO_CODE_NULL = 65535       /* the row has no value */
 };
 
 /* Room for a column of texts that a function writes. Rows that are wrong or null have an empty text. */
@@ -2034,12 +2042,12 @@ typedef struct ravo_texts {
 
 #define RAVO_TEXTS_INIT {sizeof(ravo_texts), 0, 0, NULL, NULL, 0, 0}
 
-/* Room for what a check finds. Each pointer may be null. */
+/* Room for what a function says of rows. Each pointer may be null. */
 typedef struct ravo_answers {
   size_t size;       /* sizeof(ravo_answers) */
   uint16_t *codes;   /* of each row: the number of the reason, or one of RAVO_CODE_... */
   uint8_t *validity; /* (rows + 7) / 8 bytes: bit i, lowest first, is 1 if row i is correct; bits past the end: 0 */
-  ravo_texts *texts; /* canonical forms, or usual spellings */
+  ravo_texts *texts; /* canonical forms, names, dates ...: what the function writes */
   size_t wrong;      /* receives how many rows are wrong; those that are null do not count */
   size_t nulls;      /* receives how many rows are null */
 } ravo_answers;
@@ -2062,6 +2070,75 @@ ravo_status RAVO_CALL ravo_check_column(ravo_kind kind, const ravo_column *colum
 ravo_status RAVO_CALL ravo_respell_column(ravo_kind kind, const ravo_column *column, uint32_t flags,
                                           ravo_answers *answers, ravo_progress progress, void *context,
                                           ravo_error *error);
+
+/*
+ * Looks up the bank of every row in a list, null for the one that is built in, and writes codes and names of banks.
+ *
+ * A value is a bank code of four digits, or ends with one after a slash, as accounts do. Codes are the reasons
+ * "bank.code" and "bank.unknown". Allocates for dictionaries alone.
+ *
+ *     "0800", "19-2000145399/0800", "9999"  // codes 0, 0, 1402
+ */
+ravo_status RAVO_CALL ravo_bank_find_column(const ravo_bank_list *list, const ravo_column *column, uint32_t flags,
+                                            ravo_answers *answers, ravo_progress progress, void *context,
+                                            ravo_error *error);
+
+/*
+ * Looks up every row, which is the name of a table, and writes the table's number to `ids`, the first if it has
+ * several; 0 if there is none.
+ *
+ * Names are compared to the letter. The code is RAVO_CODE_UNKNOWN if no table has the name. `answers->texts` is
+ * null. Allocates for dictionaries alone.
+ */
+ravo_status RAVO_CALL ravo_suite_table_find_column(const ravo_column *column, uint32_t flags, int32_t *ids,
+                                                   ravo_answers *answers, ravo_progress progress, void *context,
+                                                   ravo_error *error);
+
+/*
+ * Rounds every amount of a column of numbers of 8 bytes to a multiple of `step`, as ravo_money_round does.
+ *
+ * A result that does not fit 64 bits is 0 with the code of the reason "money.range". `results` may be the memory of
+ * the column itself, if it has neither an offset nor a dictionary. RAVO_RANGE if `step` is not positive.
+ * `answers->texts` is null. Allocates for dictionaries and for results that do not fit.
+ */
+ravo_status RAVO_CALL ravo_money_round_column(const ravo_column *column, uint32_t flags, ravo_money step,
+                                              ravo_rounding rounding, ravo_money *results, ravo_answers *answers,
+                                              ravo_progress progress, void *context, ravo_error *error);
+
+/* The day that 0 stands for in date32 of Arrow: 1 January 1970. */
+#define RAVO_DAY_1970 2440588
+
+/*
+ * Reads the date of every row as ravo_day_read does, and writes its day less `origin`: 0 for a ravo_day,
+ * RAVO_DAY_1970 for date32 of Arrow.
+ *
+ * Codes are RAVO_CODE_NO_DATE, and the reason "day.range" if there is no such date; the day is 0 then.
+ * `answers->texts` is null. Allocates for dictionaries alone.
+ */
+ravo_status RAVO_CALL ravo_day_read_column(const ravo_column *column, uint32_t flags, ravo_day origin, int32_t *days,
+                                           ravo_answers *answers, ravo_progress progress, void *context,
+                                           ravo_error *error);
+
+/*
+ * Writes every day of a column of numbers of 4 bytes as a text, as ravo_day_format does. `origin` is as in
+ * ravo_day_read_column.
+ *
+ * The code is the reason "day.range" outside of the years 1 to 9999. Allocates for dictionaries alone.
+ */
+ravo_status RAVO_CALL ravo_day_format_column(const ravo_column *column, uint32_t flags, ravo_day origin,
+                                             ravo_date_form form, ravo_answers *answers, ravo_progress progress,
+                                             void *context, ravo_error *error);
+
+/*
+ * Converts every row, a whole text of its own, from one encoding to another, as ravo_convert does.
+ *
+ * Codes are RAVO_CODE_MALFORMED and RAVO_CODE_LACKING; with RAVO_CONVERT_REPLACE, neither. The texts that are
+ * written need not be UTF-8. RAVO_ARGUMENT if an encoding cannot be read or written, and for encodings with units
+ * of two or four bytes in RAVO_LAYOUT_FIXED. Allocates.
+ */
+ravo_status RAVO_CALL ravo_convert_column(ravo_encoding from, const ravo_column *column, uint32_t flags,
+                                          ravo_encoding to, ravo_convert_policy policy, ravo_answers *answers,
+                                          ravo_progress progress, void *context, ravo_error *error);
 
 /*
  * Writes the CRC-32 (ISO-HDLC, as in ZIP) of the bytes of each row to `results`; 0 for an empty or null row.
@@ -2117,12 +2194,13 @@ struct ArrowArrayStream {
 #endif
 
 /*
- * Describes an Arrow array of texts: writes `*column`, and `*dictionary` if the array has one.
+ * Describes an Arrow array of texts or numbers: writes `*column`, and `*dictionary` if the array has one.
  *
  * `field` is the name of a column of a record batch, or null for an array that is no batch. Formats: u, U, vu, z, Z,
- * vz, w:N, and dictionaries of these. Another format, or an array whose parts do not fit its format, is RAVO_ARGUMENT;
- * a name that the batch has not is RAVO_UNKNOWN. Schema and array are borrowed: they stay the caller's, who releases
- * them as ever, and the column holds until then. `dictionary` may be null if there is none. Never allocates.
+ * vz, w:N, i, l, tdD, and dictionaries of these. Another format, or an array whose parts do not fit its format, is
+ * RAVO_ARGUMENT; a name that the batch has not is RAVO_UNKNOWN. Schema and array are borrowed: they stay the caller's,
+ * who releases them as ever, and the column holds until then. `dictionary` may be null if there is none. Never
+ * allocates.
  */
 ravo_status RAVO_CALL ravo_column_of_arrow(const struct ArrowSchema *schema, const struct ArrowArray *array,
                                            const char *field, size_t field_length, ravo_column *column,

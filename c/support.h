@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ravo.h"
+#include <ravo/czech/fixed_text.h>
 #include <ravo/czech/reason.h>
 #include <ravo/runtime/error.h>
 
@@ -75,15 +76,25 @@ struct TextIn {
   ravo_status status = RAVO_OK;
 };
 
-[[nodiscard]] inline TextIn ReadText(const char* text, std::size_t length, ravo_error* error) noexcept {
+/// Reads a text that may be ill-formed.
+[[nodiscard]] inline TextIn ReadAnyText(const char* text, std::size_t length, ravo_error* error) noexcept {
   if (text == nullptr) {
     if (length == 0) return {};
     return {{}, FailArgument(error, "the text is null, but its length is not 0")};
   }
-  const std::string_view view(text, length == RAVO_NUL_TERMINATED ? std::strlen(text) : length);
-  const std::size_t good = WellFormedLength(view);
-  if (good == view.size()) return {view};
-  return {{}, Fail(error, {RAVO_UTF8, 0, good, "the text is not UTF-8"})};
+  return {std::string_view(text, length == RAVO_NUL_TERMINATED ? std::strlen(text) : length)};
+}
+
+[[nodiscard]] inline ravo_status CheckUtf8(std::string_view text, ravo_error* error) noexcept {
+  const std::size_t good = WellFormedLength(text);
+  if (good == text.size()) return RAVO_OK;
+  return Fail(error, {RAVO_UTF8, 0, good, "the text is not UTF-8"});
+}
+
+[[nodiscard]] inline TextIn ReadText(const char* text, std::size_t length, ravo_error* error) noexcept {
+  TextIn read = ReadAnyText(text, length, error);
+  if (read.status == RAVO_OK) read.status = CheckUtf8(read.text, error);
+  return read;
 }
 
 /// Bytes of the caller, or the status with which the function must return.
@@ -143,8 +154,26 @@ struct TextOut {
   std::size_t* length = nullptr;
 };
 
+/// Copies at least the first bytes of a value of a check, and zeros after it, into room for all of it. Word
+/// by word, as checks write it: a longer load would wait for the stores before it.
+template <std::size_t capacity>
+void CopyWords(const czech::FixedText<capacity>& text, std::size_t least, char* to) noexcept {
+  for (std::size_t at = 0; at < least; at += 8) std::memcpy(to + at, &text.characters[at], 8);
+}
+
 /// Writes a result as ravo.h says under "Results".
 [[nodiscard]] ravo_status WriteText(const TextOut& out, std::string_view text, ravo_error* error) noexcept;
+
+/// The same for a value of a check, with zeros after it.
+template <std::size_t capacity>
+[[nodiscard]] ravo_status WriteFixed(const TextOut& out, const czech::FixedText<capacity>& text,
+                                     ravo_error* error) noexcept {
+  static_assert(czech::FixedText<capacity>::kRoom > capacity);
+  if (out.buffer == nullptr || out.size < text.kRoom) return WriteText(out, text.View(), error);
+  CopyWords(text, text.size + std::size_t{1}, out.buffer);
+  if (out.length != nullptr) *out.length = text.size;
+  return RAVO_OK;
+}
 
 /// Writes bytes and zeros after them, without NUL: all or none.
 [[nodiscard]] ravo_status WriteBytes(const TextOut& out, std::string_view bytes, ravo_error* error,

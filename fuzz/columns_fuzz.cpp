@@ -1,5 +1,5 @@
-// Columns of any shape over any bytes: each row that is accepted has the code and the form that the check of
-// a single text gives, null and broken rows are told, and nothing is read outside of the data.
+// Columns of any shape over any bytes: each row has the code, the text and the number that the function for a
+// single value gives, null and broken rows are told, and nothing is read outside of the data.
 #include <array>
 #include <cstdint>
 #include <cstdlib>
@@ -93,7 +93,8 @@ void FillRows(Input& input, Owned& owned, std::size_t most) {
   const std::size_t size = ValueSize(column);
   const std::size_t values = count + (column.layout <= RAVO_LAYOUT_OFFSETS_64 ? 1 : 0);
   owned.values = input.Bytes(values * size);
-  if (column.layout != RAVO_LAYOUT_FIXED) FillSmall(input, owned.values.get(), size, values);
+  const bool is_free = column.layout == RAVO_LAYOUT_FIXED || column.layout == RAVO_LAYOUT_NUMBERS;
+  if (!is_free) FillSmall(input, owned.values.get(), size, values);
   column.values = owned.values.get();
   if (input.Below(2) == 0) return;
   owned.validity = input.Bytes((count + 7) / 8);
@@ -116,6 +117,12 @@ void FillTexts(Input& input, Owned& owned) {
   }
   column.buffers = owned.buffers.data();
   column.buffer_sizes = owned.sizes.data();
+}
+
+void FillNumbers(Input& input, Owned& owned) {
+  owned.column.layout = RAVO_LAYOUT_NUMBERS;
+  owned.column.width = input.Below(2) == 0 ? 4 : 8;
+  FillRows(input, owned, kMostRows);
 }
 
 void FillIndices(Input& input, Owned& owned, const ravo_column& entries) {
@@ -190,6 +197,9 @@ Row RowAt(const ravo_column& column, std::size_t row) {
       return ViewAt(column, at);
     case RAVO_LAYOUT_FIXED:
       return FixedAt(column, at);
+    case RAVO_LAYOUT_NUMBERS:
+      return Sliced(static_cast<const char*>(column.values) + at * static_cast<std::size_t>(column.width),
+                    column.width, 0, column.width);
     default:
       break;
   }
@@ -198,61 +208,278 @@ Row RowAt(const ravo_column& column, std::size_t row) {
   return RowAt(*column.dictionary, static_cast<std::size_t>(index));
 }
 
-// The code of one text, and its canonical form.
-std::uint16_t CodeOf(ravo_kind kind, const std::string& text, std::string& form) {
+// What a function says of a row.
+struct Expected {
+  std::uint16_t code = 0;
+  std::string text;
+  std::int64_t number = 0;
+};
+
+bool IsUtf8(const std::string& text) {
+  ravo_kind kind = 0;
+  return ravo_kind_of(text.data(), text.size(), &kind, nullptr) != RAVO_UTF8;
+}
+
+std::uint16_t CodeOf(ravo_status status, const ravo_error& error) {
+  switch (status) {
+    case RAVO_UTF8:
+      return RAVO_CODE_NOT_UTF8;
+    case RAVO_MALFORMED:
+      return RAVO_CODE_MALFORMED;
+    case RAVO_LACKING:
+      return RAVO_CODE_LACKING;
+    default:
+      Require(status == RAVO_WRONG);
+      return static_cast<std::uint16_t>(error.code);
+  }
+}
+
+Expected OfCheck(ravo_kind kind, const std::string& text) {
   char buffer[RAVO_VALUE_SIZE] = "";
   ravo_error error = RAVO_ERROR_INIT;
   const ravo_status status =
       ravo_check(kind, text.data(), text.size(), buffer, sizeof buffer, nullptr, &error);
-  form = status == RAVO_OK ? buffer : "";
-  if (status == RAVO_UTF8) return RAVO_CODE_NOT_UTF8;
-  Require(status == RAVO_OK || status == RAVO_WRONG);
-  return status == RAVO_OK ? std::uint16_t{0} : static_cast<std::uint16_t>(error.code);
+  // The check itself looks at UTF-8 late.
+  Require((status == RAVO_UTF8) == !IsUtf8(text));
+  if (status != RAVO_OK) return {CodeOf(status, error), {}};
+  return {0, buffer};
 }
 
-void CheckColumn(ravo_kind kind, const ravo_column& column) {
+Expected OfBank(const std::string& text) {
+  const std::string digits = text.substr(text.find_last_of('/') + 1);
+  if (!IsUtf8(text)) return {RAVO_CODE_NOT_UTF8, {}};
+  if (digits.size() != 4 || digits.find_first_not_of("0123456789") != std::string::npos) return {1404, {}};
+  ravo_bank bank = RAVO_BANK_INIT;
+  ravo_error error = RAVO_ERROR_INIT;
+  const ravo_status status = ravo_bank_find(nullptr, std::atoi(digits.c_str()), &bank, &error);
+  if (status != RAVO_OK) return {CodeOf(status, error), {}};
+  return {0, bank.name};
+}
+
+Expected OfTable(const std::string& text) {
+  if (!IsUtf8(text)) return {RAVO_CODE_NOT_UTF8, {}};
+  ravo_suite_table table = RAVO_SUITE_TABLE_INIT;
+  for (std::size_t i = 0; ravo_suite_table_at(i, &table, nullptr) == RAVO_OK; ++i) {
+    if (table.name == text) return {0, {}, table.first};
+  }
+  return {RAVO_CODE_UNKNOWN, {}};
+}
+
+Expected OfDate(const std::string& text) {
+  ravo_day day = 0;
+  switch (ravo_day_read(text.data(), text.size(), &day, nullptr)) {
+    case RAVO_OK:
+      return {0, {}, std::int64_t{day} - RAVO_DAY_1970};
+    case RAVO_UTF8:
+      return {RAVO_CODE_NOT_UTF8, {}};
+    case RAVO_RANGE:
+      return {1501, {}};
+    default:
+      return {RAVO_CODE_NO_DATE, {}};
+  }
+}
+
+Expected OfDay(const std::string& bytes) {
+  char buffer[RAVO_DATE_SIZE] = "";
+  const auto day = Load<std::int32_t>(bytes.data(), 0);
+  const ravo_status status = ravo_day_format(day, RAVO_DATE_CZECH, buffer, sizeof buffer, nullptr, nullptr);
+  return status == RAVO_OK ? Expected{0, buffer} : Expected{1501, {}};
+}
+
+Expected OfMoney(ravo_money step, ravo_rounding rounding, const std::string& bytes) {
+  ravo_money result = 0;
+  const auto amount = Load<ravo_money>(bytes.data(), 0);
+  const ravo_status status = ravo_money_round(amount, step, rounding, &result, nullptr);
+  return status == RAVO_OK ? Expected{0, {}, result} : Expected{1601, {}};
+}
+
+Expected OfConversion(ravo_encoding from, ravo_encoding to, ravo_convert_policy policy,
+                      const std::string& bytes) {
+  std::string buffer(8 * bytes.size() + 64, '\0');
+  std::size_t length = 0;
+  ravo_error error = RAVO_ERROR_INIT;
+  const ravo_status status = ravo_convert(from, bytes.data(), bytes.size(), to, policy, buffer.data(),
+                                          buffer.size(), &length, nullptr, nullptr, &error);
+  if (status != RAVO_OK) return {CodeOf(status, error), {}};
+  return {0, buffer.substr(0, length)};
+}
+
+// Room for the answers of a column.
+struct Room {
+  Room() {
+    texts.layout = RAVO_LAYOUT_OFFSETS_32;
+    texts.offsets = offsets.data();
+    texts.data = data.data();
+    texts.data_size = data.size();
+    answers.codes = codes.data();
+  }
+
   std::array<std::uint16_t, kMostRows> codes{};
   std::array<std::int32_t, kMostRows + 1> offsets{};
-  std::string data(kMostRows * RAVO_VALUE_SIZE, '\0');
+  std::array<std::int64_t, kMostRows> numbers{};
+  std::array<std::int32_t, kMostRows> days{};
+  std::string data = std::string(kMostRows * 2048, '\0');
   ravo_texts texts = RAVO_TEXTS_INIT;
-  texts.layout = RAVO_LAYOUT_OFFSETS_32;
-  texts.offsets = offsets.data();
-  texts.data = data.data();
-  texts.data_size = data.size();
   ravo_answers answers = RAVO_ANSWERS_INIT;
-  answers.codes = codes.data();
-  answers.texts = &texts;
+};
+
+// Compares each row with what is expected of its bytes. `call` fills the room.
+template <class Call, class Expect>
+void Compare(const ravo_column& column, Call call, Expect expect) {
+  Room room;
   ravo_error error = RAVO_ERROR_INIT;
-  const ravo_status status = ravo_check_column(kind, &column, 0, &answers, nullptr, nullptr, &error);
+  const ravo_status status = call(room, &error);
   Require(status == RAVO_OK || (status == RAVO_RANGE && error.position < column.length));
   std::size_t wrong = 0;
   for (std::size_t row = 0; row < column.length; ++row) {
-    const Row expected = RowAt(column, row);
-    if (expected.broken) {
+    const Row found = RowAt(column, row);
+    if (found.broken) {
       Require(status == RAVO_RANGE && error.position == row);
       return;
     }
     if (status != RAVO_OK) continue;
-    std::string form;
-    const std::uint16_t code = expected.text ? CodeOf(kind, *expected.text, form) : RAVO_CODE_NULL;
-    wrong += expected.text && code != 0 ? 1U : 0U;
-    Require(codes[row] == code);
-    const auto begin = static_cast<std::size_t>(offsets[row]);
-    Require(data.substr(begin, static_cast<std::size_t>(offsets[row + 1]) - begin) == form);
+    const Expected expected = found.text ? expect(*found.text) : Expected{RAVO_CODE_NULL, {}};
+    wrong += found.text && expected.code != 0 ? 1U : 0U;
+    Require(room.codes[row] == expected.code);
+    // A function writes one of the two.
+    Require(room.numbers[row] + room.days[row] == expected.number);
+    const auto begin = static_cast<std::size_t>(room.offsets[row]);
+    Require(room.data.compare(begin, static_cast<std::size_t>(room.offsets[row + 1]) - begin,
+                              expected.text) == 0);
   }
-  Require(status == RAVO_OK && answers.wrong == wrong);
+  Require(status == RAVO_OK && room.answers.wrong == wrong);
+}
+
+void CheckTexts(ravo_kind kind, const ravo_column& column) {
+  Compare(
+      column,
+      [&](Room& room, ravo_error* error) {
+        room.answers.texts = &room.texts;
+        return ravo_check_column(kind, &column, 0, &room.answers, nullptr, nullptr, error);
+      },
+      [&](const std::string& text) { return OfCheck(kind, text); });
+  Compare(
+      column,
+      [&](Room& room, ravo_error* error) {
+        return ravo_check_column(kind, &column, 0, &room.answers, nullptr, nullptr, error);
+      },
+      [&](const std::string& text) {
+        return Expected{OfCheck(kind, text).code, {}};
+      });
+}
+
+void FindBanks(const ravo_column& column) {
+  Compare(
+      column,
+      [&](Room& room, ravo_error* error) {
+        room.answers.texts = &room.texts;
+        return ravo_bank_find_column(nullptr, &column, 0, &room.answers, nullptr, nullptr, error);
+      },
+      OfBank);
+}
+
+void FindTables(const ravo_column& column) {
+  Compare(
+      column,
+      [&](Room& room, ravo_error* error) {
+        return ravo_suite_table_find_column(&column, 0, room.days.data(), &room.answers, nullptr, nullptr,
+                                            error);
+      },
+      OfTable);
+}
+
+void ReadDays(const ravo_column& column) {
+  Compare(
+      column,
+      [&](Room& room, ravo_error* error) {
+        return ravo_day_read_column(&column, 0, RAVO_DAY_1970, room.days.data(), &room.answers, nullptr,
+                                    nullptr, error);
+      },
+      OfDate);
+}
+
+bool IsFixed(const ravo_column& column) {
+  return column.layout == RAVO_LAYOUT_FIXED || (column.dictionary != nullptr && IsFixed(*column.dictionary));
+}
+
+// Units of two or four bytes.
+bool IsWide(ravo_encoding encoding) {
+  ravo_encoding_info info = RAVO_ENCODING_INFO_INIT;
+  Require(ravo_encoding_at(encoding, &info, nullptr) == RAVO_OK);
+  const std::string_view name = info.name;
+  return name.starts_with("UTF_16") || name.starts_with("UTF_32") || name.starts_with("UCS_");
+}
+
+void Convert(Input& input, const ravo_column& column) {
+  const auto from = static_cast<ravo_encoding>(input.Below(ravo_encoding_count()));
+  const auto to = static_cast<ravo_encoding>(input.Below(ravo_encoding_count()));
+  const auto policy = static_cast<ravo_convert_policy>(input.Below(2));
+  const auto call = [&](Room& room, ravo_error* error) {
+    room.answers.texts = &room.texts;
+    return ravo_convert_column(from, &column, 0, to, policy, &room.answers, nullptr, nullptr, error);
+  };
+  ravo_encoding_info read = RAVO_ENCODING_INFO_INIT;
+  ravo_encoding_info written = RAVO_ENCODING_INFO_INIT;
+  Require(ravo_encoding_at(from, &read, nullptr) == RAVO_OK &&
+          ravo_encoding_at(to, &written, nullptr) == RAVO_OK);
+  if (!read.can_read || !written.can_write || (IsWide(from) && IsFixed(column))) {
+    Room room;
+    Require(call(room, nullptr) == RAVO_ARGUMENT);
+    return;
+  }
+  Compare(column, call, [&](const std::string& bytes) { return OfConversion(from, to, policy, bytes); });
+}
+
+void CheckNumbers(Input& input, const ravo_column& column, std::int32_t width) {
+  const auto step = static_cast<ravo_money>(1 + input.Below(200));
+  const auto rounding = static_cast<ravo_rounding>(input.Below(3));
+  if (width == 8) {
+    Compare(
+        column,
+        [&](Room& room, ravo_error* error) {
+          return ravo_money_round_column(&column, 0, step, rounding, room.numbers.data(), &room.answers,
+                                         nullptr, nullptr, error);
+        },
+        [&](const std::string& bytes) { return OfMoney(step, rounding, bytes); });
+    return;
+  }
+  Compare(
+      column,
+      [&](Room& room, ravo_error* error) {
+        room.answers.texts = &room.texts;
+        return ravo_day_format_column(&column, 0, 0, RAVO_DATE_CZECH, &room.answers, nullptr, nullptr, error);
+      },
+      OfDay);
+}
+
+void CheckTexts(Input& input, const ravo_column& column) {
+  switch (input.Below(5)) {
+    case 0:
+      return FindBanks(column);
+    case 1:
+      return FindTables(column);
+    case 2:
+      return ReadDays(column);
+    case 3:
+      return Convert(input, column);
+    default:
+      return CheckTexts(static_cast<ravo_kind>(1 + input.Below(RAVO_KIND_ISBN)), column);
+  }
 }
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   Input input(data, size);
-  const auto kind = static_cast<ravo_kind>(1 + input.Below(RAVO_KIND_ISBN));
-  Owned texts;
-  FillTexts(input, texts);
-  CheckColumn(kind, texts.column);
+  const bool has_numbers = input.Below(3) == 0;
+  Owned values;
+  has_numbers ? FillNumbers(input, values) : FillTexts(input, values);
+  const auto check = [&](const ravo_column& column) {
+    has_numbers ? CheckNumbers(input, column, values.column.width) : CheckTexts(input, column);
+  };
+  check(values.column);
   Owned indices;
-  FillIndices(input, indices, texts.column);
-  CheckColumn(kind, indices.column);
+  FillIndices(input, indices, values.column);
+  check(indices.column);
   return 0;
 }

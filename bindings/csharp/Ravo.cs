@@ -40,6 +40,8 @@ public static class Ravo
     public const int RAVO_PAYMENT_CODE_SIZE = 2332;
     /// <summary>The size of data that the caller does not know: it ends where the offset of the last row ends.</summary>
     public static readonly UIntPtr RAVO_SIZE_UNKNOWN = UIntPtr.Size == 8 ? new UIntPtr(ulong.MaxValue) : new UIntPtr(uint.MaxValue);
+    /// <summary>The day that 0 stands for in date32 of Arrow: 1 January 1970.</summary>
+    public const int RAVO_DAY_1970 = 2440588;
 
     /// <summary>done, or correct in form</summary>
     public const int RAVO_OK = 0;
@@ -2100,6 +2102,8 @@ public static class Ravo
     public const int RAVO_LAYOUT_DICTIONARY = 5;
     /// <summary>unsigned indices of `width` bytes into another column</summary>
     public const int RAVO_LAYOUT_DICTIONARY_UNSIGNED = 6;
+    /// <summary>signed numbers of `width` bytes (4, 8). Arrow: int32, int64, date32</summary>
+    public const int RAVO_LAYOUT_NUMBERS = 7;
 
     /// <summary>A column of the caller. It starts as `ravo_column column = RAVO_COLUMN_INIT;`. What a layout lacks is 0.</summary>
     [StructLayout(LayoutKind.Sequential)]
@@ -2108,7 +2112,7 @@ public static class Ravo
         /// <summary>sizeof(ravo_column)</summary>
         public UIntPtr size = (UIntPtr)Marshal.SizeOf(typeof(ravo_column));
         public int layout;
-        /// <summary>bytes of a value (fixed) or of an index (dictionary)</summary>
+        /// <summary>bytes of a value (fixed, numbers) or of an index (dictionary)</summary>
         public int width;
         /// <summary>rows</summary>
         public UIntPtr length;
@@ -2116,7 +2120,7 @@ public static class Ravo
         public UIntPtr offset;
         /// <summary>bit offset + i, lowest first, is 0 if row i is null; null: none is</summary>
         public IntPtr validity;
-        /// <summary>offsets, views, values of fixed width, or indices</summary>
+        /// <summary>offsets, views, values of fixed width, numbers, or indices</summary>
         public IntPtr values;
         /// <summary>what offsets are into</summary>
         public IntPtr data;
@@ -2134,6 +2138,14 @@ public static class Ravo
     public const int RAVO_TRUSTED = 1;
 
     public const int RAVO_CODE_CORRECT = 0;
+    /// <summary>an encoding lacks a character of the value</summary>
+    public const int RAVO_CODE_LACKING = 65530;
+    /// <summary>bytes of the value are no character of their encoding</summary>
+    public const int RAVO_CODE_MALFORMED = 65531;
+    /// <summary>there is nothing of that name</summary>
+    public const int RAVO_CODE_UNKNOWN = 65532;
+    /// <summary>the value is not written as a date</summary>
+    public const int RAVO_CODE_NO_DATE = 65533;
     /// <summary>the value is not UTF-8</summary>
     public const int RAVO_CODE_NOT_UTF8 = 65534;
     /// <summary>the row has no value</summary>
@@ -2157,7 +2169,7 @@ public static class Ravo
         public UIntPtr data_length;
     }
 
-    /// <summary>Room for what a check finds. Each pointer may be null.</summary>
+    /// <summary>Room for what a function says of rows. Each pointer may be null.</summary>
     [StructLayout(LayoutKind.Sequential)]
     public sealed class ravo_answers
     {
@@ -2167,7 +2179,7 @@ public static class Ravo
         public IntPtr codes;
         /// <summary>(rows + 7) / 8 bytes: bit i, lowest first, is 1 if row i is correct; bits past the end: 0</summary>
         public IntPtr validity;
-        /// <summary>canonical forms, or usual spellings</summary>
+        /// <summary>canonical forms, names, dates ...: what the function writes</summary>
         public IntPtr texts;
         /// <summary>receives how many rows are wrong; those that are null do not count</summary>
         public UIntPtr wrong;
@@ -2187,6 +2199,66 @@ public static class Ravo
     /// <summary>Checks every row of a column for a kind, and writes usual spellings where ravo_check_column writes canonical forms.</summary>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern int ravo_respell_column(int kind, [In] ravo_column column, uint flags,
+        [In, Out] ravo_answers answers, ravo_progress progress, IntPtr context, [In, Out] ravo_error error);
+
+    /// <summary>Looks up the bank of every row in a list, null for the one that is built in, and writes codes and names of banks.</summary>
+    /// <remarks>
+    /// <para>A value is a bank code of four digits, or ends with one after a slash, as accounts do. Codes are the reasons
+    /// "bank.code" and "bank.unknown". Allocates for dictionaries alone.</para>
+    /// <code>"0800", "19-2000145399/0800", "9999"  // codes 0, 0, 1402</code>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_bank_find_column(IntPtr list, [In] ravo_column column, uint flags,
+        [In, Out] ravo_answers answers, ravo_progress progress, IntPtr context, [In, Out] ravo_error error);
+
+    /// <summary>Looks up every row, which is the name of a table, and writes the table's number to `ids`, the first if it has
+    /// several; 0 if there is none.</summary>
+    /// <remarks>
+    /// <para>Names are compared to the letter. The code is RAVO_CODE_UNKNOWN if no table has the name. `answers->texts` is
+    /// null. Allocates for dictionaries alone.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_table_find_column([In] ravo_column column, uint flags, [Out] int[] ids,
+        [In, Out] ravo_answers answers, ravo_progress progress, IntPtr context, [In, Out] ravo_error error);
+
+    /// <summary>Rounds every amount of a column of numbers of 8 bytes to a multiple of `step`, as ravo_money_round does.</summary>
+    /// <remarks>
+    /// <para>A result that does not fit 64 bits is 0 with the code of the reason "money.range". `results` may be the memory of
+    /// the column itself, if it has neither an offset nor a dictionary. RAVO_RANGE if `step` is not positive.
+    /// `answers->texts` is null. Allocates for dictionaries and for results that do not fit.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_money_round_column([In] ravo_column column, uint flags, long step, int rounding,
+        [Out] long[] results, [In, Out] ravo_answers answers, ravo_progress progress, IntPtr context,
+        [In, Out] ravo_error error);
+
+    /// <summary>Reads the date of every row as ravo_day_read does, and writes its day less `origin`: 0 for a ravo_day,
+    /// RAVO_DAY_1970 for date32 of Arrow.</summary>
+    /// <remarks>
+    /// <para>Codes are RAVO_CODE_NO_DATE, and the reason "day.range" if there is no such date; the day is 0 then.
+    /// `answers->texts` is null. Allocates for dictionaries alone.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_day_read_column([In] ravo_column column, uint flags, int origin, [Out] int[] days,
+        [In, Out] ravo_answers answers, ravo_progress progress, IntPtr context, [In, Out] ravo_error error);
+
+    /// <summary>Writes every day of a column of numbers of 4 bytes as a text, as ravo_day_format does. `origin` is as in
+    /// ravo_day_read_column.</summary>
+    /// <remarks>
+    /// <para>The code is the reason "day.range" outside of the years 1 to 9999. Allocates for dictionaries alone.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_day_format_column([In] ravo_column column, uint flags, int origin, int form,
+        [In, Out] ravo_answers answers, ravo_progress progress, IntPtr context, [In, Out] ravo_error error);
+
+    /// <summary>Converts every row, a whole text of its own, from one encoding to another, as ravo_convert does.</summary>
+    /// <remarks>
+    /// <para>Codes are RAVO_CODE_MALFORMED and RAVO_CODE_LACKING; with RAVO_CONVERT_REPLACE, neither. The texts that are
+    /// written need not be UTF-8. RAVO_ARGUMENT if an encoding cannot be read or written, and for encodings with units
+    /// of two or four bytes in RAVO_LAYOUT_FIXED. Allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_convert_column(int from, [In] ravo_column column, uint flags, int to, int policy,
         [In, Out] ravo_answers answers, ravo_progress progress, IntPtr context, [In, Out] ravo_error error);
 
     /// <summary>Writes the CRC-32 (ISO-HDLC, as in ZIP) of the bytes of each row to `results`; 0 for an empty or null row.</summary>
@@ -2237,12 +2309,13 @@ public static class Ravo
         public IntPtr private_data;
     }
 
-    /// <summary>Describes an Arrow array of texts: writes `*column`, and `*dictionary` if the array has one.</summary>
+    /// <summary>Describes an Arrow array of texts or numbers: writes `*column`, and `*dictionary` if the array has one.</summary>
     /// <remarks>
     /// <para>`field` is the name of a column of a record batch, or null for an array that is no batch. Formats: u, U, vu, z, Z,
-    /// vz, w:N, and dictionaries of these. Another format, or an array whose parts do not fit its format, is RAVO_ARGUMENT;
-    /// a name that the batch has not is RAVO_UNKNOWN. Schema and array are borrowed: they stay the caller's, who releases
-    /// them as ever, and the column holds until then. `dictionary` may be null if there is none. Never allocates.</para>
+    /// vz, w:N, i, l, tdD, and dictionaries of these. Another format, or an array whose parts do not fit its format, is
+    /// RAVO_ARGUMENT; a name that the batch has not is RAVO_UNKNOWN. Schema and array are borrowed: they stay the caller's,
+    /// who releases them as ever, and the column holds until then. `dictionary` may be null if there is none. Never
+    /// allocates.</para>
     /// </remarks>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern int ravo_column_of_arrow(ref ArrowSchema schema, ref ArrowArray array, byte[] field,

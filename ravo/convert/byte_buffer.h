@@ -12,10 +12,15 @@ namespace ravo::convert {
 /// Bytes that are written in place. Room that was used once is not initialised again.
 class ByteBuffer {
  public:
+  /// Begins anew in memory of someone else. At the first bytes without room there, all move to own memory.
+  void BeginIn(std::span<std::uint8_t> memory) {
+    given_ = memory;
+    size_ = 0;
+  }
   /// Returns at least `size` bytes after the last one, to be written before `Add`.
   [[nodiscard]] std::span<std::uint8_t> Room(std::size_t size) {
-    if (room_.size() - size_ < size) room_.resize(std::max(2 * room_.size(), size_ + size));
-    return std::span(room_).subspan(size_);
+    if (Memory().size() - size_ < size) Grow(size);
+    return Memory().subspan(size_);
   }
   void Add(std::size_t written) { size_ += written; }
   void Append(std::span<const std::uint8_t> bytes) {
@@ -24,10 +29,27 @@ class ByteBuffer {
   }
   void Clear() { size_ = 0; }
 
-  [[nodiscard]] std::string_view Text() const { return {reinterpret_cast<const char*>(room_.data()), size_}; }
+  [[nodiscard]] std::string_view Text() const {
+    const std::uint8_t* const bytes = given_.empty() ? own_.data() : given_.data();
+    return {reinterpret_cast<const char*>(bytes), size_};
+  }
 
  private:
-  std::vector<std::uint8_t> room_;
+  [[nodiscard]] std::span<std::uint8_t> Memory() { return given_.empty() ? std::span(own_) : given_; }
+
+  void Grow(std::size_t size) {
+    const std::size_t least = size_ + size;
+    if (given_.empty()) {
+      own_.resize(std::max(2 * own_.size(), least));
+      return;
+    }
+    own_.resize(std::max(own_.size(), least));
+    std::ranges::copy(given_.first(size_), own_.begin());
+    given_ = {};
+  }
+
+  std::vector<std::uint8_t> own_;
+  std::span<std::uint8_t> given_;
   std::size_t size_ = 0;
 };
 

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
+#include <numeric>
 #include <span>
 #include <utility>
 
@@ -16,23 +18,22 @@ constexpr std::size_t kFewUnits = 64;
 
 bool IsSpecial(char16_t c) { return codec::IsSurrogate(c) || c == codec::kReplacement; }
 
-// The compiler makes vectors of a loop of known length. Each half has its own sum: one would wait for itself.
+// The compiler makes vectors of lanes that do not wait for each other.
 template <std::size_t kCount>
 char16_t BitsOf(std::span<const char16_t, kCount> text) {
-  constexpr std::size_t kHalf = kCount / 2;
-  char16_t first = 0;
-  char16_t second = 0;
-  for (std::size_t i = 0; i < kHalf; ++i) {
-    first = static_cast<char16_t>(first | text[i]);
-    second = static_cast<char16_t>(second | text[kHalf + i]);
+  std::array<char16_t, 32> lanes{};
+  static_assert(kCount % lanes.size() == 0);
+  for (std::size_t at = 0; at < kCount; at += lanes.size()) {
+    for (std::size_t lane = 0; lane < lanes.size(); ++lane)
+      lanes[lane] = static_cast<char16_t>(lanes[lane] | text[at + lane]);
   }
-  return static_cast<char16_t>(first | second);
+  return std::accumulate(lanes.begin(), lanes.end(), char16_t{}, std::bit_or());
 }
 
 // The index of the first U+FFFD or surrogate, which may stand for something else; the size otherwise.
 // The letters of Europe lack the highest bit of both.
 std::size_t FindSpecial(std::span<const char16_t> text) {
-  constexpr std::size_t kAtOnce = 256;
+  constexpr std::size_t kAtOnce = 1024;
   constexpr char16_t kHighest = 0x8000;
   for (std::size_t at = 0; at < text.size(); at += kAtOnce) {
     const auto part = text.subspan(at, std::min(kAtOnce, text.size() - at));
@@ -77,6 +78,10 @@ TextConverter::TextConverter(const Conversion& conversion)
 
 void TextConverter::Restart(const codec::Encoding& from) {
   from_ = ExactEncoding(from);
+  Restart();
+}
+
+void TextConverter::Restart() {
   decoder_ = {};
   room_ = kUnits;
 }

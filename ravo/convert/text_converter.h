@@ -58,6 +58,8 @@ class TextConverter {
 
   /// Reads from now on in `from`, from the start of a text.
   void Restart(const ravo::codec::Encoding& from);
+  /// Reads from the start of another text in the same encoding.
+  void Restart();
   /// Converts the characters in `bytes` up to a fault and returns how many bytes it took: all of the last
   /// ones of a text, and all but a character that is cut short of others. Appends to `converted`.
   std::size_t Convert(ravo::codec::ByteSpan bytes, Following following, Converted& converted);

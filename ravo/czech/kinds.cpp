@@ -107,6 +107,16 @@ Parsed<FixedText<34>> Check(Kind kind, std::string_view text) noexcept {
   return kind == Kind::Account ? CheckAccount(text) : CheckIn(kind, text);
 }
 Parsed<FixedText<34>> Check(Kind kind, std::u16string_view text) noexcept { return CheckIn(kind, text); }
+Code Refusal(Kind kind, std::string_view text) noexcept {
+  switch (kind) {
+#define RAVO_KIND(number, name, id, parse, czech, english) \
+  case Kind::name:                                         \
+    return parse(text).code;
+#include "kinds.inc"
+#undef RAVO_KIND
+  }
+  return Code::Correct;
+}
 Parsed<FixedText<42>> Respell(Kind kind, std::string_view text) noexcept { return RespellIn(kind, text); }
 Parsed<FixedText<42>> Respell(Kind kind, std::u16string_view text) noexcept { return RespellIn(kind, text); }
 

@@ -38,6 +38,9 @@ enum class Kind : std::uint8_t {
 [[nodiscard]] Parsed<FixedText<34>> Check(Kind kind, std::string_view text) noexcept;
 [[nodiscard]] Parsed<FixedText<34>> Check(Kind kind, std::u16string_view text) noexcept;
 
+/// Returns why `text` is not correct in form, `Code::Correct` if it is: what `Check` says, without the text.
+[[nodiscard]] Code Refusal(Kind kind, std::string_view text) noexcept;
+
 /// Returns the usual spelling of `text` as that kind, or why it is not correct in form.
 [[nodiscard]] Parsed<FixedText<42>> Respell(Kind kind, std::string_view text) noexcept;
 [[nodiscard]] Parsed<FixedText<42>> Respell(Kind kind, std::u16string_view text) noexcept;

@@ -137,7 +137,12 @@ static void formats_are_known_or_refused(void) {
               {"w:12", 12, RAVO_LAYOUT_FIXED, 2},
               {"", 0, 0, 3},
               {"uu", 0, 0, 3},
-              {"i", 0, 0, 2},
+              {"i", 4, RAVO_LAYOUT_NUMBERS, 2},
+              {"l", 8, RAVO_LAYOUT_NUMBERS, 2},
+              {"tdD", 4, RAVO_LAYOUT_NUMBERS, 2},
+              {"l", 0, 0, 3},
+              {"L", 0, 0, 2},
+              {"g", 0, 0, 2},
               {"w:", 0, 0, 2},
               {"w:0", 0, 0, 2},
               {"w:-4", 0, 0, 2},
@@ -240,7 +245,7 @@ static void fill_batch(struct arrow_batch* batch) {
   memset(batch, 0, sizeof *batch);
   batch->texts[1] = arrow_offsets;
   batch->texts[2] = arrow_data;
-  batch->schemas[0] = schema_of("l", "id");
+  batch->schemas[0] = schema_of("g", "id");
   batch->schemas[1] = schema_of("u", "i\xC4\x8Do");
   batch->arrays[0] = array_of(3, 0, batch->none, 2);
   batch->arrays[1] = array_of(3, 1, batch->texts, 3);

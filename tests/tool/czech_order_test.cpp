@@ -98,7 +98,7 @@ TEST(CompareCzech, IsHowKeysCompare) {
       {}, {.ignore_case = true}, {.natural = true}, {.digits_first = true}, {true, true, true}};
   std::mt19937 random(3);
   int equal = 0;
-  for (int count = 0; count < 200'000; ++count) {
+  for (std::size_t count = 0; count < 200'000; ++count) {
     const std::string a = RandomText(random);
     const std::string b = RandomText(random);
     const CzechOrder& order = kOrders[count % std::size(kOrders)];

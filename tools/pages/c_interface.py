@@ -50,7 +50,7 @@ RULES: list[Rule] = [
     ("ravo/czech/kinds", "AllKinds|KindText|Kind", "ravo_kind_name"),
     ("ravo/czech/kinds", "KindOf", "ravo_kind_of"),
     ("ravo/czech/kinds", "KindName", "ravo_kind_title"),
-    ("ravo/czech/kinds", "Check", "ravo_check"),
+    ("ravo/czech/kinds", "Check|Refusal", "ravo_check"),
     ("ravo/czech/kinds", "Respell", "ravo_respell"),
     ("ravo/czech/payment_text", ".*", "ravo_payment_find"),
     ("ravo/czech/payment_code", "WritePaymentCode|WrittenPaymentCode|PaymentCodeText|View", "ravo_spayd_write, ravo_sid_write"),
@@ -204,7 +204,8 @@ BESIDE = [
 ]
 # What has no counterpart in a C++ header of its own.
 OF_C = {
-    "ravo_version", "ravo_build_info", "ravo_encoding_of_mark", "ravo_check_column", "ravo_respell_column", "ravo_crc32_column", "ravo_column_of_arrow",
+    "ravo_version", "ravo_build_info", "ravo_encoding_of_mark", "ravo_check_column", "ravo_respell_column", "ravo_crc32_column", "ravo_bank_find_column", "ravo_column_of_arrow",
+    "ravo_suite_table_find_column", "ravo_money_round_column", "ravo_day_read_column", "ravo_day_format_column", "ravo_convert_column",
     "ravo_arrow_stream", "ravo_invoice_open", "ravo_invoice_close", "ravo_invoice_head_of", "ravo_invoice_party_of", "ravo_invoice_totals_of",
     "ravo_invoice_line_count", "ravo_invoice_line_at", "ravo_invoice_rate_count", "ravo_invoice_rate_at", "ravo_invoice_payment_count",
     "ravo_encoding_detect", "ravo_encoding_candidate_at", "ravo_compare_czech", "ravo_czech_key", "ravo_compare_numbers", "ravo_number_key",
