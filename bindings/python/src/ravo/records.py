@@ -1,0 +1,236 @@
+"""What functions return, and the numbers they take.
+
+Written by tools/generate/python_interface.py from c/ravo.h; not to be edited by hand.
+"""
+from __future__ import annotations
+
+from datetime import date
+from decimal import Decimal
+from enum import IntEnum
+from typing import NamedTuple
+
+
+class Language(IntEnum):
+    """Languages of sentences."""
+
+    CZECH = 0
+    ENGLISH = 1
+
+
+class Sex(IntEnum):
+    """The sex that a birth number tells."""
+
+    MALE = 0
+    FEMALE = 1
+
+
+class DateForm(IntEnum):
+    """How a date is written."""
+
+    ISO = 0  # 2026-11-21
+    CZECH = 1  # 21. 11. 2026
+    COMPACT = 2  # 20261121
+
+
+class Rounding(IntEnum):
+    """How an amount between two multiples of a step is rounded."""
+
+    HALF_AWAY = 0  # to the nearest multiple, halves away from zero
+    AWAY = 1  # to the multiple farther from zero
+    TOWARD = 2  # to the multiple nearer to zero
+
+
+class VatKind(IntEnum):
+    """Which of the rates."""
+
+    ZERO = 0  # no tax
+    STANDARD = 1  # základní
+    REDUCED = 2  # snížená; from 2015 to 2023 the first of two
+    SECOND_REDUCED = 3  # druhá snížená, 2015 to 2023
+
+
+class VatMethod(IntEnum):
+    """How the tax comes from an amount."""
+
+    BASE = 0  # base times rate
+    TOTAL_BY_COEFFICIENT = 1  # total times a coefficient of four decimals
+    TOTAL = 2  # total less total / (1 + rate)
+
+
+class VatPer(IntEnum):
+    """Where the tax of a document is computed."""
+
+    DOCUMENT = 0  # once for each rate, of the sum of its lines
+    LINE = 1  # of each line, then added
+
+
+class SuiteRounding(IntEnum):
+    """The direction of the suite's rounding. Any other number up to 255 means no rounding."""
+
+    UP = 0  # away from zero
+    DOWN = 1  # toward zero
+    MATH = 2  # halves away from zero
+
+
+class SuiteHashOf(IntEnum):
+    """How bytes or characters count in the suite's hash."""
+
+    BYTES = 0  # the bytes
+    UPPER_BYTES = 1  # the bytes in upper case, as letters of Windows-1250
+    TEXT = 2  # the little-endian bytes of the text in UTF-16
+    FOLDED_TEXT = 3  # the case-folded UTF-16 units of the text
+
+
+class ConvertPolicy(IntEnum):
+    """What happens to what cannot be converted."""
+
+    STRICT = 0  # the conversion fails at its position
+    REPLACE = 1  # it becomes U+FFFD, or "?" if the encoding lacks that
+
+
+class Account(NamedTuple):
+    """A Czech bank account."""
+
+    number: int  # at most ten digits
+    prefix: int  # at most six digits; 0 for none
+    bank: int  # the bank code: 800 is 0800
+
+
+class Birth(NamedTuple):
+    """What a birth number tells."""
+
+    born: date  # the day of birth
+    sex: Sex  # women have 50 added to the month
+    second_series: bool  # 20 is added to the month
+    remainder_ten: bool  # it is not divisible by eleven and right all the same
+
+
+class Week(NamedTuple):
+    """A week by ISO 8601."""
+
+    year: int  # the year of its Thursday
+    week: int  # 1 to 53
+
+
+class Holiday(NamedTuple):
+    """A public holiday."""
+
+    czech: str  # its name by law
+    english: str  # its name in English
+    law: str  # the law that gave it this form: "245/2000"
+    first_year: int  # the first year in which it holds
+    last_year: int  # the last; 9999 if there is no end
+    month: int  # 1 to 12; 0 if it follows Easter
+    day: int  # of the month, or days after Easter Sunday
+
+
+class Term(NamedTuple):
+    """When a term ends."""
+
+    counted: date  # as the days or months count
+    due: date  # the same, or the next working day if it is not one
+    verified: bool  # the holidays up to there are verified
+
+
+class VatRate(NamedTuple):
+    """A rate."""
+
+    law: str  # the law that set it: "500/2012"
+    first: date  # the first day on which it is in force
+    last: date  # the last; 31 December 9999 if there is no end
+    kind: VatKind  # which
+    percent: int  # 21 is 21 %
+
+
+class VatWay(NamedTuple):
+    """A way of computing the tax."""
+
+    law: str  # the law that has it: "235/2004"
+    first: date  # the first day on which it is lawful
+    last: date  # the last; 31 December 9999 if there is no end
+    method: VatMethod  # which
+
+
+class VatAmounts(NamedTuple):
+    """Base, tax and total of an amount."""
+
+    base: Decimal  # without the tax
+    tax: Decimal  # whole haléře
+    total: Decimal  # both
+    half: bool  # the exact tax ends on half a haléř
+
+
+class SuiteEan(NamedTuple):
+    """The check digits of an EAN."""
+
+    valid: bool  # the text has 7, 8, 12 or 13 digits
+    old_check: str  # the check digit of the code; a blank if it has none
+    new_check: str  # the computed one; a blank if the text is no code
+    full_code: str  # the code with the computed digit; empty if the text is no code
+
+
+class SuiteTable(NamedTuple):
+    """A table, or tables that share a name."""
+
+    name: str  # in Czech
+    module: str  # the module that has it: "RavoMzdaConstants"
+    first: int  # the first identifier
+    last: int  # the last identifier
+
+
+class SuiteCaption(NamedTuple):
+    """A caption or message."""
+
+    name: str  # "rPropertySazbaNulova"
+    text: str  # in Czech; "&" marks the accelerator
+    group: str  # the title of its group, in English
+    prefix: str  # what the names of the group begin with
+    id: int  # in the string table
+
+
+class EncodingInfo(NamedTuple):
+    """What is known of an encoding."""
+
+    name: str  # "Windows_1250"
+    label: str  # for people
+    aliases: str  # other names, separated by blanks
+    notes: str  # remarks; may be empty
+    code_page: int  # Windows number; 0 if it has none
+    can_read: bool  # it can be converted from
+    can_write: bool  # it can be converted to
+
+
+class Bank(NamedTuple):
+    """A bank."""
+
+    bic: str | None  # None if it has none
+    name: str
+    code: int  # 800 is 0800
+    clears: bool  # it takes part in the clearing system CERTIS
+
+
+class Payment(NamedTuple):
+    """A piece of payment data in a text."""
+
+    begin: int  # where it begins, past its label, in bytes
+    end: int  # where it ends; the next search begins there
+    kind: str  # an account, an IBAN or one of the three symbols
+    canonical: str  # as ravo_check writes it
+
+
+class VatRow(NamedTuple):
+    """The part of a document that has one rate."""
+
+    base: Decimal
+    tax: Decimal
+    total: Decimal
+    lines: int  # how many lines have the rate
+    percent: int  # the percentage on the day
+    half: bool  # any of its taxes ends on half a haléř
+
+
+class VatSummary(NamedTuple):
+    """A document by rates."""
+
+    rows: tuple[VatRow, ...]  # by ravo_vat_kind
+    sum: VatRow  # of all rows; its percentage is 0
