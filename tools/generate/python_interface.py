@@ -345,7 +345,7 @@ def functions_inc(interface: Interface) -> str:
     records = "\n\n".join(record_code(one, interface) for one in interface.records.values())
     calls = "\n\n".join(function_code(one, interface) for one in interface.functions)
     checks = "\n".join(f'CHECK_KIND({name}, {index}, "{title}")' for index, (name, title) in enumerate(kind_names(), 1))
-    return (f"/* {NOTE} */\n\n#if defined(RAVO_TABLE_OF_CHECKS)\n{checks}\n#else\n\n{records}\n\n{calls}\n\n"
+    return (f"/* {NOTE} */\n#include \"_module.h\"\n\n#if defined(RAVO_TABLE_OF_CHECKS)\n{checks}\n#else\n\n{records}\n\n{calls}\n\n"
             f"static PyMethodDef generated_functions[] = {{\n{rows}\n    {{NULL, NULL, 0, NULL}}}};\n#endif\n")
 
 

@@ -1,15 +1,21 @@
-"""Czech bookkeeping: identifiers, banks, days, money, VAT, encodings.
+"""Czech bookkeeping: identifiers, banks, days, money, VAT, and encodings.
 
 >>> import ravo
 >>> ravo.check.ico("27074358").value
 '27074358'
+>>> ravo.round_money("12.345")
+Decimal('12.35')
 """
 from __future__ import annotations
 
-from . import check
+from . import banks, captions, check, checksums, days, encodings, holidays, money, suite, tables, text, vat
 from ._error import Error
 from ._ravo import build_info
 from ._ravo import version as _version
+from .money import round_money
 
 __version__: str = _version()
-__all__ = ["Error", "build_info", "check"]
+"""The version of the library inside."""
+
+__all__ = ["Error", "banks", "build_info", "captions", "check", "checksums", "days", "encodings", "holidays", "money", "round_money", "suite",
+           "tables", "text", "vat"]

@@ -1,6 +1,5 @@
 /* The functions of ravo.h: the regular ones, written by a generator, and the other ones. */
 #include "_functions.inc"
-#include "_module.h"
 
 static PyObject* Kinds(PyObject* self, PyObject* unused) {
   (void)self;
