@@ -8,8 +8,8 @@ import re
 import shutil
 import subprocess
 
-from setuptools import Extension, setup
-from setuptools.command.build_ext import build_ext
+from setuptools import Extension, setup  # type: ignore[import]
+from setuptools.command.build_ext import build_ext  # type: ignore[import]
 
 HERE = pathlib.Path(__file__).resolve().parent
 # In a source distribution, libravo's sources are in a folder of their own.

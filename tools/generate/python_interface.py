@@ -14,7 +14,7 @@ import sys
 import c_interface
 import c_refusals
 from c_refusals import Function, Parameter
-from pycparser import c_ast, c_generator  # type: ignore[import-untyped]
+from pycparser import c_ast, c_generator  # type: ignore[import]
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 PACKAGE = ROOT / "bindings" / "python" / "src" / "ravo"
@@ -370,7 +370,7 @@ def python_type(kind: str, interface: Interface, words: str = "", form: str = "v
         return f"tuple[{camel(kind)}, ...]"
     if is_flag(kind, words):
         return "bool"
-    simple = {"ravo_day": "date", "ravo_money": "Decimal" if result else "Amount", "double": "float", "ravo_suite_moment": "float"}
+    simple = {"ravo_day": "date", "ravo_money": "Decimal" if result else "_Amount", "double": "float", "ravo_suite_moment": "float"}
     enumeration = interface.enum_of(kind)
     if enumeration:
         return enumeration.name if result else "int"
@@ -401,7 +401,7 @@ def records_py(interface: Interface) -> str:
 def signature(function: Function, interface: Interface) -> str:
     parameters = []
     for one in arguments_of(function):
-        kind = {"text": "str", "bytes": "Buffer"}.get(one.role) or python_type(one.type, interface, result=False)
+        kind = {"text": "str", "bytes": "_Buffer"}.get(one.role) or python_type(one.type, interface, result=False)
         parameters.append(f"{one.name if one.name not in ('from',) else one.name + '_'}: {kind}")
     return ", ".join([*parameters, "/"] if parameters else [])
 

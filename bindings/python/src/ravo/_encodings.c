@@ -162,10 +162,10 @@ static PyObject* Push(PyObject* self, PyObject* arguments) {
                            : RaiseAt(module, &error, PyLong_FromSize_t(error.position));
 }
 
-static PyMethodDef converter_methods[] = {
-    {"push", Push, METH_VARARGS,
-     "push(bytes, is_last, /)\n--\n\nConverts the next bytes and returns what they have become so far."},
-    {NULL, NULL, 0, NULL}};
+static PyMethodDef converter_methods[] = {{"push", Push, METH_VARARGS,
+                                           "push($self, bytes, is_last, /)\n--\n\nConverts the next bytes "
+                                           "and returns what they have become so far."},
+                                          {NULL, NULL, 0, NULL}};
 
 static PyType_Slot converter_slots[] = {{Py_tp_doc, "A conversion of a text that comes in pieces."},
                                         {Py_tp_new, NewConverter},

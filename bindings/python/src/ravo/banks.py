@@ -63,7 +63,11 @@ def _number(code: int | str) -> int:
 
 
 def read(text: str, day: date) -> BankList:
-    """Returns the list of a day in the central bank's CSV form; ravo.Error at the position of a line that is wrong."""
+    """Returns the list of a day in the central bank's CSV form; ravo.Error at the position of a line that is wrong.
+
+    >>> read("code;name;BIC;A\\n0100;Banka;;\\n", date(2026, 1, 1)).find("0100").name
+    'Banka'
+    """
     return BankList(*_ravo.bank_list(text, day))
 
 

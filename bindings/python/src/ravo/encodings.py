@@ -14,6 +14,7 @@ from __future__ import annotations
 
 import codecs
 from collections.abc import Callable
+from typing import Any
 
 from . import _ravo
 from ._error import Error
@@ -111,26 +112,30 @@ def _decode(name: str, encoding: int, data: _Bytes, errors: str, final: bool = T
             done += len(view)
 
 
+def _lacking(name: str, encoding: int, text: str, done: int) -> UnicodeEncodeError | bytes:
+    """The bytes of a text from a place on, or what the encoding lacks of it."""
+    try:
+        return _ravo.encode(encoding, text[done:] if done else text, _STRICT, _UTF8)
+    except UnicodeEncodeError as error:
+        begin, end = done + error.start, done + error.end
+    except Error as error:
+        if error.position is None or error.code != "lacking":
+            raise
+        begin, end = done + error.position, done + error.position + 1
+    return UnicodeEncodeError(name, text, begin, end, "the encoding lacks the character")
+
+
 def _encode(name: str, encoding: int, text: str, errors: str) -> bytes:
-    """The bytes of a text; what an error handler writes is encoded with the rest."""
+    """The bytes of a text; what an error handler writes is encoded with the rest, and must be in the encoding."""
     parts: list[str] = []
     done = 0
-    while True:
-        try:
-            rest = text[done:] if done else text
-            encoded = _ravo.encode(encoding, rest, _STRICT, _UTF8)
-            return _ravo.encode(encoding, "".join([*parts, rest]), _STRICT, _UTF8) if parts else encoded
-        except UnicodeEncodeError as error:
-            begin, end = done + error.start, done + error.end
-        except Error as error:
-            if error.position is None or error.code != "lacking":
-                raise
-            begin, end = done + error.position, done + error.position + 1
-        parts.append(text[done:begin])
-        replacement, done = codecs.lookup_error(errors)(UnicodeEncodeError(name, text, begin, end, "the encoding lacks the character"))
+    while isinstance(found := _lacking(name, encoding, text, done), UnicodeEncodeError):
+        parts.append(text[done:found.start])
+        replacement, done = codecs.lookup_error(errors)(found)
         parts.append(replacement if isinstance(replacement, str) else replacement.decode("ascii"))
         if done < 0:
             done += len(text)
+    return _encode(name, encoding, "".join([*parts, text[done:]]), "strict") if parts else found
 
 
 class _Decoder(codecs.BufferedIncrementalDecoder):
@@ -139,7 +144,7 @@ class _Decoder(codecs.BufferedIncrementalDecoder):
     name: str
     encoding: int
 
-    def _buffer_decode(self, data: _Bytes, errors: str, final: bool) -> tuple[str, int]:
+    def _buffer_decode(self, data: Any, errors: str, final: bool) -> tuple[str, int]:
         return _decode(self.name, self.encoding, data, errors, final)
 
 
@@ -157,7 +162,7 @@ class _StatefulDecoder(codecs.IncrementalDecoder):
         self._converter = _ravo.Converter(self.encoding, _UTF8, _REPLACE if self.errors == "replace" else _STRICT)
         self._kept = b""
 
-    def decode(self, data: _Bytes, final: bool = False) -> str:  # type: ignore[override]
+    def decode(self, data: Any, final: bool = False) -> str:
         if self.errors in ("strict", "replace"):
             return self._converted(bytes(data), final)
         self._kept += bytes(data)
@@ -211,8 +216,8 @@ def _codec(name: str) -> codecs.CodecInfo | None:
         return None
     stateful = _ravo.encoding_at(number).name.startswith("UTF_7")
     attributes = {"name": name, "encoding": number}
-    decoder = type("IncrementalDecoder", (_StatefulDecoder if stateful else _Decoder,), attributes)
-    encoder = type("IncrementalEncoder", (_StatefulEncoder if stateful else _Encoder,), attributes)
+    decoder: Any = type("IncrementalDecoder", (_StatefulDecoder if stateful else _Decoder,), attributes)
+    encoder: Any = type("IncrementalEncoder", (_StatefulEncoder if stateful else _Encoder,), attributes)
     return codecs.CodecInfo(_encoding_call(name, number), _decoding_call(name, number), _reader(decoder), _writer(name, number), encoder, decoder, name)
 
 
@@ -240,7 +245,7 @@ def _reader(decoder: type[codecs.IncrementalDecoder]) -> type[codecs.StreamReade
             super().__init__(stream, errors)
             self._decoder = decoder(errors)
 
-        def decode(self, data: _Bytes, errors: str = "strict") -> tuple[str, int]:  # type: ignore[override]
+        def decode(self, data: Any, errors: str = "strict") -> tuple[str, int]:
             return self._decoder.decode(bytes(data)), len(data)
     return StreamReader
 
