@@ -8,14 +8,15 @@ Decimal('12.35')
 """
 from __future__ import annotations
 
-from . import banks, captions, check, checksums, days, encodings, holidays, money, suite, tables, text, vat
+from . import banks, captions, check, checksums, columns, days, encodings, holidays, money, suite, tables, text, vat
 from ._error import Error
 from ._ravo import build_info
 from ._ravo import version as _version
+from ._validate import Finding, Findings, optional, validate
 from .money import round_money
 
 __version__: str = _version()
 """The version of the library inside."""
 
-__all__ = ["Error", "banks", "build_info", "captions", "check", "checksums", "days", "encodings", "holidays", "money", "round_money", "suite",
-           "tables", "text", "vat"]
+__all__ = ["Error", "Finding", "Findings", "banks", "build_info", "captions", "check", "checksums", "columns", "days", "encodings", "holidays",
+           "money", "optional", "round_money", "suite", "tables", "text", "validate", "vat"]

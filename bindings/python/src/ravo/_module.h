@@ -82,5 +82,6 @@ Py_ssize_t CharactersIn(const char* bytes, size_t size);
 int AddChecks(PyObject* module);
 int AddCalls(PyObject* module);
 int AddEncodings(PyObject* module);
+int AddColumns(PyObject* module);
 
 #endif

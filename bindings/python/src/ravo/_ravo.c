@@ -26,7 +26,10 @@ static int ImportAll(ravo_module* state) {
 
 static int Execute(PyObject* module) {
   if (ImportAll(PyModule_GetState(module)) != 0) return -1;
-  return AddChecks(module) != 0 || AddCalls(module) != 0 || AddEncodings(module) != 0 ? -1 : 0;
+  return AddChecks(module) != 0 || AddCalls(module) != 0 || AddEncodings(module) != 0 ||
+                 AddColumns(module) != 0
+             ? -1
+             : 0;
 }
 
 static int Traverse(PyObject* module, visitproc visit, void* arg) {

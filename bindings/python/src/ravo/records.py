@@ -64,6 +64,46 @@ class VatPer(IntEnum):
     LINE = 1  # of each line, then added
 
 
+class PaymentCode(IntEnum):
+    """Which of the two codes."""
+
+    SPAYD = 0  # a payment
+    SID = 1  # an invoice
+
+
+class InvoiceVersion(IntEnum):
+    """Whether the checks know a document."""
+
+    KNOWN = 0  # ISDOC 6
+    OTHER = 1  # ISDOC of another version: findings say little
+    NONE = 2  # no document of ISDOC
+
+
+class InvoiceRole(IntEnum):
+    """The two sides of the business."""
+
+    SUPPLIER = 0
+    CUSTOMER = 1
+
+
+class InvoiceWay(IntEnum):
+    """The ways in which a tax comes about."""
+
+    NONE = 0  # no lawful way gives it
+    UNTAXED = 1  # there is no tax
+    BASE = 2  # of the base
+    TOTAL = 3  # of the amount with tax
+    COEFFICIENT = 4  # of the amount with tax, by a coefficient of four decimals
+    LINES = 5  # the taxes of the lines added
+
+
+class InvoiceSeverity(IntEnum):
+    """How grave a finding is."""
+
+    NOTE = 0  # lawful, or within half a haléř for each line; worth a look
+    ERROR = 1  # the document breaks a rule
+
+
 class SuiteRounding(IntEnum):
     """The direction of the suite's rounding. Any other number up to 255 means no rounding."""
 
