@@ -10,6 +10,7 @@ import dataclasses
 import pathlib
 import re
 import sys
+import textwrap
 
 import c_interface
 import c_refusals
@@ -25,7 +26,11 @@ NOTE = "Written by tools/generate/python_interface.py from c/ravo.h; not to be e
 BY_HAND = {"ravo_check", "ravo_kind_name", "ravo_kind_of", "ravo_payment_find", "ravo_crc32", "ravo_day_of", "ravo_date_of"}
 HAND_ROLES = {"handle", "open", "opened", "items", "context"}
 # Structs of functions that are written by hand.
-HAND_RECORDS = ["ravo_bank", "ravo_payment", "ravo_vat_summary"]
+HAND_RECORDS = ["ravo_bank", "ravo_payment", "ravo_vat_summary", "ravo_invoice_head", "ravo_invoice_party", "ravo_invoice_line", "ravo_invoice_rate",
+                "ravo_invoice_totals", "ravo_invoice_payment", "ravo_invoice_finding"]
+# Structs of texts that the caller fills: each becomes the parameters of a function.
+CODES = {"ravo_spayd": "Payment", "ravo_sid": "Invoice"}
+CODE_KEYS = ROOT / "ravo" / "czech" / "payment_code_keys.inc"
 NO_ENUMS = {"ravo_status", "ravo_kind", "ravo_layout"}
 LONE_ENUMS = {"RAVO_SUITE_ROUND_": "SuiteRounding"}
 NUMBERS = {
@@ -39,7 +44,7 @@ NUMBERS = {
 class Field:
     name: str
     type: str
-    form: str  # "value", "text" (const char *), "chars" (char[]), "rows" (struct[]), "row" (struct)
+    form: str  # "value", "text" (const char *), "chars" (char[]), "reason" (its number), "rows" (struct[]), "row" (struct)
     words: str
     null: bool = False
 
@@ -54,6 +59,15 @@ class Record:
     @property
     def name(self) -> str:
         return camel(self.struct)
+
+
+@dataclasses.dataclass
+class CodeField:
+    name: str
+    key: str  # in the code: "AM"
+    form: str  # of the value, as the rows of keys have it, or "Flag"
+    needed: bool
+    words: str
 
 
 @dataclasses.dataclass
@@ -97,6 +111,20 @@ class Interface:
                     self.add_record(one.type)
         for struct in HAND_RECORDS:
             self.add_record(struct)
+        self.codes = {struct: self.code(struct, owner) for struct, owner in CODES.items()}
+
+    def code(self, struct: str, owner: str) -> list[CodeField]:
+        """The texts and flags of a payment code."""
+        keys = {key: (form, need) for kind, key, form, need in
+                re.findall(r'^RAVO_PAYMENT_KEY\((\w+), "([^"]+)", (\w+), \d+, (\w+),', CODE_KEYS.read_text(), re.MULTILINE) if kind == owner}
+        fields = []
+        for node in self.structs[struct].type.type.decls[1:]:
+            one = self.field(struct, node)
+            key, _, words = one.words.partition(": ") if one.form == "text" else ("", "", one.words)
+            key = key.split(";")[0]
+            form, need = keys[key] if one.form == "text" else ("Flag", "")
+            fields.append(CodeField(one.name, key, form, need == "Always", words.split("; must be there")[0]))
+        return fields
 
     def is_regular(self, function: Function) -> bool:
         return function.name not in BY_HAND and function.result != "void" and not any(
@@ -148,6 +176,8 @@ class Interface:
         elif isinstance(kind, c_ast.ArrayDecl):
             form, kind = "chars", kind.type
         name = " ".join(kind.type.names)
+        if words.endswith("ravo_reason_sentence; 0 if none does"):
+            form = "reason"
         if name in self.structs:
             form = "rows" if form == "chars" else "row"
         return Field(node.name, name, form, words, words.startswith("null if"))
@@ -199,6 +229,8 @@ def made(kind: str, value: str, interface: Interface, words: str = "", form: str
         return f"MakeText({value})"
     if form == "chars":
         return f"MakeText({value})"
+    if form == "reason":
+        return f"MakeText(ravo_reason_name({value}))"
     if kind in ("ravo_day", "ravo_money"):
         return f"Make{camel(kind)}(module, {value})"
     if kind == "ravo_kind":
@@ -215,8 +247,12 @@ def made(kind: str, value: str, interface: Interface, words: str = "", form: str
     return f"PyLong_FromLongLong((long long){value})"
 
 
+def maker(record: Record) -> str:
+    return f"PyObject *Make{record.name}(ravo_module *module, const {record.struct} *row)"
+
+
 def record_code(record: Record, interface: Interface) -> str:
-    lines = [f"static PyObject *Make{record.name}(const ravo_module *module, const {record.struct} *row) {{",
+    lines = [f"{maker(record)} {{",
              f"  PyObject *fields[{len(record.fields)}] = {{NULL}};"]
     for index, field in enumerate(record.fields):
         value = f"row->{field.name}"
@@ -227,7 +263,7 @@ def record_code(record: Record, interface: Interface) -> str:
                       f"    if (item == NULL || PyTuple_SetItem(fields[{index}], (Py_ssize_t)i, item) != 0) Py_CLEAR(fields[{index}]);", "  }"]
         else:
             lines.append(f"  fields[{index}] = {made(field.type, value, interface, field.words, field.form)};")
-    lines += [f"  return MakeRecord(module->records[RAVO_RECORD_{record.name}], fields, {len(record.fields)});", "}"]
+    lines += [f"  return MakeRecord(module, RAVO_RECORD_{record.name}, fields, {len(record.fields)});", "}"]
     return "\n".join(lines)
 
 
@@ -295,7 +331,7 @@ def function_code(function: Function, interface: Interface) -> str:
     call = f"{function.name}({', '.join(passed(one, function) for one in function.parameters)})"
     takes = [f'TakeCount("{name}", count, {len(arguments)})'] + [taken(one, interface, index) for index, one in enumerate(arguments)]
     lines = [f"static PyObject *call_{name}(PyObject *self, PyObject *const *arguments, Py_ssize_t count) {{",
-             "  const ravo_module *module = PyModule_GetState(self);", "  PyObject *outcome = NULL;", "  (void)arguments;", "  (void)module;",
+             "  ravo_module *module = PyModule_GetState(self);", "  PyObject *outcome = NULL;", "  (void)arguments;", "  (void)module;",
              *(declared(one, interface) for one in arguments + results)]
     fails = function.result == "ravo_status"
     if fails:
@@ -345,7 +381,7 @@ def functions_inc(interface: Interface) -> str:
     records = "\n\n".join(record_code(one, interface) for one in interface.records.values())
     calls = "\n\n".join(function_code(one, interface) for one in interface.functions)
     checks = "\n".join(f'CHECK_KIND({name}, {index}, "{title}")' for index, (name, title) in enumerate(kind_names(), 1))
-    return (f"/* {NOTE} */\n#include \"_module.h\"\n\n#if defined(RAVO_TABLE_OF_CHECKS)\n{checks}\n#else\n\n{records}\n\n{calls}\n\n"
+    return (f"/* {NOTE} */\n#include \"_records.inc\"\n\n#if defined(RAVO_TABLE_OF_CHECKS)\n{checks}\n#else\n\n{records}\n\n{calls}\n\n"
             f"static PyMethodDef generated_functions[] = {{\n{rows}\n    {{NULL, NULL, 0, NULL}}}};\n#endif\n")
 
 
@@ -357,6 +393,14 @@ def names_inc(interface: Interface) -> str:
             f"#define RAVO_ENUM_NAMES {', '.join(quoted(one.name) for one in interface.enums)}\n")
 
 
+def records_h(interface: Interface) -> str:
+    """Makers of records, and what the texts of codes are."""
+    makers = "\n".join(f"{maker(one)};" for one in interface.records.values())
+    codes = "\n".join(f"#define {struct.upper()}_FIELDS \\\n  " + ", \\\n  ".join(
+        f'{{{quoted(one.key)}, offsetof({struct}, {one.name})}}' for one in fields if one.key) for struct, fields in interface.codes.items())
+    return f"/* {NOTE} */\n#ifndef RAVO_PYTHON_RECORDS_INC\n#define RAVO_PYTHON_RECORDS_INC\n\n#include \"_module.h\"\n\n{makers}\n\n{codes}\n\n#endif\n"
+
+
 def quoted(name: str) -> str:
     return f'"{name}"'
 
@@ -364,7 +408,7 @@ def quoted(name: str) -> str:
 # The Python side.
 
 def python_type(kind: str, interface: Interface, words: str = "", form: str = "value", result: bool = True) -> str:
-    if form in ("text", "chars") or kind == "ravo_kind":
+    if form in ("text", "chars", "reason") or kind == "ravo_kind":
         return "str"
     if form == "rows":
         return f"tuple[{camel(kind)}, ...]"
@@ -391,11 +435,49 @@ def records_py(interface: Interface) -> str:
     for record in interface.records.values():
         lines += [f"\n\nclass {record.name}(NamedTuple):", f'    """{sentence(record.words.split(". ")[0])}"""\n']
         for field in record.fields:
-            kind = python_type(field.type, interface, field.words, field.form) + (" | None" if field.null else "")
-            words = field.words.removeprefix("1 if ").removesuffix(", else 0") if is_flag(field.type, field.words) else field.words
-            words = words.replace("UTF-8, ", "").replace(", UTF-8", "").replace("UTF-8", "").replace(", ends with NUL", "").replace("null if", "None if")
+            kind = python_type(field.type, interface, field.words, field.form) + (" | None" if field.null or field.form == "reason" else "")
+            words = spoken(field.words)
             lines.append(f"    {field.name}: {kind}{'  # ' + words if words else ''}")
     return "\n".join(lines) + "\n"
+
+
+def spoken(words: str) -> str:
+    """Words about a field of C as Python says them."""
+    words = re.sub(r"^1 (if|to) (.*), else 0", r"\2" if words.startswith("1 if") else r"true to \2", words)
+    words = words.replace("UTF-8, ", "").replace(", UTF-8", "").replace("UTF-8", "").replace(", ends with NUL", "").replace("null if", "None if")
+    words = words.replace(", for ravo_reason_sentence; 0", "; None").replace("ravo_invoice_rule_sentence", "isdoc.sentence")
+    return re.sub(r"\bravo_(\w+)_write\b", r"\1", words)
+
+
+CODE_TYPES = {"Flag": "bool", "Date": "date | str", "Amount": "Amount", "SignedAmount": "Amount", "Rate": "Amount"}
+
+
+def code_py(struct: str, interface: Interface) -> str:
+    """The function that writes a payment code."""
+    fields = interface.codes[struct]
+    name = struct.removeprefix("ravo_")
+    needed = [one for one in fields if one.needed]
+    parameters = [f"{one.name}: {CODE_TYPES.get(one.form, 'str')}" for one in needed] + ["*"]
+    for one in [one for one in fields if not one.needed]:
+        kind = CODE_TYPES.get(one.form, "str")
+        parameters.append(f"{one.name}: bool = False" if kind == "bool" else f"{one.name}: {kind} | None = None")
+    values = [one.name for one in fields if one.key]
+    flags = [one.name for one in fields if not one.key]
+    words = interface.comments[f"{struct}_write"].split("*/")[-1].split(", of at most")[0].replace("Writes", "Returns")
+    lines = [f"def {name}(", *(f"    {one}," for one in parameters), ") -> str:",
+             f'    """{words.rstrip(".")}; ravo.Error, whose message begins with the key of the value that is wrong.', "",
+             *(f"    {one.name}: {', '.join(filter(None, [one.key, spoken(one.words)]))}" for one in fields),
+             '    """',
+             *textwrap.wrap(f"return _ravo.{name}(texts({', '.join(values)}), {', '.join(flags)})", 140, initial_indent=" " * 4, subsequent_indent=" " * 8)]
+    return "\n".join(lines)
+
+
+def codes_py(interface: Interface) -> str:
+    """The functions that write payment codes."""
+    head = [f'"""Codes of payments and invoices, value by value.\n\n{NOTE}\n"""', "from __future__ import annotations\n",
+            "from . import _ravo", "from ._values import texts\n", "TYPE_CHECKING = False", "if TYPE_CHECKING:", "    from datetime import date\n",
+            "    from .money import Amount"]
+    return "\n".join(head) + "\n\n\n" + "\n\n\n".join(code_py(struct, interface) for struct in interface.codes) + "\n"
 
 
 def signature(function: Function, interface: Interface) -> str:
@@ -428,6 +510,7 @@ def stub(interface: Interface) -> str:
 def outputs() -> dict[pathlib.Path, str]:
     interface = Interface()
     return {PACKAGE / "_functions.inc": functions_inc(interface), PACKAGE / "_names.inc": names_inc(interface),
+            PACKAGE / "_records.inc": records_h(interface), PACKAGE / "_codes.py": codes_py(interface),
             PACKAGE / "records.py": records_py(interface), PACKAGE / "_ravo.pyi": stub(interface)}
 
 

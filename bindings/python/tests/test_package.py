@@ -28,7 +28,8 @@ def test_examples(module: ModuleType) -> None:
 
 
 @pytest.mark.parametrize("page", ["bindings/python/README.md", "docs/python.md"])
-def test_examples_of_pages(root: pathlib.Path, page: str) -> None:
+def test_examples_of_pages(root: pathlib.Path, page: str, monkeypatch: pytest.MonkeyPatch) -> None:
+    monkeypatch.chdir(root)
     found = doctest.testfile(str(root / page), module_relative=False, encoding="utf-8")
     assert found.attempted > 5 and found.failed == 0
 
@@ -51,7 +52,8 @@ def test_every_function_of_the_header_is_there(root: pathlib.Path) -> None:
         names = {node.name for node in header.functions(header.parsed())}
         other = {"ravo_check": "check_of", "ravo_kind_name": "kinds", "ravo_kind_of": "check_of", "ravo_payment_find": "payments", "ravo_crc32": "crc32",
                  "ravo_day_of": "", "ravo_date_of": "", "ravo_bank_find": "bank_list", "ravo_vat_recapitulate": "vat_recapitulate", "ravo_convert": "convert"}
-        groups = {"ravo_bank_": "bank_list", "ravo_converter_": "Converter", "ravo_spayd_": "", "ravo_sid_": "", "ravo_payment_code_": "", "ravo_invoice_": ""}
+        groups = {"ravo_bank_": "bank_list", "ravo_converter_": "Converter", "ravo_spayd_": "spayd", "ravo_sid_": "sid",
+                  "ravo_payment_code_": "payment_code", "ravo_invoice_": "invoice"}
         for name in names - {one.name for one in interface.Interface().functions}:
             if "column" in name or "arrow" in name:
                 continue
@@ -69,6 +71,31 @@ def test_generated_files_are_those_of_the_header(root: pathlib.Path) -> None:
 def test_import_needs_no_frames() -> None:
     words = "import ravo, sys; print(sorted({'numpy', 'pandas', 'dask', 'pyarrow'} & set(sys.modules)))"
     assert subprocess.run([sys.executable, "-c", words], capture_output=True, text=True, check=True).stdout == "[]\n"
+
+
+def test_import_is_light() -> None:
+    """What takes long to import comes with the first use: -S leaves out what the machine's own site imports."""
+    words = "import ravo, sys; print(sorted({'collections', 'datetime', 'decimal', 'enum', 're', 'typing', 'ravo.check', 'ravo.records'} & set(sys.modules)))"
+    assert subprocess.run([sys.executable, "-S", "-c", words], capture_output=True, text=True, check=True).stdout == "[]\n"
+    words = "import ravo; print(ravo.check.ico('27074358').value, b'\\xf8'.decode('ravo_windows_1250') == chr(0x159), ravo.round_money('1.005'), 'vat' in dir(ravo))"
+    assert subprocess.run([sys.executable, "-S", "-c", words], capture_output=True, text=True, check=True).stdout == "27074358 True 1.01 True\n"
+    with pytest.raises(AttributeError, match="no attribute 'nothing'"):
+        getattr(ravo, "nothing")
+
+
+def test_types_are_imported_once_by_many_threads() -> None:
+    words = """
+import threading, ravo
+start, found = threading.Barrier(8), []
+def first():
+    start.wait()
+    found.append((ravo.tables.find(71710), ravo.vat.compute("100", 21)))
+threads = [threading.Thread(target=first) for _ in range(8)]
+for thread in threads: thread.start()
+for thread in threads: thread.join()
+print(len(found), len({(type(table), type(amounts), type(amounts.tax)) for table, amounts in found}))
+"""
+    assert subprocess.run([sys.executable, "-c", words], capture_output=True, text=True, check=True).stdout == "8 1\n"
 
 
 def test_a_second_module_has_a_state_of_its_own() -> None:

@@ -59,3 +59,19 @@ def test_payment_orders(tmp_path: pathlib.Path) -> None:
     (tmp_path / "a.txt").write_text("Prosíme o úhradu na účet 19-2000145399/0800, VS: 2026000579.")
     (tmp_path / "b.txt").write_text("Děkujeme za platbu.")
     assert run("payment_orders.py", tmp_path) == "a.txt\t19-2000145399/0800\tCZ6508000000192000145399\tČeská spořitelna, a.s.\t2026000579\n"
+
+
+def test_check_invoices(tmp_path: pathlib.Path) -> None:
+    samples = pathlib.Path(__file__).resolve().parents[3] / "samples" / "isdoc"
+    if not samples.exists():
+        pytest.skip("the source distribution has no samples")
+    (tmp_path / "below").mkdir()
+    for name in "domestic", "credit-note":
+        (tmp_path / "below" / f"{name}.isdoc").write_bytes((samples / f"{name}.isdoc").read_bytes())
+    assert run("check_invoices.py", tmp_path) == "domestic.isdoc: SPD*1.0*ACC:CZ5708000000191234500002*AM:2679.00*CC:CZK*X-VS:20260101\n"
+    (tmp_path / "mistakes.isdoc").write_bytes((samples / "mistakes.isdoc").read_bytes())
+    (tmp_path / "torn.isdoc").write_text("<Invoice>")
+    done = subprocess.run([sys.executable, EXAMPLES / "check_invoices.py", tmp_path], capture_output=True, encoding="utf-8")
+    lines = done.stdout.splitlines()
+    assert (done.returncode, len(lines), lines[-1]) == (1, 9, "torn.isdoc: error: line 1, column 10: no element found")
+    assert "mistakes.isdoc:50:9: error: the company number is wrong [id.ico]" in lines

@@ -22,7 +22,7 @@ static PyObject* Appended(PyObject* list, PyObject* item) {
   return list;
 }
 
-static PyObject* BanksOf(const ravo_module* module, const ravo_bank_list* list) {
+static PyObject* BanksOf(ravo_module* module, const ravo_bank_list* list) {
   PyObject* banks = PyList_New(0);
   for (size_t i = 0; banks != NULL && i < ravo_bank_count(list); ++i) {
     ravo_bank bank = RAVO_BANK_INIT;
@@ -34,7 +34,7 @@ static PyObject* BanksOf(const ravo_module* module, const ravo_bank_list* list) 
 }
 
 static PyObject* BankList(PyObject* self, PyObject* const* arguments, Py_ssize_t count) {
-  const ravo_module* module = PyModule_GetState(self);
+  ravo_module* module = PyModule_GetState(self);
   if (count == 0) return BanksOf(module, NULL);
   text_in text = {NULL, 0};
   ravo_day date = 0;
@@ -52,7 +52,7 @@ static PyObject* BankList(PyObject* self, PyObject* const* arguments, Py_ssize_t
 
 /* Positions of payments count characters from here on, not bytes. */
 static PyObject* Payments(PyObject* self, PyObject* object) {
-  const ravo_module* module = PyModule_GetState(self);
+  ravo_module* module = PyModule_GetState(self);
   text_in text = {NULL, 0};
   ravo_payment payment = RAVO_PAYMENT_INIT;
   ravo_error error = RAVO_ERROR_INIT;
@@ -90,7 +90,7 @@ static PyObject* Crc32(PyObject* self, PyObject* const* arguments, Py_ssize_t co
 }
 
 /* A line of a document: a pair of an amount and the number of its rate. */
-static int TakeLine(const ravo_module* module, PyObject* pair, ravo_vat_line* line) {
+static int TakeLine(ravo_module* module, PyObject* pair, ravo_vat_line* line) {
   PyObject* amount = PySequence_GetItem(pair, 0);
   PyObject* kind = amount == NULL ? NULL : PySequence_GetItem(pair, 1);
   long long number = 0;
@@ -102,7 +102,7 @@ static int TakeLine(const ravo_module* module, PyObject* pair, ravo_vat_line* li
   return taken;
 }
 
-static int TakeLines(const ravo_module* module, PyObject* list, ravo_vat_line* lines, Py_ssize_t count) {
+static int TakeLines(ravo_module* module, PyObject* list, ravo_vat_line* lines, Py_ssize_t count) {
   for (Py_ssize_t i = 0; i < count; ++i) {
     PyObject* pair = PySequence_GetItem(list, i);
     const int taken = pair != NULL && TakeLine(module, pair, &lines[i]);
@@ -113,7 +113,7 @@ static int TakeLines(const ravo_module* module, PyObject* list, ravo_vat_line* l
 }
 
 static PyObject* VatRecapitulate(PyObject* self, PyObject* const* arguments, Py_ssize_t count) {
-  const ravo_module* module = PyModule_GetState(self);
+  ravo_module* module = PyModule_GetState(self);
   long long method = 0, per = 0;
   ravo_day day = 0;
   ravo_vat_summary summary = RAVO_VAT_SUMMARY_INIT;
@@ -150,7 +150,8 @@ static PyMethodDef other_functions[] = {
     {NULL, NULL, 0, NULL}};
 
 int AddCalls(PyObject* module) {
-  return PyModule_AddFunctions(module, generated_functions) != 0 ||
+  return PyModule_AddIntConstant(module, "ENGLISH", RAVO_LANGUAGE_ENGLISH) != 0 ||
+                 PyModule_AddFunctions(module, generated_functions) != 0 ||
                  PyModule_AddFunctions(module, other_functions) != 0
              ? -1
              : 0;

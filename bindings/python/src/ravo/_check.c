@@ -11,7 +11,7 @@ typedef struct check_object {
   char value[RAVO_VALUE_SIZE];
 } check_object;
 
-static PyObject* CheckText(const ravo_module* module, ravo_kind kind, PyObject* object) {
+static PyObject* CheckText(ravo_module* module, ravo_kind kind, PyObject* object) {
   text_in text;
   ravo_error error = RAVO_ERROR_INIT;
   if (!TakeText(object, &text)) return NULL;

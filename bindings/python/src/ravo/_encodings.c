@@ -36,7 +36,7 @@ static int TakeEncoding(PyObject* object, const char* name, long long* number) {
 
 /* decode(encoding, bytes, policy, utf8) */
 static PyObject* Decode(PyObject* self, PyObject* const* arguments, Py_ssize_t count) {
-  const ravo_module* module = PyModule_GetState(self);
+  ravo_module* module = PyModule_GetState(self);
   encoding_pair pair;
   bytes_in bytes = {0};
   converted result = {NULL, 0, 0};
@@ -60,7 +60,7 @@ static PyObject* Decode(PyObject* self, PyObject* const* arguments, Py_ssize_t c
 
 /* encode(encoding, text, policy, utf8) */
 static PyObject* Encode(PyObject* self, PyObject* const* arguments, Py_ssize_t count) {
-  const ravo_module* module = PyModule_GetState(self);
+  ravo_module* module = PyModule_GetState(self);
   encoding_pair pair;
   text_in text;
   converted result = {NULL, 0, 0};
@@ -82,7 +82,7 @@ static PyObject* Encode(PyObject* self, PyObject* const* arguments, Py_ssize_t c
 
 /* convert(from, bytes, to, policy) */
 static PyObject* ConvertBytes(PyObject* self, PyObject* const* arguments, Py_ssize_t count) {
-  const ravo_module* module = PyModule_GetState(self);
+  ravo_module* module = PyModule_GetState(self);
   encoding_pair pair;
   bytes_in bytes = {0};
   converted result = {NULL, 0, 0};
@@ -128,7 +128,7 @@ static void FreeConverter(PyObject* self) {
 }
 
 /* Takes all converted bytes that wait. */
-static PyObject* Pull(const ravo_module* module, ravo_converter* converter) {
+static PyObject* Pull(ravo_module* module, ravo_converter* converter) {
   converted result = {NULL, 0, 0};
   ravo_error error = RAVO_ERROR_INIT;
   ravo_status status = RAVO_OK;
@@ -148,7 +148,7 @@ static PyObject* Pull(const ravo_module* module, ravo_converter* converter) {
 }
 
 static PyObject* Push(PyObject* self, PyObject* arguments) {
-  const ravo_module* module = PyType_GetModuleState(Py_TYPE(self));
+  ravo_module* module = PyType_GetModuleState(Py_TYPE(self));
   ravo_converter* converter = ((converter_object*)self)->converter;
   PyObject* object = NULL;
   int is_last = 0;
@@ -190,5 +190,8 @@ int AddEncodings(PyObject* module) {
   state->converter = PyType_FromModuleAndSpec(module, &converter_spec, NULL);
   if (state->converter == NULL || PyModule_AddObjectRef(module, "Converter", state->converter) != 0)
     return -1;
-  return PyModule_AddFunctions(module, encoding_functions);
+  return PyModule_AddIntConstant(module, "CONVERT_STRICT", RAVO_CONVERT_STRICT) != 0 ||
+                 PyModule_AddIntConstant(module, "CONVERT_REPLACE", RAVO_CONVERT_REPLACE) != 0
+             ? -1
+             : PyModule_AddFunctions(module, encoding_functions);
 }

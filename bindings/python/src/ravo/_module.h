@@ -12,16 +12,27 @@
 
 #include <Python.h>
 
+/* A type of Python that is imported when it is first needed; null until then. */
+typedef _Atomic(PyObject*) late_type;
+
 /* All that the module keeps: nothing else in it changes after it was loaded. */
 typedef struct ravo_module {
   PyObject* error;                      /* ravo.Error */
-  PyObject* date;                       /* datetime.date */
-  PyObject* decimal;                    /* decimal.Decimal */
   PyObject* check;                      /* the type of results of checks */
   PyObject* converter;                  /* the type of conversions in pieces */
-  PyObject* records[RAVO_RECORD_COUNT]; /* of ravo.records */
-  PyObject* enums[RAVO_ENUM_COUNT];     /* of ravo.records */
+  late_type date;                       /* datetime.date */
+  late_type decimal;                    /* decimal.Decimal */
+  late_type records[RAVO_RECORD_COUNT]; /* of ravo.records */
+  late_type enums[RAVO_ENUM_COUNT];     /* of ravo.records */
 } ravo_module;
+
+/* Types, borrowed; null with an exception if they cannot be imported. */
+PyObject* DateType(ravo_module* module);
+PyObject* DecimalType(ravo_module* module);
+PyObject* RecordType(ravo_module* module, int which);
+PyObject* EnumType(ravo_module* module, int which);
+int VisitLate(ravo_module* module, visitproc visit, void* arg);
+void ClearLate(ravo_module* module);
 
 /* A text of the caller: UTF-8 that lives as long as the str. */
 typedef struct text_in {
@@ -46,8 +57,8 @@ typedef struct text_out {
 int TakeCount(const char* name, Py_ssize_t count, Py_ssize_t wanted);
 int TakeText(PyObject* object, text_in* text);
 int TakeBytes(PyObject* object, bytes_in* bytes);
-int TakeDay(const ravo_module* module, PyObject* object, ravo_day* day);
-int TakeMoney(const ravo_module* module, PyObject* object, ravo_money* amount);
+int TakeDay(ravo_module* module, PyObject* object, ravo_day* day);
+int TakeMoney(ravo_module* module, PyObject* object, ravo_money* amount);
 int TakeKind(PyObject* object, ravo_kind* kind);
 int TakeDouble(PyObject* object, double* number);
 int TakeNumber(PyObject* object, const char* name, long long low, long long high, long long* number);
@@ -55,11 +66,12 @@ void ReleaseBytes(bytes_in* bytes);
 
 /* Results. Each returns null with an exception on failure. */
 PyObject* MakeText(const char* text); /* None for null */
-PyObject* MakeDay(const ravo_module* module, ravo_day day);
-PyObject* MakeMoney(const ravo_module* module, ravo_money amount);
-PyObject* MakeEnum(const ravo_module* module, int which, int32_t number);
-PyObject* MakeTuple(PyObject** items, Py_ssize_t count);                   /* takes the items */
-PyObject* MakeRecord(PyObject* type, PyObject** fields, Py_ssize_t count); /* takes the fields */
+PyObject* MakeDay(ravo_module* module, ravo_day day);
+PyObject* MakeMoney(ravo_module* module, ravo_money amount);
+PyObject* MakeEnum(ravo_module* module, int which, int32_t number);
+PyObject* MakeTuple(PyObject** items, Py_ssize_t count); /* takes the items */
+PyObject* MakeRecord(ravo_module* module, int which, PyObject** fields,
+                     Py_ssize_t count); /* takes the fields */
 
 /* Text as result: call the function again while it says RAVO_BUFFER and GrowText returns 1. */
 void OpenText(text_out* text);
@@ -70,9 +82,8 @@ void FreeText(text_out* text);
 
 /* Failures. Each sets the exception of an error of ravo.h and returns null; `text` says in which one the
  * place is. */
-PyObject* Raise(const ravo_module* module, const ravo_error* error, const text_in* text);
-PyObject* RaiseAt(const ravo_module* module, const ravo_error* error,
-                  PyObject* position); /* takes the position */
+PyObject* Raise(ravo_module* module, const ravo_error* error, const text_in* text);
+PyObject* RaiseAt(ravo_module* module, const ravo_error* error, PyObject* position); /* takes the position */
 void ExpectedType(const char* wanted, PyObject* object);
 
 /* How many characters the first `size` bytes of UTF-8 have. */
@@ -83,5 +94,7 @@ int AddChecks(PyObject* module);
 int AddCalls(PyObject* module);
 int AddEncodings(PyObject* module);
 int AddColumns(PyObject* module);
+int AddCodes(PyObject* module);
+int AddInvoices(PyObject* module);
 
 #endif

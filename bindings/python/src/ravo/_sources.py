@@ -1,12 +1,24 @@
 """What columns are checked from: each kind of column as a source, read where it is."""
 from __future__ import annotations
 
-import re
 import sys
-from collections.abc import Callable, Iterator, Sequence
-from typing import Any, Protocol
 
 from . import _ravo
+
+TYPE_CHECKING = False
+if TYPE_CHECKING:
+    from collections.abc import Callable, Iterator, Sequence
+    from typing import Any, Protocol
+
+    class Source(Protocol):
+        """Rows of texts: what checks them, and what one of them is."""
+
+        rows: int
+        threads: bool
+
+        def check(self, kind: str, first: int, count: int, codes: memoryview) -> Counts: ...
+
+        def value(self, row: int) -> object: ...
 
 NULL = 65535
 NOT_UTF8 = 65534
@@ -14,17 +26,6 @@ UNDERSTOOD = ("list or tuple of str, numpy array (S, U, object), pandas Series (
               "or an object with __arrow_c_array__ or __arrow_c_stream__")
 
 Counts = tuple[int, int]
-
-
-class Source(Protocol):
-    """Rows of texts: what checks them, and what one of them is."""
-
-    rows: int
-    threads: bool
-
-    def check(self, kind: str, first: int, count: int, codes: memoryview) -> Counts: ...
-
-    def value(self, row: int) -> object: ...
 
 
 class Objects:
@@ -152,6 +153,13 @@ def of_series(column: Any) -> Source:
     raise refuse(column, f" ({kind}: numbers have lost their leading zeros; read the column as text)" if kind.kind in "iuf" else f" ({kind})")
 
 
+def form_of(layout: str) -> str:
+    """s, w or O: bytes, characters or objects in the machine's order; empty for every other layout of a buffer."""
+    order = "@=" if sys.byteorder == "big" else "@=<"
+    form = (layout[1:] if layout.startswith(tuple(order)) else layout).lstrip("0123456789")
+    return form if form in ("s", "w", "O") else ""
+
+
 def of_buffer(column: Any) -> Source:
     masked = sys.modules.get("numpy.ma")
     if masked is not None and isinstance(column, masked.MaskedArray):
@@ -161,14 +169,14 @@ def of_buffer(column: Any) -> Source:
         view = memoryview(column)
     except (TypeError, ValueError, BufferError):
         raise refuse(column, f" ({column.dtype})" if hasattr(column, "dtype") else "") from None
-    form = re.fullmatch(r"[@=]?\d*([swO])" if sys.byteorder == "big" else r"[@=<]?\d*([swO])", view.format)
-    if form is None or view.ndim != 1:
+    form = form_of(view.format)
+    if form == "" or view.ndim != 1:
         raise refuse(column, f" ({view.ndim} dimensions of format {view.format!r})")
     if view.itemsize == 0:
         return Objects([""] * len(view), column)
-    if form[1] == "O":
+    if form == "O":
         return Objects(view if view.c_contiguous else view.tobytes(), column)
-    return Fixed(view, form[1], column)
+    return Fixed(view, form, column)
 
 
 def source_of(column: Any) -> Source:

@@ -39,8 +39,9 @@ void ReleaseBytes(bytes_in* bytes) {
   if (bytes->view.obj != NULL) PyBuffer_Release(&bytes->view);
 }
 
-int TakeDay(const ravo_module* module, PyObject* object, ravo_day* day) {
-  const int is_date = PyObject_IsInstance(object, module->date);
+int TakeDay(ravo_module* module, PyObject* object, ravo_day* day) {
+  PyObject* type = DateType(module);
+  const int is_date = type == NULL ? -1 : PyObject_IsInstance(object, type);
   if (is_date == 0) ExpectedType("datetime.date", object);
   if (is_date != 1) return 0;
   PyObject* ordinal = PyObject_CallMethod(object, "toordinal", NULL);
@@ -50,11 +51,12 @@ int TakeDay(const ravo_module* module, PyObject* object, ravo_day* day) {
   return !PyErr_Occurred();
 }
 
-PyObject* MakeDay(const ravo_module* module, ravo_day day) {
-  return PyObject_CallMethod(module->date, "fromordinal", "i", (int)day - DAY_ZERO);
+PyObject* MakeDay(ravo_module* module, ravo_day day) {
+  PyObject* type = DateType(module);
+  return type == NULL ? NULL : PyObject_CallMethod(type, "fromordinal", "i", (int)day - DAY_ZERO);
 }
 
-static int TakeWholeMoney(const ravo_module* module, PyObject* object, ravo_money* amount) {
+static int TakeWholeMoney(ravo_module* module, PyObject* object, ravo_money* amount) {
   int overflow = 0;
   const long long number = PyLong_AsLongLongAndOverflow(object, &overflow);
   if (overflow == 0 && !PyErr_Occurred() && number <= INT64_MAX / 10000 && number >= INT64_MIN / 10000) {
@@ -66,7 +68,7 @@ static int TakeWholeMoney(const ravo_module* module, PyObject* object, ravo_mone
   return Raise(module, &error, NULL) != NULL;
 }
 
-static int TakeMoneyText(const ravo_module* module, PyObject* object, ravo_money* amount) {
+static int TakeMoneyText(ravo_module* module, PyObject* object, ravo_money* amount) {
   text_in text = {NULL, 0};
   ravo_error error = RAVO_ERROR_INIT;
   if (!TakeText(object, &text)) return 0;
@@ -75,7 +77,7 @@ static int TakeMoneyText(const ravo_module* module, PyObject* object, ravo_money
 }
 
 /* An amount of more digits than 64 bits have would be a long text: it is refused before it becomes one. */
-static int TakeDecimal(const ravo_module* module, PyObject* object, ravo_money* amount) {
+static int TakeDecimal(ravo_module* module, PyObject* object, ravo_money* amount) {
   PyObject* adjusted = PyObject_CallMethod(object, "adjusted", NULL);
   const long exponent = adjusted == NULL ? 0 : PyLong_AsLong(adjusted);
   Py_XDECREF(adjusted);
@@ -88,21 +90,23 @@ static int TakeDecimal(const ravo_module* module, PyObject* object, ravo_money* 
   return taken;
 }
 
-int TakeMoney(const ravo_module* module, PyObject* object, ravo_money* amount) {
+int TakeMoney(ravo_module* module, PyObject* object, ravo_money* amount) {
   if (PyLong_Check(object) && !PyBool_Check(object)) return TakeWholeMoney(module, object, amount);
   if (PyUnicode_Check(object)) return TakeMoneyText(module, object, amount);
-  const int is_decimal = PyObject_IsInstance(object, module->decimal);
+  PyObject* type = DecimalType(module);
+  const int is_decimal = type == NULL ? -1 : PyObject_IsInstance(object, type);
   if (is_decimal == 1) return TakeDecimal(module, object, amount);
   if (is_decimal == 0) ExpectedType("Decimal, str or int", object);
   return 0;
 }
 
-PyObject* MakeMoney(const ravo_module* module, ravo_money amount) {
+PyObject* MakeMoney(ravo_module* module, ravo_money amount) {
   char digits[RAVO_MONEY_SIZE];
   ravo_error error = RAVO_ERROR_INIT;
   if (ravo_money_format(amount, '.', 2, digits, sizeof digits, NULL, &error) != RAVO_OK)
     return Raise(module, &error, NULL);
-  return PyObject_CallFunction(module->decimal, "s", digits);
+  PyObject* type = DecimalType(module);
+  return type == NULL ? NULL : PyObject_CallFunction(type, "s", digits);
 }
 
 int TakeKind(PyObject* object, ravo_kind* kind) {
@@ -131,8 +135,9 @@ PyObject* MakeText(const char* text) {
   return text == NULL ? Py_NewRef(Py_None) : PyUnicode_FromString(text);
 }
 
-PyObject* MakeEnum(const ravo_module* module, int which, int32_t number) {
-  return PyObject_CallFunction(module->enums[which], "i", (int)number);
+PyObject* MakeEnum(ravo_module* module, int which, int32_t number) {
+  PyObject* type = EnumType(module, which);
+  return type == NULL ? NULL : PyObject_CallFunction(type, "i", (int)number);
 }
 
 PyObject* MakeTuple(PyObject** items, Py_ssize_t count) {
@@ -148,9 +153,10 @@ PyObject* MakeTuple(PyObject** items, Py_ssize_t count) {
   return tuple;
 }
 
-PyObject* MakeRecord(PyObject* type, PyObject** fields, Py_ssize_t count) {
+PyObject* MakeRecord(ravo_module* module, int which, PyObject** fields, Py_ssize_t count) {
   PyObject* tuple = MakeTuple(fields, count);
-  PyObject* record = tuple == NULL ? NULL : PyObject_Call(type, tuple, NULL);
+  PyObject* type = tuple == NULL ? NULL : RecordType(module, which);
+  PyObject* record = type == NULL ? NULL : PyObject_Call(type, tuple, NULL);
   Py_XDECREF(tuple);
   return record;
 }
@@ -199,7 +205,7 @@ static const char* CodeName(const ravo_error* error) {
   return error->status >= 0 && (size_t)error->status < known ? names[error->status] : "internal";
 }
 
-PyObject* RaiseAt(const ravo_module* module, const ravo_error* error, PyObject* position) {
+PyObject* RaiseAt(ravo_module* module, const ravo_error* error, PyObject* position) {
   if (error->status == RAVO_MEMORY) PyErr_NoMemory();
   PyObject* exception =
       PyErr_Occurred() || position == NULL
@@ -211,7 +217,7 @@ PyObject* RaiseAt(const ravo_module* module, const ravo_error* error, PyObject* 
   return NULL;
 }
 
-PyObject* Raise(const ravo_module* module, const ravo_error* error, const text_in* text) {
+PyObject* Raise(ravo_module* module, const ravo_error* error, const text_in* text) {
   if (text == NULL) return RaiseAt(module, error, Py_NewRef(Py_None));
   const size_t size = error->position < text->length ? error->position : text->length;
   return RaiseAt(module, error, PyLong_FromSsize_t(CharactersIn(text->bytes, size)));

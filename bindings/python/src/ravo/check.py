@@ -18,8 +18,6 @@ wrong
 """
 from __future__ import annotations
 
-from datetime import date as _date
-
 from . import _ravo
 from ._ravo import Check
 from ._ravo import check_account as account
@@ -36,7 +34,12 @@ from ._ravo import check_rc as rc
 from ._ravo import check_ss as ss
 from ._ravo import check_vat as vat
 from ._ravo import check_vs as vs
-from .records import Account, Birth, Language, Payment
+
+TYPE_CHECKING = False
+if TYPE_CHECKING:
+    from datetime import date
+
+    from .records import Account, Birth, Language, Payment
 
 KINDS: tuple[str, ...] = _ravo.kinds()
 """The names of all kinds."""
@@ -54,22 +57,27 @@ def respell(kind: str, text: str) -> str:
     return _ravo.respell(kind, text)
 
 
-def title(kind: str, language: Language = Language.ENGLISH) -> str:
-    """Returns the name of a kind for people.
+def title(kind: str, language: Language | None = None) -> str:
+    """Returns the name of a kind for people, in English if there is no other language.
 
+    >>> from ravo.records import Language
     >>> title("vs"), title("vs", Language.CZECH)
     ('variable symbol', 'variabilní symbol')
     """
-    return _ravo.kind_title(kind, language) or ""
+    return _ravo.kind_title(kind, _number(language)) or ""
 
 
-def sentence(reason: str, language: Language = Language.ENGLISH) -> str:
-    """Returns the sentence of a reason; ravo.Error if there is no such reason.
+def sentence(reason: str, language: Language | None = None) -> str:
+    """Returns the sentence of a reason, in English if there is no other language; ravo.Error if there is no such reason.
 
     >>> sentence("ico.checksum")
     'wrong: the check digit does not match'
     """
-    return _ravo.reason_sentence(_ravo.reason_of(reason), language) or ""
+    return _ravo.reason_sentence(_ravo.reason_of(reason), _number(language)) or ""
+
+
+def _number(language: Language | None) -> int:
+    return _ravo.ENGLISH if language is None else language
 
 
 def account_parts(text: str) -> Account:
@@ -99,7 +107,7 @@ def account_of_iban(text: str) -> str:
     return _ravo.account_of_iban(text)
 
 
-def birth(text: str, today: _date | None = None) -> Birth:
+def birth(text: str, today: date | None = None) -> Birth:
     """Returns what a birth number tells; ravo.Error ("rc.future") if the day of birth is after `today`.
 
     Without `today`, it is the current date.
@@ -107,7 +115,11 @@ def birth(text: str, today: _date | None = None) -> Birth:
     >>> birth("880125/1680").born
     datetime.date(1988, 1, 25)
     """
-    return _ravo.birth_read(text, _date.today() if today is None else today)
+    if today is None:
+        from datetime import date
+
+        today = date.today()
+    return _ravo.birth_read(text, today)
 
 
 def isbn_to_13(text: str) -> str:

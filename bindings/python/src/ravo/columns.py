@@ -12,9 +12,11 @@ whatever has __arrow_c_array__ or __arrow_c_stream__. Anything else is a TypeErr
 """
 from __future__ import annotations
 
-from typing import Any
-
 from . import _ravo, _sources
+
+TYPE_CHECKING = False
+if TYPE_CHECKING:
+    from typing import Any
 
 MISSING = "missing"
 """The reason of a row that has no value, though it has to have one."""

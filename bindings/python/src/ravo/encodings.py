@@ -13,19 +13,22 @@ b'k\\xf3\\xcb &#9731;'
 from __future__ import annotations
 
 import codecs
-from collections.abc import Callable
-from typing import Any
 
 from . import _ravo
 from ._error import Error
-from .records import ConvertPolicy, EncodingInfo
 
-__all__ = ["EncodingInfo", "convert", "find", "known", "of_mark"]
+TYPE_CHECKING = False
+if TYPE_CHECKING:
+    from collections.abc import Callable
+    from typing import Any
+
+    from .records import EncodingInfo
+
+__all__ = ["codec", "convert", "find", "known", "of_mark"]
 
 _Bytes = bytes | bytearray | memoryview
 _UTF8 = _ravo.encoding_find("utf-8")
-_STRICT = int(ConvertPolicy.STRICT)
-_REPLACE = int(ConvertPolicy.REPLACE)
+_STRICT, _REPLACE = _ravo.CONVERT_STRICT, _ravo.CONVERT_REPLACE
 # No character of any encoding is longer, and what is malformed is known by then.
 _LONGEST = 8
 
@@ -206,8 +209,12 @@ class _StatefulEncoder(_Encoder):
         return super().encode(kept)
 
 
-def _codec(name: str) -> codecs.CodecInfo | None:
-    """The codec of a name that begins with ravo_; None for every other one."""
+def codec(name: str) -> codecs.CodecInfo | None:
+    """Returns the codec of a name that begins with ravo_; None for every other one.
+
+    >>> codec("ravo_cp852").name
+    'ravo_cp852'
+    """
     if not name.startswith("ravo_"):
         return None
     try:
@@ -255,6 +262,3 @@ def _writer(name: str, number: int) -> type[codecs.StreamWriter]:
         def encode(self, text: str, errors: str = "strict") -> tuple[bytes, int]:
             return _encode(name, number, text, errors), len(text)
     return StreamWriter
-
-
-codecs.register(_codec)

@@ -274,3 +274,106 @@ class VatSummary(NamedTuple):
 
     rows: tuple[VatRow, ...]  # by ravo_vat_kind
     sum: VatRow  # of all rows; its percentage is 0
+
+
+class InvoiceHead(NamedTuple):
+    """What an invoice says once."""
+
+    number: str  # of the document
+    type: str  # "1" an invoice, to "7", as the standard numbers them
+    uuid: str
+    issued: str
+    tax_point: str
+    currency: str  # of the books
+    foreign_currency: str  # of the document, if it is another
+    note: str
+    version: InvoiceVersion  # whether the checks know it
+
+
+class InvoiceParty(NamedTuple):
+    """One side of the business."""
+
+    ico: str  # company number
+    dic: str  # the number for VAT, or else the first tax number
+    name: str
+    street: str
+    building: str
+    post_code: str
+    city: str
+    country: str  # its code: "CZ"
+
+
+class InvoiceLine(NamedTuple):
+    """A line."""
+
+    number: str
+    text: str  # what was sold
+    quantity: str
+    unit: str
+    unit_price: str
+    rate: str  # in percent
+    base: str  # without the tax
+    tax: str
+    total: str  # with the tax
+    reverse_charge: bool  # the customer owes the tax
+
+
+class InvoiceRate(NamedTuple):
+    """A row of the recapitulation."""
+
+    rate: str  # in percent
+    base: str  # without the tax
+    tax: str
+    total: str  # with the tax
+    claimed_base: str  # of taxed deposits
+    claimed_tax: str
+    claimed_total: str
+    difference_base: str  # less the taxed deposits
+    difference_tax: str
+    difference_total: str
+    reverse_charge: bool  # the customer owes the tax
+    way: InvoiceWay  # the lawful way that gives the tax
+
+
+class InvoiceTotals(NamedTuple):
+    """The sums of an invoice."""
+
+    base: str  # without the tax
+    tax: str
+    total: str  # with the tax
+    claimed_base: str  # of taxed deposits
+    claimed_total: str
+    difference_base: str  # less the taxed deposits
+    difference_total: str
+    rounding: str
+    paid_deposits: str  # deposits that are not taxed
+    payable: str  # what is to be paid
+
+
+class InvoicePayment(NamedTuple):
+    """A payment of an invoice."""
+
+    amount: str
+    means: str  # its code: "10" in cash, "42" by bank transfer
+    due: str
+    account: str  # without the bank
+    bank: str  # its code
+    iban: str
+    bic: str
+    variable_symbol: str
+    constant_symbol: str
+    specific_symbol: str
+
+
+class InvoiceFinding(NamedTuple):
+    """What is wrong with an invoice."""
+
+    name: str  # the stable name of the rule: "sum.lines"
+    element: str  # the name of the element
+    found: str  # what is there; "" if nothing is
+    expected: str  # what should be there; "" if the rule says it all
+    rule: int  # its number, for isdoc.sentence
+    reason: str | None  # why a check refuses what is there; None if none does
+    severity: InvoiceSeverity  # how grave it is
+    line: int  # in the text, from 1
+    column: int  # in characters, from 1
