@@ -20,6 +20,7 @@ RUNS = 9
 VALUES = 2000
 MEGABYTES = 100
 MODULES = {"ico": None, "dic": "stdnum.cz.dic", "rc": "stdnum.cz.rc", "account": "stdnum.cz.bankaccount", "iban": "stdnum.iban"}
+RUSSIAN = "Съешь же ещё этих мягких французских булок, да выпей чаю. Счёт 2026000579, 21. 11. 2026.\r\n"
 SENTENCE = "Příliš žluťoučký kůň úpěl ďábelské ódy. Faktura číslo 2026000579, splatnost 21. 11. 2026.\r\n"
 CODECS = {"windows_1250": ("cp1250", "bytes.decode of Windows-1250"), "mac_latin2": ("mac_latin2", "bytes.decode of 8-bit Mac"),
           "mac_cyrillic": ("mac_cyrillic", "bytes.decode of 8-bit Mac")}
@@ -74,7 +75,8 @@ def jobs(ravo):
             rivals["python-stdnum"] = lambda rival=rival, values=values: calls(rival.is_valid, values)
         yield f"call_{kind}", rivals
     for name, (python, witness) in CODECS.items():
-        text = SENTENCE * (MEGABYTES * 1_000_000 // len(SENTENCE))
+        sentence = RUSSIAN if name == "mac_cyrillic" else SENTENCE
+        text = sentence * (MEGABYTES * 1_000_000 // len(sentence))
         data = text.encode(python, "replace")
         yield f"decode_{name}", {"ravo": lambda data=data, name=name: decoding(data, "ravo_" + name),
                                  witness: lambda data=data, python=python: decoding(data, python)}

@@ -13,7 +13,7 @@ import numpy
 import pandas  # type: ignore[import]
 import pytest
 import ravo
-from ravo import columns
+from ravo import _sources, columns
 from stdnum.cz import dic as rival  # type: ignore[import]
 
 VALUES = ["27074358", "27074359", None, "046 25 781", "", "IČ: 04625781", "á", "1" * 60, None, "00006947"]
@@ -80,6 +80,26 @@ def test_threads_do_not_change_the_answer(form: str, threads: int) -> None:
     values = [f"{number % 101 + 27074300:08}" for number in range(3000)]
     column = (FORMS | WHOLE)[form](values)
     assert found(column, "ico", threads=threads) == reasons(values, "ico")
+
+
+def test_large_columns_are_shared_out(monkeypatch: pytest.MonkeyPatch) -> None:
+    shares: list[int] = []
+    share = _sources.run_in_threads
+    monkeypatch.setattr(_sources, "run_in_threads", lambda calls: shares.append(len(calls)) or share(calls))  # type: ignore[func-returns-value]
+    monkeypatch.setattr("os.sched_getaffinity", lambda _: {0, 1, 2})
+    column = numpy.array([b"27074358"] * 600_000 + [b"27074359"])
+    assert columns.check(column, "ico").rows() == [600_000]
+    assert ravo.validate({"a": column}, {"a": "ico"})[0].index == 600_000
+    assert columns.check(column[:499_999], "ico") and columns.check(column, "ico", threads=1).wrong == 1
+    assert shares == [2, 2]
+
+
+def test_what_a_thread_raises_is_raised() -> None:
+    def fail() -> tuple[int, int]:
+        raise ravo.Error("no", "range")
+    for calls in ([lambda: (0, 0), fail], [fail, lambda: (0, 0)]):
+        with pytest.raises(ravo.Error):
+            _sources.run_in_threads(calls)
 
 
 @pytest.mark.parametrize("form", [form for form in FORMS if form != "masked"])

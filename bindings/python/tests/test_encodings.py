@@ -155,3 +155,30 @@ def test_conversion_of_bytes() -> None:
 def test_information_is_a_value() -> None:
     one = encodings.find("cp1250")
     assert one.code_page == 1250 and pickle.loads(pickle.dumps(one)) == one
+
+
+def pieces_of(data: bytes, codec: str, errors: str = "strict") -> str:
+    """The text of bytes, piece by piece: each is small, so that tables for large texts are not used."""
+    decoder = codecs.getincrementaldecoder(codec)(errors)
+    return "".join([decoder.decode(data[i:i + 50_000]) for i in range(0, len(data), 50_000)]) + decoder.decode(b"", True)
+
+
+@pytest.mark.parametrize("name", [encoding.name for encoding in encodings.known() if encoding.can_read and encoding.can_write])
+@pytest.mark.parametrize("text", ["Příliš žluťoučký kůň; Это русский текст, 12. +-~&{\\ \n", "ASCII (1;2) ~ + \\ \n"])
+def test_large_texts_are_those_of_their_pieces(name: str, text: str) -> None:
+    codec = "ravo_" + name.lower()
+    data = text.encode(codec, "ignore")
+    data *= 150_000 // max(1, len(data)) + 1
+    assert data.decode(codec, "replace") == pieces_of(data, codec, "replace")
+
+
+@pytest.mark.parametrize("place", [0, 70_001, 139_999])
+def test_large_texts_fail_where_small_ones_do(place: int) -> None:
+    data = bytearray(b"k\xf9\xf2" * 50_000)
+    data[place] = 0x81
+    with pytest.raises(UnicodeDecodeError) as raised:
+        data.decode("ravo_windows_1250")
+    assert raised.value.start == place
+    assert data.decode("ravo_windows_1250", "replace") == bytes(data).decode("cp1250", "replace")
+    whole = bytes(range(256)) * 600
+    assert whole.decode("ravo_cp852").encode("ravo_cp852") == whole

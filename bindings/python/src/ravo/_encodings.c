@@ -46,6 +46,11 @@ static PyObject* Decode(PyObject* self, PyObject* const* arguments, Py_ssize_t c
       !TakeEncoding(arguments[2], "policy", &pair.policy) || !TakeEncoding(arguments[3], "utf8", &pair.to) ||
       !TakeBytes(arguments[1], &bytes))
     return NULL;
+  PyObject* text = DecodeSingleBytes((ravo_encoding)pair.from, bytes.view.buf, (size_t)bytes.view.len);
+  if (text != NULL) {
+    ReleaseBytes(&bytes);
+    return text;
+  }
   Py_BEGIN_ALLOW_THREADS;
   status = Convert((ravo_encoding)pair.from, bytes.view.buf, (size_t)bytes.view.len, (ravo_encoding)pair.to,
                    (ravo_convert_policy)pair.policy, (size_t)bytes.view.len * 3, &result, &error);

@@ -80,6 +80,9 @@ PyObject* CloseText(const text_out* text);
 PyObject* CloseBytes(const text_out* text);
 void FreeText(text_out* text);
 
+/* A large text in an encoding of single bytes; null without an exception if it is none, or is malformed. */
+PyObject* DecodeSingleBytes(ravo_encoding from, const void* bytes, size_t length);
+
 /* Failures. Each sets the exception of an error of ravo.h and returns null; `text` says in which one the
  * place is. */
 PyObject* Raise(ravo_module* module, const ravo_error* error, const text_in* text);

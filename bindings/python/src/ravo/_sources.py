@@ -20,6 +20,7 @@ if TYPE_CHECKING:
 
         def value(self, row: int) -> object: ...
 
+ROWS_OF_A_THREAD = 250_000
 NULL = 65535
 NOT_UTF8 = 65534
 UNDERSTOOD = ("list or tuple of str, numpy array (S, U, object), pandas Series (object, string, category), "
@@ -217,9 +218,18 @@ def sources_of(column: Any) -> Iterator[Source]:
         yield Arrow(schema, array, None)
 
 
-def check_source(source: Source, kind: str, threads: int = 1) -> tuple[memoryview, int, int]:
+def threads_for(rows: int) -> int:
+    """One for each processor that the process may use, if each has enough to do to be worth its start."""
+    import os
+
+    processors = len(os.sched_getaffinity(0)) if hasattr(os, "sched_getaffinity") else os.cpu_count() or 1
+    return max(1, min(processors, rows // ROWS_OF_A_THREAD))
+
+
+def check_source(source: Source, kind: str, threads: int | None = None) -> tuple[memoryview, int, int]:
     """Returns the codes of the rows, and how many are wrong and null."""
     codes = memoryview(bytearray(2 * source.rows)).cast("H")
+    threads = threads_for(source.rows) if threads is None else threads
     if threads <= 1 or not source.threads or source.rows < threads:
         return codes, *source.check(kind, 0, source.rows, codes)
     slices = [(source.rows * i // threads, source.rows * (i + 1) // threads) for i in range(threads)]
@@ -229,7 +239,27 @@ def check_source(source: Source, kind: str, threads: int = 1) -> tuple[memoryvie
 
 
 def run_in_threads(calls: list[Callable[[], Counts]]) -> list[Counts]:
-    from concurrent.futures import ThreadPoolExecutor
+    """The answers of calls that run beside each other: the first one in this thread. What one raises is raised."""
+    from threading import Thread
 
-    with ThreadPoolExecutor(len(calls)) as pool:
-        return [one.result() for one in [pool.submit(call) for call in calls]]
+    answers: dict[int, Counts | BaseException] = {}
+
+    def run(index: int) -> None:
+        try:
+            answers[index] = calls[index]()
+        except BaseException as error:
+            answers[index] = error
+
+    threads = [Thread(target=run, args=(index,)) for index in range(1, len(calls))]
+    for thread in threads:
+        thread.start()
+    run(0)
+    for thread in threads:
+        thread.join()
+    return [answer_of(answers[index]) for index in range(len(calls))]
+
+
+def answer_of(answer: Counts | BaseException) -> Counts:
+    if isinstance(answer, BaseException):
+        raise answer
+    return answer

@@ -143,7 +143,7 @@ class Wrong(NamedTuple):
     reasons: dict[str, int]
 
 
-def check_column(order: int, name: str, source: _sources.Source, rule: str, limit: int, threads: int) -> Wrong:
+def check_column(order: int, name: str, source: _sources.Source, rule: str, limit: int, threads: int | None) -> Wrong:
     lenient = isinstance(rule, Optional)
     kind = kind_of(str(rule))
     codes, wrong, nulls = _sources.check_source(source, kind, threads)
@@ -159,7 +159,7 @@ def empty_code(kind: str) -> int:
     return _ravo.reason_of(f"{kind}.empty")
 
 
-def findings_of(part: Part, rules: Mapping[str, str], limit: int, room: int, threads: int) -> Findings:
+def findings_of(part: Part, rules: Mapping[str, str], limit: int, room: int, threads: int | None) -> Findings:
     sources = {name: part.columns(name) for name in rules}
     lengths = {source.rows for source in sources.values()}
     if len(lengths) > 1:
@@ -173,7 +173,7 @@ def findings_of(part: Part, rules: Mapping[str, str], limit: int, room: int, thr
                                                                         if one.reasons}, limit)
 
 
-def validate(frame: Any, rules: Mapping[str, str], *, limit: int = 1000, threads: int = 1) -> Findings:
+def validate(frame: Any, rules: Mapping[str, str], *, limit: int = 1000, threads: int | None = None) -> Findings:
     """Returns which rows of a frame have a wrong value, at most `limit`, with the count of what was left out.
 
     A frame is a DataFrame of pandas, a dict of columns, or a table that speaks Arrow (__arrow_c_stream__). `rules` has a

@@ -28,9 +28,10 @@ def merged(parts: list[Any], delayed: Any) -> Any:
 def validate(frame: Any, rules: Mapping[str, str], *, limit: int = 1000) -> Findings:
     """Returns what ravo.validate() returns for the whole frame of Dask: equal findings, in the order of the partitions.
 
-    The index labels are those of the partitions. A partition passes on `limit` findings at most.
+    The index labels are those of the partitions. A partition passes on `limit` findings at most, and is
+    checked by one thread: the workers share the processors.
     """
     from dask.delayed import delayed
 
-    parts = [delayed(validate_frame)(part, dict(rules), limit=limit) for part in frame.to_delayed()]
+    parts = [delayed(validate_frame)(part, dict(rules), limit=limit, threads=1) for part in frame.to_delayed()]
     return merged(parts, delayed).compute()  # type: ignore[no-any-return]
