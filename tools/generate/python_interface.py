@@ -24,6 +24,8 @@ NOTE = "Written by tools/generate/python_interface.py from c/ravo.h; not to be e
 
 # Python has datetime.date for these, and they have another form there.
 BY_HAND = {"ravo_check", "ravo_kind_name", "ravo_kind_of", "ravo_payment_find", "ravo_crc32", "ravo_day_of", "ravo_date_of"}
+# Names that the calls have themselves.
+LOCALS = {"module", "outcome", "self", "arguments", "count", "status"}
 HAND_ROLES = {"handle", "open", "opened", "items", "context"}
 # Structs of functions that are written by hand.
 HAND_RECORDS = ["ravo_bank", "ravo_payment", "ravo_vat_summary", "ravo_invoice_head", "ravo_invoice_party", "ravo_invoice_line", "ravo_invoice_rate",
@@ -104,6 +106,8 @@ class Interface:
         header = c_refusals.header_of(tree)
         self.sized = header.sized
         self.functions = [one for one in header.functions if self.is_regular(one)]
+        for one in [one for function in self.functions for one in function.parameters if one.role in ("struct", "result", "value")]:
+            one.name += "_" if one.name in LOCALS else ""
         self.records: dict[str, Record] = {}
         for function in self.functions:
             for one in function.parameters:

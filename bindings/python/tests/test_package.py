@@ -17,6 +17,8 @@ from hypothesis import given
 from hypothesis import strategies as some
 from ravo import _ravo, banks, captions, checksums, suite, tables, text
 
+# What the README says is to come.
+TO_COME = ("ravo_document_", "ravo_suite_tree_", "ravo_suite_item_", "ravo_suite_tokens", "ravo_random_", "ravo_machine_report")
 SELDOM = {"ravo.dask"}  # needs a package of its own
 MODULES = [importlib.import_module("ravo." + module.name) for module in pkgutil.iter_modules(ravo.__path__)
            if module.name != "_ravo" and "ravo." + module.name not in SELDOM] + [ravo]
@@ -55,7 +57,7 @@ def test_every_function_of_the_header_is_there(root: pathlib.Path) -> None:
         groups = {"ravo_bank_": "bank_list", "ravo_converter_": "Converter", "ravo_spayd_": "spayd", "ravo_sid_": "sid",
                   "ravo_payment_code_": "payment_code", "ravo_invoice_": "invoice"}
         for name in names - {one.name for one in interface.Interface().functions}:
-            if "column" in name or "arrow" in name:
+            if "column" in name or "arrow" in name or name.startswith(TO_COME):
                 continue
             mine = other.get(name, next((group for prefix, group in groups.items() if name.startswith(prefix)), None))
             assert mine is not None, f"{name} has no function in Python"
