@@ -1,8 +1,14 @@
 # The two commands of the README, and helpers for everyday work. CMake does the rest: see CMakePresets.json.
-.PHONY: run check bench coverage reliability reference guide quirks xml-check invoices pictures package check-packages format clean
+.PHONY: run check python check-python bench coverage reliability reference guide quirks xml-check invoices pictures package check-packages format clean
 
 run:            ## Build for this machine and show the library at work
 	@scripts/run
+
+python:         ## Build the package for Python in build/python
+	@scripts/python
+
+check-python:   ## Build the package for Python and try it
+	@scripts/check-python
 
 check:          ## Every target, every test, every gate
 	@scripts/check

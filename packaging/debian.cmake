@@ -1,4 +1,4 @@
-# Five Debian packages: libravointerface1, libravointerface-dev, libravo1, libravo-dev and ravo. The dependencies of each are read
+# Six Debian packages: libravointerface1, libravointerface-dev, libravo1, libravo-dev, ravo and python3-ravo. The dependencies of each are read
 # from the binaries; each has the licence and both changelogs in its own folder of documents.
 set(CPACK_GENERATOR DEB)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
@@ -15,12 +15,15 @@ set(ravo_debian_development libravointerface-dev)
 set(ravo_debian_c_runtime libravo1)
 set(ravo_debian_c_development libravo-dev)
 set(ravo_debian_tool ravo)
+set(ravo_debian_python python3-ravo)
 
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_C_RUNTIME_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_C_DEVELOPMENT_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_TOOL_PACKAGE_SECTION utils)
+set(CPACK_DEBIAN_PYTHON_PACKAGE_SECTION python)
+set(CPACK_DEBIAN_PYTHON_PACKAGE_DEPENDS "python3 (>= 3.11)")
 set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "Table names, captions, accounting rules and the support report of a modular
 double-entry accounting suite for Czech businesses: the shared library.")
 set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "Headers, the static library, and the files by which CMake and pkg-config find
@@ -31,6 +34,9 @@ set(CPACK_COMPONENT_C_DEVELOPMENT_DESCRIPTION "The header, declarations for C#, 
 find the library.")
 set(CPACK_COMPONENT_TOOL_DESCRIPTION "The library at the prompt: looks tables and captions up, checks accounts and
 payment references, rounds money and writes the support report.")
+set(CPACK_COMPONENT_PYTHON_DESCRIPTION "What Czech bookkeeping checks and computes, for Python: identifiers,
+accounts, holidays, money, VAT, electronic invoices, encodings, and whole
+columns of tables.")
 
 # The changelog of the packages has one entry, that of the release; its date is that of the build.
 string(TIMESTAMP ravo_debian_date "%a, %d %b %Y %H:%M:%S +0000" UTC)
@@ -63,6 +69,19 @@ function(ravo_debian_library component library version)
 endfunction()
 ravo_debian_library(runtime libRavoInterface ${PROJECT_VERSION_MAJOR})
 ravo_debian_library(c_runtime libravo 1)
+
+# The modules are compiled when they are installed, and what was compiled goes with them.
+file(CONFIGURE OUTPUT ${folder}/python/postinst CONTENT "#!/bin/sh
+set -e
+if command -v py3compile >/dev/null 2>&1; then py3compile -p @ravo_debian_python@; fi
+" @ONLY)
+file(CONFIGURE OUTPUT ${folder}/python/prerm CONTENT "#!/bin/sh
+set -e
+if command -v py3clean >/dev/null 2>&1; then py3clean -p @ravo_debian_python@; fi
+" @ONLY)
+file(CHMOD ${folder}/python/postinst ${folder}/python/prerm PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE
+  WORLD_READ WORLD_EXECUTE)
+set(CPACK_DEBIAN_PYTHON_PACKAGE_CONTROL_EXTRA ${folder}/python/postinst ${folder}/python/prerm)
 
 ravo_packed(${folder}/changelog.Debian ${folder}/changelog.Debian.gz)
 ravo_packed(${PROJECT_SOURCE_DIR}/CHANGELOG.md ${folder}/changelog.gz)

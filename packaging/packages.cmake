@@ -11,6 +11,10 @@ set(CPACK_COMPONENTS_ALL runtime development tool c_runtime c_development)
 set(CPACK_COMPONENT_DEVELOPMENT_DEPENDS runtime)
 set(CPACK_COMPONENT_TOOL_DEPENDS runtime)
 set(CPACK_COMPONENT_C_DEVELOPMENT_DEPENDS c_runtime)
+if(RAVO_BUILD_PYTHON)
+  list(APPEND CPACK_COMPONENTS_ALL python)
+  set(CPACK_COMPONENT_PYTHON_DEPENDS c_runtime)
+endif()
 set(CPACK_STRIP_FILES ON)
 
 # The pages lie as in the checkout, so that their links work; the files that the commands of the pages name, with the program.

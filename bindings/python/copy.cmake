@@ -1,0 +1,10 @@
+# Copies the Python part of the package beside its extension module, and removes what it no longer has.
+file(GLOB_RECURSE files RELATIVE ${FROM} ${FROM}/*.py ${FROM}/*.pyi ${FROM}/py.typed)
+file(GLOB_RECURSE copies RELATIVE ${TO} ${TO}/*.py ${TO}/*.pyi)
+list(REMOVE_ITEM copies ${files})
+foreach(file ${copies})
+  file(REMOVE ${TO}/${file})
+endforeach()
+foreach(file ${files})
+  configure_file(${FROM}/${file} ${TO}/${file} COPYONLY)
+endforeach()

@@ -1,0 +1,23 @@
+"""Values of Python as the texts that codes have."""
+from __future__ import annotations
+
+LARGEST = 30
+"""A Decimal of more digits than this is no amount, and would be a long text."""
+
+
+def texts(*values: object) -> tuple[str | None, ...]:
+    return tuple(value if value is None or isinstance(value, str) else text_of(value) for value in values)
+
+
+def text_of(value: object) -> str:
+    """A day as "20261121", an amount as "450.00"; TypeError for a float."""
+    from datetime import date
+    from decimal import Decimal
+
+    if isinstance(value, date):
+        return value.isoformat()[:10].replace("-", "")
+    if isinstance(value, Decimal):
+        return format(value, "f") if value.adjusted() <= LARGEST else str(value)
+    if isinstance(value, int) and not isinstance(value, bool):
+        return str(value)
+    raise TypeError(f"expected str, Decimal, int or date, not {type(value).__qualname__}")

@@ -1,0 +1,123 @@
+"""Amounts: decimal.Decimal is the witness of rounding."""
+import decimal
+from decimal import Decimal
+from fractions import Fraction
+
+import pytest
+import ravo
+from hypothesis import given
+from hypothesis import strategies as some
+from ravo import money, suite, vat
+from ravo.records import Rounding
+
+AMOUNTS = some.decimals(min_value=-10**12, max_value=10**12, places=4)
+WITNESS = {Rounding.HALF_AWAY: decimal.ROUND_HALF_UP, Rounding.AWAY: decimal.ROUND_UP, Rounding.TOWARD: decimal.ROUND_DOWN}
+
+
+@given(AMOUNTS, some.sampled_from(Rounding), some.sampled_from(["0.0001", "0.01", "0.1", "1", "10", "1000"]))
+def test_rounding_is_that_of_decimal(amount: Decimal, rounding: Rounding, step: str) -> None:
+    assert ravo.round_money(amount, step, rounding) == (amount / Decimal(step)).quantize(Decimal(1), WITNESS[rounding]) * Decimal(step)
+
+
+@given(AMOUNTS, some.integers(-10**6, 10**6), some.integers(1, 10**6))
+def test_ratios_are_exact(amount: Decimal, numerator: int, denominator: int) -> None:
+    exact = Fraction(amount) * numerator / denominator * 100
+    whole, rest = divmod(abs(exact), 1)
+    expected = (whole + (rest >= Fraction(1, 2))) * (1 if exact >= 0 else -1)
+    assert money.times_ratio(amount, numerator, denominator) * 100 == expected
+
+
+@given(AMOUNTS)
+def test_texts_and_amounts_round_trip(amount: Decimal) -> None:
+    assert money.read(money.format(amount)) == amount
+    assert money.read(money.format(amount, ".", 4), ".") == amount
+    assert ravo.round_money(str(amount), "0.0001") == ravo.round_money(amount, "0.0001") == amount
+
+
+@given(some.integers(-922337203685477, 922337203685477))
+def test_whole_amounts(amount: int) -> None:
+    assert ravo.round_money(amount, "0.0001") == amount
+
+
+def test_the_context_of_decimal_does_not_count() -> None:
+    with decimal.localcontext() as context:
+        context.prec = 2
+        assert str(ravo.round_money(Decimal("123456.785"))) == "123456.79"
+
+
+@pytest.mark.parametrize("wrong", [1.5, True, None, b"1", 1j])
+def test_other_types_are_refused(wrong: object) -> None:
+    with pytest.raises(TypeError, match="expected Decimal, str or int, not"):
+        ravo.round_money(wrong)  # type: ignore[arg-type]
+
+
+@pytest.mark.parametrize("wrong", [10**15, -10**15, 10**40, Decimal("1e15"), Decimal("1e999999"), Decimal("1e-9999"), Decimal("0.00001"), Decimal("NaN"),
+                                   Decimal("Infinity"), "1,5", "", "x", "1e3"])
+def test_other_amounts_are_errors(wrong: object) -> None:
+    with pytest.raises(ravo.Error):
+        ravo.round_money(wrong)  # type: ignore[arg-type]
+
+
+def test_exponents_are_no_other_amounts() -> None:
+    assert ravo.round_money(Decimal("1E+3")) == 1000
+    assert ravo.round_money(Decimal("0E-20")) == 0
+    assert str(ravo.round_money(Decimal("-0.0"))) == "0.00"
+
+
+def test_steps_and_rates() -> None:
+    for wrong in (0, -1):
+        with pytest.raises(ravo.Error) as raised:
+            ravo.round_money(1, wrong)
+        assert raised.value.code == "range"
+    assert money.times_rate("-100", "0.125") == Decimal("-12.50")
+    assert money.to_crowns("12.50", Rounding.TOWARD) == (Decimal(12), Decimal("-0.50"))
+    with pytest.raises(ValueError, match="one character"):
+        money.format(1, "")
+    with pytest.raises(ravo.Error):
+        money.format(1, "ž")
+    with pytest.raises(ravo.Error):
+        money.format(1, ",", 5)
+    with pytest.raises(ravo.Error) as raised:
+        ravo.round_money(1, 1, 7)  # type: ignore[arg-type]
+    assert raised.value.code == "argument"
+
+
+@given(some.decimals(min_value=-10**9, max_value=10**9, places=2), some.integers(0, 100))
+def test_vat_of_a_base(base: Decimal, percent: int) -> None:
+    amounts = vat.compute(base, percent)
+    assert amounts.tax == (base * percent / 100).quantize(Decimal("0.01"), decimal.ROUND_HALF_UP)
+    assert amounts.base + amounts.tax == amounts.total and amounts.base == base
+
+
+def test_vat_of_documents() -> None:
+    day = ravo.days.read("1. 6. 2014")
+    lines = [("0.05", vat.VatKind.STANDARD)] * 10
+    assert vat.recapitulate(lines, day).sum.tax == Decimal("0.11")
+    assert vat.recapitulate(iter(lines), day, per=vat.VatPer.LINE).sum.tax == Decimal("0.10")
+    with pytest.raises(ravo.Error) as raised:
+        vat.recapitulate([(1, vat.VatKind.STANDARD), (1, vat.VatKind.SECOND_REDUCED)], day)
+    assert (raised.value.code, raised.value.position) == ("rate.unknown", 1)
+    with pytest.raises(ravo.Error) as raised:
+        vat.recapitulate([], day, vat.VatMethod.TOTAL)
+    assert raised.value.code == "rate.method"
+    for wrong in ([1], [(1.0, 1)], [(1,)], [("1", "x")]):
+        with pytest.raises((TypeError, IndexError)):
+            vat.recapitulate(wrong, day)  # type: ignore[arg-type]
+    assert vat.percent_on(day, vat.VatKind.STANDARD) == 21
+    assert isinstance(vat.kind_on(day, 15), vat.VatKind)
+    with pytest.raises(ravo.Error):
+        vat.kind_on(day, 12)
+    with pytest.raises(ravo.Error) as raised:
+        vat.compute(1, 101)
+    assert raised.value.code == "rate.unknown"
+
+
+def test_the_suite_rounds_by_its_own_rules() -> None:
+    assert suite.round_value("12.345", 9) == Decimal("12.345")
+    assert suite.round_vat("-12.34", "M") == -12
+    with pytest.raises(ValueError, match="direction is out of range: 256"):
+        suite.round_value(1, 256)
+    with pytest.raises(ravo.Error):
+        suite.round_value(1, decimals=15)
+    with pytest.raises(ravo.Error):
+        suite.round_float(float("nan"))
