@@ -42,13 +42,14 @@ MAY_USE: dict[str, set[str] | None] = {
     "ravo/common": {"runtime", "platform", "frame", "catalogue", "utils"},
     "ravo/czech": {"runtime"},
     "ravo/convert": {"codec"},
+    "ravo/document": {"runtime", "codec", "unicode", "utils", "xml", "czech"},
     "ravo/isdoc": {"runtime", "czech"},
     "ravo/sysinfo": {"runtime", "platform", "frame", "common"},
     "ravo/xml": {"runtime", "codec", "platform", "frame"},
     "ravo/formout": {"runtime", "codec", "platform", "frame", "unicode"},
     "ravo/hostapi": {"runtime", "platform", "frame"},
-    "c": {"runtime", "codec", "convert", "catalogue", "unicode", "utils", "common", "czech", "isdoc"},
-    "tools/ravo": {PUBLIC, "codec", "convert", "czech", "isdoc"},
+    "c": {"runtime", "codec", "convert", "catalogue", "unicode", "utils", "common", "czech", "isdoc", "document", "xml"},
+    "tools/ravo": {PUBLIC, "codec", "convert", "czech", "document", "isdoc"},
 }
 SCANNED = ("ravo", "c", "tools/ravo")
 
