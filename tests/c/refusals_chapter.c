@@ -1,6 +1,7 @@
 #include "chapters.h"
 #include "expect.h"
 #include "marks.h"
+#include "small_document.h"
 #include "small_invoice.h"
 
 static void check_untouched(const void* place, size_t size, int line) {
