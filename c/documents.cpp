@@ -93,6 +93,7 @@ ravo_status SetValues(ravo_document& own, std::span<const document::ValueChange>
   const auto edits = EditsFor(own.content->Text(), own.content->Document(), changes, options);
   auto edited = std::make_unique<const document::OpenDocument>(EditedBytes(own.content->Text(), edits));
   if (!HasValues(edited->Document(), changes, options.is_raw))
+    // Untested: it always has them.
     return Fail(error, {RAVO_INTERNAL, 0, 0, "the changed document would not have the values"});
   own.content = std::move(edited);
   own.findings.clear();

@@ -1,7 +1,7 @@
 // Containers of invoices over any bytes: a ZIP archive or a PDF is read or refused with words, unpacks to no
 // more than is permitted, and its files get names that are safe and different.
 #include "isdoc_extract.h"
-#include <ravo/document/utf8_reader.h>
+#include "utf8_reader.h"
 
 #include <cstdint>
 #include <cstdlib>
@@ -25,7 +25,7 @@ void CheckNames(const std::vector<tool::ContainerPart>& parts) {
   for (const std::string& name : names) {
     Require(!name.empty() && name[0] != '.' && name.back() != '.' && name.back() != ' ');
     Require(name.find_first_of("/\\:*?\"<>|") == std::string::npos && name.size() <= 360);
-    Require(ravo::document::ValidUtf8Length(name) == name.size());
+    Require(tool::ValidUtf8Length(name) == name.size());
   }
 }
 

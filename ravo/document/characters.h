@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ravo/document/utf8_reader.h>
+#include <ravo/convert/utf8_reader.h>
 
 #include <cstddef>
 #include <string>
@@ -8,6 +8,10 @@
 
 /// Characters, names and references of XML, in UTF-8.
 namespace ravo::document {
+
+using convert::FirstCharacter;
+using convert::Utf8Character;
+using convert::ValidUtf8Length;
 
 /// The white space of XML.
 inline constexpr std::string_view kXmlSpace = " \t\r\n";

@@ -42,7 +42,7 @@ MAY_USE: dict[str, set[str] | None] = {
     "ravo/common": {"runtime", "platform", "frame", "catalogue", "utils"},
     "ravo/czech": {"runtime"},
     "ravo/convert": {"codec"},
-    "ravo/document": {"runtime", "codec", "unicode", "utils", "xml", "czech"},
+    "ravo/document": {"runtime", "codec", "convert", "unicode", "utils", "xml", "czech"},
     "ravo/isdoc": {"runtime", "czech"},
     "ravo/sysinfo": {"runtime", "platform", "frame", "common"},
     "ravo/xml": {"runtime", "codec", "platform", "frame"},

@@ -1,7 +1,7 @@
 #include "czech_order.h"
 
 #include "natural_order.h"
-#include <ravo/document/utf8_reader.h>
+#include "utf8_reader.h"
 
 #include <algorithm>
 #include <string>
@@ -90,7 +90,7 @@ TEST(NaturalOrder, ComparesDecimalNumbers) {
 }
 
 TEST(Utf8Reader, FindsTheFirstWrongByte) {
-  EXPECT_EQ(ravo::document::ValidUtf8Length("Příliš žluťoučký kůň \U0001F600"),
+  EXPECT_EQ(tool::ValidUtf8Length("Příliš žluťoučký kůň \U0001F600"),
             std::string_view("Příliš žluťoučký kůň \U0001F600").size());
   // A lone continuation, a cut character, overlong forms, a surrogate, a code past the last one, no lead at
   // all.
@@ -98,7 +98,7 @@ TEST(Utf8Reader, FindsTheFirstWrongByte) {
        {"\x80", "\xC4", "\xC0\x80", "\xE0\x80\x80", "\xF0\x80\x80\x80", "\xED\xA0\x80", "\xF4\x90\x80\x80",
         "\xFF", "\xC4z", "\xE2\x82", "\xF0\x9F\x98"}) {
     for (const std::size_t before : {0U, 1U, 7U, 8U, 9U}) {
-      EXPECT_EQ(ravo::document::ValidUtf8Length(std::string(before, 'a').append(wrong)), before);
+      EXPECT_EQ(tool::ValidUtf8Length(std::string(before, 'a').append(wrong)), before);
     }
   }
 }

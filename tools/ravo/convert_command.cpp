@@ -1,13 +1,13 @@
 #include "commands.h"
 #include "console.h"
 #include "convert_file.h"
+#include "encoding_label.h"
 #include "file_reason.h"
 #include "nearest.h"
 #include "progress.h"
 #include "spelling.h"
 #include "text.h"
 #include "text_file.h"
-#include <ravo/codec/encoding_label.h>
 #include <ravo/codec/texts.h>
 
 #include <algorithm>
@@ -181,13 +181,13 @@ std::string DescribedEnd(const ConversionEnd& end, const Conversion& conversion)
   switch (end.fault.kind) {
     case Fault::Kind::Lacking:
       return Text("{0} cannot be written in {1}",
-                  {CodePointText(end.fault.code), ravo::codec::ShortLabel(conversion.to->label)});
+                  {CodePointText(end.fault.code), ShortLabel(conversion.to->label)});
     case Fault::Kind::CutShort:
       return Text("the text ends inside a character of {0} (bytes: {1})",
-                  {ravo::codec::ShortLabel(end.from->label), HexOf(end.fault.bytes)});
+                  {ShortLabel(end.from->label), HexOf(end.fault.bytes)});
     default:
       return Text("bytes that cannot be read in {0}: {1}",
-                  {ravo::codec::ShortLabel(end.from->label), HexOf(end.fault.bytes)});
+                  {ShortLabel(end.from->label), HexOf(end.fault.bytes)});
   }
 }
 

@@ -2,15 +2,12 @@
 
 #include "generated/czech_order_table.h"
 #include "natural_order.h"
-#include <ravo/document/utf8_reader.h>
+#include "utf8_reader.h"
 
 #include <cstddef>
 
 namespace tool {
 namespace {
-
-using ravo::document::FirstCharacter;
-using ravo::document::Utf8Character;
 
 namespace table = czech_order;
 

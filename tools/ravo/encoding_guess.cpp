@@ -1,9 +1,9 @@
 #include "encoding_guess.h"
 
 #include "czech_likeness.h"
+#include "encoding_label.h"
 #include "text.h"
 #include <ravo/codec/byte_order_mark.h>
-#include <ravo/codec/encoding_label.h>
 #include <ravo/codec/texts.h>
 
 #include <algorithm>
@@ -26,7 +26,7 @@ std::span<const std::uint8_t> ByteSpanOf(std::string_view text) {
 
 const codec::Encoding& RowNamed(std::string_view name) { return *codec::FindEncoding(name); }
 
-std::string_view LabelOf(std::string_view name) { return ravo::codec::ShortLabel(RowNamed(name).label); }
+std::string_view LabelOf(std::string_view name) { return ShortLabel(RowNamed(name).label); }
 
 // The length of the sequence at the start of `bytes`, 1 for ASCII; 0 if it is malformed, and no value if the
 // end cuts it short.

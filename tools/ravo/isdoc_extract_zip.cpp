@@ -1,10 +1,10 @@
 #include "isdoc_extract.h"
 #include "text.h"
+#include "utf8_reader.h"
 #include <ravo/DIUtils.h>
 #include <ravo/RavoInterface.h>
 #include <ravo/codec/encoding.h>
 #include <ravo/codec/texts.h>
-#include <ravo/document/utf8_reader.h>
 
 #include <algorithm>
 #include <cstdint>
@@ -13,8 +13,6 @@
 // refused.
 namespace tool {
 namespace {
-
-using ravo::document::ValidUtf8Length;
 
 constexpr std::size_t kEndSize = 22;
 constexpr std::size_t kLongestComment = 65535;

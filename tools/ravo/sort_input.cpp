@@ -1,19 +1,17 @@
 #include "sort_input.h"
 
+#include "encoding_label.h"
 #include "text.h"
+#include "utf8_reader.h"
 #include "whole_input.h"
 #include <ravo/RavoInterface.h>
-#include <ravo/codec/encoding_label.h>
 #include <ravo/codec/texts.h>
-#include <ravo/document/utf8_reader.h>
 
 #include <algorithm>
 #include <stdexcept>
 
 namespace tool {
 namespace {
-
-using ravo::document::ValidUtf8Length;
 
 constexpr std::string_view kMarkInUtf8 = "\uFEFF";
 
@@ -58,9 +56,9 @@ std::string SortInput::InUtf8(std::string bytes, const std::string& name) const 
   if (back == bytes) return text;
   const auto differ =
       std::mismatch(bytes.begin(), bytes.end(), back.begin(), back.end()).first - bytes.begin();
-  throw std::runtime_error(name + ": " +
-                           Text("byte {0} cannot be read as {1}",
-                                {std::to_string(differ + 1), ravo::codec::ShortLabel(encoding_.label)}));
+  throw std::runtime_error(
+      name + ": " +
+      Text("byte {0} cannot be read as {1}", {std::to_string(differ + 1), ShortLabel(encoding_.label)}));
 }
 
 void SortInput::Add(const std::string& name) {

@@ -1,7 +1,7 @@
 #include "table_text.h"
 
+#include "encoding_label.h"
 #include <ravo/RavoInterface.h>
-#include <ravo/codec/encoding_label.h>
 #include <ravo/codec/kernels/block.h>
 
 #include <algorithm>
@@ -162,7 +162,7 @@ bool TableText::CanRead(const EncodingRow& encoding) {
 }
 
 TableText::TableText(const EncodingRow& encoding)
-    : label_(ravo::codec::ShortLabel(encoding.label)), is_utf8_(encoding.name == "UTF_8") {
+    : label_(ShortLabel(encoding.label)), is_utf8_(encoding.name == "UTF_8") {
   if (is_utf8_) return;
   for (unsigned i = 0; i < upper_.size(); ++i) {
     upper_[i] = CharacterOf(encoding, static_cast<unsigned char>(i + 0x80));

@@ -1,9 +1,9 @@
-#include "utf8_reader.h"
+#include <ravo/convert/utf8_reader.h>
 
 #include <cstdint>
 #include <cstring>
 
-namespace ravo::document {
+namespace ravo::convert {
 namespace {
 
 struct LeadByte {
@@ -60,4 +60,4 @@ std::size_t ValidUtf8Length(std::string_view text) {
   return at;
 }
 
-}  // namespace ravo::document
+}  // namespace ravo::convert

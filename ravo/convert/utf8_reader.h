@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <string_view>
 
-namespace ravo::document {
+namespace ravo::convert {
 
 /// A character at the start of a text in UTF-8, and how many bytes it takes: none if they are not UTF-8.
 struct Utf8Character {
@@ -17,4 +17,4 @@ struct Utf8Character {
 /// Returns where the first byte is that is not UTF-8; the text's size otherwise.
 [[nodiscard]] std::size_t ValidUtf8Length(std::string_view text);
 
-}  // namespace ravo::document
+}  // namespace ravo::convert
