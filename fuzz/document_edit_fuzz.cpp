@@ -74,8 +74,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const document::DocumentText text =
         document::DecodeDocument({reinterpret_cast<const char*>(data) + 1, size - 1});
     const ScannedDocument scanned = document::ScanDocument(text.utf8);
-    const auto paths = PathsOf(document);
-    CheckEdit(text, document, paths[data[0] % paths.size()]);
+    const auto paths = PathsOf(scanned);
+    CheckEdit(text, scanned, paths[data[0] % paths.size()]);
   } catch (const document::PlacedError&) {
     // No document in a known encoding.
   } catch (const document::DocumentError&) {
