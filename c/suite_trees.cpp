@@ -15,7 +15,6 @@ using ravo::c::FailArgument;
 using ravo::c::FailNullResult;
 using ravo::c::FailUnknown;
 using ravo::c::Guarded;
-using ravo::c::IsBroken;
 using ravo::c::ReadBytes;
 using ravo::c::ReadText;
 using ravo::c::Units;
