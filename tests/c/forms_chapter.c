@@ -1,28 +1,28 @@
 #include "chapters.h"
 #include "expect.h"
 
-static unsigned char written[64];
+static unsigned char form_bytes[64];
 static size_t written_length = 0;
 
 static int wrote(const char* expected, size_t expected_length) {
-  return written_length == expected_length && memcmp(written, expected, expected_length) == 0;
+  return written_length == expected_length && memcmp(form_bytes, expected, expected_length) == 0;
 }
 
 static int text_string(const char* text, const char* expected, size_t expected_length) {
-  return ravo_suite_win_1250_to_pdf_doc_encoding(text, RAVO_NUL_TERMINATED, written, sizeof written,
+  return ravo_suite_win_1250_to_pdf_doc_encoding(text, RAVO_NUL_TERMINATED, form_bytes, sizeof form_bytes,
                                                  &written_length, NULL) == RAVO_OK &&
          wrote(expected, expected_length);
 }
 
 static int field(const char* name, const char* value, int32_t as_unicode, const char* expected,
                  size_t expected_length) {
-  return ravo_suite_fill_pdf_field(name, RAVO_NUL_TERMINATED, value, RAVO_NUL_TERMINATED, as_unicode, written,
-                                   sizeof written, &written_length, NULL) == RAVO_OK &&
+  return ravo_suite_fill_pdf_field(name, RAVO_NUL_TERMINATED, value, RAVO_NUL_TERMINATED, as_unicode, form_bytes,
+                                   sizeof form_bytes, &written_length, NULL) == RAVO_OK &&
          wrote(expected, expected_length);
 }
 
 static int number_field(const char* name, int32_t value, const char* expected, size_t expected_length) {
-  return ravo_suite_fill_pdf_field_as_integer(name, RAVO_NUL_TERMINATED, value, written, sizeof written,
+  return ravo_suite_fill_pdf_field_as_integer(name, RAVO_NUL_TERMINATED, value, form_bytes, sizeof form_bytes,
                                               &written_length, NULL) == RAVO_OK &&
          wrote(expected, expected_length);
 }
@@ -50,12 +50,12 @@ static void writes_fields(void) {
 static void writes_fields_whole_or_not(void) {
   EXPECT(ravo_suite_fill_pdf_field(TEXT("a"), TEXT("b"), 0, NULL, 0, &written_length, NULL) == RAVO_OK);
   EXPECT(written_length == 14);
-  memset(written, 7, sizeof written);
-  EXPECT(ravo_suite_fill_pdf_field(TEXT("a"), TEXT("b"), 0, written, 13, &written_length, NULL) ==
+  memset(form_bytes, 7, sizeof form_bytes);
+  EXPECT(ravo_suite_fill_pdf_field(TEXT("a"), TEXT("b"), 0, form_bytes, 13, &written_length, NULL) ==
          RAVO_BUFFER);
-  EXPECT(written_length == 14 && written[0] == 7);
-  EXPECT(ravo_suite_fill_pdf_field(TEXT("a"), TEXT("b"), 0, written, 14, &written_length, NULL) == RAVO_OK);
-  EXPECT(written[14] == 7);
+  EXPECT(written_length == 14 && form_bytes[0] == 7);
+  EXPECT(ravo_suite_fill_pdf_field(TEXT("a"), TEXT("b"), 0, form_bytes, 14, &written_length, NULL) == RAVO_OK);
+  EXPECT(form_bytes[14] == 7);
 }
 
 static const char* pdf_date(ravo_suite_moment moment, int32_t without_year, int32_t leading_zeros) {
@@ -89,18 +89,18 @@ static void writes_dates_and_flags(void) {
 static void writes_records(void) {
   EXPECT(ravo_suite_string_to_stream("\xC8"
                                      "ech",
-                                     4, written, sizeof written, &written_length, NULL) == RAVO_OK);
+                                     4, form_bytes, sizeof form_bytes, &written_length, NULL) == RAVO_OK);
   EXPECT(
       wrote(TEXT("\4\0\0\0\xC8"
                  "ech\0")));
-  EXPECT(ravo_suite_string_to_stream(NULL, 0, written, sizeof written, &written_length, NULL) == RAVO_OK);
+  EXPECT(ravo_suite_string_to_stream(NULL, 0, form_bytes, sizeof form_bytes, &written_length, NULL) == RAVO_OK);
   EXPECT(wrote(TEXT("\0\0\0\0\0")));
 }
 
 /* Reads the record at `from` of some bytes; where the next one begins, or the status below 0. */
 static int read_record(const char* bytes, size_t bytes_length, size_t from) {
   size_t end = 0;
-  const ravo_status status = ravo_suite_string_from_stream(bytes, bytes_length, from, written, sizeof written,
+  const ravo_status status = ravo_suite_string_from_stream(bytes, bytes_length, from, form_bytes, sizeof form_bytes,
                                                            &written_length, &end, NULL);
   return status == RAVO_OK ? (int)end : -(int)status;
 }
@@ -128,10 +128,10 @@ static void reads_broken_records(void) {
   EXPECT(ravo_suite_string_from_stream("\xFF\xFF\xFF\x7Fxy", 6, 0, NULL, 0, &written_length, &end, NULL) ==
          RAVO_OK);
   EXPECT(written_length == 2147483647u && end == 7);
-  memset(written, 7, sizeof written);
-  EXPECT(ravo_suite_string_from_stream("\xFF\xFF\xFF\x7Fxy", 6, 0, written, sizeof written, &written_length,
+  memset(form_bytes, 7, sizeof form_bytes);
+  EXPECT(ravo_suite_string_from_stream("\xFF\xFF\xFF\x7Fxy", 6, 0, form_bytes, sizeof form_bytes, &written_length,
                                        &end, NULL) == RAVO_BUFFER);
-  EXPECT(written[0] == 7);
+  EXPECT(form_bytes[0] == 7);
 }
 
 void test_forms(void) {
