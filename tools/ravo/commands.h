@@ -2,14 +2,17 @@
 
 #include "outcome.h"
 
+#include <string_view>
+
 #include <CLI/CLI.hpp>
 
 /// The sub-commands. Each function adds one to the program; if the command line names it, it fills in the
 /// outcome.
 namespace tool {
 
-/// Adds all of them, by theme, to the program.
-void Describe(CLI::App& program, Outcome& outcome);
+/// Adds the one with the name `only` to the program; if there is none, all of them, by theme. The
+/// descriptions of all take longer than the work of most command lines.
+void Describe(CLI::App& program, Outcome& outcome, std::string_view only = {});
 
 void AddReportCommand(CLI::App& program, Outcome& outcome);
 void AddTableCommand(CLI::App& program, Outcome& outcome);

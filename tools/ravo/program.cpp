@@ -33,11 +33,17 @@ constexpr const char* kExamples = ToTranslate(
     "  ravo captions --plain\n"
     "  ravo help round                options and examples of a command\n");
 
+// A command by its name, under which the program calls it without the description of any other.
+struct Command {
+  std::string_view name;
+  void (*add)(CLI::App&, Outcome&);
+};
+
 // The commands by theme, in the order of `ravo --help` and of the manual page. A new command needs a line
 // here.
 struct Theme {
   const char* title;
-  std::vector<void (*)(CLI::App&, Outcome&)> commands;
+  std::vector<Command> commands;
 };
 
 void AddHelpCommand(CLI::App& program, Outcome& outcome);
@@ -45,16 +51,43 @@ void AddVersionCommand(CLI::App& program, Outcome& outcome);
 
 std::vector<Theme> Themes() {
   return {
-      {ToTranslate("The suite"), {AddTableCommand, AddCaptionsCommand, AddInterfacesCommand}},
+      {ToTranslate("The suite"),
+       {{"table", AddTableCommand}, {"captions", AddCaptionsCommand}, {"interfaces", AddInterfacesCommand}}},
       {ToTranslate("Accounting"),
-       {AddCheckCommand, AddRoundCommand, AddVatCommand, AddDateCommand, AddDueCommand, AddHolidaysCommand,
-        AddQrCommand, AddAddressCommand, AddBackupNameCommand}},
-      {ToTranslate("Documents"), {AddIsdocCommand, AddXmlCommand, AddFormCommand}},
+       {{"check", AddCheckCommand},
+        {"round", AddRoundCommand},
+        {"vat", AddVatCommand},
+        {"date", AddDateCommand},
+        {"due", AddDueCommand},
+        {"holidays", AddHolidaysCommand},
+        {"qr", AddQrCommand},
+        {"address", AddAddressCommand},
+        {"backup-name", AddBackupNameCommand}}},
+      {ToTranslate("Documents"),
+       {{"isdoc", AddIsdocCommand}, {"xml", AddXmlCommand}, {"form", AddFormCommand}}},
       {ToTranslate("Characters and texts"),
-       {AddCharCommand, AddSortCommand, AddMatchCommand, AddUrlCommand, AddRandomCommand}},
-      {ToTranslate("Files"), {AddConvertCommand, AddEncodingsCommand, AddHashCommand}},
-      {ToTranslate("Support"), {AddReportCommand, AddTourCommand, AddHelpCommand, AddVersionCommand}},
+       {{"char", AddCharCommand},
+        {"sort", AddSortCommand},
+        {"match", AddMatchCommand},
+        {"url", AddUrlCommand},
+        {"random", AddRandomCommand}}},
+      {ToTranslate("Files"),
+       {{"convert", AddConvertCommand}, {"encodings", AddEncodingsCommand}, {"hash", AddHashCommand}}},
+      {ToTranslate("Support"),
+       {{"report", AddReportCommand},
+        {"tour", AddTourCommand},
+        {"help", AddHelpCommand},
+        {"version", AddVersionCommand}}},
   };
+}
+
+std::vector<Theme> ThemesWith(std::string_view name) {
+  const std::vector<Theme> themes = Themes();
+  for (const Theme& theme : themes) {
+    const auto command = std::ranges::find(theme.commands, name, &Command::name);
+    if (command != theme.commands.end()) return {{theme.title, {*command}}};
+  }
+  return themes;
 }
 
 void ShowHelp(const CLI::App& program, const std::vector<std::string>& words, bool json, Outcome& outcome) {
@@ -80,7 +113,11 @@ void AddHelpCommand(CLI::App& program, Outcome& outcome) {
            "  ravo help\n"
            "  ravo help xml show\n"
            "  ravo help check --json         for a program\n"));
-  command->callback([words, json, &program, &outcome] { ShowHelp(program, *words, *json, outcome); });
+  command->callback([words, json, &outcome] {
+    CLI::App whole;
+    Describe(whole, outcome);
+    ShowHelp(whole, *words, *json, outcome);
+  });
 }
 
 void AddVersionCommand(CLI::App& program, Outcome& outcome) {
@@ -94,11 +131,9 @@ void AddVersionCommand(CLI::App& program, Outcome& outcome) {
 }
 
 void AddTheme(CLI::App& program, const Theme& theme, Outcome& outcome) {
-  for (const auto add : theme.commands) {
-    const auto before = program.get_subcommands({}).size();
-    add(program, outcome);
-    const auto commands = program.get_subcommands({});
-    for (auto added = before; added < commands.size(); ++added) commands[added]->group(Text(theme.title));
+  for (const Command& command : theme.commands) {
+    command.add(program, outcome);
+    program.get_subcommand(std::string(command.name))->group(Text(theme.title));
   }
 }
 
@@ -132,6 +167,13 @@ std::optional<Language> LanguageAsked(const std::vector<std::string>& arguments)
   return asked;
 }
 
+// The name of the only command that the arguments need, if there is one: the version is an option as well.
+std::string_view CommandOf(const std::vector<std::string>& arguments) {
+  if (arguments.empty()) return {};
+  const std::string_view first = arguments.front();
+  return arguments.size() == 1 && (first == "--version" || first == "-V") ? "version" : first;
+}
+
 std::vector<std::string> Words(const std::string& command) {
   return command.empty() ? std::vector<std::string>() : CLI::detail::split(command, ' ');
 }
@@ -150,7 +192,7 @@ void End(const CLI::App& program, const CLI::ParseError& end, Outcome& outcome) 
 
 }  // namespace
 
-void Describe(CLI::App& program, Outcome& outcome) {
+void Describe(CLI::App& program, Outcome& outcome, std::string_view only) {
   program.name("ravo");
   program.description(Text("Command-line access to the shared interface library of the accounting suite"));
   program.formatter(HelpLayout());
@@ -159,7 +201,7 @@ void Describe(CLI::App& program, Outcome& outcome) {
   program.set_version_flag("-V,--version", "ravo " RAVO_VERSION, Text("Show the version"));
   AddLanguageOption(program);
   program.footer(Text(kExitStatus) + "\n" + Text(kEnvironment) + "\n" + Text(kExamples));
-  for (const Theme& theme : Themes()) AddTheme(program, theme, outcome);
+  for (const Theme& theme : ThemesWith(only)) AddTheme(program, theme, outcome);
   AddOutputRules(program);
   RefuseFlagValues(program);
   UnmarkValues(program);
@@ -172,7 +214,7 @@ Outcome Run(std::vector<std::string> arguments) {
   // A path or a bank code may begin with a slash, on Windows too.
   program.allow_windows_style_options(false);
   Outcome outcome;
-  Describe(program, outcome);
+  Describe(program, outcome, CommandOf(arguments));
   arguments = MarkedAfterDashes(std::move(arguments));
   // The parser takes its arguments in reverse order.
   std::reverse(arguments.begin(), arguments.end());
