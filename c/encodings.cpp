@@ -102,6 +102,7 @@ class RowConverter {
   [[nodiscard]] Answer<std::string_view> operator()(std::string_view text) {
     if (keeps_ascii_ && IsAscii(text)) return {text};
     converted_.bytes.Clear();
+    if (converter_.ConvertAtOnce(BytesOf(text), converted_.bytes)) return {converted_.bytes.Text()};
     converted_.fault.reset();
     converter_.Restart();
     converter_.Convert(BytesOf(text), convert::Following::Nothing, converted_);

@@ -34,11 +34,17 @@ struct Words {
   std::string_view notes;
 };
 
+template <class Codec>
+constexpr bool kHasEveryByte = false;
+template <const ByteTable& table>
+constexpr bool kHasEveryByte<SingleByte<table>> = std::ranges::none_of(table, IsSpecial);
+
 // Untested: runs at compile time only.
 template <class Codec, bool reads, bool writes>
 consteval Encoding Row(const Words& words) {
-  Encoding row{words.name, words.label, words.code_page, words.aliases, words.engine, words.notes,
-               nullptr,    nullptr,     nullptr,         nullptr,       nullptr,      nullptr};
+  Encoding row{
+      words.name, words.label, words.code_page, words.aliases, words.engine, words.notes,         nullptr,
+      nullptr,    nullptr,     nullptr,         nullptr,       nullptr,      kHasEveryByte<Codec>};
   if constexpr (reads) row.decode_one = DecodeOne<Codec>;
   if constexpr (writes) row.encode_one = EncodeOne<Codec>;
   if constexpr (writes && codecs::HasState<Codec>) row.flush = Codec::template Flush<SpanTarget>;

@@ -69,6 +69,8 @@ struct Encoding {
   EncodeRun encode_run;
   /// Null also if bytes below 0x80 are not exactly ASCII.
   DecodeUntil decode_until;
+  /// Whether every byte is a character, so that decoding gives no special unit (`IsSpecial`).
+  bool has_every_byte;
 };
 
 /// All encodings, in the order of rows.inc.

@@ -1,9 +1,8 @@
+#include <ravo/codec/kernels/kernel_set.h>
 #include <ravo/convert/text_converter.h>
 
 #include <algorithm>
 #include <array>
-#include <functional>
-#include <numeric>
 #include <span>
 #include <utility>
 
@@ -16,32 +15,9 @@ namespace codec = ravo::codec;
 constexpr std::size_t kUnits = std::size_t{1} << 13;
 constexpr std::size_t kFewUnits = 64;
 
-bool IsSpecial(char16_t c) { return codec::IsSurrogate(c) || c == codec::kReplacement; }
-
-// The compiler makes vectors of lanes that do not wait for each other.
-template <std::size_t kCount>
-char16_t BitsOf(std::span<const char16_t, kCount> text) {
-  std::array<char16_t, 32> lanes{};
-  static_assert(kCount % lanes.size() == 0);
-  for (std::size_t at = 0; at < kCount; at += lanes.size()) {
-    for (std::size_t lane = 0; lane < lanes.size(); ++lane)
-      lanes[lane] = static_cast<char16_t>(lanes[lane] | text[at + lane]);
-  }
-  return std::accumulate(lanes.begin(), lanes.end(), char16_t{}, std::bit_or());
-}
-
-// The index of the first U+FFFD or surrogate, which may stand for something else; the size otherwise.
-// The letters of Europe lack the highest bit of both.
-std::size_t FindSpecial(std::span<const char16_t> text) {
-  constexpr std::size_t kAtOnce = 1024;
-  constexpr char16_t kHighest = 0x8000;
-  for (std::size_t at = 0; at < text.size(); at += kAtOnce) {
-    const auto part = text.subspan(at, std::min(kAtOnce, text.size() - at));
-    if (part.size() == kAtOnce && (BitsOf(part.first<kAtOnce>()) & kHighest) == 0) continue;
-    const auto special = std::ranges::find_if(part, IsSpecial);
-    if (special != part.end()) return at + static_cast<std::size_t>(special - part.begin());
-  }
-  return text.size();
+// How many units are what the bytes say: up to the first special one.
+std::size_t CountUsual(const codec::Encoding& from, codec::TextSpan text) {
+  return from.has_every_byte ? text.size() : codec::ChosenKernels().find_special(text);
 }
 
 std::string AsText(codec::ByteSpan bytes) { return {bytes.begin(), bytes.end()}; }
@@ -93,7 +69,7 @@ TextConverter::Run TextConverter::DecodeRun(codec::ByteSpan bytes) {
                          codec::Input::MoreFollows);
   };
   codec::Step step = decode(room_);
-  const std::size_t usual = FindSpecial(std::span(units_).first(step.made));
+  const std::size_t usual = CountUsual(from_.Row(), std::span(units_).first(step.made));
   if (usual < step.made) {
     decoder_ = before;
     step = decode(usual);
@@ -215,6 +191,20 @@ std::size_t TextConverter::Convert(codec::ByteSpan bytes, Following following, C
       return taken;
     }
   }
+}
+
+bool TextConverter::ConvertAtOnce(codec::ByteSpan bytes, ByteBuffer& to) {
+  constexpr std::size_t kMostBytes = 4;  // from one unit
+  const codec::Encoding& from = from_.Row();
+  const codec::EncodeRun encode = to_.Row().encode_run;
+  if (bytes.size() > kUnits || from.decode_run == nullptr || encode == nullptr) return false;
+  const codec::Run read = from.decode_run(bytes, units_);
+  const auto text = std::span(units_).first(read.made);
+  if (read.taken != bytes.size() || CountUsual(from, text) != text.size()) return false;
+  const codec::Run written = encode(text, to.Room(kMostBytes * text.size()));
+  if (written.taken != text.size()) return false;
+  to.Add(written.made);
+  return true;
 }
 
 void TextConverter::Finish(ByteBuffer& bytes) {

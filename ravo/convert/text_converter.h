@@ -63,6 +63,9 @@ class TextConverter {
   /// Converts the characters in `bytes` up to a fault and returns how many bytes it took: all of the last
   /// ones of a text, and all but a character that is cut short of others. Appends to `converted`.
   std::size_t Convert(ravo::codec::ByteSpan bytes, Following following, Converted& converted);
+  /// Converts a whole short text of characters that both encodings have, faster than `Convert` and without
+  /// its extent. Returns false, with nothing appended, if `Convert` must do it.
+  [[nodiscard]] bool ConvertAtOnce(ravo::codec::ByteSpan bytes, ByteBuffer& to);
   /// Appends what the encoder holds back.
   void Finish(ByteBuffer& bytes);
 

@@ -135,6 +135,21 @@ std::u16string SomeText(std::mt19937& random) {
   return text;
 }
 
+TEST(Encodings, KnowWhetherEveryByteIsACharacter) {
+  std::size_t whole = 0;
+  for (const Encoding& row : Encodings()) {
+    bool has_every_byte = row.engine == "SingleByte";
+    for (unsigned byte = 0; has_every_byte && byte < 256; ++byte)
+      has_every_byte = !IsSpecial(Decoded(row, std::string(1, static_cast<char>(byte)))[0]);
+    EXPECT_EQ(row.has_every_byte, has_every_byte) << row.name;
+    whole += has_every_byte ? 1 : 0;
+  }
+  EXPECT_TRUE(RowOf("Iso_8859_2").has_every_byte);
+  EXPECT_TRUE(RowOf("CP_852").has_every_byte);
+  EXPECT_FALSE(RowOf("Windows_1250").has_every_byte);
+  EXPECT_LT(whole, Encodings().size());
+}
+
 TEST(Encode, InStepsGivesWhatSingleCharactersGive) {
   std::mt19937 random(6);
   for (const Encoding& row : Encodings()) {

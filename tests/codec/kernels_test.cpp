@@ -172,6 +172,33 @@ TEST_P(Kernels, StopBeforeMalformedSequences) {
   }
 }
 
+TEST_P(Kernels, FindEachSpecialUnit) {
+  for (unsigned unit = 0; unit < 0x10000; ++unit) {
+    const bool is_special = (unit >= 0xD800 && unit <= 0xDFFF) || unit == 0xFFFD;
+    for (const std::size_t before : {0U, 8U}) {
+      const std::u16string text = std::u16string(before, u'č') + static_cast<char16_t>(unit);
+      ASSERT_EQ(GetParam().find_special(text), is_special ? before : before + 1) << unit;
+    }
+  }
+}
+
+TEST_P(Kernels, FindTheFirstSpecialUnit) {
+  std::mt19937 random(23);
+  constexpr char16_t kSpecial[] = {0xD800, 0xDBFF, 0xDC00, 0xDFFF, 0xFFFD};
+  constexpr char16_t kUsual[] = {0x8000, 0xD7FF, 0xE000, 0xFFFC, 0xFFFE, 0xFFFF, u'a', u'č', u'€'};
+  for (std::size_t size = 0; size < 700; ++size) {
+    const std::size_t kinds = 1 + random() % std::size(kUsual);
+    std::u16string text(size, u'a');
+    for (char16_t& unit : text) unit = kUsual[std::size(kUsual) - 1 - random() % kinds];
+    ASSERT_EQ(GetParam().find_special(UnitsIn<char16_t>(Guarded(text))), size);
+    for (std::size_t first = size; first-- > 0;) {
+      text[first] = kSpecial[random() % std::size(kSpecial)];
+      if (first % 7 != 0 && first + 9 < size) continue;
+      ASSERT_EQ(GetParam().find_special(text), first) << size;
+    }
+  }
+}
+
 template <class Char>
 void ExpectSkipped(SkipPlaces<Char> skip, std::mt19937& random) {
   std::basic_string<Char> text(random() % 300, Char{'.'});

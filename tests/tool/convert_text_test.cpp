@@ -1,6 +1,7 @@
 #include "czech_sentences.h"
 #include "support/effort.h"
 #include "text_divisions.h"
+#include <ravo/codec/kernels/kernel_set.h>
 #include <ravo/codec/texts.h>
 #include <ravo/convert/text_converter.h>
 
@@ -101,6 +102,56 @@ TEST(TextConverter, IsTheSameForEveryDivisionOfTheText) {
       for (const std::size_t size : {8U, 9U, 33U})
         ASSERT_EQ(test::InBlocks(conversion, BytesOf(bytes), size), whole)
             << from.name << testing::PrintToString(bytes);
+    }
+  }
+}
+
+test::Outcome AtOnce(const Conversion& conversion, codec::ByteSpan bytes) {
+  TextConverter converter(conversion);
+  Converted converted;
+  converted.bytes.Append(BytesOf("before"));
+  const bool is_done = converter.ConvertAtOnce(bytes, converted.bytes);
+  return {std::string(converted.bytes.Text()), 0, 0, is_done ? "" : "refused"};
+}
+
+// A text that is converted at once has the bytes of the long way; what is refused leaves nothing.
+TEST(TextConverter, ConvertsAtOnceWhatNeedsNoOtherLook) {
+  std::mt19937 random(29);
+  std::size_t done = 0;
+  for (const auto& kernels : codec::KernelSets()) {
+    if (!kernels.runs_here()) continue;
+    const codec::ScopedKernels scope(kernels);
+    for (const codec::Encoding& from : codec::Encodings()) {
+      if (from.decode_one == nullptr) continue;
+      for (int round = 0; round < ravo::test::Rounds(40); ++round) {
+        const codec::Encoding& to = codec::Encodings()[random() % codec::Encodings().size()];
+        if (to.encode_one == nullptr) continue;
+        const std::string bytes = RandomBytes(random, from).substr(0, random() % 80);
+        Conversion conversion;
+        conversion.from = &from;
+        conversion.to = &to;
+        const test::Outcome whole = test::InPieces(conversion, BytesOf(bytes), bytes.size() + 1);
+        const test::Outcome at_once = AtOnce(conversion, BytesOf(bytes));
+        const bool is_done = at_once.fault.empty();
+        ASSERT_EQ(at_once.bytes, is_done ? "before" + whole.bytes : "before") << from.name << to.name;
+        ASSERT_TRUE(!is_done || whole.fault.empty()) << from.name << to.name;
+        done += is_done ? 1 : 0;
+      }
+    }
+  }
+  EXPECT_GT(done, 100U);
+}
+
+TEST(TextConverter, ConvertsCzechAtOnce) {
+  const std::u16string text = u"Příliš žluťoučký kůň";
+  for (const char* const from : {"UTF_8", "Windows_1250", "Iso_8859_2", "UTF_16_LE", "UTF_32_BE"}) {
+    for (const char* const to : {"UTF_8", "Windows_1250", "CP_852", "UCS_2_BE", "UCS_4_LE"}) {
+      Conversion conversion;
+      conversion.from = codec::FindEncoding(from);
+      conversion.to = codec::FindEncoding(to);
+      const test::Outcome outcome = AtOnce(conversion, BytesOf(codec::Encoded(*conversion.from, text)));
+      EXPECT_EQ(outcome.fault, "") << from << to;
+      EXPECT_EQ(outcome.bytes, "before" + codec::Encoded(*conversion.to, text)) << from << to;
     }
   }
 }

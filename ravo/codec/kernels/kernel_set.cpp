@@ -1,5 +1,7 @@
 #include <ravo/codec/kernels/kernels.h>
 
+#include <algorithm>
+
 namespace ravo::codec {
 namespace {
 
@@ -16,6 +18,9 @@ Run DecodeNoTable(const ByteTable&, ByteSpan, TextRoom) noexcept { return {}; }
 Run EncodeNoTable(const ReverseTable&, bool, TextSpan, ByteRoom) noexcept { return {}; }
 Run DecodeNoUnits(bool, bool, ByteSpan, TextRoom) noexcept { return {}; }
 Run EncodeNoUnits(bool, bool, TextSpan, ByteRoom) noexcept { return {}; }
+std::size_t FindSpecialPlainly(TextSpan text) noexcept {
+  return static_cast<std::size_t>(std::ranges::find_if(text, IsSpecial) - text.begin());
+}
 
 template <class Char>
 std::size_t SkipNone(const Char*, const Char*, std::size_t, const Char (&)[2]) noexcept {
@@ -34,6 +39,7 @@ constexpr KernelSet kPlain = {.name = "plain",
                               .encode_single_byte = EncodeNoTable,
                               .decode_units = DecodeNoUnits,
                               .encode_units = EncodeNoUnits,
+                              .find_special = FindSpecialPlainly,
                               .skip_bytes = SkipNone<char>,
                               .skip_units = SkipNone<char16_t>};
 
@@ -50,6 +56,7 @@ constexpr KernelSet Baseline() {
   set.encode_single_byte = EncodeSingleByteBlocks;
   set.decode_units = DecodeUnitBlocks;
   set.encode_units = EncodeUnitBlocks;
+  set.find_special = FindSpecialBlocks;
   return set;
 }
 
@@ -73,6 +80,7 @@ constexpr KernelSet Avx2() {
   set.decode_utf8 = DecodeUtf8Avx2;
   set.encode_utf8 = EncodeUtf8Avx2;
   set.utf8_length = Utf8LengthAvx2;
+  set.find_special = FindSpecialAvx2;
   set.skip_bytes = SkipBytesAvx2;
   set.skip_units = SkipUnitsAvx2;
   return set;
@@ -94,6 +102,7 @@ constexpr KernelSet Wide() {
   set.decode_single_byte = DecodeSingleByteAvx512;
   set.decode_single_byte_until = DecodeSingleByteUntilAvx512;
   set.encode_single_byte = EncodeSingleByteAvx512;
+  set.find_special = FindSpecialAvx512;
   return set;
 }
 

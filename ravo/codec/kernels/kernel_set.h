@@ -51,6 +51,9 @@ struct KernelSet {
   Run (*decode_units)(bool swap, bool plain_only, ByteSpan bytes, TextRoom text) noexcept;
   Run (*encode_units)(bool swap, bool plain_only, TextSpan text, ByteRoom bytes) noexcept;
 
+  /// Returns the index of the first special unit (`IsSpecial`); the size if there is none.
+  std::size_t (*find_special)(TextSpan text) noexcept;
+
   SkipPlaces<char> skip_bytes;
   SkipPlaces<char16_t> skip_units;
 };

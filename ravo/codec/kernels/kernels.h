@@ -12,6 +12,7 @@ namespace ravo::codec {
 [[nodiscard]] Run DecodeSingleByteAscii(const ByteTable& table, ByteSpan bytes, TextRoom text) noexcept;
 [[nodiscard]] Run EncodeSingleByteBlocks(const ReverseTable& table, bool ascii, TextSpan text,
                                          ByteRoom bytes) noexcept;
+[[nodiscard]] std::size_t FindSpecialBlocks(TextSpan text) noexcept;
 [[nodiscard]] Run DecodeUnitBlocks(bool swap, bool plain_only, ByteSpan bytes, TextRoom text) noexcept;
 [[nodiscard]] Run EncodeUnitBlocks(bool swap, bool plain_only, TextSpan text, ByteRoom bytes) noexcept;
 
@@ -23,6 +24,7 @@ namespace ravo::codec {
 [[nodiscard]] Run DecodeUtf8Avx2(ByteSpan bytes, TextRoom text) noexcept;
 [[nodiscard]] Run EncodeUtf8Avx2(TextSpan text, ByteRoom bytes) noexcept;
 [[nodiscard]] std::size_t Utf8LengthAvx2(TextSpan text) noexcept;
+[[nodiscard]] std::size_t FindSpecialAvx2(TextSpan text) noexcept;
 [[nodiscard]] std::size_t SkipBytesAvx2(const char* text, const char* last_text, std::size_t places,
                                         const char (&ends)[2]) noexcept;
 [[nodiscard]] std::size_t SkipUnitsAvx2(const char16_t* text, const char16_t* last_text, std::size_t places,
@@ -39,5 +41,6 @@ namespace ravo::codec {
                                                    const ByteTable& table) noexcept;
 [[nodiscard]] Run EncodeSingleByteAvx512(const ReverseTable& table, bool ascii, TextSpan text,
                                          ByteRoom bytes) noexcept;
+[[nodiscard]] std::size_t FindSpecialAvx512(TextSpan text) noexcept;
 
 }  // namespace ravo::codec

@@ -19,6 +19,11 @@ inline constexpr char16_t kReplacement = 0xFFFD;
   return (unit & 0xFFFFF800) == 0xD800;
 }
 
+/// Returns whether `unit` is U+FFFD or a surrogate, which an engine may have made of other characters.
+[[nodiscard]] constexpr bool IsSpecial(char16_t unit) noexcept {
+  return IsSurrogate(unit) || unit == kReplacement;
+}
+
 /// The progress of a run.
 struct Run {
   std::size_t taken = 0;  ///< units of the source

@@ -28,7 +28,26 @@ RAVO_AVX2 inline std::size_t SkipBlocks(const Char* text, const Char* last_text,
   return at;
 }
 
+// The letters of Europe lack the highest bit of special units.
+RAVO_AVX2 inline bool LackHighestBit(const char16_t* units, std::size_t count) {
+  using Units = WideBlock<char16_t>;
+  Units all;
+  for (std::size_t at = 0; at < count; at += Units::kUnits) all = all | Units::Load(units + at);
+  return all.HasNoneOf(Units(char16_t{0x8000}));
+}
+
 }  // namespace
+
+RAVO_AVX2 std::size_t FindSpecialAvx2(TextSpan text) noexcept {
+  constexpr std::size_t kBig = 8 * WideBlock<char16_t>::kUnits;
+  std::size_t at = 0;
+  for (; text.size() - at >= kBig; at += kBig) {
+    if (LackHighestBit(text.data() + at, kBig)) continue;
+    const std::size_t found = FindSpecialBlocks(text.subspan(at, kBig));
+    if (found != kBig) return at + found;
+  }
+  return at + FindSpecialBlocks(text.subspan(at));
+}
 
 RAVO_AVX2 std::size_t SkipBytesAvx2(const char* text, const char* last_text, std::size_t places,
                                     const char (&ends)[2]) noexcept {
