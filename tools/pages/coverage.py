@@ -47,7 +47,7 @@ def rooms_table(files: dict[str, File]) -> str:
             for counts in (rooms[f"`{room(name)}`"][kind], rooms["all"][kind]):
                 counts[0] += summary["covered"]
                 counts[1] += summary["count"]
-    order = sorted(rooms, key=lambda name: (name == "all", name))
+    order = sorted((name for name in rooms if rooms[name]["functions"][1] != 0), key=lambda name: (name == "all", name))
     return table(("room", *KINDS), [(name, *(percent(rooms[name][kind]) for kind in KINDS)) for name in order])
 
 
@@ -128,7 +128,7 @@ def report(project: pathlib.Path, coverage: pathlib.Path, listing: pathlib.Path)
     """The text of the page's block; places that are neither run nor marked go into the listing."""
     data = json.loads(read(coverage))["data"][0]
     ours = {file["filename"].removeprefix(f"{project}/"): file for file in data["files"]}
-    library = {name: file for name, file in sorted(ours.items()) if name.startswith("ravo/")}
+    library = {name: file for name, file in sorted(ours.items()) if name.startswith(("ravo/", "c/"))}
     tests = [evaluated(project, name, file) for name, file in ours.items() if name.startswith("tests/")]
     places, idle = list(unmarked(project, library)), list(idle_marks(project, library))
     marked = sum(len(list(marks(read(project / name)))) for name in library)
