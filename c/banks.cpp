@@ -1,4 +1,5 @@
 #include "columns_answers.h"
+#include "handles.h"
 #include <ravo/czech/banks.h>
 
 #include <algorithm>
@@ -8,6 +9,7 @@
 #include <vector>
 
 using ravo::c::Answer;
+using ravo::c::FailArgument;
 using ravo::c::FailNullResult;
 using ravo::c::FailRange;
 using ravo::c::FailStruct;
@@ -19,7 +21,7 @@ using ravo::c::IsKnown;
 using ravo::c::ReadText;
 namespace czech = ravo::czech;
 
-struct ravo_bank_list {
+struct ravo_bank_list : ravo::c::Handle {
   std::string text;
   std::vector<czech::Bank> banks;
   czech::Day date;
@@ -28,6 +30,7 @@ struct ravo_bank_list {
 namespace {
 
 czech::BankList ListOf(const ravo_bank_list* list) {
+  ravo::c::RefuseClosed(list);
   return list == nullptr ? czech::BuiltInBanks() : czech::BankList{list->banks, list->date};
 }
 
@@ -36,6 +39,8 @@ void EndWithNul(std::string& text, std::string_view column) {
   const auto end = static_cast<std::size_t>(column.data() - text.data()) + column.size();
   if (!column.empty() && end < text.size()) text[end] = '\0';
 }
+
+ravo_status FailClosed(ravo_error* error) { return FailArgument(error, "the list is closed"); }
 
 ravo_status FillBank(ravo_bank* bank, const czech::Bank& row) {
   Fill(*bank, {0, row.bic.empty() ? nullptr : row.bic.data(), row.name.empty() ? "" : row.name.data(),
@@ -90,13 +95,14 @@ ravo_status ravo_bank_list_open(const char* text, size_t text_length, ravo_day d
   return Guarded(error, [&, &csv = input] { return OpenList(csv, {date}, list, error); });
 }
 
-void ravo_bank_list_close(ravo_bank_list* list) { delete list; }
+void ravo_bank_list_close(ravo_bank_list* list) { ravo::c::Close(list); }
 
 ravo_day ravo_bank_list_date(const ravo_bank_list* list) { return ListOf(list).date.number; }
 
 size_t ravo_bank_count(const ravo_bank_list* list) { return ListOf(list).banks.size(); }
 
 ravo_status ravo_bank_at(const ravo_bank_list* list, size_t index, ravo_bank* bank, ravo_error* error) {
+  if (IsClosed(list)) return FailClosed(error);
   if (!IsKnown(bank)) return FailStruct(error);
   const auto banks = ListOf(list).banks;
   if (index >= banks.size()) return FailUnknown(error, "the list has fewer banks");
@@ -104,6 +110,7 @@ ravo_status ravo_bank_at(const ravo_bank_list* list, size_t index, ravo_bank* ba
 }
 
 ravo_status ravo_bank_find(const ravo_bank_list* list, int32_t code, ravo_bank* bank, ravo_error* error) {
+  if (IsClosed(list)) return FailClosed(error);
   if (!IsKnown(bank)) return FailStruct(error);
   if (code < 0 || code > 9999) return FailWrong(error, czech::Code::BankUnknown, 0);
   const czech::BankList banks = ListOf(list);
@@ -115,6 +122,7 @@ ravo_status ravo_bank_find(const ravo_bank_list* list, int32_t code, ravo_bank* 
 ravo_status ravo_bank_find_column(const ravo_bank_list* list, const ravo_column* column, uint32_t flags,
                                   ravo_answers* answers, ravo_progress progress, void* context,
                                   ravo_error* error) {
+  if (IsClosed(list)) return FailClosed(error);
   return Guarded(error, [&] {
     return ravo::c::AnswerTexts<ravo::c::kTexts>(column, {flags, progress, context}, answers, error,
                                                  BankName{ListOf(list)});

@@ -1,3 +1,4 @@
+#include "handles.h"
 #include "support.h"
 #include <ravo/codec/encoding.h>
 #include <ravo/document/check.h>
@@ -23,7 +24,7 @@ namespace codec = ravo::codec;
 namespace czech = ravo::czech;
 namespace document = ravo::document;
 
-struct ravo_document {
+struct ravo_document : ravo::c::Handle {
   struct Finding {
     document::Fault what;
     document::TextPlace place;
@@ -37,7 +38,9 @@ namespace {
 
 constexpr std::uint32_t kAllFlags = RAVO_DOCUMENT_RAW | RAVO_DOCUMENT_REFERENCES | RAVO_DOCUMENT_ADD;
 
-ravo_status FailNullDocument(ravo_error* error) { return FailArgument(error, "the document is null"); }
+ravo_status FailNoDocument(ravo_error* error) {
+  return FailArgument(error, "the document is null or closed");
+}
 
 ravo_status FailPlaced(ravo_error* error, const document::PlacedError& fault) {
   const std::string message = "line " + std::to_string(fault.Place().line) + ", column " +
@@ -129,10 +132,10 @@ ravo_status ravo_document_open(const void* bytes, size_t bytes_length, ravo_docu
   });
 }
 
-void ravo_document_close(ravo_document* own) { delete own; }
+void ravo_document_close(ravo_document* own) { ravo::c::Close(own); }
 
 ravo_status ravo_document_encoding(const ravo_document* own, ravo_encoding* encoding, ravo_error* error) {
-  if (own == nullptr) return FailNullDocument(error);
+  if (!IsOpen(own)) return FailNoDocument(error);
   if (encoding == nullptr) return FailNullResult(error);
   *encoding = static_cast<ravo_encoding>(codec::FindEncoding(own->content->Text().encoding) -
                                          codec::Encodings().data());
@@ -141,7 +144,7 @@ ravo_status ravo_document_encoding(const ravo_document* own, ravo_encoding* enco
 
 ravo_status ravo_document_get(const ravo_document* own, const char* path, size_t path_length, uint32_t flags,
                               char* buffer, size_t size, size_t* length, ravo_error* error) {
-  if (own == nullptr) return FailNullDocument(error);
+  if (!IsOpen(own)) return FailNoDocument(error);
   if (flags > RAVO_DOCUMENT_RAW) return FailArgument(error, "the flags are unknown");
   const auto [input, status] = ReadText(path, path_length, error);
   if (status != RAVO_OK) return status;
@@ -154,7 +157,7 @@ ravo_status ravo_document_get(const ravo_document* own, const char* path, size_t
 
 ravo_status ravo_document_set(ravo_document* own, const ravo_document_change* changes, size_t changes_length,
                               uint32_t flags, ravo_error* error) {
-  if (own == nullptr) return FailNullDocument(error);
+  if (!IsOpen(own)) return FailNoDocument(error);
   if (changes_length != 0 && (changes == nullptr || changes_length == RAVO_NUL_TERMINATED))
     return FailArgument(error, "the changes are null, but their number is not 0");
   if ((flags & ~kAllFlags) != 0) return FailArgument(error, "the flags are unknown");
@@ -170,13 +173,13 @@ ravo_status ravo_document_set(ravo_document* own, const ravo_document_change* ch
 
 ravo_status ravo_document_save(const ravo_document* own, void* buffer, size_t size, size_t* length,
                                ravo_error* error) {
-  if (own == nullptr) return FailNullDocument(error);
+  if (!IsOpen(own)) return FailNoDocument(error);
   return WriteBytes({static_cast<char*>(buffer), size, length}, own->content->Text().bytes, error);
 }
 
 ravo_status ravo_document_write(const ravo_document* own, ravo_write write, void* context,
                                 ravo_error* error) {
-  if (own == nullptr) return FailNullDocument(error);
+  if (!IsOpen(own)) return FailNoDocument(error);
   if (write == nullptr) return FailArgument(error, "the function is null");
   constexpr std::size_t kPiece = std::size_t{1} << 16;
   const std::string_view bytes = own->content->Text().bytes;
@@ -189,7 +192,7 @@ ravo_status ravo_document_write(const ravo_document* own, ravo_write write, void
 }
 
 ravo_status ravo_document_check(ravo_document* own, size_t* count, ravo_error* error) {
-  if (own == nullptr) return FailNullDocument(error);
+  if (!IsOpen(own)) return FailNoDocument(error);
   if (count == nullptr) return FailNullResult(error);
   return GuardedDocument(error, [&] {
     own->findings = FindingsOf(*own->content);
@@ -200,7 +203,7 @@ ravo_status ravo_document_check(ravo_document* own, size_t* count, ravo_error* e
 
 ravo_status ravo_document_finding_at(const ravo_document* own, size_t index, ravo_document_finding* finding,
                                      ravo_error* error) {
-  if (own == nullptr) return FailNullDocument(error);
+  if (!IsOpen(own)) return FailNoDocument(error);
   if (!IsKnown(finding)) return FailStruct(error);
   if (index >= own->findings.size()) return FailUnknown(error, "the document has fewer findings");
   const auto& [what, place] = own->findings[index];
@@ -210,7 +213,7 @@ ravo_status ravo_document_finding_at(const ravo_document* own, size_t index, rav
 
 ravo_status ravo_document_finding_sentence(const ravo_document* own, size_t index, ravo_language language,
                                            char* buffer, size_t size, size_t* length, ravo_error* error) {
-  if (own == nullptr) return FailNullDocument(error);
+  if (!IsOpen(own)) return FailNoDocument(error);
   if (language != RAVO_LANGUAGE_CZECH && language != RAVO_LANGUAGE_ENGLISH)
     return FailArgument(error, "the language is unknown");
   if (index >= own->findings.size()) return FailUnknown(error, "the document has fewer findings");

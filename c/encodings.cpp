@@ -1,4 +1,5 @@
 #include "columns_answers.h"
+#include "handles.h"
 #include "piece_converter.h"
 #include <ravo/codec/byte_order_mark.h>
 
@@ -155,7 +156,7 @@ ravo_status ConvertWhole(std::string_view bytes, PieceConverter& converter, Fill
 
 }  // namespace
 
-struct ravo_converter {
+struct ravo_converter : ravo::c::Handle {
   PieceConverter pieces;
   std::size_t pulled = 0;
   bool failed = false;
@@ -233,16 +234,16 @@ ravo_status ravo_converter_open(ravo_encoding from, ravo_encoding to, ravo_conve
   if (const auto obstacle = Obstacle(from, to, policy); !obstacle.empty())
     return FailArgument(error, obstacle);
   return Guarded(error, [&] {
-    *converter = new ravo_converter{PieceConverter(ConversionOf(from, to, policy))};
+    *converter = new ravo_converter{{}, PieceConverter(ConversionOf(from, to, policy))};
     return RAVO_OK;
   });
 }
 
-void ravo_converter_close(ravo_converter* converter) { delete converter; }
+void ravo_converter_close(ravo_converter* converter) { ravo::c::Close(converter); }
 
 ravo_status ravo_converter_push(ravo_converter* converter, const void* bytes, size_t bytes_length,
                                 int32_t is_last, ravo_error* error) {
-  if (converter == nullptr) return FailArgument(error, "the converter is null");
+  if (!IsOpen(converter)) return FailArgument(error, "the converter is null or closed");
   const auto [input, status] = ReadBytes(bytes, bytes_length, error);
   if (status != RAVO_OK) return status;
   if (converter->failed) return FailArgument(error, "the converter has failed or is at its end");
@@ -256,7 +257,7 @@ ravo_status ravo_converter_push(ravo_converter* converter, const void* bytes, si
 
 ravo_status ravo_converter_pull(ravo_converter* converter, void* buffer, size_t size, size_t* length,
                                 ravo_error* error) {
-  if (converter == nullptr) return FailArgument(error, "the converter is null");
+  if (!IsOpen(converter)) return FailArgument(error, "the converter is null or closed");
   if (length == nullptr) return FailNullResult(error);
   if (buffer == nullptr && size != 0) return FailArgument(error, "the buffer is null, but its size is not 0");
   const std::string_view made = converter->pieces.Made().substr(converter->pulled);

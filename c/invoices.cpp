@@ -1,3 +1,4 @@
+#include "handles.h"
 #include "support.h"
 #include <ravo/isdoc/check.h>
 #include <ravo/isdoc/fields.h>
@@ -21,7 +22,7 @@ using ravo::c::ReadText;
 namespace czech = ravo::czech;
 namespace isdoc = ravo::isdoc;
 
-struct ravo_invoice {
+struct ravo_invoice : ravo::c::Handle {
   std::pmr::monotonic_buffer_resource texts;
   ravo_invoice_head head{};
   std::array<ravo_invoice_party, 2> parties{};
@@ -34,10 +35,10 @@ struct ravo_invoice {
 
 namespace {
 
-static_assert(RAVO_INVOICE_OTHER == static_cast<int>(isdoc::Version::Other));
-static_assert(RAVO_INVOICE_NONE == static_cast<int>(isdoc::Version::None));
+static_assert(RAVO_INVOICE_VERSION_OTHER == static_cast<int>(isdoc::Version::Other));
+static_assert(RAVO_INVOICE_VERSION_NONE == static_cast<int>(isdoc::Version::None));
 static_assert(RAVO_INVOICE_WAY_LINES == static_cast<int>(isdoc::TaxWay::SumOfLines));
-static_assert(RAVO_INVOICE_ERROR == static_cast<int>(isdoc::Severity::Error));
+static_assert(RAVO_INVOICE_SEVERITY_ERROR == static_cast<int>(isdoc::Severity::Error));
 
 // Fills an invoice from its document, which it does not need any more.
 class InvoiceFiller {
@@ -163,7 +164,7 @@ ravo_status OpenInvoice(std::string_view text, ravo_invoice** invoice, ravo_erro
 template <class Part>
 ravo_status WritePart(const ravo_invoice* invoice, Part* result, Part ravo_invoice::*part,
                       ravo_error* error) {
-  if (invoice == nullptr) return FailArgument(error, "the invoice is null");
+  if (!IsOpen(invoice)) return FailArgument(error, "the invoice is null or closed");
   if (!IsKnown(result)) return FailStruct(error);
   Fill(*result, invoice->*part);
   return RAVO_OK;
@@ -172,7 +173,7 @@ ravo_status WritePart(const ravo_invoice* invoice, Part* result, Part ravo_invoi
 template <class Row>
 ravo_status WriteRow(const ravo_invoice* invoice, std::size_t index, Row* result,
                      std::vector<Row> ravo_invoice::*rows, ravo_error* error) {
-  if (invoice == nullptr) return FailArgument(error, "the invoice is null");
+  if (!IsOpen(invoice)) return FailArgument(error, "the invoice is null or closed");
   if (!IsKnown(result)) return FailStruct(error);
   if (index >= (invoice->*rows).size()) return FailUnknown(error, "the invoice has fewer of them");
   Fill(*result, (invoice->*rows)[index]);
@@ -181,6 +182,7 @@ ravo_status WriteRow(const ravo_invoice* invoice, std::size_t index, Row* result
 
 template <class Row>
 std::size_t CountOf(const ravo_invoice* invoice, std::vector<Row> ravo_invoice::*rows) {
+  ravo::c::RefuseClosed(invoice);
   return invoice == nullptr ? 0 : (invoice->*rows).size();
 }
 
@@ -194,7 +196,7 @@ ravo_status ravo_invoice_open(const char* text, size_t text_length, ravo_invoice
   return Guarded(error, [&, &xml = input] { return OpenInvoice(xml, invoice, error); });
 }
 
-void ravo_invoice_close(ravo_invoice* invoice) { delete invoice; }
+void ravo_invoice_close(ravo_invoice* invoice) { ravo::c::Close(invoice); }
 
 ravo_status ravo_invoice_head_of(const ravo_invoice* invoice, ravo_invoice_head* head, ravo_error* error) {
   return WritePart(invoice, head, &ravo_invoice::head, error);
@@ -202,9 +204,9 @@ ravo_status ravo_invoice_head_of(const ravo_invoice* invoice, ravo_invoice_head*
 
 ravo_status ravo_invoice_party_of(const ravo_invoice* invoice, ravo_invoice_role role,
                                   ravo_invoice_party* party, ravo_error* error) {
-  if (invoice == nullptr) return FailArgument(error, "the invoice is null");
+  if (!IsOpen(invoice)) return FailArgument(error, "the invoice is null or closed");
   if (!IsKnown(party)) return FailStruct(error);
-  if (role != RAVO_INVOICE_SUPPLIER && role != RAVO_INVOICE_CUSTOMER)
+  if (role != RAVO_INVOICE_ROLE_SUPPLIER && role != RAVO_INVOICE_ROLE_CUSTOMER)
     return FailArgument(error, "the role is unknown");
   Fill(*party, invoice->parties[static_cast<std::size_t>(role)]);
   return RAVO_OK;

@@ -1,3 +1,4 @@
+#include "handles.h"
 #include "support.h"
 #include <ravo/utils/random.h>
 
@@ -18,7 +19,7 @@ using ravo::c::TextIn;
 using ravo::c::WriteText;
 using Twister = ravo::DIUtils::TMT19937;
 
-struct ravo_random {
+struct ravo_random : ravo::c::Handle {
   explicit ravo_random(const Twister& seeded) : twister(seeded) {}
   Twister twister;
 };
@@ -35,7 +36,7 @@ ravo_status OpenRandom(const Seed& seed, ravo_random** random, ravo_error* error
 
 template <class Number>
 ravo_status Draw(ravo_random* random, Number (Twister::*next)(), Number* number, ravo_error* error) {
-  if (random == nullptr) return FailArgument(error, "the generator is null");
+  if (!IsOpen(random)) return FailArgument(error, "the generator is null or closed");
   if (number == nullptr) return FailNullResult(error);
   return Guarded(error, [&] {
     *number = (random->twister.*next)();
@@ -84,7 +85,7 @@ ravo_status ravo_random_open_bytes(const void* bytes, size_t bytes_length, ravo_
   return OpenRandom(seed.bytes, random, error);
 }
 
-void ravo_random_close(ravo_random* random) { delete random; }
+void ravo_random_close(ravo_random* random) { ravo::c::Close(random); }
 
 ravo_status ravo_random_int31(ravo_random* random, uint32_t* number, ravo_error* error) {
   return Draw(random, &Twister::genrand_int31, number, error);
@@ -120,7 +121,7 @@ ravo_status ravo_random_res53(ravo_random* random, double* number, ravo_error* e
 
 ravo_status ravo_random_text(ravo_random* random, const char* alphabet, size_t alphabet_length, size_t count,
                              char* buffer, size_t size, size_t* length, ravo_error* error) {
-  if (random == nullptr) return FailArgument(error, "the generator is null");
+  if (!IsOpen(random)) return FailArgument(error, "the generator is null or closed");
   const TextIn letters = ReadText(alphabet, alphabet_length, error);
   if (letters.status != RAVO_OK) return letters.status;
   if (letters.text.empty() && count != 0) return FailArgument(error, "the alphabet is empty");

@@ -15,30 +15,40 @@
  *
  * Texts.    A text is UTF-8 and a length in bytes. Pass RAVO_NUL_TERMINATED as the length of a C string. Null is
  *           a text of length 0; null with another length is RAVO_ARGUMENT. Ill-formed UTF-8 is RAVO_UTF8, at its
- *           position. A text may contain NUL.
+ *           position. A text may contain NUL. Bytes are a void pointer and a length, for which
+ *           RAVO_NUL_TERMINATED is RAVO_ARGUMENT.
  * Results.  A text goes into the caller's buffer of `size` bytes and ends with NUL; `*length` receives its whole
  *           length without the NUL, as snprintf returns it. If the buffer is too small, it receives what fits, never
  *           a part of a character, and the function returns RAVO_BUFFER. A null buffer with size 0 asks for the
- *           length alone: RAVO_OK. `length` may be null. What the buffer has past the NUL is undefined.
+ *           length alone: RAVO_OK. `length` may be null. What the buffer has past the NUL is undefined. Bytes go
+ *           into a void buffer in the same way, without NUL: all of them, or none if it is too small.
+ * Structs.  A struct that begins with its size is declared with its _INIT: `ravo_bank bank = RAVO_BANK_INIT;`.
+ *           Its texts are UTF-8 and end with NUL.
  * Failure.  A function that can fail returns a ravo_status; RAVO_OK is 0. The last parameter is null or a
  *           ravo_error of the caller, which every failure fills. Results are written on RAVO_OK and, as said above,
- *           on RAVO_BUFFER; on any other status they are as they were. Nothing is thrown, nothing is kept for the
- *           thread, no function ends the process.
+ *           on RAVO_BUFFER; on any other status they are as they were. An unknown number of an enum, unknown flags, and
+ *           null for a result that is not said to allow it are RAVO_ARGUMENT. Nothing is thrown, nothing is kept for
+ *           the thread, no function ends the process.
  * Memory.   No function returns memory that the caller must free. Strings that a function returns are constants of
- *           the library, or live as long as the handle that has them. What says "never allocates" calls no allocator
- *           at all. What _open opens, _close closes.
- * Threads.  Every function may be called from any thread at any time. A handle may be read by several threads at
- *           once.
+ *           the library, or live as long as the handle that has them. Each function or the head of its chapter says
+ *           whether it allocates. What "never allocates" calls no allocator at all.
+ * Handles.  What _open opens, _close closes; null may be closed. A handle that was closed must not be used again.
+ * Callback. A function of the caller receives the `context` of the call. It returns 0 to continue; another number
+ *           stops the work, which returns RAVO_STOPPED with that number as `error->code`.
+ * Threads.  Every function may be called from any thread at any time. Several threads at once may read one handle;
+ *           no other may use it while one changes it. What changes a handle takes it without const.
  * Money.    A ravo_money is an amount in ten-thousandths: 12 crowns 50 are 125000.
  * Days.     A ravo_day is a Julian Day Number: 2451545 is 1 January 2000. What depends on the day takes it as an
- *           argument: but for the chapter "this machine", nothing asks the clock.
+ *           argument: but for the chapter "This machine", nothing asks the clock.
  * Versions. Names, numbers and meanings in this file are kept for ever; new ones are added. A struct that may grow
- *           begins with its size, which its _INIT sets. The symbols have the version RAVO_1.0.
+ *           begins with its size. The symbols have the version RAVO_1.0. Nothing in
+ *           this file is experimental.
  *
- * A check of form says "correct in form" and never that something exists. The file is in chapters: failure,
- * version, checks, what numbers tell, banks, days, holidays and terms, money, VAT, payment codes, invoices, the
- * suite's own rules, its forms and records, its tables, captions and modules, this machine, texts, order, characters,
- * checksums, random numbers, encodings, XML documents, the suite's XML, columns.
+ * A check of form says "correct in form" and never that something exists. The chapters, the general before the
+ * special: Failure; Version; Checks; What numbers tell; Banks; Days; Holidays and terms; Money; VAT; Payment
+ * codes; Invoices; Texts; Order; Characters; Checksums; Random numbers and texts; Encodings; XML documents; The
+ * suite's rules; The suite's forms and records; The suite's tables, captions and modules; The suite's XML;
+ * Columns; This machine.
  */
 #ifndef RAVO_H
 #define RAVO_H
@@ -63,7 +73,7 @@ extern "C" {
 /* The length of a text that ends with NUL. */
 #define RAVO_NUL_TERMINATED ((size_t)-1)
 
-/* What a function answers. */
+/* What a function returns. */
 typedef int32_t ravo_status;
 enum {
   RAVO_OK = 0,        /* done, or correct in form */
@@ -80,7 +90,7 @@ enum {
   RAVO_LACKING = 11   /* an encoding lacks a character */
 };
 
-/* Why a function failed. Declare it as `ravo_error error = RAVO_ERROR_INIT;`. */
+/* Why a function failed. */
 typedef struct ravo_error {
   size_t size;         /* sizeof(ravo_error), set by the caller */
   ravo_status status;  /* what the function returned */
@@ -127,7 +137,7 @@ const char *RAVO_CALL ravo_version(void);
 
 /*
  * Writes what the library was built with and runs on: lines of "name: value", such as the vector kernels that
- * this processor gets and the dates of the lists inside.
+ * this processor gets and the dates of the lists inside. Allocates.
  */
 ravo_status RAVO_CALL ravo_build_info(char *buffer, size_t size, size_t *length, ravo_error *error);
 
@@ -186,7 +196,9 @@ ravo_status RAVO_CALL ravo_check(ravo_kind kind, const char *text, size_t text_l
 /*
  * Checks a text for a kind and writes its usual spelling, of at most RAVO_VALUE_SIZE bytes.
  *
- * As ravo_check, but for the form: "CZ65 0800 0000 1920 0014 5399". Never allocates.
+ * Fails as ravo_check does. Never allocates.
+ *
+ *     ravo_respell(RAVO_KIND_IBAN, "CZ6508000000192000145399", ...)  // CZ65 0800 0000 1920 0014 5399
  */
 ravo_status RAVO_CALL ravo_respell(ravo_kind kind, const char *text, size_t text_length, char *buffer, size_t size,
                                    size_t *length, ravo_error *error);
@@ -194,11 +206,11 @@ ravo_status RAVO_CALL ravo_respell(ravo_kind kind, const char *text, size_t text
 /* ------------------------------------------------------------------------------------------------------------
  * What numbers tell
  *
- * An account tells its IBAN, a birth number the day of birth, a letter what is to be paid. Each function refuses
- * what ravo_check refuses, with the same reasons: RAVO_WRONG.
+ * An account tells its IBAN, a birth number the day of birth, a letter where to pay. Each function refuses what
+ * ravo_check refuses, with the same reasons: RAVO_WRONG.
  */
 
-/* A Czech bank account. Declare it as `ravo_account account = RAVO_ACCOUNT_INIT;`. */
+/* A Czech bank account. */
 typedef struct ravo_account {
   size_t size;     /* sizeof(ravo_account), set by the caller */
   int64_t number;  /* at most ten digits */
@@ -237,7 +249,7 @@ typedef int32_t ravo_day;
 typedef int32_t ravo_sex;
 enum { RAVO_SEX_MALE = 0, RAVO_SEX_FEMALE = 1 };
 
-/* What a birth number tells. Declare it as `ravo_birth birth = RAVO_BIRTH_INIT;`. */
+/* What a birth number tells. */
 typedef struct ravo_birth {
   size_t size;            /* sizeof(ravo_birth), set by the caller */
   ravo_day born;          /* the day of birth */
@@ -262,7 +274,7 @@ ravo_status RAVO_CALL ravo_birth_read(const char *text, size_t text_length, ravo
 ravo_status RAVO_CALL ravo_isbn_to_13(const char *text, size_t text_length, char *buffer, size_t size,
                                       size_t *length, ravo_error *error);
 
-/* A piece of payment data in a text. Declare it as `ravo_payment payment = RAVO_PAYMENT_INIT;`. */
+/* A piece of payment data in a text. */
 typedef struct ravo_payment {
   size_t size;                      /* sizeof(ravo_payment), set by the caller */
   size_t begin;                     /* where it begins, past its label, in bytes */
@@ -288,13 +300,13 @@ ravo_status RAVO_CALL ravo_payment_find(const char *text, size_t text_length, si
  * Banks
  *
  * A list says which banks there were on its day, and nothing about other days. One is built in; a newer one is
- * opened from the central bank's CSV. Where a function takes a list, null is the one that is built in.
+ * opened from the central bank's CSV. Null for a list is the one that is built in.
  */
 
 /* A list of banks. */
 typedef struct ravo_bank_list ravo_bank_list;
 
-/* A bank. Declare it as `ravo_bank bank = RAVO_BANK_INIT;`. Its texts live as long as the list. */
+/* A bank. Its texts live as long as the list. */
 typedef struct ravo_bank {
   size_t size;       /* sizeof(ravo_bank), set by the caller */
   const char *bic;   /* null if it has none */
@@ -311,18 +323,18 @@ typedef struct ravo_bank {
  *
  * `date` is the day of the list. RAVO_WRONG with the reasons "bank.line", "bank.code", "bank.twice" and
  * "bank.empty", at their position; RAVO_RANGE for a day outside of the calendar. The list keeps no part of the
- * text. Close it with ravo_bank_list_close. Allocates.
+ * text. Allocates.
  */
 ravo_status RAVO_CALL ravo_bank_list_open(const char *text, size_t text_length, ravo_day date,
                                           ravo_bank_list **list, ravo_error *error);
 
-/* Closes a list. Null is allowed. */
+/* Closes a list. */
 void RAVO_CALL ravo_bank_list_close(ravo_bank_list *list);
 
-/* Returns the day of a list; of the one that is built in for null. Never allocates. */
+/* Returns the day of a list. Never allocates. */
 ravo_day RAVO_CALL ravo_bank_list_date(const ravo_bank_list *list);
 
-/* Returns how many banks a list has; the one that is built in for null. Never allocates. */
+/* Returns how many banks a list has. Never allocates. */
 size_t RAVO_CALL ravo_bank_count(const ravo_bank_list *list);
 
 /* Writes the bank with an index, by code in ascending order. RAVO_UNKNOWN past the last. Never allocates. */
@@ -338,30 +350,29 @@ ravo_status RAVO_CALL ravo_bank_find(const ravo_bank_list *list, int32_t code, r
 
 /* ------------------------------------------------------------------------------------------------------------
  * Days
+ *
+ * The proleptic Gregorian calendar, in the years 1 to 9999; RAVO_RANGE outside of them and for dates that it does not
+ * have.
  */
 
-/* A date of the proleptic Gregorian calendar. */
+/* A date of the calendar. */
 typedef struct ravo_date {
   int32_t year;  /* 1 to 9999 */
   int32_t month; /* 1 to 12 */
   int32_t day;   /* of the month, from 1 */
 } ravo_date;
 
-/* Writes the day of a date. RAVO_RANGE if there is no such date. Never allocates. */
+/* Writes the day of a date. Never allocates. */
 ravo_status RAVO_CALL ravo_day_of(int32_t year, int32_t month, int32_t day_of_month, ravo_day *day,
                                   ravo_error *error);
 
-/* Writes the date of a day. RAVO_RANGE outside of the years 1 to 9999. Never allocates. */
+/* Writes the date of a day. Never allocates. */
 ravo_status RAVO_CALL ravo_date_of(ravo_day day, ravo_date *date, ravo_error *error);
 
 /* Returns 1 if a year of the Gregorian calendar is a leap year, else 0. Never allocates. */
 int32_t RAVO_CALL ravo_is_leap_year(int32_t year);
 
-/*
- * Writes the day of the week, 0 for Monday to 6 for Sunday.
- *
- * RAVO_RANGE outside of the years 1 to 9999, as all functions of this chapter. Never allocates.
- */
+/* Writes the day of the week, 0 for Monday to 6 for Sunday. Never allocates. */
 ravo_status RAVO_CALL ravo_weekday_of(ravo_day day, int32_t *weekday, ravo_error *error);
 
 /* A week by ISO 8601. */
@@ -410,8 +421,7 @@ ravo_status RAVO_CALL ravo_day_format(ravo_day day, ravo_date_form form, char *b
 /*
  * Writes the day of a date as people write it: each form of ravo_date_form, in Czech with or without blanks.
  *
- * RAVO_WRONG with code 0 for a text that is none of them, RAVO_RANGE if there is no such date. Blanks around it
- * are skipped. Never allocates.
+ * RAVO_WRONG with code 0 for a text that is none of them. Blanks around it are skipped. Never allocates.
  */
 ravo_status RAVO_CALL ravo_day_read(const char *text, size_t text_length, ravo_day *day, ravo_error *error);
 
@@ -422,7 +432,7 @@ ravo_status RAVO_CALL ravo_day_read(const char *text, size_t text_length, ravo_d
  * 1993 there are no holidays.
  */
 
-/* A public holiday. Declare it as `ravo_holiday holiday = RAVO_HOLIDAY_INIT;`. */
+/* A public holiday. */
 typedef struct ravo_holiday {
   size_t size;          /* sizeof(ravo_holiday), set by the caller */
   const char *czech;    /* its name by law, UTF-8 */
@@ -468,7 +478,7 @@ ravo_status RAVO_CALL ravo_next_working_day(ravo_day day, ravo_day *working_day,
  */
 ravo_status RAVO_CALL ravo_working_days_between(ravo_day from, ravo_day to, int32_t *days, ravo_error *error);
 
-/* When a term ends. Declare it as `ravo_term term = RAVO_TERM_INIT;`. */
+/* When a term ends. */
 typedef struct ravo_term {
   size_t size;       /* sizeof(ravo_term), set by the caller */
   ravo_day counted;  /* as the days or months count */
@@ -501,7 +511,7 @@ ravo_status RAVO_CALL ravo_days_overdue(ravo_day due, ravo_day today, int32_t *d
  * All products are exact, and each result is rounded once. RAVO_RANGE if a result does not fit 64 bits.
  */
 
-/* An amount in ten-thousandths: 12 crowns 50 are 125000. */
+/* An amount of money in ten-thousandths. */
 typedef int64_t ravo_money;
 
 /* How an amount between two multiples of a step is rounded. */
@@ -527,7 +537,7 @@ ravo_status RAVO_CALL ravo_money_format(ravo_money amount, int32_t separator, in
                                         size_t size, size_t *length, ravo_error *error);
 
 /*
- * Writes the amount that a whole text is: a sign, digits, a separator, at most four decimals that are not zeros
+ * Writes the amount of a text, which is a sign, digits, a separator, at most four decimals that are not zeros
  * at the end.
  *
  * RAVO_WRONG with code 0 for any other text and for amounts that do not fit 64 bits. Never allocates for texts of
@@ -558,16 +568,12 @@ ravo_status RAVO_CALL ravo_money_times_ratio(ravo_money amount, int64_t numerato
 /*
  * Writes an amount times a rate, rounded to a multiple of `step`. 2100 is 21 %, 253400 an exchange rate of 25,34.
  *
- * As ravo_money_times_ratio. Allocates on failure alone.
+ * Fails as ravo_money_times_ratio does. Allocates on failure alone.
  */
 ravo_status RAVO_CALL ravo_money_times_rate(ravo_money amount, ravo_money rate, ravo_money step,
                                             ravo_rounding rounding, ravo_money *result, ravo_error *error);
 
-/*
- * Writes an amount in whole crowns, and the rounded amount less the given one.
- *
- * Never allocates.
- */
+/* Writes an amount rounded to whole crowns, and the rounded amount less the given one. Never allocates. */
 ravo_status RAVO_CALL ravo_money_to_crowns(ravo_money amount, ravo_rounding rounding, ravo_money *rounded,
                                            ravo_money *difference, ravo_error *error);
 
@@ -595,7 +601,7 @@ enum {
   RAVO_VAT_FROM_TOTAL = 2                 /* total less total / (1 + rate) */
 };
 
-/* A rate. Declare it as `ravo_vat_rate rate = RAVO_VAT_RATE_INIT;`. */
+/* A rate. */
 typedef struct ravo_vat_rate {
   size_t size;         /* sizeof(ravo_vat_rate), set by the caller */
   const char *law;     /* the law that set it: "500/2012" */
@@ -623,7 +629,7 @@ ravo_status RAVO_CALL ravo_vat_percent_on(ravo_day day, ravo_vat_kind kind, int3
 /* Writes the kind of a percentage on a day. RAVO_UNKNOWN if there was no such rate. Never allocates. */
 ravo_status RAVO_CALL ravo_vat_kind_on(ravo_day day, int32_t percent, ravo_vat_kind *kind, ravo_error *error);
 
-/* A way of computing the tax. Declare it as `ravo_vat_way way = RAVO_VAT_WAY_INIT;`. */
+/* A way of computing the tax. */
 typedef struct ravo_vat_way {
   size_t size;             /* sizeof(ravo_vat_way), set by the caller */
   const char *law;         /* the law that has it: "235/2004" */
@@ -643,7 +649,7 @@ ravo_status RAVO_CALL ravo_vat_way_at(size_t index, ravo_vat_way *way, ravo_erro
 /* Returns 1 if a way of computing the tax is lawful on a day, else 0. Never allocates. */
 int32_t RAVO_CALL ravo_vat_is_lawful(ravo_vat_method method, ravo_day day);
 
-/* Base, tax and total of an amount. Declare it as `ravo_vat_amounts amounts = RAVO_VAT_AMOUNTS_INIT;`. */
+/* Base, tax and total of an amount. */
 typedef struct ravo_vat_amounts {
   size_t size;      /* sizeof(ravo_vat_amounts), set by the caller */
   ravo_money base;  /* without the tax */
@@ -685,7 +691,7 @@ typedef struct ravo_vat_row {
   int32_t half;    /* 1 if any of its taxes ends on half a haléř, else 0 */
 } ravo_vat_row;
 
-/* A document by rates. Declare it as `ravo_vat_summary summary = RAVO_VAT_SUMMARY_INIT;`. */
+/* A document by rates. */
 typedef struct ravo_vat_summary {
   size_t size;          /* sizeof(ravo_vat_summary), set by the caller */
   ravo_vat_row rows[4]; /* by ravo_vat_kind */
@@ -722,7 +728,7 @@ enum {
   RAVO_PAYMENT_CODE_SID = 1    /* an invoice */
 };
 
-/* A payment. Each value ends with NUL; null is left out. Declare it as `ravo_spayd code = RAVO_SPAYD_INIT;`. */
+/* A payment. Null values are left out. */
 typedef struct ravo_spayd {
   size_t size;                 /* sizeof(ravo_spayd), set by the caller */
   const char *account;         /* ACC: an IBAN, perhaps with "+" and a BIC; must be there */
@@ -764,7 +770,7 @@ typedef struct ravo_spayd {
 ravo_status RAVO_CALL ravo_spayd_write(const ravo_spayd *code, char *buffer, size_t size, size_t *length,
                                        ravo_error *error);
 
-/* An invoice. Each value ends with NUL; null is left out. Declare it as `ravo_sid code = RAVO_SID_INIT;`. */
+/* An invoice. Null values are left out. */
 typedef struct ravo_sid {
   size_t size;                 /* sizeof(ravo_sid), set by the caller */
   const char *number;          /* ID: of the document; must be there */
@@ -806,7 +812,7 @@ typedef struct ravo_sid {
 /*
  * Writes the code of an invoice, of at most RAVO_PAYMENT_CODE_SIZE bytes.
  *
- * As ravo_spayd_write, and with the reasons of IČO and DIČ. Never allocates.
+ * Fails as ravo_spayd_write does, and with the reasons of IČO and DIČ. Never allocates.
  */
 ravo_status RAVO_CALL ravo_sid_write(const ravo_sid *code, char *buffer, size_t size, size_t *length,
                                      ravo_error *error);
@@ -815,7 +821,7 @@ ravo_status RAVO_CALL ravo_sid_write(const ravo_sid *code, char *buffer, size_t 
  * Checks a code and writes which of the two it is and how many values it has.
  *
  * Keys that the standard does not have pass, and a checksum is compared. RAVO_WRONG with the reasons "code....",
- * those of accounts, IČO and DIČ, at their position in the text. Either result may not be null. Never allocates.
+ * those of accounts, IČO and DIČ, at their position in the text. Never allocates.
  */
 ravo_status RAVO_CALL ravo_payment_code_read(const char *text, size_t text_length, ravo_payment_code *code,
                                              size_t *values, ravo_error *error);
@@ -823,7 +829,7 @@ ravo_status RAVO_CALL ravo_payment_code_read(const char *text, size_t text_lengt
 /*
  * Writes key and value with an index, in the order of a code: "AM" and "450.00".
  *
- * As ravo_payment_code_read; RAVO_UNKNOWN past the last. A value may contain NUL. Never allocates.
+ * Fails as ravo_payment_code_read does; RAVO_UNKNOWN past the last. A value may contain NUL. Never allocates.
  */
 ravo_status RAVO_CALL ravo_payment_code_at(const char *text, size_t text_length, size_t index, char *key,
                                            size_t key_size, size_t *key_length, char *value, size_t value_size,
@@ -833,38 +839,37 @@ ravo_status RAVO_CALL ravo_payment_code_at(const char *text, size_t text_length,
  * Invoices
  *
  * Electronic invoices by the Czech national standard ISDOC 6.0.2: what is wrong with one, by the standard's schema, its
- * business rules and exact sums, and what it says. Everything is read and checked when an invoice is opened; what reads
- * an open one never allocates.
+ * business rules and exact sums, and what it says. Everything is read and checked when an invoice is opened.
  *
- * Texts are UTF-8 as the document has them, without white space at their ends, amounts and days too ("2026-11-21",
- * "1500.00"). They live as long as the invoice; what the document lacks is "". Amounts are in the currency of the books.
+ * Texts are as the document has them, without white space at their ends, amounts and days too ("2026-11-21", "1500.00").
+ * They live as long as the invoice; what the document lacks is "". Amounts are in the currency of the books.
  */
 
 /* An invoice. */
 typedef struct ravo_invoice ravo_invoice;
 
 /*
- * Reads and checks an invoice.
+ * Opens an invoice: reads and checks it.
  *
  * The text is UTF-8, whatever encoding it declares. RAVO_WRONG with code 0 for what is not XML: `error->position` is
  * the place, the message tells line and column and why. What is XML and no invoice is opened, and its findings say so.
- * The invoice keeps no part of the text. Close it with ravo_invoice_close. Allocates.
+ * The invoice keeps no part of the text. Allocates.
  */
 ravo_status RAVO_CALL ravo_invoice_open(const char *text, size_t text_length, ravo_invoice **invoice,
                                         ravo_error *error);
 
-/* Closes an invoice. Null is allowed. */
+/* Closes an invoice. */
 void RAVO_CALL ravo_invoice_close(ravo_invoice *invoice);
 
 /* Whether the checks know a document. */
 typedef int32_t ravo_invoice_version;
 enum {
-  RAVO_INVOICE_KNOWN = 0, /* ISDOC 6 */
-  RAVO_INVOICE_OTHER = 1, /* ISDOC of another version: findings say little */
-  RAVO_INVOICE_NONE = 2   /* no document of ISDOC */
+  RAVO_INVOICE_VERSION_KNOWN = 0, /* ISDOC 6 */
+  RAVO_INVOICE_VERSION_OTHER = 1, /* ISDOC of another version: findings say little */
+  RAVO_INVOICE_VERSION_NONE = 2   /* no document of ISDOC */
 };
 
-/* What an invoice says once. Declare it as `ravo_invoice_head head = RAVO_INVOICE_HEAD_INIT;`. */
+/* What an invoice says once. */
 typedef struct ravo_invoice_head {
   size_t size;                  /* sizeof(ravo_invoice_head), set by the caller */
   const char *number;           /* of the document */
@@ -880,15 +885,15 @@ typedef struct ravo_invoice_head {
 
 #define RAVO_INVOICE_HEAD_INIT {sizeof(ravo_invoice_head), 0, 0, 0, 0, 0, 0, 0, 0, 0}
 
-/* Writes what an invoice says once. */
+/* Writes what an invoice says once. Never allocates. */
 ravo_status RAVO_CALL ravo_invoice_head_of(const ravo_invoice *invoice, ravo_invoice_head *head,
                                            ravo_error *error);
 
 /* The two sides of the business. */
 typedef int32_t ravo_invoice_role;
-enum { RAVO_INVOICE_SUPPLIER = 0, RAVO_INVOICE_CUSTOMER = 1 };
+enum { RAVO_INVOICE_ROLE_SUPPLIER = 0, RAVO_INVOICE_ROLE_CUSTOMER = 1 };
 
-/* One side of the business. Declare it as `ravo_invoice_party party = RAVO_INVOICE_PARTY_INIT;`. */
+/* One side of the business. */
 typedef struct ravo_invoice_party {
   size_t size;         /* sizeof(ravo_invoice_party), set by the caller */
   const char *ico;     /* company number */
@@ -903,11 +908,11 @@ typedef struct ravo_invoice_party {
 
 #define RAVO_INVOICE_PARTY_INIT {sizeof(ravo_invoice_party), 0, 0, 0, 0, 0, 0, 0, 0}
 
-/* Writes a side of the business. */
+/* Writes a side of the business. Never allocates. */
 ravo_status RAVO_CALL ravo_invoice_party_of(const ravo_invoice *invoice, ravo_invoice_role role,
                                             ravo_invoice_party *party, ravo_error *error);
 
-/* A line. Declare it as `ravo_invoice_line line = RAVO_INVOICE_LINE_INIT;`. */
+/* A line. */
 typedef struct ravo_invoice_line {
   size_t size;            /* sizeof(ravo_invoice_line), set by the caller */
   const char *number;
@@ -927,7 +932,7 @@ typedef struct ravo_invoice_line {
 /* Returns how many lines an invoice has; 0 for null. Never allocates. */
 size_t RAVO_CALL ravo_invoice_line_count(const ravo_invoice *invoice);
 
-/* Writes the line with an index. RAVO_UNKNOWN past the last. */
+/* Writes the line with an index. RAVO_UNKNOWN past the last. Never allocates. */
 ravo_status RAVO_CALL ravo_invoice_line_at(const ravo_invoice *invoice, size_t index, ravo_invoice_line *line,
                                            ravo_error *error);
 
@@ -942,7 +947,7 @@ enum {
   RAVO_INVOICE_WAY_LINES = 5        /* the taxes of the lines added */
 };
 
-/* A row of the recapitulation. Declare it as `ravo_invoice_rate rate = RAVO_INVOICE_RATE_INIT;`. */
+/* A row of the recapitulation. */
 typedef struct ravo_invoice_rate {
   size_t size;                 /* sizeof(ravo_invoice_rate), set by the caller */
   const char *rate;            /* in percent */
@@ -964,11 +969,11 @@ typedef struct ravo_invoice_rate {
 /* Returns how many rows the recapitulation has; 0 for null. Never allocates. */
 size_t RAVO_CALL ravo_invoice_rate_count(const ravo_invoice *invoice);
 
-/* Writes the row of the recapitulation with an index. RAVO_UNKNOWN past the last. */
+/* Writes the row of the recapitulation with an index. RAVO_UNKNOWN past the last. Never allocates. */
 ravo_status RAVO_CALL ravo_invoice_rate_at(const ravo_invoice *invoice, size_t index, ravo_invoice_rate *rate,
                                            ravo_error *error);
 
-/* The sums of an invoice. Declare it as `ravo_invoice_totals totals = RAVO_INVOICE_TOTALS_INIT;`. */
+/* The sums of an invoice. */
 typedef struct ravo_invoice_totals {
   size_t size;                 /* sizeof(ravo_invoice_totals), set by the caller */
   const char *base;            /* without the tax */
@@ -985,11 +990,11 @@ typedef struct ravo_invoice_totals {
 
 #define RAVO_INVOICE_TOTALS_INIT {sizeof(ravo_invoice_totals), 0, 0, 0, 0, 0, 0, 0, 0, 0, 0}
 
-/* Writes the sums of an invoice. */
+/* Writes the sums of an invoice. Never allocates. */
 ravo_status RAVO_CALL ravo_invoice_totals_of(const ravo_invoice *invoice, ravo_invoice_totals *totals,
                                              ravo_error *error);
 
-/* A payment of an invoice. Declare it as `ravo_invoice_payment payment = RAVO_INVOICE_PAYMENT_INIT;`. */
+/* A payment of an invoice. */
 typedef struct ravo_invoice_payment {
   size_t size;         /* sizeof(ravo_invoice_payment), set by the caller */
   const char *amount;
@@ -1009,18 +1014,18 @@ typedef struct ravo_invoice_payment {
 /* Returns how many payments an invoice has; 0 for null. Never allocates. */
 size_t RAVO_CALL ravo_invoice_payment_count(const ravo_invoice *invoice);
 
-/* Writes the payment with an index. RAVO_UNKNOWN past the last. */
+/* Writes the payment with an index. RAVO_UNKNOWN past the last. Never allocates. */
 ravo_status RAVO_CALL ravo_invoice_payment_at(const ravo_invoice *invoice, size_t index,
                                               ravo_invoice_payment *payment, ravo_error *error);
 
 /* How grave a finding is. */
 typedef int32_t ravo_invoice_severity;
 enum {
-  RAVO_INVOICE_NOTE = 0, /* lawful, or within half a haléř for each line; worth a look */
-  RAVO_INVOICE_ERROR = 1 /* the document breaks a rule */
+  RAVO_INVOICE_SEVERITY_NOTE = 0, /* lawful, or within half a haléř for each line; worth a look */
+  RAVO_INVOICE_SEVERITY_ERROR = 1 /* the document breaks a rule */
 };
 
-/* What is wrong with an invoice. Declare it as `ravo_invoice_finding finding = RAVO_INVOICE_FINDING_INIT;`. */
+/* What is wrong with an invoice. */
 typedef struct ravo_invoice_finding {
   size_t size;                    /* sizeof(ravo_invoice_finding), set by the caller */
   const char *name;               /* the stable name of the rule: "sum.lines" */
@@ -1039,7 +1044,7 @@ typedef struct ravo_invoice_finding {
 /* Returns how many findings an invoice has, of structure and content; 0 for null. Never allocates. */
 size_t RAVO_CALL ravo_invoice_finding_count(const ravo_invoice *invoice);
 
-/* Writes the finding with an index, in the order of the text. RAVO_UNKNOWN past the last. */
+/* Writes the finding with an index, in the order of the text. RAVO_UNKNOWN past the last. Never allocates. */
 ravo_status RAVO_CALL ravo_invoice_finding_at(const ravo_invoice *invoice, size_t index,
                                               ravo_invoice_finding *finding, ravo_error *error);
 
@@ -1051,7 +1056,653 @@ ravo_status RAVO_CALL ravo_invoice_finding_at(const ravo_invoice *invoice, size_
 const char *RAVO_CALL ravo_invoice_rule_sentence(int32_t rule, ravo_language language);
 
 /* ------------------------------------------------------------------------------------------------------------
- * The suite's own rules
+ * Texts
+ *
+ * Case is mapped character by character: the number of characters stays. Functions that write texts allocate.
+ */
+
+/* Writes a text in upper case. */
+ravo_status RAVO_CALL ravo_text_upper(const char *text, size_t text_length, char *buffer, size_t size,
+                                      size_t *length, ravo_error *error);
+
+/* Writes a text in lower case. */
+ravo_status RAVO_CALL ravo_text_lower(const char *text, size_t text_length, char *buffer, size_t size,
+                                      size_t *length, ravo_error *error);
+
+/* Writes the case-folded form of a text, equal for texts that differ only in case. */
+ravo_status RAVO_CALL ravo_text_fold(const char *text, size_t text_length, char *buffer, size_t size,
+                                     size_t *length, ravo_error *error);
+
+/* Writes a text with the first character of each word in upper case and the others in lower case. */
+ravo_status RAVO_CALL ravo_text_proper(const char *text, size_t text_length, char *buffer, size_t size,
+                                       size_t *length, ravo_error *error);
+
+/*
+ * Writes 1 if a whole text matches a mask, else 0. "*" is any run of characters, "?" one character of UTF-16.
+ *
+ * `ignore_case` is 0, or 1 to fold both. Never allocates for texts and masks of up to 256 bytes.
+ */
+ravo_status RAVO_CALL ravo_text_match(const char *text, size_t text_length, const char *mask, size_t mask_length,
+                                      int32_t ignore_case, int32_t *answer, ravo_error *error);
+
+/*
+ * Writes 1 if a whole text matches a mask, else 0, as ravo_text_match does, with the units of UTF-16 `wild` for "*" and
+ * `one` for "?". If both are the same, it is `wild`.
+ *
+ * Never allocates for texts and masks of up to 256 bytes.
+ */
+ravo_status RAVO_CALL ravo_text_match_with(const char *text, size_t text_length, const char *mask,
+                                           size_t mask_length, uint16_t wild, uint16_t one, int32_t ignore_case,
+                                           int32_t *answer, ravo_error *error);
+
+/* Writes a text in the form encoding of URLs: "a+b%26c" of "a b&c". */
+ravo_status RAVO_CALL ravo_url_encode(const char *text, size_t text_length, char *buffer, size_t size,
+                                      size_t *length, ravo_error *error);
+
+/*
+ * Writes a form-encoded text decoded. A "%" without two hexadecimal digits stays.
+ *
+ * RAVO_UTF8 if the result is not UTF-8, at its position there.
+ */
+ravo_status RAVO_CALL ravo_url_decode(const char *text, size_t text_length, char *buffer, size_t size,
+                                      size_t *length, ravo_error *error);
+
+/* Writes the part of a URI before the first "#"; all of it if there is none. */
+ravo_status RAVO_CALL ravo_uri_without_fragment(const char *uri, size_t uri_length, char *buffer, size_t size,
+                                                size_t *length, ravo_error *error);
+
+/* Writes the part of a URI after the first "#"; an empty text if there is none. */
+ravo_status RAVO_CALL ravo_uri_fragment(const char *uri, size_t uri_length, char *buffer, size_t size,
+                                        size_t *length, ravo_error *error);
+
+/* ------------------------------------------------------------------------------------------------------------
+ * Order
+ *
+ * The Czech alphabetical order: c, č, ... h, ch, ... r, ř, s, š, ... z, ž. Of words with the same letters, accents
+ * decide, then capitals: small letters come first. Blanks and signs precede letters, digits follow them (ČSN 97
+ * 6030). It is the same on every machine. To sort many texts, make a key of each: keys compare byte by byte, as
+ * memcmp does and then their lengths, and so do columns of bytes.
+ */
+
+/* How texts compare; add up what is wanted. */
+typedef int32_t ravo_order_flags;
+enum {
+  RAVO_ORDER_PLAIN = 0,        /* as said above */
+  RAVO_ORDER_IGNORE_CASE = 1,  /* small letters and capitals are equal */
+  RAVO_ORDER_NATURAL = 2,      /* runs of the digits 0 to 9 compare by value: "FV9" before "FV10" */
+  RAVO_ORDER_DIGITS_FIRST = 4  /* digits precede letters, as in most programs */
+};
+
+/*
+ * Writes -1, 0 or 1: whether text `a` comes before `b` in the Czech order, is equal to it, or comes after it.
+ *
+ * Never allocates.
+ *
+ *     ravo_compare_czech("cihla", RAVO_NUL_TERMINATED, "čaj", RAVO_NUL_TERMINATED, 0, &order, NULL)  // -1
+ */
+ravo_status RAVO_CALL ravo_compare_czech(const char *a, size_t a_length, const char *b, size_t b_length,
+                                         ravo_order_flags flags, int32_t *order, ravo_error *error);
+
+/*
+ * Writes the key of a text in the Czech order: bytes, of which none is 0 without RAVO_ORDER_NATURAL.
+ *
+ * Keys of the same flags compare as their texts do. Other versions of the library may make other keys: do not store
+ * them. Allocates.
+ */
+ravo_status RAVO_CALL ravo_czech_key(const char *text, size_t text_length, ravo_order_flags flags, void *buffer,
+                                     size_t size, size_t *length, ravo_error *error);
+
+/*
+ * Writes -1, 0 or 1: how the numbers compare with which two texts begin.
+ *
+ * A number is a sign, digits of any count, blanks between them, a decimal comma or point: "-1 234,50 Kč". A text
+ * without a number is less than any number. Never allocates.
+ */
+ravo_status RAVO_CALL ravo_compare_numbers(const char *a, size_t a_length, const char *b, size_t b_length,
+                                           int32_t *order, ravo_error *error);
+
+/*
+ * Writes the key of the number with which a text begins: bytes.
+ *
+ * Keys compare as ravo_compare_numbers does. Other versions of the library may make other keys: do not store them.
+ * Allocates.
+ */
+ravo_status RAVO_CALL ravo_number_key(const char *text, size_t text_length, void *buffer, size_t size,
+                                      size_t *length, ravo_error *error);
+
+/*
+ * Writes a negative number, 0 or a positive one: how the suite compares two texts with numbers, by UTF-16 units.
+ *
+ * The number is the difference of two units or of two lengths, or 1 or -1 if one number is longer. Digits are those
+ * of every script. Zeros inside a number do not count: "105" comes before "15", so that the order has cycles.
+ * `ignore_case` is 0, or 1 to fold both. Never allocates for texts of up to 256 bytes.
+ */
+ravo_status RAVO_CALL ravo_suite_compare_num(const char *a, size_t a_length, const char *b, size_t b_length,
+                                             int32_t ignore_case, int64_t *difference, ravo_error *error);
+
+/*
+ * Writes how the suite compares bytes of any encoding, as ravo_suite_compare_num does texts: digits are 0 to 9, and
+ * ASCII letters alone have case.
+ *
+ * Never allocates.
+ */
+ravo_status RAVO_CALL ravo_suite_compare_num_bytes(const void *a, size_t a_length, const void *b,
+                                                   size_t b_length, int32_t ignore_case, int64_t *difference,
+                                                   ravo_error *error);
+
+/* ------------------------------------------------------------------------------------------------------------
+ * Characters
+ *
+ * A character is a unit of UTF-16, as in the suite: one past U+FFFF is two surrogates, which have a category of
+ * their own and map to themselves. The tables are those of Unicode 15.0.0.
+ */
+
+/* What a character can be. In brackets: the category of Unicode. */
+typedef int32_t ravo_character_property;
+enum {
+  RAVO_CHARACTER_UNASSIGNED = 0,                  /* (Cn) no character, in the version of the tables */
+  RAVO_CHARACTER_LETTER_UPPER_CASE = 1,           /* (Lu) */
+  RAVO_CHARACTER_LETTER_LOWER_CASE = 2,           /* (Ll) */
+  RAVO_CHARACTER_LETTER_TITLE_CASE = 3,           /* (Lt) such as U+01C5 */
+  RAVO_CHARACTER_LETTER_MODIFIER = 4,             /* (Lm) */
+  RAVO_CHARACTER_LETTER_OTHER = 5,                /* (Lo) a letter without case */
+  RAVO_CHARACTER_MARK_NON_SPACING = 6,            /* (Mn) */
+  RAVO_CHARACTER_MARK_SPACING_COMBINED = 7,       /* (Mc) */
+  RAVO_CHARACTER_MARK_ENCLOSING = 8,              /* (Me) */
+  RAVO_CHARACTER_NUMBER_DECIMAL = 9,              /* (Nd) a decimal digit of any script */
+  RAVO_CHARACTER_NUMBER_LETTER = 10,              /* (Nl) such as U+2160, the Roman one */
+  RAVO_CHARACTER_NUMBER_OTHER = 11,               /* (No) such as U+00BD, a half */
+  RAVO_CHARACTER_PUNCTUATION_CONNECTOR = 12,      /* (Pc) such as the low line */
+  RAVO_CHARACTER_PUNCTUATION_DASH = 13,           /* (Pd) */
+  RAVO_CHARACTER_PUNCTUATION_OPEN = 14,           /* (Ps) */
+  RAVO_CHARACTER_PUNCTUATION_CLOSE = 15,          /* (Pe) */
+  RAVO_CHARACTER_PUNCTUATION_INITIAL_QUOTE = 16,  /* (Pi) */
+  RAVO_CHARACTER_PUNCTUATION_FINAL_QUOTE = 17,    /* (Pf) */
+  RAVO_CHARACTER_PUNCTUATION_OTHER = 18,          /* (Po) */
+  RAVO_CHARACTER_SYMBOL_MATH = 19,                /* (Sm) */
+  RAVO_CHARACTER_SYMBOL_CURRENCY = 20,            /* (Sc) */
+  RAVO_CHARACTER_SYMBOL_MODIFIER = 21,            /* (Sk) */
+  RAVO_CHARACTER_SYMBOL_OTHER = 22,               /* (So) */
+  RAVO_CHARACTER_SEPARATOR_SPACE = 23,            /* (Zs) */
+  RAVO_CHARACTER_SEPARATOR_LINE = 24,             /* (Zl) */
+  RAVO_CHARACTER_SEPARATOR_PARAGRAPH = 25,        /* (Zp) */
+  RAVO_CHARACTER_OTHER_CONTROL = 26,              /* (Cc) */
+  RAVO_CHARACTER_OTHER_FORMAT = 27,               /* (Cf) */
+  RAVO_CHARACTER_OTHER_SURROGATE = 28,            /* (Cs) */
+  RAVO_CHARACTER_OTHER_PRIVATE_USE = 29,          /* (Co) */
+  RAVO_CHARACTER_LETTER = 30,                     /* (L) numbers 1 to 5 */
+  RAVO_CHARACTER_MARK = 31,                       /* (M) numbers 6 to 8 */
+  RAVO_CHARACTER_NUMBER = 32,                     /* (N) numbers 9 to 11 */
+  RAVO_CHARACTER_PUNCTUATION = 33,                /* (P) numbers 12 to 18 */
+  RAVO_CHARACTER_SYMBOL = 34,                     /* (S) numbers 19 to 22 */
+  RAVO_CHARACTER_SEPARATOR = 35,                  /* (Z) numbers 23 to 25 */
+  RAVO_CHARACTER_OTHER = 36,                      /* (C) numbers 26 to 29: without the unassigned ones */
+  RAVO_CHARACTER_LETTER_COMMON = 37,              /* a letter of the Latin, Greek and Cyrillic blocks */
+  RAVO_CHARACTER_WHITE_SPACE = 38,                /* by the property White_Space */
+  RAVO_CHARACTER_ALPHA = 39,                      /* a letter */
+  RAVO_CHARACTER_ALPHA_NUM = 40,                  /* a letter or a decimal digit of any script */
+  RAVO_CHARACTER_DIGIT = 41,                      /* a decimal digit of any script */
+  RAVO_CHARACTER_HEX_DIGIT = 42,                  /* 0 to 9, A to F, a to f */
+  RAVO_CHARACTER_HANGUL = 43,                     /* a syllable, U+AC00 to U+D7A3 */
+  RAVO_CHARACTER_CR_LF = 44,                      /* carriage return or line feed */
+  RAVO_CHARACTER_LOW_LINE = 45,                   /* "_" */
+  RAVO_CHARACTER_QUOTE = 46,                      /* U+0022 or U+0027 */
+  RAVO_CHARACTER_WORD_SEPARATOR = 47,             /* assigned, and no letter, mark, number, connector, surrogate */
+  RAVO_CHARACTER_WHITE_SPACE_OR_AMPERSAND = 48,   /* white space or "&" */
+  RAVO_CHARACTER_WHITE_SPACE_OR_COLON = 49,       /* white space or ":" */
+  RAVO_CHARACTER_WHITE_SPACE_OR_NO_BREAK_SPACE = 50, /* white space, of which U+00A0 is */
+  RAVO_CHARACTER_WHITE_SPACE_GT = 51,             /* white space or ">" */
+  RAVO_CHARACTER_WHITE_SPACE_LT = 52,             /* white space or "<" */
+  RAVO_CHARACTER_WHITE_SPACE_HYPHEN = 53,         /* white space or "-" */
+  RAVO_CHARACTER_WHITE_SPACE_HYPHEN_GT = 54       /* white space, "-" or ">" */
+};
+
+/*
+ * Writes 1 if a character has a property, else 0.
+ *
+ * Never allocates.
+ *
+ *     ravo_character_is(0x010D, RAVO_CHARACTER_LETTER, &answer, NULL)  // 1: č
+ */
+ravo_status RAVO_CALL ravo_character_is(uint16_t unit, ravo_character_property property, int32_t *answer,
+                                        ravo_error *error);
+
+/* Writes the category of a character: one of the numbers 0 to 29. Never allocates. */
+ravo_status RAVO_CALL ravo_character_category(uint16_t unit, ravo_character_property *category,
+                                              ravo_error *error);
+
+/*
+ * Returns the short name of a category or of a group, such as "Lu" or "L", or null for what is neither.
+ *
+ * Never allocates.
+ */
+const char *RAVO_CALL ravo_character_category_name(ravo_character_property category);
+
+/* Writes the upper case of a character, or itself if it has none of one unit. Never allocates. */
+ravo_status RAVO_CALL ravo_character_to_upper(uint16_t unit, uint16_t *mapped, ravo_error *error);
+
+/* Writes the lower case of a character, or itself if it has none of one unit. Never allocates. */
+ravo_status RAVO_CALL ravo_character_to_lower(uint16_t unit, uint16_t *mapped, ravo_error *error);
+
+/* Writes the title case of a character: the upper case, but U+01C5 for U+01C4 and the like. Never allocates. */
+ravo_status RAVO_CALL ravo_character_to_title(uint16_t unit, uint16_t *mapped, ravo_error *error);
+
+/* Writes the case-folded form of a character, equal for those that differ only in case. Never allocates. */
+ravo_status RAVO_CALL ravo_character_to_case_fold(uint16_t unit, uint16_t *mapped, ravo_error *error);
+
+/*
+ * Writes the canonical combining class of a character: 0 for a starter, else the rank of a mark, up to 254.
+ *
+ * Never allocates.
+ */
+ravo_status RAVO_CALL ravo_character_combining_class(uint16_t unit, int32_t *rank, ravo_error *error);
+
+/* How a character is decomposed. */
+typedef int32_t ravo_decomposition;
+enum {
+  RAVO_DECOMPOSITION_CANONICAL = 0,  /* the full canonical one, marks in canonical order: "é" is "e" and U+0301 */
+  RAVO_DECOMPOSITION_COMPATIBLE = 1, /* the full compatibility one, or the canonical one if there is no other */
+  RAVO_DECOMPOSITION_HANGUL = 2      /* the letters of a Hangul syllable, which the others leave alone */
+};
+
+/*
+ * Writes the decomposition of a character; an empty text if it has none.
+ *
+ * Allocates.
+ */
+ravo_status RAVO_CALL ravo_character_decompose(uint16_t unit, ravo_decomposition decomposition, char *buffer,
+                                               size_t size, size_t *length, ravo_error *error);
+
+/* ------------------------------------------------------------------------------------------------------------
+ * Checksums
+ *
+ * For finding errors and for tables of keys, not for secrets.
+ */
+
+/*
+ * Changes the CRC-32 of zip and Ethernet to that of the bytes so far and these. Begin with 0.
+ *
+ * Never allocates.
+ *
+ *     uint32_t crc = 0;
+ *     ravo_crc32("123456789", 9, &crc, NULL);  // 0xCBF43926
+ */
+ravo_status RAVO_CALL ravo_crc32(const void *bytes, size_t bytes_length, uint32_t *crc, ravo_error *error);
+
+/* How bytes or characters count in the suite's hash. */
+typedef int32_t ravo_suite_hash_of;
+enum {
+  RAVO_SUITE_HASH_BYTES = 0,        /* the bytes */
+  RAVO_SUITE_HASH_UPPER_BYTES = 1,  /* the bytes in upper case, as letters of Windows-1250 */
+  RAVO_SUITE_HASH_TEXT = 2,         /* the little-endian bytes of the text in UTF-16 */
+  RAVO_SUITE_HASH_FOLDED_TEXT = 3   /* the case-folded UTF-16 units of the text */
+};
+
+/*
+ * Writes the suite's 32-bit hash. `initial` selects one of many independent hash functions.
+ *
+ * Texts are UTF-8. Texts of more than 256 bytes allocate.
+ */
+ravo_status RAVO_CALL ravo_suite_hash(ravo_suite_hash_of what, const void *bytes, size_t bytes_length,
+                                      uint32_t initial, uint32_t *hash, ravo_error *error);
+
+/* ------------------------------------------------------------------------------------------------------------
+ * Random numbers and texts
+ *
+ * The Mersenne Twister MT19937: a seed gives the same numbers on every machine. Not for secrets.
+ *
+ *     ravo_random *random = NULL;
+ *     uint32_t number = 0;
+ *     ravo_random_open(5489, &random, NULL);
+ *     ravo_random_int32(random, &number, NULL);  // 3499211612
+ *     ravo_random_close(random);
+ */
+
+/* A generator. */
+typedef struct ravo_random ravo_random;
+
+/* Opens a generator by a number. Allocates. */
+ravo_status RAVO_CALL ravo_random_open(uint32_t seed, ravo_random **random, ravo_error *error);
+
+/* Opens a generator by an array of keys, as the generator's authors do. RAVO_RANGE if there are none. Allocates. */
+ravo_status RAVO_CALL ravo_random_open_array(const uint32_t *keys, size_t keys_length, ravo_random **random,
+                                             ravo_error *error);
+
+/*
+ * Opens a generator by bytes, as the suite does: each byte is a key.
+ *
+ * From 624 bytes on it is another generator than that of an array with the same keys. RAVO_RANGE if there are none.
+ * Allocates.
+ */
+ravo_status RAVO_CALL ravo_random_open_bytes(const void *bytes, size_t bytes_length, ravo_random **random,
+                                             ravo_error *error);
+
+/* Closes a generator. */
+void RAVO_CALL ravo_random_close(ravo_random *random);
+
+/* Writes the upper 31 of the next 32 bits: 0 to 2147483647. Never allocates. */
+ravo_status RAVO_CALL ravo_random_int31(ravo_random *random, uint32_t *number, ravo_error *error);
+
+/* Writes the next 32 bits. Never allocates. */
+ravo_status RAVO_CALL ravo_random_int32(ravo_random *random, uint32_t *number, ravo_error *error);
+
+/*
+ * Writes the next 32 bits as the low half, and the upper 31 bits of the draw after it as the high half.
+ *
+ * RAVO_RANGE if the highest bit of the low half is set, as it is every other time: that draw is gone. For 63 bits
+ * that never fail, call ravo_random_int32 and ravo_random_int31. Allocates on failure alone.
+ */
+ravo_status RAVO_CALL ravo_random_int63(ravo_random *random, int64_t *number, ravo_error *error);
+
+/*
+ * Writes the next 32 bits as the low half, and the 32 bits after them as the high half.
+ *
+ * RAVO_RANGE if the highest bit of either is set: the draws up to that one are gone. For 64 bits that never fail,
+ * call ravo_random_int32 twice. Allocates on failure alone.
+ */
+ravo_status RAVO_CALL ravo_random_int64(ravo_random *random, int64_t *number, ravo_error *error);
+
+/* Writes a number from 0 to 1, both included, in steps of 1 / (2^32 - 1). Never allocates. */
+ravo_status RAVO_CALL ravo_random_real1(ravo_random *random, double *number, ravo_error *error);
+
+/* Writes a number from 0 to below 1, in steps of 2^-32. Never allocates. */
+ravo_status RAVO_CALL ravo_random_real2(ravo_random *random, double *number, ravo_error *error);
+
+/* Writes a number between 0 and 1, neither included, in steps of 2^-32. Never allocates. */
+ravo_status RAVO_CALL ravo_random_real3(ravo_random *random, double *number, ravo_error *error);
+
+/* Writes a number from 0 to below 1, in steps of 2^-53, from two draws. Never allocates. */
+ravo_status RAVO_CALL ravo_random_res53(ravo_random *random, double *number, ravo_error *error);
+
+/*
+ * Writes a text of `count` characters of an alphabet, one draw for each: what the suite's StrRandom makes if the
+ * generator was just opened by the bytes of its seed.
+ *
+ * RAVO_ARGUMENT if the alphabet is empty and `count` is not 0. If the buffer is null or too small, the generator stays
+ * as it was. Allocates.
+ */
+ravo_status RAVO_CALL ravo_random_text(ravo_random *random, const char *alphabet, size_t alphabet_length,
+                                       size_t count, char *buffer, size_t size, size_t *length,
+                                       ravo_error *error);
+
+/* ------------------------------------------------------------------------------------------------------------
+ * Encodings
+ *
+ * Conversion is exact: every character of Unicode, and what the encoding's definition calls malformed is malformed.
+ * A byte-order mark is a character like any other.
+ */
+
+/*
+ * An encoding by its number, 0, 1, ... without gaps.
+ *
+ * Other versions of the library may have other numbers: keep the name.
+ */
+typedef int32_t ravo_encoding;
+
+/* What is known of an encoding. */
+typedef struct ravo_encoding_info {
+  size_t size;          /* sizeof(ravo_encoding_info), set by the caller */
+  const char *name;     /* "Windows_1250" */
+  const char *label;    /* for people */
+  const char *aliases;  /* other names, separated by blanks */
+  const char *notes;    /* remarks; may be empty */
+  int32_t code_page;    /* Windows number; 0 if it has none */
+  int32_t can_read;     /* 1 if it can be converted from, else 0 */
+  int32_t can_write;    /* 1 if it can be converted to, else 0 */
+} ravo_encoding_info;
+
+#define RAVO_ENCODING_INFO_INIT {sizeof(ravo_encoding_info), 0, 0, 0, 0, 0, 0, 0}
+
+/* Returns how many encodings there are. Never allocates. */
+size_t RAVO_CALL ravo_encoding_count(void);
+
+/* Writes what is known of an encoding. RAVO_UNKNOWN for a number that is none. Never allocates. */
+ravo_status RAVO_CALL ravo_encoding_at(ravo_encoding encoding, ravo_encoding_info *info, ravo_error *error);
+
+/*
+ * Writes the encoding with a name, an alias, a label, or the number of a code page with or without "cp".
+ *
+ * Only ASCII letters and digits count, in either case. RAVO_UNKNOWN if there is none. Never allocates.
+ *
+ *     ravo_encoding_find("windows-1250", RAVO_NUL_TERMINATED, &encoding, NULL)
+ */
+ravo_status RAVO_CALL ravo_encoding_find(const char *name, size_t name_length, ravo_encoding *encoding,
+                                         ravo_error *error);
+
+/* Writes the encoding with the number of a Windows code page. RAVO_UNKNOWN if there is none. Never allocates. */
+ravo_status RAVO_CALL ravo_encoding_of_code_page(int32_t code_page, ravo_encoding *encoding, ravo_error *error);
+
+/*
+ * Writes the encoding that a byte-order mark at the start of bytes names, and the mark's length in bytes.
+ *
+ * Fewer than four bytes count as the whole text. `mark_length` may be null. RAVO_UNKNOWN if there is no mark. Never
+ * allocates.
+ */
+ravo_status RAVO_CALL ravo_encoding_of_mark(const void *bytes, size_t bytes_length, ravo_encoding *encoding,
+                                            size_t *mark_length, ravo_error *error);
+
+/* Which texts are possible; add up what is wanted. */
+typedef int32_t ravo_detect_flags;
+enum {
+  RAVO_DETECT_PLAIN = 0, /* Czech texts of Windows, DOS and Unix, and of every form of Unicode */
+  RAVO_DETECT_MAC = 1    /* and those of the Macintosh: Mac Central European */
+};
+
+/* Why an encoding was detected. It is sure for the numbers 1 to 5. */
+typedef int32_t ravo_evidence;
+enum {
+  RAVO_EVIDENCE_MARK = 1,    /* a byte-order mark */
+  RAVO_EVIDENCE_ZEROS = 2,   /* the zero bytes of UTF-16 or UTF-32 */
+  RAVO_EVIDENCE_ASCII = 3,   /* ASCII characters only, which count as UTF-8 */
+  RAVO_EVIDENCE_UTF8 = 4,    /* bytes that are valid UTF-8, too many for chance */
+  RAVO_EVIDENCE_CZECH = 5,   /* it looks most like Czech in this encoding */
+  RAVO_EVIDENCE_ALIKE = 6,   /* several encodings read it alike */
+  RAVO_EVIDENCE_CLOSE = 7,   /* several encodings are possible */
+  RAVO_EVIDENCE_FOREIGN = 8, /* it does not look like Czech in any encoding */
+  RAVO_EVIDENCE_BINARY = 9   /* zero bytes: it may not be text */
+};
+
+/* The encoding that a text seems to have. */
+typedef struct ravo_detection {
+  size_t size;              /* sizeof(ravo_detection), set by the caller */
+  size_t candidates;        /* how many cannot be told apart; 1 if it is sure */
+  ravo_encoding encoding;   /* the most likely one */
+  ravo_evidence evidence;   /* why */
+  int32_t is_sure;          /* 1 if there is no doubt, else 0 */
+} ravo_detection;
+
+#define RAVO_DETECTION_INIT {sizeof(ravo_detection), 0, 0, 0, 0}
+
+/*
+ * Writes the encoding that a text seems to have, by its first bytes; they may end inside a character.
+ *
+ * 256 KiB are more than enough. Allocates.
+ *
+ *     ravo_encoding_detect("P\xF8\xEDli\x9A", 6, RAVO_DETECT_PLAIN, &detection, NULL)  // Windows-1250
+ */
+ravo_status RAVO_CALL ravo_encoding_detect(const void *bytes, size_t bytes_length, ravo_detect_flags flags,
+                                           ravo_detection *detection, ravo_error *error);
+
+/*
+ * Writes one of the encodings that cannot be told apart, by its index from 0, from the most likely one on.
+ *
+ * Detects again. RAVO_UNKNOWN past the last. Allocates.
+ */
+ravo_status RAVO_CALL ravo_encoding_candidate_at(const void *bytes, size_t bytes_length, ravo_detect_flags flags,
+                                                 size_t index, ravo_encoding *encoding, ravo_error *error);
+
+/* What becomes of bytes and characters that cannot be converted. */
+typedef int32_t ravo_convert_policy;
+enum {
+  RAVO_CONVERT_STRICT = 0, /* the conversion fails at its position */
+  RAVO_CONVERT_REPLACE = 1 /* it becomes U+FFFD, or "?" if the encoding lacks that */
+};
+
+/* A function of the caller that receives how many of `total` bytes, or rows of a column, are done. */
+typedef int32_t(RAVO_CALL *ravo_progress)(void *context, size_t done, size_t total);
+
+/*
+ * Converts bytes from one encoding to another.
+ *
+ * RAVO_ARGUMENT if an encoding cannot be read or written. With RAVO_CONVERT_STRICT, RAVO_MALFORMED for bytes that are
+ * no character and RAVO_LACKING for a character that `to` lacks, at the position in `bytes`. `progress` may be null.
+ * If the buffer is too small, or on failure, its contents are undefined. Allocates.
+ */
+ravo_status RAVO_CALL ravo_convert(ravo_encoding from, const void *bytes, size_t bytes_length, ravo_encoding to,
+                                   ravo_convert_policy policy, void *buffer, size_t size, size_t *length,
+                                   ravo_progress progress, void *context, ravo_error *error);
+
+/* A conversion of a text that comes in pieces. */
+typedef struct ravo_converter ravo_converter;
+
+/* Opens a conversion. Fails as ravo_convert does. Allocates. */
+ravo_status RAVO_CALL ravo_converter_open(ravo_encoding from, ravo_encoding to, ravo_convert_policy policy,
+                                          ravo_converter **converter, ravo_error *error);
+
+/* Closes a conversion. */
+void RAVO_CALL ravo_converter_close(ravo_converter *converter);
+
+/*
+ * Converts the next bytes of a text, of any number; the last characters may be cut. `is_last` is 1 if no more follow,
+ * else 0.
+ *
+ * Fails as ravo_convert does, with the position in the whole text. After a failure, and after the last bytes, the
+ * conversion takes no more: RAVO_ARGUMENT. Allocates.
+ */
+ravo_status RAVO_CALL ravo_converter_push(ravo_converter *converter, const void *bytes, size_t bytes_length,
+                                          int32_t is_last, ravo_error *error);
+
+/*
+ * Writes converted bytes that are waiting, at most `size`, and how many they are; 0 if none are left.
+ *
+ * Never allocates.
+ *
+ *     ravo_converter_push(converter, piece, piece_length, 0, NULL);
+ *     while (ravo_converter_pull(converter, buffer, sizeof buffer, &length, NULL) == RAVO_OK && length != 0)
+ *       fwrite(buffer, 1, length, file);
+ */
+ravo_status RAVO_CALL ravo_converter_pull(ravo_converter *converter, void *buffer, size_t size, size_t *length,
+                                          ravo_error *error);
+
+/* ------------------------------------------------------------------------------------------------------------
+ * XML documents
+ *
+ * Documents of any encoding, in which values are changed while every other byte stays as it is: white space, comments,
+ * quotes, references, the byte-order mark.
+ *
+ *     ravo_document *invoice = NULL;
+ *     ravo_document_change paid = {"Invoice/Note", RAVO_NUL_TERMINATED, "Zaplaceno", RAVO_NUL_TERMINATED};
+ *     if (ravo_document_open(bytes, length, &invoice, &error) == RAVO_OK &&
+ *         ravo_document_set(invoice, &paid, 1, RAVO_DOCUMENT_ADD, &error) == RAVO_OK)
+ *       ravo_document_write(invoice, write_to_file, file, &error);
+ *     ravo_document_close(invoice);
+ *
+ * A path names elements from the root on, each with its number among the elements of its name, counted from 1, and
+ * possibly an attribute: "Invoice/Line[2]/@ID". If no element has a name exactly, its case is ignored.
+ */
+
+/* A document. */
+typedef struct ravo_document ravo_document;
+
+/* How values are read and set; add up what is wanted. */
+enum {
+  RAVO_DOCUMENT_RAW = 1,        /* the value is XML as it is written: references and tags */
+  RAVO_DOCUMENT_REFERENCES = 2, /* set: a character that the encoding lacks becomes a reference such as &#x159; */
+  RAVO_DOCUMENT_ADD = 4         /* set: add a missing attribute, or a missing next element of a name */
+};
+
+/*
+ * Opens a document of any encoding: by its byte-order mark, else by its declaration, else UTF-8.
+ *
+ * RAVO_WRONG with code 0 for what is not XML: `error->position` is the place in `bytes`, the message tells line and
+ * column and why. The document keeps a copy of the bytes. Allocates.
+ */
+ravo_status RAVO_CALL ravo_document_open(const void *bytes, size_t bytes_length, ravo_document **document,
+                                         ravo_error *error);
+
+/* Closes a document. */
+void RAVO_CALL ravo_document_close(ravo_document *document);
+
+/* Writes the encoding of a document. Never allocates. */
+ravo_status RAVO_CALL ravo_document_encoding(const ravo_document *document, ravo_encoding *encoding,
+                                             ravo_error *error);
+
+/*
+ * Writes the value at a path: the text directly in an element, or an attribute.
+ *
+ * `flags` is 0, or RAVO_DOCUMENT_RAW for the content as it is written. RAVO_UNKNOWN if nothing is there, RAVO_WRONG for
+ * a text that is no path and for a name that fits several spellings. Allocates.
+ *
+ *     ravo_document_get(invoice, "Invoice/Line[2]/@ID", RAVO_NUL_TERMINATED, 0, buffer, sizeof buffer, NULL, NULL)
+ */
+ravo_status RAVO_CALL ravo_document_get(const ravo_document *document, const char *path, size_t path_length,
+                                        uint32_t flags, char *buffer, size_t size, size_t *length,
+                                        ravo_error *error);
+
+/* A value to set at a path; both are UTF-8. */
+typedef struct ravo_document_change {
+  const char *path;
+  size_t path_length;  /* or RAVO_NUL_TERMINATED */
+  const char *value;
+  size_t value_length; /* or RAVO_NUL_TERMINATED */
+} ravo_document_change;
+
+/*
+ * Sets values: all of them, or none if one fails. Then the document reads as changed, and its findings are forgotten.
+ *
+ * What markup would be is written as a reference; a text that is one CDATA section stays one. The position of a failure
+ * is the index of the change: RAVO_UNKNOWN if nothing is at its path, RAVO_LACKING if the encoding lacks a character,
+ * RAVO_WRONG if it is no path, if the element contains elements or comments (RAVO_DOCUMENT_RAW replaces them), if a
+ * place is set twice, or if the value is not XML. Allocates.
+ */
+ravo_status RAVO_CALL ravo_document_set(ravo_document *document, const ravo_document_change *changes,
+                                        size_t changes_length, uint32_t flags, ravo_error *error);
+
+/* Writes the bytes of a document. Never allocates. */
+ravo_status RAVO_CALL ravo_document_save(const ravo_document *document, void *buffer, size_t size, size_t *length,
+                                         ravo_error *error);
+
+/* A function of the caller that receives a piece of a document's bytes. */
+typedef int32_t(RAVO_CALL *ravo_write)(void *context, const void *bytes, size_t bytes_length);
+
+/*
+ * Gives the bytes of a document to a function, in pieces of at most 65536 bytes.
+ *
+ * If it stops, the position is that of the piece. Never allocates.
+ */
+ravo_status RAVO_CALL ravo_document_write(const ravo_document *document, ravo_write write, void *context,
+                                          ravo_error *error);
+
+/*
+ * Looks for the places where the suite would see or save something else than a standard parser reads, and writes how
+ * many there are.
+ *
+ * 0 means that the document survives ravo_suite_tree, but for white space between tags. RAVO_WRONG with code 0 for a
+ * document that a standard parser rejects, with its place. The findings stay until values are set. Allocates.
+ */
+ravo_status RAVO_CALL ravo_document_check(ravo_document *document, size_t *count, ravo_error *error);
+
+/* A finding of ravo_document_check. */
+typedef struct ravo_document_finding {
+  size_t size;      /* sizeof(ravo_document_finding), set by the caller */
+  const char *name; /* the stable name of its class: "comment", "encoding" */
+  uint64_t line;    /* from 1 */
+  uint64_t column;  /* in characters, from 1 */
+} ravo_document_finding;
+
+#define RAVO_DOCUMENT_FINDING_INIT {sizeof(ravo_document_finding), 0, 0, 0}
+
+/* Writes the finding with an index, in the order of the document. RAVO_UNKNOWN past the last. Never allocates. */
+ravo_status RAVO_CALL ravo_document_finding_at(const ravo_document *document, size_t index,
+                                               ravo_document_finding *finding, ravo_error *error);
+
+/* Writes the sentence of the finding with an index, without a full stop. RAVO_UNKNOWN past the last. Allocates. */
+ravo_status RAVO_CALL ravo_document_finding_sentence(const ravo_document *document, size_t index,
+                                                     ravo_language language, char *buffer, size_t size,
+                                                     size_t *length, ravo_error *error);
+
+/* ------------------------------------------------------------------------------------------------------------
+ * The suite's rules
  *
  * What the modules of the suite compute, with the oddities that stored documents depend on. The checks are lenient;
  * those of the country are ravo_check's. Texts of more than 256 bytes and texts as results allocate.
@@ -1097,7 +1748,7 @@ ravo_status RAVO_CALL ravo_suite_ucet_na_su_au(const char *ucet, size_t ucet_len
                                                size_t *su_length, char *au, size_t au_size, size_t *au_length,
                                                ravo_error *error);
 
-/* The check digits of an EAN. Declare it as `ravo_suite_ean ean = RAVO_SUITE_EAN_INIT;`. */
+/* The check digits of an EAN. */
 typedef struct ravo_suite_ean {
   size_t size;        /* sizeof(ravo_suite_ean), set by the caller */
   int32_t valid;      /* 1 if the text has 7, 8, 12 or 13 digits, else 0 */
@@ -1250,7 +1901,7 @@ ravo_status RAVO_CALL ravo_suite_remove_diacritics(const void *bytes, size_t byt
                                                    size_t size, size_t *length, ravo_error *error);
 
 /* ------------------------------------------------------------------------------------------------------------
- * Forms and records of the suite
+ * The suite's forms and records
  *
  * What the modules of the suite write into PDF forms, XML exports and streams. Forms are in Windows-1250; a character
  * that it lacks becomes "?". Results allocate.
@@ -1320,10 +1971,12 @@ ravo_status RAVO_CALL ravo_suite_string_from_stream(const void *bytes, size_t by
                                                     ravo_error *error);
 
 /* ------------------------------------------------------------------------------------------------------------
- * Tables, captions and modules of the suite
+ * The suite's tables, captions and modules
+ *
+ * What the suite numbers and names: its tables, its captions and messages, the modules of its library.
  */
 
-/* A table, or tables that share a name. Declare it as `ravo_suite_table table = RAVO_SUITE_TABLE_INIT;`. */
+/* A table, or tables that share a name. */
 typedef struct ravo_suite_table {
   size_t size;         /* sizeof(ravo_suite_table), set by the caller */
   const char *name;    /* in Czech, UTF-8 */
@@ -1350,7 +2003,7 @@ ravo_status RAVO_CALL ravo_suite_table_find(int32_t id, ravo_suite_table *table,
  */
 const char *RAVO_CALL ravo_suite_table_name(int32_t id);
 
-/* A caption or message. Declare it as `ravo_suite_caption caption = RAVO_SUITE_CAPTION_INIT;`. */
+/* A caption or message. */
 typedef struct ravo_suite_caption {
   size_t size;         /* sizeof(ravo_suite_caption), set by the caller */
   const char *name;    /* "rPropertySazbaNulova" */
@@ -1372,7 +2025,7 @@ ravo_status RAVO_CALL ravo_suite_caption_at(size_t index, ravo_suite_caption *ca
 ravo_status RAVO_CALL ravo_suite_caption_find(const char *name, size_t name_length, ravo_suite_caption *caption,
                                               ravo_error *error);
 
-/* A module of the suite's library. Declare it as `ravo_suite_module module = RAVO_SUITE_MODULE_INIT;`. */
+/* A module of the suite's library. */
 typedef struct ravo_suite_module {
   size_t size;       /* sizeof(ravo_suite_module), set by the caller */
   const char *name;  /* "DIUnicode" */
@@ -1390,678 +2043,6 @@ size_t RAVO_CALL ravo_suite_module_count(void);
 ravo_status RAVO_CALL ravo_suite_module_at(size_t index, ravo_suite_module *module, ravo_error *error);
 
 /* ------------------------------------------------------------------------------------------------------------
- * This machine
- *
- * The one chapter whose answers depend on the machine and the moment, not on arguments alone.
- */
-
-/* Which part of the suite asks for the report. */
-typedef int32_t ravo_machine_layer;
-enum {
-  RAVO_MACHINE_CLIENT = 0,  /* a client with a user interface */
-  RAVO_MACHINE_BUSINESS = 1 /* the application layer */
-};
-
-/*
- * Writes the suite's support report: date and time, system, folders, memory, disks, and the installed files of the
- * suite, in Czech, indented with tabs, with CR LF after each line.
- *
- * It reads clock, locale, registry and files, changes nothing and sends nothing. It names the computer, its user and
- * folders. A value that the machine does not have is empty, and its line is still there. Two reports may differ in
- * length: some 64 KiB are room for each. Allocates.
- */
-ravo_status RAVO_CALL ravo_machine_report(ravo_machine_layer layer, char *buffer, size_t size, size_t *length,
-                                          ravo_error *error);
-
-/* ------------------------------------------------------------------------------------------------------------
- * Texts
- *
- * Case is mapped character by character: the number of characters stays. Functions that write texts allocate.
- */
-
-/* Writes a text in upper case. */
-ravo_status RAVO_CALL ravo_text_upper(const char *text, size_t text_length, char *buffer, size_t size,
-                                      size_t *length, ravo_error *error);
-
-/* Writes a text in lower case. */
-ravo_status RAVO_CALL ravo_text_lower(const char *text, size_t text_length, char *buffer, size_t size,
-                                      size_t *length, ravo_error *error);
-
-/* Writes the case-folded form of a text, equal for texts that differ only in case. */
-ravo_status RAVO_CALL ravo_text_fold(const char *text, size_t text_length, char *buffer, size_t size,
-                                     size_t *length, ravo_error *error);
-
-/* Writes a text with the first character of each word in upper case and the others in lower case. */
-ravo_status RAVO_CALL ravo_text_proper(const char *text, size_t text_length, char *buffer, size_t size,
-                                       size_t *length, ravo_error *error);
-
-/*
- * Writes 1 if a whole text matches a mask, else 0. "*" is any run of characters, "?" one character of UTF-16.
- *
- * `ignore_case` is 0, or 1 to fold both. Never allocates for texts and masks of up to 256 bytes.
- */
-ravo_status RAVO_CALL ravo_text_match(const char *text, size_t text_length, const char *mask, size_t mask_length,
-                                      int32_t ignore_case, int32_t *answer, ravo_error *error);
-
-/*
- * As ravo_text_match, with other characters than "*" and "?": units of UTF-16. If both are the same, it is `wild`.
- *
- * Never allocates for texts and masks of up to 256 bytes.
- */
-ravo_status RAVO_CALL ravo_text_match_with(const char *text, size_t text_length, const char *mask,
-                                           size_t mask_length, uint16_t wild, uint16_t one, int32_t ignore_case,
-                                           int32_t *answer, ravo_error *error);
-
-/* Writes a text in the form encoding of URLs: "a+b%26c" of "a b&c". */
-ravo_status RAVO_CALL ravo_url_encode(const char *text, size_t text_length, char *buffer, size_t size,
-                                      size_t *length, ravo_error *error);
-
-/*
- * Writes a form-encoded text decoded. A "%" without two hexadecimal digits stays.
- *
- * RAVO_UTF8 if the result is not UTF-8, at its position there.
- */
-ravo_status RAVO_CALL ravo_url_decode(const char *text, size_t text_length, char *buffer, size_t size,
-                                      size_t *length, ravo_error *error);
-
-/* Writes the part of a URI before the first "#"; all of it if there is none. */
-ravo_status RAVO_CALL ravo_uri_without_fragment(const char *uri, size_t uri_length, char *buffer, size_t size,
-                                                size_t *length, ravo_error *error);
-
-/* Writes the part of a URI after the first "#"; an empty text if there is none. */
-ravo_status RAVO_CALL ravo_uri_fragment(const char *uri, size_t uri_length, char *buffer, size_t size,
-                                        size_t *length, ravo_error *error);
-
-/* ------------------------------------------------------------------------------------------------------------
- * Order
- *
- * The Czech alphabetical order: c, č, ... h, ch, ... r, ř, s, š, ... z, ž. Of words with the same letters, accents
- * decide, then capitals: small letters come first. Blanks and signs precede letters, digits follow them (ČSN 97
- * 6030). It is the same on every machine. To sort many texts, make a key of each: keys compare byte by byte, as
- * memcmp does and then their lengths, and so do columns of bytes.
- */
-
-/* How texts compare; add up what is wanted. */
-typedef int32_t ravo_order_flags;
-enum {
-  RAVO_ORDER_PLAIN = 0,        /* as said above */
-  RAVO_ORDER_IGNORE_CASE = 1,  /* small letters and capitals are equal */
-  RAVO_ORDER_NATURAL = 2,      /* runs of the digits 0 to 9 compare by value: "FV9" before "FV10" */
-  RAVO_ORDER_DIGITS_FIRST = 4  /* digits precede letters, as in most programs */
-};
-
-/*
- * Writes -1, 0 or 1: whether text `a` comes before `b` in the Czech order, is equal to it, or comes after it.
- *
- * RAVO_ARGUMENT for unknown flags. Never allocates.
- *
- *     ravo_compare_czech("cihla", RAVO_NUL_TERMINATED, "čaj", RAVO_NUL_TERMINATED, 0, &order, NULL)  // -1
- */
-ravo_status RAVO_CALL ravo_compare_czech(const char *a, size_t a_length, const char *b, size_t b_length,
-                                         ravo_order_flags flags, int32_t *order, ravo_error *error);
-
-/*
- * Writes the key of a text in the Czech order: bytes, of which none is 0 without RAVO_ORDER_NATURAL, and no NUL
- * after them. If the buffer is too small, nothing is written.
- *
- * Keys of the same flags compare as their texts do. Other versions of the library may make other keys: do not store
- * them. RAVO_ARGUMENT for unknown flags. Allocates.
- */
-ravo_status RAVO_CALL ravo_czech_key(const char *text, size_t text_length, ravo_order_flags flags, void *buffer,
-                                     size_t size, size_t *length, ravo_error *error);
-
-/*
- * Writes -1, 0 or 1: how the numbers compare with which two texts begin.
- *
- * A number is a sign, digits of any count, blanks between them, a decimal comma or point: "-1 234,50 Kč". A text
- * without a number is less than any number. Never allocates.
- */
-ravo_status RAVO_CALL ravo_compare_numbers(const char *a, size_t a_length, const char *b, size_t b_length,
-                                           int32_t *order, ravo_error *error);
-
-/*
- * Writes the key of the number with which a text begins: bytes, without NUL after them. If the buffer is too small,
- * nothing is written.
- *
- * Keys compare as ravo_compare_numbers does. Other versions of the library may make other keys. Allocates.
- */
-ravo_status RAVO_CALL ravo_number_key(const char *text, size_t text_length, void *buffer, size_t size,
-                                      size_t *length, ravo_error *error);
-
-/*
- * Writes a negative number, 0 or a positive one: how the suite compares two texts with numbers, by UTF-16 units.
- *
- * The number is the difference of two units or of two lengths, or 1 or -1 if one number is longer. Digits are those
- * of every script. Zeros inside a number do not count: "105" comes before "15", so that the order has cycles.
- * `ignore_case` is 0, or 1 to fold both. Never allocates for texts of up to 256 bytes.
- */
-ravo_status RAVO_CALL ravo_suite_compare_num(const char *a, size_t a_length, const char *b, size_t b_length,
-                                             int32_t ignore_case, int64_t *difference, ravo_error *error);
-
-/*
- * The same for bytes of any encoding: digits are 0 to 9, and ASCII letters alone have case.
- *
- * Never allocates.
- */
-ravo_status RAVO_CALL ravo_suite_compare_num_bytes(const void *a, size_t a_length, const void *b,
-                                                   size_t b_length, int32_t ignore_case, int64_t *difference,
-                                                   ravo_error *error);
-
-/* ------------------------------------------------------------------------------------------------------------
- * Characters
- *
- * A character is a unit of UTF-16, as in the suite: one past U+FFFF is two surrogates, which have a category of
- * their own and map to themselves. The tables are those of Unicode 15.0.0.
- */
-
-/* What a character can be. In brackets: the category of Unicode. */
-typedef int32_t ravo_character_property;
-enum {
-  RAVO_CHARACTER_UNASSIGNED = 0,                  /* (Cn) no character, in the version of the tables */
-  RAVO_CHARACTER_LETTER_UPPER_CASE = 1,           /* (Lu) */
-  RAVO_CHARACTER_LETTER_LOWER_CASE = 2,           /* (Ll) */
-  RAVO_CHARACTER_LETTER_TITLE_CASE = 3,           /* (Lt) such as U+01C5 */
-  RAVO_CHARACTER_LETTER_MODIFIER = 4,             /* (Lm) */
-  RAVO_CHARACTER_LETTER_OTHER = 5,                /* (Lo) a letter without case */
-  RAVO_CHARACTER_MARK_NON_SPACING = 6,            /* (Mn) */
-  RAVO_CHARACTER_MARK_SPACING_COMBINED = 7,       /* (Mc) */
-  RAVO_CHARACTER_MARK_ENCLOSING = 8,              /* (Me) */
-  RAVO_CHARACTER_NUMBER_DECIMAL = 9,              /* (Nd) a decimal digit of any script */
-  RAVO_CHARACTER_NUMBER_LETTER = 10,              /* (Nl) such as U+2160, the Roman one */
-  RAVO_CHARACTER_NUMBER_OTHER = 11,               /* (No) such as U+00BD, a half */
-  RAVO_CHARACTER_PUNCTUATION_CONNECTOR = 12,      /* (Pc) such as the low line */
-  RAVO_CHARACTER_PUNCTUATION_DASH = 13,           /* (Pd) */
-  RAVO_CHARACTER_PUNCTUATION_OPEN = 14,           /* (Ps) */
-  RAVO_CHARACTER_PUNCTUATION_CLOSE = 15,          /* (Pe) */
-  RAVO_CHARACTER_PUNCTUATION_INITIAL_QUOTE = 16,  /* (Pi) */
-  RAVO_CHARACTER_PUNCTUATION_FINAL_QUOTE = 17,    /* (Pf) */
-  RAVO_CHARACTER_PUNCTUATION_OTHER = 18,          /* (Po) */
-  RAVO_CHARACTER_SYMBOL_MATH = 19,                /* (Sm) */
-  RAVO_CHARACTER_SYMBOL_CURRENCY = 20,            /* (Sc) */
-  RAVO_CHARACTER_SYMBOL_MODIFIER = 21,            /* (Sk) */
-  RAVO_CHARACTER_SYMBOL_OTHER = 22,               /* (So) */
-  RAVO_CHARACTER_SEPARATOR_SPACE = 23,            /* (Zs) */
-  RAVO_CHARACTER_SEPARATOR_LINE = 24,             /* (Zl) */
-  RAVO_CHARACTER_SEPARATOR_PARAGRAPH = 25,        /* (Zp) */
-  RAVO_CHARACTER_OTHER_CONTROL = 26,              /* (Cc) */
-  RAVO_CHARACTER_OTHER_FORMAT = 27,               /* (Cf) */
-  RAVO_CHARACTER_OTHER_SURROGATE = 28,            /* (Cs) */
-  RAVO_CHARACTER_OTHER_PRIVATE_USE = 29,          /* (Co) */
-  RAVO_CHARACTER_LETTER = 30,                     /* (L) numbers 1 to 5 */
-  RAVO_CHARACTER_MARK = 31,                       /* (M) numbers 6 to 8 */
-  RAVO_CHARACTER_NUMBER = 32,                     /* (N) numbers 9 to 11 */
-  RAVO_CHARACTER_PUNCTUATION = 33,                /* (P) numbers 12 to 18 */
-  RAVO_CHARACTER_SYMBOL = 34,                     /* (S) numbers 19 to 22 */
-  RAVO_CHARACTER_SEPARATOR = 35,                  /* (Z) numbers 23 to 25 */
-  RAVO_CHARACTER_OTHER = 36,                      /* (C) numbers 26 to 29: without the unassigned ones */
-  RAVO_CHARACTER_LETTER_COMMON = 37,              /* a letter of the Latin, Greek and Cyrillic blocks */
-  RAVO_CHARACTER_WHITE_SPACE = 38,                /* by the property White_Space */
-  RAVO_CHARACTER_ALPHA = 39,                      /* a letter */
-  RAVO_CHARACTER_ALPHA_NUM = 40,                  /* a letter or a decimal digit of any script */
-  RAVO_CHARACTER_DIGIT = 41,                      /* a decimal digit of any script */
-  RAVO_CHARACTER_HEX_DIGIT = 42,                  /* 0 to 9, A to F, a to f */
-  RAVO_CHARACTER_HANGUL = 43,                     /* a syllable, U+AC00 to U+D7A3 */
-  RAVO_CHARACTER_CR_LF = 44,                      /* carriage return or line feed */
-  RAVO_CHARACTER_LOW_LINE = 45,                   /* "_" */
-  RAVO_CHARACTER_QUOTE = 46,                      /* U+0022 or U+0027 */
-  RAVO_CHARACTER_WORD_SEPARATOR = 47,             /* assigned, and no letter, mark, number, connector, surrogate */
-  RAVO_CHARACTER_WHITE_SPACE_OR_AMPERSAND = 48,   /* white space or "&" */
-  RAVO_CHARACTER_WHITE_SPACE_OR_COLON = 49,       /* white space or ":" */
-  RAVO_CHARACTER_WHITE_SPACE_OR_NO_BREAK_SPACE = 50, /* white space, of which U+00A0 is */
-  RAVO_CHARACTER_WHITE_SPACE_GT = 51,             /* white space or ">" */
-  RAVO_CHARACTER_WHITE_SPACE_LT = 52,             /* white space or "<" */
-  RAVO_CHARACTER_WHITE_SPACE_HYPHEN = 53,         /* white space or "-" */
-  RAVO_CHARACTER_WHITE_SPACE_HYPHEN_GT = 54       /* white space, "-" or ">" */
-};
-
-/*
- * Writes 1 if a character has a property, else 0.
- *
- * RAVO_ARGUMENT for an unknown property. Never allocates.
- *
- *     ravo_character_is(0x010D, RAVO_CHARACTER_LETTER, &answer, NULL)  // 1: č
- */
-ravo_status RAVO_CALL ravo_character_is(uint16_t unit, ravo_character_property property, int32_t *answer,
-                                        ravo_error *error);
-
-/* Writes the category of a character: one of the numbers 0 to 29. Never allocates. */
-ravo_status RAVO_CALL ravo_character_category(uint16_t unit, ravo_character_property *category,
-                                              ravo_error *error);
-
-/*
- * Returns the short name of a category or of a group, such as "Lu" or "L", or null for what is neither.
- *
- * Never allocates.
- */
-const char *RAVO_CALL ravo_character_category_name(ravo_character_property category);
-
-/* Writes the upper case of a character, or itself if it has none of one unit. Never allocates. */
-ravo_status RAVO_CALL ravo_character_to_upper(uint16_t unit, uint16_t *mapped, ravo_error *error);
-
-/* Writes the lower case of a character, or itself if it has none of one unit. Never allocates. */
-ravo_status RAVO_CALL ravo_character_to_lower(uint16_t unit, uint16_t *mapped, ravo_error *error);
-
-/* Writes the title case of a character: the upper case, but U+01C5 for U+01C4 and the like. Never allocates. */
-ravo_status RAVO_CALL ravo_character_to_title(uint16_t unit, uint16_t *mapped, ravo_error *error);
-
-/* Writes the case-folded form of a character, equal for those that differ only in case. Never allocates. */
-ravo_status RAVO_CALL ravo_character_to_case_fold(uint16_t unit, uint16_t *mapped, ravo_error *error);
-
-/*
- * Writes the canonical combining class of a character: 0 for a starter, else the rank of a mark, up to 254.
- *
- * Never allocates.
- */
-ravo_status RAVO_CALL ravo_character_combining_class(uint16_t unit, int32_t *rank, ravo_error *error);
-
-/* Into what a character comes apart. */
-typedef int32_t ravo_decomposition;
-enum {
-  RAVO_DECOMPOSITION_CANONICAL = 0,  /* the full canonical one, marks in canonical order: "é" is "e" and U+0301 */
-  RAVO_DECOMPOSITION_COMPATIBLE = 1, /* the full compatibility one, or the canonical one if there is no other */
-  RAVO_DECOMPOSITION_HANGUL = 2      /* the letters of a Hangul syllable, which the others leave alone */
-};
-
-/*
- * Writes the decomposition of a character; an empty text if it has none.
- *
- * RAVO_ARGUMENT for an unknown decomposition. Allocates.
- */
-ravo_status RAVO_CALL ravo_character_decompose(uint16_t unit, ravo_decomposition decomposition, char *buffer,
-                                               size_t size, size_t *length, ravo_error *error);
-
-/* ------------------------------------------------------------------------------------------------------------
- * Checksums
- *
- * Bytes are a pointer and a length; RAVO_NUL_TERMINATED is RAVO_ARGUMENT here.
- */
-
-/*
- * Changes the CRC-32 of zip and Ethernet to that of the bytes so far and these. Begin with 0.
- *
- * Never allocates.
- *
- *     uint32_t crc = 0;
- *     ravo_crc32("123456789", 9, &crc, NULL);  // 0xCBF43926
- */
-ravo_status RAVO_CALL ravo_crc32(const void *bytes, size_t bytes_length, uint32_t *crc, ravo_error *error);
-
-/* How bytes or characters count in the suite's hash. */
-typedef int32_t ravo_suite_hash_of;
-enum {
-  RAVO_SUITE_HASH_BYTES = 0,        /* the bytes */
-  RAVO_SUITE_HASH_UPPER_BYTES = 1,  /* the bytes in upper case, as letters of Windows-1250 */
-  RAVO_SUITE_HASH_TEXT = 2,         /* the little-endian bytes of the text in UTF-16 */
-  RAVO_SUITE_HASH_FOLDED_TEXT = 3   /* the case-folded UTF-16 units of the text */
-};
-
-/*
- * Writes the suite's 32-bit hash. `initial` selects one of many independent hash functions.
- *
- * Texts are UTF-8. Texts of more than 256 bytes allocate.
- */
-ravo_status RAVO_CALL ravo_suite_hash(ravo_suite_hash_of what, const void *bytes, size_t bytes_length,
-                                      uint32_t initial, uint32_t *hash, ravo_error *error);
-
-/* ------------------------------------------------------------------------------------------------------------
- * Random numbers and texts
- *
- * The Mersenne Twister MT19937: a seed gives the same numbers on every machine. Not for secrets. Numbers that the
- * generator draws never allocate.
- *
- *     ravo_random *random = NULL;
- *     uint32_t number = 0;
- *     ravo_random_open(5489, &random, NULL);
- *     ravo_random_int32(random, &number, NULL);  // 3499211612
- *     ravo_random_close(random);
- */
-
-/* A generator. One thread at a time may use it. */
-typedef struct ravo_random ravo_random;
-
-/* Opens a generator by a number. Close it with ravo_random_close. Allocates. */
-ravo_status RAVO_CALL ravo_random_open(uint32_t seed, ravo_random **random, ravo_error *error);
-
-/* Opens a generator by an array of keys, as the generator's authors do. RAVO_RANGE if there are none. Allocates. */
-ravo_status RAVO_CALL ravo_random_open_array(const uint32_t *keys, size_t keys_length, ravo_random **random,
-                                             ravo_error *error);
-
-/*
- * Opens a generator by bytes, as the suite does: each byte is a key.
- *
- * From 624 bytes on it is another generator than that of an array with the same keys. RAVO_RANGE if there are none.
- * Allocates.
- */
-ravo_status RAVO_CALL ravo_random_open_bytes(const void *bytes, size_t bytes_length, ravo_random **random,
-                                             ravo_error *error);
-
-/* Closes a generator. Null is allowed. */
-void RAVO_CALL ravo_random_close(ravo_random *random);
-
-/* Writes the upper 31 of the next 32 bits: 0 to 2147483647. Never allocates. */
-ravo_status RAVO_CALL ravo_random_int31(ravo_random *random, uint32_t *number, ravo_error *error);
-
-/* Writes the next 32 bits. Never allocates. */
-ravo_status RAVO_CALL ravo_random_int32(ravo_random *random, uint32_t *number, ravo_error *error);
-
-/*
- * Writes the next 32 bits as the low half, and the upper 31 bits of the draw after it as the high half.
- *
- * RAVO_RANGE if the highest bit of the low half is set, as it is every other time: that draw is gone. For 63 bits
- * that never fail, call ravo_random_int32 and ravo_random_int31. Allocates on failure alone.
- */
-ravo_status RAVO_CALL ravo_random_int63(ravo_random *random, int64_t *number, ravo_error *error);
-
-/*
- * Writes the next 32 bits as the low half, and the 32 bits after them as the high half.
- *
- * RAVO_RANGE if the highest bit of either is set: the draws up to that one are gone. For 64 bits that never fail,
- * call ravo_random_int32 twice. Allocates on failure alone.
- */
-ravo_status RAVO_CALL ravo_random_int64(ravo_random *random, int64_t *number, ravo_error *error);
-
-/* Writes a number from 0 to 1, both included, in steps of 1 / (2^32 - 1). Never allocates. */
-ravo_status RAVO_CALL ravo_random_real1(ravo_random *random, double *number, ravo_error *error);
-
-/* Writes a number from 0 to below 1, in steps of 2^-32. Never allocates. */
-ravo_status RAVO_CALL ravo_random_real2(ravo_random *random, double *number, ravo_error *error);
-
-/* Writes a number between 0 and 1, neither included, in steps of 2^-32. Never allocates. */
-ravo_status RAVO_CALL ravo_random_real3(ravo_random *random, double *number, ravo_error *error);
-
-/* Writes a number from 0 to below 1, in steps of 2^-53, from two draws. Never allocates. */
-ravo_status RAVO_CALL ravo_random_res53(ravo_random *random, double *number, ravo_error *error);
-
-/*
- * Writes a text of `count` characters of an alphabet, one draw for each: what the suite's StrRandom makes if the
- * generator was just opened by the bytes of its seed.
- *
- * RAVO_ARGUMENT if the alphabet is empty and `count` is not 0. If the buffer is null or too small, the generator stays
- * as it was. Allocates.
- */
-ravo_status RAVO_CALL ravo_random_text(ravo_random *random, const char *alphabet, size_t alphabet_length,
-                                       size_t count, char *buffer, size_t size, size_t *length,
-                                       ravo_error *error);
-
-/* ------------------------------------------------------------------------------------------------------------
- * Encodings
- *
- * Conversion is exact: every character of Unicode, and what the encoding's definition calls malformed is malformed.
- * A byte-order mark is a character like any other.
- */
-
-/*
- * An encoding by its number, 0, 1, ... without gaps.
- *
- * Other versions of the library may have other numbers: keep the name.
- */
-typedef int32_t ravo_encoding;
-
-/* What is known of an encoding. Declare it as `ravo_encoding_info info = RAVO_ENCODING_INFO_INIT;`. */
-typedef struct ravo_encoding_info {
-  size_t size;          /* sizeof(ravo_encoding_info), set by the caller */
-  const char *name;     /* "Windows_1250" */
-  const char *label;    /* for people */
-  const char *aliases;  /* other names, separated by blanks */
-  const char *notes;    /* remarks; may be empty */
-  int32_t code_page;    /* Windows number; 0 if it has none */
-  int32_t can_read;     /* 1 if it can be converted from, else 0 */
-  int32_t can_write;    /* 1 if it can be converted to, else 0 */
-} ravo_encoding_info;
-
-#define RAVO_ENCODING_INFO_INIT {sizeof(ravo_encoding_info), 0, 0, 0, 0, 0, 0, 0}
-
-/* Returns how many encodings there are. Never allocates. */
-size_t RAVO_CALL ravo_encoding_count(void);
-
-/* Writes what is known of an encoding. RAVO_UNKNOWN for a number that is none. Never allocates. */
-ravo_status RAVO_CALL ravo_encoding_at(ravo_encoding encoding, ravo_encoding_info *info, ravo_error *error);
-
-/*
- * Writes the encoding with a name, an alias, a label, or the number of a code page with or without "cp".
- *
- * Only ASCII letters and digits count, in either case. RAVO_UNKNOWN if there is none. Never allocates.
- *
- *     ravo_encoding_find("windows-1250", RAVO_NUL_TERMINATED, &encoding, NULL)
- */
-ravo_status RAVO_CALL ravo_encoding_find(const char *name, size_t name_length, ravo_encoding *encoding,
-                                         ravo_error *error);
-
-/* Writes the encoding with the number of a Windows code page. RAVO_UNKNOWN if there is none. Never allocates. */
-ravo_status RAVO_CALL ravo_encoding_of_code_page(int32_t code_page, ravo_encoding *encoding, ravo_error *error);
-
-/*
- * Writes the encoding that a byte-order mark at the start of bytes names, and the mark's length in bytes.
- *
- * Fewer than four bytes count as the whole text. `mark_length` may be null. RAVO_UNKNOWN if there is no mark. Never
- * allocates.
- */
-ravo_status RAVO_CALL ravo_encoding_of_mark(const void *bytes, size_t bytes_length, ravo_encoding *encoding,
-                                            size_t *mark_length, ravo_error *error);
-
-/* Which texts are possible. */
-typedef int32_t ravo_detect_flags;
-enum {
-  RAVO_DETECT_PLAIN = 0, /* Czech texts of Windows, DOS and Unix, and of every form of Unicode */
-  RAVO_DETECT_MAC = 1    /* and those of the Macintosh: Mac Central European */
-};
-
-/* What a detected encoding rests on: it is sure for the numbers 1 to 5. */
-typedef int32_t ravo_evidence;
-enum {
-  RAVO_EVIDENCE_MARK = 1,    /* a byte-order mark */
-  RAVO_EVIDENCE_ZEROS = 2,   /* the zero bytes of UTF-16 or UTF-32 */
-  RAVO_EVIDENCE_ASCII = 3,   /* ASCII characters only, which count as UTF-8 */
-  RAVO_EVIDENCE_UTF8 = 4,    /* bytes that are valid UTF-8, too many for chance */
-  RAVO_EVIDENCE_CZECH = 5,   /* it looks most like Czech in this encoding */
-  RAVO_EVIDENCE_ALIKE = 6,   /* several encodings read it alike */
-  RAVO_EVIDENCE_CLOSE = 7,   /* several encodings are possible */
-  RAVO_EVIDENCE_FOREIGN = 8, /* it does not look like Czech in any encoding */
-  RAVO_EVIDENCE_BINARY = 9   /* zero bytes: it may not be text */
-};
-
-/* The encoding that a text seems to have. Declare it as `ravo_detection detection = RAVO_DETECTION_INIT;`. */
-typedef struct ravo_detection {
-  size_t size;              /* sizeof(ravo_detection), set by the caller */
-  size_t candidates;        /* how many cannot be told apart; 1 if it is sure */
-  ravo_encoding encoding;   /* the most likely one */
-  ravo_evidence evidence;   /* why */
-  int32_t is_sure;          /* 1 if there is no doubt, else 0 */
-} ravo_detection;
-
-#define RAVO_DETECTION_INIT {sizeof(ravo_detection), 0, 0, 0, 0}
-
-/*
- * Writes the encoding that a text seems to have, by its first bytes; they may end inside a character.
- *
- * 256 KiB are more than enough. RAVO_ARGUMENT for unknown flags. Allocates.
- *
- *     ravo_encoding_detect("P\xF8\xEDli\x9A", 6, RAVO_DETECT_PLAIN, &detection, NULL)  // Windows-1250
- */
-ravo_status RAVO_CALL ravo_encoding_detect(const void *bytes, size_t bytes_length, ravo_detect_flags flags,
-                                           ravo_detection *detection, ravo_error *error);
-
-/*
- * Writes one of the encodings that cannot be told apart, by its index from 0, from the most likely one on.
- *
- * Detects again. RAVO_UNKNOWN past the last one. Allocates.
- */
-ravo_status RAVO_CALL ravo_encoding_candidate_at(const void *bytes, size_t bytes_length, ravo_detect_flags flags,
-                                                 size_t index, ravo_encoding *encoding, ravo_error *error);
-
-/* What happens to what cannot be converted. */
-typedef int32_t ravo_convert_policy;
-enum {
-  RAVO_CONVERT_STRICT = 0, /* the conversion fails at its position */
-  RAVO_CONVERT_REPLACE = 1 /* it becomes U+FFFD, or "?" if the encoding lacks that */
-};
-
-/* Hears how many bytes of `total` are done; returns 0 to continue, another number to stop. */
-typedef int32_t(RAVO_CALL *ravo_progress)(void *context, size_t done, size_t total);
-
-/*
- * Converts bytes from one encoding to another.
- *
- * RAVO_ARGUMENT if an encoding cannot be read or written. With RAVO_CONVERT_STRICT, RAVO_MALFORMED for bytes that are
- * no character and RAVO_LACKING for a character that `to` lacks, at the position in `bytes`. `progress` may be null;
- * it gets `context`, and if it stops the work, RAVO_STOPPED with its number as `error->code`. If the buffer is too
- * small, or on failure, its contents are undefined. Allocates.
- */
-ravo_status RAVO_CALL ravo_convert(ravo_encoding from, const void *bytes, size_t bytes_length, ravo_encoding to,
-                                   ravo_convert_policy policy, void *buffer, size_t size, size_t *length,
-                                   ravo_progress progress, void *context, ravo_error *error);
-
-/* A conversion of a text that comes in pieces. One thread at a time may use it. */
-typedef struct ravo_converter ravo_converter;
-
-/* Opens a conversion. Close it with ravo_converter_close. Fails as ravo_convert does. Allocates. */
-ravo_status RAVO_CALL ravo_converter_open(ravo_encoding from, ravo_encoding to, ravo_convert_policy policy,
-                                          ravo_converter **converter, ravo_error *error);
-
-/* Closes a conversion. Null is allowed. */
-void RAVO_CALL ravo_converter_close(ravo_converter *converter);
-
-/*
- * Converts the next bytes of a text, of any number; the last characters may be cut. `is_last` is 1 if no more follow,
- * else 0.
- *
- * Fails as ravo_convert does, with the position in the whole text. After a failure, and after the last bytes, the
- * conversion takes no more: RAVO_ARGUMENT. Allocates.
- */
-ravo_status RAVO_CALL ravo_converter_push(ravo_converter *converter, const void *bytes, size_t bytes_length,
-                                          int32_t is_last, ravo_error *error);
-
-/*
- * Writes converted bytes that are waiting, at most `size`, and how many they are; 0 if none are left.
- *
- * Never allocates.
- *
- *     ravo_converter_push(converter, piece, piece_length, 0, NULL);
- *     while (ravo_converter_pull(converter, buffer, sizeof buffer, &length, NULL) == RAVO_OK && length != 0)
- *       fwrite(buffer, 1, length, file);
- */
-ravo_status RAVO_CALL ravo_converter_pull(ravo_converter *converter, void *buffer, size_t size, size_t *length,
-                                          ravo_error *error);
-
-/* ------------------------------------------------------------------------------------------------------------
- * XML documents
- *
- * Documents of any encoding, in which values are changed while every other byte stays as it is: white space, comments,
- * quotes, references, the byte-order mark.
- *
- *     ravo_document *invoice = NULL;
- *     ravo_document_change paid = {"Invoice/Note", RAVO_NUL_TERMINATED, "Zaplaceno", RAVO_NUL_TERMINATED};
- *     if (ravo_document_open(bytes, length, &invoice, &error) == RAVO_OK &&
- *         ravo_document_set(invoice, &paid, 1, RAVO_DOCUMENT_ADD, &error) == RAVO_OK)
- *       ravo_document_write(invoice, write_to_file, file, &error);
- *     ravo_document_close(invoice);
- *
- * Paths.    A path names elements from the root on, each with its number among the elements of its name, counted from 1,
- *           and possibly an attribute: "Invoice/Line[2]/@ID". If no element has a name exactly, its case is ignored.
- * Threads.  While one thread sets values or checks, no other may use the document.
- */
-
-/* A document. */
-typedef struct ravo_document ravo_document;
-
-/* How values are read and set; numbers to be added. */
-enum {
-  RAVO_DOCUMENT_RAW = 1,        /* the value is XML as it is written: references and tags */
-  RAVO_DOCUMENT_REFERENCES = 2, /* set: a character that the encoding lacks becomes a reference such as &#x159; */
-  RAVO_DOCUMENT_ADD = 4         /* set: add a missing attribute, or a missing next element of a name */
-};
-
-/*
- * Opens a document of any encoding: by its byte-order mark, else by its declaration, else UTF-8.
- *
- * RAVO_WRONG with code 0 for what is not XML: `error->position` is the place in `bytes`, the message tells line and
- * column and why. The document keeps a copy of the bytes. Close it with ravo_document_close. Allocates.
- */
-ravo_status RAVO_CALL ravo_document_open(const void *bytes, size_t bytes_length, ravo_document **document,
-                                         ravo_error *error);
-
-/* Closes a document. Null is allowed. */
-void RAVO_CALL ravo_document_close(ravo_document *document);
-
-/* Writes the encoding of a document. */
-ravo_status RAVO_CALL ravo_document_encoding(const ravo_document *document, ravo_encoding *encoding,
-                                             ravo_error *error);
-
-/*
- * Writes the value at a path: the text directly in an element, or an attribute.
- *
- * `flags` is 0, or RAVO_DOCUMENT_RAW for the content as it is written. RAVO_UNKNOWN if nothing is there, RAVO_WRONG for
- * a text that is no path and for a name that fits several spellings. Allocates.
- *
- *     ravo_document_get(invoice, "Invoice/Line[2]/@ID", RAVO_NUL_TERMINATED, 0, buffer, sizeof buffer, NULL, NULL)
- */
-ravo_status RAVO_CALL ravo_document_get(const ravo_document *document, const char *path, size_t path_length,
-                                        uint32_t flags, char *buffer, size_t size, size_t *length,
-                                        ravo_error *error);
-
-/* A value to set at a path; both are UTF-8. */
-typedef struct ravo_document_change {
-  const char *path;
-  size_t path_length;  /* or RAVO_NUL_TERMINATED */
-  const char *value;
-  size_t value_length; /* or RAVO_NUL_TERMINATED */
-} ravo_document_change;
-
-/*
- * Sets values: all of them, or none if one fails. Then the document reads as changed, and its findings are forgotten.
- *
- * What markup would be is written as a reference; a text that is one CDATA section stays one. The position of a failure
- * is the index of the change: RAVO_UNKNOWN if nothing is at its path, RAVO_LACKING if the encoding lacks a character,
- * RAVO_WRONG if it is no path, if the element contains elements or comments (RAVO_DOCUMENT_RAW replaces them), if a
- * place is set twice, or if the value is not XML. `flags` adds up numbers RAVO_DOCUMENT_... Allocates.
- */
-ravo_status RAVO_CALL ravo_document_set(ravo_document *document, const ravo_document_change *changes,
-                                        size_t changes_length, uint32_t flags, ravo_error *error);
-
-/* Writes the bytes of a document: all, or none if the buffer is too small. Never allocates. */
-ravo_status RAVO_CALL ravo_document_save(const ravo_document *document, void *buffer, size_t size, size_t *length,
-                                         ravo_error *error);
-
-/* A function of the caller that receives a piece of a document's bytes; returns 0 to continue, another number to stop. */
-typedef int32_t(RAVO_CALL *ravo_write)(void *context, const void *bytes, size_t bytes_length);
-
-/*
- * Gives the bytes of a document to a function, in pieces of at most 65536 bytes.
- *
- * RAVO_STOPPED with its number as `error->code` if it stops; the position is that of the piece. Never allocates.
- */
-ravo_status RAVO_CALL ravo_document_write(const ravo_document *document, ravo_write write, void *context,
-                                          ravo_error *error);
-
-/*
- * Looks for the places where the suite would see or save something else than a standard parser reads, and writes how
- * many there are.
- *
- * 0 means that the document survives ravo_suite_tree, but for white space between tags. RAVO_WRONG with code 0 for a
- * document that a standard parser rejects, with its place. The findings stay until values are set. Allocates.
- */
-ravo_status RAVO_CALL ravo_document_check(ravo_document *document, size_t *count, ravo_error *error);
-
-/* A finding of ravo_document_check. It starts as `ravo_document_finding finding = RAVO_DOCUMENT_FINDING_INIT;`. */
-typedef struct ravo_document_finding {
-  size_t size;      /* sizeof(ravo_document_finding), set by the caller */
-  const char *name; /* the stable name of its class: "comment", "encoding" */
-  uint64_t line;    /* from 1 */
-  uint64_t column;  /* in characters, from 1 */
-} ravo_document_finding;
-
-#define RAVO_DOCUMENT_FINDING_INIT {sizeof(ravo_document_finding), 0, 0, 0}
-
-/* Writes the finding with an index, in the order of the document. RAVO_UNKNOWN past the last. Never allocates. */
-ravo_status RAVO_CALL ravo_document_finding_at(const ravo_document *document, size_t index,
-                                               ravo_document_finding *finding, ravo_error *error);
-
-/* Writes the sentence of the finding with an index, without a full stop. RAVO_UNKNOWN past the last. Allocates. */
-ravo_status RAVO_CALL ravo_document_finding_sentence(const ravo_document *document, size_t index,
-                                                     ravo_language language, char *buffer, size_t size,
-                                                     size_t *length, ravo_error *error);
-
-/* ------------------------------------------------------------------------------------------------------------
  * The suite's XML
  *
  * A document as the suite's modules load and save it: a tree of items with a name, attributes, one text and children.
@@ -2069,10 +2050,8 @@ ravo_status RAVO_CALL ravo_document_finding_sentence(const ravo_document *docume
  * whatever the document declares. ravo_document_check tells what would be lost.
  *
  * An item is a number, 0 for the root, that never means another item; RAVO_UNKNOWN for one that was deleted or never
- * was. Names are found ignoring case. If there is no memory in the middle of a change, the tree can be read and closed,
- * and the change may be there or not.
- *
- * While one thread changes or saves a tree, no other may use it.
+ * was. Names are found ignoring case. Functions that do not say otherwise allocate. If there is no memory in
+ * the middle of a change, the tree can be read and closed, and the change may be there or not.
  */
 
 /* A tree. */
@@ -2082,19 +2061,19 @@ typedef struct ravo_suite_tree ravo_suite_tree;
 typedef size_t ravo_suite_item;
 
 /*
- * Loads a tree from the bytes of a document.
+ * Opens a tree: loads the bytes of a document.
  *
  * Without `<rss` or `<?xml version="1.0"` in the first 1000 bytes, and with a byte-order mark before it, nothing is
  * loaded and the root is empty. RAVO_WRONG with code 0 for what cannot be read; the message tells the line. The tree
- * keeps no part of the bytes. Close it with ravo_suite_tree_close. Allocates.
+ * keeps no part of the bytes. Allocates.
  */
 ravo_status RAVO_CALL ravo_suite_tree_open(const void *bytes, size_t bytes_length, ravo_suite_tree **tree,
                                            ravo_error *error);
 
-/* Closes a tree. Null is allowed. */
+/* Closes a tree. */
 void RAVO_CALL ravo_suite_tree_close(ravo_suite_tree *tree);
 
-/* Writes the bytes that the suite saves: all, or none if the buffer is too small. Allocates. */
+/* Writes the bytes that the suite saves. Allocates. */
 ravo_status RAVO_CALL ravo_suite_tree_save(ravo_suite_tree *tree, void *buffer, size_t size, size_t *length,
                                            ravo_error *error);
 
@@ -2129,7 +2108,7 @@ ravo_status RAVO_CALL ravo_suite_item_parent(const ravo_suite_tree *tree, ravo_s
 /*
  * Writes the index of the first child with a name, from the index `from` on. RAVO_UNKNOWN if there is none.
  *
- * To have one made where the suite makes a missing child, call ravo_suite_item_add.
+ * The suite adds a child that is missing: call ravo_suite_item_add for that.
  */
 ravo_status RAVO_CALL ravo_suite_item_find(const ravo_suite_tree *tree, ravo_suite_item item, const char *name,
                                            size_t name_length, size_t from, size_t *index, ravo_error *error);
@@ -2217,14 +2196,13 @@ typedef struct ravo_suite_token {
   int32_t position;           /* in bytes, from 0 */
 } ravo_suite_token;
 
-/* A function of the caller that receives a token; returns 0 to continue, another number to stop. */
+/* A function of the caller that receives a token. */
 typedef int32_t(RAVO_CALL *ravo_suite_take)(void *context, const ravo_suite_token *token);
 
 /*
  * Gives each token of a document, as the suite's tokenizer cuts it, to a function.
  *
- * RAVO_WRONG with code 0 for what cannot be read; the message tells the line. RAVO_STOPPED with its number as
- * `error->code` if it stops. Allocates.
+ * RAVO_WRONG with code 0 for what cannot be read; the message tells the line. Allocates.
  */
 ravo_status RAVO_CALL ravo_suite_tokens(const void *bytes, size_t bytes_length, ravo_suite_take take, void *context,
                                         ravo_error *error);
@@ -2251,7 +2229,7 @@ ravo_status RAVO_CALL ravo_suite_tokens(const void *bytes, size_t bytes_length, 
  *       printf("%zu wrong\n", answers.wrong);            // 2: codes are 0, 104, 102
  *
  * Trust.    Offsets, views and indices are checked while their row is read: a row whose value does not lie in the
- *           data ends the call with RAVO_RANGE, and its index is in error->position. RAVO_TRUSTED leaves these
+ *           data ends the call with RAVO_RANGE, and its index is in `error->position`. RAVO_TRUSTED leaves these
  *           checks out: for memory of a library that has made them itself. The offsets of null rows, and entries
  *           of a dictionary that no row has, are not looked at. Nothing needs an alignment.
  * Numbers.  A column of numbers has RAVO_LAYOUT_NUMBERS, or is a dictionary of them. A function that takes texts
@@ -2282,9 +2260,9 @@ enum {
 /* The size of data that the caller does not know: it ends where the offset of the last row ends. */
 #define RAVO_SIZE_UNKNOWN ((size_t)-1)
 
-/* A column of the caller. It starts as `ravo_column column = RAVO_COLUMN_INIT;`. What a layout lacks is 0. */
+/* A column of the caller. What a layout lacks is 0. */
 typedef struct ravo_column {
-  size_t size;                          /* sizeof(ravo_column) */
+  size_t size;                          /* sizeof(ravo_column), set by the caller */
   ravo_layout layout;
   int32_t width;                        /* bytes of a value (fixed, numbers) or of an index (dictionary) */
   size_t length;                        /* rows */
@@ -2299,7 +2277,7 @@ typedef struct ravo_column {
   const struct ravo_column *dictionary; /* a column of any layout without a dictionary */
 } ravo_column;
 
-#define RAVO_COLUMN_INIT {sizeof(ravo_column), 0, 0, 0, 0, NULL, NULL, NULL, 0, NULL, NULL, 0, NULL}
+#define RAVO_COLUMN_INIT {sizeof(ravo_column), 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0}
 
 /* What a function may rely on. */
 enum { RAVO_TRUSTED = 1 /* offsets, views and indices are right: do not check them */ };
@@ -2317,7 +2295,7 @@ enum {
 
 /* Room for a column of texts that a function writes. Rows that are wrong or null have an empty text. */
 typedef struct ravo_texts {
-  size_t size;        /* sizeof(ravo_texts) */
+  size_t size;        /* sizeof(ravo_texts), set by the caller */
   ravo_layout layout; /* RAVO_LAYOUT_OFFSETS_32, _OFFSETS_64 or _FIXED */
   int32_t width;      /* bytes of a value (fixed); shorter ones end with NULs, a longer one is RAVO_RANGE */
   void *offsets;      /* room for an offset more than rows; not with fixed */
@@ -2327,11 +2305,11 @@ typedef struct ravo_texts {
                          Bytes of data past the texts are undefined */
 } ravo_texts;
 
-#define RAVO_TEXTS_INIT {sizeof(ravo_texts), 0, 0, NULL, NULL, 0, 0}
+#define RAVO_TEXTS_INIT {sizeof(ravo_texts), 0, 0, 0, 0, 0, 0}
 
 /* Room for what a function says of rows. Each pointer may be null. */
 typedef struct ravo_answers {
-  size_t size;       /* sizeof(ravo_answers) */
+  size_t size;       /* sizeof(ravo_answers), set by the caller */
   uint16_t *codes;   /* of each row: the number of the reason, or one of RAVO_CODE_... */
   uint8_t *validity; /* (rows + 7) / 8 bytes: bit i, lowest first, is 1 if row i is correct; bits past the end: 0 */
   ravo_texts *texts; /* canonical forms, names, dates ...: what the function writes */
@@ -2339,7 +2317,7 @@ typedef struct ravo_answers {
   size_t nulls;      /* receives how many rows are null */
 } ravo_answers;
 
-#define RAVO_ANSWERS_INIT {sizeof(ravo_answers), NULL, NULL, NULL, 0, 0}
+#define RAVO_ANSWERS_INIT {sizeof(ravo_answers), 0, 0, 0, 0, 0}
 
 /*
  * Checks every row of a column for a kind, as ravo_check does, and writes codes, validity and canonical forms.
@@ -2352,7 +2330,9 @@ ravo_status RAVO_CALL ravo_check_column(ravo_kind kind, const ravo_column *colum
                                         ravo_error *error);
 
 /*
- * Checks every row of a column for a kind, and writes usual spellings where ravo_check_column writes canonical forms.
+ * Checks every row of a column for a kind, as ravo_respell does, and writes codes, validity and usual spellings.
+ *
+ * Otherwise as ravo_check_column. Allocates for dictionaries alone.
  */
 ravo_status RAVO_CALL ravo_respell_column(ravo_kind kind, const ravo_column *column, uint32_t flags,
                                           ravo_answers *answers, ravo_progress progress, void *context,
@@ -2485,8 +2465,8 @@ struct ArrowArrayStream {
  *
  * `field` is the name of a column of a record batch, or null for an array that is no batch. Formats: u, U, vu, z, Z,
  * vz, w:N, i, l, tdD, and dictionaries of these. Another format, or an array whose parts do not fit its format, is
- * RAVO_ARGUMENT; a name that the batch has not is RAVO_UNKNOWN. Schema and array are borrowed: they stay the caller's,
- * who releases them as ever, and the column holds until then. `dictionary` may be null if there is none. Never
+ * RAVO_ARGUMENT; a name that the batch does not have is RAVO_UNKNOWN. Schema and array stay the caller's; the column is
+ * valid until the caller releases them. `dictionary` may be null if there is none. Never
  * allocates.
  */
 ravo_status RAVO_CALL ravo_column_of_arrow(const struct ArrowSchema *schema, const struct ArrowArray *array,
@@ -2496,8 +2476,7 @@ ravo_status RAVO_CALL ravo_column_of_arrow(const struct ArrowSchema *schema, con
 /*
  * A function of the caller that receives a batch of a stream: its column, and how many rows came before it.
  *
- * The column holds until the function returns. 0 goes on. Any other result ends the stream: RAVO_STOPPED, with the
- * result in error->code.
+ * The column is valid until the function returns.
  */
 typedef int32_t(RAVO_CALL *ravo_batch)(void *context, const ravo_column *column, uint64_t first_row);
 
@@ -2505,11 +2484,35 @@ typedef int32_t(RAVO_CALL *ravo_batch)(void *context, const ravo_column *column,
  * Reads an Arrow stream to its end and gives a column of each batch to a function.
  *
  * `field` is as in ravo_column_of_arrow. The stream becomes the function's: it is released exactly once, whatever the
- * status, and so are its schema and its batches. A failure of the stream itself is RAVO_STOPPED, with its own number
- * in error->code and its own words as the message. Allocates nothing; the stream may.
+ * status, and so are its schema and its batches. A failure of the stream itself is RAVO_STOPPED with its number as
+ * `error->code` and its message. Never allocates; the stream may.
  */
 ravo_status RAVO_CALL ravo_arrow_stream(struct ArrowArrayStream *stream, const char *field, size_t field_length,
                                         ravo_batch batch, void *context, ravo_error *error);
+
+/* ------------------------------------------------------------------------------------------------------------
+ * This machine
+ *
+ * The one chapter whose answers depend on the machine and the moment, not on arguments alone.
+ */
+
+/* Which part of the suite asks for the report. */
+typedef int32_t ravo_machine_layer;
+enum {
+  RAVO_MACHINE_CLIENT = 0,  /* a client with a user interface */
+  RAVO_MACHINE_BUSINESS = 1 /* the application layer */
+};
+
+/*
+ * Writes the suite's support report: date and time, system, folders, memory, disks, and the installed files of the
+ * suite, in Czech, indented with tabs, with CR LF after each line.
+ *
+ * It reads clock, locale, registry and files, changes nothing and sends nothing. It names the computer, its user and
+ * folders. A value that the machine does not have is empty, and its line is still there. Two reports may differ in
+ * length: some 64 KiB are room for each. Allocates.
+ */
+ravo_status RAVO_CALL ravo_machine_report(ravo_machine_layer layer, char *buffer, size_t size, size_t *length,
+                                          ravo_error *error);
 
 #ifdef __cplusplus
 }

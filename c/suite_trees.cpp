@@ -1,3 +1,4 @@
+#include "handles.h"
 #include "support.h"
 #include <ravo/document/suite.h>
 #include <ravo/runtime/text.h>
@@ -24,7 +25,7 @@ using ravo::c::WriteTexts;
 using ravo::ECXMLParser::TECXMLParser;
 using ravo::ECXMLParser::TXMLItem;
 
-struct ravo_suite_tree {
+struct ravo_suite_tree : ravo::c::Handle {
   TECXMLParser document;
   std::vector<TXMLItem*> items;  // by their numbers; null if deleted
   std::unordered_map<const TXMLItem*, std::size_t> numbers;
@@ -46,7 +47,7 @@ struct ItemIn {
 };
 
 ItemIn ReadItem(const ravo_suite_tree* tree, ravo_suite_item number, ravo_error* error) {
-  if (tree == nullptr) return {nullptr, FailArgument(error, "the tree is null")};
+  if (!IsOpen(tree)) return {nullptr, FailArgument(error, "the tree is null or closed")};
   TXMLItem* const item = number < tree->items.size() ? tree->items[number] : nullptr;
   if (item == nullptr) return {nullptr, FailUnknown(error, "the tree has no such item")};
   return {item};
@@ -177,11 +178,11 @@ ravo_status ravo_suite_tree_open(const void* bytes, size_t bytes_length, ravo_su
   });
 }
 
-void ravo_suite_tree_close(ravo_suite_tree* tree) { delete tree; }
+void ravo_suite_tree_close(ravo_suite_tree* tree) { ravo::c::Close(tree); }
 
 ravo_status ravo_suite_tree_save(ravo_suite_tree* tree, void* buffer, size_t size, size_t* length,
                                  ravo_error* error) {
-  if (tree == nullptr) return FailArgument(error, "the tree is null");
+  if (!IsOpen(tree)) return FailArgument(error, "the tree is null or closed");
   return Guarded(error, [&] {
     return WriteBytes({static_cast<char*>(buffer), size, length},
                       ravo::document::SavedBySuite(tree->document), error);

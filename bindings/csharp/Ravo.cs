@@ -68,7 +68,7 @@ public static class Ravo
     /// <summary>an encoding lacks a character</summary>
     public const int RAVO_LACKING = 11;
 
-    /// <summary>Why a function failed. Declare it as `ravo_error error = RAVO_ERROR_INIT;`.</summary>
+    /// <summary>Why a function failed.</summary>
     [StructLayout(LayoutKind.Sequential)]
     public sealed class ravo_error
     {
@@ -116,7 +116,7 @@ public static class Ravo
     public static extern IntPtr ravo_version();
 
     /// <summary>Writes what the library was built with and runs on: lines of "name: value", such as the vector kernels that
-    /// this processor gets and the dates of the lists inside.</summary>
+    /// this processor gets and the dates of the lists inside. Allocates.</summary>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern int ravo_build_info([Out] byte[] buffer, UIntPtr size, ref UIntPtr length,
         [In, Out] ravo_error error);
@@ -176,13 +176,14 @@ public static class Ravo
 
     /// <summary>Checks a text for a kind and writes its usual spelling, of at most RAVO_VALUE_SIZE bytes.</summary>
     /// <remarks>
-    /// <para>As ravo_check, but for the form: "CZ65 0800 0000 1920 0014 5399". Never allocates.</para>
+    /// <para>Fails as ravo_check does. Never allocates.</para>
+    /// <code>ravo_respell(RAVO_KIND_IBAN, "CZ6508000000192000145399", ...)  // CZ65 0800 0000 1920 0014 5399</code>
     /// </remarks>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern int ravo_respell(int kind, byte[] text, UIntPtr text_length, [Out] byte[] buffer,
         UIntPtr size, ref UIntPtr length, [In, Out] ravo_error error);
 
-    /// <summary>A Czech bank account. Declare it as `ravo_account account = RAVO_ACCOUNT_INIT;`.</summary>
+    /// <summary>A Czech bank account.</summary>
     [StructLayout(LayoutKind.Sequential)]
     public sealed class ravo_account
     {
@@ -221,7 +222,7 @@ public static class Ravo
     public const int RAVO_SEX_MALE = 0;
     public const int RAVO_SEX_FEMALE = 1;
 
-    /// <summary>What a birth number tells. Declare it as `ravo_birth birth = RAVO_BIRTH_INIT;`.</summary>
+    /// <summary>What a birth number tells.</summary>
     [StructLayout(LayoutKind.Sequential)]
     public sealed class ravo_birth
     {
@@ -251,7 +252,7 @@ public static class Ravo
     public static extern int ravo_isbn_to_13(byte[] text, UIntPtr text_length, [Out] byte[] buffer, UIntPtr size,
         ref UIntPtr length, [In, Out] ravo_error error);
 
-    /// <summary>A piece of payment data in a text. Declare it as `ravo_payment payment = RAVO_PAYMENT_INIT;`.</summary>
+    /// <summary>A piece of payment data in a text.</summary>
     [StructLayout(LayoutKind.Sequential)]
     public sealed class ravo_payment
     {
@@ -278,7 +279,7 @@ public static class Ravo
     public static extern int ravo_payment_find(byte[] text, UIntPtr text_length, UIntPtr from,
         [In, Out] ravo_payment payment, [In, Out] ravo_error error);
 
-    /// <summary>A bank. Declare it as `ravo_bank bank = RAVO_BANK_INIT;`. Its texts live as long as the list.</summary>
+    /// <summary>A bank. Its texts live as long as the list.</summary>
     [StructLayout(LayoutKind.Sequential)]
     public sealed class ravo_bank
     {
@@ -299,21 +300,21 @@ public static class Ravo
     /// <remarks>
     /// <para>`date` is the day of the list. RAVO_WRONG with the reasons "bank.line", "bank.code", "bank.twice" and
     /// "bank.empty", at their position; RAVO_RANGE for a day outside of the calendar. The list keeps no part of the
-    /// text. Close it with ravo_bank_list_close. Allocates.</para>
+    /// text. Allocates.</para>
     /// </remarks>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern int ravo_bank_list_open(byte[] text, UIntPtr text_length, int date, out IntPtr list,
         [In, Out] ravo_error error);
 
-    /// <summary>Closes a list. Null is allowed.</summary>
+    /// <summary>Closes a list.</summary>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern void ravo_bank_list_close(IntPtr list);
 
-    /// <summary>Returns the day of a list; of the one that is built in for null. Never allocates.</summary>
+    /// <summary>Returns the day of a list. Never allocates.</summary>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern int ravo_bank_list_date(IntPtr list);
 
-    /// <summary>Returns how many banks a list has; the one that is built in for null. Never allocates.</summary>
+    /// <summary>Returns how many banks a list has. Never allocates.</summary>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern UIntPtr ravo_bank_count(IntPtr list);
 
@@ -330,7 +331,7 @@ public static class Ravo
     public static extern int ravo_bank_find(IntPtr list, int code, [In, Out] ravo_bank bank,
         [In, Out] ravo_error error);
 
-    /// <summary>A date of the proleptic Gregorian calendar.</summary>
+    /// <summary>A date of the calendar.</summary>
     [StructLayout(LayoutKind.Sequential)]
     public struct ravo_date
     {
@@ -342,12 +343,12 @@ public static class Ravo
         public int day;
     }
 
-    /// <summary>Writes the day of a date. RAVO_RANGE if there is no such date. Never allocates.</summary>
+    /// <summary>Writes the day of a date. Never allocates.</summary>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern int ravo_day_of(int year, int month, int day_of_month, ref int day,
         [In, Out] ravo_error error);
 
-    /// <summary>Writes the date of a day. RAVO_RANGE outside of the years 1 to 9999. Never allocates.</summary>
+    /// <summary>Writes the date of a day. Never allocates.</summary>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern int ravo_date_of(int day, ref ravo_date date, [In, Out] ravo_error error);
 
@@ -355,10 +356,7 @@ public static class Ravo
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern int ravo_is_leap_year(int year);
 
-    /// <summary>Writes the day of the week, 0 for Monday to 6 for Sunday.</summary>
-    /// <remarks>
-    /// <para>RAVO_RANGE outside of the years 1 to 9999, as all functions of this chapter. Never allocates.</para>
-    /// </remarks>
+    /// <summary>Writes the day of the week, 0 for Monday to 6 for Sunday. Never allocates.</summary>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern int ravo_weekday_of(int day, ref int weekday, [In, Out] ravo_error error);
 
@@ -413,14 +411,13 @@ public static class Ravo
 
     /// <summary>Writes the day of a date as people write it: each form of ravo_date_form, in Czech with or without blanks.</summary>
     /// <remarks>
-    /// <para>RAVO_WRONG with code 0 for a text that is none of them, RAVO_RANGE if there is no such date. Blanks around it
-    /// are skipped. Never allocates.</para>
+    /// <para>RAVO_WRONG with code 0 for a text that is none of them. Blanks around it are skipped. Never allocates.</para>
     /// </remarks>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern int ravo_day_read(byte[] text, UIntPtr text_length, ref int day,
         [In, Out] ravo_error error);
 
-    /// <summary>A public holiday. Declare it as `ravo_holiday holiday = RAVO_HOLIDAY_INIT;`.</summary>
+    /// <summary>A public holiday.</summary>
     [StructLayout(LayoutKind.Sequential)]
     public sealed class ravo_holiday
     {
@@ -482,7 +479,7 @@ public static class Ravo
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern int ravo_working_days_between(int from, int to, ref int days, [In, Out] ravo_error error);
 
-    /// <summary>When a term ends. Declare it as `ravo_term term = RAVO_TERM_INIT;`.</summary>
+    /// <summary>When a term ends.</summary>
     [StructLayout(LayoutKind.Sequential)]
     public sealed class ravo_term
     {
@@ -533,7 +530,7 @@ public static class Ravo
     public static extern int ravo_money_format(long amount, int separator, int places, [Out] byte[] buffer,
         UIntPtr size, ref UIntPtr length, [In, Out] ravo_error error);
 
-    /// <summary>Writes the amount that a whole text is: a sign, digits, a separator, at most four decimals that are not zeros
+    /// <summary>Writes the amount of a text, which is a sign, digits, a separator, at most four decimals that are not zeros
     /// at the end.</summary>
     /// <remarks>
     /// <para>RAVO_WRONG with code 0 for any other text and for amounts that do not fit 64 bits. Never allocates for texts of
@@ -562,16 +559,13 @@ public static class Ravo
 
     /// <summary>Writes an amount times a rate, rounded to a multiple of `step`. 2100 is 21 %, 253400 an exchange rate of 25,34.</summary>
     /// <remarks>
-    /// <para>As ravo_money_times_ratio. Allocates on failure alone.</para>
+    /// <para>Fails as ravo_money_times_ratio does. Allocates on failure alone.</para>
     /// </remarks>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern int ravo_money_times_rate(long amount, long rate, long step, int rounding, ref long result,
         [In, Out] ravo_error error);
 
-    /// <summary>Writes an amount in whole crowns, and the rounded amount less the given one.</summary>
-    /// <remarks>
-    /// <para>Never allocates.</para>
-    /// </remarks>
+    /// <summary>Writes an amount rounded to whole crowns, and the rounded amount less the given one. Never allocates.</summary>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern int ravo_money_to_crowns(long amount, int rounding, ref long rounded, ref long difference,
         [In, Out] ravo_error error);
@@ -592,7 +586,7 @@ public static class Ravo
     /// <summary>total less total / (1 + rate)</summary>
     public const int RAVO_VAT_FROM_TOTAL = 2;
 
-    /// <summary>A rate. Declare it as `ravo_vat_rate rate = RAVO_VAT_RATE_INIT;`.</summary>
+    /// <summary>A rate.</summary>
     [StructLayout(LayoutKind.Sequential)]
     public sealed class ravo_vat_rate
     {
@@ -630,7 +624,7 @@ public static class Ravo
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern int ravo_vat_kind_on(int day, int percent, ref int kind, [In, Out] ravo_error error);
 
-    /// <summary>A way of computing the tax. Declare it as `ravo_vat_way way = RAVO_VAT_WAY_INIT;`.</summary>
+    /// <summary>A way of computing the tax.</summary>
     [StructLayout(LayoutKind.Sequential)]
     public sealed class ravo_vat_way
     {
@@ -658,7 +652,7 @@ public static class Ravo
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern int ravo_vat_is_lawful(int method, int day);
 
-    /// <summary>Base, tax and total of an amount. Declare it as `ravo_vat_amounts amounts = RAVO_VAT_AMOUNTS_INIT;`.</summary>
+    /// <summary>Base, tax and total of an amount.</summary>
     [StructLayout(LayoutKind.Sequential)]
     public sealed class ravo_vat_amounts
     {
@@ -712,7 +706,7 @@ public static class Ravo
         public int half;
     }
 
-    /// <summary>A document by rates. Declare it as `ravo_vat_summary summary = RAVO_VAT_SUMMARY_INIT;`.</summary>
+    /// <summary>A document by rates.</summary>
     [StructLayout(LayoutKind.Sequential)]
     public sealed class ravo_vat_summary
     {
@@ -739,7 +733,7 @@ public static class Ravo
     /// <summary>an invoice</summary>
     public const int RAVO_PAYMENT_CODE_SID = 1;
 
-    /// <summary>A payment. Each value ends with NUL; null is left out. Declare it as `ravo_spayd code = RAVO_SPAYD_INIT;`.</summary>
+    /// <summary>A payment. Null values are left out.</summary>
     [StructLayout(LayoutKind.Sequential)]
     public sealed class ravo_spayd
     {
@@ -799,7 +793,7 @@ public static class Ravo
     public static extern int ravo_spayd_write([In] ravo_spayd code, [Out] byte[] buffer, UIntPtr size,
         ref UIntPtr length, [In, Out] ravo_error error);
 
-    /// <summary>An invoice. Each value ends with NUL; null is left out. Declare it as `ravo_sid code = RAVO_SID_INIT;`.</summary>
+    /// <summary>An invoice. Null values are left out.</summary>
     [StructLayout(LayoutKind.Sequential)]
     public sealed class ravo_sid
     {
@@ -871,7 +865,7 @@ public static class Ravo
 
     /// <summary>Writes the code of an invoice, of at most RAVO_PAYMENT_CODE_SIZE bytes.</summary>
     /// <remarks>
-    /// <para>As ravo_spayd_write, and with the reasons of IČO and DIČ. Never allocates.</para>
+    /// <para>Fails as ravo_spayd_write does, and with the reasons of IČO and DIČ. Never allocates.</para>
     /// </remarks>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern int ravo_sid_write([In] ravo_sid code, [Out] byte[] buffer, UIntPtr size,
@@ -880,7 +874,7 @@ public static class Ravo
     /// <summary>Checks a code and writes which of the two it is and how many values it has.</summary>
     /// <remarks>
     /// <para>Keys that the standard does not have pass, and a checksum is compared. RAVO_WRONG with the reasons "code....",
-    /// those of accounts, IČO and DIČ, at their position in the text. Either result may not be null. Never allocates.</para>
+    /// those of accounts, IČO and DIČ, at their position in the text. Never allocates.</para>
     /// </remarks>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern int ravo_payment_code_read(byte[] text, UIntPtr text_length, ref int code,
@@ -888,35 +882,35 @@ public static class Ravo
 
     /// <summary>Writes key and value with an index, in the order of a code: "AM" and "450.00".</summary>
     /// <remarks>
-    /// <para>As ravo_payment_code_read; RAVO_UNKNOWN past the last. A value may contain NUL. Never allocates.</para>
+    /// <para>Fails as ravo_payment_code_read does; RAVO_UNKNOWN past the last. A value may contain NUL. Never allocates.</para>
     /// </remarks>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern int ravo_payment_code_at(byte[] text, UIntPtr text_length, UIntPtr index, [Out] byte[] key,
         UIntPtr key_size, ref UIntPtr key_length, [Out] byte[] value, UIntPtr value_size, ref UIntPtr value_length,
         [In, Out] ravo_error error);
 
-    /// <summary>Reads and checks an invoice.</summary>
+    /// <summary>Opens an invoice: reads and checks it.</summary>
     /// <remarks>
     /// <para>The text is UTF-8, whatever encoding it declares. RAVO_WRONG with code 0 for what is not XML: `error->position` is
     /// the place, the message tells line and column and why. What is XML and no invoice is opened, and its findings say so.
-    /// The invoice keeps no part of the text. Close it with ravo_invoice_close. Allocates.</para>
+    /// The invoice keeps no part of the text. Allocates.</para>
     /// </remarks>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern int ravo_invoice_open(byte[] text, UIntPtr text_length, out IntPtr invoice,
         [In, Out] ravo_error error);
 
-    /// <summary>Closes an invoice. Null is allowed.</summary>
+    /// <summary>Closes an invoice.</summary>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern void ravo_invoice_close(IntPtr invoice);
 
     /// <summary>ISDOC 6</summary>
-    public const int RAVO_INVOICE_KNOWN = 0;
+    public const int RAVO_INVOICE_VERSION_KNOWN = 0;
     /// <summary>ISDOC of another version: findings say little</summary>
-    public const int RAVO_INVOICE_OTHER = 1;
+    public const int RAVO_INVOICE_VERSION_OTHER = 1;
     /// <summary>no document of ISDOC</summary>
-    public const int RAVO_INVOICE_NONE = 2;
+    public const int RAVO_INVOICE_VERSION_NONE = 2;
 
-    /// <summary>What an invoice says once. Declare it as `ravo_invoice_head head = RAVO_INVOICE_HEAD_INIT;`.</summary>
+    /// <summary>What an invoice says once.</summary>
     [StructLayout(LayoutKind.Sequential)]
     public sealed class ravo_invoice_head
     {
@@ -938,15 +932,15 @@ public static class Ravo
         public int version;
     }
 
-    /// <summary>Writes what an invoice says once.</summary>
+    /// <summary>Writes what an invoice says once. Never allocates.</summary>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern int ravo_invoice_head_of(IntPtr invoice, [In, Out] ravo_invoice_head head,
         [In, Out] ravo_error error);
 
-    public const int RAVO_INVOICE_SUPPLIER = 0;
-    public const int RAVO_INVOICE_CUSTOMER = 1;
+    public const int RAVO_INVOICE_ROLE_SUPPLIER = 0;
+    public const int RAVO_INVOICE_ROLE_CUSTOMER = 1;
 
-    /// <summary>One side of the business. Declare it as `ravo_invoice_party party = RAVO_INVOICE_PARTY_INIT;`.</summary>
+    /// <summary>One side of the business.</summary>
     [StructLayout(LayoutKind.Sequential)]
     public sealed class ravo_invoice_party
     {
@@ -965,12 +959,12 @@ public static class Ravo
         public IntPtr country;
     }
 
-    /// <summary>Writes a side of the business.</summary>
+    /// <summary>Writes a side of the business. Never allocates.</summary>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern int ravo_invoice_party_of(IntPtr invoice, int role, [In, Out] ravo_invoice_party party,
         [In, Out] ravo_error error);
 
-    /// <summary>A line. Declare it as `ravo_invoice_line line = RAVO_INVOICE_LINE_INIT;`.</summary>
+    /// <summary>A line.</summary>
     [StructLayout(LayoutKind.Sequential)]
     public sealed class ravo_invoice_line
     {
@@ -997,7 +991,7 @@ public static class Ravo
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern UIntPtr ravo_invoice_line_count(IntPtr invoice);
 
-    /// <summary>Writes the line with an index. RAVO_UNKNOWN past the last.</summary>
+    /// <summary>Writes the line with an index. RAVO_UNKNOWN past the last. Never allocates.</summary>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern int ravo_invoice_line_at(IntPtr invoice, UIntPtr index, [In, Out] ravo_invoice_line line,
         [In, Out] ravo_error error);
@@ -1015,7 +1009,7 @@ public static class Ravo
     /// <summary>the taxes of the lines added</summary>
     public const int RAVO_INVOICE_WAY_LINES = 5;
 
-    /// <summary>A row of the recapitulation. Declare it as `ravo_invoice_rate rate = RAVO_INVOICE_RATE_INIT;`.</summary>
+    /// <summary>A row of the recapitulation.</summary>
     [StructLayout(LayoutKind.Sequential)]
     public sealed class ravo_invoice_rate
     {
@@ -1046,12 +1040,12 @@ public static class Ravo
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern UIntPtr ravo_invoice_rate_count(IntPtr invoice);
 
-    /// <summary>Writes the row of the recapitulation with an index. RAVO_UNKNOWN past the last.</summary>
+    /// <summary>Writes the row of the recapitulation with an index. RAVO_UNKNOWN past the last. Never allocates.</summary>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern int ravo_invoice_rate_at(IntPtr invoice, UIntPtr index, [In, Out] ravo_invoice_rate rate,
         [In, Out] ravo_error error);
 
-    /// <summary>The sums of an invoice. Declare it as `ravo_invoice_totals totals = RAVO_INVOICE_TOTALS_INIT;`.</summary>
+    /// <summary>The sums of an invoice.</summary>
     [StructLayout(LayoutKind.Sequential)]
     public sealed class ravo_invoice_totals
     {
@@ -1075,12 +1069,12 @@ public static class Ravo
         public IntPtr payable;
     }
 
-    /// <summary>Writes the sums of an invoice.</summary>
+    /// <summary>Writes the sums of an invoice. Never allocates.</summary>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern int ravo_invoice_totals_of(IntPtr invoice, [In, Out] ravo_invoice_totals totals,
         [In, Out] ravo_error error);
 
-    /// <summary>A payment of an invoice. Declare it as `ravo_invoice_payment payment = RAVO_INVOICE_PAYMENT_INIT;`.</summary>
+    /// <summary>A payment of an invoice.</summary>
     [StructLayout(LayoutKind.Sequential)]
     public sealed class ravo_invoice_payment
     {
@@ -1105,17 +1099,17 @@ public static class Ravo
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern UIntPtr ravo_invoice_payment_count(IntPtr invoice);
 
-    /// <summary>Writes the payment with an index. RAVO_UNKNOWN past the last.</summary>
+    /// <summary>Writes the payment with an index. RAVO_UNKNOWN past the last. Never allocates.</summary>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern int ravo_invoice_payment_at(IntPtr invoice, UIntPtr index,
         [In, Out] ravo_invoice_payment payment, [In, Out] ravo_error error);
 
     /// <summary>lawful, or within half a haléř for each line; worth a look</summary>
-    public const int RAVO_INVOICE_NOTE = 0;
+    public const int RAVO_INVOICE_SEVERITY_NOTE = 0;
     /// <summary>the document breaks a rule</summary>
-    public const int RAVO_INVOICE_ERROR = 1;
+    public const int RAVO_INVOICE_SEVERITY_ERROR = 1;
 
-    /// <summary>What is wrong with an invoice. Declare it as `ravo_invoice_finding finding = RAVO_INVOICE_FINDING_INIT;`.</summary>
+    /// <summary>What is wrong with an invoice.</summary>
     [StructLayout(LayoutKind.Sequential)]
     public sealed class ravo_invoice_finding
     {
@@ -1145,7 +1139,7 @@ public static class Ravo
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern UIntPtr ravo_invoice_finding_count(IntPtr invoice);
 
-    /// <summary>Writes the finding with an index, in the order of the text. RAVO_UNKNOWN past the last.</summary>
+    /// <summary>Writes the finding with an index, in the order of the text. RAVO_UNKNOWN past the last. Never allocates.</summary>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern int ravo_invoice_finding_at(IntPtr invoice, UIntPtr index,
         [In, Out] ravo_invoice_finding finding, [In, Out] ravo_error error);
@@ -1156,6 +1150,665 @@ public static class Ravo
     /// </remarks>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern IntPtr ravo_invoice_rule_sentence(int rule, int language);
+
+    /// <summary>Writes a text in upper case.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_text_upper(byte[] text, UIntPtr text_length, [Out] byte[] buffer, UIntPtr size,
+        ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>Writes a text in lower case.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_text_lower(byte[] text, UIntPtr text_length, [Out] byte[] buffer, UIntPtr size,
+        ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>Writes the case-folded form of a text, equal for texts that differ only in case.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_text_fold(byte[] text, UIntPtr text_length, [Out] byte[] buffer, UIntPtr size,
+        ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>Writes a text with the first character of each word in upper case and the others in lower case.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_text_proper(byte[] text, UIntPtr text_length, [Out] byte[] buffer, UIntPtr size,
+        ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>Writes 1 if a whole text matches a mask, else 0. "*" is any run of characters, "?" one character of UTF-16.</summary>
+    /// <remarks>
+    /// <para>`ignore_case` is 0, or 1 to fold both. Never allocates for texts and masks of up to 256 bytes.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_text_match(byte[] text, UIntPtr text_length, byte[] mask, UIntPtr mask_length,
+        int ignore_case, ref int answer, [In, Out] ravo_error error);
+
+    /// <summary>Writes 1 if a whole text matches a mask, else 0, as ravo_text_match does, with the units of UTF-16 `wild` for "*" and
+    /// `one` for "?". If both are the same, it is `wild`.</summary>
+    /// <remarks>
+    /// <para>Never allocates for texts and masks of up to 256 bytes.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_text_match_with(byte[] text, UIntPtr text_length, byte[] mask,
+        UIntPtr mask_length, ushort wild, ushort one, int ignore_case, ref int answer, [In, Out] ravo_error error);
+
+    /// <summary>Writes a text in the form encoding of URLs: "a+b%26c" of "a b&amp;c".</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_url_encode(byte[] text, UIntPtr text_length, [Out] byte[] buffer, UIntPtr size,
+        ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>Writes a form-encoded text decoded. A "%" without two hexadecimal digits stays.</summary>
+    /// <remarks>
+    /// <para>RAVO_UTF8 if the result is not UTF-8, at its position there.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_url_decode(byte[] text, UIntPtr text_length, [Out] byte[] buffer, UIntPtr size,
+        ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>Writes the part of a URI before the first "#"; all of it if there is none.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_uri_without_fragment(byte[] uri, UIntPtr uri_length, [Out] byte[] buffer,
+        UIntPtr size, ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>Writes the part of a URI after the first "#"; an empty text if there is none.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_uri_fragment(byte[] uri, UIntPtr uri_length, [Out] byte[] buffer, UIntPtr size,
+        ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>as said above</summary>
+    public const int RAVO_ORDER_PLAIN = 0;
+    /// <summary>small letters and capitals are equal</summary>
+    public const int RAVO_ORDER_IGNORE_CASE = 1;
+    /// <summary>runs of the digits 0 to 9 compare by value: "FV9" before "FV10"</summary>
+    public const int RAVO_ORDER_NATURAL = 2;
+    /// <summary>digits precede letters, as in most programs</summary>
+    public const int RAVO_ORDER_DIGITS_FIRST = 4;
+
+    /// <summary>Writes -1, 0 or 1: whether text `a` comes before `b` in the Czech order, is equal to it, or comes after it.</summary>
+    /// <remarks>
+    /// <para>Never allocates.</para>
+    /// <code>ravo_compare_czech("cihla", RAVO_NUL_TERMINATED, "čaj", RAVO_NUL_TERMINATED, 0, &amp;order, NULL)  // -1</code>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_compare_czech(byte[] a, UIntPtr a_length, byte[] b, UIntPtr b_length, int flags,
+        ref int order, [In, Out] ravo_error error);
+
+    /// <summary>Writes the key of a text in the Czech order: bytes, of which none is 0 without RAVO_ORDER_NATURAL.</summary>
+    /// <remarks>
+    /// <para>Keys of the same flags compare as their texts do. Other versions of the library may make other keys: do not store
+    /// them. Allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_czech_key(byte[] text, UIntPtr text_length, int flags, IntPtr buffer,
+        UIntPtr size, ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>Writes -1, 0 or 1: how the numbers compare with which two texts begin.</summary>
+    /// <remarks>
+    /// <para>A number is a sign, digits of any count, blanks between them, a decimal comma or point: "-1 234,50 Kč". A text
+    /// without a number is less than any number. Never allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_compare_numbers(byte[] a, UIntPtr a_length, byte[] b, UIntPtr b_length,
+        ref int order, [In, Out] ravo_error error);
+
+    /// <summary>Writes the key of the number with which a text begins: bytes.</summary>
+    /// <remarks>
+    /// <para>Keys compare as ravo_compare_numbers does. Other versions of the library may make other keys: do not store them.
+    /// Allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_number_key(byte[] text, UIntPtr text_length, IntPtr buffer, UIntPtr size,
+        ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>Writes a negative number, 0 or a positive one: how the suite compares two texts with numbers, by UTF-16 units.</summary>
+    /// <remarks>
+    /// <para>The number is the difference of two units or of two lengths, or 1 or -1 if one number is longer. Digits are those
+    /// of every script. Zeros inside a number do not count: "105" comes before "15", so that the order has cycles.
+    /// `ignore_case` is 0, or 1 to fold both. Never allocates for texts of up to 256 bytes.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_compare_num(byte[] a, UIntPtr a_length, byte[] b, UIntPtr b_length,
+        int ignore_case, ref long difference, [In, Out] ravo_error error);
+
+    /// <summary>Writes how the suite compares bytes of any encoding, as ravo_suite_compare_num does texts: digits are 0 to 9, and
+    /// ASCII letters alone have case.</summary>
+    /// <remarks>
+    /// <para>Never allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_compare_num_bytes(byte[] a, UIntPtr a_length, byte[] b, UIntPtr b_length,
+        int ignore_case, ref long difference, [In, Out] ravo_error error);
+
+    /// <summary>(Cn) no character, in the version of the tables</summary>
+    public const int RAVO_CHARACTER_UNASSIGNED = 0;
+    /// <summary>(Lu)</summary>
+    public const int RAVO_CHARACTER_LETTER_UPPER_CASE = 1;
+    /// <summary>(Ll)</summary>
+    public const int RAVO_CHARACTER_LETTER_LOWER_CASE = 2;
+    /// <summary>(Lt) such as U+01C5</summary>
+    public const int RAVO_CHARACTER_LETTER_TITLE_CASE = 3;
+    /// <summary>(Lm)</summary>
+    public const int RAVO_CHARACTER_LETTER_MODIFIER = 4;
+    /// <summary>(Lo) a letter without case</summary>
+    public const int RAVO_CHARACTER_LETTER_OTHER = 5;
+    /// <summary>(Mn)</summary>
+    public const int RAVO_CHARACTER_MARK_NON_SPACING = 6;
+    /// <summary>(Mc)</summary>
+    public const int RAVO_CHARACTER_MARK_SPACING_COMBINED = 7;
+    /// <summary>(Me)</summary>
+    public const int RAVO_CHARACTER_MARK_ENCLOSING = 8;
+    /// <summary>(Nd) a decimal digit of any script</summary>
+    public const int RAVO_CHARACTER_NUMBER_DECIMAL = 9;
+    /// <summary>(Nl) such as U+2160, the Roman one</summary>
+    public const int RAVO_CHARACTER_NUMBER_LETTER = 10;
+    /// <summary>(No) such as U+00BD, a half</summary>
+    public const int RAVO_CHARACTER_NUMBER_OTHER = 11;
+    /// <summary>(Pc) such as the low line</summary>
+    public const int RAVO_CHARACTER_PUNCTUATION_CONNECTOR = 12;
+    /// <summary>(Pd)</summary>
+    public const int RAVO_CHARACTER_PUNCTUATION_DASH = 13;
+    /// <summary>(Ps)</summary>
+    public const int RAVO_CHARACTER_PUNCTUATION_OPEN = 14;
+    /// <summary>(Pe)</summary>
+    public const int RAVO_CHARACTER_PUNCTUATION_CLOSE = 15;
+    /// <summary>(Pi)</summary>
+    public const int RAVO_CHARACTER_PUNCTUATION_INITIAL_QUOTE = 16;
+    /// <summary>(Pf)</summary>
+    public const int RAVO_CHARACTER_PUNCTUATION_FINAL_QUOTE = 17;
+    /// <summary>(Po)</summary>
+    public const int RAVO_CHARACTER_PUNCTUATION_OTHER = 18;
+    /// <summary>(Sm)</summary>
+    public const int RAVO_CHARACTER_SYMBOL_MATH = 19;
+    /// <summary>(Sc)</summary>
+    public const int RAVO_CHARACTER_SYMBOL_CURRENCY = 20;
+    /// <summary>(Sk)</summary>
+    public const int RAVO_CHARACTER_SYMBOL_MODIFIER = 21;
+    /// <summary>(So)</summary>
+    public const int RAVO_CHARACTER_SYMBOL_OTHER = 22;
+    /// <summary>(Zs)</summary>
+    public const int RAVO_CHARACTER_SEPARATOR_SPACE = 23;
+    /// <summary>(Zl)</summary>
+    public const int RAVO_CHARACTER_SEPARATOR_LINE = 24;
+    /// <summary>(Zp)</summary>
+    public const int RAVO_CHARACTER_SEPARATOR_PARAGRAPH = 25;
+    /// <summary>(Cc)</summary>
+    public const int RAVO_CHARACTER_OTHER_CONTROL = 26;
+    /// <summary>(Cf)</summary>
+    public const int RAVO_CHARACTER_OTHER_FORMAT = 27;
+    /// <summary>(Cs)</summary>
+    public const int RAVO_CHARACTER_OTHER_SURROGATE = 28;
+    /// <summary>(Co)</summary>
+    public const int RAVO_CHARACTER_OTHER_PRIVATE_USE = 29;
+    /// <summary>(L) numbers 1 to 5</summary>
+    public const int RAVO_CHARACTER_LETTER = 30;
+    /// <summary>(M) numbers 6 to 8</summary>
+    public const int RAVO_CHARACTER_MARK = 31;
+    /// <summary>(N) numbers 9 to 11</summary>
+    public const int RAVO_CHARACTER_NUMBER = 32;
+    /// <summary>(P) numbers 12 to 18</summary>
+    public const int RAVO_CHARACTER_PUNCTUATION = 33;
+    /// <summary>(S) numbers 19 to 22</summary>
+    public const int RAVO_CHARACTER_SYMBOL = 34;
+    /// <summary>(Z) numbers 23 to 25</summary>
+    public const int RAVO_CHARACTER_SEPARATOR = 35;
+    /// <summary>(C) numbers 26 to 29: without the unassigned ones</summary>
+    public const int RAVO_CHARACTER_OTHER = 36;
+    /// <summary>a letter of the Latin, Greek and Cyrillic blocks</summary>
+    public const int RAVO_CHARACTER_LETTER_COMMON = 37;
+    /// <summary>by the property White_Space</summary>
+    public const int RAVO_CHARACTER_WHITE_SPACE = 38;
+    /// <summary>a letter</summary>
+    public const int RAVO_CHARACTER_ALPHA = 39;
+    /// <summary>a letter or a decimal digit of any script</summary>
+    public const int RAVO_CHARACTER_ALPHA_NUM = 40;
+    /// <summary>a decimal digit of any script</summary>
+    public const int RAVO_CHARACTER_DIGIT = 41;
+    /// <summary>0 to 9, A to F, a to f</summary>
+    public const int RAVO_CHARACTER_HEX_DIGIT = 42;
+    /// <summary>a syllable, U+AC00 to U+D7A3</summary>
+    public const int RAVO_CHARACTER_HANGUL = 43;
+    /// <summary>carriage return or line feed</summary>
+    public const int RAVO_CHARACTER_CR_LF = 44;
+    /// <summary>"_"</summary>
+    public const int RAVO_CHARACTER_LOW_LINE = 45;
+    /// <summary>U+0022 or U+0027</summary>
+    public const int RAVO_CHARACTER_QUOTE = 46;
+    /// <summary>assigned, and no letter, mark, number, connector, surrogate</summary>
+    public const int RAVO_CHARACTER_WORD_SEPARATOR = 47;
+    /// <summary>white space or "&amp;"</summary>
+    public const int RAVO_CHARACTER_WHITE_SPACE_OR_AMPERSAND = 48;
+    /// <summary>white space or ":"</summary>
+    public const int RAVO_CHARACTER_WHITE_SPACE_OR_COLON = 49;
+    /// <summary>white space, of which U+00A0 is</summary>
+    public const int RAVO_CHARACTER_WHITE_SPACE_OR_NO_BREAK_SPACE = 50;
+    /// <summary>white space or ">"</summary>
+    public const int RAVO_CHARACTER_WHITE_SPACE_GT = 51;
+    /// <summary>white space or "&lt;"</summary>
+    public const int RAVO_CHARACTER_WHITE_SPACE_LT = 52;
+    /// <summary>white space or "-"</summary>
+    public const int RAVO_CHARACTER_WHITE_SPACE_HYPHEN = 53;
+    /// <summary>white space, "-" or ">"</summary>
+    public const int RAVO_CHARACTER_WHITE_SPACE_HYPHEN_GT = 54;
+
+    /// <summary>Writes 1 if a character has a property, else 0.</summary>
+    /// <remarks>
+    /// <para>Never allocates.</para>
+    /// <code>ravo_character_is(0x010D, RAVO_CHARACTER_LETTER, &amp;answer, NULL)  // 1: č</code>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_character_is(ushort unit, int property, ref int answer,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes the category of a character: one of the numbers 0 to 29. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_character_category(ushort unit, ref int category, [In, Out] ravo_error error);
+
+    /// <summary>Returns the short name of a category or of a group, such as "Lu" or "L", or null for what is neither.</summary>
+    /// <remarks>
+    /// <para>Never allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern IntPtr ravo_character_category_name(int category);
+
+    /// <summary>Writes the upper case of a character, or itself if it has none of one unit. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_character_to_upper(ushort unit, ref ushort mapped, [In, Out] ravo_error error);
+
+    /// <summary>Writes the lower case of a character, or itself if it has none of one unit. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_character_to_lower(ushort unit, ref ushort mapped, [In, Out] ravo_error error);
+
+    /// <summary>Writes the title case of a character: the upper case, but U+01C5 for U+01C4 and the like. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_character_to_title(ushort unit, ref ushort mapped, [In, Out] ravo_error error);
+
+    /// <summary>Writes the case-folded form of a character, equal for those that differ only in case. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_character_to_case_fold(ushort unit, ref ushort mapped,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes the canonical combining class of a character: 0 for a starter, else the rank of a mark, up to 254.</summary>
+    /// <remarks>
+    /// <para>Never allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_character_combining_class(ushort unit, ref int rank, [In, Out] ravo_error error);
+
+    /// <summary>the full canonical one, marks in canonical order: "é" is "e" and U+0301</summary>
+    public const int RAVO_DECOMPOSITION_CANONICAL = 0;
+    /// <summary>the full compatibility one, or the canonical one if there is no other</summary>
+    public const int RAVO_DECOMPOSITION_COMPATIBLE = 1;
+    /// <summary>the letters of a Hangul syllable, which the others leave alone</summary>
+    public const int RAVO_DECOMPOSITION_HANGUL = 2;
+
+    /// <summary>Writes the decomposition of a character; an empty text if it has none.</summary>
+    /// <remarks>
+    /// <para>Allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_character_decompose(ushort unit, int decomposition, [Out] byte[] buffer,
+        UIntPtr size, ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>Changes the CRC-32 of zip and Ethernet to that of the bytes so far and these. Begin with 0.</summary>
+    /// <remarks>
+    /// <para>Never allocates.</para>
+    /// <code>uint32_t crc = 0;
+    /// ravo_crc32("123456789", 9, &amp;crc, NULL);  // 0xCBF43926</code>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_crc32(byte[] bytes, UIntPtr bytes_length, ref uint crc,
+        [In, Out] ravo_error error);
+
+    /// <summary>the bytes</summary>
+    public const int RAVO_SUITE_HASH_BYTES = 0;
+    /// <summary>the bytes in upper case, as letters of Windows-1250</summary>
+    public const int RAVO_SUITE_HASH_UPPER_BYTES = 1;
+    /// <summary>the little-endian bytes of the text in UTF-16</summary>
+    public const int RAVO_SUITE_HASH_TEXT = 2;
+    /// <summary>the case-folded UTF-16 units of the text</summary>
+    public const int RAVO_SUITE_HASH_FOLDED_TEXT = 3;
+
+    /// <summary>Writes the suite's 32-bit hash. `initial` selects one of many independent hash functions.</summary>
+    /// <remarks>
+    /// <para>Texts are UTF-8. Texts of more than 256 bytes allocate.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_hash(int what, byte[] bytes, UIntPtr bytes_length, uint initial,
+        ref uint hash, [In, Out] ravo_error error);
+
+    /// <summary>Opens a generator by a number. Allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_random_open(uint seed, out IntPtr random, [In, Out] ravo_error error);
+
+    /// <summary>Opens a generator by an array of keys, as the generator's authors do. RAVO_RANGE if there are none. Allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_random_open_array(uint[] keys, UIntPtr keys_length, out IntPtr random,
+        [In, Out] ravo_error error);
+
+    /// <summary>Opens a generator by bytes, as the suite does: each byte is a key.</summary>
+    /// <remarks>
+    /// <para>From 624 bytes on it is another generator than that of an array with the same keys. RAVO_RANGE if there are none.
+    /// Allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_random_open_bytes(byte[] bytes, UIntPtr bytes_length, out IntPtr random,
+        [In, Out] ravo_error error);
+
+    /// <summary>Closes a generator.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern void ravo_random_close(IntPtr random);
+
+    /// <summary>Writes the upper 31 of the next 32 bits: 0 to 2147483647. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_random_int31(IntPtr random, ref uint number, [In, Out] ravo_error error);
+
+    /// <summary>Writes the next 32 bits. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_random_int32(IntPtr random, ref uint number, [In, Out] ravo_error error);
+
+    /// <summary>Writes the next 32 bits as the low half, and the upper 31 bits of the draw after it as the high half.</summary>
+    /// <remarks>
+    /// <para>RAVO_RANGE if the highest bit of the low half is set, as it is every other time: that draw is gone. For 63 bits
+    /// that never fail, call ravo_random_int32 and ravo_random_int31. Allocates on failure alone.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_random_int63(IntPtr random, ref long number, [In, Out] ravo_error error);
+
+    /// <summary>Writes the next 32 bits as the low half, and the 32 bits after them as the high half.</summary>
+    /// <remarks>
+    /// <para>RAVO_RANGE if the highest bit of either is set: the draws up to that one are gone. For 64 bits that never fail,
+    /// call ravo_random_int32 twice. Allocates on failure alone.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_random_int64(IntPtr random, ref long number, [In, Out] ravo_error error);
+
+    /// <summary>Writes a number from 0 to 1, both included, in steps of 1 / (2^32 - 1). Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_random_real1(IntPtr random, ref double number, [In, Out] ravo_error error);
+
+    /// <summary>Writes a number from 0 to below 1, in steps of 2^-32. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_random_real2(IntPtr random, ref double number, [In, Out] ravo_error error);
+
+    /// <summary>Writes a number between 0 and 1, neither included, in steps of 2^-32. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_random_real3(IntPtr random, ref double number, [In, Out] ravo_error error);
+
+    /// <summary>Writes a number from 0 to below 1, in steps of 2^-53, from two draws. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_random_res53(IntPtr random, ref double number, [In, Out] ravo_error error);
+
+    /// <summary>Writes a text of `count` characters of an alphabet, one draw for each: what the suite's StrRandom makes if the
+    /// generator was just opened by the bytes of its seed.</summary>
+    /// <remarks>
+    /// <para>RAVO_ARGUMENT if the alphabet is empty and `count` is not 0. If the buffer is null or too small, the generator stays
+    /// as it was. Allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_random_text(IntPtr random, byte[] alphabet, UIntPtr alphabet_length,
+        UIntPtr count, [Out] byte[] buffer, UIntPtr size, ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>What is known of an encoding.</summary>
+    [StructLayout(LayoutKind.Sequential)]
+    public sealed class ravo_encoding_info
+    {
+        /// <summary>sizeof(ravo_encoding_info), set by the caller</summary>
+        public UIntPtr size = (UIntPtr)Marshal.SizeOf(typeof(ravo_encoding_info));
+        /// <summary>"Windows_1250"</summary>
+        public IntPtr name;
+        /// <summary>for people</summary>
+        public IntPtr label;
+        /// <summary>other names, separated by blanks</summary>
+        public IntPtr aliases;
+        /// <summary>remarks; may be empty</summary>
+        public IntPtr notes;
+        /// <summary>Windows number; 0 if it has none</summary>
+        public int code_page;
+        /// <summary>1 if it can be converted from, else 0</summary>
+        public int can_read;
+        /// <summary>1 if it can be converted to, else 0</summary>
+        public int can_write;
+    }
+
+    /// <summary>Returns how many encodings there are. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern UIntPtr ravo_encoding_count();
+
+    /// <summary>Writes what is known of an encoding. RAVO_UNKNOWN for a number that is none. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_encoding_at(int encoding, [In, Out] ravo_encoding_info info,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes the encoding with a name, an alias, a label, or the number of a code page with or without "cp".</summary>
+    /// <remarks>
+    /// <para>Only ASCII letters and digits count, in either case. RAVO_UNKNOWN if there is none. Never allocates.</para>
+    /// <code>ravo_encoding_find("windows-1250", RAVO_NUL_TERMINATED, &amp;encoding, NULL)</code>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_encoding_find(byte[] name, UIntPtr name_length, ref int encoding,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes the encoding with the number of a Windows code page. RAVO_UNKNOWN if there is none. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_encoding_of_code_page(int code_page, ref int encoding,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes the encoding that a byte-order mark at the start of bytes names, and the mark's length in bytes.</summary>
+    /// <remarks>
+    /// <para>Fewer than four bytes count as the whole text. `mark_length` may be null. RAVO_UNKNOWN if there is no mark. Never
+    /// allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_encoding_of_mark(byte[] bytes, UIntPtr bytes_length, ref int encoding,
+        ref UIntPtr mark_length, [In, Out] ravo_error error);
+
+    /// <summary>Czech texts of Windows, DOS and Unix, and of every form of Unicode</summary>
+    public const int RAVO_DETECT_PLAIN = 0;
+    /// <summary>and those of the Macintosh: Mac Central European</summary>
+    public const int RAVO_DETECT_MAC = 1;
+
+    /// <summary>a byte-order mark</summary>
+    public const int RAVO_EVIDENCE_MARK = 1;
+    /// <summary>the zero bytes of UTF-16 or UTF-32</summary>
+    public const int RAVO_EVIDENCE_ZEROS = 2;
+    /// <summary>ASCII characters only, which count as UTF-8</summary>
+    public const int RAVO_EVIDENCE_ASCII = 3;
+    /// <summary>bytes that are valid UTF-8, too many for chance</summary>
+    public const int RAVO_EVIDENCE_UTF8 = 4;
+    /// <summary>it looks most like Czech in this encoding</summary>
+    public const int RAVO_EVIDENCE_CZECH = 5;
+    /// <summary>several encodings read it alike</summary>
+    public const int RAVO_EVIDENCE_ALIKE = 6;
+    /// <summary>several encodings are possible</summary>
+    public const int RAVO_EVIDENCE_CLOSE = 7;
+    /// <summary>it does not look like Czech in any encoding</summary>
+    public const int RAVO_EVIDENCE_FOREIGN = 8;
+    /// <summary>zero bytes: it may not be text</summary>
+    public const int RAVO_EVIDENCE_BINARY = 9;
+
+    /// <summary>The encoding that a text seems to have.</summary>
+    [StructLayout(LayoutKind.Sequential)]
+    public sealed class ravo_detection
+    {
+        /// <summary>sizeof(ravo_detection), set by the caller</summary>
+        public UIntPtr size = (UIntPtr)Marshal.SizeOf(typeof(ravo_detection));
+        /// <summary>how many cannot be told apart; 1 if it is sure</summary>
+        public UIntPtr candidates;
+        /// <summary>the most likely one</summary>
+        public int encoding;
+        /// <summary>why</summary>
+        public int evidence;
+        /// <summary>1 if there is no doubt, else 0</summary>
+        public int is_sure;
+    }
+
+    /// <summary>Writes the encoding that a text seems to have, by its first bytes; they may end inside a character.</summary>
+    /// <remarks>
+    /// <para>256 KiB are more than enough. Allocates.</para>
+    /// <code>ravo_encoding_detect("P\xF8\xEDli\x9A", 6, RAVO_DETECT_PLAIN, &amp;detection, NULL)  // Windows-1250</code>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_encoding_detect(byte[] bytes, UIntPtr bytes_length, int flags,
+        [In, Out] ravo_detection detection, [In, Out] ravo_error error);
+
+    /// <summary>Writes one of the encodings that cannot be told apart, by its index from 0, from the most likely one on.</summary>
+    /// <remarks>
+    /// <para>Detects again. RAVO_UNKNOWN past the last. Allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_encoding_candidate_at(byte[] bytes, UIntPtr bytes_length, int flags,
+        UIntPtr index, ref int encoding, [In, Out] ravo_error error);
+
+    /// <summary>the conversion fails at its position</summary>
+    public const int RAVO_CONVERT_STRICT = 0;
+    /// <summary>it becomes U+FFFD, or "?" if the encoding lacks that</summary>
+    public const int RAVO_CONVERT_REPLACE = 1;
+
+    [UnmanagedFunctionPointer(CallingConvention.Cdecl)]
+    public delegate int ravo_progress(IntPtr context, UIntPtr done, UIntPtr total);
+
+    /// <summary>Converts bytes from one encoding to another.</summary>
+    /// <remarks>
+    /// <para>RAVO_ARGUMENT if an encoding cannot be read or written. With RAVO_CONVERT_STRICT, RAVO_MALFORMED for bytes that are
+    /// no character and RAVO_LACKING for a character that `to` lacks, at the position in `bytes`. `progress` may be null.
+    /// If the buffer is too small, or on failure, its contents are undefined. Allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_convert(int from, byte[] bytes, UIntPtr bytes_length, int to, int policy,
+        IntPtr buffer, UIntPtr size, ref UIntPtr length, ravo_progress progress, IntPtr context,
+        [In, Out] ravo_error error);
+
+    /// <summary>Opens a conversion. Fails as ravo_convert does. Allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_converter_open(int from, int to, int policy, out IntPtr converter,
+        [In, Out] ravo_error error);
+
+    /// <summary>Closes a conversion.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern void ravo_converter_close(IntPtr converter);
+
+    /// <summary>Converts the next bytes of a text, of any number; the last characters may be cut. `is_last` is 1 if no more follow,
+    /// else 0.</summary>
+    /// <remarks>
+    /// <para>Fails as ravo_convert does, with the position in the whole text. After a failure, and after the last bytes, the
+    /// conversion takes no more: RAVO_ARGUMENT. Allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_converter_push(IntPtr converter, byte[] bytes, UIntPtr bytes_length, int is_last,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes converted bytes that are waiting, at most `size`, and how many they are; 0 if none are left.</summary>
+    /// <remarks>
+    /// <para>Never allocates.</para>
+    /// <code>ravo_converter_push(converter, piece, piece_length, 0, NULL);
+    /// while (ravo_converter_pull(converter, buffer, sizeof buffer, &amp;length, NULL) == RAVO_OK &amp;&amp; length != 0)
+    ///   fwrite(buffer, 1, length, file);</code>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_converter_pull(IntPtr converter, IntPtr buffer, UIntPtr size, ref UIntPtr length,
+        [In, Out] ravo_error error);
+
+    /// <summary>the value is XML as it is written: references and tags</summary>
+    public const int RAVO_DOCUMENT_RAW = 1;
+    /// <summary>set: a character that the encoding lacks becomes a reference such as &amp;#x159;</summary>
+    public const int RAVO_DOCUMENT_REFERENCES = 2;
+    /// <summary>set: add a missing attribute, or a missing next element of a name</summary>
+    public const int RAVO_DOCUMENT_ADD = 4;
+
+    /// <summary>Opens a document of any encoding: by its byte-order mark, else by its declaration, else UTF-8.</summary>
+    /// <remarks>
+    /// <para>RAVO_WRONG with code 0 for what is not XML: `error->position` is the place in `bytes`, the message tells line and
+    /// column and why. The document keeps a copy of the bytes. Allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_document_open(byte[] bytes, UIntPtr bytes_length, out IntPtr document,
+        [In, Out] ravo_error error);
+
+    /// <summary>Closes a document.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern void ravo_document_close(IntPtr document);
+
+    /// <summary>Writes the encoding of a document. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_document_encoding(IntPtr document, ref int encoding, [In, Out] ravo_error error);
+
+    /// <summary>Writes the value at a path: the text directly in an element, or an attribute.</summary>
+    /// <remarks>
+    /// <para>`flags` is 0, or RAVO_DOCUMENT_RAW for the content as it is written. RAVO_UNKNOWN if nothing is there, RAVO_WRONG for
+    /// a text that is no path and for a name that fits several spellings. Allocates.</para>
+    /// <code>ravo_document_get(invoice, "Invoice/Line[2]/@ID", RAVO_NUL_TERMINATED, 0, buffer, sizeof buffer, NULL, NULL)</code>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_document_get(IntPtr document, byte[] path, UIntPtr path_length, uint flags,
+        [Out] byte[] buffer, UIntPtr size, ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>A value to set at a path; both are UTF-8.</summary>
+    [StructLayout(LayoutKind.Sequential)]
+    public struct ravo_document_change
+    {
+        public IntPtr path;
+        /// <summary>or RAVO_NUL_TERMINATED</summary>
+        public UIntPtr path_length;
+        public IntPtr value;
+        /// <summary>or RAVO_NUL_TERMINATED</summary>
+        public UIntPtr value_length;
+    }
+
+    /// <summary>Sets values: all of them, or none if one fails. Then the document reads as changed, and its findings are forgotten.</summary>
+    /// <remarks>
+    /// <para>What markup would be is written as a reference; a text that is one CDATA section stays one. The position of a failure
+    /// is the index of the change: RAVO_UNKNOWN if nothing is at its path, RAVO_LACKING if the encoding lacks a character,
+    /// RAVO_WRONG if it is no path, if the element contains elements or comments (RAVO_DOCUMENT_RAW replaces them), if a
+    /// place is set twice, or if the value is not XML. Allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_document_set(IntPtr document, ref ravo_document_change changes,
+        UIntPtr changes_length, uint flags, [In, Out] ravo_error error);
+
+    /// <summary>Writes the bytes of a document. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_document_save(IntPtr document, IntPtr buffer, UIntPtr size, ref UIntPtr length,
+        [In, Out] ravo_error error);
+
+    [UnmanagedFunctionPointer(CallingConvention.Cdecl)]
+    public delegate int ravo_write(IntPtr context, IntPtr bytes, UIntPtr bytes_length);
+
+    /// <summary>Gives the bytes of a document to a function, in pieces of at most 65536 bytes.</summary>
+    /// <remarks>
+    /// <para>If it stops, the position is that of the piece. Never allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_document_write(IntPtr document, ravo_write write, IntPtr context,
+        [In, Out] ravo_error error);
+
+    /// <summary>Looks for the places where the suite would see or save something else than a standard parser reads, and writes how
+    /// many there are.</summary>
+    /// <remarks>
+    /// <para>0 means that the document survives ravo_suite_tree, but for white space between tags. RAVO_WRONG with code 0 for a
+    /// document that a standard parser rejects, with its place. The findings stay until values are set. Allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_document_check(IntPtr document, ref UIntPtr count, [In, Out] ravo_error error);
+
+    /// <summary>A finding of ravo_document_check.</summary>
+    [StructLayout(LayoutKind.Sequential)]
+    public sealed class ravo_document_finding
+    {
+        /// <summary>sizeof(ravo_document_finding), set by the caller</summary>
+        public UIntPtr size = (UIntPtr)Marshal.SizeOf(typeof(ravo_document_finding));
+        /// <summary>the stable name of its class: "comment", "encoding"</summary>
+        public IntPtr name;
+        /// <summary>from 1</summary>
+        public ulong line;
+        /// <summary>in characters, from 1</summary>
+        public ulong column;
+    }
+
+    /// <summary>Writes the finding with an index, in the order of the document. RAVO_UNKNOWN past the last. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_document_finding_at(IntPtr document, UIntPtr index,
+        [In, Out] ravo_document_finding finding, [In, Out] ravo_error error);
+
+    /// <summary>Writes the sentence of the finding with an index, without a full stop. RAVO_UNKNOWN past the last. Allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_document_finding_sentence(IntPtr document, UIntPtr index, int language,
+        [Out] byte[] buffer, UIntPtr size, ref UIntPtr length, [In, Out] ravo_error error);
 
     /// <summary>Writes 1 if a text consists of digits, at least one, else 0.</summary>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
@@ -1201,7 +1854,7 @@ public static class Ravo
         UIntPtr su_size, ref UIntPtr su_length, [Out] byte[] au, UIntPtr au_size, ref UIntPtr au_length,
         [In, Out] ravo_error error);
 
-    /// <summary>The check digits of an EAN. Declare it as `ravo_suite_ean ean = RAVO_SUITE_EAN_INIT;`.</summary>
+    /// <summary>The check digits of an EAN.</summary>
     [StructLayout(LayoutKind.Sequential)]
     public sealed class ravo_suite_ean
     {
@@ -1427,7 +2080,7 @@ public static class Ravo
     public static extern int ravo_suite_string_from_stream(byte[] bytes, UIntPtr bytes_length, UIntPtr from,
         IntPtr buffer, UIntPtr size, ref UIntPtr length, ref UIntPtr end, [In, Out] ravo_error error);
 
-    /// <summary>A table, or tables that share a name. Declare it as `ravo_suite_table table = RAVO_SUITE_TABLE_INIT;`.</summary>
+    /// <summary>A table, or tables that share a name.</summary>
     [StructLayout(LayoutKind.Sequential)]
     public sealed class ravo_suite_table
     {
@@ -1464,7 +2117,7 @@ public static class Ravo
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern IntPtr ravo_suite_table_name(int id);
 
-    /// <summary>A caption or message. Declare it as `ravo_suite_caption caption = RAVO_SUITE_CAPTION_INIT;`.</summary>
+    /// <summary>A caption or message.</summary>
     [StructLayout(LayoutKind.Sequential)]
     public sealed class ravo_suite_caption
     {
@@ -1496,7 +2149,7 @@ public static class Ravo
     public static extern int ravo_suite_caption_find(byte[] name, UIntPtr name_length,
         [In, Out] ravo_suite_caption caption, [In, Out] ravo_error error);
 
-    /// <summary>A module of the suite's library. Declare it as `ravo_suite_module module = RAVO_SUITE_MODULE_INIT;`.</summary>
+    /// <summary>A module of the suite's library.</summary>
     [StructLayout(LayoutKind.Sequential)]
     public sealed class ravo_suite_module
     {
@@ -1521,696 +2174,21 @@ public static class Ravo
     public static extern int ravo_suite_module_at(UIntPtr index, [In, Out] ravo_suite_module module,
         [In, Out] ravo_error error);
 
-    /// <summary>a client with a user interface</summary>
-    public const int RAVO_MACHINE_CLIENT = 0;
-    /// <summary>the application layer</summary>
-    public const int RAVO_MACHINE_BUSINESS = 1;
-
-    /// <summary>Writes the suite's support report: date and time, system, folders, memory, disks, and the installed files of the
-    /// suite, in Czech, indented with tabs, with CR LF after each line.</summary>
-    /// <remarks>
-    /// <para>It reads clock, locale, registry and files, changes nothing and sends nothing. It names the computer, its user and
-    /// folders. A value that the machine does not have is empty, and its line is still there. Two reports may differ in
-    /// length: some 64 KiB are room for each. Allocates.</para>
-    /// </remarks>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_machine_report(int layer, [Out] byte[] buffer, UIntPtr size, ref UIntPtr length,
-        [In, Out] ravo_error error);
-
-    /// <summary>Writes a text in upper case.</summary>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_text_upper(byte[] text, UIntPtr text_length, [Out] byte[] buffer, UIntPtr size,
-        ref UIntPtr length, [In, Out] ravo_error error);
-
-    /// <summary>Writes a text in lower case.</summary>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_text_lower(byte[] text, UIntPtr text_length, [Out] byte[] buffer, UIntPtr size,
-        ref UIntPtr length, [In, Out] ravo_error error);
-
-    /// <summary>Writes the case-folded form of a text, equal for texts that differ only in case.</summary>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_text_fold(byte[] text, UIntPtr text_length, [Out] byte[] buffer, UIntPtr size,
-        ref UIntPtr length, [In, Out] ravo_error error);
-
-    /// <summary>Writes a text with the first character of each word in upper case and the others in lower case.</summary>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_text_proper(byte[] text, UIntPtr text_length, [Out] byte[] buffer, UIntPtr size,
-        ref UIntPtr length, [In, Out] ravo_error error);
-
-    /// <summary>Writes 1 if a whole text matches a mask, else 0. "*" is any run of characters, "?" one character of UTF-16.</summary>
-    /// <remarks>
-    /// <para>`ignore_case` is 0, or 1 to fold both. Never allocates for texts and masks of up to 256 bytes.</para>
-    /// </remarks>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_text_match(byte[] text, UIntPtr text_length, byte[] mask, UIntPtr mask_length,
-        int ignore_case, ref int answer, [In, Out] ravo_error error);
-
-    /// <summary>As ravo_text_match, with other characters than "*" and "?": units of UTF-16. If both are the same, it is `wild`.</summary>
-    /// <remarks>
-    /// <para>Never allocates for texts and masks of up to 256 bytes.</para>
-    /// </remarks>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_text_match_with(byte[] text, UIntPtr text_length, byte[] mask,
-        UIntPtr mask_length, ushort wild, ushort one, int ignore_case, ref int answer, [In, Out] ravo_error error);
-
-    /// <summary>Writes a text in the form encoding of URLs: "a+b%26c" of "a b&amp;c".</summary>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_url_encode(byte[] text, UIntPtr text_length, [Out] byte[] buffer, UIntPtr size,
-        ref UIntPtr length, [In, Out] ravo_error error);
-
-    /// <summary>Writes a form-encoded text decoded. A "%" without two hexadecimal digits stays.</summary>
-    /// <remarks>
-    /// <para>RAVO_UTF8 if the result is not UTF-8, at its position there.</para>
-    /// </remarks>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_url_decode(byte[] text, UIntPtr text_length, [Out] byte[] buffer, UIntPtr size,
-        ref UIntPtr length, [In, Out] ravo_error error);
-
-    /// <summary>Writes the part of a URI before the first "#"; all of it if there is none.</summary>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_uri_without_fragment(byte[] uri, UIntPtr uri_length, [Out] byte[] buffer,
-        UIntPtr size, ref UIntPtr length, [In, Out] ravo_error error);
-
-    /// <summary>Writes the part of a URI after the first "#"; an empty text if there is none.</summary>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_uri_fragment(byte[] uri, UIntPtr uri_length, [Out] byte[] buffer, UIntPtr size,
-        ref UIntPtr length, [In, Out] ravo_error error);
-
-    /// <summary>as said above</summary>
-    public const int RAVO_ORDER_PLAIN = 0;
-    /// <summary>small letters and capitals are equal</summary>
-    public const int RAVO_ORDER_IGNORE_CASE = 1;
-    /// <summary>runs of the digits 0 to 9 compare by value: "FV9" before "FV10"</summary>
-    public const int RAVO_ORDER_NATURAL = 2;
-    /// <summary>digits precede letters, as in most programs</summary>
-    public const int RAVO_ORDER_DIGITS_FIRST = 4;
-
-    /// <summary>Writes -1, 0 or 1: whether text `a` comes before `b` in the Czech order, is equal to it, or comes after it.</summary>
-    /// <remarks>
-    /// <para>RAVO_ARGUMENT for unknown flags. Never allocates.</para>
-    /// <code>ravo_compare_czech("cihla", RAVO_NUL_TERMINATED, "čaj", RAVO_NUL_TERMINATED, 0, &amp;order, NULL)  // -1</code>
-    /// </remarks>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_compare_czech(byte[] a, UIntPtr a_length, byte[] b, UIntPtr b_length, int flags,
-        ref int order, [In, Out] ravo_error error);
-
-    /// <summary>Writes the key of a text in the Czech order: bytes, of which none is 0 without RAVO_ORDER_NATURAL, and no NUL
-    /// after them. If the buffer is too small, nothing is written.</summary>
-    /// <remarks>
-    /// <para>Keys of the same flags compare as their texts do. Other versions of the library may make other keys: do not store
-    /// them. RAVO_ARGUMENT for unknown flags. Allocates.</para>
-    /// </remarks>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_czech_key(byte[] text, UIntPtr text_length, int flags, IntPtr buffer,
-        UIntPtr size, ref UIntPtr length, [In, Out] ravo_error error);
-
-    /// <summary>Writes -1, 0 or 1: how the numbers compare with which two texts begin.</summary>
-    /// <remarks>
-    /// <para>A number is a sign, digits of any count, blanks between them, a decimal comma or point: "-1 234,50 Kč". A text
-    /// without a number is less than any number. Never allocates.</para>
-    /// </remarks>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_compare_numbers(byte[] a, UIntPtr a_length, byte[] b, UIntPtr b_length,
-        ref int order, [In, Out] ravo_error error);
-
-    /// <summary>Writes the key of the number with which a text begins: bytes, without NUL after them. If the buffer is too small,
-    /// nothing is written.</summary>
-    /// <remarks>
-    /// <para>Keys compare as ravo_compare_numbers does. Other versions of the library may make other keys. Allocates.</para>
-    /// </remarks>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_number_key(byte[] text, UIntPtr text_length, IntPtr buffer, UIntPtr size,
-        ref UIntPtr length, [In, Out] ravo_error error);
-
-    /// <summary>Writes a negative number, 0 or a positive one: how the suite compares two texts with numbers, by UTF-16 units.</summary>
-    /// <remarks>
-    /// <para>The number is the difference of two units or of two lengths, or 1 or -1 if one number is longer. Digits are those
-    /// of every script. Zeros inside a number do not count: "105" comes before "15", so that the order has cycles.
-    /// `ignore_case` is 0, or 1 to fold both. Never allocates for texts of up to 256 bytes.</para>
-    /// </remarks>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_suite_compare_num(byte[] a, UIntPtr a_length, byte[] b, UIntPtr b_length,
-        int ignore_case, ref long difference, [In, Out] ravo_error error);
-
-    /// <summary>The same for bytes of any encoding: digits are 0 to 9, and ASCII letters alone have case.</summary>
-    /// <remarks>
-    /// <para>Never allocates.</para>
-    /// </remarks>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_suite_compare_num_bytes(byte[] a, UIntPtr a_length, byte[] b, UIntPtr b_length,
-        int ignore_case, ref long difference, [In, Out] ravo_error error);
-
-    /// <summary>(Cn) no character, in the version of the tables</summary>
-    public const int RAVO_CHARACTER_UNASSIGNED = 0;
-    /// <summary>(Lu)</summary>
-    public const int RAVO_CHARACTER_LETTER_UPPER_CASE = 1;
-    /// <summary>(Ll)</summary>
-    public const int RAVO_CHARACTER_LETTER_LOWER_CASE = 2;
-    /// <summary>(Lt) such as U+01C5</summary>
-    public const int RAVO_CHARACTER_LETTER_TITLE_CASE = 3;
-    /// <summary>(Lm)</summary>
-    public const int RAVO_CHARACTER_LETTER_MODIFIER = 4;
-    /// <summary>(Lo) a letter without case</summary>
-    public const int RAVO_CHARACTER_LETTER_OTHER = 5;
-    /// <summary>(Mn)</summary>
-    public const int RAVO_CHARACTER_MARK_NON_SPACING = 6;
-    /// <summary>(Mc)</summary>
-    public const int RAVO_CHARACTER_MARK_SPACING_COMBINED = 7;
-    /// <summary>(Me)</summary>
-    public const int RAVO_CHARACTER_MARK_ENCLOSING = 8;
-    /// <summary>(Nd) a decimal digit of any script</summary>
-    public const int RAVO_CHARACTER_NUMBER_DECIMAL = 9;
-    /// <summary>(Nl) such as U+2160, the Roman one</summary>
-    public const int RAVO_CHARACTER_NUMBER_LETTER = 10;
-    /// <summary>(No) such as U+00BD, a half</summary>
-    public const int RAVO_CHARACTER_NUMBER_OTHER = 11;
-    /// <summary>(Pc) such as the low line</summary>
-    public const int RAVO_CHARACTER_PUNCTUATION_CONNECTOR = 12;
-    /// <summary>(Pd)</summary>
-    public const int RAVO_CHARACTER_PUNCTUATION_DASH = 13;
-    /// <summary>(Ps)</summary>
-    public const int RAVO_CHARACTER_PUNCTUATION_OPEN = 14;
-    /// <summary>(Pe)</summary>
-    public const int RAVO_CHARACTER_PUNCTUATION_CLOSE = 15;
-    /// <summary>(Pi)</summary>
-    public const int RAVO_CHARACTER_PUNCTUATION_INITIAL_QUOTE = 16;
-    /// <summary>(Pf)</summary>
-    public const int RAVO_CHARACTER_PUNCTUATION_FINAL_QUOTE = 17;
-    /// <summary>(Po)</summary>
-    public const int RAVO_CHARACTER_PUNCTUATION_OTHER = 18;
-    /// <summary>(Sm)</summary>
-    public const int RAVO_CHARACTER_SYMBOL_MATH = 19;
-    /// <summary>(Sc)</summary>
-    public const int RAVO_CHARACTER_SYMBOL_CURRENCY = 20;
-    /// <summary>(Sk)</summary>
-    public const int RAVO_CHARACTER_SYMBOL_MODIFIER = 21;
-    /// <summary>(So)</summary>
-    public const int RAVO_CHARACTER_SYMBOL_OTHER = 22;
-    /// <summary>(Zs)</summary>
-    public const int RAVO_CHARACTER_SEPARATOR_SPACE = 23;
-    /// <summary>(Zl)</summary>
-    public const int RAVO_CHARACTER_SEPARATOR_LINE = 24;
-    /// <summary>(Zp)</summary>
-    public const int RAVO_CHARACTER_SEPARATOR_PARAGRAPH = 25;
-    /// <summary>(Cc)</summary>
-    public const int RAVO_CHARACTER_OTHER_CONTROL = 26;
-    /// <summary>(Cf)</summary>
-    public const int RAVO_CHARACTER_OTHER_FORMAT = 27;
-    /// <summary>(Cs)</summary>
-    public const int RAVO_CHARACTER_OTHER_SURROGATE = 28;
-    /// <summary>(Co)</summary>
-    public const int RAVO_CHARACTER_OTHER_PRIVATE_USE = 29;
-    /// <summary>(L) numbers 1 to 5</summary>
-    public const int RAVO_CHARACTER_LETTER = 30;
-    /// <summary>(M) numbers 6 to 8</summary>
-    public const int RAVO_CHARACTER_MARK = 31;
-    /// <summary>(N) numbers 9 to 11</summary>
-    public const int RAVO_CHARACTER_NUMBER = 32;
-    /// <summary>(P) numbers 12 to 18</summary>
-    public const int RAVO_CHARACTER_PUNCTUATION = 33;
-    /// <summary>(S) numbers 19 to 22</summary>
-    public const int RAVO_CHARACTER_SYMBOL = 34;
-    /// <summary>(Z) numbers 23 to 25</summary>
-    public const int RAVO_CHARACTER_SEPARATOR = 35;
-    /// <summary>(C) numbers 26 to 29: without the unassigned ones</summary>
-    public const int RAVO_CHARACTER_OTHER = 36;
-    /// <summary>a letter of the Latin, Greek and Cyrillic blocks</summary>
-    public const int RAVO_CHARACTER_LETTER_COMMON = 37;
-    /// <summary>by the property White_Space</summary>
-    public const int RAVO_CHARACTER_WHITE_SPACE = 38;
-    /// <summary>a letter</summary>
-    public const int RAVO_CHARACTER_ALPHA = 39;
-    /// <summary>a letter or a decimal digit of any script</summary>
-    public const int RAVO_CHARACTER_ALPHA_NUM = 40;
-    /// <summary>a decimal digit of any script</summary>
-    public const int RAVO_CHARACTER_DIGIT = 41;
-    /// <summary>0 to 9, A to F, a to f</summary>
-    public const int RAVO_CHARACTER_HEX_DIGIT = 42;
-    /// <summary>a syllable, U+AC00 to U+D7A3</summary>
-    public const int RAVO_CHARACTER_HANGUL = 43;
-    /// <summary>carriage return or line feed</summary>
-    public const int RAVO_CHARACTER_CR_LF = 44;
-    /// <summary>"_"</summary>
-    public const int RAVO_CHARACTER_LOW_LINE = 45;
-    /// <summary>U+0022 or U+0027</summary>
-    public const int RAVO_CHARACTER_QUOTE = 46;
-    /// <summary>assigned, and no letter, mark, number, connector, surrogate</summary>
-    public const int RAVO_CHARACTER_WORD_SEPARATOR = 47;
-    /// <summary>white space or "&amp;"</summary>
-    public const int RAVO_CHARACTER_WHITE_SPACE_OR_AMPERSAND = 48;
-    /// <summary>white space or ":"</summary>
-    public const int RAVO_CHARACTER_WHITE_SPACE_OR_COLON = 49;
-    /// <summary>white space, of which U+00A0 is</summary>
-    public const int RAVO_CHARACTER_WHITE_SPACE_OR_NO_BREAK_SPACE = 50;
-    /// <summary>white space or ">"</summary>
-    public const int RAVO_CHARACTER_WHITE_SPACE_GT = 51;
-    /// <summary>white space or "&lt;"</summary>
-    public const int RAVO_CHARACTER_WHITE_SPACE_LT = 52;
-    /// <summary>white space or "-"</summary>
-    public const int RAVO_CHARACTER_WHITE_SPACE_HYPHEN = 53;
-    /// <summary>white space, "-" or ">"</summary>
-    public const int RAVO_CHARACTER_WHITE_SPACE_HYPHEN_GT = 54;
-
-    /// <summary>Writes 1 if a character has a property, else 0.</summary>
-    /// <remarks>
-    /// <para>RAVO_ARGUMENT for an unknown property. Never allocates.</para>
-    /// <code>ravo_character_is(0x010D, RAVO_CHARACTER_LETTER, &amp;answer, NULL)  // 1: č</code>
-    /// </remarks>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_character_is(ushort unit, int property, ref int answer,
-        [In, Out] ravo_error error);
-
-    /// <summary>Writes the category of a character: one of the numbers 0 to 29. Never allocates.</summary>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_character_category(ushort unit, ref int category, [In, Out] ravo_error error);
-
-    /// <summary>Returns the short name of a category or of a group, such as "Lu" or "L", or null for what is neither.</summary>
-    /// <remarks>
-    /// <para>Never allocates.</para>
-    /// </remarks>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern IntPtr ravo_character_category_name(int category);
-
-    /// <summary>Writes the upper case of a character, or itself if it has none of one unit. Never allocates.</summary>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_character_to_upper(ushort unit, ref ushort mapped, [In, Out] ravo_error error);
-
-    /// <summary>Writes the lower case of a character, or itself if it has none of one unit. Never allocates.</summary>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_character_to_lower(ushort unit, ref ushort mapped, [In, Out] ravo_error error);
-
-    /// <summary>Writes the title case of a character: the upper case, but U+01C5 for U+01C4 and the like. Never allocates.</summary>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_character_to_title(ushort unit, ref ushort mapped, [In, Out] ravo_error error);
-
-    /// <summary>Writes the case-folded form of a character, equal for those that differ only in case. Never allocates.</summary>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_character_to_case_fold(ushort unit, ref ushort mapped,
-        [In, Out] ravo_error error);
-
-    /// <summary>Writes the canonical combining class of a character: 0 for a starter, else the rank of a mark, up to 254.</summary>
-    /// <remarks>
-    /// <para>Never allocates.</para>
-    /// </remarks>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_character_combining_class(ushort unit, ref int rank, [In, Out] ravo_error error);
-
-    /// <summary>the full canonical one, marks in canonical order: "é" is "e" and U+0301</summary>
-    public const int RAVO_DECOMPOSITION_CANONICAL = 0;
-    /// <summary>the full compatibility one, or the canonical one if there is no other</summary>
-    public const int RAVO_DECOMPOSITION_COMPATIBLE = 1;
-    /// <summary>the letters of a Hangul syllable, which the others leave alone</summary>
-    public const int RAVO_DECOMPOSITION_HANGUL = 2;
-
-    /// <summary>Writes the decomposition of a character; an empty text if it has none.</summary>
-    /// <remarks>
-    /// <para>RAVO_ARGUMENT for an unknown decomposition. Allocates.</para>
-    /// </remarks>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_character_decompose(ushort unit, int decomposition, [Out] byte[] buffer,
-        UIntPtr size, ref UIntPtr length, [In, Out] ravo_error error);
-
-    /// <summary>Changes the CRC-32 of zip and Ethernet to that of the bytes so far and these. Begin with 0.</summary>
-    /// <remarks>
-    /// <para>Never allocates.</para>
-    /// <code>uint32_t crc = 0;
-    /// ravo_crc32("123456789", 9, &amp;crc, NULL);  // 0xCBF43926</code>
-    /// </remarks>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_crc32(byte[] bytes, UIntPtr bytes_length, ref uint crc,
-        [In, Out] ravo_error error);
-
-    /// <summary>the bytes</summary>
-    public const int RAVO_SUITE_HASH_BYTES = 0;
-    /// <summary>the bytes in upper case, as letters of Windows-1250</summary>
-    public const int RAVO_SUITE_HASH_UPPER_BYTES = 1;
-    /// <summary>the little-endian bytes of the text in UTF-16</summary>
-    public const int RAVO_SUITE_HASH_TEXT = 2;
-    /// <summary>the case-folded UTF-16 units of the text</summary>
-    public const int RAVO_SUITE_HASH_FOLDED_TEXT = 3;
-
-    /// <summary>Writes the suite's 32-bit hash. `initial` selects one of many independent hash functions.</summary>
-    /// <remarks>
-    /// <para>Texts are UTF-8. Texts of more than 256 bytes allocate.</para>
-    /// </remarks>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_suite_hash(int what, byte[] bytes, UIntPtr bytes_length, uint initial,
-        ref uint hash, [In, Out] ravo_error error);
-
-    /// <summary>Opens a generator by a number. Close it with ravo_random_close. Allocates.</summary>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_random_open(uint seed, out IntPtr random, [In, Out] ravo_error error);
-
-    /// <summary>Opens a generator by an array of keys, as the generator's authors do. RAVO_RANGE if there are none. Allocates.</summary>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_random_open_array(uint[] keys, UIntPtr keys_length, out IntPtr random,
-        [In, Out] ravo_error error);
-
-    /// <summary>Opens a generator by bytes, as the suite does: each byte is a key.</summary>
-    /// <remarks>
-    /// <para>From 624 bytes on it is another generator than that of an array with the same keys. RAVO_RANGE if there are none.
-    /// Allocates.</para>
-    /// </remarks>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_random_open_bytes(byte[] bytes, UIntPtr bytes_length, out IntPtr random,
-        [In, Out] ravo_error error);
-
-    /// <summary>Closes a generator. Null is allowed.</summary>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern void ravo_random_close(IntPtr random);
-
-    /// <summary>Writes the upper 31 of the next 32 bits: 0 to 2147483647. Never allocates.</summary>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_random_int31(IntPtr random, ref uint number, [In, Out] ravo_error error);
-
-    /// <summary>Writes the next 32 bits. Never allocates.</summary>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_random_int32(IntPtr random, ref uint number, [In, Out] ravo_error error);
-
-    /// <summary>Writes the next 32 bits as the low half, and the upper 31 bits of the draw after it as the high half.</summary>
-    /// <remarks>
-    /// <para>RAVO_RANGE if the highest bit of the low half is set, as it is every other time: that draw is gone. For 63 bits
-    /// that never fail, call ravo_random_int32 and ravo_random_int31. Allocates on failure alone.</para>
-    /// </remarks>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_random_int63(IntPtr random, ref long number, [In, Out] ravo_error error);
-
-    /// <summary>Writes the next 32 bits as the low half, and the 32 bits after them as the high half.</summary>
-    /// <remarks>
-    /// <para>RAVO_RANGE if the highest bit of either is set: the draws up to that one are gone. For 64 bits that never fail,
-    /// call ravo_random_int32 twice. Allocates on failure alone.</para>
-    /// </remarks>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_random_int64(IntPtr random, ref long number, [In, Out] ravo_error error);
-
-    /// <summary>Writes a number from 0 to 1, both included, in steps of 1 / (2^32 - 1). Never allocates.</summary>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_random_real1(IntPtr random, ref double number, [In, Out] ravo_error error);
-
-    /// <summary>Writes a number from 0 to below 1, in steps of 2^-32. Never allocates.</summary>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_random_real2(IntPtr random, ref double number, [In, Out] ravo_error error);
-
-    /// <summary>Writes a number between 0 and 1, neither included, in steps of 2^-32. Never allocates.</summary>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_random_real3(IntPtr random, ref double number, [In, Out] ravo_error error);
-
-    /// <summary>Writes a number from 0 to below 1, in steps of 2^-53, from two draws. Never allocates.</summary>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_random_res53(IntPtr random, ref double number, [In, Out] ravo_error error);
-
-    /// <summary>Writes a text of `count` characters of an alphabet, one draw for each: what the suite's StrRandom makes if the
-    /// generator was just opened by the bytes of its seed.</summary>
-    /// <remarks>
-    /// <para>RAVO_ARGUMENT if the alphabet is empty and `count` is not 0. If the buffer is null or too small, the generator stays
-    /// as it was. Allocates.</para>
-    /// </remarks>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_random_text(IntPtr random, byte[] alphabet, UIntPtr alphabet_length,
-        UIntPtr count, [Out] byte[] buffer, UIntPtr size, ref UIntPtr length, [In, Out] ravo_error error);
-
-    /// <summary>What is known of an encoding. Declare it as `ravo_encoding_info info = RAVO_ENCODING_INFO_INIT;`.</summary>
-    [StructLayout(LayoutKind.Sequential)]
-    public sealed class ravo_encoding_info
-    {
-        /// <summary>sizeof(ravo_encoding_info), set by the caller</summary>
-        public UIntPtr size = (UIntPtr)Marshal.SizeOf(typeof(ravo_encoding_info));
-        /// <summary>"Windows_1250"</summary>
-        public IntPtr name;
-        /// <summary>for people</summary>
-        public IntPtr label;
-        /// <summary>other names, separated by blanks</summary>
-        public IntPtr aliases;
-        /// <summary>remarks; may be empty</summary>
-        public IntPtr notes;
-        /// <summary>Windows number; 0 if it has none</summary>
-        public int code_page;
-        /// <summary>1 if it can be converted from, else 0</summary>
-        public int can_read;
-        /// <summary>1 if it can be converted to, else 0</summary>
-        public int can_write;
-    }
-
-    /// <summary>Returns how many encodings there are. Never allocates.</summary>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern UIntPtr ravo_encoding_count();
-
-    /// <summary>Writes what is known of an encoding. RAVO_UNKNOWN for a number that is none. Never allocates.</summary>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_encoding_at(int encoding, [In, Out] ravo_encoding_info info,
-        [In, Out] ravo_error error);
-
-    /// <summary>Writes the encoding with a name, an alias, a label, or the number of a code page with or without "cp".</summary>
-    /// <remarks>
-    /// <para>Only ASCII letters and digits count, in either case. RAVO_UNKNOWN if there is none. Never allocates.</para>
-    /// <code>ravo_encoding_find("windows-1250", RAVO_NUL_TERMINATED, &amp;encoding, NULL)</code>
-    /// </remarks>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_encoding_find(byte[] name, UIntPtr name_length, ref int encoding,
-        [In, Out] ravo_error error);
-
-    /// <summary>Writes the encoding with the number of a Windows code page. RAVO_UNKNOWN if there is none. Never allocates.</summary>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_encoding_of_code_page(int code_page, ref int encoding,
-        [In, Out] ravo_error error);
-
-    /// <summary>Writes the encoding that a byte-order mark at the start of bytes names, and the mark's length in bytes.</summary>
-    /// <remarks>
-    /// <para>Fewer than four bytes count as the whole text. `mark_length` may be null. RAVO_UNKNOWN if there is no mark. Never
-    /// allocates.</para>
-    /// </remarks>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_encoding_of_mark(byte[] bytes, UIntPtr bytes_length, ref int encoding,
-        ref UIntPtr mark_length, [In, Out] ravo_error error);
-
-    /// <summary>Czech texts of Windows, DOS and Unix, and of every form of Unicode</summary>
-    public const int RAVO_DETECT_PLAIN = 0;
-    /// <summary>and those of the Macintosh: Mac Central European</summary>
-    public const int RAVO_DETECT_MAC = 1;
-
-    /// <summary>a byte-order mark</summary>
-    public const int RAVO_EVIDENCE_MARK = 1;
-    /// <summary>the zero bytes of UTF-16 or UTF-32</summary>
-    public const int RAVO_EVIDENCE_ZEROS = 2;
-    /// <summary>ASCII characters only, which count as UTF-8</summary>
-    public const int RAVO_EVIDENCE_ASCII = 3;
-    /// <summary>bytes that are valid UTF-8, too many for chance</summary>
-    public const int RAVO_EVIDENCE_UTF8 = 4;
-    /// <summary>it looks most like Czech in this encoding</summary>
-    public const int RAVO_EVIDENCE_CZECH = 5;
-    /// <summary>several encodings read it alike</summary>
-    public const int RAVO_EVIDENCE_ALIKE = 6;
-    /// <summary>several encodings are possible</summary>
-    public const int RAVO_EVIDENCE_CLOSE = 7;
-    /// <summary>it does not look like Czech in any encoding</summary>
-    public const int RAVO_EVIDENCE_FOREIGN = 8;
-    /// <summary>zero bytes: it may not be text</summary>
-    public const int RAVO_EVIDENCE_BINARY = 9;
-
-    /// <summary>The encoding that a text seems to have. Declare it as `ravo_detection detection = RAVO_DETECTION_INIT;`.</summary>
-    [StructLayout(LayoutKind.Sequential)]
-    public sealed class ravo_detection
-    {
-        /// <summary>sizeof(ravo_detection), set by the caller</summary>
-        public UIntPtr size = (UIntPtr)Marshal.SizeOf(typeof(ravo_detection));
-        /// <summary>how many cannot be told apart; 1 if it is sure</summary>
-        public UIntPtr candidates;
-        /// <summary>the most likely one</summary>
-        public int encoding;
-        /// <summary>why</summary>
-        public int evidence;
-        /// <summary>1 if there is no doubt, else 0</summary>
-        public int is_sure;
-    }
-
-    /// <summary>Writes the encoding that a text seems to have, by its first bytes; they may end inside a character.</summary>
-    /// <remarks>
-    /// <para>256 KiB are more than enough. RAVO_ARGUMENT for unknown flags. Allocates.</para>
-    /// <code>ravo_encoding_detect("P\xF8\xEDli\x9A", 6, RAVO_DETECT_PLAIN, &amp;detection, NULL)  // Windows-1250</code>
-    /// </remarks>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_encoding_detect(byte[] bytes, UIntPtr bytes_length, int flags,
-        [In, Out] ravo_detection detection, [In, Out] ravo_error error);
-
-    /// <summary>Writes one of the encodings that cannot be told apart, by its index from 0, from the most likely one on.</summary>
-    /// <remarks>
-    /// <para>Detects again. RAVO_UNKNOWN past the last one. Allocates.</para>
-    /// </remarks>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_encoding_candidate_at(byte[] bytes, UIntPtr bytes_length, int flags,
-        UIntPtr index, ref int encoding, [In, Out] ravo_error error);
-
-    /// <summary>the conversion fails at its position</summary>
-    public const int RAVO_CONVERT_STRICT = 0;
-    /// <summary>it becomes U+FFFD, or "?" if the encoding lacks that</summary>
-    public const int RAVO_CONVERT_REPLACE = 1;
-
-    [UnmanagedFunctionPointer(CallingConvention.Cdecl)]
-    public delegate int ravo_progress(IntPtr context, UIntPtr done, UIntPtr total);
-
-    /// <summary>Converts bytes from one encoding to another.</summary>
-    /// <remarks>
-    /// <para>RAVO_ARGUMENT if an encoding cannot be read or written. With RAVO_CONVERT_STRICT, RAVO_MALFORMED for bytes that are
-    /// no character and RAVO_LACKING for a character that `to` lacks, at the position in `bytes`. `progress` may be null;
-    /// it gets `context`, and if it stops the work, RAVO_STOPPED with its number as `error->code`. If the buffer is too
-    /// small, or on failure, its contents are undefined. Allocates.</para>
-    /// </remarks>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_convert(int from, byte[] bytes, UIntPtr bytes_length, int to, int policy,
-        IntPtr buffer, UIntPtr size, ref UIntPtr length, ravo_progress progress, IntPtr context,
-        [In, Out] ravo_error error);
-
-    /// <summary>Opens a conversion. Close it with ravo_converter_close. Fails as ravo_convert does. Allocates.</summary>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_converter_open(int from, int to, int policy, out IntPtr converter,
-        [In, Out] ravo_error error);
-
-    /// <summary>Closes a conversion. Null is allowed.</summary>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern void ravo_converter_close(IntPtr converter);
-
-    /// <summary>Converts the next bytes of a text, of any number; the last characters may be cut. `is_last` is 1 if no more follow,
-    /// else 0.</summary>
-    /// <remarks>
-    /// <para>Fails as ravo_convert does, with the position in the whole text. After a failure, and after the last bytes, the
-    /// conversion takes no more: RAVO_ARGUMENT. Allocates.</para>
-    /// </remarks>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_converter_push(IntPtr converter, byte[] bytes, UIntPtr bytes_length, int is_last,
-        [In, Out] ravo_error error);
-
-    /// <summary>Writes converted bytes that are waiting, at most `size`, and how many they are; 0 if none are left.</summary>
-    /// <remarks>
-    /// <para>Never allocates.</para>
-    /// <code>ravo_converter_push(converter, piece, piece_length, 0, NULL);
-    /// while (ravo_converter_pull(converter, buffer, sizeof buffer, &amp;length, NULL) == RAVO_OK &amp;&amp; length != 0)
-    ///   fwrite(buffer, 1, length, file);</code>
-    /// </remarks>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_converter_pull(IntPtr converter, IntPtr buffer, UIntPtr size, ref UIntPtr length,
-        [In, Out] ravo_error error);
-
-    /// <summary>the value is XML as it is written: references and tags</summary>
-    public const int RAVO_DOCUMENT_RAW = 1;
-    /// <summary>set: a character that the encoding lacks becomes a reference such as &amp;#x159;</summary>
-    public const int RAVO_DOCUMENT_REFERENCES = 2;
-    /// <summary>set: add a missing attribute, or a missing next element of a name</summary>
-    public const int RAVO_DOCUMENT_ADD = 4;
-
-    /// <summary>Opens a document of any encoding: by its byte-order mark, else by its declaration, else UTF-8.</summary>
-    /// <remarks>
-    /// <para>RAVO_WRONG with code 0 for what is not XML: `error->position` is the place in `bytes`, the message tells line and
-    /// column and why. The document keeps a copy of the bytes. Close it with ravo_document_close. Allocates.</para>
-    /// </remarks>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_document_open(byte[] bytes, UIntPtr bytes_length, out IntPtr document,
-        [In, Out] ravo_error error);
-
-    /// <summary>Closes a document. Null is allowed.</summary>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern void ravo_document_close(IntPtr document);
-
-    /// <summary>Writes the encoding of a document.</summary>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_document_encoding(IntPtr document, ref int encoding, [In, Out] ravo_error error);
-
-    /// <summary>Writes the value at a path: the text directly in an element, or an attribute.</summary>
-    /// <remarks>
-    /// <para>`flags` is 0, or RAVO_DOCUMENT_RAW for the content as it is written. RAVO_UNKNOWN if nothing is there, RAVO_WRONG for
-    /// a text that is no path and for a name that fits several spellings. Allocates.</para>
-    /// <code>ravo_document_get(invoice, "Invoice/Line[2]/@ID", RAVO_NUL_TERMINATED, 0, buffer, sizeof buffer, NULL, NULL)</code>
-    /// </remarks>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_document_get(IntPtr document, byte[] path, UIntPtr path_length, uint flags,
-        [Out] byte[] buffer, UIntPtr size, ref UIntPtr length, [In, Out] ravo_error error);
-
-    /// <summary>A value to set at a path; both are UTF-8.</summary>
-    [StructLayout(LayoutKind.Sequential)]
-    public struct ravo_document_change
-    {
-        public IntPtr path;
-        /// <summary>or RAVO_NUL_TERMINATED</summary>
-        public UIntPtr path_length;
-        public IntPtr value;
-        /// <summary>or RAVO_NUL_TERMINATED</summary>
-        public UIntPtr value_length;
-    }
-
-    /// <summary>Sets values: all of them, or none if one fails. Then the document reads as changed, and its findings are forgotten.</summary>
-    /// <remarks>
-    /// <para>What markup would be is written as a reference; a text that is one CDATA section stays one. The position of a failure
-    /// is the index of the change: RAVO_UNKNOWN if nothing is at its path, RAVO_LACKING if the encoding lacks a character,
-    /// RAVO_WRONG if it is no path, if the element contains elements or comments (RAVO_DOCUMENT_RAW replaces them), if a
-    /// place is set twice, or if the value is not XML. `flags` adds up numbers RAVO_DOCUMENT_... Allocates.</para>
-    /// </remarks>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_document_set(IntPtr document, ref ravo_document_change changes,
-        UIntPtr changes_length, uint flags, [In, Out] ravo_error error);
-
-    /// <summary>Writes the bytes of a document: all, or none if the buffer is too small. Never allocates.</summary>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_document_save(IntPtr document, IntPtr buffer, UIntPtr size, ref UIntPtr length,
-        [In, Out] ravo_error error);
-
-    [UnmanagedFunctionPointer(CallingConvention.Cdecl)]
-    public delegate int ravo_write(IntPtr context, IntPtr bytes, UIntPtr bytes_length);
-
-    /// <summary>Gives the bytes of a document to a function, in pieces of at most 65536 bytes.</summary>
-    /// <remarks>
-    /// <para>RAVO_STOPPED with its number as `error->code` if it stops; the position is that of the piece. Never allocates.</para>
-    /// </remarks>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_document_write(IntPtr document, ravo_write write, IntPtr context,
-        [In, Out] ravo_error error);
-
-    /// <summary>Looks for the places where the suite would see or save something else than a standard parser reads, and writes how
-    /// many there are.</summary>
-    /// <remarks>
-    /// <para>0 means that the document survives ravo_suite_tree, but for white space between tags. RAVO_WRONG with code 0 for a
-    /// document that a standard parser rejects, with its place. The findings stay until values are set. Allocates.</para>
-    /// </remarks>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_document_check(IntPtr document, ref UIntPtr count, [In, Out] ravo_error error);
-
-    /// <summary>A finding of ravo_document_check. It starts as `ravo_document_finding finding = RAVO_DOCUMENT_FINDING_INIT;`.</summary>
-    [StructLayout(LayoutKind.Sequential)]
-    public sealed class ravo_document_finding
-    {
-        /// <summary>sizeof(ravo_document_finding), set by the caller</summary>
-        public UIntPtr size = (UIntPtr)Marshal.SizeOf(typeof(ravo_document_finding));
-        /// <summary>the stable name of its class: "comment", "encoding"</summary>
-        public IntPtr name;
-        /// <summary>from 1</summary>
-        public ulong line;
-        /// <summary>in characters, from 1</summary>
-        public ulong column;
-    }
-
-    /// <summary>Writes the finding with an index, in the order of the document. RAVO_UNKNOWN past the last. Never allocates.</summary>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_document_finding_at(IntPtr document, UIntPtr index,
-        [In, Out] ravo_document_finding finding, [In, Out] ravo_error error);
-
-    /// <summary>Writes the sentence of the finding with an index, without a full stop. RAVO_UNKNOWN past the last. Allocates.</summary>
-    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_document_finding_sentence(IntPtr document, UIntPtr index, int language,
-        [Out] byte[] buffer, UIntPtr size, ref UIntPtr length, [In, Out] ravo_error error);
-
-    /// <summary>Loads a tree from the bytes of a document.</summary>
+    /// <summary>Opens a tree: loads the bytes of a document.</summary>
     /// <remarks>
     /// <para>Without `&lt;rss` or `&lt;?xml version="1.0"` in the first 1000 bytes, and with a byte-order mark before it, nothing is
     /// loaded and the root is empty. RAVO_WRONG with code 0 for what cannot be read; the message tells the line. The tree
-    /// keeps no part of the bytes. Close it with ravo_suite_tree_close. Allocates.</para>
+    /// keeps no part of the bytes. Allocates.</para>
     /// </remarks>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern int ravo_suite_tree_open(byte[] bytes, UIntPtr bytes_length, out IntPtr tree,
         [In, Out] ravo_error error);
 
-    /// <summary>Closes a tree. Null is allowed.</summary>
+    /// <summary>Closes a tree.</summary>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern void ravo_suite_tree_close(IntPtr tree);
 
-    /// <summary>Writes the bytes that the suite saves: all, or none if the buffer is too small. Allocates.</summary>
+    /// <summary>Writes the bytes that the suite saves. Allocates.</summary>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern int ravo_suite_tree_save(IntPtr tree, IntPtr buffer, UIntPtr size, ref UIntPtr length,
         [In, Out] ravo_error error);
@@ -2252,7 +2230,7 @@ public static class Ravo
 
     /// <summary>Writes the index of the first child with a name, from the index `from` on. RAVO_UNKNOWN if there is none.</summary>
     /// <remarks>
-    /// <para>To have one made where the suite makes a missing child, call ravo_suite_item_add.</para>
+    /// <para>The suite adds a child that is missing: call ravo_suite_item_add for that.</para>
     /// </remarks>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern int ravo_suite_item_find(IntPtr tree, UIntPtr item, byte[] name, UIntPtr name_length,
@@ -2361,8 +2339,7 @@ public static class Ravo
 
     /// <summary>Gives each token of a document, as the suite's tokenizer cuts it, to a function.</summary>
     /// <remarks>
-    /// <para>RAVO_WRONG with code 0 for what cannot be read; the message tells the line. RAVO_STOPPED with its number as
-    /// `error->code` if it stops. Allocates.</para>
+    /// <para>RAVO_WRONG with code 0 for what cannot be read; the message tells the line. Allocates.</para>
     /// </remarks>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern int ravo_suite_tokens(byte[] bytes, UIntPtr bytes_length, ravo_suite_take take,
@@ -2383,11 +2360,11 @@ public static class Ravo
     /// <summary>signed numbers of `width` bytes (4, 8). Arrow: int32, int64, date32</summary>
     public const int RAVO_LAYOUT_NUMBERS = 7;
 
-    /// <summary>A column of the caller. It starts as `ravo_column column = RAVO_COLUMN_INIT;`. What a layout lacks is 0.</summary>
+    /// <summary>A column of the caller. What a layout lacks is 0.</summary>
     [StructLayout(LayoutKind.Sequential)]
     public sealed class ravo_column
     {
-        /// <summary>sizeof(ravo_column)</summary>
+        /// <summary>sizeof(ravo_column), set by the caller</summary>
         public UIntPtr size = (UIntPtr)Marshal.SizeOf(typeof(ravo_column));
         public int layout;
         /// <summary>bytes of a value (fixed, numbers) or of an index (dictionary)</summary>
@@ -2433,7 +2410,7 @@ public static class Ravo
     [StructLayout(LayoutKind.Sequential)]
     public sealed class ravo_texts
     {
-        /// <summary>sizeof(ravo_texts)</summary>
+        /// <summary>sizeof(ravo_texts), set by the caller</summary>
         public UIntPtr size = (UIntPtr)Marshal.SizeOf(typeof(ravo_texts));
         /// <summary>RAVO_LAYOUT_OFFSETS_32, _OFFSETS_64 or _FIXED</summary>
         public int layout;
@@ -2451,7 +2428,7 @@ public static class Ravo
     [StructLayout(LayoutKind.Sequential)]
     public sealed class ravo_answers
     {
-        /// <summary>sizeof(ravo_answers)</summary>
+        /// <summary>sizeof(ravo_answers), set by the caller</summary>
         public UIntPtr size = (UIntPtr)Marshal.SizeOf(typeof(ravo_answers));
         /// <summary>of each row: the number of the reason, or one of RAVO_CODE_...</summary>
         public IntPtr codes;
@@ -2474,7 +2451,10 @@ public static class Ravo
     public static extern int ravo_check_column(int kind, [In] ravo_column column, uint flags,
         [In, Out] ravo_answers answers, ravo_progress progress, IntPtr context, [In, Out] ravo_error error);
 
-    /// <summary>Checks every row of a column for a kind, and writes usual spellings where ravo_check_column writes canonical forms.</summary>
+    /// <summary>Checks every row of a column for a kind, as ravo_respell does, and writes codes, validity and usual spellings.</summary>
+    /// <remarks>
+    /// <para>Otherwise as ravo_check_column. Allocates for dictionaries alone.</para>
+    /// </remarks>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern int ravo_respell_column(int kind, [In] ravo_column column, uint flags,
         [In, Out] ravo_answers answers, ravo_progress progress, IntPtr context, [In, Out] ravo_error error);
@@ -2591,8 +2571,8 @@ public static class Ravo
     /// <remarks>
     /// <para>`field` is the name of a column of a record batch, or null for an array that is no batch. Formats: u, U, vu, z, Z,
     /// vz, w:N, i, l, tdD, and dictionaries of these. Another format, or an array whose parts do not fit its format, is
-    /// RAVO_ARGUMENT; a name that the batch has not is RAVO_UNKNOWN. Schema and array are borrowed: they stay the caller's,
-    /// who releases them as ever, and the column holds until then. `dictionary` may be null if there is none. Never
+    /// RAVO_ARGUMENT; a name that the batch does not have is RAVO_UNKNOWN. Schema and array stay the caller's; the column is
+    /// valid until the caller releases them. `dictionary` may be null if there is none. Never
     /// allocates.</para>
     /// </remarks>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
@@ -2606,10 +2586,26 @@ public static class Ravo
     /// <summary>Reads an Arrow stream to its end and gives a column of each batch to a function.</summary>
     /// <remarks>
     /// <para>`field` is as in ravo_column_of_arrow. The stream becomes the function's: it is released exactly once, whatever the
-    /// status, and so are its schema and its batches. A failure of the stream itself is RAVO_STOPPED, with its own number
-    /// in error->code and its own words as the message. Allocates nothing; the stream may.</para>
+    /// status, and so are its schema and its batches. A failure of the stream itself is RAVO_STOPPED with its number as
+    /// `error->code` and its message. Never allocates; the stream may.</para>
     /// </remarks>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern int ravo_arrow_stream(ref ArrowArrayStream stream, byte[] field, UIntPtr field_length,
         ravo_batch batch, IntPtr context, [In, Out] ravo_error error);
+
+    /// <summary>a client with a user interface</summary>
+    public const int RAVO_MACHINE_CLIENT = 0;
+    /// <summary>the application layer</summary>
+    public const int RAVO_MACHINE_BUSINESS = 1;
+
+    /// <summary>Writes the suite's support report: date and time, system, folders, memory, disks, and the installed files of the
+    /// suite, in Czech, indented with tabs, with CR LF after each line.</summary>
+    /// <remarks>
+    /// <para>It reads clock, locale, registry and files, changes nothing and sends nothing. It names the computer, its user and
+    /// folders. A value that the machine does not have is empty, and its line is still there. Two reports may differ in
+    /// length: some 64 KiB are room for each. Allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_machine_report(int layer, [Out] byte[] buffer, UIntPtr size, ref UIntPtr length,
+        [In, Out] ravo_error error);
 }

@@ -44,8 +44,8 @@ static void say_what_they_say_once(const ravo_invoice* invoice) {
   EXPECT_TEXT(head.currency, "CZK");
   EXPECT_TEXT(head.foreign_currency, "");
   EXPECT_TEXT(head.note, "Děkujeme za objednávku.");
-  EXPECT(head.version == RAVO_INVOICE_KNOWN && head.size == sizeof head);
-  EXPECT(ravo_invoice_party_of(invoice, RAVO_INVOICE_SUPPLIER, &party, NULL) == RAVO_OK);
+  EXPECT(head.version == RAVO_INVOICE_VERSION_KNOWN && head.size == sizeof head);
+  EXPECT(ravo_invoice_party_of(invoice, RAVO_INVOICE_ROLE_SUPPLIER, &party, NULL) == RAVO_OK);
   EXPECT_TEXT(party.ico, "09900101");
   EXPECT_TEXT(party.dic, "CZ09900101");
   EXPECT_TEXT(party.name, "Papírna Vzorová s.r.o.");
@@ -54,7 +54,7 @@ static void say_what_they_say_once(const ravo_invoice* invoice) {
   EXPECT_TEXT(party.post_code, "190 00");
   EXPECT_TEXT(party.city, "Vzorov");
   EXPECT_TEXT(party.country, "CZ");
-  EXPECT(ravo_invoice_party_of(invoice, RAVO_INVOICE_CUSTOMER, &party, NULL) == RAVO_OK);
+  EXPECT(ravo_invoice_party_of(invoice, RAVO_INVOICE_ROLE_CUSTOMER, &party, NULL) == RAVO_OK);
   EXPECT_TEXT(party.name, "Příkladné účetnictví a.s.");
   EXPECT(ravo_invoice_totals_of(invoice, &totals, NULL) == RAVO_OK);
   EXPECT_TEXT(totals.base, "2243.00");
@@ -128,13 +128,13 @@ static void invoices_are_checked(void) {
   EXPECT_TEXT(finding.element, "ID");
   EXPECT_TEXT(finding.found, "09900290");
   EXPECT_TEXT(finding.expected, "");
-  EXPECT(finding.severity == RAVO_INVOICE_ERROR && finding.line == 50 && finding.column == 9);
+  EXPECT(finding.severity == RAVO_INVOICE_SEVERITY_ERROR && finding.line == 50 && finding.column == 9);
   EXPECT_TEXT(ravo_reason_name(finding.reason), "ico.checksum");
   EXPECT_TEXT(ravo_invoice_rule_sentence(finding.rule, RAVO_LANGUAGE_ENGLISH), "the company number is wrong");
   EXPECT(ravo_invoice_finding_at(invoice, 5, &finding, NULL) == RAVO_OK);
   EXPECT_TEXT(finding.name, "date.due");
   EXPECT_TEXT(finding.expected, "2026-11-02");
-  EXPECT(finding.severity == RAVO_INVOICE_NOTE && finding.reason == 0);
+  EXPECT(finding.severity == RAVO_INVOICE_SEVERITY_NOTE && finding.reason == 0);
   EXPECT(ravo_invoice_finding_at(invoice, 7, &finding, NULL) == RAVO_UNKNOWN);
   ravo_invoice_close(invoice);
 }
@@ -145,14 +145,14 @@ static void of_other_kinds_are_opened(void) {
   ravo_invoice* invoice = NULL;
   EXPECT(ravo_invoice_open(TEXT("<a/>"), &invoice, NULL) == RAVO_OK);
   EXPECT(ravo_invoice_head_of(invoice, &head, NULL) == RAVO_OK);
-  EXPECT(head.version == RAVO_INVOICE_NONE);
+  EXPECT(head.version == RAVO_INVOICE_VERSION_NONE);
   EXPECT(ravo_invoice_finding_at(invoice, 0, &finding, NULL) == RAVO_OK);
   EXPECT_TEXT(finding.name, "structure.root");
   ravo_invoice_close(invoice);
   EXPECT(ravo_invoice_open(TEXT("<Invoice xmlns=\"http://isdoc.cz/namespace/invoice\"/>"), &invoice, NULL) ==
          RAVO_OK);
   EXPECT(ravo_invoice_head_of(invoice, &head, NULL) == RAVO_OK);
-  EXPECT(head.version == RAVO_INVOICE_OTHER);
+  EXPECT(head.version == RAVO_INVOICE_VERSION_OTHER);
   ravo_invoice_close(invoice);
 }
 

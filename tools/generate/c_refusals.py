@@ -266,8 +266,19 @@ def refusal(function: Function, header: Header) -> str:
     for what, changed, status in changes(function, header):
         lines += [f"  /* {what} */", f"  {fresh(outputs)}", f"  REFUSED({call(function, header, **changed)}, {status});", f"  {untouched(outputs)}",
                   f"  EXPECT({call(function, header, **changed, error='NULL')} == {status});"]
+    lines += closed_handles(function, header, outputs)
     lines += closed
     return "\n".join(line for line in lines if line.strip()) + "\n}\n"
+
+
+def closed_handles(function: Function, header: Header, outputs: list[Parameter]) -> list[str]:
+    """The call after its handle was closed, for a build that knows which are open."""
+    handles = [one for one in function.parameters if one.role == "open"]
+    if not handles:
+        return []
+    lines = [f"  {one.type}_close({one.name});" for one in handles]
+    lines += ["  /* a closed handle */", f"  {fresh(outputs)}", f"  REFUSED({call(function, header)}, RAVO_ARGUMENT);", f"  {untouched(outputs)}"]
+    return ["#ifdef RAVO_CHECK_HANDLES", *lines, *(f"  {one.name} = NULL;" for one in handles), "#endif"]
 
 
 def plain(function: Function, header: Header) -> str:

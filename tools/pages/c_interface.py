@@ -16,8 +16,6 @@ Rule = tuple[str, str, str]  # header, names, functions of C or a reason, as reg
 
 OWN = "the caller's language has its own"
 MACHINE = "asks the machine: clock, locale, files, registry or system"
-PROGRAM = "still in the program"
-LATER = "not yet"
 MODULES = "of modules of the suite, which are C++"
 PARTS = "inside of the library"
 # The first rule that fits a name holds.
@@ -295,6 +293,14 @@ def render(root: pathlib.Path, rules: list[Rule] = RULES) -> dict[str, str]:
     return {PAGE: with_block(read(root / PAGE), "\n".join(parts) + "\n### What no public header has\n\n" + beside)}
 
 
+def chapters(text: str) -> list[str]:
+    """What the list of chapters in the essay of the header lacks, or has in another order."""
+    headings = re.findall(r"^/\* -{9,}\n \* (.*)$", text, re.MULTILINE)
+    told = re.search(r"The chapters, [^:]*:(.*?)\.\n \*/", text, re.DOTALL)
+    listed = " ".join(told[1].replace("\n *", " ").split()).split("; ") if told else []
+    return [] if listed == headings else [f"{HEADER}: the essay's chapters are {listed}, the headings {headings}"]
+
+
 def check(root: pathlib.Path, rules: list[Rule] = RULES) -> list[str]:
     functions = set(re.findall(r"RAVO_CALL (\w+)\(", read(root / HEADER)))
     told = {name for _, _, what in rules for name in re.findall(r"\bravo_\w+", what)} - {"ravo_status", "ravo_error"}
@@ -303,6 +309,7 @@ def check(root: pathlib.Path, rules: list[Rule] = RULES) -> list[str]:
     findings += [f"{header}: {name}: has neither a C function nor a reason"
                  for header, names in public_names(root) for name in names if answer(header, name, rules) < 0]
     findings += [f"{HEADER}: has no function {name}, which a rule names" for name in sorted(told - functions)]
+    findings += chapters(read(root / HEADER))
     if rules is RULES:
         findings += [f"{HEADER}: {name}: no rule names it" for name in sorted(functions - told - OF_C)]
         findings += [f"rule {rules[i][:2]}: fits no name" for i in range(len(rules)) if i not in used]
@@ -329,6 +336,7 @@ PLANTINGS: list[Planting] = [
     ("a good tree", _tree(), None),
     ("a name without an answer", _tree(ravo__czech__ico_h=_HEADERS["ravo/czech/ico.h"] + "Ico Second(int i);\n"), "ico.h: Second: has neither"),
     ("a function that is gone", _tree(c__ravo_h=""), "has no function ravo_check"),
+    ("a chapter that the essay leaves out", _tree(c__ravo_h=_HEADERS[HEADER] + "/* ---------\n * Banks\n */\n"), "the essay's chapters"),
     ("a page of before", _tree(ravo__czech__day_h="int Weekday(int day);\nint Month(int day);\n"), "writes it"),
 ]
 

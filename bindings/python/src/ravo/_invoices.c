@@ -41,8 +41,8 @@ static PyObject* Totals(ravo_module* module, const ravo_invoice* invoice) {
 
 static PyObject* Parts(ravo_module* module, const ravo_invoice* invoice) {
   PyObject* parts[] = {Head(module, invoice),
-                       Party(module, invoice, RAVO_INVOICE_SUPPLIER),
-                       Party(module, invoice, RAVO_INVOICE_CUSTOMER),
+                       Party(module, invoice, RAVO_INVOICE_ROLE_SUPPLIER),
+                       Party(module, invoice, RAVO_INVOICE_ROLE_CUSTOMER),
                        AllInvoiceLine(module, invoice),
                        AllInvoiceRate(module, invoice),
                        Totals(module, invoice),

@@ -104,21 +104,6 @@ class InvoiceSeverity(IntEnum):
     ERROR = 1  # the document breaks a rule
 
 
-class SuiteRounding(IntEnum):
-    """The direction of the suite's rounding. Any other number up to 255 means no rounding."""
-
-    UP = 0  # away from zero
-    DOWN = 1  # toward zero
-    MATH = 2  # halves away from zero
-
-
-class MachineLayer(IntEnum):
-    """Which part of the suite asks for the report."""
-
-    CLIENT = 0  # a client with a user interface
-    BUSINESS = 1  # the application layer
-
-
 class OrderFlags(IntEnum):
     """How texts compare; add up what is wanted."""
 
@@ -189,7 +174,7 @@ class CharacterProperty(IntEnum):
 
 
 class Decomposition(IntEnum):
-    """Into what a character comes apart."""
+    """How a character is decomposed."""
 
     CANONICAL = 0  # the full canonical one, marks in canonical order: "é" is "e" and U+0301
     COMPATIBLE = 1  # the full compatibility one, or the canonical one if there is no other
@@ -206,14 +191,14 @@ class SuiteHashOf(IntEnum):
 
 
 class DetectFlags(IntEnum):
-    """Which texts are possible."""
+    """Which texts are possible; add up what is wanted."""
 
     PLAIN = 0  # Czech texts of Windows, DOS and Unix, and of every form of Unicode
     MAC = 1  # and those of the Macintosh: Mac Central European
 
 
 class Evidence(IntEnum):
-    """What a detected encoding rests on: it is sure for the numbers 1 to 5."""
+    """Why an encoding was detected. It is sure for the numbers 1 to 5."""
 
     MARK = 1  # a byte-order mark
     ZEROS = 2  # the zero bytes of UTF-16 or UTF-32
@@ -227,10 +212,18 @@ class Evidence(IntEnum):
 
 
 class ConvertPolicy(IntEnum):
-    """What happens to what cannot be converted."""
+    """What becomes of bytes and characters that cannot be converted."""
 
     STRICT = 0  # the conversion fails at its position
     REPLACE = 1  # it becomes U+FFFD, or "?" if the encoding lacks that
+
+
+class SuiteRounding(IntEnum):
+    """The direction of the suite's rounding. Any other number up to 255 means no rounding."""
+
+    UP = 0  # away from zero
+    DOWN = 1  # toward zero
+    MATH = 2  # halves away from zero
 
 
 class SuiteTokenKind(IntEnum):
@@ -242,6 +235,13 @@ class SuiteTokenKind(IntEnum):
     OPEN_TAG = 10
     CLOSE_TAG = 11
     STAND_ALONE_TAG = 12
+
+
+class MachineLayer(IntEnum):
+    """Which part of the suite asks for the report."""
+
+    CLIENT = 0  # a client with a user interface
+    BUSINESS = 1  # the application layer
 
 
 class Account(NamedTuple):
@@ -316,6 +316,27 @@ class VatAmounts(NamedTuple):
     half: bool  # the exact tax ends on half a haléř
 
 
+class EncodingInfo(NamedTuple):
+    """What is known of an encoding."""
+
+    name: str  # "Windows_1250"
+    label: str  # for people
+    aliases: str  # other names, separated by blanks
+    notes: str  # remarks; may be empty
+    code_page: int  # Windows number; 0 if it has none
+    can_read: bool  # it can be converted from
+    can_write: bool  # it can be converted to
+
+
+class Detection(NamedTuple):
+    """The encoding that a text seems to have."""
+
+    candidates: int  # how many cannot be told apart; 1 if it is sure
+    encoding: int  # the most likely one
+    evidence: Evidence  # why
+    is_sure: bool  # there is no doubt
+
+
 class SuiteEan(NamedTuple):
     """The check digits of an EAN."""
 
@@ -351,27 +372,6 @@ class SuiteModule(NamedTuple):
     uses: str  # the modules that start before it, separated by blanks
     order: int  # its place in the order in which modules start, from 0; they stop in reverse
     is_main: int  # 1 for the main module, else 0
-
-
-class EncodingInfo(NamedTuple):
-    """What is known of an encoding."""
-
-    name: str  # "Windows_1250"
-    label: str  # for people
-    aliases: str  # other names, separated by blanks
-    notes: str  # remarks; may be empty
-    code_page: int  # Windows number; 0 if it has none
-    can_read: bool  # it can be converted from
-    can_write: bool  # it can be converted to
-
-
-class Detection(NamedTuple):
-    """The encoding that a text seems to have."""
-
-    candidates: int  # how many cannot be told apart; 1 if it is sure
-    encoding: int  # the most likely one
-    evidence: Evidence  # why
-    is_sure: bool  # there is no doubt
 
 
 class Bank(NamedTuple):
