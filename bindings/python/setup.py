@@ -33,7 +33,7 @@ class BuildModule(build_ext):
         options = ["-DCMAKE_BUILD_TYPE=Release", "-DCMAKE_UNITY_BUILD=ON", "-DRAVO_BUILD_PYTHON=ON", "-DRAVO_BUILD_TOOLS=OFF", "-DRAVO_BUILD_TESTS=OFF",
                    "-DRAVO_INSTALL=OFF", "-DBUILD_SHARED_LIBS=OFF"]
         subprocess.run(["cmake", "-S", NATIVE, "-B", folder, "-Wno-dev", *options], check=True)
-        subprocess.run(["cmake", "--build", folder, "--target", "ravo_python_module", "--parallel"], check=True)
+        subprocess.run(["cmake", "--build", folder, "--target", "ravo_python_module", "--parallel", str(processors())], check=True)
         return folder / "python" / "ravo" / "_ravo.abi3.so"
 
 
