@@ -38,7 +38,7 @@
  * A check of form says "correct in form" and never that something exists. The file is in chapters: failure,
  * version, checks, what numbers tell, banks, days, holidays and terms, money, VAT, payment codes, invoices, the
  * suite's own rules, its forms and records, its tables, captions and modules, this machine, texts, order, characters,
- * checksums, random numbers, encodings, columns.
+ * checksums, random numbers, encodings, XML documents, the suite's XML, columns.
  */
 #ifndef RAVO_H
 #define RAVO_H
@@ -1942,6 +1942,293 @@ ravo_status RAVO_CALL ravo_converter_push(ravo_converter *converter, const void 
  */
 ravo_status RAVO_CALL ravo_converter_pull(ravo_converter *converter, void *buffer, size_t size, size_t *length,
                                           ravo_error *error);
+
+/* ------------------------------------------------------------------------------------------------------------
+ * XML documents
+ *
+ * Documents of any encoding, in which values are changed while every other byte stays as it is: white space, comments,
+ * quotes, references, the byte-order mark.
+ *
+ *     ravo_document *invoice = NULL;
+ *     ravo_document_change paid = {"Invoice/Note", RAVO_NUL_TERMINATED, "Zaplaceno", RAVO_NUL_TERMINATED};
+ *     if (ravo_document_open(bytes, length, &invoice, &error) == RAVO_OK &&
+ *         ravo_document_set(invoice, &paid, 1, RAVO_DOCUMENT_ADD, &error) == RAVO_OK)
+ *       ravo_document_write(invoice, write_to_file, file, &error);
+ *     ravo_document_close(invoice);
+ *
+ * Paths.    A path names elements from the root on, each with its number among the elements of its name, counted from 1,
+ *           and possibly an attribute: "Invoice/Line[2]/@ID". If no element has a name exactly, its case is ignored.
+ * Threads.  While one thread sets values or checks, no other may use the document.
+ */
+
+/* A document. */
+typedef struct ravo_document ravo_document;
+
+/* How values are read and set; numbers to be added. */
+enum {
+  RAVO_DOCUMENT_RAW = 1,        /* the value is XML as it is written: references and tags */
+  RAVO_DOCUMENT_REFERENCES = 2, /* set: a character that the encoding lacks becomes a reference such as &#x159; */
+  RAVO_DOCUMENT_ADD = 4         /* set: add a missing attribute, or a missing next element of a name */
+};
+
+/*
+ * Opens a document of any encoding: by its byte-order mark, else by its declaration, else UTF-8.
+ *
+ * RAVO_WRONG with code 0 for what is not XML: `error->position` is the place in `bytes`, the message tells line and
+ * column and why. The document keeps a copy of the bytes. Close it with ravo_document_close. Allocates.
+ */
+ravo_status RAVO_CALL ravo_document_open(const void *bytes, size_t bytes_length, ravo_document **document,
+                                         ravo_error *error);
+
+/* Closes a document. Null is allowed. */
+void RAVO_CALL ravo_document_close(ravo_document *document);
+
+/* Writes the encoding of a document. */
+ravo_status RAVO_CALL ravo_document_encoding(const ravo_document *document, ravo_encoding *encoding,
+                                             ravo_error *error);
+
+/*
+ * Writes the value at a path: the text directly in an element, or an attribute.
+ *
+ * `flags` is 0, or RAVO_DOCUMENT_RAW for the content as it is written. RAVO_UNKNOWN if nothing is there, RAVO_WRONG for
+ * a text that is no path and for a name that fits several spellings. Allocates.
+ *
+ *     ravo_document_get(invoice, "Invoice/Line[2]/@ID", RAVO_NUL_TERMINATED, 0, buffer, sizeof buffer, NULL, NULL)
+ */
+ravo_status RAVO_CALL ravo_document_get(const ravo_document *document, const char *path, size_t path_length,
+                                        uint32_t flags, char *buffer, size_t size, size_t *length,
+                                        ravo_error *error);
+
+/* A value to set at a path; both are UTF-8. */
+typedef struct ravo_document_change {
+  const char *path;
+  size_t path_length;  /* or RAVO_NUL_TERMINATED */
+  const char *value;
+  size_t value_length; /* or RAVO_NUL_TERMINATED */
+} ravo_document_change;
+
+/*
+ * Sets values: all of them, or none if one fails. Then the document reads as changed, and its findings are forgotten.
+ *
+ * What markup would be is written as a reference; a text that is one CDATA section stays one. The position of a failure
+ * is the index of the change: RAVO_UNKNOWN if nothing is at its path, RAVO_LACKING if the encoding lacks a character,
+ * RAVO_WRONG if it is no path, if the element contains elements or comments (RAVO_DOCUMENT_RAW replaces them), if a
+ * place is set twice, or if the value is not XML. `flags` adds up numbers RAVO_DOCUMENT_... Allocates.
+ */
+ravo_status RAVO_CALL ravo_document_set(ravo_document *document, const ravo_document_change *changes,
+                                        size_t changes_length, uint32_t flags, ravo_error *error);
+
+/* Writes the bytes of a document: all, or none if the buffer is too small. Never allocates. */
+ravo_status RAVO_CALL ravo_document_save(const ravo_document *document, void *buffer, size_t size, size_t *length,
+                                         ravo_error *error);
+
+/* A function of the caller that receives a piece of a document's bytes; returns 0 to continue, another number to stop. */
+typedef int32_t(RAVO_CALL *ravo_write)(void *context, const void *bytes, size_t bytes_length);
+
+/*
+ * Gives the bytes of a document to a function, in pieces of at most 65536 bytes.
+ *
+ * RAVO_STOPPED with its number as `error->code` if it stops; the position is that of the piece. Never allocates.
+ */
+ravo_status RAVO_CALL ravo_document_write(const ravo_document *document, ravo_write write, void *context,
+                                          ravo_error *error);
+
+/*
+ * Looks for the places where the suite would see or save something else than a standard parser reads, and writes how
+ * many there are.
+ *
+ * 0 means that the document survives ravo_suite_tree, but for white space between tags. RAVO_WRONG with code 0 for a
+ * document that a standard parser rejects, with its place. The findings stay until values are set. Allocates.
+ */
+ravo_status RAVO_CALL ravo_document_check(ravo_document *document, size_t *count, ravo_error *error);
+
+/* A finding of ravo_document_check. It starts as `ravo_document_finding finding = RAVO_DOCUMENT_FINDING_INIT;`. */
+typedef struct ravo_document_finding {
+  size_t size;      /* sizeof(ravo_document_finding), set by the caller */
+  const char *name; /* the stable name of its class: "comment", "encoding" */
+  uint64_t line;    /* from 1 */
+  uint64_t column;  /* in characters, from 1 */
+} ravo_document_finding;
+
+#define RAVO_DOCUMENT_FINDING_INIT {sizeof(ravo_document_finding), 0, 0, 0}
+
+/* Writes the finding with an index, in the order of the document. RAVO_UNKNOWN past the last. Never allocates. */
+ravo_status RAVO_CALL ravo_document_finding_at(const ravo_document *document, size_t index,
+                                               ravo_document_finding *finding, ravo_error *error);
+
+/* Writes the sentence of the finding with an index, without a full stop. RAVO_UNKNOWN past the last. Allocates. */
+ravo_status RAVO_CALL ravo_document_finding_sentence(const ravo_document *document, size_t index,
+                                                     ravo_language language, char *buffer, size_t size,
+                                                     size_t *length, ravo_error *error);
+
+/* ------------------------------------------------------------------------------------------------------------
+ * The suite's XML
+ *
+ * A document as the suite's modules load and save it: a tree of items with a name, attributes, one text and children.
+ * It is small and forgiving: every close tag closes the innermost item, comments are dropped, bytes are Windows-1250
+ * whatever the document declares. ravo_document_check tells what would be lost.
+ *
+ * An item is a number, 0 for the root, that never means another item; RAVO_UNKNOWN for one that was deleted or never
+ * was. Names are found ignoring case. If there is no memory in the middle of a change, the tree can be read and closed,
+ * and the change may be there or not.
+ *
+ * While one thread changes or saves a tree, no other may use it.
+ */
+
+/* A tree. */
+typedef struct ravo_suite_tree ravo_suite_tree;
+
+/* An item of a tree by its number. */
+typedef size_t ravo_suite_item;
+
+/*
+ * Loads a tree from the bytes of a document.
+ *
+ * Without `<rss` or `<?xml version="1.0"` in the first 1000 bytes, and with a byte-order mark before it, nothing is
+ * loaded and the root is empty. RAVO_WRONG with code 0 for what cannot be read; the message tells the line. The tree
+ * keeps no part of the bytes. Close it with ravo_suite_tree_close. Allocates.
+ */
+ravo_status RAVO_CALL ravo_suite_tree_open(const void *bytes, size_t bytes_length, ravo_suite_tree **tree,
+                                           ravo_error *error);
+
+/* Closes a tree. Null is allowed. */
+void RAVO_CALL ravo_suite_tree_close(ravo_suite_tree *tree);
+
+/* Writes the bytes that the suite saves: all, or none if the buffer is too small. Allocates. */
+ravo_status RAVO_CALL ravo_suite_tree_save(ravo_suite_tree *tree, void *buffer, size_t size, size_t *length,
+                                           ravo_error *error);
+
+/* Writes the name of the encoding that the saved document declares, which has no effect on its bytes. */
+ravo_status RAVO_CALL ravo_suite_tree_encoding(const ravo_suite_tree *tree, char *buffer, size_t size,
+                                               size_t *length, ravo_error *error);
+
+/* Sets the name of the encoding that the saved document declares. */
+ravo_status RAVO_CALL ravo_suite_tree_set_encoding(ravo_suite_tree *tree, const char *name, size_t name_length,
+                                                   ravo_error *error);
+
+/* Writes the address of the style sheet that the document refers to; empty if it refers to none. */
+ravo_status RAVO_CALL ravo_suite_tree_style_sheet(const ravo_suite_tree *tree, char *buffer, size_t size,
+                                                  size_t *length, ravo_error *error);
+
+/* Sets the address of the style sheet that the document refers to. */
+ravo_status RAVO_CALL ravo_suite_tree_set_style_sheet(ravo_suite_tree *tree, const char *address,
+                                                      size_t address_length, ravo_error *error);
+
+/* Writes how many children an item has. Never allocates. */
+ravo_status RAVO_CALL ravo_suite_item_child_count(const ravo_suite_tree *tree, ravo_suite_item item, size_t *count,
+                                                  ravo_error *error);
+
+/* Writes the child with an index. RAVO_UNKNOWN past the last. Never allocates. */
+ravo_status RAVO_CALL ravo_suite_item_child(const ravo_suite_tree *tree, ravo_suite_item item, size_t index,
+                                            ravo_suite_item *child, ravo_error *error);
+
+/* Writes the parent of an item. RAVO_UNKNOWN for the root. Never allocates. */
+ravo_status RAVO_CALL ravo_suite_item_parent(const ravo_suite_tree *tree, ravo_suite_item item,
+                                             ravo_suite_item *parent, ravo_error *error);
+
+/*
+ * Writes the index of the first child with a name, from the index `from` on. RAVO_UNKNOWN if there is none.
+ *
+ * To have one made where the suite makes a missing child, call ravo_suite_item_add.
+ */
+ravo_status RAVO_CALL ravo_suite_item_find(const ravo_suite_tree *tree, ravo_suite_item item, const char *name,
+                                           size_t name_length, size_t from, size_t *index, ravo_error *error);
+
+/* Writes the name of an item. */
+ravo_status RAVO_CALL ravo_suite_item_name(const ravo_suite_tree *tree, ravo_suite_item item, char *buffer,
+                                           size_t size, size_t *length, ravo_error *error);
+
+/* Sets the name of an item, without blanks and control characters at both ends. */
+ravo_status RAVO_CALL ravo_suite_item_set_name(ravo_suite_tree *tree, ravo_suite_item item, const char *name,
+                                               size_t name_length, ravo_error *error);
+
+/* Writes the text of an item, unescaped, without that of its children. */
+ravo_status RAVO_CALL ravo_suite_item_text(const ravo_suite_tree *tree, ravo_suite_item item, char *buffer,
+                                           size_t size, size_t *length, ravo_error *error);
+
+/* Sets the text of an item. */
+ravo_status RAVO_CALL ravo_suite_item_set_text(ravo_suite_tree *tree, ravo_suite_item item, const char *text,
+                                               size_t text_length, ravo_error *error);
+
+/* Writes how many attributes an item has. */
+ravo_status RAVO_CALL ravo_suite_item_attribute_count(const ravo_suite_tree *tree, ravo_suite_item item,
+                                                      size_t *count, ravo_error *error);
+
+/* Writes name and value of the attribute with an index. RAVO_UNKNOWN past the last. */
+ravo_status RAVO_CALL ravo_suite_item_attribute_at(const ravo_suite_tree *tree, ravo_suite_item item, size_t index,
+                                                   char *name, size_t name_size, size_t *name_length, char *value,
+                                                   size_t value_size, size_t *value_length, ravo_error *error);
+
+/* Writes the value of the first attribute with a name. RAVO_UNKNOWN if there is none. */
+ravo_status RAVO_CALL ravo_suite_item_attribute(const ravo_suite_tree *tree, ravo_suite_item item,
+                                                const char *name, size_t name_length, char *buffer, size_t size,
+                                                size_t *length, ravo_error *error);
+
+/* Sets the value of the first attribute with a name, or adds one. An empty value deletes it. */
+ravo_status RAVO_CALL ravo_suite_item_set_attribute(ravo_suite_tree *tree, ravo_suite_item item, const char *name,
+                                                    size_t name_length, const char *value, size_t value_length,
+                                                    ravo_error *error);
+
+/* Adds a last child with a name to an item, and writes its number. */
+ravo_status RAVO_CALL ravo_suite_item_add(ravo_suite_tree *tree, ravo_suite_item item, const char *name,
+                                          size_t name_length, ravo_suite_item *child, ravo_error *error);
+
+/* Deletes an item with everything below it. RAVO_ARGUMENT for the root. */
+ravo_status RAVO_CALL ravo_suite_item_delete(ravo_suite_tree *tree, ravo_suite_item item, ravo_error *error);
+
+/* Moves an item to another index among its parent's children. RAVO_ARGUMENT for the root, RAVO_RANGE past the last. */
+ravo_status RAVO_CALL ravo_suite_item_move(ravo_suite_tree *tree, ravo_suite_item item, size_t index,
+                                           ravo_error *error);
+
+/* Writes an item and everything below it as XML, its tags indented by `level` blanks, 0 to 1000. */
+ravo_status RAVO_CALL ravo_suite_item_as_string(ravo_suite_tree *tree, ravo_suite_item item, int32_t level,
+                                                char *buffer, size_t size, size_t *length, ravo_error *error);
+
+/* Writes a text with "&", "<", ">" and double quotes as entities and CR LF as "<br/>". Apostrophes stay. */
+ravo_status RAVO_CALL ravo_suite_str_to_xml(const char *text, size_t text_length, char *buffer, size_t size,
+                                            size_t *length, ravo_error *error);
+
+/*
+ * Writes a text with "&lt;", "&gt;", "&quot;" and then "&amp;" replaced by their characters, one level deep.
+ *
+ * Other entities and "<br/>" stay.
+ */
+ravo_status RAVO_CALL ravo_suite_xml_to_str(const char *text, size_t text_length, char *buffer, size_t size,
+                                            size_t *length, ravo_error *error);
+
+/* Kinds of tokens. */
+typedef int32_t ravo_suite_token_kind;
+enum {
+  RAVO_SUITE_TOKEN_COMMENT = 6,
+  RAVO_SUITE_TOKEN_HEADER = 8,         /* <? ... ?> */
+  RAVO_SUITE_TOKEN_TEXT = 9,           /* text between tags, or a CDATA section */
+  RAVO_SUITE_TOKEN_OPEN_TAG = 10,
+  RAVO_SUITE_TOKEN_CLOSE_TAG = 11,
+  RAVO_SUITE_TOKEN_STAND_ALONE_TAG = 12
+};
+
+/* A token. It lives until the function that received it returns. */
+typedef struct ravo_suite_token {
+  size_t size;                /* sizeof(ravo_suite_token) of the library */
+  const char *text;           /* without line breaks of two bytes, and each run of blanks as one; UTF-8 */
+  size_t text_length;
+  ravo_suite_token_kind kind;
+  int32_t line;               /* from 1; line feeds in tokens do not count */
+  int32_t position;           /* in bytes, from 0 */
+} ravo_suite_token;
+
+/* A function of the caller that receives a token; returns 0 to continue, another number to stop. */
+typedef int32_t(RAVO_CALL *ravo_suite_take)(void *context, const ravo_suite_token *token);
+
+/*
+ * Gives each token of a document, as the suite's tokenizer cuts it, to a function.
+ *
+ * RAVO_WRONG with code 0 for what cannot be read; the message tells the line. RAVO_STOPPED with its number as
+ * `error->code` if it stops. Allocates.
+ */
+ravo_status RAVO_CALL ravo_suite_tokens(const void *bytes, size_t bytes_length, ravo_suite_take take, void *context,
+                                        ravo_error *error);
+
 /* ------------------------------------------------------------------------------------------------------------
  * Columns
  *

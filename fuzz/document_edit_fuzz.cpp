@@ -1,7 +1,7 @@
 // Documents of any bytes, edited by path: the first byte chooses an element, and whether its text or its
 // first attribute is set. The result must be XML again, have the value at the path, and be the same
 // elsewhere.
-#include "../tools/ravo/document_edit.h"
+#include <ravo/document/edit.h>
 
 #include <cstdint>
 #include <cstdlib>
@@ -9,11 +9,13 @@
 #include <string>
 #include <vector>
 
+namespace document = ravo::document;
+
 namespace {
 
-using tool::DocumentPart;
-using tool::PartKind;
-using tool::ScannedDocument;
+using document::DocumentPart;
+using document::PartKind;
+using document::ScannedDocument;
 
 void Require(bool holds) {
   if (!holds) std::abort();
@@ -46,20 +48,20 @@ std::vector<std::string> PathsOf(const ScannedDocument& document) {
 }
 
 // An exception here is a failure.
-void CheckResult(const tool::DocumentText& text, const tool::DocumentEdit& edit,
-                 const tool::ValueChange& change) noexcept {
-  const tool::DocumentText edited = tool::DecodeDocument(tool::EditedBytes(text, {&edit, 1}));
-  const ScannedDocument result = tool::ScanDocument(edited.utf8);
-  const auto place = tool::PathFinder(result).FindWhole(tool::ParsePath(change.path));
-  Require(tool::ValueAt(result, place, false) == change.value);
-  const tool::Span changed{edit.span.begin, edit.span.begin + edit.utf8.size()};
-  const tool::DocumentEdit back{changed, std::string(edit.span.Of(text.utf8))};
-  Require(tool::EditedBytes(edited, {&back, 1}) == text.bytes);
+void CheckResult(const document::DocumentText& text, const document::DocumentEdit& edit,
+                 const document::ValueChange& change) noexcept {
+  const document::DocumentText edited = document::DecodeDocument(document::EditedBytes(text, {&edit, 1}));
+  const ScannedDocument result = document::ScanDocument(edited.utf8);
+  const auto place = document::PathFinder(result).FindWhole(document::ParsePath(change.path));
+  Require(document::ValueAt(result, place, false) == change.value);
+  const document::Span changed{edit.span.begin, edit.span.begin + edit.utf8.size()};
+  const document::DocumentEdit back{changed, std::string(edit.span.Of(text.utf8))};
+  Require(document::EditedBytes(edited, {&back, 1}) == text.bytes);
 }
 
-void CheckEdit(const tool::DocumentText& text, const ScannedDocument& document, const std::string& path) {
-  const tool::ValueChange change{path, "<&>\"']]>\r\n\tx"};
-  const auto edits = tool::EditsFor(text, document, {&change, 1}, {});
+void CheckEdit(const document::DocumentText& text, const ScannedDocument& document, const std::string& path) {
+  const document::ValueChange change{path, "<&>\"']]>\r\n\tx"};
+  const auto edits = document::EditsFor(text, document, {&change, 1}, {});
   Require(edits.size() == 1);
   CheckResult(text, edits[0], change);
 }
@@ -69,15 +71,16 @@ void CheckEdit(const tool::DocumentText& text, const ScannedDocument& document, 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   if (size == 0) return 0;
   try {
-    const tool::DocumentText text = tool::DecodeDocument({reinterpret_cast<const char*>(data) + 1, size - 1});
-    const ScannedDocument document = tool::ScanDocument(text.utf8);
-    const auto paths = PathsOf(document);
-    CheckEdit(text, document, paths[data[0] % paths.size()]);
-  } catch (const tool::PlacedError&) {
+    const document::DocumentText text =
+        document::DecodeDocument({reinterpret_cast<const char*>(data) + 1, size - 1});
+    const ScannedDocument scanned = document::ScanDocument(text.utf8);
+    const auto paths = PathsOf(scanned);
+    CheckEdit(text, scanned, paths[data[0] % paths.size()]);
+  } catch (const document::PlacedError&) {
     // No document in a known encoding.
-  } catch (const tool::DocumentError&) {
+  } catch (const document::DocumentError&) {
     // Not XML.
-  } catch (const tool::PathError&) {
+  } catch (const document::PathError&) {
     // An element with others inside.
   }
   return 0;

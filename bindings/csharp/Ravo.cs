@@ -2090,6 +2090,284 @@ public static class Ravo
     public static extern int ravo_converter_pull(IntPtr converter, IntPtr buffer, UIntPtr size, ref UIntPtr length,
         [In, Out] ravo_error error);
 
+    /// <summary>the value is XML as it is written: references and tags</summary>
+    public const int RAVO_DOCUMENT_RAW = 1;
+    /// <summary>set: a character that the encoding lacks becomes a reference such as &amp;#x159;</summary>
+    public const int RAVO_DOCUMENT_REFERENCES = 2;
+    /// <summary>set: add a missing attribute, or a missing next element of a name</summary>
+    public const int RAVO_DOCUMENT_ADD = 4;
+
+    /// <summary>Opens a document of any encoding: by its byte-order mark, else by its declaration, else UTF-8.</summary>
+    /// <remarks>
+    /// <para>RAVO_WRONG with code 0 for what is not XML: `error->position` is the place in `bytes`, the message tells line and
+    /// column and why. The document keeps a copy of the bytes. Close it with ravo_document_close. Allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_document_open(byte[] bytes, UIntPtr bytes_length, out IntPtr document,
+        [In, Out] ravo_error error);
+
+    /// <summary>Closes a document. Null is allowed.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern void ravo_document_close(IntPtr document);
+
+    /// <summary>Writes the encoding of a document.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_document_encoding(IntPtr document, ref int encoding, [In, Out] ravo_error error);
+
+    /// <summary>Writes the value at a path: the text directly in an element, or an attribute.</summary>
+    /// <remarks>
+    /// <para>`flags` is 0, or RAVO_DOCUMENT_RAW for the content as it is written. RAVO_UNKNOWN if nothing is there, RAVO_WRONG for
+    /// a text that is no path and for a name that fits several spellings. Allocates.</para>
+    /// <code>ravo_document_get(invoice, "Invoice/Line[2]/@ID", RAVO_NUL_TERMINATED, 0, buffer, sizeof buffer, NULL, NULL)</code>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_document_get(IntPtr document, byte[] path, UIntPtr path_length, uint flags,
+        [Out] byte[] buffer, UIntPtr size, ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>A value to set at a path; both are UTF-8.</summary>
+    [StructLayout(LayoutKind.Sequential)]
+    public struct ravo_document_change
+    {
+        public IntPtr path;
+        /// <summary>or RAVO_NUL_TERMINATED</summary>
+        public UIntPtr path_length;
+        public IntPtr value;
+        /// <summary>or RAVO_NUL_TERMINATED</summary>
+        public UIntPtr value_length;
+    }
+
+    /// <summary>Sets values: all of them, or none if one fails. Then the document reads as changed, and its findings are forgotten.</summary>
+    /// <remarks>
+    /// <para>What markup would be is written as a reference; a text that is one CDATA section stays one. The position of a failure
+    /// is the index of the change: RAVO_UNKNOWN if nothing is at its path, RAVO_LACKING if the encoding lacks a character,
+    /// RAVO_WRONG if it is no path, if the element contains elements or comments (RAVO_DOCUMENT_RAW replaces them), if a
+    /// place is set twice, or if the value is not XML. `flags` adds up numbers RAVO_DOCUMENT_... Allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_document_set(IntPtr document, ref ravo_document_change changes,
+        UIntPtr changes_length, uint flags, [In, Out] ravo_error error);
+
+    /// <summary>Writes the bytes of a document: all, or none if the buffer is too small. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_document_save(IntPtr document, IntPtr buffer, UIntPtr size, ref UIntPtr length,
+        [In, Out] ravo_error error);
+
+    [UnmanagedFunctionPointer(CallingConvention.Cdecl)]
+    public delegate int ravo_write(IntPtr context, IntPtr bytes, UIntPtr bytes_length);
+
+    /// <summary>Gives the bytes of a document to a function, in pieces of at most 65536 bytes.</summary>
+    /// <remarks>
+    /// <para>RAVO_STOPPED with its number as `error->code` if it stops; the position is that of the piece. Never allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_document_write(IntPtr document, ravo_write write, IntPtr context,
+        [In, Out] ravo_error error);
+
+    /// <summary>Looks for the places where the suite would see or save something else than a standard parser reads, and writes how
+    /// many there are.</summary>
+    /// <remarks>
+    /// <para>0 means that the document survives ravo_suite_tree, but for white space between tags. RAVO_WRONG with code 0 for a
+    /// document that a standard parser rejects, with its place. The findings stay until values are set. Allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_document_check(IntPtr document, ref UIntPtr count, [In, Out] ravo_error error);
+
+    /// <summary>A finding of ravo_document_check. It starts as `ravo_document_finding finding = RAVO_DOCUMENT_FINDING_INIT;`.</summary>
+    [StructLayout(LayoutKind.Sequential)]
+    public sealed class ravo_document_finding
+    {
+        /// <summary>sizeof(ravo_document_finding), set by the caller</summary>
+        public UIntPtr size = (UIntPtr)Marshal.SizeOf(typeof(ravo_document_finding));
+        /// <summary>the stable name of its class: "comment", "encoding"</summary>
+        public IntPtr name;
+        /// <summary>from 1</summary>
+        public ulong line;
+        /// <summary>in characters, from 1</summary>
+        public ulong column;
+    }
+
+    /// <summary>Writes the finding with an index, in the order of the document. RAVO_UNKNOWN past the last. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_document_finding_at(IntPtr document, UIntPtr index,
+        [In, Out] ravo_document_finding finding, [In, Out] ravo_error error);
+
+    /// <summary>Writes the sentence of the finding with an index, without a full stop. RAVO_UNKNOWN past the last. Allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_document_finding_sentence(IntPtr document, UIntPtr index, int language,
+        [Out] byte[] buffer, UIntPtr size, ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>Loads a tree from the bytes of a document.</summary>
+    /// <remarks>
+    /// <para>Without `&lt;rss` or `&lt;?xml version="1.0"` in the first 1000 bytes, and with a byte-order mark before it, nothing is
+    /// loaded and the root is empty. RAVO_WRONG with code 0 for what cannot be read; the message tells the line. The tree
+    /// keeps no part of the bytes. Close it with ravo_suite_tree_close. Allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_tree_open(byte[] bytes, UIntPtr bytes_length, out IntPtr tree,
+        [In, Out] ravo_error error);
+
+    /// <summary>Closes a tree. Null is allowed.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern void ravo_suite_tree_close(IntPtr tree);
+
+    /// <summary>Writes the bytes that the suite saves: all, or none if the buffer is too small. Allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_tree_save(IntPtr tree, IntPtr buffer, UIntPtr size, ref UIntPtr length,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes the name of the encoding that the saved document declares, which has no effect on its bytes.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_tree_encoding(IntPtr tree, [Out] byte[] buffer, UIntPtr size,
+        ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>Sets the name of the encoding that the saved document declares.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_tree_set_encoding(IntPtr tree, byte[] name, UIntPtr name_length,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes the address of the style sheet that the document refers to; empty if it refers to none.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_tree_style_sheet(IntPtr tree, [Out] byte[] buffer, UIntPtr size,
+        ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>Sets the address of the style sheet that the document refers to.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_tree_set_style_sheet(IntPtr tree, byte[] address, UIntPtr address_length,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes how many children an item has. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_item_child_count(IntPtr tree, UIntPtr item, ref UIntPtr count,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes the child with an index. RAVO_UNKNOWN past the last. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_item_child(IntPtr tree, UIntPtr item, UIntPtr index, ref UIntPtr child,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes the parent of an item. RAVO_UNKNOWN for the root. Never allocates.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_item_parent(IntPtr tree, UIntPtr item, ref UIntPtr parent,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes the index of the first child with a name, from the index `from` on. RAVO_UNKNOWN if there is none.</summary>
+    /// <remarks>
+    /// <para>To have one made where the suite makes a missing child, call ravo_suite_item_add.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_item_find(IntPtr tree, UIntPtr item, byte[] name, UIntPtr name_length,
+        UIntPtr from, ref UIntPtr index, [In, Out] ravo_error error);
+
+    /// <summary>Writes the name of an item.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_item_name(IntPtr tree, UIntPtr item, [Out] byte[] buffer, UIntPtr size,
+        ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>Sets the name of an item, without blanks and control characters at both ends.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_item_set_name(IntPtr tree, UIntPtr item, byte[] name, UIntPtr name_length,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes the text of an item, unescaped, without that of its children.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_item_text(IntPtr tree, UIntPtr item, [Out] byte[] buffer, UIntPtr size,
+        ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>Sets the text of an item.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_item_set_text(IntPtr tree, UIntPtr item, byte[] text, UIntPtr text_length,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes how many attributes an item has.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_item_attribute_count(IntPtr tree, UIntPtr item, ref UIntPtr count,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes name and value of the attribute with an index. RAVO_UNKNOWN past the last.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_item_attribute_at(IntPtr tree, UIntPtr item, UIntPtr index,
+        [Out] byte[] name, UIntPtr name_size, ref UIntPtr name_length, [Out] byte[] value, UIntPtr value_size,
+        ref UIntPtr value_length, [In, Out] ravo_error error);
+
+    /// <summary>Writes the value of the first attribute with a name. RAVO_UNKNOWN if there is none.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_item_attribute(IntPtr tree, UIntPtr item, byte[] name, UIntPtr name_length,
+        [Out] byte[] buffer, UIntPtr size, ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>Sets the value of the first attribute with a name, or adds one. An empty value deletes it.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_item_set_attribute(IntPtr tree, UIntPtr item, byte[] name,
+        UIntPtr name_length, byte[] value, UIntPtr value_length, [In, Out] ravo_error error);
+
+    /// <summary>Adds a last child with a name to an item, and writes its number.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_item_add(IntPtr tree, UIntPtr item, byte[] name, UIntPtr name_length,
+        ref UIntPtr child, [In, Out] ravo_error error);
+
+    /// <summary>Deletes an item with everything below it. RAVO_ARGUMENT for the root.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_item_delete(IntPtr tree, UIntPtr item, [In, Out] ravo_error error);
+
+    /// <summary>Moves an item to another index among its parent's children. RAVO_ARGUMENT for the root, RAVO_RANGE past the last.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_item_move(IntPtr tree, UIntPtr item, UIntPtr index,
+        [In, Out] ravo_error error);
+
+    /// <summary>Writes an item and everything below it as XML, its tags indented by `level` blanks, 0 to 1000.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_item_as_string(IntPtr tree, UIntPtr item, int level, [Out] byte[] buffer,
+        UIntPtr size, ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>Writes a text with "&amp;", "&lt;", ">" and double quotes as entities and CR LF as "&lt;br/>". Apostrophes stay.</summary>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_str_to_xml(byte[] text, UIntPtr text_length, [Out] byte[] buffer,
+        UIntPtr size, ref UIntPtr length, [In, Out] ravo_error error);
+
+    /// <summary>Writes a text with "&amp;lt;", "&amp;gt;", "&amp;quot;" and then "&amp;amp;" replaced by their characters, one level deep.</summary>
+    /// <remarks>
+    /// <para>Other entities and "&lt;br/>" stay.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_xml_to_str(byte[] text, UIntPtr text_length, [Out] byte[] buffer,
+        UIntPtr size, ref UIntPtr length, [In, Out] ravo_error error);
+
+    public const int RAVO_SUITE_TOKEN_COMMENT = 6;
+    /// <summary>&lt;? ... ?></summary>
+    public const int RAVO_SUITE_TOKEN_HEADER = 8;
+    /// <summary>text between tags, or a CDATA section</summary>
+    public const int RAVO_SUITE_TOKEN_TEXT = 9;
+    public const int RAVO_SUITE_TOKEN_OPEN_TAG = 10;
+    public const int RAVO_SUITE_TOKEN_CLOSE_TAG = 11;
+    public const int RAVO_SUITE_TOKEN_STAND_ALONE_TAG = 12;
+
+    /// <summary>A token. It lives until the function that received it returns.</summary>
+    [StructLayout(LayoutKind.Sequential)]
+    public sealed class ravo_suite_token
+    {
+        /// <summary>sizeof(ravo_suite_token) of the library</summary>
+        public UIntPtr size = (UIntPtr)Marshal.SizeOf(typeof(ravo_suite_token));
+        /// <summary>without line breaks of two bytes, and each run of blanks as one; UTF-8</summary>
+        public IntPtr text;
+        public UIntPtr text_length;
+        public int kind;
+        /// <summary>from 1; line feeds in tokens do not count</summary>
+        public int line;
+        /// <summary>in bytes, from 0</summary>
+        public int position;
+    }
+
+    [UnmanagedFunctionPointer(CallingConvention.Cdecl)]
+    public delegate int ravo_suite_take(IntPtr context, [In] ravo_suite_token token);
+
+    /// <summary>Gives each token of a document, as the suite's tokenizer cuts it, to a function.</summary>
+    /// <remarks>
+    /// <para>RAVO_WRONG with code 0 for what cannot be read; the message tells the line. RAVO_STOPPED with its number as
+    /// `error->code` if it stops. Allocates.</para>
+    /// </remarks>
+    [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
+    public static extern int ravo_suite_tokens(byte[] bytes, UIntPtr bytes_length, ravo_suite_take take,
+        IntPtr context, [In, Out] ravo_error error);
+
     /// <summary>row i is data[o[i]] to data[o[i + 1]]; o is int32_t. Arrow: utf8, binary</summary>
     public const int RAVO_LAYOUT_OFFSETS_32 = 1;
     /// <summary>the same with int64_t. Arrow: large utf8, large binary</summary>

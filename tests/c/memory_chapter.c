@@ -3,6 +3,7 @@
 #include "marks.h"
 #include "memory.h"
 #include "random_keys.h"
+#include "small_document.h"
 #include "small_invoice.h"
 
 /* A good call of a function. */
@@ -25,7 +26,7 @@ static void check_promise(const memory_call* row) {
 
 /* Denies the first allocation and all later ones, then the second and all later ones, until none is left. */
 static void check_survival(const memory_call* row) {
-  enum { MOST = 100 };
+  enum { MOST = 1000 };
   size_t allowed = 0;
   ravo_status status = RAVO_MEMORY;
   for (allowed = 0; status == RAVO_MEMORY && allowed < MOST; ++allowed) {

@@ -2,6 +2,7 @@
 #include "expect.h"
 #include "marks.h"
 #include "random_keys.h"
+#include "small_document.h"
 #include "small_invoice.h"
 
 static void check_untouched(const void* place, size_t size, int line) {

@@ -42,14 +42,15 @@ MAY_USE: dict[str, set[str] | None] = {
     "ravo/common": {"runtime", "platform", "frame", "catalogue", "utils"},
     "ravo/czech": {"runtime"},
     "ravo/convert": {"codec"},
+    "ravo/document": {"runtime", "codec", "convert", "unicode", "utils", "xml", "czech"},
     "ravo/order": {"convert"},
     "ravo/isdoc": {"runtime", "czech"},
     "ravo/sysinfo": {"runtime", "platform", "frame", "common"},
     "ravo/xml": {"runtime", "codec", "platform", "frame"},
     "ravo/formout": {"runtime", "codec", "platform", "frame", "unicode"},
     "ravo/hostapi": {"runtime", "platform", "frame"},
-    "c": {"runtime", "codec", "convert", "frame", "catalogue", "unicode", "utils", "common", "czech", "isdoc", "sysinfo", "formout", "order"},
-    "tools/ravo": {PUBLIC, "codec", "convert", "czech", "isdoc", "order"},
+    "c": {"runtime", "codec", "convert", "frame", "catalogue", "unicode", "utils", "common", "czech", "isdoc", "document", "xml", "sysinfo", "formout", "order"},
+    "tools/ravo": {PUBLIC, "codec", "convert", "czech", "document", "isdoc", "order"},
 }
 SCANNED = ("ravo", "c", "tools/ravo")
 

@@ -9,7 +9,7 @@ from xml.parsers import expat
 
 from harness import NO, WRONG_USAGE, YES, Row
 
-MESSAGES = pathlib.Path(__file__).resolve().parents[2] / "tools/ravo/document_messages.inc"
+MESSAGES = pathlib.Path(__file__).resolve().parents[2] / "ravo/document/messages.inc"
 CLASS = re.compile(r'^RAVO_DOCUMENT_MESSAGE\(Finds\w+, "([^"]+)"', re.MULTILINE)
 # Codes of differences that no class explains.
 UNEXPLAINED = {"seen", "saved", "load"}

@@ -36,15 +36,18 @@ GOOD_TEXTS = {
     "ravo_payment_code_read": "SPD*1.0*ACC:CZ6508000000192000145399*AM:450.00",
     "ravo_payment_code_at": "SPD*1.0*ACC:CZ6508000000192000145399*AM:450.00",
     "ravo_invoice_open": "<Invoice><ID>1</ID></Invoice>",
+    "ravo_document_get": "a/d",
+    "ravo_suite_item_find": "d",
+    "ravo_suite_item_attribute": "b",
 }
 # And their lengths.
-GOOD_BYTES = {"ravo_encoding_of_mark": ('"\\xEF\\xBB\\xBF"', "3"), "ravo_suite_string_from_stream": ('"\\1\\0\\0\\0A"', "6")}
+GOOD_BYTES = {"ravo_encoding_of_mark": ('"\\xEF\\xBB\\xBF"', "3"), "ravo_suite_string_from_stream": ('"\\1\\0\\0\\0A"', "6"), "ravo_document_open": ('"<a/>"', "4")}
 GOOD_ITEMS = {"ravo_random_open_array": ("random_keys", "4")}
 GOOD_NUMBERS = {
     "year": "2026", "month": "11", "day_of_month": "21", "week": "47", "days": "14", "months": "1", "index": "0", "nth": "0",
     "from": "0", "separator": "'.'", "decimal": "','", "places": "2", "percent": "21", "id": "71710", "milliseconds": "0",
     "code": "800", "code_page": "1250", "numerator": "21", "denominator": "121", "moment": "40000.0", "letter": "'M'", "decimals": "2",
-    "unit": "0xC0", "wild": "'*'", "one": "'?'",
+    "unit": "0xC0", "wild": "'*'", "one": "'?'", "flags": "0", "level": "2",
 }
 # By function and parameter.
 GOOD_SPECIAL = {
@@ -56,17 +59,22 @@ GOOD_SPECIAL = {
     ("ravo_reason_name", "code"): "104",
     ("ravo_reason_sentence", "code"): "104",
     ("ravo_invoice_rule_sentence", "rule"): "101",
+    ("ravo_suite_item_parent", "item"): "1",
+    ("ravo_suite_item_delete", "item"): "1",
+    ("ravo_suite_item_move", "item"): "1",
 }
-GOOD_BY_TYPE = {"ravo_day": "2461366", "ravo_money": "10000", "double": "1.5", "ravo_progress": "NULL", "ravo_encoding": "0"}
+GOOD_BY_TYPE = {"ravo_day": "2461366", "ravo_money": "10000", "double": "1.5", "ravo_progress": "NULL", "ravo_encoding": "0", "ravo_suite_item": "0"}
 OPENINGS = {
     "ravo_converter": "ravo_converter_open(0, 0, RAVO_CONVERT_STRICT, &converter, NULL)",
+    "ravo_document": "open_checked(&document)",
+    "ravo_suite_tree": "ravo_suite_tree_open(SMALL_DOCUMENT, sizeof SMALL_DOCUMENT - 1, &tree, NULL)",
     "ravo_invoice": "ravo_invoice_open(SMALL_INVOICE, RAVO_NUL_TERMINATED, &invoice, NULL)",
     # A seed whose first two draws fit 31 bits, as ravo_random_int64 wants them.
     "ravo_random": "ravo_random_open(2, &random, NULL)",
 }
 # Functions over structs that the caller fills, and one whose result has no bounds: the tests of their chapters refuse them by hand.
 BY_HAND = {"ravo_spayd_write", "ravo_sid_write", "ravo_check_column", "ravo_respell_column", "ravo_crc32_column", "ravo_column_of_arrow", "ravo_arrow_stream",
-           "ravo_machine_report"}
+           "ravo_machine_report", "ravo_document_write", "ravo_suite_tokens"}
 BAD_NUMBERS = {"int32_t": "INT32_MIN", "ravo_day": "INT32_MIN", "size_t": "(size_t)-2"}
 
 
@@ -304,7 +312,7 @@ def memory_calls(tree: c_ast.FileAST, comments: dict[str, str]) -> str:
         lines = [f"static ravo_status call_{one.name}(void) {{", *map(declaration, outputs), *handles]
         if one.result == "ravo_status":
             lines += ["  ravo_error error = RAVO_ERROR_INIT;", "  ravo_status status;",
-                      *(f"  status = {OPENINGS[other.type]};\n  if (status != RAVO_OK) return status;" for other in one.parameters if other.role == "open"),
+                      *(f"  status = {OPENINGS[other.type]};\n  if (status != RAVO_OK) {{\n    {other.type}_close({other.name});\n    return status;\n  }}" for other in one.parameters if other.role == "open"),
                       f"  {fresh(outputs)}", f"  status = {call(one, header)};"]
             if closing:
                 lines.append(f"  if (status == RAVO_OK) {closing}")

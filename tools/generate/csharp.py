@@ -167,7 +167,9 @@ class Declarations:
         yield from self.comment(node.name)
         yield "    [UnmanagedFunctionPointer(CallingConvention.Cdecl)]"
         function = node.type.type
-        yield f"    public delegate {self.value(function.type)} {node.name}({self.parameters(function)});"
+        # Bytes that come from the library have a length that C# does not know.
+        parameters = self.parameters(function).replace("byte[] ", "IntPtr ")
+        yield f"    public delegate {self.value(function.type)} {node.name}({parameters});"
 
     def field(self, struct: str, node: c_ast.Decl) -> Iterator[str]:
         yield from self.remark(struct, node.name, "        ")

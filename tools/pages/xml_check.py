@@ -8,8 +8,8 @@ from common import ROOT, command_line, has_block, outdated, table, with_block, w
 from source_tree import Planting, read
 
 PAGE = "docs/xml-check.md"
-ROWS = "tools/ravo/document_messages.inc"
-ROW = re.compile(r'^RAVO_DOCUMENT_MESSAGE\(Finds\w+, "([^"]+)", ToTranslate\("(.*)"\)\)$', re.MULTILINE)
+ROWS = "ravo/document/messages.inc"
+ROW = re.compile(r'^RAVO_DOCUMENT_MESSAGE\(Finds\w+, "([^"]+)", ".*", "(.*)"\)$', re.MULTILINE)
 
 
 def cell(text: str) -> str:
@@ -29,8 +29,8 @@ def check(root: pathlib.Path) -> list[str]:
 
 
 _EMPTY = "# Check\n\n<!-- written by x; do not edit -->\n<!-- end of what is written -->\n"
-_ROW = 'RAVO_DOCUMENT_MESSAGE(FindsMark, "mark", ToTranslate("a <b> of \\"c\\""))\n'
-_OTHER = 'RAVO_DOCUMENT_MESSAGE(BadName, "name", ToTranslate("a name"))\n'
+_ROW = 'RAVO_DOCUMENT_MESSAGE(FindsMark, "mark", "<b> z \\"c\\"", "a <b> of \\"c\\"")\n'
+_OTHER = 'RAVO_DOCUMENT_MESSAGE(BadName, "name", "název", "a name")\n'
 _PAGE = with_block(_EMPTY, "| class | finding |\n|---|---|\n| `mark` | a &lt;b> of \"c\" |\n")
 
 PLANTINGS: list[Planting] = [

@@ -6,6 +6,8 @@
 namespace tool {
 namespace {
 
+using ravo::document::DocumentEdit;
+
 std::size_t LineBegin(std::string_view text, std::size_t at) {
   const std::size_t before = at == 0 ? std::string_view::npos : text.rfind('\n', at - 1);
   return before == std::string_view::npos ? 0 : before + 1;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document_text.h"
+#include <ravo/document/text.h>
 
 #include <span>
 #include <string>
@@ -11,6 +11,6 @@ namespace tool {
 /// Returns the lines that edits change, before and after, as a unified diff without context. Empty if nothing
 /// changes.
 [[nodiscard]] std::string EditsDiff(const std::string& name, std::string_view utf8,
-                                    std::span<const DocumentEdit> edits);
+                                    std::span<const ravo::document::DocumentEdit> edits);
 
 }  // namespace tool

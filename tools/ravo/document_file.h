@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document_text.h"
+#include <ravo/document/text.h>
 
 #include <stdexcept>
 #include <string>
@@ -19,22 +19,13 @@ class FileError : public std::runtime_error {
 /// Returns all bytes of a file, or of standard input for "-". Throws `FileError`.
 [[nodiscard]] std::string ReadDocumentBytes(const std::string& name);
 
-/// A decoded and scanned document.
-class OpenDocument {
+/// A document of a file.
+class FileDocument : public ravo::document::OpenDocument {
  public:
   /// Reads a file. Throws `FileError`, with line and column if the document is not XML.
-  explicit OpenDocument(const std::string& name);
+  explicit FileDocument(const std::string& name) : FileDocument(name, ReadDocumentBytes(name)) {}
   /// Takes the bytes of a file that was read.
-  OpenDocument(const std::string& name, std::string bytes);
-  OpenDocument(const OpenDocument&) = delete;
-  OpenDocument& operator=(const OpenDocument&) = delete;
-
-  [[nodiscard]] const DocumentText& Text() const { return text_; }
-  [[nodiscard]] const ScannedDocument& Document() const { return document_; }
-
- private:
-  DocumentText text_;
-  ScannedDocument document_;
+  FileDocument(const std::string& name, std::string bytes);
 };
 
 }  // namespace tool

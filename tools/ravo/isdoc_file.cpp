@@ -2,8 +2,7 @@
 
 #include "console.h"
 #include "document_file.h"
-#include "document_scanner.h"
-#include "document_text.h"
+#include "document_words.h"
 #include "printable.h"
 #include "text.h"
 #include "text_file.h"
@@ -19,6 +18,7 @@
 namespace tool {
 namespace {
 
+using namespace ravo::document;
 namespace isdoc = ravo::isdoc;
 namespace fs = std::filesystem;
 
@@ -68,7 +68,7 @@ void AddFolder(const std::string& folder, InvoiceFiles& found) {
   try {
     static_cast<void>(ScanDocument(text.utf8));
   } catch (const DocumentError& fault) {
-    throw FileError(ShownName(name) + ":" + PlacedError(text.utf8, fault).what());
+    throw FileError(ShownName(name) + ":" + WordsOf(PlacedIn(text, fault)));
   }
   throw FileError(ShownName(name) + ":" + std::to_string(error.place.line) + ":" +
                   std::to_string(error.place.column) + ": " + error.message);
@@ -80,7 +80,7 @@ DocumentText Decoded(const std::string& name) {
   try {
     return DecodeDocument(std::move(bytes));
   } catch (const PlacedError& error) {
-    throw FileError(ShownName(name) + ":" + error.what());
+    throw FileError(ShownName(name) + ":" + WordsOf(error));
   }
 }
 

@@ -1,14 +1,14 @@
 #include "console.h"
-#include "document_check.h"
 #include "document_file.h"
-#include "document_places.h"
+#include "document_words.h"
 #include "foreign_text.h"
 #include "json_text.h"
 #include "printable.h"
 #include "text.h"
 #include "text_file.h"
-#include "xml_file.h"
 #include "xml_work.h"
+#include <ravo/document/check.h>
+#include <ravo/document/suite.h>
 
 #include <algorithm>
 #include <cstdint>
@@ -21,41 +21,46 @@
 namespace tool {
 namespace {
 
+using namespace ravo::document;
+
 // Reports each finding with its place; returns their number.
 using PlacedReport = std::function<void(TextPlace place, const DocumentFinding& finding)>;
-std::size_t ReportFindings(const std::string& name, const OpenDocument& open, const PlacedReport& report) {
+std::size_t ReportFindings(const std::string& name, const FileDocument& open, const PlacedReport& report) {
   PlaceFinder places(open.Text().utf8);
   try {
     return CheckDocument(open.Text(), open.Document(),
                          [&](const DocumentFinding& finding) { report(places.Find(finding.at), finding); });
   } catch (const DocumentError& error) {
-    throw FileError(ShownName(name) + ":" + PlacedError(open.Text().utf8, error).what());
+    throw FileError(ShownName(name) + ":" + WordsOf(PlacedIn(open.Text(), error)));
   }
 }
 
 std::string FindingText(const XmlOptions& options, const std::string& file, TextPlace place,
                         const DocumentFinding& finding) {
-  const std::string code(CodeOf(finding.message));
+  const std::string code(CodeOf(finding.what.message));
   if (!options.json) {
     return ShownName(file) + ":" + std::to_string(place.line) + ":" + std::to_string(place.column) + ": " +
-           code + ": " + OnOneLine(finding.Text()) + "\n";
+           code + ": " + OnOneLine(WordsOf(finding.what)) + "\n";
   }
   return JsonLine({{"file", file},
                    {"line", place.line},
                    {"column", place.column},
                    {"code", code},
-                   {"message", finding.Text()}});
+                   {"message", WordsOf(finding.what)}});
 }
 
 void CheckFile(const XmlOptions& options, const std::string& file, Outcome& outcome) {
-  const OpenDocument open(file);
+  const FileDocument open(file);
   const auto report = [&](TextPlace place, const DocumentFinding& finding) {
     AddOutput(outcome, FindingText(options, file, place, finding));
   };
   if (ReportFindings(file, open, report) > 0)
     outcome.answer = std::max(outcome.answer, Answer::No);
   else if (!options.json)
-    AddOutput(outcome, ShownName(file) + ": " + MessageText(DocumentMessage::Survives) + "\n");
+    AddOutput(outcome, ShownName(file) + ": " +
+                           Text("the document survives the suite, apart from the white space between tags, "
+                                "which the suite lays out anew") +
+                           "\n");
 }
 
 // Streams what the suite saves to a file or to standard output; on a terminal without control characters.
@@ -92,11 +97,12 @@ class SavedDocument final : public ravo::ByteStream {
 
 // Whether the suite keeps a document; reports why not.
 bool Survives(const XmlOptions& options, const std::string& bytes, Outcome& outcome) {
-  const OpenDocument open(options.file, bytes);
+  const FileDocument open(options.file, bytes);
   std::string first;
   const auto keep_first = [&first](TextPlace place, const DocumentFinding& finding) {
     if (!first.empty()) return;
-    first = ":" + std::to_string(place.line) + ":" + std::to_string(place.column) + ": " + finding.Text();
+    first =
+        ":" + std::to_string(place.line) + ":" + std::to_string(place.column) + ": " + WordsOf(finding.what);
   };
   const std::size_t count = ReportFindings(options.file, open, keep_first);
   if (count == 0) return true;

@@ -1,5 +1,6 @@
 #include "commands.h"
 #include "document_file.h"
+#include "document_words.h"
 #include "printable.h"
 #include "text.h"
 #include "xml_work.h"
@@ -11,9 +12,12 @@
 namespace tool {
 namespace {
 
+using ravo::document::Message;
+using ravo::document::PathError;
+
 Answer AnswerTo(const PathError& error) {
   const bool is_missing =
-      error.Message() == DocumentMessage::NothingThere || error.Message() == DocumentMessage::NothingThereAdd;
+      error.What().message == Message::NothingThere || error.What().message == Message::NothingThereAdd;
   return is_missing ? Answer::No : Answer::WrongUsage;
 }
 
@@ -23,7 +27,7 @@ void Guarded(XmlWork* work, const XmlOptions& options, Outcome& outcome) {
     work(options, outcome);
     return;
   } catch (const PathError& error) {
-    Complain(outcome, ShownName(options.file) + ": " + OnOneLine(error.what()), AnswerTo(error));
+    Complain(outcome, ShownName(options.file) + ": " + OnOneLine(WordsOf(error.What())), AnswerTo(error));
   } catch (const FileError& error) {
     Complain(outcome, OnOneLine(error.what()), Answer::WrongUsage);
   } catch (const ravo::Error& error) {
@@ -129,7 +133,7 @@ class XmlCommands {
 
   void AddOut(CLI::App& command) {
     const auto named = [](const std::string& name) {
-      return name.empty() ? MessageText(DocumentMessage::NoName) : std::string();
+      return name.empty() ? Text("the name of the output file is empty") : std::string();
     };
     command.add_option("-o", options_->out, Text("Write to this file"))
         ->type_name(Text("FILE"))

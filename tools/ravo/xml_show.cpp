@@ -1,19 +1,20 @@
 #include "console.h"
 #include "document_file.h"
-#include "document_path.h"
-#include "document_places.h"
-#include "document_reading.h"
 #include "json_text.h"
-#include "xml_file.h"
+#include "text.h"
 #include "xml_tree_text.h"
 #include "xml_work.h"
 #include <ravo/RavoInterface.h>
+#include <ravo/document/edit.h>
+#include <ravo/document/suite.h>
 
 #include <map>
 #include <utility>
 
 namespace tool {
 namespace {
+
+using namespace ravo::document;
 
 using ravo::ECXMLParser::TECXMLParser;
 
@@ -25,7 +26,7 @@ DocumentReading ReadSuite(const XmlOptions& options) {
     throw FileError(ShownName(options.file) + ": " + error.what());
   }
   if (parser.Root()->Name().empty() && parser.Root()->SubItemCount() == 0) {
-    throw FileError(ShownName(options.file) + ": " + MessageText(DocumentMessage::LoadsNothing));
+    throw FileError(ShownName(options.file) + ": " + Text("the suite loads nothing of this document"));
   }
   return ReadBySuite(*parser.Root());
 }
@@ -87,10 +88,10 @@ void ShowReading(const XmlOptions& options, const DocumentReading& reading, cons
 
 std::string SuiteValue(const DocumentReading& reading, const DocumentPath& path) {
   const auto element = FindInReading(reading, path);
-  if (!element) throw PathError(DocumentMessage::NothingThere, {path.text});
+  if (!element) throw PathError(Message::NothingThere, {path.text});
   if (path.attribute.empty()) return reading[*element].text;
   const auto attribute = FindAttribute(reading[*element], path.attribute);
-  if (!attribute) throw PathError(DocumentMessage::NothingThere, {path.text});
+  if (!attribute) throw PathError(Message::NothingThere, {path.text});
   return reading[*element].attributes[*attribute].second;
 }
 
@@ -118,14 +119,14 @@ void ShowValue(const XmlOptions& options, const std::string& value, const TextPl
 
 void ShowXml(const XmlOptions& options, Outcome& outcome) {
   if (options.suite) return ShowReading(options, ReadSuite(options), nullptr, outcome);
-  const OpenDocument open(options.file);
+  const FileDocument open(options.file);
   ShowReading(options, ReadByScanner(open.Document()), &open.Text().utf8, outcome);
 }
 
 void GetXml(const XmlOptions& options, Outcome& outcome) {
   const DocumentPath path = ParsePath(options.path);
   if (options.suite) return ShowValue(options, SuiteValue(ReadSuite(options), path), nullptr, outcome);
-  const OpenDocument open(options.file);
+  const FileDocument open(options.file);
   const DocumentPlace place = PathFinder(open.Document()).FindWhole(path);
   const std::string value = ValueAt(open.Document(), place, options.edit.is_raw);
   const TextPlace where = PlaceFinder(open.Text().utf8).Find(PositionAt(open.Document(), place));

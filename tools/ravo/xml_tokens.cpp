@@ -1,14 +1,15 @@
 #include "document_file.h"
-#include "document_places.h"
 #include "json_text.h"
 #include "printable.h"
-#include "xml_file.h"
 #include "xml_work.h"
 #include <ravo/ECXMLTokenizer.h>
 #include <ravo/RavoInterface.h>
+#include <ravo/document/suite.h>
 
 namespace tool {
 namespace {
+
+using namespace ravo::document;
 
 const char* SuiteKind(std::uint8_t kind) {
   using namespace ravo::ECXMLTokenizer;
@@ -59,7 +60,7 @@ void ListSuiteTokens(const XmlOptions& options, Outcome& outcome) {
 
 void ListXmlTokens(const XmlOptions& options, Outcome& outcome) {
   if (options.suite) return ListSuiteTokens(options, outcome);
-  const OpenDocument open(options.file);
+  const FileDocument open(options.file);
   PlaceFinder places(open.Text().utf8);
   for (const DocumentPart& part : open.Document().parts) {
     const auto [line, column] = places.Find(part.whole.begin);

@@ -8,6 +8,8 @@
 namespace tool {
 namespace {
 
+using ravo::document::ReadElement;
+
 // Tabs and line ends of a text are layout: each is a blank, and none is left at the edges.
 std::string WithoutLayout(std::string_view text) {
   std::string line;

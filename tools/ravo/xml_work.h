@@ -1,7 +1,7 @@
 #pragma once
 
-#include "document_edit.h"
 #include "outcome.h"
+#include <ravo/document/edit.h>
 
 #include <string>
 #include <string_view>
@@ -17,7 +17,7 @@ struct XmlOptions {
   std::string path;
   std::vector<std::string> changes;  ///< paths, each with its value after it
   std::string out;
-  EditOptions edit;
+  ravo::document::EditOptions edit;
   bool colour = false;
   bool json = false;
   bool suite = false;

@@ -12,7 +12,7 @@ namespace ravo {
 namespace {
 
 template <class Check>
-void ForEveryUnit(Check check) {
+void ForEachOfUnits(Check check) {
   for (unsigned unit = 0; unit < test::kUnits; ++unit) check(static_cast<char16_t>(unit));
   test::Tried("code_units", test::kUnits);
 }
@@ -25,7 +25,7 @@ std::string CategoryName(char16_t unit) {
 TEST(CharactersAsIcu, SameVersionOfUnicode) { EXPECT_STREQ(U_UNICODE_VERSION, "15.0"); }
 
 TEST(CharactersAsIcu, Categories) {
-  ForEveryUnit([](char16_t unit) {
+  ForEachOfUnits([](char16_t unit) {
     const std::string category = CategoryName(unit);
     for (const test::CategoryTest& row : test::kCategoryTests) {
       const bool wanted = !category.empty() && category.starts_with(row.category);
@@ -35,7 +35,7 @@ TEST(CharactersAsIcu, Categories) {
 }
 
 TEST(CharactersAsIcu, CaseAndClass) {
-  ForEveryUnit([](char16_t unit) {
+  ForEachOfUnits([](char16_t unit) {
     ASSERT_EQ(DIUnicode::CharToUpperW(unit), u_toupper(unit)) << unsigned{unit};
     ASSERT_EQ(DIUnicode::CharToLowerW(unit), u_tolower(unit)) << unsigned{unit};
     ASSERT_EQ(DIUnicode::CharToTitleW(unit), u_totitle(unit)) << unsigned{unit};
@@ -47,7 +47,7 @@ TEST(CharactersAsIcu, CaseAndClass) {
 
 // ICU decomposes Hangul with the same function; the library has a separate one.
 void ExpectDecompositions(const icu::Normalizer2& normalizer, std::u16string (*function)(char16_t)) {
-  ForEveryUnit([&](char16_t unit) {
+  ForEachOfUnits([&](char16_t unit) {
     if (U16_IS_SURROGATE(unit)) return;
     UErrorCode error = U_ZERO_ERROR;
     const icu::UnicodeString whole = normalizer.normalize(icu::UnicodeString(unit), error);

@@ -233,6 +233,17 @@ class ConvertPolicy(IntEnum):
     REPLACE = 1  # it becomes U+FFFD, or "?" if the encoding lacks that
 
 
+class SuiteTokenKind(IntEnum):
+    """Kinds of tokens."""
+
+    COMMENT = 6
+    HEADER = 8  # <? ... ?>
+    TEXT = 9  # text between tags, or a CDATA section
+    OPEN_TAG = 10
+    CLOSE_TAG = 11
+    STAND_ALONE_TAG = 12
+
+
 class Account(NamedTuple):
     """A Czech bank account."""
 
