@@ -16,6 +16,12 @@ HERE = pathlib.Path(__file__).resolve().parent
 NATIVE = HERE / "native" if (HERE / "native").exists() else HERE.parents[1]
 
 
+def processors() -> int:
+    """How many compilers run at once: as many as this process may use; RAVO_JOBS says another number."""
+    own = len(os.sched_getaffinity(0)) if hasattr(os, "sched_getaffinity") else os.cpu_count() or 1
+    return int(os.environ.get("RAVO_JOBS") or own)
+
+
 def version() -> str:
     found = re.search(r"project\(RavoInterface VERSION ([0-9.]+)", (NATIVE / "CMakeLists.txt").read_text())
     assert found, "CMakeLists.txt has no version"

@@ -28,7 +28,7 @@ BY_HAND = {"ravo_check", "ravo_kind_name", "ravo_kind_of", "ravo_payment_find", 
 LOCALS = {"module", "outcome", "self", "arguments", "count", "status"}
 HAND_ROLES = {"items", "context"}
 # Handles that Python holds as capsules, which close them; other ones never leave a function.
-HANDLES = ("ravo_random",)
+HANDLES = ("ravo_random", "ravo_document", "ravo_suite_tree")
 # Functions whose failures have a place in bytes.
 PLACES_IN_BYTES = {"ravo_document_open"}
 # Structs of functions that are written by hand.
@@ -38,7 +38,7 @@ HAND_RECORDS = ["ravo_bank", "ravo_payment", "ravo_vat_summary", "ravo_invoice_h
 CODES = {"ravo_spayd": "Payment", "ravo_sid": "Invoice"}
 CODE_KEYS = ROOT / "ravo" / "czech" / "payment_code_keys.inc"
 NO_ENUMS = {"ravo_status", "ravo_kind", "ravo_layout"}
-LONE_ENUMS = {"RAVO_SUITE_ROUND_": "SuiteRounding"}
+LONE_ENUMS = {"RAVO_SUITE_ROUND_": "SuiteRounding", "RAVO_DOCUMENT_": "DocumentFlags"}
 NUMBERS = {
     "int32_t": ("int32_t", "INT32_MIN", "INT32_MAX"), "int64_t": ("int64_t", "INT64_MIN", "INT64_MAX"), "int8_t": ("int8_t", "INT8_MIN", "INT8_MAX"),
     "uint8_t": ("uint8_t", "0", "UINT8_MAX"), "uint32_t": ("uint32_t", "0", "UINT32_MAX"), "size_t": ("size_t", "0", "PTRDIFF_MAX"),
@@ -461,7 +461,7 @@ def records_py(interface: Interface) -> str:
         lines += [f"\n\nclass {enumeration.name}(IntEnum):", f'    """{sentence(enumeration.words)}"""\n']
         lines += [f"    {name} = {number}{'  # ' + words if words else ''}" for name, _, number, words in enumeration.members]
     for record in interface.records.values():
-        lines += [f"\n\nclass {record.name}(NamedTuple):", f'    """{sentence(record.words.split(". ")[0])}"""\n']
+        lines += [f"\n\nclass {record.name}(NamedTuple):", f'    """{sentence(spoken(record.words.split(". ")[0]))}"""\n']
         for field in record.fields:
             kind = python_type(field.type, interface, field.words, field.form) + (" | None" if field.null or field.form == "reason" else "")
             words = spoken(field.words)
@@ -474,6 +474,7 @@ def spoken(words: str) -> str:
     words = re.sub(r"^1 (if|to) (.*), else 0", r"\2" if words.startswith("1 if") else r"true to \2", words)
     words = words.replace("UTF-8, ", "").replace(", UTF-8", "").replace("UTF-8", "").replace(", ends with NUL", "").replace("null if", "None if")
     words = words.replace(", for ravo_reason_sentence; 0", "; None").replace("ravo_invoice_rule_sentence", "isdoc.sentence")
+    words = words.replace("ravo_document_check", "xml.Document.check")
     return re.sub(r"\bravo_(\w+)_write\b", r"\1", words)
 
 

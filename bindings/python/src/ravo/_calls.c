@@ -149,7 +149,8 @@ static PyObject* MachineReport(PyObject* self, PyObject* object) {
   report.length = 65536;
   while (status == RAVO_BUFFER && GrowText(&report)) {
     Py_BEGIN_ALLOW_THREADS;
-    status = ravo_machine_report((ravo_machine_layer)layer, report.bytes, report.size, &report.length, &error);
+    status =
+        ravo_machine_report((ravo_machine_layer)layer, report.bytes, report.size, &report.length, &error);
     Py_END_ALLOW_THREADS;
   }
   PyObject* answer = status == RAVO_OK  ? CloseText(&report)

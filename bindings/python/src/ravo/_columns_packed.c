@@ -32,9 +32,7 @@ static PyObject* ClosePacked(packed* to, int done) {
   return NULL;
 }
 
-static void PutMissing(packed* to, size_t row) {
-  BytesOf(to->validity)[row / 8] &= (char)~(1U << row % 8);
-}
+static void PutMissing(packed* to, size_t row) { BytesOf(to->validity)[row / 8] &= (char)~(1U << row % 8); }
 
 static int PutBytes(packed* to, const char* bytes, size_t length) {
   if (to->used + length > (size_t)PyByteArray_Size(to->data) &&
@@ -201,8 +199,7 @@ PyObject* ArrowOf(PyObject* self, PyObject* const* arguments, Py_ssize_t count) 
     taken = TakeBytes(PyTuple_GetItem(arguments[3], i), &kept->parts[i]);
     kept->buffers[i] = kept->parts[i].view.buf;
   }
-  if (taken)
-    return MakeTuple((PyObject*[]){SchemaOf(format), ArrayOf(kept, rows, nulls, buffers)}, 2);
+  if (taken) return MakeTuple((PyObject*[]){SchemaOf(format), ArrayOf(kept, rows, nulls, buffers)}, 2);
   ReleaseKept(kept);
   return NULL;
 }

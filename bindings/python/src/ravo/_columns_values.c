@@ -119,10 +119,12 @@ static size_t NeededValues(const ravo_column* column) {
 static int TakePacked(PyObject* tuple, column_in* in) {
   ravo_column* column = &in->arrow.column;
   long long layout = 0, width = 0, rows = 0;
-  if (!TakeNumber(PyTuple_GetItem(tuple, 0), "layout", RAVO_LAYOUT_OFFSETS_64, RAVO_LAYOUT_NUMBERS, &layout) ||
+  if (!TakeNumber(PyTuple_GetItem(tuple, 0), "layout", RAVO_LAYOUT_OFFSETS_64, RAVO_LAYOUT_NUMBERS,
+                  &layout) ||
       !TakeNumber(PyTuple_GetItem(tuple, 1), "width", 0, INT32_MAX, &width) ||
       !TakeNumber(PyTuple_GetItem(tuple, 2), "rows", 0, PTRDIFF_MAX / INT32_MAX, &rows) ||
-      !TakePart(tuple, 3, &in->values) || !TakePart(tuple, 4, &in->data) || !TakePart(tuple, 5, &in->validity))
+      !TakePart(tuple, 3, &in->values) || !TakePart(tuple, 4, &in->data) ||
+      !TakePart(tuple, 5, &in->validity))
     return 0;
   column->layout = (ravo_layout)layout;
   column->width = (int32_t)width;
@@ -162,9 +164,7 @@ typedef struct made_values {
   size_t rows, used, wrong, nulls;
 } made_values;
 
-static int Grow(PyObject* array, size_t size) {
-  return PyByteArray_Resize(array, (Py_ssize_t)size) == 0;
-}
+static int Grow(PyObject* array, size_t size) { return PyByteArray_Resize(array, (Py_ssize_t)size) == 0; }
 
 static size_t SizeOf(PyObject* array) { return (size_t)PyByteArray_Size(array); }
 
@@ -208,8 +208,10 @@ static ravo_status MakeTexts(made_values* made, const ravo_column* column, ravo_
 }
 
 static int RefuseColumn(PyObject* self, const made_values* made, const ravo_error* error) {
-  if (error->status == RAVO_ARGUMENT) PyErr_SetString(PyExc_TypeError, error->message);
-  else RaiseAt(PyModule_GetState(self), error, PyLong_FromSize_t(made->rows + error->position));
+  if (error->status == RAVO_ARGUMENT)
+    PyErr_SetString(PyExc_TypeError, error->message);
+  else
+    RaiseAt(PyModule_GetState(self), error, PyLong_FromSize_t(made->rows + error->position));
   return 0;
 }
 
@@ -254,7 +256,8 @@ PyObject* ColumnValues(PyObject* self, PyObject* const* arguments, Py_ssize_t co
   made_values made = {NULL, {0}, NULL, NULL, NULL, 0, 0, 0, 0};
   PyObject* answer = NULL;
   if (!TakeCount("column_values", count, 3) || (made.of = ProductOf(arguments[0])) == NULL ||
-      !PyTuple_Check(arguments[1]) || !TakeOptions(arguments[1], made.options) || !PyTuple_Check(arguments[2])) {
+      !PyTuple_Check(arguments[1]) || !TakeOptions(arguments[1], made.options) ||
+      !PyTuple_Check(arguments[2])) {
     if (!PyErr_Occurred()) ExpectedType("tuple", arguments[2]);
     return NULL;
   }

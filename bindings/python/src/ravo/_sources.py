@@ -4,6 +4,7 @@ from __future__ import annotations
 import sys
 
 from . import _ravo
+from ._answers import NULL
 
 TYPE_CHECKING = False
 if TYPE_CHECKING:
@@ -23,8 +24,6 @@ if TYPE_CHECKING:
         def column(self) -> Described: ...
 
 ROWS_OF_A_THREAD = 250_000
-NULL = 65535
-NOT_UTF8 = 65534
 UNDERSTOOD = ("list or tuple of str, numpy array (S, U, object), pandas Series (object, string, category), "
               "or an object with __arrow_c_array__ or __arrow_c_stream__")
 

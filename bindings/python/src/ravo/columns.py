@@ -141,8 +141,10 @@ def round_money(column: Any, step: Amount = "0.01", rounding: int = 0) -> Column
     >>> round_money(array("q", [123450]))[0]
     Decimal('12.35')
     """
+    from .records import Rounding
+
     values, _, _ = _ravo.pack_amounts((step,), ())
-    return _made("rounded", "l", _sources.amounts_of(column), int.from_bytes(values, sys.byteorder, signed=True), rounding)
+    return _made("rounded", "l", _sources.amounts_of(column), int.from_bytes(values, sys.byteorder, signed=True), Rounding(rounding))
 
 
 def parse_days(column: Any) -> Column[date]:
@@ -166,7 +168,9 @@ def format_days(column: Any, form: int = 1) -> Column[str]:
     >>> format_days(parse_days(["21. 11. 2026"]), form=0)[0]
     '2026-11-21'
     """
-    return _made("days written", "U", _sources.days_of(column), form)
+    from .records import DateForm
+
+    return _made("days written", "U", _sources.days_of(column), DateForm(form))
 
 
 def _policy(errors: str) -> int:
@@ -181,7 +185,7 @@ def decode(column: Any, encoding: str, errors: str = "strict") -> Column[str]:
 
     `errors` is "strict" or "replace". A row that cannot be decoded is wrong, with the reason "malformed".
 
-    >>> decode([b"k\xf9\xf2", None], "windows-1250").to_list()
+    >>> decode([b"k\\xf9\\xf2", None], "windows-1250").to_list()
     ['kůň', None]
     """
     return _made("converted", "U", _sources.columns_of(column), _ravo.encoding_find(encoding), _ravo.encoding_find("utf-8"), _policy(errors))
@@ -192,7 +196,7 @@ def encode(column: Any, encoding: str, errors: str = "strict") -> Column[bytes]:
 
     >>> encoded = encode(["kůň", "☃"], "cp852")
     >>> encoded[0], encoded.reason(1), encode(["☃"], "cp852", "replace")[0]
-    (b'k\x85\xe5', 'lacking', b'?')
+    (b'k\\x85\\xe5', 'lacking', b'?')
     """
     return _made("converted", "Z", _sources.columns_of(column), _ravo.encoding_find("utf-8"), _ravo.encoding_find(encoding), _policy(errors))
 
