@@ -81,7 +81,7 @@ def test_results_longer_than_their_guess() -> None:
 
 
 def test_conversion_refuses_by_rows() -> None:
-    made = columns.encode(["a", "☃", None, "ž"], "cp852")
+    made: columns.Column[Any] = columns.encode(["a", "☃", None, "ž"], "cp852")
     assert (made.to_list(), made.reasons(), made.wrong, made.nulls) == ([b"a", None, None, b"\xa7"], {"lacking": 1}, 1, 1)
     made = columns.decode([b"\xff", "ž".encode()], "utf-8")
     assert (made.to_list(), made.reason(0), made.rows()) == ([None, "ž"], "malformed", [0])
@@ -103,8 +103,7 @@ def test_amounts(amounts: list[Decimal | None], rounding: Rounding, step: str) -
     made = columns.round_money(amounts, step, rounding)
     assert made.to_list() == wanted and [str(amount) for amount in made] == [str(amount) for amount in wanted]
     memory = columns.round_money(thousandths, step, rounding)
-    assert memory.nulls == 0 and [value and None if value is None else value for value in memory.to_list()] == [
-        ravo.round_money("0") if amount is None else amount for amount in wanted]
+    assert memory.nulls == 0 and memory.to_list() == [ravo.round_money("0") if amount is None else amount for amount in wanted]
     assert list(memory.values) == list(made.values)
     assert columns.round_money(made, step, rounding).to_list() == wanted
 
@@ -193,7 +192,7 @@ pointer_of.argtypes = [ctypes.py_object, ctypes.c_char_p]
 
 def taken(column: columns.Column[Any]) -> tuple[arrow.Schema, arrow.Array]:
     """The structs, moved out of their capsules, as whoever imports them does."""
-    moved = []
+    moved: list[Any] = []
     for capsule, name, kind in zip(column.__arrow_c_array__(), (b"arrow_schema", b"arrow_array"), (arrow.Schema, arrow.Array)):
         place = kind.from_address(pointer_of(capsule, name))
         moved.append(kind.from_buffer_copy(place))
@@ -220,8 +219,10 @@ def test_arrays_of_arrow_live_until_they_are_released() -> None:
 
 
 def test_arrow_of_numbers() -> None:
-    for column, form, buffers in ((columns.parse_days(["1.1.1970"]), b"tdD", 2), (columns.round_money(["1"]), b"l", 2), (columns.tables(["x"]), b"i", 2),
-                                  (columns.crc32(["x"]), b"I", 2), (columns.encode(["x"], "cp852"), b"Z", 3)):
+    made_columns: list[tuple[columns.Column[Any], bytes, int]] = [(columns.parse_days(["1.1.1970"]), b"tdD", 2), (columns.round_money(["1"]), b"l", 2), (columns.tables(["x"]), b"i", 2),
+                                                                      
+                                  (columns.crc32(["x"]), b"I", 2), (columns.encode(["x"], "cp852"), b"Z", 3)]
+    for column, form, buffers in made_columns:
         schema, made = taken(column)
         assert (schema.format, made.n_buffers, made.length) == (form, buffers, 1)
         for one_struct in (schema, made):
@@ -234,14 +235,15 @@ def refusal(call: Callable[[], object]) -> tuple[object, ...]:
         return "taken", call()
     except ravo.Error as error:
         return error.code, error.position
-    except TypeError:
-        return (TypeError,)
+    except TypeError as error:
+        return TypeError, "understood" in str(error)
 
 
 def test_broken_arrow_is_refused() -> None:
-    text, nested = arrow.offsets([b"a"]), arrow.Column("+l", 0, [None])
+    numbers, text, nested = arrow.Column("l", 1, [None, b"12345678"]), arrow.offsets([b"a"]), arrow.Column("+l", 0, [None])
     backwards = arrow.Column("u", 1, [None, b"\5\0\0\0\1\0\0\0", b"abcdef"])
-    assert refusal(lambda: columns.round_money(text)) == refusal(lambda: columns.format_days(nested)) == (TypeError,)
+    assert refusal(lambda: columns.round_money(text)) == refusal(lambda: columns.format_days(nested)) == (TypeError, True)
+    assert refusal(lambda: columns.canonical(numbers, "ico")) == refusal(lambda: columns.check(numbers, "ico")) == (TypeError, True)
     assert refusal(lambda: columns.crc32(arrow.Table([arrow.offsets([b"a", b"b"]), backwards]))) == ("range", 2)
 
 

@@ -67,9 +67,10 @@ def test_what_is_no_xml() -> None:
     with pytest.raises(ravo.Error) as raised:
         xml.open("<a>ž</b>".encode())
     assert raised.value.code == "wrong" and raised.value.position in range(3, 9) and "line" in str(raised.value)
-    for wrong in ("a", 1, None):
+    strangers: list[Any] = ["a", 1, None]
+    for wrong in strangers:
         with pytest.raises((TypeError, OSError)):
-            xml.open(wrong)  # type: ignore[arg-type]
+            xml.open(wrong)
     wrongs: list[tuple[Any, type[Exception]]] = [([("a",)], ValueError), ([("a", "b", "c")], ValueError), ([("a", 1)], TypeError), ({b"a": "b"}, TypeError)]
     for pairs, refusal in wrongs:
         with pytest.raises(refusal):

@@ -51,7 +51,10 @@ PyObject* CheckArrow(PyObject* self, PyObject* const* arguments, Py_ssize_t coun
   Py_BEGIN_ALLOW_THREADS;
   status = CheckRows(rows.kind, &arrow.column, 0, rows.codes, &sum, &error);
   Py_END_ALLOW_THREADS;
-  return EndRows(self, &rows, &sum, status, &error);
+  if (status != RAVO_ARGUMENT) return EndRows(self, &rows, &sum, status, &error);
+  PyBuffer_Release(&rows.room);
+  RefuseArrow(self, &error);
+  return NULL;
 }
 
 /* The entry of a row. */

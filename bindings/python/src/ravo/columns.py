@@ -81,8 +81,11 @@ def check(column: Any, kind: str, *, threads: int | None = None) -> ColumnCheck:
     return ColumnCheck(name, codes, sum(piece[1] for piece in pieces), sum(piece[2] for piece in pieces))
 
 
-def _made(name: str, format: str, columns: tuple[_sources.Described, ...], *options: int) -> Column[Any]:
-    codes, values, data, wrong, nulls = _ravo.column_values(name, options, columns)
+def _made(name: str, format: str, columns: tuple[_sources.Described, ...], *options: int, understood: str = _sources.UNDERSTOOD) -> Column[Any]:
+    try:
+        codes, values, data, wrong, nulls = _ravo.column_values(name, options, columns)
+    except TypeError as error:
+        raise TypeError(f"{error}; understood are: {understood}") from None
     return Column(format, memoryview(codes).cast("H"), wrong, nulls, values, data)
 
 
@@ -144,7 +147,8 @@ def round_money(column: Any, step: Amount = "0.01", rounding: int = 0) -> Column
     from .records import Rounding
 
     values, _, _ = _ravo.pack_amounts((step,), ())
-    return _made("rounded", "l", _sources.amounts_of(column), int.from_bytes(values, sys.byteorder, signed=True), Rounding(rounding))
+    return _made("rounded", "l", _sources.amounts_of(column), int.from_bytes(values, sys.byteorder, signed=True), Rounding(rounding),
+                 understood=_sources.UNDERSTOOD_AMOUNTS)
 
 
 def parse_days(column: Any) -> Column[date]:
@@ -170,14 +174,16 @@ def format_days(column: Any, form: int = 1) -> Column[str]:
     """
     from .records import DateForm
 
-    return _made("days written", "U", _sources.days_of(column), DateForm(form))
+    return _made("days written", "U", _sources.days_of(column), DateForm(form), understood=_sources.UNDERSTOOD_DAYS)
 
 
-def _policy(errors: str) -> int:
+def _converted(format: str, column: Any, source: str, target: str, errors: str) -> Column[Any]:
     policy = {"strict": _ravo.CONVERT_STRICT, "replace": _ravo.CONVERT_REPLACE}.get(errors)
     if policy is None:
         raise ValueError(f"errors is strict or replace, not {errors!r}")
-    return policy
+    pair = _ravo.encoding_find(source), _ravo.encoding_find(target)
+    _ravo.convert(pair[0], b"", pair[1], policy)  # refuses what cannot be read or written
+    return _made("converted", format, _sources.columns_of(column), *pair, policy)
 
 
 def decode(column: Any, encoding: str, errors: str = "strict") -> Column[str]:
@@ -188,7 +194,7 @@ def decode(column: Any, encoding: str, errors: str = "strict") -> Column[str]:
     >>> decode([b"k\\xf9\\xf2", None], "windows-1250").to_list()
     ['kůň', None]
     """
-    return _made("converted", "U", _sources.columns_of(column), _ravo.encoding_find(encoding), _ravo.encoding_find("utf-8"), _policy(errors))
+    return _converted("U", column, encoding, "utf-8", errors)
 
 
 def encode(column: Any, encoding: str, errors: str = "strict") -> Column[bytes]:
@@ -198,7 +204,7 @@ def encode(column: Any, encoding: str, errors: str = "strict") -> Column[bytes]:
     >>> encoded[0], encoded.reason(1), encode(["☃"], "cp852", "replace")[0]
     (b'k\\x85\\xe5', 'lacking', b'?')
     """
-    return _made("converted", "Z", _sources.columns_of(column), _ravo.encoding_find("utf-8"), _ravo.encoding_find(encoding), _policy(errors))
+    return _converted("Z", column, "utf-8", encoding, errors)
 
 
 def crc32(column: Any) -> Column[int]:
