@@ -79,7 +79,8 @@ def test_what_is_no_xml() -> None:
 
 def test_files(tmp_path: pathlib.Path) -> None:
     (tmp_path / "účet.xml").write_bytes(SMALL)
-    for name in (tmp_path / "účet.xml", str(tmp_path / "účet.xml")):
+    names: list[Any] = [tmp_path / "účet.xml", str(tmp_path / "účet.xml")]
+    for name in names:
         assert xml.open(name).bytes() == SMALL
 
 
