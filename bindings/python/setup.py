@@ -16,6 +16,12 @@ HERE = pathlib.Path(__file__).resolve().parent
 NATIVE = HERE / "native" if (HERE / "native").exists() else HERE.parents[1]
 
 
+def processors() -> int:
+    """How many compilers run at once: as many as this process may use; RAVO_JOBS says another number."""
+    own = len(os.sched_getaffinity(0)) if hasattr(os, "sched_getaffinity") else os.cpu_count() or 1
+    return int(os.environ.get("RAVO_JOBS") or own)
+
+
 def version() -> str:
     found = re.search(r"project\(RavoInterface VERSION ([0-9.]+)", (NATIVE / "CMakeLists.txt").read_text())
     assert found, "CMakeLists.txt has no version"
@@ -33,7 +39,7 @@ class BuildModule(build_ext):
         options = ["-DCMAKE_BUILD_TYPE=Release", "-DCMAKE_UNITY_BUILD=ON", "-DRAVO_BUILD_PYTHON=ON", "-DRAVO_BUILD_TOOLS=OFF", "-DRAVO_BUILD_TESTS=OFF",
                    "-DRAVO_INSTALL=OFF", "-DBUILD_SHARED_LIBS=OFF"]
         subprocess.run(["cmake", "-S", NATIVE, "-B", folder, "-Wno-dev", *options], check=True)
-        subprocess.run(["cmake", "--build", folder, "--target", "ravo_python_module", "--parallel"], check=True)
+        subprocess.run(["cmake", "--build", folder, "--target", "ravo_python_module", "--parallel", str(processors())], check=True)
         return folder / "python" / "ravo" / "_ravo.abi3.so"
 
 

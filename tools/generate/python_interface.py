@@ -26,7 +26,11 @@ NOTE = "Written by tools/generate/python_interface.py from c/ravo.h; not to be e
 BY_HAND = {"ravo_check", "ravo_kind_name", "ravo_kind_of", "ravo_payment_find", "ravo_crc32", "ravo_day_of", "ravo_date_of"}
 # Names that the calls have themselves.
 LOCALS = {"module", "outcome", "self", "arguments", "count", "status"}
-HAND_ROLES = {"handle", "open", "opened", "items", "context"}
+HAND_ROLES = {"items", "context"}
+# Handles that Python holds as capsules, which close them; other ones never leave a function.
+HANDLES = ("ravo_random", "ravo_document", "ravo_suite_tree")
+# Functions whose failures have a place in bytes.
+PLACES_IN_BYTES = {"ravo_document_open"}
 # Structs of functions that are written by hand.
 HAND_RECORDS = ["ravo_bank", "ravo_payment", "ravo_vat_summary", "ravo_invoice_head", "ravo_invoice_party", "ravo_invoice_line", "ravo_invoice_rate",
                 "ravo_invoice_totals", "ravo_invoice_payment", "ravo_invoice_finding"]
@@ -34,11 +38,12 @@ HAND_RECORDS = ["ravo_bank", "ravo_payment", "ravo_vat_summary", "ravo_invoice_h
 CODES = {"ravo_spayd": "Payment", "ravo_sid": "Invoice"}
 CODE_KEYS = ROOT / "ravo" / "czech" / "payment_code_keys.inc"
 NO_ENUMS = {"ravo_status", "ravo_kind", "ravo_layout"}
-LONE_ENUMS = {"RAVO_SUITE_ROUND_": "SuiteRounding"}
+LONE_ENUMS = {"RAVO_SUITE_ROUND_": "SuiteRounding", "RAVO_DOCUMENT_": "DocumentFlags"}
 NUMBERS = {
     "int32_t": ("int32_t", "INT32_MIN", "INT32_MAX"), "int64_t": ("int64_t", "INT64_MIN", "INT64_MAX"), "int8_t": ("int8_t", "INT8_MIN", "INT8_MAX"),
     "uint8_t": ("uint8_t", "0", "UINT8_MAX"), "uint32_t": ("uint32_t", "0", "UINT32_MAX"), "size_t": ("size_t", "0", "PTRDIFF_MAX"),
-    "ravo_encoding": ("ravo_encoding", "INT32_MIN", "INT32_MAX"),
+    "uint16_t": ("uint16_t", "0", "UINT16_MAX"), "ravo_encoding": ("ravo_encoding", "INT32_MIN", "INT32_MAX"),
+    "ravo_suite_item": ("ravo_suite_item", "0", "PTRDIFF_MAX"),
 }
 
 
@@ -132,7 +137,8 @@ class Interface:
 
     def is_regular(self, function: Function) -> bool:
         return function.name not in BY_HAND and function.result != "void" and not any(
-            one.role in HAND_ROLES or one.type in ("ravo_column", "ravo_answers", "ravo_progress", "ravo_bank_list") for one in function.parameters)
+            one.role in HAND_ROLES or one.type in ("ravo_column", "ravo_answers", "ravo_progress", "ravo_bank_list") or
+            one.role in ("handle", "open", "opened") and one.type not in HANDLES for one in function.parameters)
 
     def comment_of(self, declaration: str) -> str:
         found = re.search(r"/\*((?:(?!\*/).)*)\*/\s*" + declaration, self.text, re.DOTALL)
@@ -213,6 +219,8 @@ def taken(one: Parameter, interface: Interface, index: int) -> str:
         return f"TakeText({place}, &{one.name})"
     if one.role == "bytes":
         return f"TakeBytes({place}, &{one.name})"
+    if one.role in ("handle", "open"):
+        return f'({one.name} = PyCapsule_GetPointer({place}, "{one.type}")) != NULL'
     if one.type in ("ravo_day", "ravo_money"):
         return f"Take{camel(one.type)}(module, {place}, &{one.name})"
     if one.type == "ravo_kind":
@@ -272,12 +280,12 @@ def record_code(record: Record, interface: Interface) -> str:
 
 
 def arguments_of(function: Function) -> list[Parameter]:
-    return [one for one in function.parameters if one.role in ("text", "bytes", "value")]
+    return [one for one in function.parameters if one.role in ("text", "bytes", "value", "handle", "open")]
 
 
 def results_of(function: Function) -> list[Parameter]:
     return [one for one in function.parameters
-            if one.role in ("buffer", "struct", "result") or one.role == "length" and not has_buffer(function, one)]
+            if one.role in ("buffer", "struct", "result", "opened") or one.role == "length" and not has_buffer(function, one)]
 
 
 def passed(one: Parameter, function: Function) -> str:
@@ -297,6 +305,8 @@ def passed(one: Parameter, function: Function) -> str:
         return "&" + ("buffer" if one.name == "length" else owner) + ".length" if has_buffer(function, one) else f"&{one.name}"
     if one.role == "error":
         return "&error"
+    if one.role in ("handle", "open"):
+        return one.name
     if one.role == "value":
         return f"({one.type}){one.name}_number" if is_number(one) else one.name
     return f"&{one.name}"
@@ -312,6 +322,8 @@ def declared(one: Parameter, interface: Interface) -> str:
         return f"  text_in {one.name} = {{NULL, 0}};"
     if one.role == "bytes":
         return f"  bytes_in {one.name} = {{0}};"
+    if one.role in ("handle", "open", "opened"):
+        return f"  {one.type} *{one.name} = NULL;"
     if one.role == "buffer":
         return f"  text_out {one.name};\n  OpenText(&{one.name});"
     if one.role == "struct":
@@ -324,6 +336,8 @@ def declared(one: Parameter, interface: Interface) -> str:
 def result_code(one: Parameter, function: Function, interface: Interface) -> str:
     if one.role == "buffer":
         return f"{'CloseText' if one.type == 'char' else 'CloseBytes'}(&{one.name})"
+    if one.role == "opened":
+        return f"make_{one.type}({one.name})"
     if one.name == "answer":
         return f"PyBool_FromLong({one.name})"
     return made(one.type, one.name, interface)
@@ -351,7 +365,9 @@ def function_code(function: Function, interface: Interface) -> str:
         place = f"&{texts[0].name}" if len(texts) == 1 else "NULL"
         makes = [result_code(one, function, interface) for one in results]
         answer = makes[0] if len(makes) == 1 else f"MakeTuple((PyObject *[]){{{', '.join(makes)}}}, {len(makes)})"
-        lines += [f"    outcome = status == RAVO_OK ? {answer} : Raise(module, &error, {place});"]
+        answer = answer if makes else "Py_NewRef(Py_None)"
+        failed = "RaiseAt(module, &error, PyLong_FromSize_t(error.position))" if function.name in PLACES_IN_BYTES else f"Raise(module, &error, {place})"
+        lines += [f"    outcome = status == RAVO_OK ? {answer} : {failed};"]
     elif function.result.startswith("const char"):
         lines.append(f"    outcome = MakeText({call});")
     elif answers_flag(function, interface.comments[function.name]):
@@ -362,6 +378,13 @@ def function_code(function: Function, interface: Interface) -> str:
     lines += [f"  ReleaseBytes(&{one.name});" for one in arguments if one.role == "bytes"]
     lines += [f"  FreeText(&{one.name});" for one in results if one.role == "buffer"]
     return "\n".join([*lines, "  return outcome;", "}"])
+
+
+def holder(handle: str) -> str:
+    """The functions that put a handle into a capsule, and that close it."""
+    return (f'static void close_{handle}(PyObject *capsule) {{ {handle}_close(PyCapsule_GetPointer(capsule, "{handle}")); }}\n\n'
+            f'static PyObject *make_{handle}({handle} *opened) {{\n  PyObject *capsule = PyCapsule_New(opened, "{handle}", close_{handle});\n'
+            f"  if (capsule == NULL) {handle}_close(opened);\n  return capsule;\n}}")
 
 
 def kind_names() -> list[tuple[str, str]]:
@@ -384,8 +407,9 @@ def functions_inc(interface: Interface) -> str:
                      f'{article(doc_of(one, interface))}"}},' for one in interface.functions)
     records = "\n\n".join(record_code(one, interface) for one in interface.records.values())
     calls = "\n\n".join(function_code(one, interface) for one in interface.functions)
+    holders = "\n\n".join(holder(handle) for handle in HANDLES)
     checks = "\n".join(f'CHECK_KIND({name}, {index}, "{title}")' for index, (name, title) in enumerate(kind_names(), 1))
-    return (f"/* {NOTE} */\n#include \"_records.inc\"\n\n#if defined(RAVO_TABLE_OF_CHECKS)\n{checks}\n#else\n\n{records}\n\n{calls}\n\n"
+    return (f"/* {NOTE} */\n#include \"_records.inc\"\n\n#if defined(RAVO_TABLE_OF_CHECKS)\n{checks}\n#else\n\n{holders}\n\n{records}\n\n{calls}\n\n"
             f"static PyMethodDef generated_functions[] = {{\n{rows}\n    {{NULL, NULL, 0, NULL}}}};\n#endif\n")
 
 
@@ -437,7 +461,7 @@ def records_py(interface: Interface) -> str:
         lines += [f"\n\nclass {enumeration.name}(IntEnum):", f'    """{sentence(enumeration.words)}"""\n']
         lines += [f"    {name} = {number}{'  # ' + words if words else ''}" for name, _, number, words in enumeration.members]
     for record in interface.records.values():
-        lines += [f"\n\nclass {record.name}(NamedTuple):", f'    """{sentence(record.words.split(". ")[0])}"""\n']
+        lines += [f"\n\nclass {record.name}(NamedTuple):", f'    """{sentence(spoken(record.words.split(". ")[0]))}"""\n']
         for field in record.fields:
             kind = python_type(field.type, interface, field.words, field.form) + (" | None" if field.null or field.form == "reason" else "")
             words = spoken(field.words)
@@ -450,6 +474,7 @@ def spoken(words: str) -> str:
     words = re.sub(r"^1 (if|to) (.*), else 0", r"\2" if words.startswith("1 if") else r"true to \2", words)
     words = words.replace("UTF-8, ", "").replace(", UTF-8", "").replace("UTF-8", "").replace(", ends with NUL", "").replace("null if", "None if")
     words = words.replace(", for ravo_reason_sentence; 0", "; None").replace("ravo_invoice_rule_sentence", "isdoc.sentence")
+    words = words.replace("ravo_document_check", "xml.Document.check")
     return re.sub(r"\bravo_(\w+)_write\b", r"\1", words)
 
 
@@ -487,7 +512,7 @@ def codes_py(interface: Interface) -> str:
 def signature(function: Function, interface: Interface) -> str:
     parameters = []
     for one in arguments_of(function):
-        kind = {"text": "str", "bytes": "_Buffer"}.get(one.role) or python_type(one.type, interface, result=False)
+        kind = {"text": "str", "bytes": "_Buffer", "handle": "object", "open": "object"}.get(one.role) or python_type(one.type, interface, result=False)
         parameters.append(f"{one.name if one.name not in ('from',) else one.name + '_'}: {kind}")
     return ", ".join([*parameters, "/"] if parameters else [])
 
@@ -497,8 +522,10 @@ def returned(function: Function, interface: Interface) -> str:
         return "str" if function.name == "ravo_version" else "str | None"
     if function.result != "ravo_status":
         return "bool" if answers_flag(function, interface.comments[function.name]) else "int"
-    kinds = [("str" if one.type == "char" else "bytes") if one.role == "buffer" else "bool" if one.name == "answer" else python_type(one.type, interface)
-             for one in results_of(function)]
+    kinds = [("str" if one.type == "char" else "bytes") if one.role == "buffer" else "object" if one.role == "opened" else
+             "bool" if one.name == "answer" else python_type(one.type, interface) for one in results_of(function)]
+    if not kinds:
+        return "None"
     return kinds[0] if len(kinds) == 1 else f"tuple[{', '.join(kinds)}]"
 
 

@@ -182,3 +182,16 @@ def test_large_texts_fail_where_small_ones_do(place: int) -> None:
     assert data.decode("ravo_windows_1250", "replace") == bytes(data).decode("cp1250", "replace")
     whole = bytes(range(256)) * 600
     assert whole.decode("ravo_cp852").encode("ravo_cp852") == whole
+
+
+def test_detection() -> None:
+    text = "Příliš žluťoučký kůň úpěl ďábelské ódy. " * 3
+    for encoding, name in (("cp1250", "Windows_1250"), ("iso8859-2", "Iso_8859_2"), ("cp852", "CP_852"), ("utf-8", "UTF_8"), ("utf-16le", "UTF_16_LE")):
+        found = encodings.detect(text.encode(encoding))
+        assert (bool(found), found.is_sure, found.encoding.name) == (True, True, name)
+        assert found.candidates[0] == found.encoding and found.encoding == encodings.find(name)
+    assert encodings.detect("\ufeffa".encode()).evidence.name == "MARK" and encodings.detect(b"").evidence.name == "ASCII"
+    assert encodings.detect(text.encode("ravo_mac_latin2"), mac=True).encoding.name == "Mac_CentralEurope"
+    unsure = encodings.detect("řeč".encode("cp1250"))
+    assert not unsure and len(unsure.candidates) > 1 and unsure.candidates[0] == unsure.encoding
+    assert encodings.detect(memoryview(text.encode() * 100_000)).encoding.name == "UTF_8"

@@ -6,10 +6,13 @@ import os
 import pathlib
 import pickle
 import pkgutil
+import re
+import runpy
 import subprocess
 import sys
 import zlib
 from types import ModuleType
+from typing import Any
 
 import pytest
 import ravo
@@ -17,8 +20,6 @@ from hypothesis import given
 from hypothesis import strategies as some
 from ravo import _ravo, banks, captions, checksums, suite, tables, text
 
-# What the README says is to come.
-TO_COME = ("ravo_document_", "ravo_suite_tree_", "ravo_suite_item_", "ravo_suite_tokens", "ravo_random_", "ravo_machine_report")
 SELDOM = {"ravo.dask"}  # needs a package of its own
 MODULES = [importlib.import_module("ravo." + module.name) for module in pkgutil.iter_modules(ravo.__path__)
            if module.name != "_ravo" and "ravo." + module.name not in SELDOM] + [ravo]
@@ -53,12 +54,15 @@ def test_every_function_of_the_header_is_there(root: pathlib.Path) -> None:
         header = importlib.import_module("c_interface")
         names = {node.name for node in header.functions(header.parsed())}
         other = {"ravo_check": "check_of", "ravo_kind_name": "kinds", "ravo_kind_of": "check_of", "ravo_payment_find": "payments", "ravo_crc32": "crc32",
-                 "ravo_day_of": "", "ravo_date_of": "", "ravo_bank_find": "bank_list", "ravo_vat_recapitulate": "vat_recapitulate", "ravo_convert": "convert"}
+                 "ravo_day_of": "", "ravo_date_of": "", "ravo_bank_find": "bank_list", "ravo_vat_recapitulate": "vat_recapitulate", "ravo_convert": "convert",
+                 "ravo_document_set": "document_set", "ravo_document_close": "document_open", "ravo_document_write": "document_save",
+                 "ravo_suite_tree_close": "suite_tree_open", "ravo_suite_tokens": "suite_tokens", "ravo_random_close": "random_open",
+                 "ravo_random_open_array": "random_open_array", "ravo_machine_report": "machine_report"}
+        other |= {name: "column_values" for name in names if name.endswith("_column")}
+        other |= {"ravo_check_column": "check_arrow", "ravo_column_of_arrow": "check_arrow", "ravo_arrow_stream": "stream_next"}
         groups = {"ravo_bank_": "bank_list", "ravo_converter_": "Converter", "ravo_spayd_": "spayd", "ravo_sid_": "sid",
                   "ravo_payment_code_": "payment_code", "ravo_invoice_": "invoice"}
         for name in names - {one.name for one in interface.Interface().functions}:
-            if "column" in name or "arrow" in name or name.startswith(TO_COME):
-                continue
             mine = other.get(name, next((group for prefix, group in groups.items() if name.startswith(prefix)), None))
             assert mine is not None, f"{name} has no function in Python"
             assert not mine or hasattr(_ravo, mine)
@@ -66,8 +70,34 @@ def test_every_function_of_the_header_is_there(root: pathlib.Path) -> None:
         sys.path.pop(0)
 
 
+def test_every_call_has_a_home_or_a_reason(root: pathlib.Path) -> None:
+    """What no module of the package calls stands in the README, beside what Python has for it."""
+    sources = "".join(path.read_text() for path in (root / "bindings" / "python" / "src" / "ravo").glob("*.py"))
+    left_out = (root / "bindings" / "python" / "README.md").read_text().partition("## What is left out")[2]
+    told = set(re.findall(r"`ravo_(\w+)`", left_out))
+    calls = {name for name, call in vars(_ravo).items() if callable(call) and not name.startswith("__") and not isinstance(call, type)}
+    called = {name for name in calls if re.search(rf"_ravo\.{name}\b|from \._ravo import .*\b{name}\b", sources)}
+    assert calls - called == told & calls
+    assert not told & called, "what is left out is not called"
+
+
 def test_generated_files_are_those_of_the_header(root: pathlib.Path) -> None:
     subprocess.run([sys.executable, "-B", str(root / "tools" / "generate" / "python_interface.py"), "--check"], check=True)
+
+
+def test_a_source_build_runs_as_many_compilers_as_there_are_processors(root: pathlib.Path, monkeypatch: pytest.MonkeyPatch, tmp_path: pathlib.Path) -> None:
+    setuptools = pytest.importorskip("setuptools")
+    made: dict[str, Any] = {}
+    commands: list[list[Any]] = []
+    monkeypatch.setattr(setuptools, "setup", lambda **more: made.update(more))
+    monkeypatch.setattr(subprocess, "run", lambda command, **more: commands.append(command))
+    runpy.run_path(str(root / "bindings" / "python" / "setup.py"))
+    build = made["cmdclass"]["build_ext"](setuptools.Distribution())
+    build.build_temp = str(tmp_path)
+    for jobs, wanted in (("", len(os.sched_getaffinity(0))), ("3", 3)):
+        monkeypatch.setenv("RAVO_JOBS", jobs)
+        build.built_by_cmake()
+        assert commands[-1][-2:] == ["--parallel", str(wanted)]
 
 
 def test_import_needs_no_frames() -> None:

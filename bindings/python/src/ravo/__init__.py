@@ -19,7 +19,8 @@ from ._ravo import version as _version
 
 TYPE_CHECKING = False
 if TYPE_CHECKING:
-    from . import banks, captions, check, checksums, columns, days, encodings, holidays, isdoc, money, payments, suite, tables, text, vat
+    from . import banks, captions, check, checksums, columns, days, encodings, holidays, isdoc, money, order, payments, random, suite, tables, text, vat, xml
+    from ._report import report
     from ._validate import Finding, Findings, optional, validate
     from .money import round_money
 
@@ -27,9 +28,9 @@ __version__: str = _version()
 """The version of the library inside."""
 
 __all__ = ["Error", "Finding", "Findings", "banks", "build_info", "captions", "check", "checksums", "columns", "days", "encodings", "holidays",
-           "isdoc", "money", "optional", "payments", "round_money", "suite", "tables", "text", "validate", "vat"]
+           "isdoc", "money", "optional", "order", "payments", "random", "report", "round_money", "suite", "tables", "text", "validate", "vat", "xml"]
 
-_HOMES = {"Finding": "_validate", "Findings": "_validate", "optional": "_validate", "validate": "_validate", "round_money": "money"}
+_HOMES = {"Finding": "_validate", "Findings": "_validate", "optional": "_validate", "report": "_report", "validate": "_validate", "round_money": "money"}
 
 
 def __getattr__(name: str) -> object:

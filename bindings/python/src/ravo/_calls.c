@@ -137,6 +137,48 @@ static PyObject* VatRecapitulate(PyObject* self, PyObject* const* arguments, Py_
   return answer;
 }
 
+/* A report of another moment may be longer than the one before it. */
+static PyObject* MachineReport(PyObject* self, PyObject* object) {
+  ravo_module* module = PyModule_GetState(self);
+  long long layer = 0;
+  text_out report;
+  ravo_error error = RAVO_ERROR_INIT;
+  ravo_status status = RAVO_BUFFER;
+  if (!TakeNumber(object, "layer", INT32_MIN, INT32_MAX, &layer)) return NULL;
+  OpenText(&report);
+  report.length = 65536;
+  while (status == RAVO_BUFFER && GrowText(&report)) {
+    Py_BEGIN_ALLOW_THREADS;
+    status =
+        ravo_machine_report((ravo_machine_layer)layer, report.bytes, report.size, &report.length, &error);
+    Py_END_ALLOW_THREADS;
+  }
+  PyObject* answer = status == RAVO_OK  ? CloseText(&report)
+                     : PyErr_Occurred() ? NULL
+                                        : Raise(module, &error, NULL);
+  FreeText(&report);
+  return answer;
+}
+
+/* random_open_array(keys): of numbers of 32 bits */
+static PyObject* RandomOpenArray(PyObject* self, PyObject* object) {
+  const Py_ssize_t count = PySequence_Size(object);
+  uint32_t* keys = count < 0 ? NULL : PyMem_Calloc((size_t)count + 1, sizeof *keys);
+  ravo_random* random = NULL;
+  ravo_error error = RAVO_ERROR_INIT;
+  if (keys == NULL) return count < 0 ? NULL : PyErr_NoMemory();
+  for (Py_ssize_t i = 0; i < count && !PyErr_Occurred(); ++i) {
+    PyObject* key = PySequence_GetItem(object, i);
+    long long number = 0;
+    if (key != NULL && TakeNumber(key, "key", 0, UINT32_MAX, &number)) keys[i] = (uint32_t)number;
+    Py_XDECREF(key);
+  }
+  if (!PyErr_Occurred() && ravo_random_open_array(keys, (size_t)count, &random, &error) != RAVO_OK)
+    Raise(PyModule_GetState(self), &error, NULL);
+  PyMem_Free(keys);
+  return random == NULL ? NULL : make_ravo_random(random);
+}
+
 #define FAST(function) (PyCFunction)(void (*)(void))(function), METH_FASTCALL
 
 static PyMethodDef other_functions[] = {
@@ -147,6 +189,10 @@ static PyMethodDef other_functions[] = {
     {"crc32", FAST(Crc32), "crc32(bytes, crc, /)\n--\n\nReturns the CRC-32 of the bytes so far and these."},
     {"vat_recapitulate", FAST(VatRecapitulate),
      "vat_recapitulate(lines, method, per, day, /)\n--\n\nReturns a document's lines by the rates of a day."},
+    {"machine_report", MachineReport, METH_O,
+     "machine_report(layer, /)\n--\n\nReturns the suite's support report of this machine."},
+    {"random_open_array", RandomOpenArray, METH_O,
+     "random_open_array(keys, /)\n--\n\nReturns a generator by an array of keys."},
     {NULL, NULL, 0, NULL}};
 
 int AddCalls(PyObject* module) {

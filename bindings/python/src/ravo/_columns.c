@@ -110,6 +110,17 @@ static PyMethodDef column_functions[] = {
     {"find_codes", FAST(FindCodes),
      "find_codes(codes, passed, other, limit, /)\n--\n\nReturns rows with other codes, and the counts of "
      "codes."},
+    {"column_values", FAST(ColumnValues),
+     "column_values(name, options, columns, /)\n--\n\nReturns what columns become."},
+    {"validity_of", ValidityOf, METH_O, "validity_of(codes, /)\n--\n\nReturns a bit for each row."},
+    {"pack_texts", FAST(PackTexts),
+     "pack_texts(objects, missing, /)\n--\n\nReturns offsets, bytes and validity of texts."},
+    {"pack_amounts", FAST(PackAmounts),
+     "pack_amounts(objects, missing, /)\n--\n\nReturns numbers and validity of amounts."},
+    {"pack_days", FAST(PackDays),
+     "pack_days(objects, missing, /)\n--\n\nReturns numbers and validity of days."},
+    {"arrow_of", FAST(ArrowOf),
+     "arrow_of(format, rows, nulls, buffers, /)\n--\n\nReturns capsules of an array."},
     {NULL, NULL, 0, NULL}};
 
 int AddColumns(PyObject* module) { return PyModule_AddFunctions(module, column_functions); }

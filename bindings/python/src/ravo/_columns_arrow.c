@@ -1,12 +1,6 @@
 /* Columns and streams of Arrow, by capsules. */
 #include "_columns.h"
 
-/* An array of Arrow, or a field of a batch. The capsules keep it alive. */
-typedef struct arrow_in {
-  ravo_column column;
-  ravo_column dictionary;
-} arrow_in;
-
 static int RefuseArrow(PyObject* self, const ravo_error* error) {
   if (error->status != RAVO_ARGUMENT) return Raise(PyModule_GetState(self), error, NULL) != NULL;
   PyErr_Format(
@@ -17,8 +11,7 @@ static int RefuseArrow(PyObject* self, const ravo_error* error) {
   return 0;
 }
 
-/* (schema, array, field): capsules, and None or the name of the field. */
-static int TakeArrow(PyObject* self, PyObject* const* arguments, arrow_in* arrow) {
+int TakeArrow(PyObject* self, PyObject* const* arguments, arrow_in* arrow) {
   text_in field = {NULL, 0};
   ravo_error error = RAVO_ERROR_INIT;
   const struct ArrowSchema* schema = PyCapsule_GetPointer(arguments[0], "arrow_schema");
@@ -58,7 +51,10 @@ PyObject* CheckArrow(PyObject* self, PyObject* const* arguments, Py_ssize_t coun
   Py_BEGIN_ALLOW_THREADS;
   status = CheckRows(rows.kind, &arrow.column, 0, rows.codes, &sum, &error);
   Py_END_ALLOW_THREADS;
-  return EndRows(self, &rows, &sum, status, &error);
+  if (status != RAVO_ARGUMENT) return EndRows(self, &rows, &sum, status, &error);
+  PyBuffer_Release(&rows.room);
+  RefuseArrow(self, &error);
+  return NULL;
 }
 
 /* The entry of a row. */
@@ -122,19 +118,19 @@ PyObject* ArrowBytes(PyObject* self, PyObject* const* arguments, Py_ssize_t coun
 }
 
 /* Capsules that own what they have. */
-static void FreeSchema(PyObject* capsule) {
+void FreeSchema(PyObject* capsule) {
   struct ArrowSchema* schema = PyCapsule_GetPointer(capsule, "arrow_schema");
   if (schema->release != NULL) schema->release(schema);
   PyMem_Free(schema);
 }
 
-static void FreeArray(PyObject* capsule) {
+void FreeArray(PyObject* capsule) {
   struct ArrowArray* array = PyCapsule_GetPointer(capsule, "arrow_array");
   if (array->release != NULL) array->release(array);
   PyMem_Free(array);
 }
 
-static PyObject* MakeCapsule(void* memory, const char* name, PyCapsule_Destructor destroy) {
+PyObject* MakeCapsule(void* memory, const char* name, PyCapsule_Destructor destroy) {
   PyObject* capsule = memory == NULL ? PyErr_NoMemory() : PyCapsule_New(memory, name, destroy);
   if (capsule == NULL) PyMem_Free(memory);
   return capsule;

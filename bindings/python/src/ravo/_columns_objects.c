@@ -1,23 +1,14 @@
 /* Columns of objects: lists, tuples, arrays of objects. */
 #include "_columns.h"
 
-/* Objects of a list, a tuple, or memory full of pointers to objects. */
-typedef struct objects_in {
-  PyObject* sequence;
-  PyObject* missing; /* a tuple of what stands for no value, beside None and NaN */
-  bytes_in pointers;
-  size_t length;
-} objects_in;
-
-/* Borrowed; or null with an exception. */
-static PyObject* ObjectAt(const objects_in* objects, size_t row) {
+PyObject* ObjectAt(const objects_in* objects, size_t row) {
   if (PyList_Check(objects->sequence)) return PyList_GetItem(objects->sequence, (Py_ssize_t)row);
   if (PyTuple_Check(objects->sequence)) return PyTuple_GetItem(objects->sequence, (Py_ssize_t)row);
   PyObject* object = LOAD(PyObject*, objects->pointers.view.buf, row);
   return object == NULL ? Py_None : object;
 }
 
-static int TakeObjects(PyObject* sequence, PyObject* missing, objects_in* objects) {
+int TakeObjects(PyObject* sequence, PyObject* missing, objects_in* objects) {
   objects->sequence = sequence;
   objects->missing = missing;
   objects->pointers.view.obj = NULL;
@@ -44,7 +35,7 @@ typedef struct object_block {
   uint8_t validity[BLOCK_ROWS / 8];
 } object_block;
 
-static int IsMissing(const objects_in* objects, PyObject* object) {
+int IsMissing(const objects_in* objects, PyObject* object) {
   if (object == Py_None) return 1;
   if (PyFloat_Check(object)) {
     const double number = PyFloat_AsDouble(object);
@@ -55,8 +46,7 @@ static int IsMissing(const objects_in* objects, PyObject* object) {
   return 0;
 }
 
-/* 1 if the object is a text; -1 with an exception. A text that is not UTF-8 is one byte that no UTF-8 has. */
-static int TextOf(PyObject* object, const char** bytes, Py_ssize_t* length) {
+int TextOf(PyObject* object, const char** bytes, Py_ssize_t* length) {
   if (Py_TYPE(object) == &PyUnicode_Type || PyUnicode_Check(object)) {
     *bytes = PyUnicode_AsUTF8AndSize(object, length);
     if (*bytes != NULL) return 1;
@@ -73,7 +63,7 @@ static int TextOf(PyObject* object, const char** bytes, Py_ssize_t* length) {
   return failed == 0 ? 1 : -1;
 }
 
-static int RefuseObject(PyObject* object, size_t row) {
+int RefuseObject(PyObject* object, size_t row) {
   PyObject* name = PyType_GetName(Py_TYPE(object));
   if (name != NULL)
     PyErr_Format(PyExc_TypeError, "row %zu: expected str, bytes or no value, not %U", row, name);

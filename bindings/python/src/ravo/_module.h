@@ -99,5 +99,6 @@ int AddEncodings(PyObject* module);
 int AddColumns(PyObject* module);
 int AddCodes(PyObject* module);
 int AddInvoices(PyObject* module);
+int AddDocuments(PyObject* module);
 
 #endif

@@ -8,7 +8,8 @@ static int Execute(PyObject* module) {
   Py_XDECREF(errors);
   if (state->error == NULL) return -1;
   return AddChecks(module) != 0 || AddCalls(module) != 0 || AddEncodings(module) != 0 ||
-                 AddColumns(module) != 0 || AddCodes(module) != 0 || AddInvoices(module) != 0
+                 AddColumns(module) != 0 || AddCodes(module) != 0 || AddInvoices(module) != 0 ||
+                 AddDocuments(module) != 0
              ? -1
              : 0;
 }

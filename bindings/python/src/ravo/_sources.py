@@ -4,6 +4,7 @@ from __future__ import annotations
 import sys
 
 from . import _ravo
+from ._answers import NULL
 
 TYPE_CHECKING = False
 if TYPE_CHECKING:
@@ -20,13 +21,22 @@ if TYPE_CHECKING:
 
         def value(self, row: int) -> object: ...
 
+        def column(self) -> Described: ...
+
 ROWS_OF_A_THREAD = 250_000
-NULL = 65535
-NOT_UTF8 = 65534
 UNDERSTOOD = ("list or tuple of str, numpy array (S, U, object), pandas Series (object, string, category), "
               "or an object with __arrow_c_array__ or __arrow_c_stream__")
 
+# Numbers of layouts in ravo.h.
+OFFSETS_64, FIXED, NUMBERS = 2, 4, 7
+
+UNDERSTOOD_AMOUNTS = "int64 of ten-thousandths (Arrow, numpy, array, memoryview), or objects: Decimal, str, int"
+UNDERSTOOD_DAYS = "days since 1970 (Arrow date32 and int32, numpy int32 and datetime64), or objects: datetime.date"
+
 Counts = tuple[int, int]
+
+Described = tuple[object, ...]
+"""A column for ravo.h: (schema, array, field) of Arrow; or (layout, width, rows, values, data, validity)."""
 
 
 class Objects:
@@ -42,6 +52,9 @@ class Objects:
 
     def value(self, row: int) -> object:
         return self.values[row]
+
+    def column(self) -> Described:
+        return OFFSETS_64, 0, self.rows, *_ravo.pack_texts(self.memory, missing())
 
 
 class Fixed:
@@ -60,6 +73,11 @@ class Fixed:
     def value(self, row: int) -> object:
         return text_of(bytes(value)) if isinstance(value := self.values[row], bytes) else str(value)
 
+    def column(self) -> Described:
+        if self.call == _ravo.check_fixed:
+            return FIXED, self.width, self.rows, self.memory, None, None
+        return Objects(texts := list(map(str, self.values)), texts).column()
+
 
 class Empty:
     """Rows without a value."""
@@ -76,6 +94,9 @@ class Empty:
     def value(self, row: int) -> object:
         return None
 
+    def column(self) -> Described:
+        return Objects(nothing := [None] * self.rows, nothing).column()
+
 
 class Categories:
     """A categorical column of pandas: each category is checked once."""
@@ -85,6 +106,7 @@ class Categories:
     def __init__(self, values: Any) -> None:
         self.indices = values.codes
         self.entries = source_of(values.categories)
+        self.texts = values
         self.rows = len(self.indices)
 
     def check(self, kind: str, first: int, count: int, codes: memoryview) -> Counts:
@@ -101,6 +123,9 @@ class Categories:
     def value(self, row: int) -> object:
         return self.entries.value(self.indices[row])
 
+    def column(self) -> Described:
+        return Objects(texts := list(self.texts), texts).column()
+
 
 class Arrow:
     """An array of Arrow, or a field of a batch."""
@@ -116,6 +141,9 @@ class Arrow:
 
     def value(self, row: int) -> object:
         return text_of(_ravo.arrow_bytes(*self.parts, row))
+
+    def column(self) -> Described:
+        return self.parts
 
 
 def text_of(value: bytes) -> str | bytes:
@@ -138,8 +166,8 @@ def loaded(module: str, *names: str) -> tuple[type, ...]:
     return tuple(getattr(package, name) for name in names if hasattr(package, name))
 
 
-def refuse(column: object, why: str = "") -> TypeError:
-    return TypeError(f"a column of type {type(column).__qualname__}{why} is not understood; understood are: {UNDERSTOOD}")
+def refuse(column: object, why: str = "", understood: str = UNDERSTOOD) -> TypeError:
+    return TypeError(f"a column of type {type(column).__qualname__}{why} is not understood; understood are: {understood}")
 
 
 def of_series(column: Any) -> Source:
@@ -216,6 +244,58 @@ def sources_of(column: Any) -> Iterator[Source]:
         return
     for schema, array in arrays_of(column):
         yield Arrow(schema, array, None)
+
+
+def columns_of(column: Any) -> tuple[Described, ...]:
+    """The pieces of a column of texts."""
+    return tuple(source.column() for source in sources_of(column))
+
+
+def amounts_of(column: Any) -> tuple[Described, ...]:
+    """The pieces of a column of amounts: int64 in ten-thousandths where it is memory, objects as amounts are given."""
+    return numbers_of(column, 8, lambda objects: _ravo.pack_amounts(objects, missing()), UNDERSTOOD_AMOUNTS)
+
+
+def days_of(column: Any) -> tuple[Described, ...]:
+    """The pieces of a column of days: int32 since 1970 where it is memory, objects as datetime.date."""
+    array = column.to_numpy() if isinstance(column, loaded("pandas", "Series", "Index")) else column
+    if isinstance(array, loaded("numpy", "ndarray")) and array.dtype.kind == "M":
+        return (of_moments(array),)
+    return numbers_of(array, 4, lambda objects: _ravo.pack_days(objects, missing()), UNDERSTOOD_DAYS)
+
+
+def of_moments(array: Any) -> Described:
+    """Moments of numpy as days, each by its own date; a day that no 32 bits have is out of every range."""
+    numpy = sys.modules["numpy"]
+    days = array.astype("datetime64[D]").astype("int64")
+    limits = numpy.iinfo("int32")
+    validity = numpy.packbits(~numpy.isnat(array), bitorder="little").tobytes()
+    return NUMBERS, 4, len(array), days.clip(limits.min, limits.max).astype("int32").tobytes(), None, validity
+
+
+def numbers_of(column: Any, width: int, pack: Callable[[Any], tuple[bytearray, bytearray, bytearray]], understood: str) -> tuple[Described, ...]:
+    if is_arrow(column):
+        return tuple((schema, array, None) for schema, array in arrays_of(column))
+    if isinstance(column, loaded("pandas", "Series", "Index")):
+        column = column.to_numpy()
+    if isinstance(column, (list, tuple)):
+        values, _, validity = pack(column)
+        return ((NUMBERS, width, len(column), values, None, validity),)
+    try:
+        view = memoryview(column)
+    except (TypeError, ValueError, BufferError):
+        raise refuse(column, understood=understood) from None
+    if view.ndim != 1 or not is_signed(view.format, view.itemsize, width):
+        if view.ndim == 1 and form_of(view.format) == "O":
+            return numbers_of(list(column), width, pack, understood)
+        raise refuse(column, f" ({view.ndim} dimensions of format {view.format!r})", understood)
+    return ((NUMBERS, width, len(view), view if view.c_contiguous else view.tobytes(), None, None),)
+
+
+def is_signed(layout: str, size: int, width: int) -> bool:
+    """Whether the items of a buffer are signed numbers of a width in the machine's order."""
+    order = "@=" if sys.byteorder == "big" else "@=<"
+    return size == width and (layout[1:] if layout.startswith(tuple(order)) else layout) in ("i", "l", "q")
 
 
 def threads_for(rows: int) -> int:

@@ -5,7 +5,8 @@ from collections.abc import Callable, Iterator, Mapping, Sequence
 from typing import Any, NamedTuple, overload
 
 from . import _ravo, _sources
-from .columns import kind_of, reason_of
+from ._answers import NULL, reason_of
+from .columns import kind_of
 
 
 class Optional(str):
@@ -149,9 +150,9 @@ def check_column(order: int, name: str, source: _sources.Source, rule: str, limi
     codes, wrong, nulls = _sources.check_source(source, kind, threads)
     if wrong == 0 and (lenient or nulls == 0):
         return Wrong([], {})
-    passed = (_sources.NULL, empty_code(kind)) if lenient else (0, 0)
+    passed = (NULL, empty_code(kind)) if lenient else (0, 0)
     rows, counts = _ravo.find_codes(codes, *passed, limit)
-    return Wrong([(row, order, name, None if codes[row] == _sources.NULL else source.value(row), str(reason_of(codes[row]))) for row in rows],
+    return Wrong([(row, order, name, None if codes[row] == NULL else source.value(row), str(reason_of(codes[row]))) for row in rows],
                  {str(reason_of(code)): count for code, count in counts.items()})
 
 

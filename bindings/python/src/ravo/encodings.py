@@ -22,9 +22,10 @@ if TYPE_CHECKING:
     from collections.abc import Callable
     from typing import Any
 
+    from ._detected import Detected
     from .records import EncodingInfo
 
-__all__ = ["codec", "convert", "find", "known", "of_mark"]
+__all__ = ["codec", "convert", "detect", "find", "known", "of_mark"]
 
 _Bytes = bytes | bytearray | memoryview
 _UTF8 = _ravo.encoding_find("utf-8")
@@ -64,6 +65,24 @@ def of_mark(data: _Bytes) -> tuple[EncodingInfo, int] | None:
     except Error:
         return None
     return _ravo.encoding_at(encoding), length
+
+
+def detect(data: _Bytes, *, mac: bool = False) -> Detected:
+    """Returns the encoding that a text seems to have, by its first 256 KiB, which may end inside a character.
+
+    Czech texts of Windows, DOS and Unix are told apart, and every form of Unicode; with `mac` those of the Macintosh too. The
+    result is true if there is no doubt; else `candidates` has all encodings that are possible.
+
+    >>> found = detect("Příliš žluťoučký kůň".encode("cp852"))
+    >>> bool(found), found.encoding.name, found.evidence
+    (True, 'CP_852', <Evidence.CZECH: 5>)
+    >>> found = detect("řeč".encode("cp1250"))
+    >>> bool(found), [encoding.name for encoding in found.candidates]
+    (False, ['Windows_1250', 'Iso_8859_2'])
+    """
+    from ._detected import detected
+
+    return detected(data, mac)
 
 
 def convert(data: _Bytes, source: str, target: str, errors: str = "strict") -> bytes:

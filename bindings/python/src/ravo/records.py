@@ -218,6 +218,14 @@ class ConvertPolicy(IntEnum):
     REPLACE = 1  # it becomes U+FFFD, or "?" if the encoding lacks that
 
 
+class DocumentFlags(IntEnum):
+    """How values are read and set; add up what is wanted."""
+
+    RAW = 1  # the value is XML as it is written: references and tags
+    REFERENCES = 2  # set: a character that the encoding lacks becomes a reference such as &#x159;
+    ADD = 4  # set: add a missing attribute, or a missing next element of a name
+
+
 class SuiteRounding(IntEnum):
     """The direction of the suite's rounding. Any other number up to 255 means no rounding."""
 
@@ -335,6 +343,14 @@ class Detection(NamedTuple):
     encoding: int  # the most likely one
     evidence: Evidence  # why
     is_sure: bool  # there is no doubt
+
+
+class DocumentFinding(NamedTuple):
+    """A finding of xml.Document.check."""
+
+    name: str  # the stable name of its class: "comment", "encoding"
+    line: int  # from 1
+    column: int  # in characters, from 1
 
 
 class SuiteEan(NamedTuple):

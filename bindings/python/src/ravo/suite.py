@@ -9,14 +9,16 @@ from datetime import date, datetime, time, timedelta
 from decimal import Decimal
 
 from . import _ravo
+from ._suite_tree import Item, Token, Tree, escape, tokens, unescape
 from .checksums import suite_hash as hash
 from .money import Amount
-from .records import SuiteEan, SuiteRounding
+from .records import SuiteEan, SuiteModule, SuiteRounding, SuiteTokenKind
 
-__all__ = ["SuiteEan", "SuiteRounding", "address_parts", "account_parts", "backup_name", "change_month", "change_year", "document_name", "ean",
-           "hash", "is_account", "is_analytic_account", "is_number", "is_payment_reference", "is_synthetic_account", "bytes_for_people",
-           "modulo_11", "record_version", "remove_diacritics", "remove_table", "round_float", "round_value", "round_vat", "sql_date",
-           "sql_date_time", "sql_time", "sql_uid", "table_of_property"]
+__all__ = ["Item", "SuiteEan", "SuiteModule", "SuiteRounding", "SuiteTokenKind", "Token", "Tree", "address_parts", "account_parts", "backup_name",
+           "bytes_for_people", "change_month", "change_year", "compare_numbers", "document_name", "ean", "escape", "hash", "is_account",
+           "is_analytic_account", "is_number", "is_payment_reference", "is_synthetic_account", "modules", "modulo_11", "pdf_date", "pdf_field",
+           "pdf_text", "record_version", "remove_diacritics", "remove_table", "round_float", "round_value", "round_vat", "sql_date", "sql_date_time",
+           "sql_time", "sql_uid", "string_record", "string_records", "table_of_property", "tokens", "unescape", "xml_date", "xml_flag"]
 
 
 def is_number(text: str) -> bool:
@@ -256,3 +258,101 @@ def remove_diacritics(text: str) -> str:
     'Zlutoucky kun'
     """
     return _ravo.suite_remove_diacritics(text.encode("cp1250")).decode("cp1250")
+
+
+def compare_numbers(a: str | bytes, b: str | bytes, ignore_case: bool = False) -> int:
+    """Returns a negative number, 0 or a positive one: how the suite compares two texts with numbers, or bytes of any encoding.
+
+    Zeros inside a number do not count, so that the order has cycles: not for sorting.
+
+    >>> compare_numbers("FV9", "FV10") < 0, compare_numbers("105", "15") < 0
+    (True, True)
+    """
+    if isinstance(a, str) and isinstance(b, str):
+        return _ravo.suite_compare_num(a, b, ignore_case)
+    if isinstance(a, str) or isinstance(b, str):
+        raise TypeError("expected two str, or bytes twice")
+    return _ravo.suite_compare_num_bytes(a, b, ignore_case)
+
+
+def modules() -> list[SuiteModule]:
+    """Returns the modules of the suite's library, as the package names them.
+
+    >>> [module.name for module in modules() if module.is_main]
+    ['RavoInterface']
+    """
+    return [_ravo.suite_module_at(index) for index in range(_ravo.suite_module_count())]
+
+
+def pdf_text(text: str) -> bytes:
+    """Returns a text as the text string of a PDF: the bytes FE FF and UTF-16, high byte first. Forms are in Windows-1250.
+
+    >>> pdf_text("č")
+    b'\\xfe\\xff\\x01\\\\r'
+    """
+    return _ravo.suite_win_1250_to_pdf_doc_encoding(text)
+
+
+def pdf_field(name: str, value: str | int, as_unicode: bool = False) -> bytes:
+    """Returns a field of a forms data file (FDF): of a text in Windows-1250 or as a text string, or of a number of a choice.
+
+    Nothing is escaped.
+
+    >>> pdf_field("Jmeno", "Rada"), pdf_field("Ano", 1)
+    (b'<</T(Jmeno)/V(Rada)>>', b'<</T(Ano)/V/1>>')
+    """
+    if isinstance(value, str):
+        return _ravo.suite_fill_pdf_field(name, value, as_unicode)
+    return _ravo.suite_fill_pdf_field_as_integer(name, value)
+
+
+def pdf_date(moment: date | None, without_year: bool = False, leading_zeros: bool = False) -> str:
+    """Returns a date for a form; nothing for None.
+
+    >>> pdf_date(date(2024, 3, 5)), pdf_date(date(2024, 3, 5), without_year=True), pdf_date(None)
+    ('5.3.2024', '5.3.', '')
+    """
+    return _ravo.suite_date_2_pdf(0 if moment is None else _moment(moment), without_year, leading_zeros)
+
+
+def xml_date(moment: date | None) -> str:
+    """Returns a date for an XML export; nothing for None.
+
+    >>> xml_date(date(2024, 3, 5))
+    '2024-03-05'
+    """
+    return _ravo.suite_date_2_xml(0 if moment is None else _moment(moment))
+
+
+def xml_flag(value: object) -> str:
+    """Returns "X" for what is true, and nothing for what is not.
+
+    >>> xml_flag(True), xml_flag(0)
+    ('X', '')
+    """
+    return _ravo.suite_bool_2_xml(bool(value))
+
+
+def string_record(data: bytes | bytearray | memoryview) -> bytes:
+    """Returns a string record: the number of bytes in 32 bits, the bytes, which are text in Windows-1250, and a zero.
+
+    >>> string_record("Řada".encode("cp1250"))
+    b'\\x04\\x00\\x00\\x00\\xd8ada\\x00'
+    """
+    return _ravo.suite_string_to_stream(data)
+
+
+def string_records(stream: bytes | bytearray | memoryview) -> list[bytes]:
+    """Returns the bytes of each string record of a stream.
+
+    A record may promise more bytes than there are: those are zeros. ravo.Error ("range") for fewer than four bytes where a
+    record begins, or a negative number.
+
+    >>> string_records(string_record(b"a") + string_record(b""))
+    [b'a', b'']
+    """
+    records, begin = [], 0
+    while begin < len(stream):
+        record, begin = _ravo.suite_string_from_stream(stream, begin)
+        records.append(record)
+    return records
