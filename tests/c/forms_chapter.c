@@ -16,8 +16,8 @@ static int text_string(const char* text, const char* expected, size_t expected_l
 
 static int field(const char* name, const char* value, int32_t as_unicode, const char* expected,
                  size_t expected_length) {
-  return ravo_suite_fill_pdf_field(name, RAVO_NUL_TERMINATED, value, RAVO_NUL_TERMINATED, as_unicode, form_bytes,
-                                   sizeof form_bytes, &written_length, NULL) == RAVO_OK &&
+  return ravo_suite_fill_pdf_field(name, RAVO_NUL_TERMINATED, value, RAVO_NUL_TERMINATED, as_unicode,
+                                   form_bytes, sizeof form_bytes, &written_length, NULL) == RAVO_OK &&
          wrote(expected, expected_length);
 }
 
@@ -54,7 +54,8 @@ static void writes_fields_whole_or_not(void) {
   EXPECT(ravo_suite_fill_pdf_field(TEXT("a"), TEXT("b"), 0, form_bytes, 13, &written_length, NULL) ==
          RAVO_BUFFER);
   EXPECT(written_length == 14 && form_bytes[0] == 7);
-  EXPECT(ravo_suite_fill_pdf_field(TEXT("a"), TEXT("b"), 0, form_bytes, 14, &written_length, NULL) == RAVO_OK);
+  EXPECT(ravo_suite_fill_pdf_field(TEXT("a"), TEXT("b"), 0, form_bytes, 14, &written_length, NULL) ==
+         RAVO_OK);
   EXPECT(form_bytes[14] == 7);
 }
 
@@ -93,15 +94,16 @@ static void writes_records(void) {
   EXPECT(
       wrote(TEXT("\4\0\0\0\xC8"
                  "ech\0")));
-  EXPECT(ravo_suite_string_to_stream(NULL, 0, form_bytes, sizeof form_bytes, &written_length, NULL) == RAVO_OK);
+  EXPECT(ravo_suite_string_to_stream(NULL, 0, form_bytes, sizeof form_bytes, &written_length, NULL) ==
+         RAVO_OK);
   EXPECT(wrote(TEXT("\0\0\0\0\0")));
 }
 
 /* Reads the record at `from` of some bytes; where the next one begins, or the status below 0. */
 static int read_record(const char* bytes, size_t bytes_length, size_t from) {
   size_t end = 0;
-  const ravo_status status = ravo_suite_string_from_stream(bytes, bytes_length, from, form_bytes, sizeof form_bytes,
-                                                           &written_length, &end, NULL);
+  const ravo_status status = ravo_suite_string_from_stream(bytes, bytes_length, from, form_bytes,
+                                                           sizeof form_bytes, &written_length, &end, NULL);
   return status == RAVO_OK ? (int)end : -(int)status;
 }
 
@@ -129,8 +131,8 @@ static void reads_broken_records(void) {
          RAVO_OK);
   EXPECT(written_length == 2147483647u && end == 7);
   memset(form_bytes, 7, sizeof form_bytes);
-  EXPECT(ravo_suite_string_from_stream("\xFF\xFF\xFF\x7Fxy", 6, 0, form_bytes, sizeof form_bytes, &written_length,
-                                       &end, NULL) == RAVO_BUFFER);
+  EXPECT(ravo_suite_string_from_stream("\xFF\xFF\xFF\x7Fxy", 6, 0, form_bytes, sizeof form_bytes,
+                                       &written_length, &end, NULL) == RAVO_BUFFER);
   EXPECT(form_bytes[0] == 7);
 }
 
