@@ -82,7 +82,7 @@ std::vector<Theme> Themes() {
 }
 
 std::vector<Theme> ThemesWith(std::string_view name) {
-  const std::vector<Theme> themes = Themes();
+  std::vector<Theme> themes = Themes();
   for (const Theme& theme : themes) {
     const auto command = std::ranges::find(theme.commands, name, &Command::name);
     if (command != theme.commands.end()) return {{theme.title, {*command}}};

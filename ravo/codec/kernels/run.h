@@ -60,6 +60,8 @@ class EndBytes {
   [[nodiscard]] constexpr bool Has(char16_t c) const noexcept {
     return c == First() || c == Second() || c == Third();
   }
+  /// Returns whether all three are the same.
+  [[nodiscard]] constexpr bool AreOne() const noexcept { return First() == Second() && First() == Third(); }
   /// Returns whether carriage return and line feed were given, and no others.
   [[nodiscard]] constexpr bool AreBreaks() const noexcept { return (bytes_ & kAreBreaks) != 0; }
 
