@@ -143,7 +143,8 @@ TEST_P(EncodingRunsOfKernel, CountTheLinesOfARun) {
       if (i % 5 == 0) text[random() % text.size()] = '\xC4';
       text[random() % (i % 3 == 0 ? 600 : 140)] = ';';
       const Bytes bytes(text.begin(), text.end());
-      for (const EndBytes ends : {EndBytes(';'), EndBytes(';', '\r'), EndBytes(';', ';', 'a'), EndBytes(';', '#', '\n')})
+      for (const EndBytes ends :
+           {EndBytes(';'), EndBytes(';', '\r'), EndBytes(';', ';', 'a'), EndBytes(';', '#', '\n')})
         ASSERT_NO_FATAL_FAILURE(ExpectRunUntil(*FindEncoding(name), bytes, 1000, ends)) << i;
     }
   }
