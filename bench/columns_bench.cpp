@@ -161,7 +161,7 @@ void RunDictionary(benchmark::State& state, Kind kind) {
 
 constexpr std::size_t kFewRows = 1'000'000;
 
-// Texts one after the other, with room for what comes of them.
+// A column of texts, with room for its results.
 struct Texts {
   explicit Texts(const std::vector<std::string>& values) {
     std::mt19937_64 random(5);

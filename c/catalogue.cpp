@@ -49,7 +49,7 @@ constexpr auto kTableSlots = [] {
   return slots;
 }();
 
-// Null if there is none. No table has the identifier 0 of an empty slot.
+// Returns null for an unknown identifier. Empty slots have the identifier 0, which no table has.
 const TableLine* FindTable(std::int32_t id) {
   const TableSlot slot = kTableSlots[ravo::table_index::Place(id, ravo::table_index::kTableHashMultiplier)];
   return slot.id == id && id != 0 ? &kTables[slot.row] : nullptr;

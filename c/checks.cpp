@@ -25,7 +25,7 @@ bool IsLanguage(ravo_language language) {
 // Texts of rows are literals, which end with NUL.
 const char* Literal(std::string_view text) { return text.empty() ? nullptr : text.data(); }
 
-// Numbers that are no code's become 0xFFFF, which is none either.
+// Every number outside of the codes becomes 0xFFFF, which no code has.
 czech::Code CodeOf(std::int32_t code) {
   return static_cast<czech::Code>(code > 0 && code <= 0xFFFF ? code : 0xFFFF);
 }

@@ -1107,11 +1107,11 @@ ravo_status RAVO_CALL ravo_url_encode(const char *text, size_t text_length, char
 ravo_status RAVO_CALL ravo_url_decode(const char *text, size_t text_length, char *buffer, size_t size,
                                       size_t *length, ravo_error *error);
 
-/* Writes the part of a URI before the first "#"; all of it if there is none. */
+/* Writes the part of a URI before the first "#", or the whole URI without one. */
 ravo_status RAVO_CALL ravo_uri_without_fragment(const char *uri, size_t uri_length, char *buffer, size_t size,
                                                 size_t *length, ravo_error *error);
 
-/* Writes the part of a URI after the first "#"; an empty text if there is none. */
+/* Writes the part of a URI after the first "#", or an empty text without one. */
 ravo_status RAVO_CALL ravo_uri_fragment(const char *uri, size_t uri_length, char *buffer, size_t size,
                                         size_t *length, ravo_error *error);
 
@@ -2215,7 +2215,7 @@ ravo_status RAVO_CALL ravo_suite_tokens(const void *bytes, size_t bytes_length, 
  * hand, or let ravo_column_of_arrow read it from the structs of the Arrow C data interface; every function of this
  * chapter takes the result.
  *
- *     ravo_column column = RAVO_COLUMN_INIT;             // three company numbers, one after the other
+ *     ravo_column column = RAVO_COLUMN_INIT;             // three company numbers in one buffer
  *     const int32_t offsets[] = {0, 8, 16, 19};
  *     uint16_t codes[3];
  *     ravo_answers answers = RAVO_ANSWERS_INIT;

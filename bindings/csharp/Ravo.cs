@@ -1201,12 +1201,12 @@ public static class Ravo
     public static extern int ravo_url_decode(byte[] text, UIntPtr text_length, [Out] byte[] buffer, UIntPtr size,
         ref UIntPtr length, [In, Out] ravo_error error);
 
-    /// <summary>Writes the part of a URI before the first "#"; all of it if there is none.</summary>
+    /// <summary>Writes the part of a URI before the first "#", or the whole URI without one.</summary>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern int ravo_uri_without_fragment(byte[] uri, UIntPtr uri_length, [Out] byte[] buffer,
         UIntPtr size, ref UIntPtr length, [In, Out] ravo_error error);
 
-    /// <summary>Writes the part of a URI after the first "#"; an empty text if there is none.</summary>
+    /// <summary>Writes the part of a URI after the first "#", or an empty text without one.</summary>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern int ravo_uri_fragment(byte[] uri, UIntPtr uri_length, [Out] byte[] buffer, UIntPtr size,
         ref UIntPtr length, [In, Out] ravo_error error);

@@ -10,8 +10,8 @@ namespace {
 
 enum class Level : std::uint8_t { Letters, Accents, Capitals };
 
-/// The weights of a text on one level, one after the other. The last one is followed by ones without end that
-/// equal what keys leave out.
+/// Reads the weights of a text on one level in order. After the last one it repeats for ever the weight that
+/// sort keys leave out.
 class Weights {
  public:
   Weights(std::string_view text, Level level, const CzechOrder& order) noexcept

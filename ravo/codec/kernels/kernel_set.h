@@ -51,7 +51,7 @@ struct KernelSet {
   Run (*decode_units)(bool swap, bool plain_only, ByteSpan bytes, TextRoom text) noexcept;
   Run (*encode_units)(bool swap, bool plain_only, TextSpan text, ByteRoom bytes) noexcept;
 
-  /// Returns the index of the first special unit (`IsSpecial`); the size if there is none.
+  /// Returns the index of the first special unit (`IsSpecial`), or the size of `text` without one.
   std::size_t (*find_special)(TextSpan text) noexcept;
 
   SkipPlaces<char> skip_bytes;

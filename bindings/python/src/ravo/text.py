@@ -78,7 +78,7 @@ def url_decode(text: str) -> str:
 
 
 def uri_without_fragment(uri: str) -> str:
-    """Returns the part of a URI before the first "#"; all of it if there is none.
+    """Returns the part of a URI before the first "#", or the whole URI without one.
 
     >>> uri_without_fragment("https://example.com/a#b")
     'https://example.com/a'
@@ -87,7 +87,7 @@ def uri_without_fragment(uri: str) -> str:
 
 
 def uri_fragment(uri: str) -> str:
-    """Returns the part of a URI after the first "#"; an empty text if there is none.
+    """Returns the part of a URI after the first "#", or an empty text without one.
 
     >>> uri_fragment("https://example.com/a#b")
     'b'
