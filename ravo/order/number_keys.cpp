@@ -40,9 +40,7 @@ std::string_view TakeWhole(std::string_view& text) noexcept {
 
 std::string_view TakeFraction(std::string_view& text) noexcept {
   if (text.empty() || (text[0] != ',' && text[0] != '.')) return {};
-  std::string_view digits = text.substr(1, LengthOfDigits(text.substr(1)));
-  while (digits.ends_with('0')) digits.remove_suffix(1);
-  return digits;
+  return text.substr(1, LengthOfDigits(text.substr(1)));
 }
 
 bool TakeMinus(std::string_view& text) noexcept {
@@ -71,8 +69,9 @@ Decimal FirstDecimal(std::string_view text) noexcept {
   text.remove_prefix(std::min(text.find_first_not_of(" \t"), text.size()));
   const bool minus = TakeMinus(text);
   std::string_view whole = TakeWhole(text);
-  const std::string_view fraction = TakeFraction(text);
+  std::string_view fraction = TakeFraction(text);
   if (whole.empty() && fraction.empty()) return {};
+  while (fraction.ends_with('0')) fraction.remove_suffix(1);
   whole.remove_prefix(std::min(whole.find_first_of("123456789"), whole.size()));
   const bool is_zero = whole.empty() && fraction.empty();
   return {minus && !is_zero ? Kind::BelowZero : Kind::FromZero, whole,

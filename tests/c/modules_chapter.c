@@ -2,34 +2,9 @@
 #include "expect.h"
 
 /* The modules of the suite's library, in the order of its package. */
-static const char* const names[] = {"RavoInterface",
-                                    "DISystemCompat",
-                                    "SysInit",
-                                    "DIUnicodeConsts",
-                                    "RavoBoxConstants",
-                                    "RavoInterfaceConstants",
-                                    "RavoSkladConstants",
-                                    "RavoFileCommon",
-                                    "DIUnicode",
-                                    "DIConsts",
-                                    "DIUtils",
-                                    "DITypes",
-                                    "RavoZip_TLB",
-                                    "ECXMLTokenizer",
-                                    "ECXMLParser",
-                                    "RavoRSSConstants",
-                                    "RavoDCFConstants",
-                                    "RavoInterfaceResources",
-                                    "RavoMzdaConstants",
-                                    "RavoInterfaceInfo",
-                                    "RavoInterfaceCommon",
-                                    "RavoMajetekConstants",
-                                    "RavoKancelarConstants",
-                                    "RavoUcetnictviConstants",
-                                    "RavoBaseConstants",
-                                    "RavoProfileConstants",
-                                    "RavoManager_TLB",
-                                    "RavoProfileInfo_TLB"};
+static const char* const names[] = {
+#include "../support/module_names.inc"
+};
 enum { COUNT = sizeof names / sizeof *names };
 
 static ravo_suite_module module_at(size_t index) {

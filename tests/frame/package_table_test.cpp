@@ -14,35 +14,9 @@
 namespace ravo::frame {
 namespace {
 
-// The names of the package description, deliberately written out again.
-constexpr std::string_view kContainedNames[] = {"RavoInterface",
-                                                "DISystemCompat",
-                                                "SysInit",
-                                                "DIUnicodeConsts",
-                                                "RavoBoxConstants",
-                                                "RavoInterfaceConstants",
-                                                "RavoSkladConstants",
-                                                "RavoFileCommon",
-                                                "DIUnicode",
-                                                "DIConsts",
-                                                "DIUtils",
-                                                "DITypes",
-                                                "RavoZip_TLB",
-                                                "ECXMLTokenizer",
-                                                "ECXMLParser",
-                                                "RavoRSSConstants",
-                                                "RavoDCFConstants",
-                                                "RavoInterfaceResources",
-                                                "RavoMzdaConstants",
-                                                "RavoInterfaceInfo",
-                                                "RavoInterfaceCommon",
-                                                "RavoMajetekConstants",
-                                                "RavoKancelarConstants",
-                                                "RavoUcetnictviConstants",
-                                                "RavoBaseConstants",
-                                                "RavoProfileConstants",
-                                                "RavoManager_TLB",
-                                                "RavoProfileInfo_TLB"};
+constexpr std::string_view kContainedNames[] = {
+#include "../support/module_names.inc"
+};
 
 using Procedure = void (*)();
 

@@ -130,8 +130,9 @@ TEST(NaturalOrder, ComparesDecimalNumbers) {
     EXPECT_EQ(ravo::order::CompareDecimals(in_order[i - 1], in_order[i]), -1) << in_order[i];
     EXPECT_EQ(ravo::order::CompareDecimals(in_order[i], in_order[i - 1]), 1) << in_order[i];
   }
-  for (const std::string_view zero : {"-0", "0,00", "+0", " 000", "-0,0"})
+  for (const std::string_view zero : {"-0", "0,00", "+0", " 000", "-0,0", ".0", ",00"})
     EXPECT_EQ(DecimalKey(zero), DecimalKey("0")) << zero;
+  EXPECT_EQ(DecimalKey("."), DecimalKey("Kč"));
   EXPECT_EQ(DecimalKey("1,50"), DecimalKey("1.5"));
 }
 

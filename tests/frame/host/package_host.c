@@ -7,34 +7,9 @@
 #include <stdlib.h>
 #include <string.h>
 
-static const char* const kContained[] = {"RavoInterface",
-                                         "DISystemCompat",
-                                         "SysInit",
-                                         "DIUnicodeConsts",
-                                         "RavoBoxConstants",
-                                         "RavoInterfaceConstants",
-                                         "RavoSkladConstants",
-                                         "RavoFileCommon",
-                                         "DIUnicode",
-                                         "DIConsts",
-                                         "DIUtils",
-                                         "DITypes",
-                                         "RavoZip_TLB",
-                                         "ECXMLTokenizer",
-                                         "ECXMLParser",
-                                         "RavoRSSConstants",
-                                         "RavoDCFConstants",
-                                         "RavoInterfaceResources",
-                                         "RavoMzdaConstants",
-                                         "RavoInterfaceInfo",
-                                         "RavoInterfaceCommon",
-                                         "RavoMajetekConstants",
-                                         "RavoKancelarConstants",
-                                         "RavoUcetnictviConstants",
-                                         "RavoBaseConstants",
-                                         "RavoProfileConstants",
-                                         "RavoManager_TLB",
-                                         "RavoProfileInfo_TLB"};
+static const char* const kContained[] = {
+#include "../../support/module_names.inc"
+};
 
 enum { kContainedCount = sizeof kContained / sizeof kContained[0], kSlots = 105 };
 

@@ -34,6 +34,17 @@ static int TakeEncoding(PyObject* object, const char* name, long long* number) {
   return TakeNumber(object, name, INT32_MIN, INT32_MAX, number);
 }
 
+/* Converts without the interpreter's lock. */
+static ravo_status ConvertUnlocked(const encoding_pair* pair, const char* bytes, size_t length, size_t room,
+                                   converted* result, ravo_error* error) {
+  ravo_status status = RAVO_OK;
+  Py_BEGIN_ALLOW_THREADS;
+  status = Convert((ravo_encoding)pair->from, bytes, length, (ravo_encoding)pair->to,
+                   (ravo_convert_policy)pair->policy, room, result, error);
+  Py_END_ALLOW_THREADS;
+  return status;
+}
+
 /* decode(encoding, bytes, policy, utf8) */
 static PyObject* Decode(PyObject* self, PyObject* const* arguments, Py_ssize_t count) {
   ravo_module* module = PyModule_GetState(self);
@@ -41,7 +52,6 @@ static PyObject* Decode(PyObject* self, PyObject* const* arguments, Py_ssize_t c
   bytes_in bytes = {0};
   converted result = {NULL, 0, 0};
   ravo_error error = RAVO_ERROR_INIT;
-  ravo_status status = RAVO_OK;
   if (!TakeCount("decode", count, 4) || !TakeEncoding(arguments[0], "encoding", &pair.from) ||
       !TakeEncoding(arguments[2], "policy", &pair.policy) || !TakeEncoding(arguments[3], "utf8", &pair.to) ||
       !TakeBytes(arguments[1], &bytes))
@@ -51,10 +61,8 @@ static PyObject* Decode(PyObject* self, PyObject* const* arguments, Py_ssize_t c
     ReleaseBytes(&bytes);
     return text;
   }
-  Py_BEGIN_ALLOW_THREADS;
-  status = Convert((ravo_encoding)pair.from, bytes.view.buf, (size_t)bytes.view.len, (ravo_encoding)pair.to,
-                   (ravo_convert_policy)pair.policy, (size_t)bytes.view.len * 3, &result, &error);
-  Py_END_ALLOW_THREADS;
+  const ravo_status status = ConvertUnlocked(&pair, bytes.view.buf, (size_t)bytes.view.len,
+                                             (size_t)bytes.view.len * 3, &result, &error);
   ReleaseBytes(&bytes);
   PyObject* answer = status == RAVO_OK
                          ? PyUnicode_DecodeUTF8(result.bytes, (Py_ssize_t)result.length, "strict")
@@ -70,15 +78,12 @@ static PyObject* Encode(PyObject* self, PyObject* const* arguments, Py_ssize_t c
   text_in text;
   converted result = {NULL, 0, 0};
   ravo_error error = RAVO_ERROR_INIT;
-  ravo_status status = RAVO_OK;
   if (!TakeCount("encode", count, 4) || !TakeEncoding(arguments[0], "encoding", &pair.to) ||
       !TakeText(arguments[1], &text) || !TakeEncoding(arguments[2], "policy", &pair.policy) ||
       !TakeEncoding(arguments[3], "utf8", &pair.from))
     return NULL;
-  Py_BEGIN_ALLOW_THREADS;
-  status = Convert((ravo_encoding)pair.from, text.bytes, text.length, (ravo_encoding)pair.to,
-                   (ravo_convert_policy)pair.policy, text.length * 2, &result, &error);
-  Py_END_ALLOW_THREADS;
+  const ravo_status status =
+      ConvertUnlocked(&pair, text.bytes, text.length, text.length * 2, &result, &error);
   PyObject* answer = status == RAVO_OK ? PyBytes_FromStringAndSize(result.bytes, (Py_ssize_t)result.length)
                                        : Raise(module, &error, &text);
   free(result.bytes);
@@ -92,15 +97,12 @@ static PyObject* ConvertBytes(PyObject* self, PyObject* const* arguments, Py_ssi
   bytes_in bytes = {0};
   converted result = {NULL, 0, 0};
   ravo_error error = RAVO_ERROR_INIT;
-  ravo_status status = RAVO_OK;
   if (!TakeCount("convert", count, 4) || !TakeEncoding(arguments[0], "from", &pair.from) ||
       !TakeEncoding(arguments[2], "to", &pair.to) || !TakeEncoding(arguments[3], "policy", &pair.policy) ||
       !TakeBytes(arguments[1], &bytes))
     return NULL;
-  Py_BEGIN_ALLOW_THREADS;
-  status = Convert((ravo_encoding)pair.from, bytes.view.buf, (size_t)bytes.view.len, (ravo_encoding)pair.to,
-                   (ravo_convert_policy)pair.policy, (size_t)bytes.view.len * 2, &result, &error);
-  Py_END_ALLOW_THREADS;
+  const ravo_status status = ConvertUnlocked(&pair, bytes.view.buf, (size_t)bytes.view.len,
+                                             (size_t)bytes.view.len * 2, &result, &error);
   ReleaseBytes(&bytes);
   PyObject* answer = status == RAVO_OK ? PyBytes_FromStringAndSize(result.bytes, (Py_ssize_t)result.length)
                                        : RaiseAt(module, &error, PyLong_FromSize_t(error.position));
