@@ -9,6 +9,7 @@ usage: reference.py HEADER|PAGE | --self-test
   its setter, first and last, the members of the suite's suffixes (A, W, I, Ymd ...).
 - What the compiler makes (`= default`) needs no comment of a person.
 - Headings of a page can be linked to by the names that other readers of Markdown give them.
+- A link to another page of docs/, which the reference does not hold, becomes the page's name.
 """
 
 import pathlib
@@ -131,9 +132,13 @@ def with_anchors(page: str) -> str:
     return re.sub(r"^(##+) (.*)$", heading, page, flags=re.MULTILINE)
 
 
+def without_other_pages(page: str) -> str:
+    return re.sub(r"\[([^]]+)\]\([\w-]+\.md\)", r"\1", page)
+
+
 def filtered(name: str) -> str:
     text = read(pathlib.Path(name))
-    return with_anchors(text) if name.endswith(".md") else with_family_comments(with_rows(text))
+    return without_other_pages(with_anchors(text)) if name.endswith(".md") else with_family_comments(with_rows(text))
 
 
 CASES = [
@@ -152,6 +157,7 @@ def self_test() -> None:
     for given, wanted in CASES:
         assert with_family_comments(given) == wanted, (given, with_family_comments(given))
     assert with_anchors("# A\n## The host's: B, c\n") == "# A\n## The host's: B, c {#the-hosts-b-c}\n"
+    assert without_other_pages("[b.md](b.md), [a](#a), [c](../c/d.md)") == "b.md, [a](#a), [c](../c/d.md)"
     macro = DEFINE.findall('#define RAVO_A(name, text) /** name #text, #name. */ \\\n  T name##_x{u##text};\n')
     made = instance(["name", "text"], macro[0][2], arguments_of('one, "a, (b)"'))
     assert made.split() == '/** name "a, (b)", one. */ T one_x{u"a, (b)"};'.split(), made
