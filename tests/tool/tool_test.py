@@ -1,12 +1,15 @@
 #!/usr/bin/env python3
 """Runs the command-line program and checks exit status, standard output and standard error.
 
-usage: tool_test.py [--self-test] -- COMMAND...      (COMMAND: the program, with an emulator before it if needed)
+usage: tool_test.py [--self-test] [--session PROGRAM] -- COMMAND...
+  COMMAND             the program, with an emulator before it if needed
+  --session PROGRAM   runs most command lines in a process of this program
 
 Exits 77 if the emulator reports that this machine cannot run the program.
 """
 
 import pathlib
+import subprocess
 import sys
 import tempfile
 from concurrent.futures import ThreadPoolExecutor
@@ -111,14 +114,17 @@ def self_tested(program):
 
 
 def main(arguments):
-    self_test = arguments[:1] == ["--self-test"]
-    command = arguments[arguments.index("--") + 1 :]
+    options, command = arguments[: arguments.index("--")], arguments[arguments.index("--") + 1 :]
+    session = options[options.index("--session") + 1] if "--session" in options else None
     # Inside the build tree: a program under an emulator may have access to nothing else.
     with tempfile.TemporaryDirectory(dir=".") as folder:
-        program = Program(command, pathlib.Path(folder).resolve())
-        if program.run(["--version"]).status == SKIPPED:
+        program = Program(command, pathlib.Path(folder).resolve(), session)
+        if program.run(["--version"], out=subprocess.DEVNULL).status == SKIPPED:
             sys.exit(SKIPPED)
-        failures = list(self_tested(program) if self_test else tested(program))
+        try:
+            failures = list(self_tested(program) if "--self-test" in options else tested(program))
+        finally:
+            program.close()
     for failure in failures:
         print(failure)
     sys.exit(1 if failures else 0)

@@ -190,6 +190,10 @@ void End(const CLI::App& program, const CLI::ParseError& end, Outcome& outcome) 
   outcome.err = Unmarked(outcome.err);
 }
 
+bool Show(const Outcome& outcome) {
+  return outcome.coloured ? WriteWithCodes(Channel::Out, outcome.out) : Write(Channel::Out, outcome.out);
+}
+
 }  // namespace
 
 void Describe(CLI::App& program, Outcome& outcome, std::string_view only) {
@@ -226,6 +230,13 @@ Outcome Run(std::vector<std::string> arguments) {
     Complain(outcome, error.what(), Answer::WrongUsage);
   }
   return outcome;
+}
+
+int RunAndWrite(std::vector<std::string> arguments) {
+  Outcome outcome = Run(std::move(arguments));
+  if (!Show(outcome)) Complain(outcome, Text("the output cannot be written"), Answer::WrongUsage);
+  if (!Write(Channel::Err, outcome.err)) outcome.answer = Answer::WrongUsage;
+  return static_cast<int>(outcome.answer);
 }
 
 }  // namespace tool

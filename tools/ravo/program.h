@@ -7,7 +7,7 @@
 // the help.
 //
 // Start here, then read program.cpp and one command, such as round_command.cpp. A command never exits by
-// itself: it returns its result in an `Outcome`, which main.cpp writes. What people read goes through text.h,
+// itself: it returns its result in an `Outcome`, which `RunAndWrite` writes. What people read goes through text.h,
 // which translates it; errors through `Complain`; listings through columns.h.
 #pragma once
 
@@ -22,5 +22,8 @@ namespace tool {
 /// Runs the arguments (without the program's name) and returns the outcome, which also reports wrong usage
 /// and what a sub-command throws.
 [[nodiscard]] Outcome Run(std::vector<std::string> arguments);
+
+/// The same, with the outcome written to the standard channels. Returns the exit status.
+[[nodiscard]] int RunAndWrite(std::vector<std::string> arguments);
 
 }  // namespace tool
