@@ -97,6 +97,29 @@ def test_lost_worker_changes_nothing(cluster: Any, folder: pathlib.Path) -> None
     check(found[0], folder)
 
 
+def peak_memory() -> int:
+    """The most memory that this process has had, in bytes."""
+    status = pathlib.Path("/proc/self/status").read_text()
+    return int(status.partition("VmHWM:")[2].split()[0]) * 1024
+
+
+def test_memory_of_a_worker_is_bounded(cluster: Any, tmp_path: pathlib.Path) -> None:
+    """A file of thirty times as many blocks takes no more memory: a worker has a block or two at a time."""
+    line, block = "27074358,2026000579,row\n", 1 << 20
+    peaks = []
+    for blocks in (2, 60):
+        file = tmp_path / f"{blocks}.csv"
+        file.write_text("ico,vs,text\n" + line * (blocks * block // len(line)))
+        frame = dask_frames.read_csv(str(file), dtype=str, blocksize=block)
+        assert frame.npartitions >= blocks
+        with distributed.Client(cluster.cluster) as client:
+            findings = ravo.dask.validate(frame, RULES)
+            peaks.append(max(client.run(peak_memory).values()))
+        assert (findings.rows, bool(findings)) == (blocks * block // len(line), False)
+    # All rows at once take more than 300 MB.
+    assert peaks[1] < peaks[0] + 100 * block
+
+
 def test_empty_partitions_and_limits() -> None:
     frame = dask_frames.from_pandas(pandas.DataFrame({"ico": ["27074359"] * 7, "vs": [None] * 7}), npartitions=7)
     findings = ravo.dask.validate(frame[frame["ico"] != "x"], RULES, limit=2)
