@@ -70,7 +70,7 @@ ravo_status ravo_money_read(const char* text, size_t text_length, int32_t separa
   if (status != RAVO_OK) return status;
   return Guarded(error, [&, &utf8 = input] {
     const auto parsed = ravo::TryParseCurrency(Units(utf8), static_cast<char16_t>(separator));
-    if (!parsed) return Fail(error, {RAVO_WRONG, 0, 0, "the text is no amount"});
+    if (!parsed) return Fail(error, {RAVO_WRONG, 0, 0, "the text is no amount, or does not fit 64 bits"});
     *amount = parsed->raw;
     return static_cast<ravo_status>(RAVO_OK);
   });

@@ -1,5 +1,6 @@
 """Amounts: decimal.Decimal is the witness of rounding."""
 import decimal
+from collections.abc import Callable
 from decimal import Decimal
 from fractions import Fraction
 
@@ -121,3 +122,19 @@ def test_the_suite_rounds_by_its_own_rules() -> None:
         suite.round_value(1, decimals=15)
     with pytest.raises(ravo.Error):
         suite.round_float(float("nan"))
+
+
+@pytest.mark.parametrize(("call", "words"), [
+    (lambda: vat.compute("100", "21"), "percent: expected int, not str"),  # type: ignore[arg-type]
+    (lambda: vat.compute("100", 21, "base"), "method: expected int, not str"),  # type: ignore[arg-type]
+    (lambda: ravo.round_money("1", "1", "up"), "rounding: expected int, not str"),  # type: ignore[arg-type]
+])
+def test_numbers_are_asked_for_by_name(call: Callable[[], object], words: str) -> None:
+    with pytest.raises(TypeError, match=words):
+        call()
+
+
+def test_amounts_are_refused_with_what_they_may_be() -> None:
+    for amount in ("abc", Decimal("1e30"), "922337203685477.5808"):
+        with pytest.raises(ravo.Error, match="no amount, or does not fit 64 bits"):
+            ravo.round_money(amount)

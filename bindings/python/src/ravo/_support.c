@@ -122,10 +122,19 @@ int TakeDouble(PyObject* object, double* number) {
   return !PyErr_Occurred();
 }
 
+static void ExpectedNumber(const char* name, PyObject* object) {
+  PyObject* type = PyType_GetName(Py_TYPE(object));
+  if (type != NULL) PyErr_Format(PyExc_TypeError, "%s: expected int, not %U", name, type);
+  Py_XDECREF(type);
+}
+
 int TakeNumber(PyObject* object, const char* name, long long low, long long high, long long* number) {
   int overflow = 0;
   *number = PyLong_AsLongLongAndOverflow(object, &overflow);
-  if (PyErr_Occurred()) return 0;
+  if (PyErr_Occurred()) {
+    if (PyErr_ExceptionMatches(PyExc_TypeError)) ExpectedNumber(name, object);
+    return 0;
+  }
   if (overflow == 0 && *number >= low && *number <= high) return 1;
   PyErr_Format(PyExc_ValueError, "%s is out of range: %R", name, object);
   return 0;
