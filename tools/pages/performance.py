@@ -191,8 +191,8 @@ def noise(reports: dict[str, Report]) -> tuple[int, int]:
 def page(data: Report, reports: dict[str, Report], sections: list[tuple[Section, list[Row]]], load: str) -> str:
     measured, noisy = noise(reports)
     lines = ["# Performance\n",
-             "Written by `make bench`; do not edit. Medians of nine runs of each job and its rivals, all in one process and in\n"
-             "random order. Times are processor times of one call or one item (wall-clock times for whole programs); a ratio above 1\n"
+             "Written by `make bench`; do not edit. Medians of nine runs of each job and its rivals, one job after another, in one\n"
+             "process and in random order. Times are processor times of one call or one item (wall-clock times for whole programs); a ratio above 1\n"
              "means that ours is faster, or needs less. Charts show the same figures: green if ours is ahead, brown if it is behind, with\n"
              "a black line at the target.\n",
              "\n".join(machine_lines(reports, load)),
