@@ -1,10 +1,12 @@
 #include <ravo/codec/kernels/block.h>
+#include <ravo/runtime/overwrite.h>
 #include <ravo/runtime/text.h>
 #include <ravo/utils/strings/in_pieces.h>
 #include <ravo/utils/strings/text_kind.h>
 #include <ravo/utils/strings/url.h>
 
 #include <array>
+#include <bit>
 #include <cstdint>
 #include <cstring>
 
@@ -56,7 +58,7 @@ constexpr std::array<std::uint16_t, 256> kHighDigit = DigitValues(16);
 constexpr std::array<std::uint16_t, 256> kLowDigit = DigitValues(1);
 
 constexpr std::size_t kBlock = codec::kBlockBytes;
-// The number of bytes to decode one by one if escapes are close together.
+// The number of bytes whose escapes are found at once.
 constexpr std::size_t kMany = 64;
 
 using Bytes = codec::Block<char>;
@@ -73,18 +75,6 @@ bool EncodePlain(const char* text, char* out) {
   const Bytes blanks = bytes.EqualTo(' ');
   Choose(blanks, Bytes('+'), bytes).Store(out);
   return (ArePlain(bytes) | blanks).AsHits().All();
-}
-
-// Decodes whole blocks without escapes into `out` and returns their length.
-std::size_t DecodePlain(std::string_view text, char* out) {
-  std::size_t at = 0;
-  for (; text.size() - at >= kBlock; at += kBlock) {
-    const Bytes bytes = Bytes::Load(text.data() + at);
-    Choose(bytes.EqualTo('+'), Bytes(' '), bytes).Store(out + at);
-    const auto escapes = bytes.EqualTo('%').AsHits();
-    if (!escapes.None()) return at + escapes.First();
-  }
-  return at;
 }
 
 char* EncodeBytes(std::string_view text, char* out) {
@@ -114,17 +104,40 @@ char DecodeOne(const char*& at, const char* end) {
   return static_cast<char>(byte);
 }
 
+// The places of '%' in the next `kMany` bytes, a bit for each.
+std::uint64_t EscapesIn(const char* text) {
+  std::uint64_t places = 0;
+  for (std::size_t at = 0; at < kMany; at += kBlock)
+    places |= std::uint64_t{Bytes::Load(text + at).EqualTo('%').AsHits().Bits()} << at;
+  return places;
+}
+
+// Decodes bytes without escapes, block by block: up to a block more is read and written.
+char* DecodePlain(const char* from, const char* to, char* out) {
+  for (;; from += kBlock, out += kBlock) {
+    const Bytes bytes = Bytes::Load(from);
+    Choose(bytes.EqualTo('+'), Bytes(' '), bytes).Store(out);
+    if (to - from <= static_cast<std::ptrdiff_t>(kBlock)) return out + (to - from);
+  }
+}
+
 char* Decode(std::string_view text, char* out) {
   const char* at = text.data();
   const char* const end = at + text.size();
-  while (at != end) {
-    const std::size_t plain = DecodePlain({at, static_cast<std::size_t>(end - at)}, out);
-    at += plain;
-    out += plain;
-    // Escapes cluster: a short run is followed by short ones.
-    for (std::size_t few = plain < kBlock / 2 ? kMany : 1; few > 0 && at != end; --few)
+  while (end - at >= static_cast<std::ptrdiff_t>(kMany + kBlock)) {
+    const char* const many = at;
+    for (std::uint64_t places = EscapesIn(many); places != 0; places &= places - 1) {
+      const char* const escape = many + std::countr_zero(places);
+      if (at != escape) out = DecodePlain(at, escape, out);
+      at = escape;
       *out++ = DecodeOne(at, end);
+    }
+    // The last escape may end behind.
+    if (at >= many + kMany) continue;
+    out = DecodePlain(at, many + kMany, out);
+    at = many + kMany;
   }
+  while (at != end) *out++ = DecodeOne(at, end);
   return out;
 }
 
@@ -133,9 +146,8 @@ char* Decode(std::string_view text, char* out) {
 std::string StrEncodeUrlA(std::string_view text) { return strings::EncodedInPieces(text, Encode); }
 
 std::string StrDecodeUrlA(std::string_view text) {
-  std::string result(text.size(), '\0');
-  result.resize(static_cast<std::size_t>(Decode(text, result.data()) - result.data()));
-  return result;
+  return Written<char>(
+      text.size(), [text](char* to, std::size_t) { return static_cast<std::size_t>(Decode(text, to) - to); });
 }
 
 // Kept: the name `StrTimUriFragmentA` lacks an r; modules import it so. Test: StrTimUriFragmentA.KeepsItsName
