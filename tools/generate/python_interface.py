@@ -38,7 +38,7 @@ HAND_RECORDS = ["ravo_bank", "ravo_payment", "ravo_vat_summary", "ravo_invoice_h
 CODES = {"ravo_spayd": "Payment", "ravo_sid": "Invoice"}
 CODE_KEYS = ROOT / "ravo" / "czech" / "payment_code_keys.inc"
 NO_ENUMS = {"ravo_status", "ravo_kind", "ravo_layout"}
-LONE_ENUMS = {"RAVO_SUITE_ROUND_": "SuiteRounding", "RAVO_DOCUMENT_": "DocumentFlags"}
+LONE_ENUMS = {"RAVO_ORDER_": "OrderFlags", "RAVO_DETECT_": "DetectFlags", "RAVO_DOCUMENT_": "DocumentFlags", "RAVO_SUITE_ROUND_": "SuiteRounding"}
 NUMBERS = {
     "int32_t": ("int32_t", "INT32_MIN", "INT32_MAX"), "int64_t": ("int64_t", "INT64_MIN", "INT64_MAX"), "int8_t": ("int8_t", "INT8_MIN", "INT8_MAX"),
     "uint8_t": ("uint8_t", "0", "UINT8_MAX"), "uint32_t": ("uint32_t", "0", "UINT32_MAX"), "size_t": ("size_t", "0", "PTRDIFF_MAX"),
