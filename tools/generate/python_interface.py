@@ -221,8 +221,10 @@ def taken(one: Parameter, interface: Interface, index: int) -> str:
         return f"TakeBytes({place}, &{one.name})"
     if one.role in ("handle", "open"):
         return f'({one.name} = PyCapsule_GetPointer({place}, "{one.type}")) != NULL'
-    if one.type in ("ravo_day", "ravo_money"):
-        return f"Take{camel(one.type)}(module, {place}, &{one.name})"
+    if one.type == "ravo_day":
+        return f"TakeDay(module, {place}, &{one.name})"
+    if one.type == "ravo_money":
+        return f'TakeMoney(module, {place}, "{one.name}", &{one.name})'
     if one.type == "ravo_kind":
         return f"TakeKind({place}, &{one.name})"
     if one.type in ("double", "ravo_suite_moment"):
