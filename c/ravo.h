@@ -735,7 +735,7 @@ enum {
 typedef struct ravo_spayd {
   size_t size;                 /* sizeof(ravo_spayd), set by the caller */
   const char *account;         /* ACC: an IBAN, perhaps with "+" and a BIC; must be there */
-  const char *other_accounts;  /* ALT-ACC: one or two of them, divided by a comma */
+  const char *other_accounts;  /* ALT-ACC: one or two such IBANs, divided by a comma */
   const char *amount;          /* AM: "450.00" */
   const char *currency;        /* CC: "CZK" */
   const char *reference;       /* RF: digits for the receiver */

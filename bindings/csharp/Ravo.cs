@@ -742,7 +742,7 @@ public static class Ravo
         public UIntPtr size = (UIntPtr)Marshal.SizeOf(typeof(ravo_spayd));
         /// <summary>ACC: an IBAN, perhaps with "+" and a BIC; must be there</summary>
         public IntPtr account;
-        /// <summary>ALT-ACC: one or two of them, divided by a comma</summary>
+        /// <summary>ALT-ACC: one or two such IBANs, divided by a comma</summary>
         public IntPtr other_accounts;
         /// <summary>AM: "450.00"</summary>
         public IntPtr amount;
