@@ -1,3 +1,4 @@
+#include "encoding_number.h"
 #include "support.h"
 #include <ravo/convert/detection.h>
 
@@ -9,15 +10,11 @@ using ravo::c::FailUnknown;
 using ravo::c::Fill;
 using ravo::c::Guarded;
 using ravo::c::IsKnown;
+using ravo::c::NumberOf;
 using ravo::c::ReadBytes;
-namespace codec = ravo::codec;
 namespace convert = ravo::convert;
 
 namespace {
-
-ravo_encoding NumberOf(const codec::Encoding& row) {
-  return static_cast<ravo_encoding>(&row - codec::Encodings().data());
-}
 
 // Detects, and returns what `tell` does with the answer.
 template <class Tell>

@@ -63,6 +63,21 @@ struct Failure {
   return Fail(error, {RAVO_RANGE, 0, 0, message});
 }
 
+/// The end of work by a callback of the caller.
+[[gnu::cold]] inline ravo_status FailStopped(ravo_error* error, std::int32_t answer,
+                                             std::size_t position) noexcept {
+  return Fail(error, {RAVO_STOPPED, answer, position, "the caller stopped the work"});
+}
+
+/// The refusal of what is not XML, at a place that has a line and a column.
+template <class Place>
+[[gnu::cold]] ravo_status FailPlaced(ravo_error* error, const Place& place, std::size_t position,
+                                     std::string_view why) {
+  std::string message =
+      "line " + std::to_string(place.line) + ", column " + std::to_string(place.column) + ": ";
+  return Fail(error, {RAVO_WRONG, 0, position, message.append(why)});
+}
+
 [[gnu::cold]] inline ravo_status FailNullResult(ravo_error* error) noexcept {
   return FailArgument(error, "the result is null");
 }
