@@ -105,7 +105,7 @@ ravo_status Report(const Run& run, std::size_t done, std::size_t total, ravo_err
   if (run.progress == nullptr) return RAVO_OK;
   const std::int32_t code = run.progress(run.context, done, total);
   if (code == 0) return RAVO_OK;
-  return Fail(error, {RAVO_STOPPED, code, done, "the caller ended the work"});
+  return FailStopped(error, code, done);
 }
 
 }  // namespace ravo::c

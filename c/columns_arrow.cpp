@@ -216,7 +216,7 @@ ravo_status SendBatch(const ArrowSchema& schema, const ArrowArray& array, const 
       DescribeField({&schema, &array, 0, {}}, sink.field, sink.name, column, &dictionary, error);
   if (status != RAVO_OK) return status;
   const std::int32_t code = sink.batch(sink.context, &column, first_row);
-  if (code != 0) return Fail(error, {RAVO_STOPPED, code, 0, "the caller ended the work"});
+  if (code != 0) return ravo::c::FailStopped(error, code, 0);
   first_row += column.length;
   return RAVO_OK;
 }

@@ -19,6 +19,16 @@ constexpr std::int32_t kThursday = 3;
 constexpr std::int32_t kMonths = 12;
 
 ravo_status FailDay(ravo_error* error) { return FailRange(error, "the day is not in the years 1 to 9999"); }
+ravo_status FailYear(ravo_error* error) { return FailRange(error, "the year is not 1 to 9999"); }
+
+bool IsYear(std::int32_t year) { return year >= 1 && year <= 9999; }
+
+// Says which part of a date that does not exist is out of range.
+ravo_status FailDate(ravo_error* error, const ravo::DateParts& date) {
+  if (!IsYear(date.year)) return FailYear(error);
+  if (date.month < 1 || date.month > kMonths) return FailRange(error, "the month is not 1 to 12");
+  return FailRange(error, "the month has no such day");
+}
 
 std::int32_t DaysIn(std::int32_t year, std::int32_t month) {
   return ravo::DIUtils::DaysInMonthYm(year, static_cast<std::uint16_t>(month));
@@ -31,7 +41,7 @@ ravo_status Moved(ravo_day day, ravo_day* result, ravo_error* error, Compute com
   if (!czech::InCalendar({day})) return FailDay(error);
   const std::int64_t moved = compute(czech::PartsOf({day}));
   if (moved < czech::detail::kFirstDay.number || moved > czech::detail::kLastDay.number)
-    return FailDay(error);
+    return FailRange(error, "the result is not in the years 1 to 9999");
   *result = static_cast<ravo_day>(moved);
   return RAVO_OK;
 }
@@ -94,7 +104,7 @@ struct TextOfDay {
 ravo_status ravo_day_of(int32_t year, int32_t month, int32_t day_of_month, ravo_day* day, ravo_error* error) {
   if (day == nullptr) return FailNullResult(error);
   const ravo::DateParts date{year, month, day_of_month};
-  if (!czech::Exists(date)) return FailRange(error, "there is no such date");
+  if (!czech::Exists(date)) return FailDate(error, date);
   *day = czech::DayOf(date).number;
   return RAVO_OK;
 }
@@ -127,7 +137,7 @@ ravo_status ravo_week_of(ravo_day day, ravo_week* week, ravo_error* error) {
 
 ravo_status ravo_day_of_week(int32_t year, int32_t week, ravo_day* monday, ravo_error* error) {
   if (monday == nullptr) return FailNullResult(error);
-  if (year < 1 || year > 9999) return FailRange(error, "the year is not 1 to 9999");
+  if (!IsYear(year)) return FailYear(error);
   if (week < 1 || week > 53) return FailRange(error, "the year has no such week");
   const std::int32_t first = ravo::DIUtils::ISOWeekToJulianDate(year, week, 0);
   if (ravo::DIUtils::YearOfJuilanDate(first + kThursday) != year)
@@ -139,7 +149,7 @@ ravo_status ravo_day_of_week(int32_t year, int32_t week, ravo_day* monday, ravo_
 
 ravo_status ravo_days_in_month(int32_t year, int32_t month, int32_t* days, ravo_error* error) {
   if (days == nullptr) return FailNullResult(error);
-  if (!czech::Exists({year, month, 1})) return FailRange(error, "there is no such month");
+  if (!czech::Exists({year, month, 1})) return FailDate(error, {year, month, 1});
   *days = DaysIn(year, month);
   return RAVO_OK;
 }

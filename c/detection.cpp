@@ -1,3 +1,4 @@
+#include "encoding_number.h"
 #include "support.h"
 #include <ravo/convert/detection.h>
 
@@ -9,19 +10,15 @@ using ravo::c::FailUnknown;
 using ravo::c::Fill;
 using ravo::c::Guarded;
 using ravo::c::IsKnown;
+using ravo::c::NumberOf;
 using ravo::c::ReadBytes;
-namespace codec = ravo::codec;
 namespace convert = ravo::convert;
 
 namespace {
 
-ravo_encoding NumberOf(const codec::Encoding& row) {
-  return static_cast<ravo_encoding>(&row - codec::Encodings().data());
-}
-
 // Detects, and returns what `tell` does with the answer.
 template <class Tell>
-ravo_status Detected(const BytesIn& input, ravo_detect_flags flags, ravo_error* error, Tell tell) {
+ravo_status Detected(const BytesIn& input, uint32_t flags, ravo_error* error, Tell tell) {
   if (input.status != RAVO_OK) return input.status;
   if (flags != RAVO_DETECT_PLAIN && flags != RAVO_DETECT_MAC)
     return FailArgument(error, "the flags are unknown");
@@ -31,7 +28,7 @@ ravo_status Detected(const BytesIn& input, ravo_detect_flags flags, ravo_error* 
 
 }  // namespace
 
-ravo_status ravo_encoding_detect(const void* bytes, size_t bytes_length, ravo_detect_flags flags,
+ravo_status ravo_encoding_detect(const void* bytes, size_t bytes_length, uint32_t flags,
                                  ravo_detection* detection, ravo_error* error) {
   if (!IsKnown(detection)) return FailStruct(error);
   return Detected(ReadBytes(bytes, bytes_length, error), flags, error, [&](const convert::Detection& found) {
@@ -41,8 +38,8 @@ ravo_status ravo_encoding_detect(const void* bytes, size_t bytes_length, ravo_de
   });
 }
 
-ravo_status ravo_encoding_candidate_at(const void* bytes, size_t bytes_length, ravo_detect_flags flags,
-                                       size_t index, ravo_encoding* encoding, ravo_error* error) {
+ravo_status ravo_encoding_candidate_at(const void* bytes, size_t bytes_length, uint32_t flags, size_t index,
+                                       ravo_encoding* encoding, ravo_error* error) {
   if (encoding == nullptr) return FailNullResult(error);
   return Detected(ReadBytes(bytes, bytes_length, error), flags, error,
                   [&](const convert::Detection& found) -> ravo_status {

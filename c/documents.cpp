@@ -1,6 +1,6 @@
+#include "encoding_number.h"
 #include "handles.h"
 #include "support.h"
-#include <ravo/codec/encoding.h>
 #include <ravo/document/check.h>
 #include <ravo/document/edit.h>
 
@@ -42,12 +42,6 @@ ravo_status FailNoDocument(ravo_error* error) {
   return FailArgument(error, "the document is null or closed");
 }
 
-ravo_status FailPlaced(ravo_error* error, const document::PlacedError& fault) {
-  const std::string message = "line " + std::to_string(fault.Place().line) + ", column " +
-                              std::to_string(fault.Place().column) + ": " + fault.what();
-  return Fail(error, {RAVO_WRONG, 0, fault.Byte(), message});
-}
-
 ravo_status StatusOf(document::Message message) {
   switch (message) {
     case document::Message::NothingThere:
@@ -68,7 +62,7 @@ ravo_status GuardedDocument(ravo_error* error, Work work) {
     try {
       return work();
     } catch (const document::PlacedError& fault) {
-      return FailPlaced(error, fault);
+      return ravo::c::FailPlaced(error, fault.Place(), fault.Byte(), fault.what());
     } catch (const document::PathError& fault) {
       return Fail(error, {StatusOf(fault.What().message), 0, fault.Change(), fault.what()});
     }
@@ -137,8 +131,7 @@ void ravo_document_close(ravo_document* own) { ravo::c::Close(own); }
 ravo_status ravo_document_encoding(const ravo_document* own, ravo_encoding* encoding, ravo_error* error) {
   if (!IsOpen(own)) return FailNoDocument(error);
   if (encoding == nullptr) return FailNullResult(error);
-  *encoding = static_cast<ravo_encoding>(codec::FindEncoding(own->content->Text().encoding) -
-                                         codec::Encodings().data());
+  *encoding = ravo::c::NumberOf(*codec::FindEncoding(own->content->Text().encoding));
   return RAVO_OK;
 }
 
@@ -186,7 +179,7 @@ ravo_status ravo_document_write(const ravo_document* own, ravo_write write, void
   for (std::size_t at = 0; at < bytes.size(); at += kPiece) {
     const std::string_view piece = bytes.substr(at, kPiece);
     const std::int32_t answer = write(context, piece.data(), piece.size());
-    if (answer != 0) return Fail(error, {RAVO_STOPPED, answer, at, "the caller stopped the work"});
+    if (answer != 0) return ravo::c::FailStopped(error, answer, at);
   }
   return RAVO_OK;
 }

@@ -1,4 +1,5 @@
 #include "columns_answers.h"
+#include "encoding_number.h"
 #include "handles.h"
 #include "piece_converter.h"
 #include <ravo/codec/byte_order_mark.h>
@@ -33,7 +34,7 @@ const codec::Encoding* RowOf(ravo_encoding encoding) {
 
 ravo_status Found(const codec::Encoding* row, ravo_encoding* encoding, ravo_error* error) {
   if (row == nullptr) return FailUnknown(error, "there is no such encoding");
-  *encoding = static_cast<ravo_encoding>(row - codec::Encodings().data());
+  *encoding = ravo::c::NumberOf(*row);
   return RAVO_OK;
 }
 
@@ -149,7 +150,7 @@ ravo_status ConvertWhole(std::string_view bytes, PieceConverter& converter, Fill
     filler.Add(converter.Made());
     const std::int32_t answer =
         listener.progress == nullptr ? 0 : listener.progress(listener.context, done, bytes.size());
-    if (answer != 0) return Fail(error, {RAVO_STOPPED, answer, done, "the caller stopped the work"});
+    if (answer != 0) return ravo::c::FailStopped(error, answer, done);
   } while (done != bytes.size());
   return filler.Finish(error);
 }

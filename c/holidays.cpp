@@ -18,8 +18,15 @@ ravo_status FillHoliday(ravo_holiday* holiday, const czech::Holiday& row) {
   return RAVO_OK;
 }
 
-ravo_status FillTerm(ravo_term* term, const czech::Parsed<czech::Term>& answer, ravo_error* error) {
-  if (!answer) return FailRefused(error, answer.code, 0);
+ravo_status FailFrom(ravo_error* error) { return FailRange(error, "`from` is not in the years 1 to 9999"); }
+
+// Writes the term that `compute` returns for a day.
+template <class Compute>
+ravo_status FillTerm(ravo_day from, ravo_term* term, ravo_error* error, Compute compute) {
+  if (!IsKnown(term)) return FailStruct(error);
+  if (!czech::InCalendar({from})) return FailFrom(error);
+  const czech::Parsed<czech::Term> answer = compute(czech::Day{from});
+  if (!answer) return FailRange(error, "the result is not in the years 1 to 9999");
   Fill(*term, {0, answer.value.counted.number, answer.value.due.number, answer.value.verified});
   return RAVO_OK;
 }
@@ -71,26 +78,24 @@ ravo_status ravo_next_working_day(ravo_day day, ravo_day* working_day, ravo_erro
 
 ravo_status ravo_working_days_between(ravo_day from, ravo_day to, int32_t* days, ravo_error* error) {
   if (days == nullptr) return FailNullResult(error);
-  const auto answer = czech::WorkingDaysBetween({from}, {to});
-  if (!answer) return FailRefused(error, answer.code, 0);
-  *days = answer.value;
+  if (!czech::InCalendar({from})) return FailFrom(error);
+  if (!czech::InCalendar({to})) return FailRange(error, "`to` is not in the years 1 to 9999");
+  *days = czech::WorkingDaysBetween({from}, {to}).value;
   return RAVO_OK;
 }
 
 ravo_status ravo_term_in_days(ravo_day from, int32_t days, ravo_term* term, ravo_error* error) {
-  if (!IsKnown(term)) return FailStruct(error);
-  return FillTerm(term, czech::TermInDays({from}, days), error);
+  return FillTerm(from, term, error, [days](czech::Day day) { return czech::TermInDays(day, days); });
 }
 
 ravo_status ravo_term_in_months(ravo_day from, int32_t months, ravo_term* term, ravo_error* error) {
-  if (!IsKnown(term)) return FailStruct(error);
-  return FillTerm(term, czech::TermInMonths({from}, months), error);
+  return FillTerm(from, term, error, [months](czech::Day day) { return czech::TermInMonths(day, months); });
 }
 
 ravo_status ravo_days_overdue(ravo_day due, ravo_day today, int32_t* days, ravo_error* error) {
   if (days == nullptr) return FailNullResult(error);
-  if (!czech::InCalendar({due}) || !czech::InCalendar({today}))
-    return FailRange(error, "a day is not in the years 1 to 9999");
+  if (!czech::InCalendar({due})) return FailRange(error, "`due` is not in the years 1 to 9999");
+  if (!czech::InCalendar({today})) return FailRange(error, "`today` is not in the years 1 to 9999");
   *days = czech::DaysOverdue({due}, {today});
   return RAVO_OK;
 }

@@ -10,7 +10,6 @@
 #include <memory_resource>
 #include <vector>
 
-using ravo::c::Fail;
 using ravo::c::FailArgument;
 using ravo::c::FailNullResult;
 using ravo::c::FailStruct;
@@ -149,11 +148,7 @@ class InvoiceFiller {
 ravo_status OpenInvoice(std::string_view text, ravo_invoice** invoice, ravo_error* error) {
   isdoc::ReadingError fault;
   const auto document = isdoc::Document::Read(text, fault);
-  if (!document) {
-    const std::string message = "line " + std::to_string(fault.place.line) + ", column " +
-                                std::to_string(fault.place.column) + ": " + fault.message;
-    return Fail(error, {RAVO_WRONG, 0, fault.position, message});
-  }
+  if (!document) return ravo::c::FailPlaced(error, fault.place, fault.position, fault.message);
   auto opened = std::make_unique<ravo_invoice>();
   InvoiceFiller(*document, *opened).Run();
   *invoice = opened.release();

@@ -9,6 +9,7 @@ using ravo::c::Computed;
 using ravo::c::Fail;
 using ravo::c::FailArgument;
 using ravo::c::FailNullResult;
+using ravo::c::FailRange;
 using ravo::c::FailRefused;
 using ravo::c::Guarded;
 using ravo::c::ReadText;
@@ -32,10 +33,35 @@ bool IsSeparator(int32_t separator) {
 
 ravo_status FailSeparator(ravo_error* error) { return FailArgument(error, "the separator is unusable"); }
 
-template <class Compute>
-ravo_status Product(ravo_money* result, ravo_rounding rounding, ravo_error* error, Compute compute) {
-  if (!IsRounding(rounding)) return FailRounding(error);
-  return Computed(result, error, [&] { return compute(static_cast<ravo::Rounding>(rounding)).raw; });
+ravo_status FailStep(ravo_error* error) { return FailRange(error, "the step is not above 0"); }
+
+// Whether `denominator` x `step` fits the divisor of a product. Precondition: `step` is positive.
+bool IsDivisor(std::int64_t denominator, ravo_money step) {
+  const auto bits = static_cast<std::uint64_t>(denominator);
+  std::uint64_t divisor = 0;
+  return !__builtin_mul_overflow(denominator < 0 ? 0 - bits : bits, static_cast<std::uint64_t>(step),
+                                 &divisor);
+}
+
+// The rounding and step of a result.
+struct Rounded {
+  ravo_money step;
+  ravo_rounding rounding;
+};
+
+// Writes `amount` x `numerator` / `denominator`; `too_large` is the message for a divisor that is.
+ravo_status Product(ravo_money amount, std::int64_t numerator, std::int64_t denominator, Rounded how,
+                    ravo_money* result, ravo_error* error, std::string_view too_large) {
+  if (!IsRounding(how.rounding)) return FailRounding(error);
+  if (result == nullptr) return FailNullResult(error);
+  if (how.step <= 0) return FailStep(error);
+  if (denominator == 0) return FailRange(error, "the denominator is 0");
+  if (!IsDivisor(denominator, how.step)) return FailRange(error, too_large);
+  const auto rounding = static_cast<ravo::Rounding>(how.rounding);
+  return Computed(
+      result, error,
+      [&] { return ravo::TimesRatio({amount}, numerator, denominator, {how.step}, rounding).raw; },
+      "the result does not fit 64 bits");
 }
 
 struct RoundedMoney {
@@ -78,15 +104,14 @@ ravo_status ravo_money_read(const char* text, size_t text_length, int32_t separa
 
 ravo_status ravo_money_round(ravo_money amount, ravo_money step, ravo_rounding rounding, ravo_money* result,
                              ravo_error* error) {
-  return Product(result, rounding, error,
-                 [&](ravo::Rounding how) { return ravo::RoundedTo({amount}, {step}, how); });
+  return Product(amount, 1, 1, {step, rounding}, result, error, {});
 }
 
 ravo_status ravo_money_round_column(const ravo_column* column, uint32_t flags, ravo_money step,
                                     ravo_rounding rounding, ravo_money* results, ravo_answers* answers,
                                     ravo_progress progress, void* context, ravo_error* error) {
   if (!IsRounding(rounding)) return FailRounding(error);
-  if (step <= 0) return ravo::c::FailRange(error, "the step is not above 0");
+  if (step <= 0) return FailStep(error);
   return Guarded(error, [&] {
     return ravo::c::AnswerNumbers<sizeof(ravo_money)>(
         column, {flags, progress, context}, results, answers, error,
@@ -96,15 +121,13 @@ ravo_status ravo_money_round_column(const ravo_column* column, uint32_t flags, r
 
 ravo_status ravo_money_times_ratio(ravo_money amount, int64_t numerator, int64_t denominator, ravo_money step,
                                    ravo_rounding rounding, ravo_money* result, ravo_error* error) {
-  return Product(result, rounding, error, [&](ravo::Rounding how) {
-    return ravo::TimesRatio({amount}, numerator, denominator, {step}, how);
-  });
+  return Product(amount, numerator, denominator, {step, rounding}, result, error,
+                 "the denominator times the step does not fit 64 bits");
 }
 
 ravo_status ravo_money_times_rate(ravo_money amount, ravo_money rate, ravo_money step, ravo_rounding rounding,
                                   ravo_money* result, ravo_error* error) {
-  return Product(result, rounding, error,
-                 [&](ravo::Rounding how) { return ravo::TimesRate({amount}, {rate}, {step}, how); });
+  return Product(amount, rate, Currency::kScale, {step, rounding}, result, error, "the step is too large");
 }
 
 ravo_status ravo_money_to_crowns(ravo_money amount, ravo_rounding rounding, ravo_money* rounded,

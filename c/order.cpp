@@ -16,14 +16,14 @@ namespace order = ravo::order;
 
 namespace {
 
-bool AreKnown(ravo_order_flags flags) {
-  constexpr ravo_order_flags kAll = RAVO_ORDER_IGNORE_CASE | RAVO_ORDER_NATURAL | RAVO_ORDER_DIGITS_FIRST;
+bool AreKnown(uint32_t flags) {
+  constexpr uint32_t kAll = RAVO_ORDER_IGNORE_CASE | RAVO_ORDER_NATURAL | RAVO_ORDER_DIGITS_FIRST;
   return (flags & ~kAll) == 0;
 }
 
 ravo_status FailFlags(ravo_error* error) { return FailArgument(error, "the flags are unknown"); }
 
-order::CzechOrder OrderOf(ravo_order_flags flags) {
+order::CzechOrder OrderOf(uint32_t flags) {
   return {(flags & RAVO_ORDER_IGNORE_CASE) != 0, (flags & RAVO_ORDER_NATURAL) != 0,
           (flags & RAVO_ORDER_DIGITS_FIRST) != 0};
 }
@@ -40,16 +40,16 @@ ravo_status Compared(const TextIn& a, const char* b, std::size_t b_length, Resul
 
 }  // namespace
 
-ravo_status ravo_compare_czech(const char* a, size_t a_length, const char* b, size_t b_length,
-                               ravo_order_flags flags, int32_t* order, ravo_error* error) {
+ravo_status ravo_compare_czech(const char* a, size_t a_length, const char* b, size_t b_length, uint32_t flags,
+                               int32_t* order, ravo_error* error) {
   if (!AreKnown(flags)) return FailFlags(error);
   return Compared(ReadText(a, a_length, error), b, b_length, order, error, [&](auto first, auto second) {
     return order::CompareCzech(first, second, OrderOf(flags));
   });
 }
 
-ravo_status ravo_czech_key(const char* text, size_t text_length, ravo_order_flags flags, void* buffer,
-                           size_t size, size_t* length, ravo_error* error) {
+ravo_status ravo_czech_key(const char* text, size_t text_length, uint32_t flags, void* buffer, size_t size,
+                           size_t* length, ravo_error* error) {
   if (!AreKnown(flags)) return FailFlags(error);
   const auto [input, status] = ReadText(text, text_length, error);
   if (status != RAVO_OK) return status;

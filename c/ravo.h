@@ -27,8 +27,10 @@
  * Failure.  A function that can fail returns a ravo_status; RAVO_OK is 0. The last parameter is null or a
  *           ravo_error of the caller, which every failure fills. Results are written on RAVO_OK and, as said above,
  *           on RAVO_BUFFER; on any other status they are as they were. An unknown number of an enum, unknown flags, and
- *           null for a result that is not said to allow it are RAVO_ARGUMENT. Nothing is thrown, nothing is kept for
- *           the thread, no function ends the process.
+ *           null for a result that is not said to allow it are RAVO_ARGUMENT. If several numbers can be out of range,
+ *           the message says which one is. Nothing is thrown, nothing is kept for the thread, no function ends the
+ *           process.
+ * Flags.    `flags` are constants added up, 0 for none of them.
  * Memory.   No function returns memory that the caller must free. Strings that a function returns are constants of
  *           the library, or live as long as the handle that has them. Each function or the head of its chapter says
  *           whether it allocates. What "never allocates" calls no allocator at all.
@@ -557,7 +559,8 @@ ravo_status RAVO_CALL ravo_money_round(ravo_money amount, ravo_money step, ravo_
 /*
  * Writes an amount times `numerator` / `denominator`, rounded to a multiple of `step`.
  *
- * RAVO_RANGE if `denominator` is 0 or `step` is not positive. Allocates on failure alone.
+ * RAVO_RANGE if `denominator` is 0, if `step` is not positive, and if one times the other does not fit 64 bits.
+ * Allocates on failure alone.
  *
  *     ravo_money_times_ratio(gross, 21, 121, 100, RAVO_ROUND_HALF_AWAY, &tax, NULL)
  */
@@ -732,7 +735,7 @@ enum {
 typedef struct ravo_spayd {
   size_t size;                 /* sizeof(ravo_spayd), set by the caller */
   const char *account;         /* ACC: an IBAN, perhaps with "+" and a BIC; must be there */
-  const char *other_accounts;  /* ALT-ACC: one or two of them, divided by a comma */
+  const char *other_accounts;  /* ALT-ACC: one or two such IBANs, divided by a comma */
   const char *amount;          /* AM: "450.00" */
   const char *currency;        /* CC: "CZK" */
   const char *reference;       /* RF: digits for the receiver */
@@ -1124,8 +1127,7 @@ ravo_status RAVO_CALL ravo_uri_fragment(const char *uri, size_t uri_length, char
  * memcmp does and then their lengths, and so do columns of bytes.
  */
 
-/* How texts compare; add up what is wanted. */
-typedef int32_t ravo_order_flags;
+/* How texts compare. */
 enum {
   RAVO_ORDER_PLAIN = 0,        /* as said above */
   RAVO_ORDER_IGNORE_CASE = 1,  /* small letters and capitals are equal */
@@ -1141,7 +1143,7 @@ enum {
  *     ravo_compare_czech("cihla", RAVO_NUL_TERMINATED, "čaj", RAVO_NUL_TERMINATED, 0, &order, NULL)  // -1
  */
 ravo_status RAVO_CALL ravo_compare_czech(const char *a, size_t a_length, const char *b, size_t b_length,
-                                         ravo_order_flags flags, int32_t *order, ravo_error *error);
+                                         uint32_t flags, int32_t *order, ravo_error *error);
 
 /*
  * Writes the key of a text in the Czech order: bytes, of which none is 0 without RAVO_ORDER_NATURAL.
@@ -1149,8 +1151,8 @@ ravo_status RAVO_CALL ravo_compare_czech(const char *a, size_t a_length, const c
  * Keys of the same flags compare as their texts do. Other versions of the library may make other keys: do not store
  * them. Allocates.
  */
-ravo_status RAVO_CALL ravo_czech_key(const char *text, size_t text_length, ravo_order_flags flags, void *buffer,
-                                     size_t size, size_t *length, ravo_error *error);
+ravo_status RAVO_CALL ravo_czech_key(const char *text, size_t text_length, uint32_t flags, void *buffer, size_t size,
+                                     size_t *length, ravo_error *error);
 
 /*
  * Writes -1, 0 or 1: how the numbers compare with which two texts begin.
@@ -1481,8 +1483,7 @@ ravo_status RAVO_CALL ravo_encoding_of_code_page(int32_t code_page, ravo_encodin
 ravo_status RAVO_CALL ravo_encoding_of_mark(const void *bytes, size_t bytes_length, ravo_encoding *encoding,
                                             size_t *mark_length, ravo_error *error);
 
-/* Which texts are possible; add up what is wanted. */
-typedef int32_t ravo_detect_flags;
+/* Which texts are possible. */
 enum {
   RAVO_DETECT_PLAIN = 0, /* Czech texts of Windows, DOS and Unix, and of every form of Unicode */
   RAVO_DETECT_MAC = 1    /* and those of the Macintosh: Mac Central European */
@@ -1520,7 +1521,7 @@ typedef struct ravo_detection {
  *
  *     ravo_encoding_detect("P\xF8\xEDli\x9A", 6, RAVO_DETECT_PLAIN, &detection, NULL)  // Windows-1250
  */
-ravo_status RAVO_CALL ravo_encoding_detect(const void *bytes, size_t bytes_length, ravo_detect_flags flags,
+ravo_status RAVO_CALL ravo_encoding_detect(const void *bytes, size_t bytes_length, uint32_t flags,
                                            ravo_detection *detection, ravo_error *error);
 
 /*
@@ -1528,7 +1529,7 @@ ravo_status RAVO_CALL ravo_encoding_detect(const void *bytes, size_t bytes_lengt
  *
  * Detects again. RAVO_UNKNOWN past the last. Allocates.
  */
-ravo_status RAVO_CALL ravo_encoding_candidate_at(const void *bytes, size_t bytes_length, ravo_detect_flags flags,
+ravo_status RAVO_CALL ravo_encoding_candidate_at(const void *bytes, size_t bytes_length, uint32_t flags,
                                                  size_t index, ravo_encoding *encoding, ravo_error *error);
 
 /* What becomes of bytes and characters that cannot be converted. */
@@ -1604,7 +1605,7 @@ ravo_status RAVO_CALL ravo_converter_pull(ravo_converter *converter, void *buffe
 /* A document. */
 typedef struct ravo_document ravo_document;
 
-/* How values are read and set; add up what is wanted. */
+/* How values are read and set. */
 enum {
   RAVO_DOCUMENT_RAW = 1,        /* the value is XML as it is written: references and tags */
   RAVO_DOCUMENT_REFERENCES = 2, /* set: a character that the encoding lacks becomes a reference such as &#x159; */
@@ -1774,8 +1775,8 @@ enum {
  * Writes an amount rounded to `decimals` places: 2 are hundredths, 0 whole crowns, -1 tens.
  *
  * Halves are recognized after the fraction is rounded to four places. RAVO_RANGE if `decimals` is below -4 or
- * above 14 or the scaled amount does not fit 64 bits; RAVO_SUITE_ROUND_UP and RAVO_SUITE_ROUND_DOWN wrap silently
- * from 2147483648 units on. Allocates on failure alone.
+ * above 14, and if the scaled amount or the result does not fit 64 bits; RAVO_SUITE_ROUND_UP and
+ * RAVO_SUITE_ROUND_DOWN wrap silently from 2147483648 units on. Allocates on failure alone.
  */
 ravo_status RAVO_CALL ravo_suite_round_value(ravo_money amount, uint8_t direction, int8_t decimals,
                                              ravo_money *result, ravo_error *error);
@@ -1793,8 +1794,8 @@ ravo_status RAVO_CALL ravo_suite_round_value_float(double value, uint8_t directi
  * Writes an amount of VAT rounded by one of five letters: H hundredths, D tenths, P halves of a crown, N tenths
  * away from zero, M whole crowns.
  *
- * Any other letter leaves the amount as it is. RAVO_RANGE if the result does not fit 64 bits. Allocates on failure
- * alone.
+ * Any other letter leaves the amount as it is. RAVO_RANGE if the scaled amount or the result does not fit 64 bits.
+ * Allocates on failure alone.
  */
 ravo_status RAVO_CALL ravo_suite_round_dph(ravo_money amount, int32_t letter, ravo_money *result,
                                            ravo_error *error);

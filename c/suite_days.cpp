@@ -7,6 +7,7 @@ using ravo::c::Computed;
 using ravo::c::FailNullResult;
 using ravo::c::FailRange;
 using ravo::c::Guarded;
+using ravo::c::kNoMoment;
 using ravo::c::WriteText;
 namespace suite = ravo::RavoInterfaceCommon;
 namespace czech = ravo::czech;
@@ -28,8 +29,20 @@ std::int32_t MillisecondsOf(const ravo::TimeParts& time) {
 }
 
 template <class Form>
-ravo_status Sql(const ravo::c::TextOut& out, ravo_error* error, Form form) {
-  return Guarded(error, [&] { return WriteText(out, ravo::ToUtf8(form()), error); });
+ravo_status Sql(const ravo::c::TextOut& out, ravo_error* error, Form form,
+                std::string_view out_of_range = kNoMoment) {
+  return Guarded(
+      error, [&] { return WriteText(out, ravo::ToUtf8(form()), error); }, out_of_range);
+}
+
+// Writes the moment that `change` makes of another one.
+template <class Change>
+ravo_status Changed(ravo_suite_moment moment, ravo_suite_moment* result, ravo_error* error, Change change) {
+  if (result == nullptr) return FailNullResult(error);
+  const auto split = [&] { return static_cast<void>(ravo::SplitDateTime(moment)), RAVO_OK; };
+  if (const ravo_status status = Guarded(error, split, kNoMoment); status != RAVO_OK) return status;
+  return Computed(
+      result, error, [&] { return change(moment); }, "the result is not in the years 1 to 9999");
 }
 
 }  // namespace
@@ -37,7 +50,8 @@ ravo_status Sql(const ravo::c::TextOut& out, ravo_error* error, Form form) {
 ravo_status ravo_suite_moment_of(ravo_day day, int32_t milliseconds, ravo_suite_moment* moment,
                                  ravo_error* error) {
   if (!czech::InCalendar({day})) return FailRange(error, "the day is not in the years 1 to 9999");
-  if (milliseconds < 0 || milliseconds >= kDay) return FailRange(error, "the time is not within a day");
+  if (milliseconds < 0 || milliseconds >= kDay)
+    return FailRange(error, "the milliseconds are not 0 to 86399999");
   return Computed(moment, error, [&] {
     return ravo::EncodeDateTime({czech::PartsOf({day}), TimeOf(milliseconds)});
   });
@@ -46,12 +60,15 @@ ravo_status ravo_suite_moment_of(ravo_day day, int32_t milliseconds, ravo_suite_
 ravo_status ravo_suite_moment_parts(ravo_suite_moment moment, ravo_day* day, int32_t* milliseconds,
                                     ravo_error* error) {
   if (day == nullptr || milliseconds == nullptr) return FailNullResult(error);
-  return Guarded(error, [&] {
-    const ravo::DateTimeParts parts = ravo::SplitDateTime(moment);
-    *day = czech::DayOf(parts.date).number;
-    *milliseconds = MillisecondsOf(parts.time);
-    return RAVO_OK;
-  });
+  return Guarded(
+      error,
+      [&] {
+        const ravo::DateTimeParts parts = ravo::SplitDateTime(moment);
+        *day = czech::DayOf(parts.date).number;
+        *milliseconds = MillisecondsOf(parts.time);
+        return RAVO_OK;
+      },
+      kNoMoment);
 }
 
 ravo_status ravo_suite_sql_date(ravo_suite_moment moment, char* buffer, size_t size, size_t* length,
@@ -61,7 +78,9 @@ ravo_status ravo_suite_sql_date(ravo_suite_moment moment, char* buffer, size_t s
 
 ravo_status ravo_suite_sql_time(ravo_suite_moment moment, char* buffer, size_t size, size_t* length,
                                 ravo_error* error) {
-  return Sql({buffer, size, length}, error, [&] { return suite::TimeToSQLString(moment); });
+  return Sql(
+      {buffer, size, length}, error, [&] { return suite::TimeToSQLString(moment); },
+      "the moment is not finite");
 }
 
 ravo_status ravo_suite_sql_date_time(ravo_suite_moment moment, char* buffer, size_t size, size_t* length,
@@ -71,10 +90,10 @@ ravo_status ravo_suite_sql_date_time(ravo_suite_moment moment, char* buffer, siz
 
 ravo_status ravo_suite_change_month(ravo_suite_moment moment, int32_t step, ravo_suite_moment* result,
                                     ravo_error* error) {
-  return Computed(result, error, [&] { return suite::ChangeMonth(moment, step); });
+  return Changed(moment, result, error, [step](double from) { return suite::ChangeMonth(from, step); });
 }
 
 ravo_status ravo_suite_change_year(ravo_suite_moment moment, int32_t step, ravo_suite_moment* result,
                                    ravo_error* error) {
-  return Computed(result, error, [&] { return suite::ChangeYear(moment, step); });
+  return Changed(moment, result, error, [step](double from) { return suite::ChangeYear(from, step); });
 }

@@ -15,6 +15,7 @@ using ravo::c::FailNullResult;
 using ravo::c::FailRange;
 using ravo::c::Guarded;
 using ravo::c::IsBroken;
+using ravo::c::kNoMoment;
 using ravo::c::ReadBytes;
 using ravo::c::ReadText;
 using ravo::c::TextIn;
@@ -87,17 +88,23 @@ ravo_status ravo_suite_fill_pdf_field_as_integer(const char* name, size_t name_l
 
 ravo_status ravo_suite_date_2_pdf(ravo_suite_moment moment, int32_t without_year, int32_t leading_zeros,
                                   char* buffer, size_t size, size_t* length, ravo_error* error) {
-  return Guarded(error, [&] {
-    const std::u16string date = forms::Date2PDF(moment, without_year != 0, leading_zeros != 0);
-    return WriteText({buffer, size, length}, ravo::ToUtf8(date), error);
-  });
+  return Guarded(
+      error,
+      [&] {
+        const std::u16string date = forms::Date2PDF(moment, without_year != 0, leading_zeros != 0);
+        return WriteText({buffer, size, length}, ravo::ToUtf8(date), error);
+      },
+      kNoMoment);
 }
 
 ravo_status ravo_suite_date_2_xml(ravo_suite_moment moment, char* buffer, size_t size, size_t* length,
                                   ravo_error* error) {
-  return Guarded(error, [&] {
-    return WriteText({buffer, size, length}, ravo::ToUtf8(forms::Date2XML(moment)), error);
-  });
+  return Guarded(
+      error,
+      [&] {
+        return WriteText({buffer, size, length}, ravo::ToUtf8(forms::Date2XML(moment)), error);
+      },
+      kNoMoment);
 }
 
 ravo_status ravo_suite_bool_2_xml(int32_t value, char* buffer, size_t size, size_t* length,

@@ -78,8 +78,24 @@ void GiveNumbers(ravo_suite_tree& tree) {
   for (std::size_t i = 0; i < tree.items.size(); ++i) tree.numbers.emplace(tree.items[i], i);
 }
 
-ravo_status FailUnreadable(ravo_error* error, const ravo::Error& fault) {
-  return Fail(error, {RAVO_WRONG, 0, 0, fault.what()});
+// Thrown through the tokenizer by a caller that stops.
+struct Stopped {
+  std::int32_t answer;
+};
+
+// Calls `work`, which reads what may be no document.
+template <class Work>
+ravo_status GuardedReading(ravo_error* error, Work work) {
+  return Guarded(error, [&]() -> ravo_status {
+    try {
+      work();
+    } catch (const Stopped& stop) {
+      return ravo::c::FailStopped(error, stop.answer, 0);
+    } catch (const ravo::Error& fault) {
+      return Fail(error, {RAVO_WRONG, 0, 0, fault.what()});
+    }
+    return RAVO_OK;
+  });
 }
 
 // Calls `work` with the item of a number; it returns the text to be written.
@@ -146,11 +162,6 @@ ravo_status WriteConverted(const char* text, std::size_t text_length, const ravo
       error, [&, &utf8 = input] { return WriteText(out, ravo::ToUtf8(work(Units(utf8).View())), error); });
 }
 
-// Thrown through the tokenizer by a caller that stops.
-struct Stopped {
-  std::int32_t answer;
-};
-
 void GiveToken(const ravo::ECXMLTokenizer::TXMLTokenizer& tokenizer, ravo_suite_take take, void* context) {
   const std::string text = ravo::ToUtf8(ravo::FromCodePage(tokenizer.TokenString()));
   const ravo_suite_token token{sizeof token,      text.c_str(),           text.size(),
@@ -165,16 +176,11 @@ ravo_status ravo_suite_tree_open(const void* bytes, size_t bytes_length, ravo_su
   if (tree == nullptr) return FailNullResult(error);
   const auto [input, status] = ReadBytes(bytes, bytes_length, error);
   if (status != RAVO_OK) return status;
-  return Guarded(error, [&, &xml = input]() -> ravo_status {
+  return GuardedReading(error, [&, &xml = input] {
     auto opened = std::make_unique<ravo_suite_tree>();
-    try {
-      ravo::document::LoadAsSuite(xml, opened->document);
-    } catch (const ravo::Error& fault) {
-      return FailUnreadable(error, fault);
-    }
+    ravo::document::LoadAsSuite(xml, opened->document);
     GiveNumbers(*opened);
     *tree = opened.release();
-    return RAVO_OK;
   });
 }
 
@@ -388,15 +394,7 @@ ravo_status ravo_suite_tokens(const void* bytes, size_t bytes_length, ravo_suite
   if (take == nullptr) return FailArgument(error, "the function is null");
   const auto [input, status] = ReadBytes(bytes, bytes_length, error);
   if (status != RAVO_OK) return status;
-  return Guarded(error, [&, &xml = input]() -> ravo_status {
-    try {
-      ravo::document::ReadSuiteTokens(xml,
-                                      [&](const auto& tokenizer) { GiveToken(tokenizer, take, context); });
-    } catch (const Stopped& stop) {
-      return Fail(error, {RAVO_STOPPED, stop.answer, 0, "the caller stopped the work"});
-    } catch (const ravo::Error& fault) {
-      return FailUnreadable(error, fault);
-    }
-    return RAVO_OK;
+  return GuardedReading(error, [&, &xml = input] {
+    ravo::document::ReadSuiteTokens(xml, [&](const auto& tokenizer) { GiveToken(tokenizer, take, context); });
   });
 }

@@ -63,6 +63,21 @@ struct Failure {
   return Fail(error, {RAVO_RANGE, 0, 0, message});
 }
 
+/// The end of work by a callback of the caller.
+[[gnu::cold]] inline ravo_status FailStopped(ravo_error* error, std::int32_t answer,
+                                             std::size_t position) noexcept {
+  return Fail(error, {RAVO_STOPPED, answer, position, "the caller stopped the work"});
+}
+
+/// The refusal of what is not XML, at a place that has a line and a column.
+template <class Place>
+[[gnu::cold]] ravo_status FailPlaced(ravo_error* error, const Place& place, std::size_t position,
+                                     std::string_view why) {
+  std::string message =
+      "line " + std::to_string(place.line) + ", column " + std::to_string(place.column) + ": ";
+  return Fail(error, {RAVO_WRONG, 0, position, message.append(why)});
+}
+
 [[gnu::cold]] inline ravo_status FailNullResult(ravo_error* error) noexcept {
   return FailArgument(error, "the result is null");
 }
@@ -195,15 +210,20 @@ template <std::size_t capacity>
   return status != RAVO_OK ? status : other;
 }
 
-/// Calls `work`, which returns a status, and turns every exception into one.
+inline constexpr std::string_view kOutOfRange = "a number or the result is out of range";
+inline constexpr std::string_view kNoMoment = "the moment is not in the years 1 to 9999";
+
+/// Calls `work`, which returns a status, and turns every exception into one. `out_of_range` is the message
+/// of an `Error`: a function of several numbers names the one.
 template <class Work>
-[[nodiscard]] ravo_status Guarded(ravo_error* error, Work work) noexcept {
+[[nodiscard]] ravo_status Guarded(ravo_error* error, Work work,
+                                  std::string_view out_of_range = kOutOfRange) noexcept {
   try {
     return work();
   } catch (const std::bad_alloc&) {
     return Fail(error, {RAVO_MEMORY, 0, 0, "there is no memory left"});
   } catch (const Error&) {
-    return FailRange(error, "a number or the result is out of range");
+    return FailRange(error, out_of_range);
   } catch (...) {
     return Fail(error, {RAVO_INTERNAL, 0, 0, "a fault of the library"});
   }
@@ -225,12 +245,16 @@ template <class Result, class Compute>
 
 /// The same for a result that is computed from numbers.
 template <class Result, class Compute>
-[[nodiscard]] ravo_status Computed(Result* result, ravo_error* error, Compute compute) noexcept {
+[[nodiscard]] ravo_status Computed(Result* result, ravo_error* error, Compute compute,
+                                   std::string_view out_of_range = kOutOfRange) noexcept {
   if (result == nullptr) return FailNullResult(error);
-  return Guarded(error, [&] {
-    *result = compute();
-    return RAVO_OK;
-  });
+  return Guarded(
+      error,
+      [&] {
+        *result = compute();
+        return RAVO_OK;
+      },
+      out_of_range);
 }
 
 }  // namespace ravo::c

@@ -150,7 +150,7 @@ void CheckConversion(std::string_view bytes) {
   Require(whole.status == pieces.status && whole.position == pieces.position && whole.bytes == pieces.bytes);
 }
 
-std::string KeyOf(std::string_view text, ravo_order_flags flags) {
+std::string KeyOf(std::string_view text, std::uint32_t flags) {
   std::size_t length = 0;
   Require(ravo_czech_key(text.data(), text.size(), flags, nullptr, 0, &length, nullptr) == RAVO_OK);
   std::string key(length, 'x');
@@ -160,7 +160,7 @@ std::string KeyOf(std::string_view text, ravo_order_flags flags) {
 
 void CheckOrder(std::string_view bytes) {
   if (bytes.empty() || !IsUtf8(bytes.substr(1))) return;
-  const ravo_order_flags flags = static_cast<unsigned char>(bytes[0]) % 8;
+  const std::uint32_t flags = static_cast<unsigned char>(bytes[0]) % 8;
   const std::string_view text = bytes.substr(1);
   const std::size_t end = text.find('\n');
   const std::string_view a = text.substr(0, end);

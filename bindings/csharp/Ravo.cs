@@ -550,7 +550,8 @@ public static class Ravo
 
     /// <summary>Writes an amount times `numerator` / `denominator`, rounded to a multiple of `step`.</summary>
     /// <remarks>
-    /// <para>RAVO_RANGE if `denominator` is 0 or `step` is not positive. Allocates on failure alone.</para>
+    /// <para>RAVO_RANGE if `denominator` is 0, if `step` is not positive, and if one times the other does not fit 64 bits.
+    /// Allocates on failure alone.</para>
     /// <code>ravo_money_times_ratio(gross, 21, 121, 100, RAVO_ROUND_HALF_AWAY, &amp;tax, NULL)</code>
     /// </remarks>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
@@ -741,7 +742,7 @@ public static class Ravo
         public UIntPtr size = (UIntPtr)Marshal.SizeOf(typeof(ravo_spayd));
         /// <summary>ACC: an IBAN, perhaps with "+" and a BIC; must be there</summary>
         public IntPtr account;
-        /// <summary>ALT-ACC: one or two of them, divided by a comma</summary>
+        /// <summary>ALT-ACC: one or two such IBANs, divided by a comma</summary>
         public IntPtr other_accounts;
         /// <summary>AM: "450.00"</summary>
         public IntPtr amount;
@@ -1226,7 +1227,7 @@ public static class Ravo
     /// <code>ravo_compare_czech("cihla", RAVO_NUL_TERMINATED, "čaj", RAVO_NUL_TERMINATED, 0, &amp;order, NULL)  // -1</code>
     /// </remarks>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_compare_czech(byte[] a, UIntPtr a_length, byte[] b, UIntPtr b_length, int flags,
+    public static extern int ravo_compare_czech(byte[] a, UIntPtr a_length, byte[] b, UIntPtr b_length, uint flags,
         ref int order, [In, Out] ravo_error error);
 
     /// <summary>Writes the key of a text in the Czech order: bytes, of which none is 0 without RAVO_ORDER_NATURAL.</summary>
@@ -1235,7 +1236,7 @@ public static class Ravo
     /// them. Allocates.</para>
     /// </remarks>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_czech_key(byte[] text, UIntPtr text_length, int flags, IntPtr buffer,
+    public static extern int ravo_czech_key(byte[] text, UIntPtr text_length, uint flags, IntPtr buffer,
         UIntPtr size, ref UIntPtr length, [In, Out] ravo_error error);
 
     /// <summary>Writes -1, 0 or 1: how the numbers compare with which two texts begin.</summary>
@@ -1644,7 +1645,7 @@ public static class Ravo
     /// <code>ravo_encoding_detect("P\xF8\xEDli\x9A", 6, RAVO_DETECT_PLAIN, &amp;detection, NULL)  // Windows-1250</code>
     /// </remarks>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_encoding_detect(byte[] bytes, UIntPtr bytes_length, int flags,
+    public static extern int ravo_encoding_detect(byte[] bytes, UIntPtr bytes_length, uint flags,
         [In, Out] ravo_detection detection, [In, Out] ravo_error error);
 
     /// <summary>Writes one of the encodings that cannot be told apart, by its index from 0, from the most likely one on.</summary>
@@ -1652,7 +1653,7 @@ public static class Ravo
     /// <para>Detects again. RAVO_UNKNOWN past the last. Allocates.</para>
     /// </remarks>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
-    public static extern int ravo_encoding_candidate_at(byte[] bytes, UIntPtr bytes_length, int flags,
+    public static extern int ravo_encoding_candidate_at(byte[] bytes, UIntPtr bytes_length, uint flags,
         UIntPtr index, ref int encoding, [In, Out] ravo_error error);
 
     /// <summary>the conversion fails at its position</summary>
@@ -1888,8 +1889,8 @@ public static class Ravo
     /// <summary>Writes an amount rounded to `decimals` places: 2 are hundredths, 0 whole crowns, -1 tens.</summary>
     /// <remarks>
     /// <para>Halves are recognized after the fraction is rounded to four places. RAVO_RANGE if `decimals` is below -4 or
-    /// above 14 or the scaled amount does not fit 64 bits; RAVO_SUITE_ROUND_UP and RAVO_SUITE_ROUND_DOWN wrap silently
-    /// from 2147483648 units on. Allocates on failure alone.</para>
+    /// above 14, and if the scaled amount or the result does not fit 64 bits; RAVO_SUITE_ROUND_UP and
+    /// RAVO_SUITE_ROUND_DOWN wrap silently from 2147483648 units on. Allocates on failure alone.</para>
     /// </remarks>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern int ravo_suite_round_value(long amount, byte direction, sbyte decimals, ref long result,
@@ -1907,8 +1908,8 @@ public static class Ravo
     /// <summary>Writes an amount of VAT rounded by one of five letters: H hundredths, D tenths, P halves of a crown, N tenths
     /// away from zero, M whole crowns.</summary>
     /// <remarks>
-    /// <para>Any other letter leaves the amount as it is. RAVO_RANGE if the result does not fit 64 bits. Allocates on failure
-    /// alone.</para>
+    /// <para>Any other letter leaves the amount as it is. RAVO_RANGE if the scaled amount or the result does not fit 64 bits.
+    /// Allocates on failure alone.</para>
     /// </remarks>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl, ExactSpelling = true)]
     public static extern int ravo_suite_round_dph(long amount, int letter, ref long result,

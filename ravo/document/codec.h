@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ravo/unicode/encodings.h>
+#include <ravo/convert/exact_encoding.h>
 
 #include <cstddef>
 #include <memory>
@@ -9,8 +9,7 @@
 
 namespace ravo::document {
 
-/// An encoding in which the bytes of a character do not depend on those before them. Unlike the library's
-/// readers it tells malformed bytes from U+FFFD and takes a character past U+FFFF as one.
+/// An encoding in which the bytes of a character do not depend on those before them.
 class DocumentCodec {
  public:
   struct Character {
@@ -18,23 +17,26 @@ class DocumentCodec {
     std::size_t size = 0;  ///< in bytes; 0 for malformed bytes
   };
 
-  DocumentCodec() = default;
-  DocumentCodec(const DocumentCodec&) = delete;
-  DocumentCodec& operator=(const DocumentCodec&) = delete;
-  virtual ~DocumentCodec() = default;
+  explicit DocumentCodec(const codec::Encoding& row) : encoding_(row) {}
+
+  /// Returns whether every character is one byte.
+  [[nodiscard]] bool IsSingleByte() const { return encoding_.Row().engine == "SingleByte"; }
 
   /// Returns the character at `at`, which is less than the size of `bytes`.
-  [[nodiscard]] virtual Character DecodeOne(std::string_view bytes, std::size_t at) const = 0;
+  [[nodiscard]] Character DecodeOne(std::string_view bytes, std::size_t at) const;
 
   /// Appends the characters from `at` on in UTF-8, up to the first malformed bytes; returns their position,
   /// or the size of `bytes`.
-  [[nodiscard]] virtual std::size_t Decode(std::string_view bytes, std::size_t at, std::string& utf8) const;
+  [[nodiscard]] std::size_t Decode(std::string_view bytes, std::size_t at, std::string& utf8) const;
 
   /// Appends the bytes of a character; returns false if the encoding lacks it.
-  [[nodiscard]] virtual bool Encode(char32_t c, std::string& to) const = 0;
+  [[nodiscard]] bool Encode(char32_t c, std::string& to) const;
+
+ private:
+  convert::ExactEncoding encoding_;
 };
 
 /// Returns the codec of an encoding; null if its bytes depend on those before them (UTF-7).
-[[nodiscard]] std::shared_ptr<const DocumentCodec> CodecOf(const DIUnicode::EncodingRow& row);
+[[nodiscard]] std::shared_ptr<const DocumentCodec> CodecOf(const codec::Encoding& row);
 
 }  // namespace ravo::document

@@ -9,7 +9,8 @@
 namespace ravo::document {
 namespace {
 
-using namespace DIUnicode;
+using codec::Encoding;
+using codec::FindEncoding;
 
 // The first bytes of a document, which say how to read its declaration.
 struct Beginning {
@@ -71,22 +72,22 @@ std::string BeginningText(std::string_view bytes, const DocumentCodec* codec) {
 }
 
 // Whether the units have the same width. "UTF-16" names no byte order; the mark decides.
-bool IsSameFamily(const EncodingRow& named, const EncodingRow& seen) {
-  const auto family = [](const EncodingRow& row) {
+bool IsSameFamily(const Encoding& named, const Encoding& seen) {
+  const auto family = [](const Encoding& row) {
     if (row.engine == "Ucs2") return std::string_view("Utf16");
     return row.engine == "Ucs4" ? std::string_view("Utf32") : row.engine;
   };
   return family(named) == family(seen);
 }
 
-bool IsWide(const EncodingRow& row) {
+bool IsWide(const Encoding& row) {
   return row.engine == "Utf16" || row.engine == "Ucs2" || row.engine == "Utf32" || row.engine == "Ucs4";
 }
 
-const EncodingRow& EncodingOf(const Beginning& beginning, std::string_view declared) {
-  const EncodingRow* const seen = FindEncoding(beginning.encoding);
+const Encoding& EncodingOf(const Beginning& beginning, std::string_view declared) {
+  const Encoding* const seen = FindEncoding(beginning.encoding);
   if (declared.empty()) return seen != nullptr ? *seen : *FindEncoding("UTF_8");
-  const EncodingRow* const named = FindEncoding(declared);
+  const Encoding* const named = FindEncoding(declared);
   if (named == nullptr) FailAtStart(Message::UnknownEncoding, {declared});
   if (seen == nullptr && !IsWide(*named)) return *named;
   if (seen != nullptr && IsSameFamily(*named, *seen)) return *seen;
@@ -105,12 +106,21 @@ void DecodeAll(DocumentText& text) {
 
 std::size_t Utf8Size(char32_t c) { return c < 0x80 ? 1 : c < 0x800 ? 2 : c < 0x10000 ? 3 : 4; }
 
+std::size_t CharactersIn(std::string_view utf8) {
+  return static_cast<std::size_t>(std::ranges::count_if(
+      utf8, [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0) != 0x80; }));
+}
+
 // Finds the bytes of characters of a text that are asked for in ascending order.
 class BytePlaces {
  public:
   explicit BytePlaces(const DocumentText& text) : text_(text), byte_(text.mark) {}
   [[nodiscard]] std::size_t Find(std::size_t at) {
     if (IsUtf8(text_)) return text_.mark + at;
+    if (text_.codec->IsSingleByte()) {
+      byte_ += CharactersIn(std::string_view(text_.utf8).substr(at_, at - at_));
+      at_ = at;
+    }
     while (at_ < at) {
       const auto [c, size] = text_.codec->DecodeOne(text_.bytes, byte_);
       at_ += Utf8Size(c);
@@ -136,10 +146,10 @@ DocumentText DecodeDocument(std::string bytes) {
   text.bytes = std::move(bytes);
   const Beginning beginning = BeginningOf(text.bytes);
   text.mark = beginning.mark;
-  const EncodingRow* const seen = FindEncoding(beginning.encoding);
+  const Encoding* const seen = FindEncoding(beginning.encoding);
   const auto first = seen != nullptr ? CodecOf(*seen) : nullptr;
   const std::string begin = BeginningText(std::string_view(text.bytes).substr(text.mark), first.get());
-  const EncodingRow& row = EncodingOf(beginning, DeclaredEncoding(begin));
+  const Encoding& row = EncodingOf(beginning, DeclaredEncoding(begin));
   text.encoding = row.name;
   text.label = codec::ShortLabel(row.label);
   text.codec = CodecOf(row);

@@ -8,7 +8,7 @@ static const char* name_of(ravo_encoding encoding) {
 }
 
 /* `candidates` are their names, each with a blank behind it. */
-static void expect_detected(const char* bytes, size_t length, ravo_detect_flags flags, ravo_evidence evidence,
+static void expect_detected(const char* bytes, size_t length, uint32_t flags, ravo_evidence evidence,
                             const char* candidates) {
   ravo_detection detection = RAVO_DETECTION_INIT;
   char names[256] = "";

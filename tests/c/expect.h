@@ -14,6 +14,9 @@ extern int failures;
 
 #define EXPECT_TEXT(found, expected) EXPECT(strcmp((found), (expected)) == 0)
 
+/* A call with the error `error` that refuses a number and says why. */
+#define EXPECT_RANGE(call, words) (EXPECT((call) == RAVO_RANGE), EXPECT_TEXT(error.message, (words)))
+
 /* A literal and its length. */
 #define TEXT(literal) (literal), sizeof(literal) - 1
 

@@ -34,6 +34,7 @@ static void stand_in_rows(void) {
 }
 
 static void are_no_working_days(void) {
+  ravo_error error = RAVO_ERROR_INIT;
   ravo_day day = 0;
   int32_t days = 0;
   EXPECT(ravo_is_working_day(day_of(2026, 11, 20)) == 1);
@@ -45,9 +46,15 @@ static void are_no_working_days(void) {
   EXPECT(days == 2);
   EXPECT(ravo_working_days_between(day_of(2026, 4, 8), day_of(2026, 4, 2), &days, NULL) == RAVO_OK);
   EXPECT(days == -2);
+  EXPECT_RANGE(ravo_working_days_between(0, 0, &days, &error), "`from` is not in the years 1 to 9999");
+  EXPECT_RANGE(ravo_working_days_between(day_of(1, 1, 1), 0, &days, &error),
+               "`to` is not in the years 1 to 9999");
+  EXPECT(days == -2);
 }
 
 static void put_off_the_ends_of_terms(void) {
+  static const char from[] = "`from` is not in the years 1 to 9999";
+  static const char result[] = "the result is not in the years 1 to 9999";
   ravo_error error = RAVO_ERROR_INIT;
   ravo_term term = RAVO_TERM_INIT;
   int32_t days = 0;
@@ -55,12 +62,16 @@ static void put_off_the_ends_of_terms(void) {
   EXPECT(term.counted == day_of(2026, 11, 21) && term.due == day_of(2026, 11, 23) && term.verified == 1);
   EXPECT(ravo_term_in_months(day_of(2026, 1, 31), 1, &term, NULL) == RAVO_OK);
   EXPECT(term.counted == day_of(2026, 2, 28) && term.due == day_of(2026, 3, 2));
-  EXPECT(ravo_term_in_days(day_of(2026, 11, 7), INT32_MAX, &term, &error) == RAVO_RANGE);
-  EXPECT_TEXT(error.message, "wrong: the day is out of range");
+  EXPECT_RANGE(ravo_term_in_days(day_of(2026, 11, 7), INT32_MAX, &term, &error), result);
   EXPECT(error.code == 0);
+  EXPECT_RANGE(ravo_term_in_days(0, 14, &term, &error), from);
+  EXPECT_RANGE(ravo_term_in_months(day_of(9999, 12, 31), 1, &term, &error), result);
+  EXPECT_RANGE(ravo_term_in_months(0, 1, &term, &error), from);
   EXPECT(ravo_days_overdue(day_of(2026, 11, 20), day_of(2026, 11, 22), &days, NULL) == RAVO_OK && days == 2);
   EXPECT(ravo_days_overdue(day_of(2026, 11, 22), day_of(2026, 11, 20), &days, NULL) == RAVO_OK && days == 0);
-  EXPECT(ravo_days_overdue(INT32_MIN, INT32_MAX, &days, NULL) == RAVO_RANGE);
+  EXPECT_RANGE(ravo_days_overdue(INT32_MIN, INT32_MAX, &days, &error), "`due` is not in the years 1 to 9999");
+  EXPECT_RANGE(ravo_days_overdue(day_of(1, 1, 1), INT32_MAX, &days, &error),
+               "`today` is not in the years 1 to 9999");
 }
 
 void test_holidays(void) {

@@ -34,11 +34,24 @@ static void is_rounded_once(void) {
 }
 
 static void out_of_range_is_refused(void) {
+  static const char step[] = "the step is not above 0";
+  static const char divisor[] = "the denominator times the step does not fit 64 bits";
+  static const char product[] = "the result does not fit 64 bits";
+  const ravo_rounding away = RAVO_ROUND_AWAY;
+  ravo_error error = RAVO_ERROR_INIT;
   ravo_money result = 7;
-  EXPECT(ravo_money_round(1, 0, RAVO_ROUND_AWAY, &result, NULL) == RAVO_RANGE);
-  EXPECT(ravo_money_round(INT64_MAX, 10000, RAVO_ROUND_AWAY, &result, NULL) == RAVO_RANGE);
-  EXPECT(ravo_money_times_ratio(1, 1, 0, 1, RAVO_ROUND_AWAY, &result, NULL) == RAVO_RANGE);
-  EXPECT(ravo_money_times_rate(INT64_MAX, 20000, 1, RAVO_ROUND_AWAY, &result, NULL) == RAVO_RANGE);
+  EXPECT_RANGE(ravo_money_round(1, 0, away, &result, &error), step);
+  EXPECT_RANGE(ravo_money_round(INT64_MAX, 10000, away, &result, &error), product);
+  EXPECT_RANGE(ravo_money_times_ratio(1, 1, 0, -1, away, &result, &error), step);
+  EXPECT_RANGE(ravo_money_times_ratio(1, 1, 0, 1, away, &result, &error), "the denominator is 0");
+  EXPECT_RANGE(ravo_money_times_ratio(1, 1, INT64_MIN, 2, away, &result, &error), divisor);
+  EXPECT_RANGE(ravo_money_times_ratio(1, 1, INT64_MAX, 3, away, &result, &error), divisor);
+  EXPECT(ravo_money_times_ratio(0, 1, INT64_MAX, 2, away, &result, &error) == RAVO_OK && result == 0);
+  result = 7;
+  EXPECT_RANGE(ravo_money_times_ratio(2, INT64_MAX, 1, 1, away, &result, &error), product);
+  EXPECT_RANGE(ravo_money_times_rate(1, 1, 0, away, &result, &error), step);
+  EXPECT_RANGE(ravo_money_times_rate(1, 1, INT64_MAX, away, &result, &error), "the step is too large");
+  EXPECT_RANGE(ravo_money_times_rate(INT64_MAX, 20000, 1, away, &result, &error), product);
   EXPECT(ravo_money_to_crowns(INT64_MAX, RAVO_ROUND_AWAY, &result, &result, NULL) == RAVO_RANGE);
   EXPECT(result == 7);
 }

@@ -71,24 +71,49 @@ static void rounds_as_stored_documents_are(void) {
   EXPECT(ravo_suite_round_value(10050, RAVO_SUITE_ROUND_MATH, 2, &result, NULL) == RAVO_OK &&
          result == 10100);
   EXPECT(ravo_suite_round_value(12345, 3, 2, &result, NULL) == RAVO_OK && result == 12345);
-  EXPECT(ravo_suite_round_value(12345, RAVO_SUITE_ROUND_MATH, -5, &result, NULL) == RAVO_RANGE);
-  EXPECT(ravo_suite_round_value(12345, RAVO_SUITE_ROUND_MATH, 15, &result, NULL) == RAVO_RANGE);
   EXPECT(ravo_suite_round_value_float(3.0, RAVO_SUITE_ROUND_DOWN, 0, &number, NULL) == RAVO_OK);
   EXPECT(number == 2.0);
   EXPECT(ravo_suite_round_value_float(1.005, RAVO_SUITE_ROUND_MATH, 2, &number, NULL) == RAVO_OK);
-  EXPECT(number == 1.0);
-  EXPECT(ravo_suite_round_value_float(HUGE_VAL, RAVO_SUITE_ROUND_MATH, 2, &number, NULL) == RAVO_RANGE);
   EXPECT(number == 1.0);
   EXPECT(ravo_suite_round_dph(12500, 'P', &result, NULL) == RAVO_OK && result == 15000);
   EXPECT(ravo_suite_round_dph(15000, 'M', &result, NULL) == RAVO_OK && result == 20000);
   EXPECT(ravo_suite_round_dph(10100, 'N', &result, NULL) == RAVO_OK && result == 11000);
   EXPECT(ravo_suite_round_dph(12345, 'm', &result, NULL) == RAVO_OK && result == 12345);
   EXPECT(ravo_suite_round_dph(12345, 'M' + 0x10000, &result, NULL) == RAVO_OK && result == 12345);
-  EXPECT(ravo_suite_round_dph(INT64_MAX, 'M', &result, NULL) == RAVO_RANGE);
+}
+
+static void says_which_number_it_cannot_round(void) {
+  static const char decimals[] = "the decimals are not -4 to 14";
+  static const char amount[] = "the scaled amount or the result does not fit 64 bits";
+  ravo_error error = RAVO_ERROR_INIT;
+  ravo_money result = 7;
+  double number = 7;
+  for (int32_t direction = RAVO_SUITE_ROUND_UP; direction <= RAVO_SUITE_ROUND_MATH; ++direction) {
+    for (int32_t places = INT8_MIN; places <= INT8_MAX; ++places) {
+      const ravo_status expected = places < -4 || places > 14 ? RAVO_RANGE : RAVO_OK;
+      EXPECT(ravo_suite_round_value(1, (uint8_t)direction, (int8_t)places, &result, &error) == expected);
+      EXPECT(expected == RAVO_OK || strcmp(error.message, decimals) == 0);
+    }
+    EXPECT_RANGE(ravo_suite_round_value_float(HUGE_VAL, (uint8_t)direction, 2, &number, &error),
+                 "the value is not finite");
+    EXPECT_RANGE(ravo_suite_round_value_float(NAN, (uint8_t)direction, 2, &number, &error),
+                 "the value is not finite");
+    EXPECT_RANGE(ravo_suite_round_value_float(1, (uint8_t)direction, 127, &number, &error),
+                 "the value with its decimals does not fit 64 bits");
+    EXPECT_RANGE(ravo_suite_round_value(INT64_MAX, (uint8_t)direction, 14, &result, &error), amount);
+  }
+  EXPECT(ravo_suite_round_value(1, 3, 15, &result, &error) == RAVO_OK && result == 1);
+  EXPECT(ravo_suite_round_value_float(HUGE_VAL, 3, 127, &number, &error) == RAVO_OK && number == HUGE_VAL);
+  EXPECT_RANGE(ravo_suite_round_value(INT64_MAX, RAVO_SUITE_ROUND_MATH, 0, &result, &error), amount);
+  EXPECT_RANGE(ravo_suite_round_dph(INT64_MAX, 'M', &result, &error), amount);
+  EXPECT(result == 1);
 }
 
 static void writes_moments_for_sql(void) {
+  static const char no_moment[] = "the moment is not in the years 1 to 9999";
+  static const char no_result[] = "the result is not in the years 1 to 9999";
   char text[32];
+  ravo_error error = RAVO_ERROR_INIT;
   ravo_suite_moment moment = 0;
   ravo_day day = 0;
   int32_t milliseconds = 0;
@@ -102,13 +127,24 @@ static void writes_moments_for_sql(void) {
   EXPECT_TEXT(text, "13:05:09:007");
   EXPECT(ravo_suite_moment_parts(moment, &day, &milliseconds, NULL) == RAVO_OK);
   EXPECT(day == 2455562 && milliseconds == 47109007);
-  EXPECT(ravo_suite_sql_date(1e9, text, sizeof text, NULL, NULL) == RAVO_RANGE);
-  EXPECT(ravo_suite_moment_of(2455562, 86400000, &moment, NULL) == RAVO_RANGE);
-  EXPECT(ravo_suite_moment_of(0, 0, &moment, NULL) == RAVO_RANGE);
+  EXPECT_RANGE(ravo_suite_sql_date(1e9, text, sizeof text, NULL, &error), no_moment);
+  EXPECT_RANGE(ravo_suite_sql_date_time(-1e9, text, sizeof text, NULL, &error), no_moment);
+  EXPECT_RANGE(ravo_suite_sql_time(HUGE_VAL, text, sizeof text, NULL, &error), "the moment is not finite");
+  EXPECT_RANGE(ravo_suite_moment_parts(1e9, &day, &milliseconds, &error), no_moment);
+  EXPECT_RANGE(ravo_suite_moment_of(2455562, 86400000, &moment, &error),
+               "the milliseconds are not 0 to 86399999");
+  EXPECT_RANGE(ravo_suite_moment_of(2455562, -1, &moment, &error), "the milliseconds are not 0 to 86399999");
+  EXPECT_RANGE(ravo_suite_moment_of(0, 0, &moment, &error), "the day is not in the years 1 to 9999");
   /* 31 January 2011 and one month. */
   EXPECT(ravo_suite_change_month(40574.5, 7, &moment, NULL) == RAVO_OK && moment == 40602.0);
   EXPECT(ravo_suite_change_year(40574.5, -1, &moment, NULL) == RAVO_OK && moment == 40209.0);
-  EXPECT(ravo_suite_change_year(1e9, -1, &moment, NULL) == RAVO_RANGE);
+  EXPECT_RANGE(ravo_suite_change_year(1e9, -1, &moment, &error), no_moment);
+  EXPECT_RANGE(ravo_suite_change_month(NAN, 1, &moment, &error), no_moment);
+  /* 31 December 9999, and 1 January of the year 1. */
+  EXPECT_RANGE(ravo_suite_change_month(2958465.0, 1, &moment, &error), no_result);
+  EXPECT_RANGE(ravo_suite_change_year(2958465.0, 1, &moment, &error), no_result);
+  EXPECT_RANGE(ravo_suite_change_month(-693593.0, 0, &moment, &error), no_result);
+  EXPECT(moment == 40209.0);
 }
 
 static void forms_texts(void) {
@@ -171,6 +207,7 @@ void test_suite(void) {
   splits_accounts();
   computes_check_digits();
   rounds_as_stored_documents_are();
+  says_which_number_it_cannot_round();
   writes_moments_for_sql();
   forms_texts();
   forms_bytes();

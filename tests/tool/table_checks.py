@@ -187,15 +187,15 @@ def check_split_tables(program):
 # A process begins with the memory of the one that started it: this one is small.
 MEASURE = """
 import os, subprocess, sys
-child = subprocess.Popen(sys.argv[1:], stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+child = subprocess.Popen(sys.argv[2:], stdin=open(sys.argv[1], "rb"), stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
 _, status, usage = os.wait4(child.pid, 0)
 print(os.waitstatus_to_exitcode(status), usage.ru_maxrss * 1024)
 """
 
 
-def peak_memory(command, folder):
-    """The exit status and the largest memory of a program in bytes."""
-    told = subprocess.run([sys.executable, "-c", MEASURE, *command], cwd=folder, check=True, stdout=subprocess.PIPE)
+def peak_memory(command, folder, given=os.devnull):
+    """The exit status and the largest memory in bytes of a program that reads a file."""
+    told = subprocess.run([sys.executable, "-c", MEASURE, given, *command], cwd=folder, check=True, stdout=subprocess.PIPE)
     status, memory = map(int, told.stdout.split())
     return status, memory
 

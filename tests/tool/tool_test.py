@@ -34,7 +34,7 @@ from sort_checks import check_natural_order, check_sorted_encodings, check_sorte
 from survival_checks import check_random_survival, check_survival
 from table_checks import (check_damaged_tables, check_full_output, check_large_tables, check_long_values, check_quoted_tables,
                           check_split_tables, check_table_encodings, check_table_names, check_terminal_tables)
-from value_checks import check_values
+from value_checks import check_answers_in_json, check_memory_of_answers, check_values
 
 # Rows that the harness itself must reject, each for the named reason.
 MUST_FAIL = [
@@ -90,6 +90,8 @@ CHECKS = (
     check_survival,
     check_random_survival,
     check_values,
+    check_answers_in_json,
+    check_memory_of_answers,
     check_dates,
     check_rounding,
     check_vat_rules,

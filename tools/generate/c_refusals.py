@@ -220,13 +220,15 @@ def changes(function: Function, header: Header) -> Iterator[tuple[str, dict[str,
             yield "a null pointer", {one.name: "NULL"}, "RAVO_ARGUMENT"
         if one.role == "struct":
             yield "a struct of no size", {one.name: f"unsized(&{one.name})"}, "RAVO_ARGUMENT"
+        if one.name == "flags":
+            yield "unknown flags", {one.name: "8"}, "RAVO_ARGUMENT"
+            yield "a flag of the sign", {one.name: "0x80000000u"}, "RAVO_ARGUMENT"
         if one.role == "value" and one.type == "ravo_encoding":
             yield "no encoding", {one.name: "-1"}, "RAVO_UNKNOWN" if function.name == "ravo_encoding_at" else "RAVO_ARGUMENT"
             yield "no encoding either", {one.name: "INT32_MAX"}, "RAVO_UNKNOWN" if function.name == "ravo_encoding_at" else "RAVO_ARGUMENT"
         if one.role == "value" and one.type in header.enums:
             yield "a number too low", {one.name: str(min(header.enums[one.type]) - 1)}, "RAVO_ARGUMENT"
-            above = 2 * max(header.enums[one.type]) if one.type.endswith("_flags") else max(header.enums[one.type]) + 1
-            yield "a number too high", {one.name: str(above)}, "RAVO_ARGUMENT"
+            yield "a number too high", {one.name: str(max(header.enums[one.type]) + 1)}, "RAVO_ARGUMENT"
             yield "a number of a low byte", {one.name: str(min(header.enums[one.type]) + 256)}, "RAVO_ARGUMENT"
 
 

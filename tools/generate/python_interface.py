@@ -38,7 +38,7 @@ HAND_RECORDS = ["ravo_bank", "ravo_payment", "ravo_vat_summary", "ravo_invoice_h
 CODES = {"ravo_spayd": "Payment", "ravo_sid": "Invoice"}
 CODE_KEYS = ROOT / "ravo" / "czech" / "payment_code_keys.inc"
 NO_ENUMS = {"ravo_status", "ravo_kind", "ravo_layout"}
-LONE_ENUMS = {"RAVO_SUITE_ROUND_": "SuiteRounding", "RAVO_DOCUMENT_": "DocumentFlags"}
+LONE_ENUMS = {"RAVO_ORDER_": "OrderFlags", "RAVO_DETECT_": "DetectFlags", "RAVO_DOCUMENT_": "DocumentFlags", "RAVO_SUITE_ROUND_": "SuiteRounding"}
 NUMBERS = {
     "int32_t": ("int32_t", "INT32_MIN", "INT32_MAX"), "int64_t": ("int64_t", "INT64_MIN", "INT64_MAX"), "int8_t": ("int8_t", "INT8_MIN", "INT8_MAX"),
     "uint8_t": ("uint8_t", "0", "UINT8_MAX"), "uint32_t": ("uint32_t", "0", "UINT32_MAX"), "size_t": ("size_t", "0", "PTRDIFF_MAX"),
@@ -221,8 +221,10 @@ def taken(one: Parameter, interface: Interface, index: int) -> str:
         return f"TakeBytes({place}, &{one.name})"
     if one.role in ("handle", "open"):
         return f'({one.name} = PyCapsule_GetPointer({place}, "{one.type}")) != NULL'
-    if one.type in ("ravo_day", "ravo_money"):
-        return f"Take{camel(one.type)}(module, {place}, &{one.name})"
+    if one.type == "ravo_day":
+        return f"TakeDay(module, {place}, &{one.name})"
+    if one.type == "ravo_money":
+        return f'TakeMoney(module, {place}, "{one.name}", &{one.name})'
     if one.type == "ravo_kind":
         return f"TakeKind({place}, &{one.name})"
     if one.type in ("double", "ravo_suite_moment"):
@@ -481,6 +483,10 @@ def spoken(words: str) -> str:
 CODE_TYPES = {"Flag": "bool", "Date": "date | str", "Amount": "Amount", "SignedAmount": "Amount", "Rate": "Amount"}
 
 
+def code_words(field: CodeField) -> str:
+    return spoken(field.words) + (', or a Czech account: "19-2000145399/0800"' if field.form == "Account" else "")
+
+
 def code_py(struct: str, interface: Interface) -> str:
     """The function that writes a payment code."""
     fields = interface.codes[struct]
@@ -490,12 +496,12 @@ def code_py(struct: str, interface: Interface) -> str:
     for one in [one for one in fields if not one.needed]:
         kind = CODE_TYPES.get(one.form, "str")
         parameters.append(f"{one.name}: bool = False" if kind == "bool" else f"{one.name}: {kind} | None = None")
-    values = [one.name for one in fields if one.key]
+    values = [f'iban("{one.key}", {one.name})' if one.form == "Account" else one.name for one in fields if one.key]
     flags = [one.name for one in fields if not one.key]
     words = interface.comments[f"{struct}_write"].split("*/")[-1].split(", of at most")[0].replace("Writes", "Returns")
     lines = [f"def {name}(", *(f"    {one}," for one in parameters), ") -> str:",
              f'    """{words.rstrip(".")}; ravo.Error, whose message begins with the key of the value that is wrong.', "",
-             *(f"    {one.name}: {', '.join(filter(None, [one.key, spoken(one.words)]))}" for one in fields),
+             *(f"    {one.name}: {', '.join(filter(None, [one.key, code_words(one)]))}" for one in fields),
              '    """',
              *textwrap.wrap(f"return _ravo.{name}(texts({', '.join(values)}), {', '.join(flags)})", 140, initial_indent=" " * 4, subsequent_indent=" " * 8)]
     return "\n".join(lines)
@@ -504,7 +510,7 @@ def code_py(struct: str, interface: Interface) -> str:
 def codes_py(interface: Interface) -> str:
     """The functions that write payment codes."""
     head = [f'"""Codes of payments and invoices, value by value.\n\n{NOTE}\n"""', "from __future__ import annotations\n",
-            "from . import _ravo", "from ._values import texts\n", "TYPE_CHECKING = False", "if TYPE_CHECKING:", "    from datetime import date\n",
+            "from . import _ravo", "from ._values import iban, texts\n", "TYPE_CHECKING = False", "if TYPE_CHECKING:", "    from datetime import date\n",
             "    from .money import Amount"]
     return "\n".join(head) + "\n\n\n" + "\n\n\n".join(code_py(struct, interface) for struct in interface.codes) + "\n"
 

@@ -4,9 +4,10 @@
 #include "czech_day.h"
 #include "czech_kinds.h"
 #include "input_lines.h"
-#include "json_text.h"
+#include "json_array.h"
 #include "kind_lines.h"
 #include "nearest.h"
+#include "output_pieces.h"
 #include "program_values.h"
 #include "text.h"
 #include "value_reasons.h"
@@ -89,16 +90,17 @@ Json ValueJson(const std::string& value, const CheckKind& kind, const std::optio
 
 void CheckSuiteValues(const CheckOptions& options, Outcome& outcome) {
   const CheckKind& kind = *FindCheckKind(options.kind);
-  Json answers = Json::array();
-  for (const std::string& value : WithInputLines(options.values)) {
+  JsonArray answers(outcome);
+  ForEachValue(options.values, [&](const std::string& value) {
     const std::u16string text = ravo::FromUtf8(value);
     std::optional<ValueReason> reason;
     if (!kind.check(text).valid) reason = WhyInvalid(kind, text);
     if (reason) outcome.answer = Answer::No;
-    if (options.json) answers.push_back(ValueJson(value, kind, reason));
-    outcome.out += value + "\t" + (reason ? Text("not valid: {0}", {reason->message}) : Text("valid")) + "\n";
-  }
-  if (options.json) outcome.out = JsonText(answers);
+    if (options.json) return answers.Add(ValueJson(value, kind, reason));
+    const std::string verdict = reason ? Text("not valid: {0}", {reason->message}) : Text("valid");
+    AddOutput(outcome, value + "\t" + verdict + "\n");
+  });
+  if (options.json) answers.Finish();
   const std::string note = options.suite ? std::string() : SuiteRuleNote(kind);
   if (!note.empty()) Complain(outcome, options.kind + ": " + note, Answer::Yes);
 }
@@ -111,7 +113,7 @@ void CheckValues(const CheckOptions& options, Outcome& outcome) {
   if (options.suite || !FindCzechKind(options.kind)) return CheckSuiteValues(options, outcome);
   CzechCheck check = options.czech;
   check.kind = options.kind;
-  check.values = WithInputLines(options.values);
+  check.values = options.values;
   check.json = options.json;
   CheckCzechValues(check, outcome);
 }

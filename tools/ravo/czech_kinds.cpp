@@ -1,7 +1,9 @@
 #include "czech_kinds.h"
 
 #include "czech_day.h"
-#include "json_text.h"
+#include "input_lines.h"
+#include "json_array.h"
+#include "output_pieces.h"
 #include "text.h"
 #include "whole_input.h"
 #include <ravo/RavoInterface.h>
@@ -283,14 +285,14 @@ void CheckCzechValues(const CzechCheck& check, Outcome& outcome) {
       return Complain(outcome, check.list + ": " + fault, Answer::WrongUsage);
     }
   }
-  Json answers = Json::array();
-  for (const std::string& value : check.values) {
+  JsonArray answers(outcome);
+  ForEachValue(check.values, [&](const std::string& value) {
     const CzechFinding finding = Examine(kind, value, check, check.list.empty() ? nullptr : &banks.list);
     if (finding.code != czech::Code::Correct) outcome.answer = Answer::No;
-    outcome.out += CzechFindingText(kind, value, finding, check.explain);
-    answers.push_back(CzechFindingJson(check.kind, value, finding));
-  }
-  if (check.json) outcome.out = JsonText(answers);
+    if (check.json) return answers.Add(CzechFindingJson(check.kind, value, finding));
+    AddOutput(outcome, CzechFindingText(kind, value, finding, check.explain));
+  });
+  if (check.json) answers.Finish();
 }
 
 }  // namespace tool

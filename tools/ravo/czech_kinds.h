@@ -20,10 +20,10 @@ namespace tool {
 /// What is asked of values beyond their form.
 struct CzechCheck {
   std::string kind;
-  std::vector<std::string> values;
-  std::string list;       // the file of a list of banks, "built-in", or empty
-  std::string list_date;  // of that file; today if empty
-  std::string on;         // the day of the question, or empty
+  std::vector<std::string> values;  // "-" stands for the lines of standard input
+  std::string list;                 // the file of a list of banks, "built-in", or empty
+  std::string list_date;            // of that file; today if empty
+  std::string on;                   // the day of the question, or empty
   bool explain = false;
   bool json = false;
 };

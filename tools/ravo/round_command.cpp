@@ -2,10 +2,12 @@
 #include "csv_column.h"
 #include "file_reason.h"
 #include "input_lines.h"
-#include "json_text.h"
+#include "json_array.h"
+#include "output_pieces.h"
 #include "program_values.h"
 #include "round_answer.h"
 #include "text.h"
+#include "whole_input.h"
 
 #include <map>
 #include <memory>
@@ -58,14 +60,14 @@ Json JsonOf(const std::string& input, const RoundAnswer& answer) {
 
 void RoundAmounts(const RoundOptions& options, Outcome& outcome) {
   const RoundRequest request = RequestOf(options);
-  Json answers = Json::array();
-  for (const std::string& text : WithInputLines(options.amounts)) {
+  JsonArray answers(outcome);
+  ForEachValue(options.amounts, [&](const std::string& text) {
     const RoundAnswer answer = AnswerRound(text, request);
-    if (!answer.message.empty()) Complain(outcome, text + ": " + answer.message, answer.answer);
-    if (options.json) answers.push_back(JsonOf(text, answer));
-    if (!options.json && answer.rounded) outcome.out += text + "\t" + RoundedText(answer, request) + "\n";
-  }
-  if (options.json) outcome.out = JsonText(answers);
+    if (!answer.message.empty()) ComplainOfOne(outcome, text + ": " + answer.message, answer.answer);
+    if (options.json) return answers.Add(JsonOf(text, answer));
+    if (answer.rounded) AddOutput(outcome, text + "\t" + RoundedText(answer, request) + "\n");
+  });
+  if (options.json) answers.Finish();
 }
 
 // The messages about a table: the first ones, then their number.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "outcome.h"
+#include "output_pieces.h"
 #include <ravo/document/edit.h>
 
 #include <string>
@@ -33,9 +33,6 @@ XmlWork ListXmlTokens;
 XmlWork SetXml;
 XmlWork CheckXml;
 XmlWork FormatXml;
-
-/// Adds to the output, which is written as it grows.
-void AddOutput(Outcome& outcome, std::string_view text);
 
 /// Returns a text of several lines in the form for a terminal, with its control characters made visible.
 [[nodiscard]] std::string OnLines(std::string_view utf8);

@@ -1,6 +1,7 @@
 """Amounts: decimal.Decimal is the witness of rounding."""
 import decimal
 from collections.abc import Callable
+from datetime import date
 from decimal import Decimal
 from fractions import Fraction
 
@@ -8,7 +9,7 @@ import pytest
 import ravo
 from hypothesis import given
 from hypothesis import strategies as some
-from ravo import money, suite, vat
+from ravo import holidays, money, suite, vat
 from ravo.records import Rounding
 
 AMOUNTS = some.decimals(min_value=-10**12, max_value=10**12, places=4)
@@ -67,7 +68,7 @@ def test_exponents_are_no_other_amounts() -> None:
 
 def test_steps_and_rates() -> None:
     for wrong in (0, -1):
-        with pytest.raises(ravo.Error) as raised:
+        with pytest.raises(ravo.Error, match="^the step is not above 0$") as raised:
             ravo.round_money(1, wrong)
         assert raised.value.code == "range"
     assert money.times_rate("-100", "0.125") == Decimal("-12.50")
@@ -111,6 +112,24 @@ def test_vat_of_documents() -> None:
     with pytest.raises(ravo.Error) as raised:
         vat.compute(1, 101)
     assert raised.value.code == "rate.unknown"
+
+
+@pytest.mark.parametrize(("call", "words"), [
+    (lambda: money.times_ratio(1, 1, 0), "the denominator is 0"), (lambda: money.times_ratio(1, 1, 2**62, "0.0008"), "the denominator times the step does not"),
+    (lambda: money.times_ratio(10**14, 10, 1), "the result does not fit 64 bits"), (lambda: money.times_rate(1, 1, 10**14 * 2), "the step is too large"),
+    (lambda: money.times_rate(1, 1, 10**15), "step: the amount does not fit 64 bits"), (lambda: money.times_rate(1, 10**15), "rate: the amount"),
+    (lambda: money.times_rate(10**15, 1), "amount: the amount"), (lambda: money.times_rate(1, "x"), "rate: the text is no amount"),
+    (lambda: money.times_rate(1, 1, Decimal("0.00001")), "step: the text is no amount"),
+    (lambda: vat.recapitulate([("x", vat.VatKind.STANDARD)], ravo.days.read("1. 6. 2014")), "amount: the text is no amount"),
+    (lambda: suite.round_value(1, decimals=15), "the decimals are not -4 to 14"), (lambda: suite.round_value("9e14", decimals=14), "amount: the text"),
+    (lambda: suite.round_value(9 * 10**14, decimals=14), "the scaled amount or the result does not fit"),
+    (lambda: suite.round_float(float("inf")), "the value is not finite"), (lambda: suite.round_float(1e9, decimals=100), "the value with its decimals does not"),
+    (lambda: holidays.term_in_days(date.max, 1), "the result is not in the years 1 to 9999"),
+    (lambda: ravo.days.add_months(date.max, 1), "the result is not in the years 1 to 9999"),
+    (lambda: ravo.days.days_in_month(2026, 13), "the month is not 1 to 12"), (lambda: ravo.days.days_in_month(10000, 1), "the year is not 1 to 9999")])
+def test_numbers_out_of_range_are_named(call: Callable[[], object], words: str) -> None:
+    with pytest.raises(ravo.Error, match="^" + words):
+        call()
 
 
 def test_the_suite_rounds_by_its_own_rules() -> None:

@@ -84,6 +84,29 @@ def test_wrong_values_are_told(values: dict[str, Any], code: str, position: int 
     assert position is None or raised.value.position == position
 
 
+CZECH = "19-2000145399/0800"
+
+
+@pytest.mark.parametrize("account", ["19-2000145398/0800", "2000145399/80", "2000145399/", "/", "a/0800", "19-2000145399/0800+GIBACZPX",
+                                     "CZ6508000000192000145399/0800", "2000145399/0800\0"])
+def test_wrong_czech_accounts_are_wrong_as_in_a_check(account: str) -> None:
+    found = ravo.check.account(account)
+    for wrong in (lambda: payments.spayd(account), lambda: payments.sid("1", "20261122", amount=1, account=account)):
+        with pytest.raises(ravo.Error) as raised:
+            wrong()
+        assert (raised.value.code, raised.value.position, str(raised.value)) == (found.reason, found.position, f"ACC: {found.message}")
+
+
+def test_czech_accounts_become_ibans(program: Callable[..., Any]) -> None:
+    text = payments.spayd(CZECH, currency="CZK")
+    assert text == payments.spayd(ACCOUNT, currency="CZK") == program("qr", CZECH)["text"]
+    assert payments.sid("1", "20261122", amount=1, account=" 19 - 2000145399 / 0800 ").endswith(f"*ACC:{ACCOUNT}")
+    assert payments.read(payments.spayd(ACCOUNT + "+GIBACZPX")).values["ACC"] == ACCOUNT + "+GIBACZPX"
+    with pytest.raises(ravo.Error) as raised:
+        payments.spayd("2000145399")
+    assert raised.value.code.startswith("iban.") and str(raised.value).startswith("ACC: ")
+
+
 @pytest.mark.parametrize("value", [1.5, True, b"1", object()])
 def test_other_types_are_refused(value: Any) -> None:
     with pytest.raises(TypeError):

@@ -94,7 +94,7 @@ static int TakeLine(ravo_module* module, PyObject* pair, ravo_vat_line* line) {
   PyObject* amount = PySequence_GetItem(pair, 0);
   PyObject* kind = amount == NULL ? NULL : PySequence_GetItem(pair, 1);
   long long number = 0;
-  const int taken = kind != NULL && TakeMoney(module, amount, &line->amount) &&
+  const int taken = kind != NULL && TakeMoney(module, amount, "amount", &line->amount) &&
                     TakeNumber(kind, "kind", INT32_MIN, INT32_MAX, &number);
   line->kind = (ravo_vat_kind)number;
   Py_XDECREF(amount);

@@ -5,7 +5,7 @@ Written by tools/generate/python_interface.py from c/ravo.h; not to be edited by
 from __future__ import annotations
 
 from . import _ravo
-from ._values import texts
+from ._values import iban, texts
 
 TYPE_CHECKING = False
 if TYPE_CHECKING:
@@ -38,8 +38,8 @@ def spayd(
 ) -> str:
     """Returns the code of a payment; ravo.Error, whose message begins with the key of the value that is wrong.
 
-    account: ACC, an IBAN, perhaps with "+" and a BIC
-    other_accounts: ALT-ACC, one or two of them, divided by a comma
+    account: ACC, an IBAN, perhaps with "+" and a BIC, or a Czech account: "19-2000145399/0800"
+    other_accounts: ALT-ACC, one or two such IBANs, divided by a comma
     amount: AM, "450.00"
     currency: CC, "CZK"
     reference: RF, digits for the receiver
@@ -58,8 +58,8 @@ def spayd(
     invoice: X-INV, an invoice code, from sid
     checksum: true to end the code with CRC32
     """
-    return _ravo.spayd(texts(account, other_accounts, amount, currency, reference, receiver, due, payment_type, message, notify_by,
-        notify_to, retry_days, variable_symbol, specific_symbol, constant_symbol, own_id, url, invoice), checksum)
+    return _ravo.spayd(texts(iban("ACC", account), other_accounts, amount, currency, reference, receiver, due, payment_type, message,
+        notify_by, notify_to, retry_days, variable_symbol, specific_symbol, constant_symbol, own_id, url, invoice), checksum)
 
 
 def sid(
@@ -124,7 +124,7 @@ def sid(
     currency: CC, "CZK"
     exchange_rate: FX, crowns for `exchange_count` units of the currency
     exchange_count: FXA
-    account: ACC, an IBAN, perhaps with "+" and a BIC
+    account: ACC, an IBAN, perhaps with "+" and a BIC, or a Czech account: "19-2000145399/0800"
     software: X-SW
     url: X-URL
     inside: the code goes into a payment code, which has what is left out
@@ -132,4 +132,4 @@ def sid(
     """
     return _ravo.sid(texts(number, issued, amount, tax_type, document_type, has_deposits, message, order, variable_symbol, supplier_dic,
         supplier_ico, customer_dic, customer_ico, tax_point, tax_due, due, base_standard, tax_standard, base_reduced, tax_reduced,
-        base_second, tax_second, untaxed, currency, exchange_rate, exchange_count, account, software, url), inside, checksum)
+        base_second, tax_second, untaxed, currency, exchange_rate, exchange_count, iban("ACC", account), software, url), inside, checksum)

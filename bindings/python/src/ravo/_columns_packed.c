@@ -80,7 +80,7 @@ static int FailAt(const ravo_module* module, size_t row) {
 typedef int (*taking)(ravo_module* module, PyObject* object, void* place);
 
 static int TakeAmountAt(ravo_module* module, PyObject* object, void* place) {
-  return TakeMoney(module, object, place);
+  return TakeMoney(module, object, "amount", place);
 }
 
 static int TakeDayAt(ravo_module* module, PyObject* object, void* place) {

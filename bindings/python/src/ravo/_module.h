@@ -58,7 +58,7 @@ int TakeCount(const char* name, Py_ssize_t count, Py_ssize_t wanted);
 int TakeText(PyObject* object, text_in* text);
 int TakeBytes(PyObject* object, bytes_in* bytes);
 int TakeDay(ravo_module* module, PyObject* object, ravo_day* day);
-int TakeMoney(ravo_module* module, PyObject* object, ravo_money* amount);
+int TakeMoney(ravo_module* module, PyObject* object, const char* name, ravo_money* amount);
 int TakeKind(PyObject* object, ravo_kind* kind);
 int TakeDouble(PyObject* object, double* number);
 int TakeNumber(PyObject* object, const char* name, long long low, long long high, long long* number);

@@ -56,7 +56,14 @@ PyObject* MakeDay(ravo_module* module, ravo_day day) {
   return type == NULL ? NULL : PyObject_CallMethod(type, "fromordinal", "i", (int)day - DAY_ZERO);
 }
 
-static int TakeWholeMoney(ravo_module* module, PyObject* object, ravo_money* amount) {
+/* Raises an exception about one of several amounts. */
+static int RaiseAmount(ravo_module* module, const char* name, ravo_error* error, const text_in* text) {
+  const ravo_error plain = *error;
+  PyOS_snprintf(error->message, sizeof error->message, "%s: %s", name, plain.message);
+  return Raise(module, error, text) != NULL;
+}
+
+static int TakeWholeMoney(ravo_module* module, PyObject* object, const char* name, ravo_money* amount) {
   int overflow = 0;
   const long long number = PyLong_AsLongLongAndOverflow(object, &overflow);
   if (overflow == 0 && !PyErr_Occurred() && number <= INT64_MAX / 10000 && number >= INT64_MIN / 10000) {
@@ -65,37 +72,37 @@ static int TakeWholeMoney(ravo_module* module, PyObject* object, ravo_money* amo
   }
   if (PyErr_Occurred()) return 0;
   ravo_error error = {sizeof(ravo_error), RAVO_RANGE, 0, 0, "the amount does not fit 64 bits"};
-  return Raise(module, &error, NULL) != NULL;
+  return RaiseAmount(module, name, &error, NULL);
 }
 
-static int TakeMoneyText(ravo_module* module, PyObject* object, ravo_money* amount) {
+static int TakeMoneyText(ravo_module* module, PyObject* object, const char* name, ravo_money* amount) {
   text_in text = {NULL, 0};
   ravo_error error = RAVO_ERROR_INIT;
   if (!TakeText(object, &text)) return 0;
   return ravo_money_read(text.bytes, text.length, '.', amount, &error) == RAVO_OK ||
-         Raise(module, &error, &text) != NULL;
+         RaiseAmount(module, name, &error, &text);
 }
 
 /* An amount of more digits than 64 bits have would be a long text: it is refused before it becomes one. */
-static int TakeDecimal(ravo_module* module, PyObject* object, ravo_money* amount) {
+static int TakeDecimal(ravo_module* module, PyObject* object, const char* name, ravo_money* amount) {
   PyObject* adjusted = PyObject_CallMethod(object, "adjusted", NULL);
   const long exponent = adjusted == NULL ? 0 : PyLong_AsLong(adjusted);
   Py_XDECREF(adjusted);
   if (PyErr_Occurred()) return 0;
   PyObject* format = exponent > 30 || exponent < -4000 ? NULL : PyUnicode_FromString("f");
   PyObject* digits = format == NULL ? PyObject_Str(object) : PyObject_Format(object, format);
-  const int taken = digits != NULL && TakeMoneyText(module, digits, amount);
+  const int taken = digits != NULL && TakeMoneyText(module, digits, name, amount);
   Py_XDECREF(format);
   Py_XDECREF(digits);
   return taken;
 }
 
-int TakeMoney(ravo_module* module, PyObject* object, ravo_money* amount) {
-  if (PyLong_Check(object) && !PyBool_Check(object)) return TakeWholeMoney(module, object, amount);
-  if (PyUnicode_Check(object)) return TakeMoneyText(module, object, amount);
+int TakeMoney(ravo_module* module, PyObject* object, const char* name, ravo_money* amount) {
+  if (PyLong_Check(object) && !PyBool_Check(object)) return TakeWholeMoney(module, object, name, amount);
+  if (PyUnicode_Check(object)) return TakeMoneyText(module, object, name, amount);
   PyObject* type = DecimalType(module);
   const int is_decimal = type == NULL ? -1 : PyObject_IsInstance(object, type);
-  if (is_decimal == 1) return TakeDecimal(module, object, amount);
+  if (is_decimal == 1) return TakeDecimal(module, object, name, amount);
   if (is_decimal == 0) ExpectedType("Decimal, str or int", object);
   return 0;
 }

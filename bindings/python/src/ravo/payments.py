@@ -1,10 +1,10 @@
 """The texts of Czech QR codes: payments (SPAYD) and invoices (SID), written and read.
 
 Values are plain: percent signs, asterisks and what is not ASCII are encoded and decoded. A day is a datetime.date, an
-amount a Decimal, str or int, and never a float.
+amount a Decimal, str or int, and never a float. An account is an IBAN or a Czech account, which becomes its IBAN.
 
 >>> from datetime import date
->>> code = spayd("CZ6508000000192000145399", amount="450.00", variable_symbol="2026000579", due=date(2026, 12, 31))
+>>> code = spayd("19-2000145399/0800", amount="450.00", variable_symbol="2026000579", due=date(2026, 12, 31))
 >>> code
 'SPD*1.0*ACC:CZ6508000000192000145399*AM:450.00*DT:20261231*X-VS:2026000579'
 >>> read(code).values["AM"]

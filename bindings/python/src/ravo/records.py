@@ -105,7 +105,7 @@ class InvoiceSeverity(IntEnum):
 
 
 class OrderFlags(IntEnum):
-    """How texts compare; add up what is wanted."""
+    """How texts compare."""
 
     PLAIN = 0  # as said above
     IGNORE_CASE = 1  # small letters and capitals are equal
@@ -191,7 +191,7 @@ class SuiteHashOf(IntEnum):
 
 
 class DetectFlags(IntEnum):
-    """Which texts are possible; add up what is wanted."""
+    """Which texts are possible."""
 
     PLAIN = 0  # Czech texts of Windows, DOS and Unix, and of every form of Unicode
     MAC = 1  # and those of the Macintosh: Mac Central European
@@ -219,7 +219,7 @@ class ConvertPolicy(IntEnum):
 
 
 class DocumentFlags(IntEnum):
-    """How values are read and set; add up what is wanted."""
+    """How values are read and set."""
 
     RAW = 1  # the value is XML as it is written: references and tags
     REFERENCES = 2  # set: a character that the encoding lacks becomes a reference such as &#x159;
