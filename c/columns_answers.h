@@ -3,6 +3,7 @@
 #include "columns.h"
 
 #include <array>
+#include <span>
 #include <string>
 #include <type_traits>
 
@@ -71,6 +72,7 @@ struct NoValues {
   [[nodiscard]] bool Put(std::size_t /*row*/, const Value& /*value*/) noexcept {
     return true;
   }
+  [[nodiscard]] static std::span<std::uint8_t> Room() noexcept { return {}; }
   [[nodiscard]] ravo_status Finish(ravo_error* /*error*/) const noexcept { return RAVO_OK; }
 };
 
@@ -107,9 +109,16 @@ class TextsOfRows {
   }
   [[nodiscard]] bool Put(std::size_t row, std::string_view text) noexcept {
     if (texts_.layout == RAVO_LAYOUT_FIXED) return PutFixed(text);
-    if (MakeRoom(text.size())) std::copy_n(text.data(), text.size(), texts_.data + length_);
+    if (MakeRoom(text.size()) && text.data() != texts_.data + length_)
+      std::copy_n(text.data(), text.size(), texts_.data + length_);
     length_ += text.size();
     return EndRow(row);
+  }
+
+  /// Where the next text goes: one that is already there is not copied.
+  [[nodiscard]] std::span<std::uint8_t> Room() const noexcept {
+    if (!fits_ || texts_.data == nullptr) return {};
+    return {reinterpret_cast<std::uint8_t*>(texts_.data) + length_, texts_.data_size - length_};
   }
 
   [[nodiscard]] ravo_status Finish(ravo_error* error) const noexcept {
@@ -206,7 +215,10 @@ class AnswersJob {
   AnswersJob(Rule& rule, Writer writer, const ravo_answers& answers) noexcept
       : rule_(rule), codes_(answers), writer_(writer) {}
 
-  [[nodiscard]] Result Of(std::string_view value) { return rule_(value); }
+  [[nodiscard]] Result Of(std::string_view value) {
+    if constexpr (requires { rule_.BeginIn(writer_.Room()); }) rule_.BeginIn(writer_.Room());
+    return rule_(value);
+  }
   template <class Given>
   [[nodiscard]] bool Put(std::size_t row, const Given& given) noexcept {
     codes_.Put(row, static_cast<std::uint16_t>(given.code));

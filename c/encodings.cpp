@@ -3,6 +3,7 @@
 #include "handles.h"
 #include "piece_converter.h"
 #include <ravo/codec/byte_order_mark.h>
+#include <ravo/convert/byte_conversions.h>
 
 using ravo::c::Answer;
 using ravo::c::BytesOf;
@@ -99,11 +100,17 @@ class RowConverter {
  public:
   explicit RowConverter(const convert::Conversion& conversion)
       : keeps_ascii_(conversion.from->decode_until != nullptr && conversion.to->decode_until != nullptr),
+        from_(*conversion.from),
+        to_(*conversion.to),
         converter_(conversion) {}
 
+  /// Begins the next text in memory of the caller, where it stays if there is room for it.
+  void BeginIn(codec::ByteRoom memory) { memory_ = memory; }
+
   [[nodiscard]] Answer<std::string_view> operator()(std::string_view text) {
+    if (const auto size = ConvertBytes(text)) return {{reinterpret_cast<char*>(memory_.data()), *size}};
     if (keeps_ascii_ && IsAscii(text)) return {text};
-    converted_.bytes.Clear();
+    converted_.bytes.BeginIn(memory_);
     if (converter_.ConvertAtOnce(BytesOf(text), converted_.bytes)) return {converted_.bytes.Text()};
     converted_.fault.reset();
     converter_.Restart();
@@ -116,7 +123,29 @@ class RowConverter {
   }
 
  private:
+  // Converts a short text in the memory of the caller.
+  [[nodiscard]] std::optional<std::size_t> ConvertBytes(std::string_view text) {
+    constexpr std::size_t kShort = 32;
+    if (text.size() > kShort || text.size() * convert::ByteConversions::kMostBytes > memory_.size())
+      return std::nullopt;
+    return HasByteConversions() ? by_byte_->Convert(BytesOf(text), memory_) : std::nullopt;
+  }
+
+  // To make them takes as long as to convert some hundred texts.
+  [[nodiscard]] bool HasByteConversions() {
+    constexpr std::size_t kManyTexts = 512;
+    if (by_byte_) return true;
+    if (from_.table == nullptr || to_.encode_run == nullptr || ++short_texts_ < kManyTexts) return false;
+    by_byte_.emplace(from_, to_);
+    return true;
+  }
+
   bool keeps_ascii_;
+  const codec::Encoding& from_;
+  const codec::Encoding& to_;
+  std::optional<convert::ByteConversions> by_byte_;
+  std::size_t short_texts_ = 0;
+  codec::ByteRoom memory_;
   convert::TextConverter converter_;
   convert::Converted converted_;
 };

@@ -35,16 +35,18 @@ struct Words {
 };
 
 template <class Codec>
-constexpr bool kHasEveryByte = false;
+constexpr const ByteTable* kTable = nullptr;
 template <const ByteTable& table>
-constexpr bool kHasEveryByte<SingleByte<table>> = std::ranges::none_of(table, IsSpecial);
+constexpr const ByteTable* kTable<SingleByte<table>> = &table;
 
 // Untested: runs at compile time only.
 template <class Codec, bool reads, bool writes>
 consteval Encoding Row(const Words& words) {
-  Encoding row{
-      words.name, words.label, words.code_page, words.aliases, words.engine, words.notes,         nullptr,
-      nullptr,    nullptr,     nullptr,         nullptr,       nullptr,      kHasEveryByte<Codec>};
+  Encoding row{words.name,  words.label, words.code_page, words.aliases, words.engine,
+               words.notes, nullptr,     nullptr,         nullptr,       nullptr,
+               nullptr,     nullptr,     false,           kTable<Codec>};
+  if constexpr (kTable<Codec> != nullptr)
+    row.has_every_byte = std::ranges::none_of(*kTable<Codec>, IsSpecial);
   if constexpr (reads) row.decode_one = DecodeOne<Codec>;
   if constexpr (writes) row.encode_one = EncodeOne<Codec>;
   if constexpr (writes && codecs::HasState<Codec>) row.flush = Codec::template Flush<SpanTarget>;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <ravo/codec/kernels/run.h>
+#include <ravo/codec/kernels/single_byte_table.h>
 #include <ravo/codec/utf7_state.h>
 
 #include <cstddef>
@@ -71,6 +72,8 @@ struct Encoding {
   DecodeUntil decode_until;
   /// Whether every byte is a character, so that decoding gives no special unit (`IsSpecial`).
   bool has_every_byte;
+  /// The characters of a single-byte encoding, U+FFFD for a byte without one; else null.
+  const ByteTable* table;
 };
 
 /// All encodings, in the order of rows.inc.

@@ -37,7 +37,8 @@ class ByteBuffer {
  private:
   [[nodiscard]] std::span<std::uint8_t> Memory() { return given_.empty() ? std::span(own_) : given_; }
 
-  void Grow(std::size_t size) {
+  // Out of line: `Room` is inlined into the loop over the rows of a column.
+  [[gnu::noinline, gnu::cold]] void Grow(std::size_t size) {
     const std::size_t least = size_ + size;
     if (given_.empty()) {
       own_.resize(std::max(2 * own_.size(), least));

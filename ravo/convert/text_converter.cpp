@@ -197,10 +197,12 @@ bool TextConverter::ConvertAtOnce(codec::ByteSpan bytes, ByteBuffer& to) {
   constexpr std::size_t kMostBytes = 4;  // from one unit
   const codec::Encoding& from = from_.Row();
   const codec::EncodeRun encode = to_.Row().encode_run;
+  const bool lacks_special = to_.Row().table != nullptr;
   if (bytes.size() > kUnits || from.decode_run == nullptr || encode == nullptr) return false;
   const codec::Run read = from.decode_run(bytes, units_);
   const auto text = std::span(units_).first(read.made);
-  if (read.taken != bytes.size() || CountUsual(from, text) != text.size()) return false;
+  if (read.taken != bytes.size()) return false;
+  if (!lacks_special && CountUsual(from, text) != text.size()) return false;
   const codec::Run written = encode(text, to.Room(kMostBytes * text.size()));
   if (written.taken != text.size()) return false;
   to.Add(written.made);

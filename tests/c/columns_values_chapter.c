@@ -306,6 +306,82 @@ static void texts_that_fit_no_width_end_the_call(void) {
   EXPECT(found.texts.data_length == 6);
 }
 
+/* Enough rows that short ones are converted by a table; one is too long for it, and one is malformed. */
+enum { MANY_ROWS = 1500, KINDS_OF_ROWS = 6 };
+
+static const char* const many_texts[KINDS_OF_ROWS] = {
+    "\332\350et", "plain",    "", "\350tvrt\375 \370\341dek, del\232\355 ne\236 t\370icet dva byty",
+    "x\201",      "slu\236by"};
+static const char* const many_utf8[KINDS_OF_ROWS] = {
+    "Účet", "plain", "", "čtvrtý řádek, delší než třicet dva byty", "", "služby"};
+
+typedef struct many_rows {
+  ravo_column column;
+  ravo_answers answers;
+  ravo_texts texts;
+  int32_t from[MANY_ROWS + 1];
+  int32_t to[MANY_ROWS + 1];
+  uint16_t codes[MANY_ROWS];
+  char data[MANY_ROWS * 16];
+  char made[MANY_ROWS * 16];
+} many_rows;
+
+static void lay_out_many(many_rows* rows) {
+  const ravo_column column = RAVO_COLUMN_INIT;
+  size_t row;
+  rows->column = column;
+  rows->column.layout = RAVO_LAYOUT_OFFSETS_32;
+  rows->column.length = MANY_ROWS;
+  rows->column.values = rows->from;
+  rows->column.data = rows->data;
+  rows->from[0] = 0;
+  for (row = 0; row < MANY_ROWS; ++row) {
+    const char* const text = many_texts[row % KINDS_OF_ROWS];
+    memcpy(rows->data + rows->from[row], text, strlen(text));
+    rows->from[row + 1] = rows->from[row] + (int32_t)strlen(text);
+  }
+  rows->column.data_size = (size_t)rows->from[MANY_ROWS];
+}
+
+static ravo_status convert_many(many_rows* rows, size_t data_size) {
+  const ravo_answers answers = RAVO_ANSWERS_INIT;
+  const ravo_texts texts = RAVO_TEXTS_INIT;
+  memset(rows->made, 0x55, sizeof rows->made);
+  rows->answers = answers;
+  rows->answers.codes = rows->codes;
+  rows->answers.texts = &rows->texts;
+  rows->texts = texts;
+  rows->texts.layout = RAVO_LAYOUT_OFFSETS_32;
+  rows->texts.offsets = rows->to;
+  rows->texts.data = rows->made;
+  rows->texts.data_size = data_size;
+  return ravo_convert_column(encoding_named("windows-1250"), &rows->column, 0, encoding_named("utf-8"),
+                             RAVO_CONVERT_STRICT, &rows->answers, NULL, NULL, NULL);
+}
+
+/* The memory of the results ends at any place. */
+static void many_rows_are_converted(void) {
+  static many_rows rows;
+  size_t total, size;
+  lay_out_many(&rows);
+  EXPECT(convert_many(&rows, sizeof rows.made) == RAVO_OK);
+  EXPECT(rows.answers.wrong == MANY_ROWS / KINDS_OF_ROWS);
+  total = rows.texts.data_length;
+  for (size = total - 150; size <= total; ++size) {
+    size_t row, wrong = 0;
+    EXPECT(convert_many(&rows, size) == (size == total ? RAVO_OK : RAVO_BUFFER));
+    EXPECT(rows.texts.data_length == total && rows.made[size] == 0x55);
+    for (row = 0; row < MANY_ROWS; ++row) {
+      const char* const text = many_utf8[row % KINDS_OF_ROWS];
+      const size_t end = (size_t)rows.to[row + 1];
+      const int is_there = end > size || memcmp(rows.made + rows.to[row], text, strlen(text)) == 0;
+      wrong += end - (size_t)rows.to[row] != strlen(text) || !is_there ? 1u : 0u;
+      wrong += rows.codes[row] != (row % KINDS_OF_ROWS == 4 ? RAVO_CODE_MALFORMED : 0) ? 1u : 0u;
+    }
+    EXPECT(wrong == 0);
+  }
+}
+
 static void broken_rows_end_every_call(void) {
   static const char* const texts[] = {"0800", "Profil", "2026-11-21"};
   static const int64_t numbers[] = {1, 2, 3};
@@ -534,6 +610,7 @@ void test_columns_values(void) {
   columns_are_converted_back();
   rows_are_texts_of_their_own();
   texts_that_fit_no_width_end_the_call();
+  many_rows_are_converted();
   broken_rows_end_every_call();
   numbers_and_texts_are_not_taken_for_each_other();
   parameters_are_refused();

@@ -135,6 +135,15 @@ std::u16string SomeText(std::mt19937& random) {
   return text;
 }
 
+TEST(Encodings, KnowTheCharacterOfEveryByte) {
+  for (const Encoding& row : Encodings()) {
+    ASSERT_EQ(row.table != nullptr, row.engine == "SingleByte") << row.name;
+    for (unsigned byte = 0; row.table != nullptr && row.decode_one != nullptr && byte < 256; ++byte)
+      ASSERT_EQ(Decoded(row, std::string(1, static_cast<char>(byte))), std::u16string(1, (*row.table)[byte]))
+          << row.name << byte;
+  }
+}
+
 TEST(Encodings, KnowWhetherEveryByteIsACharacter) {
   std::size_t whole = 0;
   for (const Encoding& row : Encodings()) {

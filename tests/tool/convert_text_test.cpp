@@ -3,10 +3,12 @@
 #include "text_divisions.h"
 #include <ravo/codec/kernels/kernel_set.h>
 #include <ravo/codec/texts.h>
+#include <ravo/convert/byte_conversions.h>
 #include <ravo/convert/text_converter.h>
 
 #include <random>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -152,6 +154,37 @@ TEST(TextConverter, ConvertsCzechAtOnce) {
       const test::Outcome outcome = AtOnce(conversion, BytesOf(codec::Encoded(*conversion.from, text)));
       EXPECT_EQ(outcome.fault, "") << from << to;
       EXPECT_EQ(outcome.bytes, "before" + codec::Encoded(*conversion.to, text)) << from << to;
+    }
+  }
+}
+
+// The bytes of the long way; nothing for each text that the long way refuses.
+void ExpectByByte(const Conversion& conversion, const ravo::convert::ByteConversions& by_byte,
+                  const std::string& bytes) {
+  const test::Outcome whole = test::InPieces(conversion, BytesOf(bytes), bytes.size() + 1);
+  std::vector<std::uint8_t> room(bytes.size() * by_byte.kMostBytes);
+  const auto size = by_byte.Convert(BytesOf(bytes), room);
+  ASSERT_EQ(size.has_value(), whole.fault.empty()) << testing::PrintToString(bytes);
+  if (!size) return;
+  ASSERT_EQ(std::string(room.begin(), room.begin() + static_cast<std::ptrdiff_t>(*size)), whole.bytes);
+}
+
+TEST(ByteConversions, AreThoseOfTheTextConverter) {
+  std::mt19937 random(31);
+  for (const codec::Encoding& from : codec::Encodings()) {
+    if (from.table == nullptr || from.decode_one == nullptr) continue;
+    for (const char* const to : {"UTF_8", "Windows_1250", "CP_852", "UTF_16_LE", "UCS_4_BE", "US_ASCII"}) {
+      Conversion conversion;
+      conversion.from = &from;
+      conversion.to = codec::FindEncoding(to);
+      const ravo::convert::ByteConversions by_byte(from, *conversion.to);
+      ASSERT_NO_FATAL_FAILURE(ExpectByByte(conversion, by_byte, "")) << from.name << to;
+      for (int byte = 0; byte < 256; ++byte)
+        ASSERT_NO_FATAL_FAILURE(ExpectByByte(conversion, by_byte, std::string(1, static_cast<char>(byte))))
+            << from.name << to;
+      for (int round = 0; round < ravo::test::Rounds(20); ++round)
+        ASSERT_NO_FATAL_FAILURE(ExpectByByte(conversion, by_byte, RandomBytes(random, from)))
+            << from.name << to;
     }
   }
 }

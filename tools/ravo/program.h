@@ -7,8 +7,8 @@
 // the help.
 //
 // Start here, then read program.cpp and one command, such as round_command.cpp. A command never exits by
-// itself: it returns its result in an `Outcome`, which `RunAndWrite` writes. What people read goes through text.h,
-// which translates it; errors through `Complain`; listings through columns.h.
+// itself: it returns its result in an `Outcome`, which `RunAndWrite` writes. What people read goes through
+// text.h, which translates it; errors through `Complain`; listings through columns.h.
 #pragma once
 
 #include "outcome.h"
