@@ -53,16 +53,19 @@ class Session:
     def __init__(self, command, folder):
         self.place = pathlib.Path(tempfile.mkdtemp(dir=folder.parent))
         self.folder = folder
+        self.nothing = "NUL" if len(command) > 1 else "/dev/null"
         with open(self.place / "answers", "wb") as answers, open(self.place / "complaints", "wb") as complaints:
             self.child = subprocess.Popen(command, cwd=folder, stdin=subprocess.PIPE, stdout=answers, stderr=complaints)
+        assert self.child.stdin
+        self.requests = self.child.stdin
         self.answers = open(self.place / "answers", encoding="ascii")
 
     def run(self, arguments, given, language):
-        files = {"in": str(given) if given else "/dev/null" if len(self.child.args) == 1 else "NUL"}
+        files = {"in": str(given or self.nothing)}
         for name in ("out", "err"):
             files[name] = os.path.relpath(self.place / name, self.folder)
-        self.child.stdin.write(json.dumps({"arguments": arguments, "language": language, **files}).encode() + b"\n")
-        self.child.stdin.flush()
+        self.requests.write(json.dumps({"arguments": arguments, "language": language, **files}).encode() + b"\n")
+        self.requests.flush()
         status = self.answer(arguments)
         return Result(status, *((self.place / name).read_bytes().decode("utf-8") for name in ("out", "err")))
 
@@ -79,7 +82,7 @@ class Session:
         return int(line)
 
     def close(self):
-        self.child.stdin.close()
+        self.requests.close()
         self.child.wait(timeout=60)
         self.answers.close()
         shutil.rmtree(self.place)
@@ -92,7 +95,8 @@ class Program:
         self.command, self.folder, self.session = command, folder, session
         self.emulated = len(command) > 1
         self.slow = self.emulated or "RAVO_SLOW" in os.environ
-        self.sessions, self.idle = [], queue.SimpleQueue()
+        self.sessions: list[Session] = []
+        self.idle: queue.SimpleQueue[Session] = queue.SimpleQueue()
 
     def run(self, arguments, out=None, given=None, language="en"):
         """`given` is the name of a file that is standard input."""

@@ -154,6 +154,7 @@ def test_numbers_are_asked_for_by_name(call: Callable[[], object], words: str) -
 
 
 def test_amounts_are_refused_with_what_they_may_be() -> None:
-    for amount in ("abc", Decimal("1e30"), "922337203685477.5808"):
+    amounts: list[str | Decimal] = ["abc", Decimal("1e30"), "922337203685477.5808"]
+    for amount in amounts:
         with pytest.raises(ravo.Error, match="no amount, or does not fit 64 bits"):
             ravo.round_money(amount)
