@@ -46,12 +46,13 @@ def check_answers_in_json(program):
 
 def check_memory_of_answers(program):
     """The number of values on standard input costs no memory."""
-    if program.emulated or not hasattr(os, "wait4"):
+    # Sanitizers keep what is freed for a while.
+    if program.slow or not hasattr(os, "wait4"):
         return
     for command, values, status in ANSWERING:
         (program.folder / "values").write_text("".join(f"{value}\n" for value in values) * 50000, encoding="utf-8")
         for in_json in (False, True):
             got, memory = peak_memory([*program.command, *command, *["--json"] * in_json], program.folder, "values")
-            # The answers take up to 25 MB of text. Sanitizers keep what is freed for a while.
-            if got != status or memory > (80_000_000 if program.slow else 25_000_000):
+            # The answers take up to 25 MB of text.
+            if got != status or memory > 25_000_000:
                 yield f"{command}, JSON {in_json}, of 100000 values: status {got}, {memory} bytes of memory"
