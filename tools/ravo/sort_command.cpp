@@ -2,6 +2,7 @@
 #include "console.h"
 #include "line_sort.h"
 #include "output_file.h"
+#include "program_values.h"
 #include "sort_input.h"
 #include "text.h"
 #include <ravo/DIUtils.h>

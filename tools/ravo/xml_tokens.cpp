@@ -2,6 +2,7 @@
 #include "json_text.h"
 #include "printable.h"
 #include "xml_work.h"
+#include <ravo/DIUnicode.h>
 #include <ravo/ECXMLTokenizer.h>
 #include <ravo/RavoInterface.h>
 #include <ravo/document/suite.h>
