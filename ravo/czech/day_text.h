@@ -19,8 +19,8 @@ enum class DateForm : std::uint8_t {
 /// Returns a day as text. Precondition: it is in the years 1 to 9999.
 [[nodiscard]] FixedText<12> DateText(Day day, DateForm form) noexcept;
 
-/// Removes a date from the front of a UTF-8 text and returns it; nothing if there is none, and the text is as
-/// it was.
+/// Removes a date from the front of a UTF-8 text and returns it; nothing without one, and the text is as it
+/// was.
 ///
 /// Takes each form of `DateForm`: months and days of one or two digits, in the Czech form with or without
 /// blanks. Whether there is such a date is `Exists`'s answer.

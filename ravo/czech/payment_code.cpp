@@ -231,7 +231,7 @@ WrittenPaymentCode Write(PaymentCodeKind kind, std::span<const PaymentCodeField>
   for (std::size_t i = 0; i < fields.size(); ++i) {
     const ValueFault fault = CheckField(kind, fields.first(i), fields[i]);
     if (fault.code != Code::Correct) return Refusal(fault.code, i, fault.position);
-    // The writer computes it, and of a value that is given nobody could say whether it is right.
+    // The writer computes it: a given one could be wrong.
     if (fields[i].key == kChecksumKey) return Refusal(Code::PaymentCodeKey, i, 0);
     for (const std::string_view piece : {std::string_view("*"), fields[i].key, std::string_view(":")})
       appender.Append(piece);

@@ -43,13 +43,13 @@ struct PaymentCodeText {
 struct PaymentCode {
   PaymentCodeKind kind = PaymentCodeKind::Payment;
   std::uint16_t count = 0;
-  std::array<PaymentCodeField, kPaymentCodeFields> room{};  ///< values as they stand there, percent-encoded
+  std::array<PaymentCodeField, kPaymentCodeFields> room{};  ///< percent-encoded values
 
   /// The attributes in the order of the text.
   [[nodiscard]] constexpr std::span<const PaymentCodeField> Fields() const noexcept {
     return std::span(room).first(count);
   }
-  /// The percent-encoded value of a key, empty if there is none.
+  /// Returns the percent-encoded value of a key, empty for a key that the code lacks.
   [[nodiscard]] std::string_view Value(std::string_view key) const noexcept;
 };
 
@@ -60,7 +60,7 @@ struct WrittenPaymentCode {
   std::size_t field = 0;     ///< the index of the field at fault; the number of fields if one is missing
   std::size_t position = 0;  ///< in bytes of its value
 
-  /// Whether there is a text.
+  /// Returns whether the text was written.
   [[nodiscard]] constexpr explicit operator bool() const noexcept { return code == Code::Correct; }
 };
 

@@ -158,7 +158,7 @@ ContentModel::Answer ContentModel::Unknown(std::optional<std::uint16_t> name) {
   return answer;
 }
 
-// Whether what a step needs came before its place, or an unknown child stands in for it.
+// True if the element that a step needs came before its place, or an unknown child took it.
 bool ContentModel::Excused(const Names& step) {
   for (const std::uint16_t element : step) {
     if (TakeOut(early_, element)) return true;

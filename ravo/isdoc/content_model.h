@@ -15,14 +15,14 @@ namespace ravo::isdoc::schema {
 /// The children of one element, held to the content model of its type one after another.
 ///
 /// After a fault it goes on where the next children fit, so that one slip is told once: an unknown child
-/// stands in for the one that is missing at its place, and of two children that changed places one is told.
+/// counts as the one that is missing at its place, and of two children that changed places one is told.
 class ContentModel {
  public:
   /// What became of a child.
   struct Answer {
     const ElementRow* element = nullptr;  ///< what the child is; null if it should not be looked into
     std::optional<Rule> fault;            ///< why it should not be there
-    std::string expected;                 ///< the names that could stand at its place
+    std::string expected;                 ///< the names that are allowed at its place
     std::vector<std::string> missing;     ///< what should have been before it; alternatives with commas
   };
 

@@ -74,14 +74,14 @@ class Document {
     return static_cast<std::uint32_t>(&element - elements_.data());
   }
 
-  /// The element's first child or next sibling; null if there is none.
+  /// Return the first child, the next sibling and the parent of an element, or null.
   [[nodiscard]] const Element* FirstChild(const Element& element) const noexcept {
     return At(element.first_child);
   }
   [[nodiscard]] const Element* Next(const Element& element) const noexcept { return At(element.next); }
   [[nodiscard]] const Element* Parent(const Element& element) const noexcept { return At(element.parent); }
 
-  /// The first child of that name, in whatever namespace; null if there is none.
+  /// Returns the first child of that name, in whatever namespace, or null.
   [[nodiscard]] const Element* Child(const Element& element, std::string_view name) const noexcept;
 
   [[nodiscard]] std::span<const Attribute> Attributes(const Element& element) const noexcept {

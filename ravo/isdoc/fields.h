@@ -10,7 +10,7 @@
 /// Texts are views of the document, without white space at their ends; what the document lacks is empty.
 namespace ravo::isdoc {
 
-/// Returns the element at a path of names below `element`; null if there is none or `element` is null.
+/// Returns the element at a path of names below `element`; null without one, and if `element` is null.
 [[nodiscard]] const Element* ElementAt(const Document& document, const Element* element,
                                        std::initializer_list<std::string_view> path) noexcept;
 

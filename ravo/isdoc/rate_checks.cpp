@@ -5,7 +5,7 @@
 #include <string>
 
 // Rates of VAT: in force on the day of the tax point, the same on lines and in the recapitulation, and no tax
-// where there is none.
+// on lines that are not taxed.
 namespace ravo::isdoc::detail {
 namespace {
 
@@ -64,7 +64,7 @@ void CheckRow(const Invoice& invoice, const Line& line) {
                    RatesOfRows(invoice));
 }
 
-// Where the customer owes the tax, or nobody does, there is none on the document.
+// A document has no tax if the customer owes it, or no one.
 void CheckUntaxed(const Invoice& invoice, const Subtotal& subtotal) {
   if (!subtotal.reverse && subtotal.is_taxed && !subtotal.percent.IsZero()) return;
   for (const std::string_view name : {kTax.local, kTax.foreign})

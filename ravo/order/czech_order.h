@@ -1,4 +1,4 @@
-// The room ravo/order: in which order texts stand in lists that people read.
+// The room ravo/order: the order of texts in lists that people read.
 //
 // Start with `CompareCzech`, the Czech alphabetical order of two texts. `CzechKeys` makes sort keys of the
 // same order, for many texts. number_keys.h compares numbers by value, within texts and as amounts.

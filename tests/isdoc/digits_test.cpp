@@ -100,7 +100,7 @@ bool MayBeNote(std::string_view path, const Amount& before, const Amount& after)
   return is_price || (after - before).Absolute() <= Amount(5, 3);
 }
 
-// The place of a text in the document; one that stands there twice is told from the other by its element.
+// The place of a text in the document; its element tells equal texts apart.
 struct Piece {
   std::string path;
   std::size_t at = 0;

@@ -215,7 +215,7 @@ TEST(Structure, TellsWhatDoesNotBelong) {
       {"<LastValidDateUnbounded/>",
        "<LastValidDateUnbounded><b/></LastValidDateUnbounded>",
        {{"<b", "structure.element b b > "}}},
-      // An element between that stands in for nothing.
+      // An element between that replaces none.
       {"<ID>1</ID>\n<UUID>",
        "<X/><X/>\n<UUID>",
        {{"<X",

@@ -165,7 +165,7 @@ ROWS = [
     Row(["report", "-o", "chybí/x"], WRONG_USAGE, err=("chybí/x: cannot be written: its folder does not exist\n",), czech=("složka neexistuje",)),
     Row(["check", "--csv", ".", "--column", "VS=vs"], WRONG_USAGE, err=(".: cannot be read: it is a folder\n",)),
     Row(["convert", "-t", "utf-8", "chybí"], WRONG_USAGE, err=("cannot be read: there is no such file\n",)),
-    # The parser's own words reach nobody.
+    # The parser's own words are not shown.
     Row(["check", "--csv", SAMPLE, "--column", "VS=vs", "--limit", "-1"], WRONG_USAGE, exact="",
         err=("ravo check: --limit: '-1' is not a whole number of at least 0\n",), czech=("--limit: '-1' není celé číslo od 0 výše\n",)),
     Row(["check", "--csv", SAMPLE, "--column", "VS=vs", "--threads", "x"], WRONG_USAGE, err=("--threads: 'x' is not a whole number of at least 0\n",)),

@@ -145,7 +145,7 @@ bool HasUnit(const Notation& notation) {
 }
 
 // Amounts of money have two decimals, so three digits look like a group of thousands. A comma before crowns
-// is a decimal one all the same: nobody who writes crowns separates thousands by it.
+// is a decimal one all the same: in crowns it does not separate thousands.
 bool IsAmbiguous(const AmountPieces& pieces, const Notation& notation) {
   if (pieces.separators.size() != 1 || !IsDecimalPoint(pieces.separators.front())) return false;
   const std::string_view whole = pieces.digits[0];

@@ -10,7 +10,7 @@
 /// outcome.
 namespace tool {
 
-/// Adds the one with the name `only` to the program; if there is none, all of them, by theme. The
+/// Adds the command with the name `only` to the program, or all of them, by theme, if no command has it. The
 /// descriptions of all take longer than the work of most command lines.
 void Describe(CLI::App& program, Outcome& outcome, std::string_view only = {});
 

@@ -15,7 +15,7 @@ namespace {
 
 namespace czech = ravo::czech;
 
-// The day, or why there is none.
+// Returns the day, or why the text is not one.
 std::variant<czech::Day, std::string> ReadDay(std::string_view text) {
   const auto read = ReadDate(text, czech::PartsOf(Today()));
   if (const auto* const fault = std::get_if<DateFault>(&read)) return fault->message;

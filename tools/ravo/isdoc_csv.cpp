@@ -76,7 +76,7 @@ CsvCells RateCells(const isdoc::RateFields& row) {
   return cells;
 }
 
-// A cell with a delimiter, a quote or a line end stands in quotes; what looks like a formula stays as it is.
+// A cell with a delimiter, a quote or a line end gets quotes; what looks like a formula stays as it is.
 std::string CsvCell(const std::string& cell) {
   if (cell.find_first_of(";\"\r\n") == std::string::npos) return cell;
   std::string quoted = "\"";

@@ -23,7 +23,7 @@ struct ContainerPart {
   std::string bytes;
 };
 
-/// How much may be unpacked: so much in all, and of each part no more than the ratio allows.
+/// Limits what is unpacked: a size in all, and for each part a ratio to its packed size.
 class UnpackBudget {
  public:
   /// No more than this many bytes for one compressed byte; a mebibyte is always permitted.

@@ -171,7 +171,7 @@ class Pdf {
   }
 
   // Objects inside streams, in the order of the file; later streams replace earlier objects, but not those
-  // that stand in the file after the stream.
+  // that follow the stream in the file.
   void OpenObjectStreams() {
     for (const std::size_t at : streams_in_file_) {
       const auto stream = StreamAt({bytes_, at, true});

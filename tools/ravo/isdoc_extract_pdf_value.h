@@ -26,12 +26,12 @@ struct PdfValue {
   [[nodiscard]] const PdfValue* Find(std::string_view key) const;
 };
 
-/// Reads values one after the other.
+/// Reads the values of a PDF in order.
 class PdfReader {
  public:
   PdfReader(std::string_view bytes, std::size_t at) : bytes_(bytes), at_(at) {}
 
-  /// Returns the next value; nothing if there is none, or one that is nested too deep or too long.
+  /// Returns the next value; nothing at the end, and for a value that is nested too deep or too long.
   [[nodiscard]] std::optional<PdfValue> Next() { return Value(0); }
   /// Returns whether the word is next, and moves past it.
   bool Take(std::string_view word);

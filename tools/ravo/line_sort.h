@@ -16,7 +16,7 @@ struct LineOrder {
   CzechOrder czech;
   /// Compare the numbers with which the keys begin.
   bool numeric = false;
-  /// Which fields are compared, one after the other, from 1; empty for the whole line.
+  /// The numbers, from 1, of the fields to compare, in this order; empty for the whole line.
   std::vector<std::size_t> fields;
   /// Between fields; empty: runs of blanks and tabs.
   std::string delimiter;

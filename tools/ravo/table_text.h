@@ -19,7 +19,7 @@ namespace tool {
 /// The bytes of one encoding as text.
 class TableText {
  public:
-  /// Whether tables can be in this encoding: UTF-8, or an encoding of one byte a character that contains
+  /// Returns whether tables can be in this encoding: UTF-8, or one of one byte a character that contains
   /// ASCII.
   [[nodiscard]] static bool CanRead(const ravo::DIUnicode::EncodingRow& encoding);
 

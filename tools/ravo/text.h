@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-/// The program's texts for people. The English text stands in the source and is the key of its translation
+/// The program's texts for people. The English text in the source is the key of its translation
 /// in po/cs.po; tools/generate/texts.py collects the keys and compiles the translations in. "{0}" to "{9}"
 /// stand for values. Nothing that a script reads (JSON keys, codes, kinds) goes through here.
 namespace tool {
