@@ -48,7 +48,6 @@ Written AllWritten(const codec::Encoding& row) {
 
 bool AppendGb18030(const codec::Encoding& row, char32_t c, std::string& to) {
   constexpr std::uint32_t kBeyond = (0x90 - 0x81) * 12600;
-  static const Written written = AllWritten(row);
   if (c >= 0x10000) {
     AppendNumber(c - 0x10000 + kBeyond, to);
     return true;
@@ -57,6 +56,7 @@ bool AppendGb18030(const codec::Encoding& row, char32_t c, std::string& to) {
     to += static_cast<char>(c);
     return true;
   }
+  static const Written written = AllWritten(row);
   const auto found = written.find(c);
   if (found == written.end()) return false;
   to += found->second;

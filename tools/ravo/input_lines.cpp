@@ -1,10 +1,8 @@
 #include "input_lines.h"
 
 #include "console.h"
-#include "text.h"
 
 #include <span>
-#include <stdexcept>
 #include <string_view>
 
 namespace tool {
@@ -13,11 +11,7 @@ namespace {
 using Take = std::function<void(const std::string&)>;
 
 std::string_view NextPiece(std::span<char> room) {
-  try {
-    return {room.data(), ReadInput(std::as_writable_bytes(room))};
-  } catch (const std::runtime_error&) {
-    throw std::runtime_error(Text("standard input cannot be read"));
-  }
+  return {room.data(), ReadInput(std::as_writable_bytes(room))};
 }
 
 void TakeLine(std::string& line, const Take& take) {

@@ -46,8 +46,8 @@ using Lines = std::vector<std::string_view>;
 using SuiteOrder = std::ptrdiff_t (*)(std::u16string_view, std::u16string_view) noexcept;
 [[nodiscard]] Lines SortedAsInTheSuite(const Lines& lines, SuiteOrder before, bool reverse, bool unique);
 
-/// Returns the number of the first line, from 1, that the suite would put before the one above it; 0 if there
-/// is none.
+/// Returns the number of the first line, from 1, that the suite would put before the one above it; 0 if the
+/// order is the suite's.
 [[nodiscard]] std::size_t FirstUnlikeTheSuite(const Lines& lines, SuiteOrder before, bool reverse);
 
 }  // namespace tool

@@ -6,11 +6,14 @@
 /* The Julian Day Number of the day before 1 January of the year 1, which is Python's day 0. */
 enum { DAY_ZERO = 1721425 };
 
-void ExpectedType(const char* wanted, PyObject* object) {
+/* `place` says what the object is for, and ends with ": " or is empty. */
+static void ExpectedTypeFor(const char* place, const char* wanted, PyObject* object) {
   PyObject* name = PyType_GetName(Py_TYPE(object));
-  if (name != NULL) PyErr_Format(PyExc_TypeError, "expected %s, not %U", wanted, name);
+  if (name != NULL) PyErr_Format(PyExc_TypeError, "%sexpected %s, not %U", place, wanted, name);
   Py_XDECREF(name);
 }
+
+void ExpectedType(const char* wanted, PyObject* object) { ExpectedTypeFor("", wanted, object); }
 
 int TakeCount(const char* name, Py_ssize_t count, Py_ssize_t wanted) {
   if (count == wanted) return 1;
@@ -130,9 +133,9 @@ int TakeDouble(PyObject* object, double* number) {
 }
 
 static void ExpectedNumber(const char* name, PyObject* object) {
-  PyObject* type = PyType_GetName(Py_TYPE(object));
-  if (type != NULL) PyErr_Format(PyExc_TypeError, "%s: expected int, not %U", name, type);
-  Py_XDECREF(type);
+  char place[64];
+  PyOS_snprintf(place, sizeof place, "%s: ", name);
+  ExpectedTypeFor(place, "int", object);
 }
 
 int TakeNumber(PyObject* object, const char* name, long long low, long long high, long long* number) {
